@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "basis/line_file.h"
+
+#include <algorithm>
+
+#include "basis/file_system.h"
+#include "basis/number_text.h"
+#include "basis/run_time_error.h"
+#include "basis/text_encoding.h"
+
+namespace varnholt {
+namespace {
+
+std::vector<std::string_view> splitLines(std::string_view text) {
+    std::vector<std::string_view> lines;
+    std::size_t start = 0;
+    while (start < text.size()) {
+        const std::size_t end = std::min(text.find_first_of("\r\n", start), text.size());
+        lines.push_back(text.substr(start, end - start));
+        const bool pair = text.substr(end, 2) == "\r\n";
+        start = end + (pair ? 2 : 1);
+    }
+    return lines;
+}
+
+}  // namespace
+
+LineFileReader::LineFileReader(std::string_view bytes)
+    : bytes_(decodeText(bytes)), lines_(splitLines(bytes_)) {}
+
+LineFileReader LineFileReader::open(const std::string& path) {
+    return LineFileReader(readWholeFile(path));
+}
+
+void LineFileReader::title(std::string_view) {
+    const std::string text = line();
+    version_ = text.size() < 3 ? 0 : leadingNumber(std::string_view(text).substr(text.size() - 3));
+}
+
+void LineFileReader::number(double& value) { value = leadingNumber(line()); }
+
+void LineFileReader::integer(std::int16_t& value) { value = toInteger(leadingNumber(line())); }
+
+void LineFileReader::date(Date& value) { value = readDate(line()).value_or(Date{}); }
+
+std::size_t LineFileReader::count(std::size_t, std::size_t linesEach) {
+    const double stated = leadingNumber(line());
+    const std::size_t fits = linesLeft() / std::max<std::size_t>(linesEach, 1) + 1;
+    if (!(stated >= 1)) return 0;
+    return stated >= static_cast<double>(fits) ? fits : static_cast<std::size_t>(stated);
+}
+
+std::string LineFileReader::line() {
+    if (next_ >= lines_.size()) throw RunTimeError(62);
+    return std::string(lines_[next_++]);
+}
+
+void LineFileWriter::title(std::string_view prefix) {
+    text_ += prefix;
+    fixed(fileVersion);
+}
+
+void LineFileWriter::text(const std::string& value) {
+    const std::size_t start = text_.size();
+    fixed(value);
+    for (std::size_t i = start; i + 2 < text_.size(); ++i)
+        if (text_[i] == '\r' || text_[i] == '\n') text_[i] = ' ';
+}
+
+void LineFileWriter::number(double value) { fixed(shortestText(value)); }
+
+void LineFileWriter::integer(std::int16_t value) { fixed(std::to_string(value)); }
+
+void LineFileWriter::date(const Date& value) { fixed("#" + isoText(value) + "#"); }
+
+std::size_t LineFileWriter::count(std::size_t written, std::size_t) {
+    fixed(std::to_string(written));
+    return written;
+}
+
+}  // namespace varnholt

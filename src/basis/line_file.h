@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "basis/date.h"
+
+namespace varnholt {
+
+/// The program's own version, as files carry it: "3.0".
+inline constexpr std::string_view fileVersion = "3.0";
+
+/// Reads a line-oriented text file item by item. LineFileReader and LineFileWriter have the same
+/// members, so that one function template describes a file in both directions.
+///
+/// A line past the end is RunTimeError 62; a whole number beyond 16 bits is RunTimeError 6.
+class LineFileReader {
+ public:
+    static constexpr bool reading = true;
+
+    /// Takes the file's bytes; see decodeText for encodings. CR LF, LF and CR end a line.
+    explicit LineFileReader(std::string_view bytes);
+    LineFileReader(const LineFileReader&) = delete;
+    LineFileReader& operator=(const LineFileReader&) = delete;
+    /// Opens and reads a file; throws as readWholeFile.
+    static LineFileReader open(const std::string& path);
+
+    /// A title line that ends in the version, read from its last three characters. A shorter
+    /// line, or one that ends in other text, is version 0.
+    void title(std::string_view prefix);
+    /// Whether the file holds what came with this version.
+    bool since(double version) const { return version_ >= version; }
+    double version() const { return version_; }
+
+    void text(std::string& value) { value = line(); }
+    void number(double& value);
+    void integer(std::int16_t& value);
+    void date(Date& value);
+    /// A line with no meaning to the reader.
+    void fixed(std::string_view) { line(); }
+
+    /// A count of items that take at least `linesEach` lines each: bounded by what the file can
+    /// hold, so that a false count cannot exhaust the memory. A negative count is 0; a count that
+    /// the file does not hold is kept at what fits, plus one so that reading meets the end of the
+    /// file and tells it.
+    std::size_t count(std::size_t written, std::size_t linesEach);
+
+    std::string line();
+    std::size_t linesLeft() const { return lines_.size() - next_; }
+
+ private:
+    std::string bytes_;
+    std::vector<std::string_view> lines_;
+    std::size_t next_ = 0;
+    double version_ = 0;
+};
+
+/// Composes a line-oriented text file in memory.
+class LineFileWriter {
+ public:
+    static constexpr bool reading = false;
+
+    void title(std::string_view prefix);
+    bool since(double) const { return true; }
+
+    /// Line ends inside a text become blanks, so that a text is one line always.
+    void text(const std::string& value);
+    void number(double value);
+    void integer(std::int16_t value);
+    void date(const Date& value);
+    void fixed(std::string_view text) { text_ += text, text_ += "\r\n"; }
+    std::size_t count(std::size_t written, std::size_t linesEach);
+
+    const std::string& bytes() const { return text_; }
+
+ private:
+    std::string text_;
+};
+
+}  // namespace varnholt
