@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/form.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+namespace varnholt {
+
+/// Hands the controls' changes on to whoever shows the form.
+class Form::Relay : public ControlObserver {
+ public:
+    explicit Relay(Form& form) : form_(form) {}
+    void propertyChanged(Control& control, Property property) override {
+        for (FormObserver* observer : form_.observers_)
+            observer->propertyChanged(control, property);
+    }
+
+ private:
+    Form& form_;
+};
+
+/// One action of the user, from its entry to the end of its last handler.
+class Form::Settling {
+ public:
+    explicit Settling(Form& form) : form_(form) { ++form_.depth_; }
+    Settling(const Settling&) = delete;
+    Settling& operator=(const Settling&) = delete;
+    ~Settling() {
+        if (--form_.depth_ > 0) return;
+        // A copy, since an observer may go away while it is told.
+        const std::vector<FormObserver*> observers = form_.observers_;
+        for (FormObserver* observer : observers) observer->settled(form_);
+    }
+
+ private:
+    Form& form_;
+};
+
+Form::Form(std::string formName, Platform& platform, const Texts& texts)
+    : formName_(std::move(formName)),
+      platform_(platform),
+      texts_(texts),
+      relay_(std::make_unique<Relay>(*this)) {}
+
+Form::~Form() = default;
+
+void Form::setCaption(std::string caption) {
+    if (caption_ == caption) return;
+    caption_ = std::move(caption);
+    for (FormObserver* observer : observers_) observer->captionChanged(*this);
+}
+
+Control& Form::control(const std::string& name) {
+    const auto found = byName_.find(name);
+    if (found == byName_.end()) throw std::out_of_range(formName_ + " has no control " + name);
+    return *found->second;
+}
+
+const Control& Form::control(const std::string& name) const {
+    return const_cast<Form*>(this)->control(name);
+}
+
+Control& Form::element(const std::string& name, int index) {
+    return control(name + "(" + std::to_string(index) + ")");
+}
+
+bool Form::isShown(const Control& control) const {
+    if (!control.visible()) return false;
+    return control.container().empty() || isShown(this->control(control.container()));
+}
+
+Form::Handlers& Form::handlersOf(const std::string& control) {
+    this->control(control);
+    return handlers_[control];
+}
+
+void Form::raise(const Handler& handler) const {
+    if (handler) handler();
+}
+
+void Form::type(const std::string& name, const std::string& text) {
+    const Settling settling(*this);
+    control(name).setText(text);
+    if (fields_.has(name)) fields_.textChanged(name);
+    raise(handlersOf(name).change);
+}
+
+void Form::leave(const std::string& name) {
+    const Settling settling(*this);
+    if (fields_.has(name)) fields_.left(name);
+    raise(handlersOf(name).leave);
+}
+
+void Form::key(const std::string& name, const std::string& key) {
+    const Settling settling(*this);
+    const Control& target = control(name);
+    const bool typeable = target.kind() == ControlKind::text ||
+                          target.kind() == ControlKind::richText || target.editable();
+    if (const KeyHandler& handler = handlersOf(name).key)
+        handler(key);
+    else if (key == "Ctrl+V" && typeable)
+        type(name, platform_.clipboard());
+}
+
+void Form::click(const std::string& name) {
+    const Settling settling(*this);
+    Control& target = control(name);
+    if (target.kind() == ControlKind::check) target.setChecked(!target.checked());
+    if (target.kind() == ControlKind::option) {
+        if (target.checked()) return;
+        chooseOption(target);
+    }
+    raise(handlersOf(name).click);
+}
+
+void Form::chooseOption(Control& target) {
+    for (const auto& other : controls_)
+        if (other->kind() == ControlKind::option && other->group() == target.group())
+            other->setChecked(other.get() == &target);
+}
+
+void Form::choose(const std::string& name, int index) {
+    const Settling settling(*this);
+    control(name).setIndex(index);
+    raise(handlersOf(name).click);
+}
+
+void Form::select(const std::string& name, std::vector<int> rows) {
+    const Settling settling(*this);
+    std::sort(rows.begin(), rows.end());
+    control(name).setSelected(std::move(rows));
+    raise(handlersOf(name).click);
+}
+
+void Form::slide(const std::string& name, double value) {
+    const Settling settling(*this);
+    Control& target = control(name);
+    const double within = std::max(target.min(), std::min(target.max(), value));
+    if (within == target.value()) return;
+    target.setValue(within);
+    raise(handlersOf(name).slide);
+}
+
+void Form::pickDate(const std::string& name, const Date& date) {
+    const Settling settling(*this);
+    control(name).setDate(date);
+    raise(handlersOf(name).click);
+}
+
+void Form::addObserver(FormObserver* observer) { observers_.push_back(observer); }
+
+void Form::removeObserver(FormObserver* observer) {
+    observers_.erase(std::remove(observers_.begin(), observers_.end(), observer), observers_.end());
+}
+
+Control& Form::add(const std::string& name, ControlKind kind) {
+    if (has(name)) throw std::logic_error(formName_ + " has two controls " + name);
+    controls_.push_back(std::make_unique<Control>(name, kind));
+    Control& added = *controls_.back();
+    added.setObserver(relay_.get());
+    byName_.emplace(name, &added);
+    return added;
+}
+
+Control& Form::add(const std::string& name, ControlKind kind, int captionText) {
+    return add(name, kind).setCaption(text(captionText));
+}
+
+void Form::onChange(const std::string& control, Handler handler) {
+    handlersOf(control).change = std::move(handler);
+}
+void Form::onLeave(const std::string& control, Handler handler) {
+    handlersOf(control).leave = std::move(handler);
+}
+void Form::onKey(const std::string& control, KeyHandler handler) {
+    handlersOf(control).key = std::move(handler);
+}
+void Form::onClick(const std::string& control, Handler handler) {
+    handlersOf(control).click = std::move(handler);
+}
+void Form::onSlide(const std::string& control, Handler handler) {
+    handlersOf(control).slide = std::move(handler);
+}
+
+void Form::show(MessageIcon icon, const std::string& message) {
+    platform_.message(icon, text(1001), message);
+}
+
+}  // namespace varnholt

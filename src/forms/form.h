@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/control.h"
+#include "forms/numeric_field.h"
+#include "forms/platform.h"
+#include "forms/texts.h"
+#include "forms/values.h"
+
+namespace varnholt {
+
+/// Whoever shows a form.
+class FormObserver : public ControlObserver {
+ public:
+    virtual void captionChanged(Form& form) = 0;
+    /// Something the user did has been handled to its end: pictures drawn from the model are due.
+    virtual void settled(Form& form) = 0;
+};
+
+/// One window, known without a toolkit: its named controls, the handlers of their events, and the
+/// public values that scripts, reports and files read.
+///
+/// What a user does enters by the verbs (type, leave, key, click, choose, select, slide,
+/// pickDate), which set the control's state and raise its events. Code that shows a value writes
+/// the property instead and raises nothing.
+class Form {
+ public:
+    /// @param formName the window's own name, "frmBHDesign"
+    Form(std::string formName, Platform& platform, const Texts& texts);
+    virtual ~Form();
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    const std::string& formName() const { return formName_; }
+    const std::string& caption() const { return caption_; }
+    void setCaption(std::string caption);
+
+    bool has(const std::string& control) const { return byName_.count(control) > 0; }
+    /// Throws std::out_of_range with the name when the form has no such control.
+    Control& control(const std::string& name);
+    const Control& control(const std::string& name) const;
+    /// Element of a control array: element("CATopLabel", 0) is "CATopLabel(0)".
+    Control& element(const std::string& name, int index);
+    /// In the order in which they were added, which is the reading order of the window.
+    const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
+    /// Whether the control and every frame around it are visible.
+    bool isShown(const Control& control) const;
+
+    // What the user does.
+    void type(const std::string& control, const std::string& text);
+    void leave(const std::string& control);
+    void key(const std::string& control, const std::string& key);
+    void click(const std::string& control);
+    void choose(const std::string& control, int index);
+    void select(const std::string& control, std::vector<int> rows);
+    void slide(const std::string& control, double value);
+    void pickDate(const std::string& control, const Date& date);
+
+    const Values& values() const { return values_; }
+    NumericFields& fields() { return fields_; }
+
+    /// The window came to the front.
+    virtual void activated() {}
+    /// The user or the frame wants to close the window. False stops the close.
+    virtual bool queryClose() { return true; }
+    /// The window is being taken away.
+    virtual void unloaded() {}
+
+    /// A modal form asks to be taken away: Platform::runModal returns.
+    void endModal() { modalEnded_ = true; }
+    bool modalEnded() const { return modalEnded_; }
+
+    void addObserver(FormObserver* observer);
+    void removeObserver(FormObserver* observer);
+
+    Platform& platform() const { return platform_; }
+    std::string text(int number) const { return texts_.text(number); }
+    const Texts& texts() const { return texts_; }
+
+ protected:
+    using Handler = std::function<void()>;
+    using KeyHandler = std::function<void(const std::string& key)>;
+
+    Control& add(const std::string& name, ControlKind kind);
+    /// Adds a control whose caption is the language's text of that number.
+    Control& add(const std::string& name, ControlKind kind, int captionText);
+
+    // Handlers of one control's events; a later one replaces an earlier one.
+    void onChange(const std::string& control, Handler handler);  ///< text typed
+    void onLeave(const std::string& control, Handler handler);
+    void onKey(const std::string& control, KeyHandler handler);
+    void onClick(const std::string& control, Handler handler);  ///< also choose, select, pickDate
+    void onSlide(const std::string& control, Handler handler);
+
+    Values& publicValues() { return values_; }
+
+    /// A message box under the program's title (text 1001).
+    void show(MessageIcon icon, const std::string& text);
+
+ private:
+    class Settling;
+    class Relay;
+    struct Handlers {
+        Handler change, leave, click, slide;
+        KeyHandler key;
+    };
+
+    Handlers& handlersOf(const std::string& control);
+    void raise(const Handler& handler) const;
+    void chooseOption(Control& control);
+
+    std::string formName_;
+    std::string caption_;
+    Platform& platform_;
+    const Texts& texts_;
+    std::vector<std::unique_ptr<Control>> controls_;
+    std::map<std::string, Control*, std::less<>> byName_;
+    std::map<std::string, Handlers, std::less<>> handlers_;
+    Values values_;
+    NumericFields fields_{*this};
+    std::vector<FormObserver*> observers_;
+    std::unique_ptr<Relay> relay_;
+    int depth_ = 0;
+    bool modalEnded_ = false;
+};
+
+}  // namespace varnholt

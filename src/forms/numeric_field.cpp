@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/numeric_field.h"
+
+#include <cstdint>
+#include <utility>
+
+#include "basis/number_text.h"
+#include "basis/run_time_error.h"
+#include "forms/form.h"
+
+namespace varnholt {
+
+StoredNumber::StoredNumber(double* value)
+    : get_([value] { return *value; }), set_([value](double x) { *value = x; }) {}
+
+StoredNumber::StoredNumber(std::int16_t* value)
+    : get_([value] { return static_cast<double>(*value); }),
+      set_([value](double x) { *value = toInteger(x); }) {}
+
+StoredNumber::StoredNumber(std::function<double()> get, std::function<void(double)> set)
+    : get_(std::move(get)), set_(std::move(set)) {}
+
+void NumericFields::add(NumericFieldRow row) {
+    const std::string name = row.control;
+    if (rows_.insert_or_assign(name, std::move(row)).second) order_.push_back(name);
+}
+
+const NumericFieldRow& NumericFields::row(const std::string& control) const {
+    return rows_.at(control);
+}
+
+void NumericFields::textChanged(const std::string& control) {
+    if (manner_.codeIsWriting && manner_.codeIsWriting()) return;
+    const NumericFieldRow& row = rows_.at(control);
+    try {
+        store(row);
+        const bool refused = applyRange(row);
+        form_.control(control).setRefused(refused);
+        if (row.changed) row.changed();
+        if (manner_.changed) manner_.changed();
+    } catch (const RunTimeError&) {
+        if (manner_.anyErrorStoresZero) row.stored.set(0);
+    }
+}
+
+void NumericFields::store(const NumericFieldRow& row) {
+    const std::optional<double> typed = readLeadingNumber(form_.control(row.control).text());
+    if (!typed && row.unparsable) {
+        row.stored.set(*row.unparsable);
+        return;
+    }
+    row.stored.set(row.quantity->stored(typed.value_or(0), manner_.units()));
+}
+
+/// A value out of range is replaced once something is typed; an empty field waits until it is left.
+bool NumericFields::applyRange(const NumericFieldRow& row) {
+    const double value = row.stored.get();
+    const std::string& text = form_.control(row.control).text();
+    if (text.empty() || (row.unparsable && value == *row.unparsable)) return false;
+    const bool below = value < row.lowest || (row.lowestIsRefused && value == row.lowest);
+    // Written so that a value that is no number is refused too.
+    if (!below && value <= row.highest) return false;
+    row.stored.set(below ? row.ifBelow.value_or(row.fallback) : row.ifAbove.value_or(row.fallback));
+    show(row.control);
+    return true;
+}
+
+void NumericFields::left(const std::string& control) {
+    const NumericFieldRow& row = rows_.at(control);
+    const double value = row.stored.get();
+    const bool temperature = row.quantity == &quantities::temperature;
+    const bool neutral = value == 0 || (temperature && value == 32);
+    const bool empty = form_.control(control).text().empty();
+    const bool unparsable = row.unparsable && value == *row.unparsable;
+    if (unparsable || (neutral && empty)) {
+        row.stored.set(row.whenEmpty.value_or(row.fallback));
+        if (row.changed) row.changed();
+        if (manner_.changed) manner_.changed();
+    }
+    show(control);
+    form_.control(control).setRefused(false);
+    if (row.left) row.left();
+}
+
+void NumericFields::show(const std::string& control) {
+    const NumericFieldRow& row = rows_.at(control);
+    form_.control(control).setText(
+        formatNumber(row.quantity->shown(row.stored.get(), manner_.units()), formatOf(row)));
+}
+
+void NumericFields::showAll(std::string_view prefix) {
+    for (const std::string& name : order_)
+        if (std::string_view(name).substr(0, prefix.size()) == prefix) show(name);
+}
+
+std::string_view NumericFields::formatOf(const NumericFieldRow& row) const {
+    const bool metric = manner_.units() == UnitSystem::metric;
+    return metric && !row.metricFormat.empty() ? row.metricFormat : row.format;
+}
+
+}  // namespace varnholt

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/quantity.h"
+
+namespace varnholt {
+
+class Form;
+
+/// Where a field keeps its value: a double, a 16-bit whole number (rounded half to even, error 6
+/// beyond), or a pair of functions.
+class StoredNumber {
+ public:
+    StoredNumber(double* value);        // NOLINT(google-explicit-constructor)
+    StoredNumber(std::int16_t* value);  // NOLINT(google-explicit-constructor)
+    StoredNumber(std::function<double()> get, std::function<void(double)> set);
+
+    double get() const { return get_(); }
+    void set(double value) const { set_(value); }
+
+ private:
+    std::function<double()> get_;
+    std::function<void(double)> set_;
+};
+
+/// One numeric field of a form, as one row of its table. Limits and fallbacks are in stored
+/// (English) units and hold for the number as stored.
+struct NumericFieldRow {
+    std::string control;
+    StoredNumber stored;
+    const Quantity* quantity = &quantities::plain;
+    double lowest = 0;       ///< below: refused
+    double highest = 1e308;  ///< above: refused
+    double fallback = 0;     ///< what a refused or an empty field returns to
+    std::string_view format = "###0.0";
+    std::string_view metricFormat = {};  ///< when it differs
+
+    // What only some fields need.
+    std::optional<double> ifBelow{};     ///< instead of the fallback, below the lowest
+    std::optional<double> ifAbove{};     ///< instead of the fallback, above the highest
+    bool lowestIsRefused = false;        ///< the lowest value itself is refused
+    std::optional<double> unparsable{};  ///< stored for text that is no number (0 otherwise)
+    std::optional<double> whenEmpty{};   ///< instead of the fallback, for a field left empty
+    std::function<void()> changed{};     ///< after the value is stored, before the form is told
+    std::function<void()> left{};        ///< after the field has been reformatted
+};
+
+/// What the fields of one form have in common.
+struct NumericFieldManner {
+    std::function<bool()> codeIsWriting;  ///< settingUnits: text changes are not the user's
+    std::function<UnitSystem()> units;
+    std::function<void()> changed;  ///< the results are stale, the file is unsaved
+    /// Whether any run-time error in a handler stores 0 (designs), or a type mismatch only.
+    bool anyErrorStoresZero = true;
+};
+
+/// The one field pattern: parse, convert, store, check the range, tell; on leaving: fill, reformat.
+class NumericFields {
+ public:
+    explicit NumericFields(Form& form) : form_(form) {}
+
+    void setManner(NumericFieldManner manner) { manner_ = std::move(manner); }
+    void add(NumericFieldRow row);
+    bool has(const std::string& control) const { return rows_.count(control) > 0; }
+    const NumericFieldRow& row(const std::string& control) const;
+
+    /// The text of the field has just been changed by the user.
+    void textChanged(const std::string& control);
+    /// The focus has just left the field.
+    void left(const std::string& control);
+    /// Writes the stored value as text in the active units.
+    void show(const std::string& control);
+    /// Writes every field whose control's name begins with the prefix.
+    void showAll(std::string_view prefix = {});
+
+ private:
+    void store(const NumericFieldRow& row);
+    bool applyRange(const NumericFieldRow& row);
+    std::string_view formatOf(const NumericFieldRow& row) const;
+
+    Form& form_;
+    NumericFieldManner manner_;
+    std::map<std::string, NumericFieldRow> rows_;
+    std::vector<std::string> order_;
+};
+
+}  // namespace varnholt

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+#include "basis/date.h"
+
+namespace varnholt {
+
+class Form;
+
+enum class MessageIcon { plain, information, exclamation, question, critical };
+enum class Buttons { yesNoCancel, yesNo, okCancel };
+/// The numbers are those that the save questions return.
+enum class Answer { ok = 1, cancel = 2, yes = 6, no = 7 };
+
+/// A file dialog, open or save.
+struct FileDialog {
+    bool saving = false;
+    std::string title;
+    std::string folder;        ///< where it starts
+    std::string proposedName;  ///< may be empty
+    std::string filter;        ///< "All Files (*.*)|*.*|Zone Files (*.zon)|*.zon"
+    int filterIndex = 1;       ///< preselected pair of the filter, from 1
+    bool overwritePrompt = false;
+};
+
+/// What the program asks of the machine it runs on: boxes, dialogs, windows, clipboard, clock.
+/// The windows' program and the script runner each implement it.
+class Platform {
+ public:
+    virtual ~Platform() = default;
+
+    /// A message box with one button.
+    virtual void message(MessageIcon icon, const std::string& title, const std::string& text) = 0;
+    virtual Answer question(Buttons buttons, const std::string& title, const std::string& text) = 0;
+    /// The chosen path, or nothing when the dialog was cancelled.
+    virtual std::optional<std::string> chooseFile(const FileDialog& dialog) = 0;
+
+    /// The form's window has been opened; it is on show from now on.
+    virtual void opened(Form& form) = 0;
+    /// The form's window is gone; the form itself ends after this call.
+    virtual void closed(Form& form) = 0;
+    /// The form's window came to the front.
+    virtual void activated(Form& form) = 0;
+    /// Shows the form and returns when it has closed itself (Form::closing()).
+    virtual void runModal(Form& form) = 0;
+
+    virtual std::string clipboard() = 0;
+    virtual void setClipboard(const std::string& text) = 0;
+    virtual Date today() = 0;
+    /// Waits while events go on being served; returns at once where nobody watches.
+    virtual void pause(int milliseconds) = 0;
+    /// How far a long operation has come; done equal to total ends it.
+    virtual void progress(const std::string& what, std::size_t done, std::size_t total) = 0;
+    /// Opens a page or a program outside.
+    virtual void openOutside(const std::string& address) = 0;
+};
+
+}  // namespace varnholt
