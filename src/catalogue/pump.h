@@ -9,6 +9,7 @@
 
 #include "basis/date.h"
 #include "basis/mode.h"
+#include "catalogue/polynomial.h"
 
 namespace varnholt {
 
@@ -56,9 +57,6 @@ struct elf {
 
     friend bool operator==(const elf&, const elf&) = default;
 };
-
-/// A polynomial for each mode: terms[k][mode] multiplies the k-th power.
-using Polynomial = std::array<ByMode<double>, 4>;
 
 /// The fitted curves of a model.
 struct coefficients {
