@@ -57,6 +57,12 @@ class Platform {
     virtual void progress(const std::string& what, std::size_t done, std::size_t total) = 0;
     /// Opens a page or a program outside.
     virtual void openOutside(const std::string& address) = 0;
+    /// A value of the platform's registry of installed tools; nothing where there is no such
+    /// registry.
+    virtual std::optional<std::string> GetKeyValue(const std::string& key,
+                                                   const std::string& value) = 0;
+    /// Closes the main window as its close box does, after the handler at hand has ended.
+    virtual void quit(Form& mainWindow) = 0;
 };
 
 }  // namespace varnholt

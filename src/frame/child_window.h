@@ -12,7 +12,7 @@ class Varnmain;
 
 /// A window that the main window keeps account of.
 class ChildWindow : public Form {
-   public:
+ public:
     ChildWindow(std::string formName, Varnmain& main);
 
     Varnmain& main() const { return main_; }
@@ -37,7 +37,7 @@ class ChildWindow : public Form {
     /// Fields are being rewritten by code: text changes must not be treated as the user's.
     bool settingUnits = false;
 
-   private:
+ private:
     Varnmain& main_;
 };
 

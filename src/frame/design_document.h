@@ -25,7 +25,7 @@ struct ProjectInformation {
 /// What every design window has, whatever its ground loop: file identity, stale mark, unit switch,
 /// project information.
 class DesignDocument : public ChildWindow {
-   public:
+ public:
     DesignDocument(std::string formName, DesignKind kind, Varnmain& main, std::int16_t slot);
 
     DesignKind kind() const { return kind_; }
@@ -57,13 +57,13 @@ class DesignDocument : public ChildWindow {
     bool settingItems = false, insideChange = false, updating = false, beenHere = false;
     bool samePumpUpdated = false, returningFromDetails = false, selectingPump = false;
 
-   protected:
+ protected:
     /// Adds the controls of the information tab, inside the named frame or page.
     void addInformationControls();
     /// Writes the project information into its fields.
     void showInformation();
 
-   private:
+ private:
     void registerValues();
 
     DesignKind kind_;

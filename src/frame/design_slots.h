@@ -16,9 +16,9 @@ constexpr std::size_t slotsPerKind = 50;
 
 /// The numbered places of one kind's design windows, 1 to 50, with the files they hold.
 struct DesignSlots {
-    std::array<bool, slotsPerKind + 1> exists{};           ///< element 0 is not used
-    std::array<std::string, slotsPerKind + 1> files{};     ///< empty for a project without a file
-    std::int16_t marker = 0;                               ///< the slot being handled
+    std::array<bool, slotsPerKind + 1> exists{};        ///< element 0 is not used
+    std::array<std::string, slotsPerKind + 1> files{};  ///< empty for a project without a file
+    std::int16_t marker = 0;                            ///< the slot being handled
 
     std::size_t highestUsed() const;
     std::size_t count() const;

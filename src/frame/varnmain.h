@@ -25,7 +25,7 @@ enum class CommandNeeds { nothing, anyWindow, design, designOrLoads };
 /// It knows no subsystem. Each subsystem registers its commands with setCommand; an entry for
 /// which nothing is registered stands in the menu, disabled.
 class Varnmain : public Form {
-   public:
+ public:
     /// @param programFolder the program's folder, without a slash at its end
     Varnmain(Platform& platform, const Texts& texts, std::string programFolder);
     ~Varnmain() override;
@@ -103,7 +103,7 @@ class Varnmain : public Form {
     bool frmEqvHoursCalcExists = false;
     bool frmImport1Exists = false;
 
-   private:
+ private:
     struct Command {
         CommandNeeds needs = CommandNeeds::nothing;
         std::function<void()> run;

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frame/frmAbout.h"
+
+#include <string>
+
+#include "basis/file_system.h"
+#include "frame/program_version.h"
+
+namespace varnholt {
+
+frmAbout::frmAbout(Platform& platform, const Texts& texts) : Form("frmAbout", platform, texts) {
+    setCaption(text(1070));
+    add("lblTitle", ControlKind::label, 1001).setBold(true);
+    add("lblVersion", ControlKind::label).setCaption(text(1073) + " " + programVersion);
+    add("lblDescription", ControlKind::label, 1075);
+    add("cmdOK", ControlKind::button, 1071);
+    add("cmdSysInfo", ControlKind::button, 1072);
+    onClick("cmdOK", [this] { cmdOK_Click(); });
+    onClick("cmdSysInfo", [this] { cmdSysInfo_Click(); });
+}
+
+/// Starts the platform's tool for system information where one is registered.
+void frmAbout::StartSysInfo() {
+    std::optional<std::string> tool =
+        platform().GetKeyValue("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH");
+    if (!tool) {
+        const std::optional<std::string> folder =
+            platform().GetKeyValue("SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO");
+        if (folder && fileExists(*folder + "\\MSINFO32.EXE")) tool = *folder + "\\MSINFO32.EXE";
+    }
+    if (tool)
+        platform().openOutside(*tool);
+    else
+        show(MessageIcon::plain, text(8541));
+}
+
+}  // namespace varnholt

@@ -1,0 +1,342 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frame/varnmain.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "basis/file_system.h"
+#include "basis/run_time_error.h"
+#include "frame/design_document.h"
+#include "frame/frmAbout.h"
+#include "frame/frmSplash.h"
+#include "frame/menu_table.h"
+
+namespace varnholt {
+
+Varnmain::Varnmain(Platform& platform, const Texts& texts, std::string programFolder)
+    : Form("Varnmain", platform, texts), MainDirectory(std::move(programFolder)) {
+    addMenus();
+    addToolbar();
+    registerValues();
+    setCommand("Metric", CommandNeeds::nothing, [this] { Metric_Click(); });
+    setCommand("English", CommandNeeds::nothing, [this] { English_Click(); });
+    setCommand("mnuAbout", CommandNeeds::nothing, [this] { mnuAbout_Click(); });
+    setCommand("mnuShowToolbar", CommandNeeds::nothing, [this] { mnuShowToolbar_Click(); });
+    setCommand("mnuFileExit", CommandNeeds::nothing, [this] { mnuFileExit_Click(); });
+}
+
+Varnmain::~Varnmain() = default;
+
+void Varnmain::start() {
+    helpFile = joinPath(MainDirectory, "OnlineHelp/vht.chm");
+    setCaption(text(1001));
+    FontFaceName = text(1101);
+    control("Metric").setChecked(!FontFaceName.empty());
+    control("English").setChecked(FontFaceName.empty());
+    openCall = false;
+    saveCancelled = false;
+    slots_ = {};
+    PrintOption = 0;
+    refreshCommands();
+    splash_ = std::make_unique<frmSplash>(platform(), texts());
+    platform().opened(*splash_);
+}
+
+void Varnmain::addMenus() {
+    for (const MenuRow& row : menuTable()) {
+        Control& entry = add(row.control, ControlKind::menu);
+        if (row.menu != nullptr) entry.in(row.menu);
+        if (row.captionText != 0) entry.setCaption(text(row.captionText));
+        if (row.hintText != 0) entry.setTooltip(text(row.hintText));
+        if (row.menu != nullptr && row.captionText != 0)
+            onClick(row.control, [this, name = std::string(row.control)] { run(name); });
+    }
+    control("mnuShowToolbar").setChecked(true);
+}
+
+void Varnmain::addToolbar() {
+    add("tbrMain", ControlKind::frame);
+    int index = 0;
+    for (const ToolRow& row : toolTable()) {
+        const std::string name = "tbrMain(" + std::to_string(index++) + ")";
+        add(name, ControlKind::button).setTooltip(text(row.tipText)).in("tbrMain");
+        onClick(name, [this, command = std::string(row.command)] {
+            // The one button for both units changes to the other system.
+            const bool toEnglish = command == "Metric" && control("Metric").checked();
+            run(toEnglish ? "English" : command);
+        });
+    }
+}
+
+void Varnmain::registerValues() {
+    Values& values = publicValues();
+    values.add("MainDirectory", &MainDirectory);
+    values.add("TempDirectory", &TempDirectory);
+    values.add("FontFaceName", &FontFaceName);
+    values.add("openCall", &openCall);
+    values.add("saveCancelled", &saveCancelled);
+    values.add("windowCounter", &windowCounter);
+    values.add("browserCount", &browserCount);
+    values.add("PrintOption", &PrintOption);
+    values.add("LinkOption", &LinkOption);
+    values.add("TransferOption", &TransferOption);
+    values.add("frmZoneManageWindowExists", &frmZoneManageWindowExists);
+    values.add("frmAvgBlockWindowExists", &frmAvgBlockWindowExists);
+    values.add("HPEditWindowExists", &HPEditWindowExists);
+    values.add("frmDiffusivityCalcExists", &frmDiffusivityCalcExists);
+    values.add("frmPumpPowerCalcExists", &frmPumpPowerCalcExists);
+    values.add("frmEqvHoursCalcExists", &frmEqvHoursCalcExists);
+    values.add("frmImport1Exists", &frmImport1Exists);
+    constexpr std::array<const char*, 3> prefix{"bH", "hZ", "sW"};
+    for (std::size_t kind = 0; kind < prefix.size(); ++kind) {
+        const std::string name = prefix[kind];
+        values.addArray(name + "Exists", &slots_[kind].exists);
+        values.add(name + "Marker", &slots_[kind].marker);
+    }
+    values.add("openWindowFiles", 2, [this](const Values::Indices& i) {
+        return slots_.at(static_cast<std::size_t>(i[0])).files.at(static_cast<std::size_t>(i[1]));
+    });
+}
+
+void Varnmain::setCommand(const std::string& entry, CommandNeeds needs, std::function<void()> run) {
+    commands_[entry] = {needs, std::move(run)};
+    refreshCommands();
+}
+
+void Varnmain::run(const std::string& entry) {
+    const auto found = commands_.find(entry);
+    if (found == commands_.end() || !usable(found->second)) return;
+    const std::string& menu = control(entry).container();
+    if (menu != "mnuUnits" && menu != "mnuView") hideSplash();
+    try {
+        found->second.run();
+    } catch (const RunTimeError& error) {
+        show(MessageIcon::exclamation, error.message());
+    }
+    refreshCommands();
+}
+
+void Varnmain::open(std::unique_ptr<ChildWindow> window) {
+    closed_.clear();
+    hideSplash();
+    ChildWindow& opened = *window;
+    windows_.push_back(std::move(window));
+    opened.load();
+    platform().opened(opened);
+    activate(opened);
+}
+
+void Varnmain::activate(ChildWindow& window) {
+    if (active_ == &window) return;
+    setActive(&window);
+    platform().activated(window);
+    window.activated();
+    refreshCommands();
+}
+
+void Varnmain::setActive(ChildWindow* window) {
+    active_ = window;
+    if (window == nullptr) return;
+    activationOrder_.erase(std::remove(activationOrder_.begin(), activationOrder_.end(), window),
+                           activationOrder_.end());
+    activationOrder_.push_back(window);
+    if (window->hasUnitSwitch()) unitsSwitched(*window);
+}
+
+bool Varnmain::close(ChildWindow& window) {
+    if (!isOpen(&window) || !window.queryClose()) return false;
+    // The question may have closed it already.
+    if (!isOpen(&window)) return true;
+    window.unloaded();
+    platform().closed(window);
+    activationOrder_.erase(std::remove(activationOrder_.begin(), activationOrder_.end(), &window),
+                           activationOrder_.end());
+    const auto at = std::find_if(windows_.begin(), windows_.end(),
+                                 [&](const auto& open) { return open.get() == &window; });
+    closed_.push_back(std::move(*at));
+    windows_.erase(at);
+    if (active_ == &window) {
+        active_ = nullptr;
+        if (!activationOrder_.empty()) activate(*activationOrder_.back());
+    }
+    refreshCommands();
+    return true;
+}
+
+std::vector<ChildWindow*> Varnmain::windows() const {
+    std::vector<ChildWindow*> open;
+    for (const auto& window : windows_) open.push_back(window.get());
+    return open;
+}
+
+std::vector<ChildWindow*> Varnmain::windowsNamed(const std::string& formName) const {
+    std::vector<ChildWindow*> found;
+    for (const auto& window : windows_)
+        if (window->formName() == formName) found.push_back(window.get());
+    return found;
+}
+
+ChildWindow* Varnmain::find(const std::string& formName) const {
+    if (active_ != nullptr && active_->formName() == formName) return active_;
+    const std::vector<ChildWindow*> named = windowsNamed(formName);
+    return named.empty() ? nullptr : named.back();
+}
+
+int Varnmain::numberOf(const Form& window) const {
+    int number = 0;
+    for (const auto& open : windows_) {
+        if (open->formName() == window.formName()) ++number;
+        if (open.get() == &window) return number;
+    }
+    return 1;
+}
+
+bool Varnmain::isOpen(const Form* window) const {
+    return std::any_of(windows_.begin(), windows_.end(),
+                       [&](const auto& open) { return open.get() == window; });
+}
+
+std::vector<DesignDocument*> Varnmain::designs() const {
+    std::vector<DesignDocument*> designs;
+    for (const auto& window : windows_)
+        if (auto* design = dynamic_cast<DesignDocument*>(window.get())) designs.push_back(design);
+    return designs;
+}
+
+bool Varnmain::anyDesignOpen() const {
+    return std::any_of(slots_.begin(), slots_.end(),
+                       [](const DesignSlots& kind) { return kind.count() > 0; });
+}
+
+std::int16_t Varnmain::takeSlot(DesignKind kind) {
+    if (!anyDesignOpen()) windowCounter = 0;
+    for (const DesignKind each : designKinds) compact(each);
+    DesignSlots& places = slots(kind);
+    const std::size_t next = places.highestUsed() + 1;
+    if (next > slotsPerKind) {
+        show(MessageIcon::exclamation, text(1208));
+        return 0;
+    }
+    places.marker = static_cast<std::int16_t>(next);
+    places.exists[next] = true;
+    places.files[next].clear();
+    ++windowCounter;
+    return places.marker;
+}
+
+void Varnmain::releaseSlot(DesignKind kind, std::int16_t slot) {
+    DesignSlots& places = slots(kind);
+    at(places.exists, slot) = false;
+    at(places.files, slot).clear();
+}
+
+std::string& Varnmain::openWindowFiles(DesignKind kind, std::int16_t slot) {
+    return at(slots(kind).files, slot);
+}
+
+/// Moves used slots down over free ones, so that no used slot lies after a free one.
+void Varnmain::compact(DesignKind kind) {
+    DesignSlots& places = slots(kind);
+    std::size_t next = 1;
+    for (std::size_t slot = 1; slot <= slotsPerKind; ++slot) {
+        if (!places.exists[slot]) continue;
+        if (slot != next) {
+            std::swap(places.exists[slot], places.exists[next]);
+            std::swap(places.files[slot], places.files[next]);
+            reassignSlot(kind, slot, next);
+        }
+        ++next;
+    }
+}
+
+void Varnmain::reassignSlot(DesignKind kind, std::size_t from, std::size_t to) {
+    for (DesignDocument* design : designs())
+        if (design->kind() == kind && design->counter == static_cast<std::int16_t>(from))
+            design->counter = static_cast<std::int16_t>(to);
+}
+
+void Varnmain::runModal(Form& form) {
+    modal_.push_back(&form);
+    platform().runModal(form);
+    modal_.pop_back();
+}
+
+bool Varnmain::queryClose() {
+    saveCancelled = false;
+    // Newest first, as the windows lie on one another.
+    while (!windows_.empty())
+        if (!close(*windows_.back())) return false;
+    return true;
+}
+
+bool Varnmain::usable(const Command& command) const {
+    switch (command.needs) {
+        case CommandNeeds::nothing:
+            return true;
+        case CommandNeeds::anyWindow:
+            return active_ != nullptr;
+        case CommandNeeds::design:
+            return active_ != nullptr && active_->isDesign();
+        case CommandNeeds::designOrLoads:
+            return active_ != nullptr && active_->canSave();
+    }
+    return false;
+}
+
+void Varnmain::refreshCommands() {
+    const auto enabled = [this](const std::string& entry) {
+        const auto found = commands_.find(entry);
+        return found != commands_.end() && usable(found->second);
+    };
+    for (const MenuRow& row : menuTable())
+        if (row.menu != nullptr && row.captionText != 0)
+            control(row.control).setEnabled(enabled(row.control));
+    int index = 0;
+    for (const ToolRow& row : toolTable())
+        element("tbrMain", index++).setEnabled(enabled(row.command));
+}
+
+void Varnmain::unitsSwitched(ChildWindow& window) {
+    if (&window != active_) return;
+    control("Metric").setChecked(window.units() == UnitSystem::metric);
+    control("English").setChecked(window.units() == UnitSystem::english);
+}
+
+UnitSystem Varnmain::units() const {
+    return control("Metric").checked() ? UnitSystem::metric : UnitSystem::english;
+}
+
+void Varnmain::Metric_Click() {
+    if (control("Metric").checked()) return;
+    control("Metric").setChecked(true);
+    control("English").setChecked(false);
+    if (windowCounter != 0 && active_ != nullptr) active_->switchUnits(UnitSystem::metric);
+}
+
+void Varnmain::English_Click() {
+    if (control("English").checked()) return;
+    control("English").setChecked(true);
+    control("Metric").setChecked(false);
+    if (windowCounter != 0 && active_ != nullptr) active_->switchUnits(UnitSystem::english);
+}
+
+void Varnmain::mnuAbout_Click() {
+    frmAbout about(platform(), texts());
+    runModal(about);
+}
+
+void Varnmain::mnuShowToolbar_Click() {
+    Control& entry = control("mnuShowToolbar");
+    entry.setChecked(!entry.checked());
+    control("tbrMain").setVisible(entry.checked());
+}
+
+void Varnmain::mnuFileExit_Click() { platform().quit(*this); }
+
+void Varnmain::hideSplash() {
+    if (!splash_) return;
+    platform().closed(*splash_);
+    splash_.reset();
+}
+
+}  // namespace varnholt

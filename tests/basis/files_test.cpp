@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "basis/date.h"
+#include "basis/file_system.h"
+#include "basis/line_file.h"
+#include "basis/run_time_error.h"
+#include "basis/text_encoding.h"
+
+namespace varnholt {
+namespace {
+
+namespace fs = std::filesystem;
+
+class FilesTest : public testing::Test {
+ protected:
+    void SetUp() override {
+        std::string name = (fs::temp_directory_path() / "varnholt-files-XXXXXX").string();
+        ASSERT_NE(mkdtemp(name.data()), nullptr);
+        folder_ = name;
+    }
+    void TearDown() override { fs::remove_all(folder_); }
+    std::string path(const std::string& name) const { return joinPath(folder_, name); }
+    int errorOfReading(const std::string& file) const {
+        try {
+            readWholeFile(file);
+        } catch (const RunTimeError& error) {
+            return error.number();
+        }
+        return 0;
+    }
+
+    std::string folder_;
+};
+
+TEST_F(FilesTest, AReplacedFileHoldsTheNewBytesAndNothingElseIsLeft) {
+    replaceWholeFile(path("a.txt"), "one");
+    replaceWholeFile(path("a.txt"), "two");
+    EXPECT_EQ(readWholeFile(path("a.txt")), "two");
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()), 1);
+}
+
+TEST_F(FilesTest, ReplacingThroughASymbolicLinkKeepsTheLinkAndThePermissions) {
+    replaceWholeFile(path("real.txt"), "old");
+    ASSERT_EQ(::chmod(path("real.txt").c_str(), 0640), 0);
+    fs::create_symlink("real.txt", path("link.txt"));
+    replaceWholeFile(path("link.txt"), "new");
+    EXPECT_TRUE(fs::is_symlink(path("link.txt")));
+    EXPECT_EQ(readWholeFile(path("real.txt")), "new");
+    struct stat status {};
+    ASSERT_EQ(::stat(path("real.txt").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0640U);
+}
+
+TEST_F(FilesTest, MissingFilesAndFoldersHaveTheirOwnErrors) {
+    EXPECT_EQ(errorOfReading(path("missing.txt")), 53);
+    EXPECT_EQ(errorOfReading(path("nowhere/missing.txt")), 76);
+    EXPECT_THROW(replaceWholeFile(path("nowhere/new.txt"), "x"), RunTimeError);
+    EXPECT_FALSE(fileExists(path("missing.txt")));
+    EXPECT_FALSE(fileExists(folder_));
+}
+
+TEST_F(FilesTest, AFolderInPlaceOfTheFileIsRefusedAndStays) {
+    fs::create_directory(path("taken"));
+    EXPECT_THROW(replaceWholeFile(path("taken"), "x"), RunTimeError);
+    EXPECT_TRUE(fs::is_directory(path("taken")));
+}
+
+TEST(Paths, AreTakenApartAtTheLastSlash) {
+    EXPECT_EQ(fileNameOf("a/b/school.zon"), "school.zon");
+    EXPECT_EQ(folderOf("a/b/school.zon"), "a/b");
+    EXPECT_EQ(baseNameOf("a.b/school.one.zon"), "school.one");
+    EXPECT_EQ(folderOf("school.zon"), "");
+    EXPECT_EQ(folderOf("/school.zon"), "/");
+    EXPECT_EQ(joinPath("a/", "b"), "a/b");
+}
+
+TEST(TextEncoding, WhatIsNotUtf8IsReadAsWindows1252) {
+    EXPECT_EQ(decodeText("caf\xE9 \x80"), "caf\xC3\xA9 \xE2\x82\xAC");
+    EXPECT_EQ(decodeText("caf\xC3\xA9"), "caf\xC3\xA9");
+    EXPECT_EQ(decodeText("\xEF\xBB\xBFplain"), "plain");
+    EXPECT_FALSE(isValidUtf8("\xC0\x80"));
+    EXPECT_FALSE(isValidUtf8("\xED\xA0\x80"));
+    EXPECT_FALSE(isValidUtf8("\xE2\x82"));
+}
+
+TEST(Dates, AreReadWithAndWithoutNumberSigns) {
+    EXPECT_EQ(readDate("#2026-01-15#"), (Date{2026, 1, 15}));
+    EXPECT_EQ(readDate("2024-02-29"), (Date{2024, 2, 29}));
+    EXPECT_FALSE(readDate("2026-02-29"));
+    EXPECT_FALSE(readDate("#yesterday#"));
+    EXPECT_FALSE(readDate(""));
+    EXPECT_EQ(isoText(Date{2026, 1, 5}), "2026-01-05");
+}
+
+TEST(LineFile, IsReadWithEitherLineEnd) {
+    LineFileReader file("one\ntwo\r\n3abc\r\rlast");
+    EXPECT_EQ(file.line(), "one");
+    EXPECT_EQ(file.line(), "two");
+    double number = 0;
+    file.number(number);
+    EXPECT_EQ(number, 3);
+    EXPECT_EQ(file.line(), "");
+    EXPECT_EQ(file.line(), "last");
+    EXPECT_THROW(file.line(), RunTimeError);
+}
+
+TEST(LineFile, TakesItsVersionFromTheLastThreeCharactersOfTheTitle) {
+    const auto versionOf = [](std::string_view text) {
+        LineFileReader file(text);
+        file.title("");
+        return file.version();
+    };
+    EXPECT_EQ(versionOf("Zone Data File Version 2.1\r\n"), 2.1);
+    EXPECT_EQ(versionOf("Version 3.00\r\n"), 0.0);
+    EXPECT_EQ(versionOf("3.\r\n"), 0.0);
+    EXPECT_EQ(versionOf("no number\r\n"), 0.0);
+}
+
+TEST(LineFile, BoundsACountByTheLinesThatFollow) {
+    LineFileReader file("32000\r\na\r\nb\r\nc\r\nd\r\n");
+    EXPECT_EQ(file.count(0, 2), 3U);  // two whole items, and one that meets the end
+    LineFileReader negative("-5\r\na\r\n");
+    EXPECT_EQ(negative.count(0, 1), 0U);
+}
+
+TEST(LineFile, WritesWhatItReads) {
+    LineFileWriter writer;
+    writer.title("Test Version ");
+    writer.number(1.0 / 3);
+    writer.integer(-7);
+    writer.date(Date{2026, 1, 15});
+    writer.text("two\r\nlines");
+    EXPECT_EQ(writer.bytes(),
+              "Test Version 3.0\r\n0.3333333333333333\r\n-7\r\n#2026-01-15#\r\ntwo  lines\r\n");
+}
+
+}  // namespace
+}  // namespace varnholt

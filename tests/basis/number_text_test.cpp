@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "basis/number_text.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace varnholt {
+namespace {
+
+struct ReadCase {
+    const char* text;
+    double value;
+};
+
+TEST(LeadingNumber, TakesSignDigitsPointAndExponentAndStopsAtTheFirstOtherCharacter) {
+    const ReadCase cases[] = {
+        {"12", 12},  {"  -3.5", -3.5}, {"12abc", 12}, {"1.2.3", 1.2},  {"+7", 7},
+        {".5", 0.5}, {"5.", 5},        {"1e3", 1000}, {"1E-2x", 0.01}, {"2e", 2},
+        {"2e+", 2},  {"1,5", 1},       {"-", 0},      {"", 0},         {"abc", 0},
+        {"- 5", 0},  {".", 0},         {"1 2", 1},    {"\t4", 4},      {"0x10", 0},
+    };
+    for (const ReadCase& c : cases) {
+        SCOPED_TRACE(c.text);
+        EXPECT_EQ(leadingNumber(c.text), c.value);
+    }
+}
+
+TEST(LeadingNumber, TellsTextWithoutANumberFromZero) {
+    EXPECT_FALSE(readLeadingNumber("x"));
+    EXPECT_FALSE(readLeadingNumber("-"));
+    ASSERT_TRUE(readLeadingNumber("0"));
+    EXPECT_EQ(*readLeadingNumber("0"), 0);
+}
+
+TEST(LeadingNumber, OfAHugeExponentIsInfiniteAndOfATinyOneZero) {
+    EXPECT_TRUE(std::isinf(leadingNumber("1e999")));
+    EXPECT_EQ(leadingNumber("1e-999"), 0);
+    EXPECT_LT(leadingNumber("-1e999"), 0);
+}
+
+struct FormatCase {
+    double value;
+    const char* picture;
+    const char* text;
+};
+
+TEST(FormatNumber, RoundsHalfAwayFromZeroOnTheDecimalDigits) {
+    const FormatCase cases[] = {
+        {3124.65, "###0.0", "3124.7"},  // the double is below 3124.65, its digits are not
+        {0.05, "###0.0", "0.1"},
+        {-0.05, "###0.0", "-0.1"},
+        {2.5, "###0", "3"},
+        {-2.5, "###0", "-3"},
+        {1.005, "###0.00", "1.01"},
+        {0.125, "###0.00", "0.13"},
+        {99.95, "###0.0", "100.0"},
+        {0, "###0.0", "0.0"},
+        {-0.04, "###0.0", "0.0"},
+        {-0.0, "###0", "0"},
+        {12345678.9, "###0.0", "12345678.9"},
+        {0.5, "#.00", ".50"},
+        {1.0, "#.00", "1.00"},
+        {0.196, "###0.000", "0.196"},
+        {1e21, "###0", "1000000000000000000000"},
+        {1e-7, "###0.00", "0.00"},
+        {62.4, "####0", "62"},
+        {1.2345, "0.0##", "1.235"},
+        {1.2, "0.0##", "1.2"},
+    };
+    for (const FormatCase& c : cases) {
+        SCOPED_TRACE(c.text);
+        EXPECT_EQ(formatNumber(c.value, c.picture), c.text);
+    }
+}
+
+TEST(FormatNumber, ShowsWhatIsNoNumberAsZero) {
+    EXPECT_EQ(formatNumber(std::nan(""), "###0.0"), "0.0");
+    EXPECT_EQ(formatNumber(std::numeric_limits<double>::infinity(), "###0"), "0");
+}
+
+TEST(ShortestText, ReadsBackAsTheSameDouble) {
+    for (const double value : {0.1, 1.0 / 3, 3124.6899414062, 1e22, -2.5e-10, 5e-324, 0.0})
+        EXPECT_EQ(leadingNumber(shortestText(value)), value) << value;
+    EXPECT_EQ(shortestText(0.1), "0.1");
+    EXPECT_EQ(shortestText(20), "20");
+}
+
+TEST(FormatText, AlignsInAsManyCharactersAsThePictureHas) {
+    EXPECT_EQ(formatText("7", "@@@"), "  7");
+    EXPECT_EQ(formatText("7", "!@@@"), "7  ");
+    EXPECT_EQ(formatText("12345", "@@@"), "12345");
+    EXPECT_EQ(formatText("\xC3\xA9", "@@"), " \xC3\xA9");
+}
+
+}  // namespace
+}  // namespace varnholt
