@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/pump.h"
+
+namespace varnholt {
+
+/// A series file's content.
+struct PumpSeries {
+    PumpSeriesInfo seriesInfo;
+    PumpManufacturerInfo mfgInfo;
+    std::vector<pump> models;
+
+    friend bool operator==(const PumpSeries&, const PumpSeries&) = default;
+};
+
+// The readers take a file's bytes. On an error (RunTimeError 62 past the end, 6 for a whole number
+// beyond 16 bits, 9 for a 37th series of a manufacturer) they throw, and what was read up to there
+// stands in the argument: every manufacturer and series with a name, every model with its curves.
+
+void readPumpIndex(std::string_view bytes, std::vector<PumpList>& manufacturers);
+void readPumpSeries(std::string_view bytes, PumpSeries& series);
+
+// The same files, written.
+
+std::string pumpIndexText(const std::vector<PumpList>& manufacturers);
+/// The models' own copies of manufacturer and series are not written: one head serves all.
+std::string pumpSeriesText(const PumpSeries& series);
+
+/// Replaces the catalogue's index. Throws as replaceWholeFile.
+void WritePumpList(const std::string& pumpsFolder, const std::vector<PumpList>& manufacturers);
+/// Replaces the file of the series, named by its `FileName`. Throws as replaceWholeFile.
+void WritePumpSeries(const std::string& pumpsFolder, const PumpSeries& series);
+
+/// "FOLDER/PumpList.vht"
+std::string pumpIndexPath(const std::string& pumpsFolder);
+/// "FOLDER/FileName.hpd"
+std::string pumpSeriesPath(const std::string& pumpsFolder, const std::string& FileName);
+
+}  // namespace varnholt

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "catalogue/ModPumpsIO.h"
+#include "catalogue/pump.h"
+#include "forms/texts.h"
+
+namespace varnholt {
+
+class RunTimeError;
+
+/// The two series that a window keeps loaded.
+enum SeriesSlot : std::size_t {
+    activeSlot = 0,   ///< the active series, which the auto-selection searches
+    browsedSlot = 1,  ///< the series being browsed, or that of the zone at hand
+};
+
+/// A loads window's own copy of the catalogue: the index, two loaded series, and which one is
+/// active. Reading never throws: what went wrong is shown, and what was read up to there stays.
+class PumpCatalogue {
+ public:
+    /// Shows a message with an exclamation mark.
+    using Exclaim = std::function<void(const std::string& text)>;
+
+    /// @param programFolder  the program's folder, without a slash at its end; the catalogue is
+    ///                       its folder `pumps`
+    PumpCatalogue(const std::string& programFolder, const Texts& texts, Exclaim exclaim);
+
+    /// Manufacturer's and series' name joined. A window that opens a zone file stores its series
+    /// here and calls InitializeHeatPumpLists.
+    std::string activeSeries;
+
+    const std::vector<varnholt::PumpList>& vhtPumpNames() const { return manufacturers_; }
+    std::int16_t vhtMfgCount() const { return static_cast<std::int16_t>(manufacturers_.size()); }
+    std::int16_t vhtTotalSeriesCount() const;
+
+    /// Model i of a slot in file order, RunTimeError 9 beyond those ever read into it.
+    const pump& PumpList(std::size_t slot, std::size_t i) const;
+    /// Number of models in the slot; models beyond it belong to a series read before.
+    std::size_t size(std::size_t slot) const { return slots_.at(slot).size; }
+    /// The models that count.
+    std::span<const pump> models(std::size_t slot) const;
+    /// Whether the slot holds this series.
+    bool holds(std::size_t slot, const std::string& mfgName, const std::string& seriesName) const;
+
+    /// Reads the index afresh, chooses the active series if none is set, and loads it into slot
+    /// 0. An active series that the catalogue does not list gives way to the first series.
+    void InitializeHeatPumpLists();
+    /// Reads the catalogue's index alone.
+    void readPumpNames();
+    /// Reads a series file by its base name into a slot. A missing file leaves the slot as it is.
+    void readPumps(const std::string& FileName, std::size_t slot);
+    /// Reads the series that `activeSeries` names, or the first one, into a slot.
+    void readActiveSeries(std::size_t slot);
+    /// Makes a series the active one and loads it into slot 0.
+    void activate(const varnholt::PumpList& manufacturer, const PumpSeriesInfo& series);
+
+    /// The catalogue's entry of a series; null when it lists none of these names.
+    const PumpSeriesInfo* find(const std::string& mfgName, const std::string& seriesName) const;
+    /// The entry of the first series whose joined name this is, or null.
+    const PumpSeriesInfo* findJoined(const std::string& joinedName) const;
+    /// Joined name of the first series of the first manufacturer that has one, or empty.
+    std::string firstSeries() const;
+
+ private:
+    struct Slot {
+        std::vector<pump> models;
+        std::size_t size = 0;
+    };
+
+    std::string preferredSeries() const;
+    void store(PumpSeries series, Slot& slot);
+    bool checkFile(const std::string& path) const;
+    void tell(const RunTimeError& error) const;
+
+    std::string folder_;
+    const Texts& texts_;
+    Exclaim exclaim_;
+    std::vector<varnholt::PumpList> manufacturers_;
+    std::array<Slot, 2> slots_;
+};
+
+}  // namespace varnholt
