@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/program_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "basis/file_system.h"
+#include "basis/run_time_error.h"
+#include "tools/scratch_folder.h"
+
+namespace varnholt {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ProgramFolder : public testing::Test {
+ protected:
+    ProgramFolder() {
+        scratch.write("from/pumps/PumpList.vht", "index");
+        scratch.write("from/help/index.html", "help");
+        scratch.write("from/examples/office.zon", "zones");
+        scratch.write("from/examples/office.vht", "project");
+        scratch.write("from/examples/tour.vscript", "script");
+    }
+    std::string folder(const std::string& name) const {
+        return scratch.path("data/varnholt/" + name);
+    }
+
+    ScratchFolder scratch;
+    InstalledFiles from{scratch.path("from"), scratch.path("from/examples")};
+};
+
+TEST_F(ProgramFolder, IsFilledOnTheFirstStart) {
+    fillProgramFolder(folder(""), from);
+    EXPECT_EQ(readWholeFile(folder("pumps/PumpList.vht")), "index");
+    EXPECT_EQ(readWholeFile(folder("OnlineHelp/index.html")), "help");
+    EXPECT_EQ(readWholeFile(folder("zones/office.zon")), "zones");
+    EXPECT_EQ(readWholeFile(folder("work files/office.vht")), "project");
+    EXPECT_TRUE(fs::is_directory(folder("Data")));
+    EXPECT_FALSE(fs::exists(folder("zones/tour.vscript")));
+}
+
+TEST_F(ProgramFolder, IsLeftAloneOnLaterStarts) {
+    fillProgramFolder(scratch.path("own"), from);
+    fs::remove_all(scratch.path("own/pumps"));
+    scratch.write("own/zones/office.zon", "changed");
+    fillProgramFolder(scratch.path("own"), from);
+    EXPECT_FALSE(fs::exists(scratch.path("own/pumps")));
+    EXPECT_EQ(readWholeFile(scratch.path("own/zones/office.zon")), "changed");
+}
+
+TEST_F(ProgramFolder, HasItsFoldersEvenWhenNothingIsInstalled) {
+    fillProgramFolder(scratch.path("own"), {scratch.path("nothing"), scratch.path("nothing")});
+    for (const char* name : {"work files", "zones", "pumps", "Data", "OnlineHelp"})
+        EXPECT_TRUE(fs::is_directory(scratch.path("own") + "/" + name)) << name;
+}
+
+TEST_F(ProgramFolder, CopiesOfReadOnlyFilesCanBeWritten) {
+    fs::permissions(scratch.path("from/examples/office.zon"), fs::perms::owner_read);
+    fillProgramFolder(scratch.path("own"), from);
+    const fs::perms copied = fs::status(scratch.path("own/zones/office.zon")).permissions();
+    EXPECT_NE(copied & fs::perms::owner_write, fs::perms::none);
+}
+
+TEST_F(ProgramFolder, ThatCannotBeMadeIsAnErrorAndLeavesNothingBehind) {
+    scratch.write("file", "a file where the folder should be");
+    try {
+        fillProgramFolder(scratch.path("file/varnholt"), from);
+        FAIL() << "a folder below a file was made";
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.number(), 75);
+    }
+    EXPECT_THROW(fillProgramFolder(scratch.path("file"), from), RunTimeError);
+    for (const auto& entry : fs::directory_iterator(scratch.path()))
+        EXPECT_EQ(entry.path().string().find(".new-"), std::string::npos) << entry.path();
+}
+
+TEST(InstalledFiles, LieBesideTheExecutablesFolder) {
+    const ScratchFolder scratch;
+    fs::create_directories(scratch.path("usr/share/varnholt"));
+    const InstalledFiles files = installedFilesOf(scratch.path("usr/bin/varnholt"));
+    EXPECT_EQ(files.resources, scratch.path("usr/share/varnholt"));
+    EXPECT_EQ(files.examples, scratch.path("usr/share/varnholt/examples"));
+    EXPECT_EQ(files.languageFolder(), scratch.path("usr/share/varnholt/language"));
+}
+
+TEST(InstalledFiles, OfABuiltProgramLieInItsSourceTree) {
+    EXPECT_EQ(installedFiles().resources, VARNHOLT_SOURCE_DIR "/resources");
+    EXPECT_EQ(installedFiles().examples, VARNHOLT_SOURCE_DIR "/examples");
+}
+
+TEST(UserProgramFolder, FollowsTheDesktopsFolderForData) {
+    const char* old = std::getenv("XDG_DATA_HOME");
+    const std::string before = old != nullptr ? old : "";
+    setenv("XDG_DATA_HOME", "/somewhere/data", 1);
+    EXPECT_EQ(userProgramFolder(), "/somewhere/data/varnholt");
+    unsetenv("XDG_DATA_HOME");
+    EXPECT_EQ(userProgramFolder(), std::string(std::getenv("HOME")) + "/.local/share/varnholt");
+    if (old != nullptr) setenv("XDG_DATA_HOME", before.c_str(), 1);
+}
+
+}  // namespace
+}  // namespace varnholt
