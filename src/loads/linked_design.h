@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -46,6 +47,10 @@ class LinkedDesign : public DesignDocument {
     ByMode<double> minflowRate{2.8, 4.2};
     double flowRate = 3;
 
+    /// What the window's set-up reads over the built-in values and before it shows anything: the
+    /// project's file, or the defaults of its kind. Whoever opens the window sets it.
+    std::function<void()> readStored;
+
     /// Copies zones, series, flow and temperatures from the linked loads window when its zones
     /// differ from the design's, then its project data the other way. Does nothing when unlinked.
     void TransferLoadsVariablesIn();
@@ -79,6 +84,9 @@ class LinkedDesign : public DesignDocument {
     /// Shows the link light that goes with `linkType`, or the one for no link.
     void showLinkLight();
 
+    /// The window goes: its link ends.
+    void unloaded() override;
+
  protected:
     /// Adds `imgLinkLight(0)`, `imgLinkLight(8)` and `imgLinkLight(6)` where they stand in the
     /// reading order.
@@ -87,7 +95,12 @@ class LinkedDesign : public DesignDocument {
  private:
     void registerLoadsValues();
 
+    bool transferZones();
+    bool blinkLight();
+    void passProjectData();
+
     bool transferring_ = false;
+    bool valuePassed_ = false;
 };
 
 }  // namespace varnholt

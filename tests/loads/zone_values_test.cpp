@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "loads/zone_values.h"
+
+#include "basis/run_time_error.h"
+
+namespace varnholt {
+namespace {
+
+TEST(ZoneValues, ReadAsScriptsWriteThem) {
+    std::vector<Zone> zones(2);
+    zones[1].gains[3][heating] = 12.5;
+    zones[1].hours[cooling] = 900;
+    zones[1].title = "Gym";
+    zones[1].pump.plf[heating] = 0.75;
+    zones[1].pump.number = 3;
+    Values values;
+    addZoneValues(values, zones);
+
+    EXPECT_EQ(values.read("ZoneList(1).gains(3,1)"), PublicValue(12.5));
+    EXPECT_EQ(values.read("ZoneList(1).hours(0)"), PublicValue(900.0));
+    EXPECT_EQ(values.read("ZoneList(1).title"), PublicValue(std::string("Gym")));
+    EXPECT_EQ(values.read("ZoneList(1).pump.plf(1)"), PublicValue(0.75));
+    EXPECT_EQ(values.read("ZoneList(1).pump.number"), PublicValue(3.0));
+    EXPECT_EQ(values.read("ZoneList(0).days"), PublicValue(7.0));
+}
+
+TEST(ZoneValues, OutsideTheListAreRunTimeErrorNine) {
+    const std::vector<Zone> zones(2);
+    Values values;
+    addZoneValues(values, zones);
+    for (const char* path : {"ZoneList(2).days", "ZoneList(0).gains(4,0)", "ZoneList(0).gains(0,2)",
+                             "ZoneList(0).pump.elt(2)"}) {
+        SCOPED_TRACE(path);
+        try {
+            values.read(path);
+            ADD_FAILURE() << "no error";
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.number(), 9);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace varnholt
