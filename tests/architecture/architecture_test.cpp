@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <set>
+
+#include "architecture/source_tree.h"
+
+namespace varnholt {
+namespace {
+
+/// The floors of the house. A folder may use the folders with smaller numbers, and itself.
+const std::map<std::string, int> floors{{"basis", 1},       {"forms", 2},  {"frame", 3},
+                                        {"tools", 4},       {"script", 4}, {"catalogue", 5},
+                                        {"loads", 6},       {"design", 7}, {"reports", 7},
+                                        {"persistence", 8}, {"app", 9},    {"desktop", 10}};
+
+/// The two `main` functions stand above all floors.
+constexpr int top = 11;
+
+/// Files that may be longer than the limit, each with its reason.
+const std::set<std::string> longFiles{};
+constexpr std::size_t longestFile = 500;
+
+int floorOf(const std::string& folder) {
+    const auto found = floors.find(folder);
+    return found == floors.end() ? top : found->second;
+}
+
+bool mayUseQt(const SourceFile& source) {
+    return source.folder() == "desktop" || source.path == "src/varnholt.cpp";
+}
+
+/// "Qt" headers: <QWidget>, <QtWidgets/QWidget>, <qglobal.h>.
+bool isQt(const Include& include) {
+    const std::string& file = include.file;
+    return file.size() > 1 && (file[0] == 'Q' || file.starts_with("qt") || file == "qglobal.h");
+}
+
+bool isSource(const SourceFile& file) {
+    return file.isCpp() || file.has(".py") || file.has(".sh") || file.has(".cmake") ||
+           file.has("CMakeLists.txt") || file.has(".in");
+}
+
+std::vector<SourceFile> allSources() {
+    std::vector<SourceFile> all;
+    for (const char* folder : {"src", "tests", "bench", "fuzz", "cmake", "packaging", "resources"})
+        for (SourceFile& file : filesBelow(folder))
+            if (isSource(file)) all.push_back(std::move(file));
+    return all;
+}
+
+TEST(Architecture, TheSourcesAreFound) {
+    // The rules below hold for every file found, so they would hold for none as well.
+    const std::vector<SourceFile> sources = filesBelow("src");
+    const auto found = [&](const std::string& path) {
+        return std::any_of(sources.begin(), sources.end(),
+                           [&](const SourceFile& s) { return s.path == path; });
+    };
+    EXPECT_TRUE(found("src/basis/number_text.cpp"));
+    EXPECT_TRUE(found("src/varnholt.cpp"));
+}
+
+TEST(Architecture, EveryFolderIsAFloor) {
+    for (const SourceFile& source : filesBelow("src"))
+        if (!source.folder().empty()) {
+            EXPECT_EQ(floors.count(source.folder()), 1u) << source.path;
+        }
+}
+
+TEST(Architecture, AFolderIncludesOnlyLowerFloors) {
+    for (const SourceFile& source : filesBelow("src"))
+        for (const Include& include : includesOf(source)) {
+            if (!include.quoted) continue;
+            const std::string used = include.file.substr(0, include.file.find('/'));
+            if (used == source.folder()) continue;
+            EXPECT_LT(floorOf(used), source.folder().empty() ? top : floorOf(source.folder()))
+                << source.path << " includes " << include.file;
+        }
+}
+
+TEST(Architecture, IncludesAreWrittenFromTheSourceFolder) {
+    for (const SourceFile& source : filesBelow("src"))
+        for (const Include& include : includesOf(source))
+            if (include.quoted) {
+                EXPECT_TRUE(std::filesystem::exists(VARNHOLT_SOURCE_DIR "/src/" + include.file))
+                    << source.path << " includes " << include.file;
+            }
+}
+
+TEST(Architecture, QtIsSeenByTheDesktopAlone) {
+    for (const SourceFile& source : filesBelow("src"))
+        for (const Include& include : includesOf(source))
+            EXPECT_TRUE(mayUseQt(source) || !isQt(include))
+                << source.path << " includes " << include.file;
+}
+
+TEST(Architecture, EverySourceNamesItsLicenceFirst) {
+    for (const SourceFile& source : allSources()) {
+        ASSERT_FALSE(source.lines.empty()) << source.path;
+        // A script's first line belongs to the system.
+        const std::size_t line = source.lines[0].starts_with("#!") ? 1 : 0;
+        ASSERT_LT(line, source.lines.size()) << source.path;
+        const std::string licence = "SPDX-License-Identifier: GPL-3.0-or-later";
+        EXPECT_EQ(source.lines[line], (source.isCpp() ? "// " : "# ") + licence) << source.path;
+    }
+}
+
+TEST(Architecture, NoSourceIsTooLongToRead) {
+    for (const SourceFile& source : allSources())
+        EXPECT_TRUE(source.lines.size() <= longestFile || longFiles.count(source.path) > 0)
+            << source.path << " has " << source.lines.size() << " lines";
+}
+
+TEST(Architecture, NoWorkIsLeftOver) {
+    // Written apart, so that this file does not find itself.
+    const std::vector<std::string> marks{
+        "TO"
+        "DO",
+        "FIX"
+        "ME",
+        "XX"
+        "X",
+        "not "
+        "implemented"};
+    for (const SourceFile& source : allSources())
+        for (const std::string& line : source.lines)
+            for (const std::string& mark : marks)
+                EXPECT_EQ(line.find(mark), std::string::npos) << source.path << ": " << line;
+}
+
+}  // namespace
+}  // namespace varnholt
