@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <stdlib.h>
+
+#include <filesystem>
+#include <string>
+
+#include "basis/run_time_error.h"
+#include "catalogue/pump.h"
+#include "catalogue/pump_evaluation.h"
+
+namespace varnholt {
+
+/// A model whose capacity and power are the same whatever the temperatures, without load-flow
+/// data and without an influence of the source flow: q0 = 6, q1 = 9 gpm.
+inline pump plainModel(const std::string& name, double coolingCapacity, double heatingCapacity) {
+    pump model;
+    model.name = name;
+    model.mfgInfo.mfgName = "Maker";
+    model.seriesInfo.seriesName = "Series";
+    model.coefficients.capacity[0] = {coolingCapacity, heatingCapacity};
+    model.coefficients.capacityCorrection[0] = {1, 1};
+    model.coefficients.watts[0] = {2.5, 2};
+    model.coefficients.wattsCorrection[0] = {1, 1};
+    model.coefficients.capacityFlowCorrection[0] = {1, 1};
+    model.coefficients.wattsFlowCorrection[0] = {1, 1};
+    model.flowCf = {{{1, 1}, {1, 1}}};
+    model.ewt[3].flowRate[0].flowRate = 6;
+    model.ewt[3].flowRate[1].flowRate = 9;
+    return model;
+}
+
+/// A day whose peaks are these, in different blocks.
+inline Gains peaks(double coolingPeak, double heatingPeak) {
+    Gains gains{};
+    gains[1][cooling] = coolingPeak;
+    gains[3][heating] = heatingPeak;
+    return gains;
+}
+
+/// The number of the run-time error that an action ends in, 0 for none.
+template <class Action>
+int errorOf(Action&& action) {
+    try {
+        action();
+    } catch (const RunTimeError& error) {
+        return error.number();
+    }
+    return 0;
+}
+
+/// A folder that is gone after the test.
+class TemporaryFolder {
+ public:
+    TemporaryFolder() {
+        path_ = (std::filesystem::temp_directory_path() / "varnholt-test-XXXXXX").string();
+        if (mkdtemp(path_.data()) == nullptr) throw RunTimeError(75);
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
+    const std::string& path() const { return path_; }
+
+ private:
+    std::string path_;
+};
+
+}  // namespace varnholt
