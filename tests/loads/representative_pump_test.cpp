@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "loads/representative_pump.h"
+
+#include <gtest/gtest.h>
+
+#include "catalogue/sample_models.h"
+
+namespace varnholt {
+namespace {
+
+constexpr double close = 1e-12;
+
+/// Ratio 1.25, COP 5 and 4.
+MiniPump evaluated() {
+    MiniPump pump;
+    pump.capacity = {30, 24};
+    pump.efficiency = {5, 4};
+    pump.plf = {0.8, 0.5};
+    return pump;
+}
+
+TEST(RepresentativePump, IsSizedToTheHeatingLoadWhereThatDecides) {
+    // 100 / 1.25 = 80 is below 90. plf stays 0.5: heating 90 / 0.5 = 180, cooling 1.25 x that.
+    const MiniPump pump = fitRepresentativePump(evaluated(), peaks(100, 90), 3);
+    EXPECT_NEAR(pump.plf[heating], 0.5, close);
+    EXPECT_NEAR(pump.capacity[heating], 180, close);
+    EXPECT_NEAR(pump.watts[heating], 90 / (4 * 3.412) / 0.5, close);
+    EXPECT_NEAR(pump.flowRate[heating], 22.5, close);  // 90 x 3 / 12
+    EXPECT_NEAR(pump.capacity[cooling], 225, close);
+    EXPECT_NEAR(pump.flowRate[cooling], 28.125, close);  // 1.25 x 90 x 3 / 12
+    // The part load factor divides twice here: once in the capacity, once more in the power.
+    EXPECT_NEAR(pump.watts[cooling], 225 / (5 * 3.412) / 0.5, close);
+    EXPECT_NEAR(pump.plf[cooling], 100.0 / 225, close);
+}
+
+TEST(RepresentativePump, IsSizedToTheCoolingLoadWhereThatDecides) {
+    // 100 / 1.25 = 80 is not below 70. plf stays 0.8: cooling 125, heating 80 / 0.8 = 100.
+    const MiniPump pump = fitRepresentativePump(evaluated(), peaks(100, 70), 3);
+    EXPECT_NEAR(pump.capacity[cooling], 125, close);
+    EXPECT_NEAR(pump.watts[cooling], 100 / (5 * 3.412) / 0.8, close);
+    EXPECT_NEAR(pump.flowRate[cooling], 25, close);
+    EXPECT_NEAR(pump.capacity[heating], 100, close);
+    EXPECT_NEAR(pump.flowRate[heating], 20, close);
+    EXPECT_NEAR(pump.watts[heating], 100 / (4 * 3.412) / 0.8, close);
+    EXPECT_NEAR(pump.plf[heating], 0.7, close);
+}
+
+TEST(RepresentativePump, WithoutHeatingCapacityHasARatioOfOne) {
+    MiniPump pump = evaluated();
+    pump.capacity[heating] = 0;
+    const MiniPump fitted = fitRepresentativePump(pump, peaks(80, 90), 3);
+    EXPECT_NEAR(fitted.capacity[cooling], fitted.capacity[heating], close);
+    EXPECT_NEAR(fitted.capacity[heating], 180, close);
+}
+
+TEST(RepresentativePump, TakesTheCoolingBranchForEqualPeaksAndARatioOfOne) {
+    MiniPump pump = evaluated();
+    pump.capacity = {30, 30};
+    const MiniPump fitted = fitRepresentativePump(pump, peaks(60, 60), 3);
+    EXPECT_NEAR(fitted.plf[cooling], 0.8, close);  // kept: it is the dominant mode's
+    EXPECT_NEAR(fitted.capacity[cooling], 75, close);
+    EXPECT_NEAR(fitted.plf[heating], 0.8, close);
+}
+
+TEST(RepresentativePump, LimitsAPartLoadFactorAboveOneOrNotAboveZeroToOne) {
+    for (const double plf : {1.5, 0.0, -0.2}) {
+        MiniPump pump = evaluated();
+        pump.plf = {plf, plf};
+        const MiniPump cooled = fitRepresentativePump(pump, peaks(100, 70), 3);
+        EXPECT_EQ(cooled.plf[cooling], 1);
+        EXPECT_NEAR(cooled.capacity[cooling], 100, close);
+        EXPECT_EQ(fitRepresentativePump(pump, peaks(100, 90), 3).plf[heating], 1);
+    }
+    MiniPump pump = evaluated();
+    pump.plf = {1, 1};
+    EXPECT_NEAR(fitRepresentativePump(pump, peaks(100, 70), 3).capacity[cooling], 100, close);
+}
+
+TEST(RepresentativePump, WithoutEfficiencyInTheOtherModeHasNoPowerThere) {
+    MiniPump pump = evaluated();
+    pump.efficiency[heating] = 0;
+    EXPECT_EQ(fitRepresentativePump(pump, peaks(100, 70), 3).watts[heating], 0);
+    EXPECT_EQ(errorOf([&] { fitRepresentativePump(pump, peaks(100, 90), 3); }), 11);
+}
+
+TEST(RepresentativePump, WithoutLoadInTheOtherModeLeavesItsPartLoadFactor) {
+    EXPECT_EQ(fitRepresentativePump(evaluated(), peaks(100, 0), 3).plf[heating], 0.5);
+}
+
+TEST(RepresentativePump, WithoutCoolingCapacityEndsWithDivisionByZero) {
+    MiniPump pump = evaluated();
+    pump.capacity[cooling] = 0;
+    EXPECT_EQ(errorOf([&] { fitRepresentativePump(pump, peaks(100, 90), 3); }), 11);
+}
+
+TEST(RepresentativePump, FollowsFromTheEvaluationOfItsUnits) {
+    // 30 and 24 MBtu/hr, 2.5 and 2 kW each. Load 28 and 20 on one unit; 28 / 1.25 = 22.4: cooling
+    // decides with plf 28 / 30. Two units have half the plf, so that the capacities double.
+    const pump model = plainModel("A", 30, 24);
+    const MiniPump one = representativePump(model, 1, peaks(28, 20), {}, {});
+    EXPECT_NEAR(one.capacity[cooling], 30, close);
+    EXPECT_NEAR(one.capacity[heating], 24, close);
+    EXPECT_NEAR(one.flowRate[cooling], 7, close);
+    EXPECT_NEAR(one.plf[heating], 20.0 / 24, close);
+    EXPECT_EQ(one.customPump, 0);
+    const MiniPump two = representativePump(model, 2, peaks(28, 20), {}, {});
+    EXPECT_NEAR(two.capacity[cooling], 60, close);
+    EXPECT_NEAR(two.flowRate[cooling], 7, close);
+}
+
+TEST(RepresentativePump, HasNoLoadFlowCorrectionAndKeepsItsLoadFlow) {
+    pump model = plainModel("A", 30, 24);
+    model.nominalFlow = 900;
+    model.coefficients.capacityFlowCorrection[0] = {7, 7};
+    MiniPump current;
+    current.elf = {800, 0};
+    const MiniPump fitted = representativePump(model, 1, peaks(28, 20), current, {});
+    EXPECT_EQ(fitted.elf, (ByMode<double>{800, 0}));
+    EXPECT_NEAR(fitted.capacity[cooling], 30, close);
+    EXPECT_EQ(fitted.nominalFlow, 900);
+}
+
+}  // namespace
+}  // namespace varnholt
