@@ -1,0 +1,41 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# shellcheck shell=bash
+# Shared by run, test and check: what has to be installed, and how the program is built.
+# Sourced by them with the root of the tree as the working directory.
+
+# shellcheck disable=SC2034  # Read by the scripts that source this file.
+build_packages=(cmake ninja-build g++ ccache libfmt-dev qt6-base-dev qt6-svg-dev qt6-charts-dev
+    libgtest-dev libbenchmark-dev fonts-inter fonts-dejavu-core)
+
+say() { printf '\n== %s\n' "$*"; }
+
+# Installs those of the named Debian packages that are missing; does nothing when none is.
+install_packages() {
+    local missing=() package root=()
+    for package in "$@"; do
+        dpkg-query -W -f '${db:Status-Abbrev}' "$package" 2>/dev/null | grep -q '^ii' ||
+            missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || {
+            echo "These packages are missing: ${missing[*]}" >&2
+            echo "Run this as root once, or install sudo, so that they can be installed." >&2
+            exit 1
+        }
+        root=(sudo)
+    fi
+    say "Installing ${missing[*]}"
+    "${root[@]}" apt-get update -qq
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# Configures and builds one preset: build_preset release [TARGET...]
+build_preset() {
+    local preset=$1
+    shift
+    say "Building ($preset)"
+    cmake --preset "$preset" >/dev/null
+    cmake --build --preset "$preset" ${1:+--target "$@"}
+}
