@@ -71,7 +71,7 @@ void LineFileWriter::number(double value) { fixed(shortestText(value)); }
 
 void LineFileWriter::integer(std::int16_t value) { fixed(std::to_string(value)); }
 
-void LineFileWriter::date(const Date& value) { fixed("#" + isoText(value) + "#"); }
+void LineFileWriter::date(const Date& value) { fixed('#' + isoText(value) + '#'); }
 
 std::size_t LineFileWriter::count(std::size_t written, std::size_t) {
     fixed(std::to_string(written));
