@@ -18,7 +18,7 @@ std::vector<pump> risingModels(std::int64_t count) {
     double size = 0;
     for (pump& model : models) {
         size += 1.2;
-        model.name.append("M").append(std::to_string(static_cast<int>(size)));
+        model.name = "M" + std::to_string(static_cast<int>(size));
         auto& c = model.coefficients;
         c.capacity = {{{size * 1.5, size * 0.5}, {size * -0.005, size * 0.008}}};
         c.watts = {{{size * 0.03, size * 0.06}, {size * 0.0005, size * 0.0002}}};
