@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/application.h"
+
+#include "basis/file_system.h"
+
+namespace varnholt {
+
+Application::Application(Platform& platform, const Setup& setup) {
+    language_.LoadSatellite(joinPath(setup.resourceFolder, "language"), setup.localeNumber);
+    main_ = std::make_unique<Varnmain>(platform, language_, setup.programFolder);
+}
+
+}  // namespace varnholt
