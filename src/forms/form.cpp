@@ -95,8 +95,9 @@ void Form::leave(const std::string& name) {
 void Form::key(const std::string& name, const std::string& key) {
     const Settling settling(*this);
     const Control& target = control(name);
-    const bool typeable = target.kind() == ControlKind::text ||
-                          target.kind() == ControlKind::richText || target.editable();
+    const bool field = target.kind() == ControlKind::text ||
+                       target.kind() == ControlKind::richText || target.editable();
+    const bool typeable = field && !target.locked();
     if (const KeyHandler& handler = handlersOf(name).key)
         handler(key);
     else if (key == "Ctrl+V" && typeable)

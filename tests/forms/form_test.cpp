@@ -200,6 +200,13 @@ TEST_F(FormTest, PastingReplacesTheText) {
     EXPECT_EQ(form.name, "Riverside");
 }
 
+TEST_F(FormTest, PastingLeavesALockedFieldAlone) {
+    platform.clipboardText = "Riverside";
+    form.control("NameText").setLocked(true);
+    form.key("NameText", "Ctrl+V");
+    EXPECT_EQ(form.control("NameText").text(), "");
+}
+
 TEST_F(FormTest, AControlInAHiddenFrameIsNotShown) {
     EXPECT_TRUE(form.isShown(form.control("Go")));
     form.control("Frame").setVisible(false);

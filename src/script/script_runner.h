@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <ostream>
+#include <string>
+
+#include "script/script_commands.h"
+#include "script/script_fault.h"
+#include "script/script_platform.h"
+#include "script/script_reader.h"
+
+namespace varnholt {
+
+/// Runs a script to its end or to its first fault.
+class ScriptRunner : private ScriptHost {
+ public:
+    /// @param faults takes what is wrong with the script, as "FILE:LINE: what"
+    ScriptRunner(Varnmain& main, ScriptPlatform& platform, Driver& driver, Transcript& transcript,
+                 ScriptReader& reader, std::ostream& faults);
+
+    void setReports(const ReportSource* reports) { commands_.setReports(reports); }
+    /// Ends the process with a status, for programs whose toolkit no exception may pass through;
+    /// called when the script is over while handlers of the program are still under way.
+    void setExit(std::function<void(int)> exit) { exit_ = std::move(exit); }
+
+    /// Returns the program's exit status.
+    int run();
+
+ private:
+    void runModal(Form& form) override;
+    void fail(const ScriptFault& fault) override;
+    [[noreturn]] void unwind();
+
+    void runLines(const Form* modal);
+    void runLine(const ScriptLine& line);
+    void execute(const ScriptLine& line);
+    void report(const std::string& what, ScriptStatus status);
+
+    Varnmain& main_;
+    ScriptPlatform& platform_;
+    Driver& driver_;
+    ScriptReader& reader_;
+    std::ostream& faults_;
+    ScriptCommands commands_;
+    std::function<void(int)> exit_;
+    ScriptStatus status_ = ScriptStatus::ran;
+    bool over_ = false;
+};
+
+}  // namespace varnholt
