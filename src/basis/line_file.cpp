@@ -2,6 +2,7 @@
 #include "basis/line_file.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "basis/file_system.h"
 #include "basis/number_text.h"
@@ -37,7 +38,11 @@ void LineFileReader::title(std::string_view) {
     version_ = text.size() < 3 ? 0 : leadingNumber(std::string_view(text).substr(text.size() - 3));
 }
 
-void LineFileReader::number(double& value) { value = leadingNumber(line()); }
+void LineFileReader::number(double& value) {
+    const double read = leadingNumber(line());
+    if (!std::isfinite(read)) throw RunTimeError(6);
+    value = read;
+}
 
 void LineFileReader::integer(std::int16_t& value) { value = toInteger(leadingNumber(line())); }
 

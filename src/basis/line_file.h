@@ -17,7 +17,8 @@ inline constexpr std::string_view fileVersion = "3.0";
 /// Reads a line-oriented text file item by item. LineFileReader and LineFileWriter have the same
 /// members, so that one function template describes a file in both directions.
 ///
-/// A line past the end is RunTimeError 62; a whole number beyond 16 bits is RunTimeError 6.
+/// A line past the end is RunTimeError 62; a whole number beyond 16 bits and a number beyond a
+/// double are RunTimeError 6.
 class LineFileReader {
  public:
     static constexpr bool reading = true;

@@ -140,5 +140,19 @@ TEST(LineFile, WritesWhatItReads) {
               "Test Version 3.0\r\n0.3333333333333333\r\n-7\r\n#2026-01-15#\r\ntwo  lines\r\n");
 }
 
+TEST(LineFile, RefusesANumberBeyondADouble) {
+    for (const char* text : {"1e999", "-1e999"}) {
+        LineFileReader file(text);
+        double value = 7;
+        try {
+            file.number(value);
+            FAIL() << text;
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.number(), 6);
+        }
+        EXPECT_EQ(value, 7);
+    }
+}
+
 }  // namespace
 }  // namespace varnholt
