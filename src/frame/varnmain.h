@@ -71,6 +71,9 @@ class Varnmain : public Form {
 
     /// Puts the enabled state of every menu entry and button and the unit marks right.
     void refreshCommands();
+    /// A project or zone file has been opened or saved: whoever keeps the recent files hears of it.
+    std::function<void(const std::string& path)> fileUsed = [](const std::string&) {};
+
     /// Called by a window that has switched its units.
     void unitsSwitched(ChildWindow& window);
     UnitSystem units() const;

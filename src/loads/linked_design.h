@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -46,10 +45,6 @@ class LinkedDesign : public DesignDocument {
     ByMode<double> inletLoadWaterTemp{55, 100};
     ByMode<double> minflowRate{2.8, 4.2};
     double flowRate = 3;
-
-    /// What the window's set-up reads over the built-in values and before it shows anything: the
-    /// project's file, or the defaults of its kind. Whoever opens the window sets it.
-    std::function<void()> readStored;
 
     /// Copies zones, series, flow and temperatures from the linked loads window when its zones
     /// differ from the design's, then its project data the other way. Does nothing when unlinked.
