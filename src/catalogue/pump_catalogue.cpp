@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/pump_catalogue.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "basis/file_system.h"
