@@ -28,15 +28,17 @@ LoadsWindow* chooseLoadsWindow(Varnmain& main) {
     return main.isOpen(chosen) ? chosen : nullptr;
 }
 
-/// Shows the design's link on both windows and, for the first time, brings its loads over.
-void linkWithTransfer(LinkedDesign& design, LoadsWindow& loads) {
+/// Shows the design's link on both windows and, for the first time, brings its loads over. False
+/// when one of them was closed on the way.
+bool linkWithTransfer(LinkedDesign& design, LoadsWindow& loads) {
     Varnmain& main = design.main();
     joinLoads(design, loads);
     design.element("imgLinkLight", 6).setVisible(false);
     design.TransferLoadsVariablesIn();
-    if (!main.isOpen(&design) || design.LoadsHome == nullptr) return;
+    if (!main.isOpen(&design) || design.LoadsHome == nullptr) return false;
     design.showLinkLight();
     loads.setLight(true);
+    return true;
 }
 
 /// A design without a series takes the loads window's: no series is no choice.
@@ -51,8 +53,7 @@ void linkDesign(LinkedDesign& design) {
     LoadsWindow* loads = chooseLoadsWindow(design.main());
     if (loads == nullptr) return;
     loads->switchUnits(design.units());
-    linkWithTransfer(design, *loads);
-    if (design.LoadsHome != nullptr) shareSeries(design, *loads);
+    if (linkWithTransfer(design, *loads)) shareSeries(design, *loads);
 }
 
 /// Only one free design is an unmistakable partner.
@@ -66,8 +67,7 @@ void linkLoadsWindow(LoadsWindow& loads) {
     }
     if (freeDesigns != 1) return;
     partner->switchUnits(loads.units());
-    linkWithTransfer(*partner, loads);
-    partner->activeSeries = loads.activeSeries;
+    if (linkWithTransfer(*partner, loads)) partner->activeSeries = loads.activeSeries;
 }
 
 /// Every window that is linked to the loads window goes over to its units.
@@ -101,8 +101,10 @@ std::vector<LinkedDesign*> designsLinkedTo(const LoadsWindow& loads) {
 
 void mnuLink_Click(Varnmain& main) {
     ChildWindow* active = main.activeWindow();
-    if (auto* design = dynamic_cast<LinkedDesign*>(active)) linkDesign(*design);
-    if (auto* loads = dynamic_cast<LoadsWindow*>(active)) linkLoadsWindow(*loads);
+    if (auto* design = dynamic_cast<LinkedDesign*>(active))
+        linkDesign(*design);
+    else if (auto* loads = dynamic_cast<LoadsWindow*>(active))
+        linkLoadsWindow(*loads);
 }
 
 void mnuUnlink_Click(Varnmain& main) {
