@@ -60,7 +60,7 @@ bool NumericFields::applyRange(const NumericFieldRow& row) {
     const bool below = value < row.lowest || (row.lowestIsRefused && value == row.lowest);
     // Written so that a value that is no number is refused too.
     if (!below && value <= row.highest) return false;
-    row.stored.set(below ? row.ifBelow.value_or(row.fallback) : row.ifAbove.value_or(row.fallback));
+    row.stored.set((below ? row.ifBelow : row.ifAbove).value_or(fallbackOf(row)));
     show(row.control);
     return true;
 }
@@ -73,7 +73,7 @@ void NumericFields::left(const std::string& control) {
     const bool empty = form_.control(control).text().empty();
     const bool unparsable = row.unparsable && value == *row.unparsable;
     if (unparsable || (neutral && empty)) {
-        row.stored.set(row.whenEmpty.value_or(row.fallback));
+        row.stored.set(row.whenEmpty.value_or(fallbackOf(row)));
         if (row.changed) row.changed();
         if (manner_.changed) manner_.changed();
     }
@@ -91,6 +91,10 @@ void NumericFields::show(const std::string& control) {
 void NumericFields::showAll(std::string_view prefix) {
     for (const std::string& name : order_)
         if (std::string_view(name).substr(0, prefix.size()) == prefix) show(name);
+}
+
+double NumericFields::fallbackOf(const NumericFieldRow& row) {
+    return row.fallbackNow ? row.fallbackNow() : row.fallback;
 }
 
 std::string_view NumericFields::formatOf(const NumericFieldRow& row) const {

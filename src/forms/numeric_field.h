@@ -44,13 +44,14 @@ struct NumericFieldRow {
     std::string_view metricFormat = {};  ///< when it differs
 
     // What only some fields need.
-    std::optional<double> ifBelow{};     ///< instead of the fallback, below the lowest
-    std::optional<double> ifAbove{};     ///< instead of the fallback, above the highest
-    bool lowestIsRefused = false;        ///< the lowest value itself is refused
-    std::optional<double> unparsable{};  ///< stored for text that is no number (0 otherwise)
-    std::optional<double> whenEmpty{};   ///< instead of the fallback, for a field left empty
-    std::function<void()> changed{};     ///< after the value is stored, before the form is told
-    std::function<void()> left{};        ///< after the field has been reformatted
+    std::optional<double> ifBelow{};        ///< instead of the fallback, below the lowest
+    std::optional<double> ifAbove{};        ///< instead of the fallback, above the highest
+    bool lowestIsRefused = false;           ///< the lowest value itself is refused
+    std::optional<double> unparsable{};     ///< stored for text that is no number (0 otherwise)
+    std::optional<double> whenEmpty{};      ///< instead of the fallback, for a field left empty
+    std::function<double()> fallbackNow{};  ///< instead of the fallback, where it depends
+    std::function<void()> changed{};        ///< after the value is stored, before the form is told
+    std::function<void()> left{};           ///< after the field has been reformatted
 };
 
 /// What the fields of one form have in common.
@@ -83,6 +84,7 @@ class NumericFields {
 
  private:
     void store(const NumericFieldRow& row);
+    static double fallbackOf(const NumericFieldRow& row);
     bool applyRange(const NumericFieldRow& row);
     std::string_view formatOf(const NumericFieldRow& row) const;
 

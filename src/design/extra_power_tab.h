@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+
+#include "design/design_tab.h"
+#include "design/design_values.h"
+
+namespace varnholt {
+
+/// Electric power besides the heat pumps': circulation pump, additional power, cooling tower.
+class ExtraPowerTab : public DesignTab {
+ public:
+    ExtraPowerTab(GroundDesign& design, ExtraPowerValues& power);
+
+    void setUnitLabels() override;
+
+ private:
+    /// A motor: the shaft power that is typed, its efficiency, the input power that follows.
+    struct Motor {
+        std::size_t input, shaft, efficiency;  ///< elements of the two arrays
+        const char* frame;
+        int powerCaption, efficiencyCaption;
+    };
+    static const Motor motors[3];
+
+    void addMotor(const Motor& motor);
+    void addAdditional();
+    void updateInput(const Motor& motor);
+    void showInput(const Motor& motor);
+
+    ExtraPowerValues& power_;
+};
+
+}  // namespace varnholt

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+
+#include "design/ground_design.h"
+
+namespace varnholt {
+
+class frmBHDesign;
+
+/// Registers the command NewBorehole, for designs that know no files. Whoever knows files registers
+/// the command again, with newBorehole and what he gives each new window.
+void installDesign(Varnmain& main);
+
+/// Takes a slot and opens a borehole design in it, a new one or, while `openCall` is set, the one
+/// named in the common dialog. Null, after a message, when all slots are in use.
+/// @param filesOf  called before the window is set up
+frmBHDesign* newBorehole(Varnmain& main,
+                         const std::function<DesignFiles(frmBHDesign&)>& filesOf = {});
+
+}  // namespace varnholt

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "basis/mode.h"
+#include "design/design_tab.h"
+
+namespace varnholt {
+
+struct LoadsRollUp;
+
+/// One row of the results: elements 0 and 1 of the label array are its values, element 2 its
+/// caption, which carries the unit.
+struct ResultRow {
+    std::string label;
+    int metricCaption, englishCaption;
+    std::function<std::string(Mode)> value;
+    bool isLength = false;  ///< black in the governing mode
+};
+
+/// The results by mode, and the Calculate button.
+class ResultsTab : public DesignTab {
+ public:
+    ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int frameCaption);
+
+    void setUnitLabels() override;
+    /// Greys one mode's figures and paints the other's in its colour.
+    void paintGoverning(Mode greyed);
+
+ private:
+    std::vector<ResultRow> rows_;
+};
+
+/// The rows that every kind of design has below its lengths.
+/// @param penalty  long-term drift of the ground, degF
+std::vector<ResultRow> unitRows(const GroundDesign& design, const LoadsRollUp& rollUp);
+ResultRow soilChangeRow(const GroundDesign& design, const ByMode<double>& penalty);
+
+/// A figure as the results show it.
+std::string shownAs(const Quantity& quantity, const GroundDesign& design, double value,
+                    std::string_view format = "###0.0");
+
+}  // namespace varnholt

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "design/tower_panel.h"
+
+#include <array>
+#include <utility>
+
+#include "basis/number_text.h"
+#include "basis/run_time_error.h"
+#include "design/ground_design.h"
+#include "design/modCalculations/cooling_tower.h"
+
+namespace varnholt {
+
+using modCalculations::CoolingTower;
+
+namespace {
+
+constexpr std::size_t capacity = 0;
+constexpr std::size_t flow = 1;
+constexpr std::size_t range = 2;
+
+// Up-downs without a limit of their own end where 16 bits do, or at a range that no tower has.
+constexpr double largestFlow = 32767;
+constexpr double largestRange = 100;
+
+std::string element(const char* label, int index) {
+    return std::string(label) + "(" + std::to_string(index) + ")";
+}
+
+}  // namespace
+
+const TowerPanel::Figure TowerPanel::figures[4] = {
+    {"CACondenserCapacityLabel", "CACondenserCapacityUpDown", 2143, 2144, &quantities::load,
+     &CoolingTower::capacity, "###0.0"},
+    {"CACoolingTowerFlowRateLabel", "CACoolingTowerFlowRateUpDown", 2145, 2146,
+     &quantities::waterFlow, &CoolingTower::flow, "###0.0"},
+    {"CACoolingTowerRangeLabel", "CACoolingRangeUpDown", 2147, 2148,
+     &quantities::temperatureDifference, &CoolingTower::range, "###0.0"},
+    {"CACoolingTowerHoursLabel", nullptr, 2149, 2149, &quantities::plain, &CoolingTower::hours,
+     "####0"},
+};
+
+TowerPanel::TowerPanel(GroundDesign& design, TowerValues& values,
+                       std::function<modCalculations::TowerYear()> year)
+    : DesignTab(design), values_(values), year_(std::move(year)) {
+    const std::string frame = "CAHybridFrame";
+    addFrame(frame, 2142);
+    add("CAPercentHybridLabel(1)", ControlKind::label, frame, 2141);
+    add("CAHybridSlider", ControlKind::slider, frame).setRange(0, 100).setEnabled(false);
+    onSlide("CAHybridSlider", [this] { CAHybridSlider_Change(); });
+    add("CAPercentHybridLabel(0)", ControlKind::label, frame);
+    for (const Figure& figure : figures) addFigure(figure);
+    control("CACoolingTowerFlowRateUpDown").setRange(0, largestFlow);
+    control("CACoolingRangeUpDown").setRange(0, largestRange);
+    onSlide("CACondenserCapacityUpDown", [this] { CACondenserCapacityUpDown_Change(); });
+    onSlide("CACoolingTowerFlowRateUpDown", [this] { CACoolingTowerFlowRateUpDown_Change(); });
+    onSlide("CACoolingRangeUpDown", [this] { CACoolingRangeUpDown_Change(); });
+    paint(colours::greyed);
+}
+
+void TowerPanel::addFigure(const Figure& figure) {
+    addUnitLabel(element(figure.label, 1), "CAHybridFrame", figure.metricCaption,
+                 figure.englishCaption);
+    add(element(figure.label, 0), ControlKind::label, "CAHybridFrame");
+    if (figure.upDown != nullptr) add(figure.upDown, ControlKind::upDown, "CAHybridFrame");
+}
+
+void TowerPanel::setUnitLabels() {
+    DesignTab::setUnitLabels();
+    showPercent();
+    showTower();
+}
+
+void TowerPanel::CAHybridSlider_Change() {
+    GroundDesign& design = this->design();
+    if (design.settingUnits) return;
+    Control& slider = control("CAHybridSlider");
+    if (design.hybridOn) {
+        slider.setValue(values_.hybridPercent);
+        return;
+    }
+    values_.hybridPercent = toInteger(slider.value());
+    showPercent();
+    const Varnmain& frame = design.main();
+    design.hybridOn = true;
+    design.CACalculateCommand_Click();
+    if (frame.isOpen(&design)) design.hybridOn = false;
+}
+
+double TowerPanel::trimmed(const Figure& figure) {
+    Control& label = control(element(figure.label, 0));
+    label.setCaption(formatNumber(control(figure.upDown).value(), figure.format));
+    return figure.quantity->stored(leadingNumber(label.caption()), design().units());
+}
+
+void TowerPanel::CACondenserCapacityUpDown_Change() {
+    values_.tower = modCalculations::trimCapacity(values_.tower, trimmed(figures[capacity]),
+                                                  year_(), design().fluid.fluid());
+    showTower();
+}
+
+void TowerPanel::CACoolingTowerFlowRateUpDown_Change() {
+    values_.tower =
+        modCalculations::trimFlow(values_.tower, trimmed(figures[flow]), design().fluid.fluid());
+    showTower();
+}
+
+void TowerPanel::CACoolingRangeUpDown_Change() {
+    values_.tower =
+        modCalculations::trimRange(values_.tower, trimmed(figures[range]), design().fluid.fluid());
+    showTower();
+}
+
+void TowerPanel::showPercent() {
+    control("CAHybridSlider").setValue(values_.hybridPercent);
+    control("CAPercentHybridLabel(0)")
+        .setCaption(formatNumber(values_.hybridPercent, "###0") + " " + text(2150));
+}
+
+void TowerPanel::showTower() {
+    const double highest = quantities::load.shown(values_.tower.capacityMax, design().units());
+    control("CACondenserCapacityUpDown").setRange(0, highest);
+    for (const Figure& figure : figures) showFigure(figure);
+}
+
+void TowerPanel::showFigure(const Figure& figure) {
+    Control& label = control(element(figure.label, 0));
+    label.setCaption(formatNumber(
+        figure.quantity->shown(values_.tower.*figure.value, design().units()), figure.format));
+    if (figure.upDown != nullptr) control(figure.upDown).setValue(leadingNumber(label.caption()));
+}
+
+void TowerPanel::wake() {
+    control("CAHybridSlider").setEnabled(true);
+    paint(colours::black);
+}
+
+void TowerPanel::rest() {
+    control("CAHybridSlider").setEnabled(false);
+    paint(colours::greyed);
+}
+
+void TowerPanel::drop() {
+    values_.hybridPercent = 0;
+    values_.tower.capacityMax = 0;
+    showPercent();
+}
+
+void TowerPanel::paint(int colour) {
+    control("CAHybridFrame").setForecolor(colour);
+    for (const int index : {0, 1}) {
+        control(element("CAPercentHybridLabel", index)).setForecolor(colour);
+        for (const Figure& figure : figures)
+            control(element(figure.label, index)).setForecolor(colour);
+    }
+}
+
+}  // namespace varnholt
