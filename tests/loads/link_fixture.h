@@ -30,7 +30,7 @@ class PlainLoads : public LoadsWindow {
     bool hasUnsavedChanges() const override { return unsaved; }
     bool CheckForSave() override { return true; }
     void LOSaveCommand_Click() override { unsaved = false; }
-    void LOOpenZoneFile(const std::string&) override {}
+    bool LOOpenZoneFile(const std::string&) override { return true; }
     void InitializeHeatPumpLists() override { ++listsRead; }
     void SetFluidsTabbedPaneSwitchVariables() override { ++fluidsShown; }
     void LOUpdatePumpsCommand_Click() override { ++pumpsUpdated; }
