@@ -95,6 +95,7 @@ void ScriptCommands::leave(std::string rest) {
     const Target target =
         workable(rest, {Kind::text, Kind::richText, Kind::combo, Kind::list, Kind::date,
                         Kind::slider, Kind::upDown, Kind::button, Kind::check, Kind::option});
+    requireEnd(rest);
     driver_.leave(target.form, target.control);
 }
 
@@ -110,6 +111,9 @@ void ScriptCommands::key(std::string rest) {
 
 void ScriptCommands::click(std::string rest) {
     const Target target = workable(rest, {Kind::button, Kind::option, Kind::menu, Kind::check});
+    requireEnd(rest);
+    if (target.control.kind() == Kind::menu && target.control.caption().empty())
+        throw ScriptFault(fmt::format("{} is a line between entries", target.control.name()));
     driver_.click(target.form, target.control);
 }
 

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include "scripts/script_run.h"
+
+namespace varnholt {
+namespace {
+
+/// varnholt-script as it is called from a shell.
+class Program : public testing::Test {
+ protected:
+    /// @param arguments the rest of the command line, redirections included
+    ScriptOutcome call(const std::string& arguments) const {
+        const std::string out = (temporary.path() / "out").string();
+        const std::string faults = (temporary.path() / "faults").string();
+        const std::string command = "cd '" + temporary.path().string() + "' && HOME='" +
+                                    temporary.path().string() +
+                                    "' XDG_DATA_HOME= " + VARNHOLT_BIN_DIR "/varnholt-script " +
+                                    arguments + " >'" + out + "' 2>'" + faults + "'";
+        const int status = std::system(command.c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, wholeFile(out), wholeFile(faults)};
+    }
+
+    void write(const std::string& name, const std::string& text) const {
+        std::ofstream(temporary.path() / name) << text;
+    }
+
+    TemporaryFolder temporary;
+};
+
+const std::string printUnits = "print Varnmain.Metric.checked\n";
+
+TEST_F(Program, ReadsAFileOrStandardInput) {
+    write("units.vscript", printUnits);
+    const std::string expected = "Varnmain.Metric.checked = false\n";
+    const std::string options = " --locale 409 --program-folder . ";
+    EXPECT_EQ(call("units.vscript" + options).transcript, expected);
+    EXPECT_EQ(call(options + "< units.vscript").transcript, expected);
+    EXPECT_EQ(call("-" + options + "< units.vscript").transcript, expected);
+}
+
+TEST_F(Program, NamesTheFileAndTheLineOfAFault) {
+    write("bad.vscript", "# first\ndance\n");
+    const ScriptOutcome file = call("bad.vscript --program-folder .");
+    EXPECT_EQ(file.status, 2);
+    EXPECT_EQ(file.faults, "bad.vscript:2: dance is no command\n");
+    EXPECT_EQ(call("--program-folder . < bad.vscript").faults, "-:2: dance is no command\n");
+}
+
+TEST_F(Program, AnUnknownOptionAndAMissingFileAreStatusTwo) {
+    const ScriptOutcome option = call("--fast </dev/null");
+    EXPECT_EQ(option.status, 2);
+    EXPECT_EQ(option.faults, "varnholt-script: unknown option --fast\n");
+    const ScriptOutcome missing = call("missing.vscript");
+    EXPECT_EQ(missing.status, 2);
+    EXPECT_EQ(missing.faults, "varnholt-script: missing.vscript cannot be read\n");
+    EXPECT_EQ(call(".").status, 2);
+}
+
+TEST_F(Program, TellsItsOptionsAndItsVersion) {
+    const ScriptOutcome help = call("--help");
+    EXPECT_EQ(help.status, 0);
+    EXPECT_NE(help.transcript.find("--program-folder"), std::string::npos);
+    const ScriptOutcome version = call("--version");
+    EXPECT_EQ(version.status, 0);
+    EXPECT_EQ(version.transcript.substr(0, 16), "varnholt-script ");
+}
+
+TEST_F(Program, TheLocaleSettlesTheUnitsToStartWith) {
+    write("units.vscript", printUnits);
+    EXPECT_EQ(call("units.vscript --program-folder . --locale 407").transcript,
+              "Varnmain.Metric.checked = true\n");
+    EXPECT_EQ(call("units.vscript --program-folder . --locale 407 --locale 409").transcript,
+              "Varnmain.Metric.checked = false\n");
+}
+
+TEST_F(Program, AProgramFolderIsUsedAsItStandsAndTheUsersOwnIsFilled) {
+    std::filesystem::create_directory(temporary.path() / "own");
+    EXPECT_EQ(call("--program-folder own </dev/null").status, 0);
+    EXPECT_TRUE(std::filesystem::is_empty(temporary.path() / "own"));
+    EXPECT_FALSE(std::filesystem::exists(temporary.path() / ".local"));
+    EXPECT_EQ(call("</dev/null").status, 0);
+    EXPECT_TRUE(
+        std::filesystem::exists(temporary.path() / ".local/share/varnholt/pumps/PumpList.vht"));
+}
+
+TEST_F(Program, TheProgramFolderIsKnownByItsFullPath) {
+    write("folder.vscript", "value Varnmain.MainDirectory\n");
+    EXPECT_EQ(call("folder.vscript --program-folder ./own/").transcript,
+              "value Varnmain.MainDirectory = \"" + (temporary.path() / "own").string() + "\"\n");
+}
+
+}  // namespace
+}  // namespace varnholt
