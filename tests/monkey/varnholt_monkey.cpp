@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <fmt/format.h>
+#include <unistd.h>
+
+#include <charconv>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "app/application.h"
+#include "monkey/monkey.h"
+#include "script/form_driver.h"
+#include "tools/program_folder.h"
+
+namespace varnholt {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* usage =
+    "varnholt-monkey [--seed N] [--presses N] [--trace FILE] [--aloud]\n"
+    "A random user of every window. A failure's last session is written to FILE\n"
+    "(default monkey.vscript) as a script.\n";
+
+struct Options {
+    std::uint64_t seed = 1;
+    std::size_t presses = 2000;
+    std::string trace = "monkey.vscript";
+    bool aloud = false;
+};
+
+std::uint64_t readWhole(const std::string& text) {
+    std::uint64_t number = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (result.ec != std::errc{} || result.ptr != text.data() + text.size())
+        throw std::invalid_argument(text + " is not a whole number");
+    return number;
+}
+
+Options readOptions(const std::vector<std::string>& arguments) {
+    Options options;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& name = arguments[i];
+        const auto value = [&] { return i + 1 < arguments.size() ? arguments[++i] : ""; };
+        if (name == "--seed")
+            options.seed = readWhole(value());
+        else if (name == "--presses")
+            options.presses = readWhole(value());
+        else if (name == "--trace")
+            options.trace = value();
+        else if (name == "--aloud")
+            options.aloud = true;
+        else
+            throw std::invalid_argument(name + " is no option\n" + usage);
+    }
+    return options;
+}
+
+/// A program folder of one session, which goes with it.
+class SessionFolder {
+ public:
+    explicit SessionFolder(std::uint64_t seed)
+        : path_(fs::temp_directory_path() / fmt::format("varnholt-monkey-{}-{}", seed, getpid())) {
+        fs::remove_all(path_);
+        fillProgramFolder(path_.string(), installedFiles());
+    }
+    SessionFolder(const SessionFolder&) = delete;
+    SessionFolder& operator=(const SessionFolder&) = delete;
+    ~SessionFolder() {
+        std::error_code ignored;
+        fs::remove_all(path_, ignored);
+    }
+    std::string path() const { return path_.string(); }
+
+ private:
+    fs::path path_;
+};
+
+/// The program from its start to its end, or to so many presses. Returns the presses done.
+std::size_t playSession(std::size_t presses, std::uint64_t seed, Dice& dice, MonkeyLog& log) {
+    const SessionFolder folder(seed);
+    const unsigned locale = dice.chance(70) ? 0x409 : 0x407;
+    log.clear();
+    log.action(fmt::format("# --today 2026-01-15 --locale {:x}", locale));
+    std::ostringstream unheard;
+    Transcript transcript(unheard);
+    MonkeyPlatform platform(transcript, folder.path(), dice, log);
+    Application application(platform, {folder.path(), installedFiles().resources, locale});
+    application.start();
+    FormDriver driver(application.main());
+    Monkey monkey(application.main(), platform, driver, dice, log);
+    while (monkey.running() && monkey.presses() < presses) {
+        monkey.press();
+        unheard.str("");
+    }
+    return monkey.presses();
+}
+
+void writeTrace(const std::string& path, const MonkeyLog& log) {
+    std::ofstream file(path);
+    for (const std::string& line : log.lines()) file << line << '\n';
+}
+
+int play(const Options& options) {
+    Dice dice(options.seed);
+    MonkeyLog log(options.aloud);
+    std::size_t done = 0, sessions = 0;
+    try {
+        for (; done < options.presses; ++sessions)
+            done += playSession(std::min(options.presses - done, 200 + dice.below(1800)),
+                                options.seed, dice, log);
+    } catch (const std::exception& exception) {
+        writeTrace(options.trace, log);
+        std::cerr << fmt::format("seed {}, after {} presses: {}\nSee {}\n", options.seed, done,
+                                 exception.what(), options.trace);
+        return 1;
+    }
+    std::cout << fmt::format("{} presses in {} sessions\n", done, sessions);
+    return 0;
+}
+
+}  // namespace
+}  // namespace varnholt
+
+int main(int count, char** arguments) {
+    using namespace varnholt;
+    try {
+        return play(readOptions({arguments + 1, arguments + count}));
+    } catch (const std::exception& exception) {
+        std::cerr << "varnholt-monkey: " << exception.what() << '\n';
+        return 2;
+    }
+}
