@@ -9,9 +9,10 @@ if(VARNHOLT_DESKTOP)
 endif()
 install(TARGETS ${programs} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 
-# The programs look for their files in ../share/varnholt.
+# The programs look for their files in ../share/varnholt. The windows' pictures are compiled in.
 set(shared ${CMAKE_INSTALL_DATADIR}/varnholt)
-install(DIRECTORY resources/ DESTINATION ${shared} PATTERN "*.py" EXCLUDE)
+install(DIRECTORY resources/ DESTINATION ${shared}
+        PATTERN "*.py" EXCLUDE PATTERN pictures EXCLUDE)
 install(DIRECTORY examples DESTINATION ${shared} PATTERN "*.py" EXCLUDE)
 
 install(FILES packaging/varnholt.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
