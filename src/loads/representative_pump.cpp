@@ -25,25 +25,37 @@ void fitTo(MiniPump& pump, Mode dominant, double load, double otherLoad, double 
     if (otherPeak != 0) pump.plf[other] = divide(otherPeak, pump.capacity[other]);
 }
 
+struct DominantLoad {
+    Mode mode;
+    double ratio;  ///< of the pump's cooling capacity to its heating capacity
+};
+
+/// The mode whose load needs the larger pump of these capacities; cooling where both need the same.
+DominantLoad dominantLoad(const MiniPump& pump, const Gains& gains) {
+    const double ratio =
+        pump.capacity[heating] > 0 ? pump.capacity[cooling] / pump.capacity[heating] : 1;
+    const double coolingAsHeating = divide(peakLoad(gains, cooling), ratio);
+    return {coolingAsHeating < peakLoad(gains, heating) ? heating : cooling, ratio};
+}
+
 }  // namespace
 
 MiniPump representativePump(const pump& model, std::int16_t units, const Gains& gains,
                             const MiniPump& current, const EvaluationConditions& conditions) {
-    return fitRepresentativePump(
-        evaluatePump(model, units, gains, current, conditions, LoadFlowCorrection::omitted), gains,
-        conditions.design.flowRate);
+    MiniPump pump =
+        evaluatePump(model, units, gains, current, conditions, LoadFlowCorrection::omitted);
+    const Mode dominant = dominantLoad(pump, gains).mode;
+    pump.plf[dominant] = current.plf[dominant];
+    return fitRepresentativePump(pump, gains, conditions.design.flowRate);
 }
 
 MiniPump fitRepresentativePump(MiniPump pump, const Gains& gains, double flowPerTon) {
-    const double coolingPeak = peakLoad(gains, cooling);
-    const double heatingPeak = peakLoad(gains, heating);
-    const double ratio =
-        pump.capacity[heating] > 0 ? pump.capacity[cooling] / pump.capacity[heating] : 1;
-    const double coolingAsHeating = divide(coolingPeak, ratio);
-    if (coolingAsHeating < heatingPeak)
-        fitTo(pump, heating, heatingPeak, ratio * heatingPeak, coolingPeak, flowPerTon);
+    const DominantLoad dominant = dominantLoad(pump, gains);
+    const double load = peakLoad(gains, dominant.mode);
+    if (dominant.mode == heating)
+        fitTo(pump, heating, load, dominant.ratio * load, peakLoad(gains, cooling), flowPerTon);
     else
-        fitTo(pump, cooling, coolingPeak, coolingAsHeating, heatingPeak, flowPerTon);
+        fitTo(pump, cooling, load, load / dominant.ratio, peakLoad(gains, heating), flowPerTon);
     return pump;
 }
 

@@ -6,7 +6,9 @@
 namespace varnholt {
 
 /// A catalogue model as the representative pump of a building in one block: evaluated without
-/// load-flow correction, then fitted. Throws as evaluatePump and fitRepresentativePump.
+/// load-flow correction, then fitted with the part load factor that the block had before, typed or
+/// imported: so the number of units has no influence on the fit. Throws as evaluatePump and
+/// fitRepresentativePump.
 MiniPump representativePump(const pump& model, std::int16_t units, const Gains& gains,
                             const MiniPump& current, const EvaluationConditions& conditions);
 

@@ -93,19 +93,35 @@ TEST(RepresentativePump, WithoutCoolingCapacityEndsWithDivisionByZero) {
     EXPECT_EQ(errorOf([&] { fitRepresentativePump(pump, peaks(100, 90), 3); }), 11);
 }
 
-TEST(RepresentativePump, FollowsFromTheEvaluationOfItsUnits) {
-    // 30 and 24 MBtu/hr, 2.5 and 2 kW each. Load 28 and 20 on one unit; 28 / 1.25 = 22.4: cooling
-    // decides with plf 28 / 30. Two units have half the plf, so that the capacities double.
+TEST(RepresentativePump, KeepsThePartLoadFactorThatTheBlockHadBefore) {
+    // 30 and 24 MBtu/hr a unit: ratio 1.25, and 28 / 1.25 = 22.4 exceeds 20, so cooling decides.
+    // The block's own 0.8 counts, not 28 / 30: 28 / 0.8 = 35 and 22.4 / 0.8 = 28.
+    const pump model = plainModel("A", 30, 24);
+    MiniPump current;
+    current.plf = {0.8, 0.3};
+    const MiniPump fitted = representativePump(model, 1, peaks(28, 20), current, {});
+    EXPECT_NEAR(fitted.plf[cooling], 0.8, close);
+    EXPECT_NEAR(fitted.capacity[cooling], 35, close);
+    EXPECT_NEAR(fitted.capacity[heating], 28, close);
+    EXPECT_NEAR(fitted.flowRate[cooling], 7, close);
+    EXPECT_NEAR(fitted.plf[heating], 20.0 / 28, close);
+    EXPECT_EQ(fitted.customPump, 0);
+}
+
+TEST(RepresentativePump, OfABlockWithoutPartLoadFactorIsFullyLoaded) {
+    const MiniPump fitted =
+        representativePump(plainModel("A", 30, 24), 1, peaks(28, 20), MiniPump{}, {});
+    EXPECT_EQ(fitted.plf[cooling], 1);
+    EXPECT_NEAR(fitted.capacity[cooling], 28, close);
+}
+
+TEST(RepresentativePump, DoesNotDependOnTheNumberOfUnits) {
     const pump model = plainModel("A", 30, 24);
     const MiniPump one = representativePump(model, 1, peaks(28, 20), {}, {});
-    EXPECT_NEAR(one.capacity[cooling], 30, close);
-    EXPECT_NEAR(one.capacity[heating], 24, close);
-    EXPECT_NEAR(one.flowRate[cooling], 7, close);
-    EXPECT_NEAR(one.plf[heating], 20.0 / 24, close);
-    EXPECT_EQ(one.customPump, 0);
-    const MiniPump two = representativePump(model, 2, peaks(28, 20), {}, {});
-    EXPECT_NEAR(two.capacity[cooling], 60, close);
-    EXPECT_NEAR(two.flowRate[cooling], 7, close);
+    MiniPump two = representativePump(model, 2, peaks(28, 20), {}, {});
+    EXPECT_EQ(two.number, 2);
+    two.number = 1;
+    EXPECT_EQ(two, one);
 }
 
 TEST(RepresentativePump, HasNoLoadFlowCorrectionAndKeepsItsLoadFlow) {
@@ -116,7 +132,7 @@ TEST(RepresentativePump, HasNoLoadFlowCorrectionAndKeepsItsLoadFlow) {
     current.elf = {800, 0};
     const MiniPump fitted = representativePump(model, 1, peaks(28, 20), current, {});
     EXPECT_EQ(fitted.elf, (ByMode<double>{800, 0}));
-    EXPECT_NEAR(fitted.capacity[cooling], 30, close);
+    EXPECT_NEAR(fitted.capacity[cooling], 28, close);
     EXPECT_EQ(fitted.nominalFlow, 900);
 }
 
