@@ -62,16 +62,18 @@ void PumpCatalogue::readPumpNames() {
     }
 }
 
-void PumpCatalogue::readPumps(const std::string& FileName, std::size_t slot) {
+bool PumpCatalogue::readPumps(const std::string& FileName, std::size_t slot) {
     const std::string path = pumpSeriesPath(folder_, FileName);
-    if (!checkFile(path)) return;
+    if (!checkFile(path)) return false;
     PumpSeries series;
     try {
         readPumpSeries(readWholeFile(path), series);
     } catch (const RunTimeError& error) {
         tell(error);
     }
-    if (series != PumpSeries{}) store(std::move(series), slots_.at(slot));
+    if (series == PumpSeries{}) return false;
+    store(std::move(series), slots_.at(slot));
+    return true;
 }
 
 void PumpCatalogue::readActiveSeries(std::size_t slot) {

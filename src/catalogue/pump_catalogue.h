@@ -56,8 +56,9 @@ class PumpCatalogue {
     void InitializeHeatPumpLists();
     /// Reads the catalogue's index alone.
     void readPumpNames();
-    /// Reads a series file by its base name into a slot. A missing file leaves the slot as it is.
-    void readPumps(const std::string& FileName, std::size_t slot);
+    /// Reads a series file by its base name into a slot. False when nothing could be read; the
+    /// slot is then as it was.
+    bool readPumps(const std::string& FileName, std::size_t slot);
     /// Reads the series that `activeSeries` names, or the first one, into a slot.
     void readActiveSeries(std::size_t slot);
     /// Makes a series the active one and loads it into slot 0.

@@ -263,10 +263,11 @@ void Varnmain::runModal(Form& form) {
 
 bool Varnmain::queryClose() {
     saveCancelled = false;
+    closing = true;
     // Newest first, as the windows lie on one another.
-    while (!windows_.empty())
-        if (!close(*windows_.back())) return false;
-    return true;
+    while (!windows_.empty() && close(*windows_.back())) continue;
+    closing = false;
+    return windows_.empty();
 }
 
 bool Varnmain::usable(const Command& command) const {

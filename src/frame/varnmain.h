@@ -34,6 +34,8 @@ class Varnmain : public Form {
     void start();
 
     void setCommand(const std::string& entry, CommandNeeds needs, std::function<void()> run);
+    /// Whether a subsystem has registered the command.
+    bool hasCommand(const std::string& entry) const { return commands_.count(entry) > 0; }
 
     // Child windows.
     /// Runs the window's set-up, shows it and makes it the active one.
@@ -95,6 +97,8 @@ class Varnmain : public Form {
     std::string commonDialogFile;
     bool openCall = false;
     bool saveCancelled = false;
+    /// The main window itself is being closed, and asks its windows one by one.
+    bool closing = false;
     std::int16_t windowCounter = 0;
     std::int16_t browserCount = 0;
     std::int16_t PrintOption = 0, LinkOption = 0, TransferOption = 0;

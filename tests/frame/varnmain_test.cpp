@@ -21,11 +21,14 @@ class TestDesign : public DesignDocument {
         setCaption(baseCaption() + " #" + std::to_string(main.windowCounter));
     }
     std::string baseCaption() const override { return "Design"; }
-    bool queryClose() override { return mayClose; }
+    bool queryClose() override {
+        askedByFrame = main().closing;
+        return mayClose;
+    }
     void unloaded() override { main().releaseSlot(DesignKind::borehole, counter); }
     void MetricCheck_Click() override { ++unitSwitches; }
 
-    bool mayClose = true;
+    bool mayClose = true, askedByFrame = false;
     int unitSwitches = 0;
 };
 
@@ -162,6 +165,21 @@ TEST_F(VarnmainTest, ACancelInOneChildStopsTheCloseOfTheFrame) {
     main.click("mnuFileExit");
     EXPECT_EQ(platform.quitResult, true);
     EXPECT_TRUE(main.windows().empty());
+}
+
+TEST_F(VarnmainTest, AWindowCanTellThatTheFrameIsClosing) {
+    main.click("NewBorehole");
+    design(0).mayClose = false;
+    main.close(design(0));
+    EXPECT_FALSE(design(0).askedByFrame);
+    main.click("mnuFileExit");
+    EXPECT_TRUE(design(0).askedByFrame);
+    EXPECT_FALSE(main.closing);
+}
+
+TEST_F(VarnmainTest, KnowsWhichCommandsAreRegistered) {
+    EXPECT_TRUE(main.hasCommand("NewBorehole"));
+    EXPECT_FALSE(main.hasCommand("mnuEqvHours"));
 }
 
 TEST_F(VarnmainTest, ClosingAWindowBringsTheOneBeforeItToTheFront) {
