@@ -56,7 +56,7 @@ void NumericFields::store(const NumericFieldRow& row) {
 bool NumericFields::applyRange(const NumericFieldRow& row) {
     const double value = row.stored.get();
     const std::string& text = form_.control(row.control).text();
-    if (text.empty() || (row.unparsable && value == *row.unparsable)) return false;
+    if (text.empty() || (row.unparsable && !readLeadingNumber(text))) return false;
     const bool below = value < row.lowest || (row.lowestIsRefused && value == row.lowest);
     // Written so that a value that is no number is refused too.
     if (!below && value <= row.highest) return false;

@@ -161,6 +161,12 @@ TEST_F(FormTest, TextThatIsNoNumberIsHeldUntilTheFieldIsLeft) {
     EXPECT_EQ(form.control("DaysText").text(), "7.0");
 }
 
+TEST_F(FormTest, ANumberThatLooksLikeTheHeldValueIsRefusedAtOnce) {
+    form.type("DaysText", "-1");
+    EXPECT_EQ(form.days, 7);
+    EXPECT_EQ(form.control("DaysText").text(), "7.0");
+}
+
 TEST_F(FormTest, ALowestValueThatIsItselfRefusedFallsBack) {
     form.type("FlowText", "0");
     EXPECT_EQ(form.flow, 3);
