@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "basis/line_file.h"
+#include "design/ground_design.h"
+#include "frame/design_slots.h"
+
+namespace varnholt {
+
+/// How one kind of design is made and stored. Kinds differ in this row and in nothing else: the
+/// commands and the file's head are the same for all.
+struct DesignFileKind {
+    DesignKind kind;
+    const char* newCommand;         ///< menu entry that opens an empty one
+    std::string_view title;         ///< second line of its files
+    std::string_view defaultsFile;  ///< in the program's folder
+    std::unique_ptr<GroundDesign> (*make)(Varnmain& main, std::int16_t slot);
+    void (*readProject)(LineFileReader& file, GroundDesign& design);
+    void (*writeProject)(LineFileWriter& file, GroundDesign& design);
+    void (*readDefaults)(LineFileReader& file, GroundDesign& design);
+    void (*writeDefaults)(LineFileWriter& file, GroundDesign& design);
+    /// After a project has been read: links it with its loads again and shows which mode governs.
+    void (*findLoads)(GroundDesign& design);
+};
+
+std::span<const DesignFileKind> designFileKinds();
+const DesignFileKind& fileKindOf(const GroundDesign& design);
+/// The kind that a project file's second line names; null when this program has no such design.
+const DesignFileKind* fileKindOfTitle(std::string_view line);
+
+/// The project as the bytes of a file of the newest version.
+std::string projectText(GroundDesign& design);
+/// Reads a project of any version. Throws RunTimeError 62 or 6 when the file ends early or holds
+/// a whole number beyond 16 bits; the values read so far then stay.
+void readProjectText(std::string_view bytes, GroundDesign& design);
+
+/// Replaces the project file whole. Throws as replaceWholeFile.
+void saveVHTFile(GroundDesign& design, const std::string& path);
+/// Reads a project file into the design. Throws as readWholeFile and readProjectText.
+void readVHTFile(GroundDesign& design, const std::string& path);
+
+/// Replaces the defaults file of the design's kind in the program's folder.
+void saveINIFile(GroundDesign& design);
+/// Overlays the built-in values with the defaults file of the kind; without one nothing changes.
+void readINIFile(GroundDesign& design);
+
+}  // namespace varnholt

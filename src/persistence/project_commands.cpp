@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "persistence/project_commands.h"
+
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "basis/file_system.h"
+#include "basis/line_file.h"
+#include "basis/run_time_error.h"
+#include "design/ground_design.h"
+#include "frame/varnmain.h"
+#include "loads/links.h"
+#include "loads/loads_window.h"
+#include "persistence/design_files.h"
+#include "persistence/saving.h"
+#include "persistence/zone_link.h"
+
+namespace varnholt {
+namespace {
+
+constexpr int projectsInFilter = 3;
+
+void warn(const Varnmain& main, const std::string& message) {
+    main.platform().message(MessageIcon::exclamation, main.text(1001), message);
+}
+
+void warnOfReading(const Varnmain& main, const RunTimeError& error) {
+    warn(main, main.text(1001) + " - " + error.description());
+}
+
+/// Whether some open design has the file; says so.
+bool isOpenAlready(Varnmain& main, const std::string& path) {
+    if (!isFileInUse(main, path, nullptr)) return false;
+    warn(main, main.text(1201));
+    return true;
+}
+
+void readDefaults(GroundDesign& design) {
+    try {
+        readINIFile(design);
+    } catch (const RunTimeError& error) {
+        warnOfReading(design.main(), error);
+    }
+}
+
+/// Whatever goes wrong, the window keeps the values read so far.
+void readProject(GroundDesign& design) {
+    design.setFile(design.main().commonDialogFile);
+    try {
+        readVHTFile(design, design.filePath());
+    } catch (const RunTimeError& error) {
+        warnOfReading(design.main(), error);
+    }
+    design.workingFileCheck = !design.workingZoneFile.empty();
+    fileKindOf(design).findLoads(design);
+}
+
+/// Opens a window of the kind in the next free slot; its set-up reads the project or the defaults.
+/// Null when all slots are taken.
+GroundDesign* openDesign(Varnmain& main, const DesignFileKind& kind) {
+    const std::int16_t slot = main.takeSlot(kind.kind);
+    if (slot == 0) return nullptr;
+    std::unique_ptr<GroundDesign> made = kind.make(main, slot);
+    GroundDesign& design = *made;
+    design.files.readINIFile = [&design] { readDefaults(design); };
+    design.files.readProject = [&design] { readProject(design); };
+    design.files.queryClose = [&design] { return saveBeforeClosing(design); };
+    main.open(std::move(made));
+    return &design;
+}
+
+/// The kind of design that the file holds; nothing, after a message, when it cannot be told.
+const DesignFileKind* kindOfFile(Varnmain& main, const std::string& path) {
+    try {
+        LineFileReader file = LineFileReader::open(path);
+        file.line();
+        if (const DesignFileKind* kind = fileKindOfTitle(file.line())) return kind;
+        warn(main, main.text(8542));
+    } catch (const RunTimeError& error) {
+        warnOfReading(main, error);
+    }
+    return nullptr;
+}
+
+FileDialog openDialog(const Varnmain& main) {
+    FileDialog dialog;
+    dialog.title = main.text(1018);
+    dialog.folder = joinPath(main.MainDirectory, "work files");
+    dialog.filter = main.text(1220);
+    dialog.filterIndex = projectsInFilter;
+    if (const auto* design = dynamic_cast<DesignDocument*>(main.activeWindow())) {
+        if (!design->directoryName.empty()) dialog.folder = design->directoryName;
+        dialog.proposedName = design->FileName;
+    }
+    return dialog;
+}
+
+std::string extensionOf(const std::string& path) {
+    const std::string name = fileNameOf(path);
+    const std::size_t point = name.rfind('.');
+    std::string extension = point == std::string::npos ? "" : name.substr(point);
+    for (char& letter : extension)
+        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+    return extension;
+}
+
+}  // namespace
+
+void installPersistence(Varnmain& main) {
+    for (const DesignFileKind& row : designFileKinds())
+        main.setCommand(row.newCommand, CommandNeeds::nothing,
+                        [&main, kind = row.kind] { newDesign(main, kind); });
+    for (const char* entry : {"mnuFileOpen", "OpenProject"})
+        main.setCommand(entry, CommandNeeds::nothing, [&main] { mnuFileOpen_Click(main); });
+    for (const char* entry : {"mnuFileSave", "SaveProject"})
+        main.setCommand(entry, CommandNeeds::designOrLoads, [&main] { mnuFileSave_Click(main); });
+    main.setCommand("mnuFileSaveAs", CommandNeeds::design, [&main] { mnuFileSaveAs_Click(main); });
+}
+
+void newDesign(Varnmain& main, DesignKind kind) {
+    for (const DesignFileKind& row : designFileKinds())
+        if (row.kind == kind) openDesign(main, row);
+}
+
+void mnuFileOpen_Click(Varnmain& main) {
+    const std::optional<std::string> chosen = main.platform().chooseFile(openDialog(main));
+    if (chosen) openProjectFile(main, *chosen);
+}
+
+void openProjectFile(Varnmain& main, const std::string& path) {
+    const std::string whole = absolutePath(main, path);
+    if (isOpenAlready(main, whole)) return;
+    const DesignFileKind* kind = kindOfFile(main, whole);
+    if (kind == nullptr) return;
+    main.commonDialogFile = whole;
+    main.TempDirectory = folderOf(whole);
+    main.openCall = true;
+    const GroundDesign* design = openDesign(main, *kind);
+    main.openCall = false;
+    if (design == nullptr) return;
+    main.openWindowFiles(kind->kind, design->counter) = whole;
+    main.fileUsed(whole);
+}
+
+void openZoneFile(Varnmain& main, const std::string& path) {
+    const std::string whole = absolutePath(main, path);
+    LoadsWindow* loads = openLoadsWindow(main, "frmZoneManage");
+    if (loads == nullptr || !loads->CheckForSave()) return;
+    loads->LOOpenZoneFile(whole);
+    main.activate(*loads);
+    main.fileUsed(whole);
+}
+
+void openFile(Varnmain& main, const std::string& path) {
+    main.hideSplash();
+    if (extensionOf(path) == ".zon")
+        openZoneFile(main, path);
+    else
+        openProjectFile(main, path);
+    main.refreshCommands();
+}
+
+void mnuFileSave_Click(Varnmain& main) {
+    ChildWindow* active = main.activeWindow();
+    if (auto* design = dynamic_cast<GroundDesign*>(active)) saveDesign(*design);
+    if (auto* loads = dynamic_cast<LoadsWindow*>(active)) loads->LOSaveCommand_Click();
+}
+
+void mnuFileSaveAs_Click(Varnmain& main) {
+    if (auto* design = dynamic_cast<GroundDesign*>(main.activeWindow())) saveDesignAs(*design);
+}
+
+}  // namespace varnholt

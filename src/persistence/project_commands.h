@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "frame/design_slots.h"
+
+namespace varnholt {
+
+class GroundDesign;
+class Varnmain;
+
+/// Registers the file commands: new, open, save, save as.
+void installPersistence(Varnmain& main);
+
+/// Opens an empty design of the kind with the defaults of the last saved one.
+void newDesign(Varnmain& main, DesignKind kind);
+
+void mnuFileOpen_Click(Varnmain& main);
+void mnuFileSave_Click(Varnmain& main);
+void mnuFileSaveAs_Click(Varnmain& main);
+
+/// Opens a project file without a dialog: from the command line, dropped on the window, or one of
+/// the recent files. A file that is open already stays in its window, with a message.
+void openProjectFile(Varnmain& main, const std::string& path);
+/// Opens a zone file in the Zone Manager, after that window's own question when it has changes.
+void openZoneFile(Varnmain& main, const std::string& path);
+/// Either of them, told by the name's extension.
+void openFile(Varnmain& main, const std::string& path);
+
+}  // namespace varnholt

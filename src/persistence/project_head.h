@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "frame/design_document.h"
+#include "persistence/file_items.h"
+
+namespace varnholt {
+
+/// The comments as so many lines: one more than they have line feeds, so that no comment at all is
+/// one empty line.
+template <class File>
+void describeComments(File& file, std::string& comments) {
+    const auto feeds = static_cast<std::size_t>(std::count(comments.begin(), comments.end(), '\n'));
+    const std::size_t lines = file.count(feeds + 1, 1);
+    if constexpr (File::reading) {
+        comments.clear();
+        for (std::size_t i = 0; i < lines; ++i) {
+            const std::string line = file.line();
+            if (i > 0) comments += "\r\n";
+            comments += line;
+        }
+    } else {
+        std::size_t start = 0;
+        for (std::size_t i = 0; i < lines; ++i) {
+            const std::size_t feed = std::min(comments.find('\n', start), comments.size());
+            std::string line = comments.substr(start, feed - start);
+            if (!line.empty() && line.back() == '\r') line.pop_back();
+            file.text(line);
+            start = feed + 1;
+        }
+    }
+}
+
+/// The head that project files of every kind share: version, kind, who and for whom, comments.
+template <class File>
+void describeHead(File& file, std::string_view kindTitle, ProjectInformation& about) {
+    file.title("Varnholt Data File Version ");
+    file.fixed(kindTitle);
+    items(file, about.projectName, about.designerName, about.currentDate, about.projectStartDate);
+    items(file, about.clientName, about.addressLine1, about.addressLine2, about.city, about.state,
+          about.zip, about.country, about.phone, about.fax, about.email);
+    describeComments(file, about.comments);
+}
+
+/// The first two lines of every defaults file. Its version is never looked at.
+template <class File>
+void describeDefaultsHead(File& file, std::string_view kindTitle) {
+    file.title("Varnholt Initialization File Version ");
+    file.fixed(kindTitle);
+}
+
+}  // namespace varnholt

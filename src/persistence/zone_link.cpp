@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "persistence/zone_link.h"
+
+#include <string>
+
+#include "basis/file_system.h"
+#include "frame/varnmain.h"
+#include "loads/linked_design.h"
+#include "loads/links.h"
+#include "loads/loads_window.h"
+
+namespace varnholt {
+namespace {
+
+void warn(const LinkedDesign& design, const std::string& message) {
+    design.platform().message(MessageIcon::exclamation, design.text(1001), message);
+}
+
+void forgetZoneFile(LinkedDesign& design) {
+    design.workingZoneFile.clear();
+    design.workingZoneDirectory.clear();
+    design.workingFileCheck = false;
+    design.linkType.clear();
+    design.showLinkLight();
+}
+
+/// The zone file in the project's own zone folder, or else in the program's; empty for neither.
+std::string findZoneFile(const LinkedDesign& design) {
+    const std::string programZones = joinPath(design.main().MainDirectory, "zones");
+    for (const std::string& folder : {design.workingZoneDirectory, programZones}) {
+        const std::string path = joinPath(folder, design.workingZoneFile);
+        if (!folder.empty() && fileExists(path)) return path;
+    }
+    return {};
+}
+
+bool holdsFile(const LoadsWindow& loads, const std::string& path) {
+    return loads.workingFileCheck &&
+           samePath(joinPath(loads.workingZoneDirectory, loads.workingZoneFile), path);
+}
+
+bool isEmpty(const LoadsWindow& loads) {
+    return loads.zoneNumber == 0 && !loads.workingFileCheck && !loads.hasUnsavedChanges();
+}
+
+/// The loads window that the project wants, with the zone file in it; null when it is in use.
+LoadsWindow* loadsWindowWith(LinkedDesign& design, const std::string& path) {
+    Varnmain& main = design.main();
+    // Whatever else the file names, the Zone Manager is meant.
+    const char* formName = design.linkType == "frmAvgBlock" ? "frmAvgBlock" : "frmZoneManage";
+    auto* loads = dynamic_cast<LoadsWindow*>(main.find(formName));
+    if (loads != nullptr && loads->designLinkID != 0) return nullptr;
+    if (loads != nullptr && holdsFile(*loads, path)) return loads;
+    if (loads != nullptr && !isEmpty(*loads)) return nullptr;
+    if (loads == nullptr) loads = openLoadsWindow(main, formName);
+    if (loads != nullptr) loads->LOOpenZoneFile(path);
+    return loads;
+}
+
+/// What the project stored of its own.
+struct DesignConditionsOfProject {
+    explicit DesignConditionsOfProject(const LinkedDesign& design)
+        : inletTemp(design.inletTemp), flowRate(design.flowRate) {}
+    bool areIn(const LoadsWindow& loads) const {
+        return loads.inletTemp == inletTemp && loads.flowRate == flowRate;
+    }
+
+    ByMode<double> inletTemp;
+    double flowRate;
+};
+
+/// The zones come from the file; temperatures, flow and series are the project's, with which its
+/// results were computed.
+void takeZones(LinkedDesign& design, LoadsWindow& loads) {
+    const DesignConditionsOfProject stored(design);
+    if (!design.activeSeries.empty()) loads.activeSeries = design.activeSeries;
+    joinLoads(design, loads);
+    loads.InitializeHeatPumpLists();
+    design.TransferLoadsVariablesIn();
+    if (design.LoadsHome == nullptr) return;
+    design.showLinkLight();
+    loads.setLight(true);
+    if (stored.areIn(loads)) return;
+    design.inletTemp = stored.inletTemp;
+    design.flowRate = stored.flowRate;
+    design.TransferLoadsVariablesOut();
+}
+
+}  // namespace
+
+void resolveZoneLink(LinkedDesign& design) {
+    // Without a kind of loads window there is no link, and without a file none either.
+    if (design.workingZoneFile.empty()) design.linkType.clear();
+    design.showLinkLight();
+    if (design.linkType.empty()) return;
+    const std::string path = findZoneFile(design);
+    if (path.empty()) {
+        warn(design, design.text(8540) + "\n\n" + design.workingZoneFile);
+        forgetZoneFile(design);
+        return;
+    }
+    LoadsWindow* loads = loadsWindowWith(design, path);
+    if (loads != nullptr) return takeZones(design, *loads);
+    warn(design, design.text(8539));
+    forgetZoneFile(design);
+}
+
+Answer checkZoneFile(LinkedDesign& design) {
+    LoadsWindow* loads = design.LoadsHome;
+    if (loads == nullptr || !loads->hasUnsavedChanges()) return Answer::no;
+    Varnmain& main = design.main();
+    const Answer answer =
+        main.platform().question(Buttons::yesNoCancel, main.text(1205), main.text(1206));
+    if (answer == Answer::cancel) {
+        warn(design, main.text(1207));
+        main.saveCancelled = true;
+    }
+    if (answer != Answer::yes || !main.isOpen(loads)) return answer;
+    loads->zoneSaveCancelled = false;
+    loads->LOSaveCommand_Click();
+    if (loads->hasUnsavedChanges()) {
+        warn(design, main.text(1207));
+        loads->zoneSaveCancelled = design.zoneSaveCancelled = true;
+        main.saveCancelled = true;
+        return answer;
+    }
+    design.workingZoneFile = loads->workingZoneFile;
+    design.workingZoneDirectory = loads->workingZoneDirectory;
+    design.workingFileCheck = loads->workingFileCheck;
+    return answer;
+}
+
+}  // namespace varnholt
