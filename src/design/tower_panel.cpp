@@ -19,8 +19,8 @@ constexpr std::size_t capacity = 0;
 constexpr std::size_t flow = 1;
 constexpr std::size_t range = 2;
 
-// Up-downs without a limit of their own end where 16 bits do, or at a range that no tower has.
-constexpr double largestFlow = 32767;
+// Up-downs without a limit of their own end where no tower reaches.
+constexpr double largestFlow = 30000.0;
 constexpr double largestRange = 100;
 
 std::string element(const char* label, int index) {
