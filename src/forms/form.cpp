@@ -70,6 +70,11 @@ bool Form::isShown(const Control& control) const {
     return control.container().empty() || isShown(this->control(control.container()));
 }
 
+bool Form::takesKeys(const std::string& control) const {
+    const auto found = handlers_.find(control);
+    return found != handlers_.end() && found->second.key != nullptr;
+}
+
 Form::Handlers& Form::handlersOf(const std::string& control) {
     this->control(control);
     return handlers_[control];

@@ -62,6 +62,8 @@ class Form {
     void select(const std::string& control, std::vector<int> rows);
     void slide(const std::string& control, double value);
     void pickDate(const std::string& control, const Date& date);
+    /// Whether keys in the control have a meaning of their own.
+    bool takesKeys(const std::string& control) const;
 
     const Values& values() const { return values_; }
     NumericFields& fields() { return fields_; }

@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/drawings/field_picture.h"
+
+#include <QFontMetricsF>
+#include <QPolygonF>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <vector>
+
+#include "design/modCalculations/bore_grid.h"
+#include "desktop/qt_text.h"
+
+namespace varnholt {
+namespace {
+
+constexpr double dimensionRoom = 34;  // at each side that has a dimension line
+constexpr double widestPitch = 44;    // a few bores do not fly apart
+constexpr double narrowestPitch = 6;  // below it marks run into each other
+constexpr double largestMark = 11;
+
+/// How the marks of a class look: dark with many neighbours, hollow with few.
+struct Tone {
+    QColor fill, edge;
+};
+
+Tone toneOf(const Look& look, int neighbours) {
+    constexpr std::array<double, 5> strength{0, 0, 0, 0.42, 1};
+    return {between(look.field, look.accent, strength[static_cast<std::size_t>(neighbours)]),
+            look.accent};
+}
+
+QPolygonF markShape(int neighbours, double half) {
+    const double h = half;
+    switch (neighbours) {
+        case 1:
+            return {{0, -h}, {h, h * 0.8}, {-h, h * 0.8}};
+        case 2:
+            return {{-h * 0.85, -h * 0.85}, {h * 0.85, -h * 0.85}, {h * 0.85, h * 0.85},
+                    {-h * 0.85, h * 0.85}};
+        default:
+            return {{0, -h * 1.15}, {h * 1.15, 0}, {0, h * 1.15}, {-h * 1.15, 0}};
+    }
+}
+
+void drawMark(const Canvas& canvas, const QPointF& middle, int neighbours, double size) {
+    QPainter& painter = canvas.painter;
+    const Tone tone = toneOf(canvas.look, neighbours);
+    painter.setBrush(tone.fill);
+    painter.setPen(QPen(tone.edge, size < 7 ? 1 : 1.4, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    if (neighbours == 0 || neighbours == 4)
+        painter.drawEllipse(middle, size / 2, size / 2);
+    else
+        painter.drawPolygon(markShape(neighbours, size / 2).translated(middle));
+}
+
+/// Names of the classes; in a single line two neighbours do not make a corner.
+QString className(const FieldPlan& field, int neighbours, const Texts& texts) {
+    const bool line = field.across < 2 || field.down < 2;
+    switch (neighbours) {
+        case 0:
+            return qt(texts.text(2531));
+        case 1:
+            return qt(texts.text(2532));
+        case 2:
+            return qt(line ? texts.text(2536) : texts.text(2533));
+        case 3:
+            return qt(texts.text(2534));
+        default:
+            return qt(texts.text(2535));
+    }
+}
+
+QString counted(double bores) { return QString::number(bores, 'f', 0); }
+
+struct LegendEntry {
+    int neighbours;
+    QString text;
+};
+
+std::vector<LegendEntry> legendOf(const FieldPlan& field, const Texts& texts) {
+    const modCalculations::NeighbourCount counts =
+        modCalculations::countNeighbours(std::floor(field.down), std::floor(field.across));
+    std::vector<LegendEntry> entries;
+    for (int n = 4; n >= 0; --n) {
+        const double count = counts[static_cast<std::size_t>(n)];
+        if (count <= 0) continue;
+        entries.push_back({n, className(field, n, texts) + u' ' + counted(count)});
+    }
+    return entries;
+}
+
+/// Draws the legend at the foot of the area, in as many lines as it needs.
+/// @return the room above it
+QRectF drawLegend(const Canvas& canvas, const std::vector<LegendEntry>& entries) {
+    constexpr double markRoom = 18, gap = 16;
+    const double lineHeight = canvas.textHeight() + 4;
+    const QFontMetricsF metrics(canvas.words);
+    std::vector<std::pair<QPointF, const LegendEntry*>> placed;
+    double x = 0, y = 0;
+    for (const LegendEntry& entry : entries) {
+        const double width = markRoom + metrics.horizontalAdvance(entry.text);
+        if (x > 0 && x + width > canvas.area.width()) {
+            x = 0;
+            y += lineHeight;
+        }
+        placed.push_back({{x, y}, &entry});
+        x += width + gap;
+    }
+    const double height = placed.empty() ? 0 : y + lineHeight;
+    const QPointF origin(canvas.area.left(), canvas.area.bottom() - height);
+    for (const auto& [offset, entry] : placed) {
+        const QPointF start = origin + offset;
+        drawMark(canvas, start + QPointF(6, lineHeight / 2), entry->neighbours, 10);
+        canvas.painter.setFont(canvas.words);
+        canvas.painter.setPen(canvas.look.ink);
+        canvas.painter.drawText(
+            QRectF(start + QPointF(markRoom, 0), QSizeF(canvas.area.width(), lineHeight)),
+            Qt::AlignLeft | Qt::AlignVCenter, entry->text);
+    }
+    return canvas.area.adjusted(0, 0, 0, -height - gridStep / 2);
+}
+
+/// Where the bores lie on the screen.
+struct Grid {
+    double columns, rows;
+    double pitch;
+    QRectF bores;  ///< from the first bore's middle to the last one's
+
+    QPointF at(double column, double row) const {
+        return bores.topLeft() + QPointF(column, row) * pitch;
+    }
+    double margin() const { return std::clamp(pitch / 2, 8.0, 16.0); }
+    QRectF plot() const { return bores.adjusted(-margin(), -margin(), margin(), margin()); }
+};
+
+Grid gridIn(const QRectF& room, const FieldPlan& field) {
+    constexpr double ground = 16;
+    const QRectF inner = room.adjusted(dimensionRoom + ground, dimensionRoom + ground, -ground,
+                                       -dimensionRoom - ground);
+    Grid grid{std::floor(field.across), std::floor(field.down), widestPitch, {}};
+    if (grid.columns > 1) grid.pitch = std::min(grid.pitch, inner.width() / (grid.columns - 1));
+    if (grid.rows > 1) grid.pitch = std::min(grid.pitch, inner.height() / (grid.rows - 1));
+    grid.pitch = std::max(grid.pitch, 0.0);
+    const QSizeF size(grid.pitch * (grid.columns - 1), grid.pitch * (grid.rows - 1));
+    grid.bores = QRectF(inner.center() - QPointF(size.width(), size.height()) / 2, size);
+    return grid;
+}
+
+void drawGround(const Canvas& canvas, const Grid& grid) {
+    canvas.painter.setPen(Qt::NoPen);
+    canvas.painter.setBrush(between(canvas.look.surface, canvas.look.ground, 0.6));
+    canvas.painter.drawRoundedRect(grid.plot(), 4, 4);
+}
+
+int neighboursAt(const Grid& grid, double column, double row) {
+    return (column > 0) + (column + 1 < grid.columns) + (row > 0) + (row + 1 < grid.rows);
+}
+
+void drawBores(const Canvas& canvas, const Grid& grid) {
+    const double size = std::min(largestMark, grid.pitch * 0.62);
+    for (int row = 0; row < grid.rows; ++row)
+        for (int column = 0; column < grid.columns; ++column)
+            drawMark(canvas, grid.at(column, row), neighboursAt(grid, column, row), size);
+}
+
+/// Bores that cannot be told apart: the inside, the edges and the corners as areas.
+void drawClasses(const Canvas& canvas, const Grid& grid) {
+    constexpr double band = narrowestPitch;
+    QPainter& painter = canvas.painter;
+    const QRectF outer = grid.bores.adjusted(-band / 2, -band / 2, band / 2, band / 2);
+    const bool line = grid.rows < 2 || grid.columns < 2;
+    const Tone edge = toneOf(canvas.look, line ? 2 : 3);
+    painter.setPen(QPen(edge.edge, 1));
+    painter.setBrush(edge.fill);
+    painter.drawRect(outer);
+    if (grid.rows > 2 && grid.columns > 2) {
+        const Tone inside = toneOf(canvas.look, 4);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(inside.fill);
+        painter.drawRect(outer.adjusted(band, band, -band, -band));
+    }
+    const int corner = line ? 1 : 2;
+    for (const double column : {0.0, grid.columns - 1})
+        for (const double row : {0.0, grid.rows - 1})
+            drawMark(canvas, grid.at(column, row), corner, largestMark);
+}
+
+void drawDimensions(const Canvas& canvas, const Grid& grid, const FieldPlan& field) {
+    const QRectF plot = grid.plot();
+    const double away = 18;
+    const QPointF first = grid.at(0, 0);
+    const QPointF last = grid.at(grid.columns - 1, grid.rows - 1);
+    if (grid.columns > 1) {
+        drawLevelDimension(canvas, {first.x(), plot.top()}, {grid.at(1, 0).x(), plot.top()},
+                           plot.top() - away, qt(field.separationLabel));
+        drawLevelDimension(canvas, {first.x(), plot.bottom()}, {last.x(), plot.bottom()},
+                           plot.bottom() + away, qt(field.acrossLabel));
+    }
+    if (grid.rows < 2) return;
+    drawUprightDimension(canvas, {plot.left(), first.y()}, {plot.left(), last.y()},
+                         plot.left() - away, qt(field.downLabel));
+    if (grid.columns < 2)
+        drawUprightDimension(canvas, {plot.right(), first.y()}, {plot.right(), grid.at(0, 1).y()},
+                             plot.right() + away, qt(field.separationLabel));
+}
+
+}  // namespace
+
+void paintField(const Canvas& canvas, const FieldPlan& field, const Texts& texts) {
+    if (field.across < 1 || field.down < 1) {
+        canvas.painter.setPen(canvas.look.muted);
+        canvas.painter.setFont(canvas.words);
+        canvas.painter.drawText(canvas.area, Qt::AlignCenter | Qt::TextWordWrap,
+                                qt(texts.text(2541)));
+        return;
+    }
+    const QRectF room = drawLegend(canvas, legendOf(field, texts));
+    const Grid grid = gridIn(room, field);
+    drawGround(canvas, grid);
+    const double lines = std::max(grid.columns, grid.rows);
+    if (lines > 1 && grid.pitch < narrowestPitch)
+        drawClasses(canvas, grid);
+    else
+        drawBores(canvas, grid);
+    drawDimensions(canvas, grid, field);
+}
+
+QString describeField(const FieldPlan& field, const Texts& texts) {
+    if (field.across < 1 || field.down < 1) return qt(texts.text(2541));
+    QString shown = qt(texts.text(2542))
+                        .arg(counted(std::floor(field.across)), counted(std::floor(field.down)),
+                             qt(field.separationLabel), qt(field.acrossLabel),
+                             qt(field.downLabel));
+    for (const LegendEntry& entry : legendOf(field, texts)) shown += u' ' + entry.text + u'.';
+    return shown;
+}
+
+}  // namespace varnholt

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/drawings/loads_picture.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+
+#include "basis/number_text.h"
+#include "desktop/qt_text.h"
+
+namespace varnholt {
+namespace {
+
+constexpr double widestBar = 22;
+constexpr double barGap = 3;  // between the two bars of a block
+
+QString figure(double load) { return qt(formatNumber(load, "##0.0")); }
+
+QString modeWord(Mode mode, const Texts& texts) {
+    return qt(mode == cooling ? texts.text(2961) : texts.text(2962));
+}
+
+void setBarStyle(const Canvas& canvas, Mode mode) {
+    const Look& look = canvas.look;
+    // Cooling is solid and heating framed, so that the two differ without their colours too.
+    canvas.painter.setPen(QPen(mode == cooling ? look.cooling : look.heating, 1.4));
+    canvas.painter.setBrush(mode == cooling ? look.cooling : look.heatingWash);
+}
+
+/// The words for the two kinds of bars, and the unit, over the bars.
+double drawHead(const Canvas& canvas, const LoadsCaptions& captions, const Texts& texts) {
+    constexpr double sample = 9;
+    const double height = canvas.textHeight() + gridStep / 2;
+    const QRectF line(canvas.area.topLeft(), QSizeF(canvas.area.width(), height));
+    const double middle = line.center().y();
+    double x = line.left();
+    for (const Mode mode : modes) {
+        setBarStyle(canvas, mode);
+        canvas.painter.drawRect(
+            QRectF(canvas.crisp(x), canvas.crisp(middle - sample / 2), sample, sample));
+        const QString word = modeWord(mode, texts);
+        canvas.painter.setFont(canvas.words);
+        canvas.painter.setPen(canvas.look.ink);
+        canvas.painter.drawText(line.adjusted(x - line.left() + sample + 6, 0, 0, 0),
+                                Qt::AlignLeft | Qt::AlignVCenter, word);
+        x += sample + 6 + QFontMetricsF(canvas.words).horizontalAdvance(word) + 2 * gridStep;
+    }
+    canvas.painter.setPen(canvas.look.muted);
+    canvas.painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, qt(captions.unit));
+    return height + gridStep / 2;
+}
+
+void drawBlockNames(const Canvas& canvas, const QRectF& foot, const LoadsCaptions& captions) {
+    const double width = foot.width() / timeBlocks;
+    canvas.painter.setFont(canvas.figures);
+    canvas.painter.setPen(canvas.look.muted);
+    for (std::size_t block = 0; block < timeBlocks; ++block)
+        canvas.painter.drawText(
+            QRectF(foot.left() + width * static_cast<double>(block), foot.top(), width,
+                   foot.height()),
+            Qt::AlignCenter, qt(captions.blocks[block]));
+}
+
+void drawBar(const Canvas& canvas, Mode mode, const QRectF& bar) {
+    setBarStyle(canvas, mode);
+    const QRectF place(QPointF(canvas.crisp(bar.left()), canvas.crisp(bar.top())),
+                       QPointF(canvas.crisp(bar.right()), canvas.crisp(bar.bottom())));
+    canvas.painter.drawRect(place);
+}
+
+void drawFigure(const Canvas& canvas, Mode mode, const QRectF& bar, double load) {
+    const QString text = figure(load);
+    const double width = canvas.textWidth(text);
+    // Cooling's figure ends over its bar's right edge and heating's begins over its left one.
+    const double left = mode == cooling ? bar.right() - width : bar.left();
+    canvas.painter.setFont(canvas.figures);
+    canvas.painter.setPen(mode == cooling ? canvas.look.cooling : canvas.look.heating);
+    canvas.painter.drawText(
+        QRectF(left, bar.top() - canvas.textHeight() - 1, width + 1, canvas.textHeight()),
+        Qt::AlignCenter, text);
+}
+
+void drawBars(const Canvas& canvas, const QRectF& plot, const LoadsChart& loads) {
+    const double largest = std::max(loads.largest[cooling], loads.largest[heating]);
+    const double group = plot.width() / timeBlocks;
+    const double width = std::min(widestBar, (group - barGap) / 2 - 4);
+    const double tallest = plot.height() - canvas.textHeight() - 2;
+    for (std::size_t block = 0; block < timeBlocks; ++block)
+        for (const Mode mode : modes) {
+            const double load = loads.loads[mode][block];
+            if (load <= 0) continue;
+            const double middle = plot.left() + group * (static_cast<double>(block) + 0.5);
+            const double left =
+                mode == cooling ? middle - barGap / 2 - width : middle + barGap / 2;
+            const double height = load / largest * tallest;
+            const QRectF bar(left, plot.bottom() - height, width, height);
+            drawBar(canvas, mode, bar);
+            if (loads.peakBlock[mode] == block) drawFigure(canvas, mode, bar, load);
+        }
+}
+
+}  // namespace
+
+void paintLoads(const Canvas& canvas, const LoadsChart& loads, const LoadsCaptions& captions,
+                const Texts& texts) {
+    QPainter& painter = canvas.painter;
+    const double head = drawHead(canvas, captions, texts);
+    const double footHeight = canvas.textHeight() + gridStep / 2;
+    const QRectF plot = canvas.area.adjusted(0, head, 0, -footHeight);
+    drawBlockNames(canvas, {plot.left(), plot.bottom(), plot.width(), footHeight}, captions);
+    if (loads.empty()) {
+        painter.setFont(canvas.words);
+        painter.setPen(canvas.look.muted);
+        painter.drawText(plot, Qt::AlignCenter | Qt::TextWordWrap, qt(texts.text(2963)));
+    } else {
+        drawBars(canvas, plot, loads);
+    }
+    painter.setPen(QPen(canvas.look.line, 1));
+    const double base = canvas.crisp(plot.bottom());
+    painter.drawLine(QPointF(plot.left(), base), QPointF(plot.right(), base));
+}
+
+QString describeLoads(const LoadsChart& loads, const LoadsCaptions& captions, const Texts& texts) {
+    if (loads.empty()) return qt(texts.text(2963));
+    QStringList sentences;
+    for (const Mode mode : modes) {
+        if (!loads.peakBlock[mode]) continue;
+        sentences << qt(texts.text(2964))
+                         .arg(modeWord(mode, texts), figure(loads.largest[mode]),
+                              qt(captions.unit), qt(captions.blocks[*loads.peakBlock[mode]]));
+    }
+    return sentences.join(u' ');
+}
+
+}  // namespace varnholt

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/view_registry.h"
+
+#include <utility>
+
+#include "desktop/binder.h"
+
+namespace varnholt {
+
+ViewRegistry::ViewRegistry() { registerViews(*this); }
+
+void ViewRegistry::registerView(const std::string& formName, ViewMaker maker) {
+    makers_[formName] = std::move(maker);
+}
+
+QWidget* ViewRegistry::make(Binder& bind) const {
+    const auto found = makers_.find(bind.form()->formName());
+    return found == makers_.end() ? makeGenericView(bind) : found->second(bind);
+}
+
+}  // namespace varnholt
