@@ -77,21 +77,22 @@ ScriptCommands::ScriptCommands(Varnmain& main, ScriptPlatform& platform, Driver&
       startFolder_(std::filesystem::current_path().string()) {}
 
 void ScriptCommands::execute(const ScriptLine& line) {
+    std::string rest = line.rest;
     for (const CommandRow& row : commands)
-        if (row.word == line.command) return (this->*row.run)(line.rest);
+        if (row.word == line.command) return (this->*row.run)(rest);
     throw ScriptFault(fmt::format("{} is no command", line.command));
 }
 
 // What the person does.
 
-void ScriptCommands::type(std::string rest) {
+void ScriptCommands::type(std::string& rest) {
     const Target target = unlocked(rest, {Kind::text, Kind::richText, Kind::combo});
     if (target.control.kind() == Kind::combo && !target.control.editable())
         throw ScriptFault(fmt::format("nothing can be typed in {}", target.control.name()));
     driver_.type(target.form, target.control, rest);
 }
 
-void ScriptCommands::leave(std::string rest) {
+void ScriptCommands::leave(std::string& rest) {
     const Target target =
         workable(rest, {Kind::text, Kind::richText, Kind::combo, Kind::list, Kind::date,
                         Kind::slider, Kind::upDown, Kind::button, Kind::check, Kind::option});
@@ -99,7 +100,7 @@ void ScriptCommands::leave(std::string rest) {
     driver_.leave(target.form, target.control);
 }
 
-void ScriptCommands::key(std::string rest) {
+void ScriptCommands::key(std::string& rest) {
     const Target target =
         workable(rest, {Kind::text, Kind::richText, Kind::combo, Kind::list, Kind::date,
                         Kind::slider, Kind::upDown, Kind::button, Kind::check, Kind::option});
@@ -109,7 +110,7 @@ void ScriptCommands::key(std::string rest) {
     driver_.key(target.form, target.control, key);
 }
 
-void ScriptCommands::click(std::string rest) {
+void ScriptCommands::click(std::string& rest) {
     const Target target = workable(rest, {Kind::button, Kind::option, Kind::menu, Kind::check});
     requireEnd(rest);
     if (target.control.kind() == Kind::menu && target.control.caption().empty())
@@ -117,7 +118,7 @@ void ScriptCommands::click(std::string rest) {
     driver_.click(target.form, target.control);
 }
 
-void ScriptCommands::choose(std::string rest) {
+void ScriptCommands::choose(std::string& rest) {
     const Target target = unlocked(rest, {Kind::combo, Kind::list, Kind::tabs});
     if (const std::string index = trimmed(rest); isIndex(index)) {
         driver_.choose(target.form, target.control, rowIn(target, readIndex(index)));
@@ -131,7 +132,7 @@ void ScriptCommands::choose(std::string rest) {
     driver_.choose(target.form, target.control, static_cast<int>(found - items.begin()));
 }
 
-void ScriptCommands::select(std::string rest) {
+void ScriptCommands::select(std::string& rest) {
     const Target target = unlocked(rest, {Kind::list});
     std::vector<int> rows;
     for (const int row : readIndices(rest)) rows.push_back(rowIn(target, row));
@@ -142,31 +143,31 @@ void ScriptCommands::select(std::string rest) {
     driver_.select(target.form, target.control, rows);
 }
 
-void ScriptCommands::slide(std::string rest) {
+void ScriptCommands::slide(std::string& rest) {
     const Target target = unlocked(rest, {Kind::slider, Kind::upDown});
     driver_.slide(target.form, target.control, readNumber(onlyWord(rest)));
 }
 
-void ScriptCommands::date(std::string rest) {
+void ScriptCommands::date(std::string& rest) {
     const Target target = unlocked(rest, {Kind::date});
     driver_.pickDate(target.form, target.control, readIsoDate(onlyWord(rest)));
 }
 
-void ScriptCommands::activate(std::string rest) {
+void ScriptCommands::activate(std::string& rest) {
     Form& form = onlyWindow(rest);
     requireReachable(form);
     driver_.activate(form);
 }
 
-void ScriptCommands::close(std::string rest) {
+void ScriptCommands::close(std::string& rest) {
     Form& form = onlyWindow(rest);
     requireReachable(form);
     driver_.close(form);
 }
 
-void ScriptCommands::answer(std::string rest) { platform_.queueAnswer(answerOf(onlyWord(rest))); }
+void ScriptCommands::answer(std::string& rest) { platform_.queueAnswer(answerOf(onlyWord(rest))); }
 
-void ScriptCommands::pick(std::string rest) {
+void ScriptCommands::pick(std::string& rest) {
     std::string path = trimmed(rest);
     if (path.empty()) throw ScriptFault("pick needs a path, or cancel");
     if (path == "cancel")
@@ -175,11 +176,11 @@ void ScriptCommands::pick(std::string rest) {
         platform_.queuePick(std::move(path));
 }
 
-void ScriptCommands::clipboard(std::string rest) { platform_.setClipboard(unescaped(rest)); }
+void ScriptCommands::clipboard(std::string& rest) { platform_.setClipboard(unescaped(rest)); }
 
 // What the person sees.
 
-void ScriptCommands::print(std::string rest) {
+void ScriptCommands::print(std::string& rest) {
     const std::string word = onlyWord(rest);
     if (word == "report") return printReport();
     TargetName name = readTarget(word);
@@ -201,7 +202,7 @@ void ScriptCommands::print(std::string rest) {
                                  shownText(driver_.read(target.form, target.control, wanted))));
 }
 
-void ScriptCommands::value(std::string rest) {
+void ScriptCommands::value(std::string& rest) {
     const std::string word = onlyWord(rest);
     const TargetName name = readTarget(word);
     const Form& form = find(name.window);
@@ -221,7 +222,7 @@ void ScriptCommands::value(std::string rest) {
                                  shownText(shown)));
 }
 
-void ScriptCommands::forms(std::string rest) {
+void ScriptCommands::forms(std::string& rest) {
     requireEnd(rest);
     const Form* front = active();
     for (const Form* form : platform_.forms().all())
@@ -230,14 +231,14 @@ void ScriptCommands::forms(std::string rest) {
                                      form == front ? " active" : ""));
 }
 
-void ScriptCommands::controls(std::string rest) {
+void ScriptCommands::controls(std::string& rest) {
     const Form& form = onlyWindow(rest);
     for (const auto& control : form.controls())
         transcript_.line(fmt::format("{}.{} {}", platform_.forms().nameOf(form), control->name(),
                                      varnholt::nameOf(control->kind())));
 }
 
-void ScriptCommands::shot(std::string rest) {
+void ScriptCommands::shot(std::string& rest) {
     Form& form = find(readWindowName(takeWord(rest)));
     if (!driver_.picture(form, pathFrom(startFolder_, rest)) && notes_)
         notes_(fmt::format("no picture of {}: skipped, there are no windows",
@@ -256,7 +257,7 @@ void ScriptCommands::printReport() {
             fmt::format("{}.{} = {}", entry.section, entry.control, quotedText(entry.text)));
 }
 
-void ScriptCommands::save(std::string rest) {
+void ScriptCommands::save(std::string& rest) {
     if (takeWord(rest) != "report")
         throw ScriptFault("only a report can be saved: save report PATH");
     const std::string path = pathFrom(startFolder_, rest);

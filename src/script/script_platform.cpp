@@ -109,7 +109,7 @@ std::optional<std::string> ScriptPlatform::chooseFile(const FileDialog& dialog) 
     const std::string asked =
         fmt::format("dialog {} {}", dialog.saving ? "save" : "open", quotedText(start));
     if (picks_.empty()) failAnswer("no pick is queued for: " + asked);
-    const std::optional<std::string> pick = std::move(picks_.front());
+    std::optional<std::string> pick = std::move(picks_.front());
     picks_.pop_front();
     transcript_.line(fmt::format("{} -> {}", asked, pick ? quotedText(*pick) : "cancel"));
     if (!pick || pick->front() == '/') return pick;

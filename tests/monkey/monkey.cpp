@@ -150,7 +150,6 @@ void Monkey::work(Form& form, const Control& control) {
 }
 
 void Monkey::type(Form& form, const Control& control) {
-    const std::string name = control.name();
     if (dice_.chance(5)) {
         log_.action("clipboard 1\\t2\\r\\n3.5\\t-4\\r\\nabc\\r\\n");
         platform_.setClipboard("1\t2\r\n3.5\t-4\r\nabc\r\n");
