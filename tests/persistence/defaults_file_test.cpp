@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "persistence/project_fixture.h"
+
+namespace varnholt {
+namespace {
+
+class DefaultsFile : public ProjectTest {
+ protected:
+    std::string ini() const { return folder / "vhtbh.ini"; }
+    void useSample() { writeBytes(ini(), bytesOf(sampleProject("vhtbh_3.0.ini"))); }
+};
+
+TEST_F(DefaultsFile, OverlaysTheBuiltInValuesOfANewDesign) {
+    useSample();
+    const frmBHDesign& d = newDesign();
+    EXPECT_EQ(messages(), 0u);
+    EXPECT_EQ(d.inletTemp, (ByMode<double>{86.5, 48.5}));
+    EXPECT_EQ(d.results.outlet.outletTemp, (ByMode<double>{96.25, 43.75}));
+    EXPECT_EQ(d.inletLoadAirTemp, (ByMode<double>{66, 71}));
+    EXPECT_EQ(d.inletLoadWaterTemp, (ByMode<double>{54, 101}));
+    EXPECT_EQ(d.pipe.pipeDiameter, (std::array<double, 2>{1.66, 1.36}));
+    EXPECT_EQ(d.minflowRate, (ByMode<double>{2.7, 4.1}));
+    EXPECT_EQ(d.flowRate, 2.9);
+    EXPECT_EQ(d.fluid.percentAntifreeze, 20);
+    EXPECT_EQ(d.fluid.fluidTypeIndex, 4);
+    EXPECT_EQ(d.fluid.density, 61.5);
+    EXPECT_EQ(d.fluid.specificHeat, 0.98);
+    EXPECT_EQ(d.soil.groundTemp, 58.5);
+    EXPECT_EQ(d.soil.conductivity, 1.45);
+    EXPECT_EQ(d.soil.diffusivity, 0.9);
+    EXPECT_EQ(d.pipe.pipeSizeIndex, 2);
+    EXPECT_EQ(d.pipe.flowTypeIndex, 1);
+    EXPECT_EQ(d.bore.pipePlacement, 0);
+    EXPECT_EQ(d.bore.boreDiameter, 5.5);
+    EXPECT_EQ(d.bore.groutConductivity, 0.95);
+    EXPECT_EQ(d.pipe.pipeResistance, 0.0625);
+    EXPECT_EQ(d.bore.boreResistance, 0.1875);
+    EXPECT_EQ(d.arrangement.patternRows, (std::array<double, 2>{5, 8}));
+    EXPECT_EQ(d.arrangement.boreSeparation, 18.5);
+    EXPECT_EQ(d.arrangement.boresPerCircuit, 1);
+    EXPECT_EQ(d.arrangement.predictionTime, 12.5);
+    EXPECT_EQ(d.extraPower.motorEfficiency, (std::array<double, 3>{80, 85, 85}));
+    EXPECT_EQ(d.activeSeries, "BestSeries B");
+    // What the defaults do not hold is as built in.
+    EXPECT_EQ(d.extraPower.extraPower, (modCalculations::ExtraPower{}));
+    EXPECT_EQ(d.information.projectName, "");
+    EXPECT_EQ(d.information.currentDate, platform.day);
+    EXPECT_EQ(d.linkType, "");
+    EXPECT_TRUE(d.isStale());
+    EXPECT_EQ(d.control("FLInletTempText(0)").text(), "86.5");
+}
+
+TEST_F(DefaultsFile, SetsTheCoolingRangeFromTheTemperatures) {
+    useSample();
+    EXPECT_EQ(newDesign().tower.tower.range, 96.25 - 86.5);
+}
+
+TEST_F(DefaultsFile, IsNoErrorWhenItIsAbsent) {
+    const frmBHDesign& d = newDesign();
+    EXPECT_EQ(messages(), 0u);
+    EXPECT_EQ(d.inletTemp, (ByMode<double>{85, 50}));
+}
+
+TEST_F(DefaultsFile, IsRewrittenByEverySaveOfAProject) {
+    frmBHDesign& first = newDesign();
+    first.type("SOGroundTempText", "55");
+    saveAs(first, "work files/first.vht");
+    EXPECT_EQ(newDesign().soil.groundTemp, 55);
+    main.activate(first);
+    first.type("SOGroundTempText", "51");
+    main.click("mnuFileSave");
+    EXPECT_EQ(newDesign().soil.groundTemp, 51);
+}
+
+TEST_F(DefaultsFile, BringsTheBuiltInValuesBackWhenItIsDeleted) {
+    frmBHDesign& first = newDesign();
+    first.type("SOGroundTempText", "55");
+    saveAs(first, "work files/first.vht");
+    ASSERT_TRUE(std::filesystem::remove(ini()));
+    EXPECT_EQ(newDesign().soil.groundTemp, 62);
+}
+
+TEST_F(DefaultsFile, CarriesACustomFluidToTheNextNewDesign) {
+    frmBHDesign& first = newDesign();
+    first.type("FLFluidTypeCombo", "My brine");
+    first.leave("FLFluidTypeCombo");
+    saveAs(first, "work files/first.vht");
+    EXPECT_NE(bytesOf(ini()).find("\r\nMy brine\r\n"), std::string::npos);
+    const frmBHDesign& next = newDesign();
+    EXPECT_EQ(next.fluid.fluidName, "My brine");
+    EXPECT_EQ(next.control("FLFluidTypeCombo").text(), "My brine");
+}
+
+TEST_F(DefaultsFile, IsWrittenInItsOrder) {
+    useSample();
+    saveINIFile(newDesign());
+    EXPECT_EQ(bytesOf(ini()), bytesOf(sampleProject("vhtbh_3.0.ini")));
+}
+
+TEST_F(DefaultsFile, OfAnyVersionIsReadByTheCurrentOrder) {
+    std::string bytes = bytesOf(sampleProject("vhtbh_3.0.ini"));
+    bytes.replace(bytes.find("3.0"), 3, "0.1");
+    writeBytes(ini(), bytes);
+    EXPECT_EQ(newDesign().activeSeries, "BestSeries B");
+}
+
+TEST_F(DefaultsFile, CutAtAnyLineKeepsTheValuesReadAndTellsTheEnd) {
+    const std::string whole = bytesOf(sampleProject("vhtbh_3.0.ini"));
+    for (std::size_t end = whole.find('\n'); end + 1 < whole.size();
+         end = whole.find('\n', end + 1)) {
+        SCOPED_TRACE(end);
+        writeBytes(ini(), whole.substr(0, end + 1));
+        platform.messages.clear();
+        frmBHDesign& d = newDesign();
+        ASSERT_EQ(messages(), 1u);
+        EXPECT_EQ(platform.messages[0].icon, MessageIcon::exclamation);
+        EXPECT_EQ(platform.messages[0].title, "Varnholt");
+        EXPECT_EQ(lastMessage(), "Varnholt - Input past end of file");
+        EXPECT_EQ(d.activeSeries, "");
+        answer(Answer::no);
+        main.close(d);
+    }
+}
+
+TEST_F(DefaultsFile, ThatCannotBeWrittenIsToldAndTheProjectSavedAllTheSame) {
+    std::filesystem::create_directory(ini());
+    frmBHDesign& d = newDesign();
+    saveAs(d, "work files/first.vht");
+    EXPECT_EQ(messages(), 1u);
+    EXPECT_TRUE(fileExists(folder / "work files/first.vht"));
+    EXPECT_TRUE(d.currentFileCheck);
+    EXPECT_FALSE(main.saveCancelled);
+}
+
+}  // namespace
+}  // namespace varnholt
