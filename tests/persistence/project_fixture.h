@@ -137,10 +137,9 @@ class ProjectTest : public testing::Test {
     /// All windows gone, nothing saved.
     void closeAll() {
         while (!main.windows().empty()) {
-            answer(Answer::no);
-            const bool isDesign = main.windows().back()->isDesign();
-            ASSERT_TRUE(main.close(*main.windows().back()));
-            if (!isDesign) platform.answers.pop_back();
+            ChildWindow& last = *main.windows().back();
+            if (last.isDesign()) answer(Answer::no);
+            ASSERT_TRUE(main.close(last));
         }
     }
     void pick(std::optional<std::string> path) { platform.picks.push_back(std::move(path)); }

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <signal.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <random>
+
+#include "basis/run_time_error.h"
+#include "persistence/project_fixture.h"
+
+namespace varnholt {
+namespace {
+
+/// What a save in another process ended with: 0, or the number of the run-time error.
+int saveElsewhere(const std::function<void()>& prepare, frmBHDesign& design,
+                  const std::string& path) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        int result = 0;
+        try {
+            prepare();
+            saveVHTFile(design, path);
+        } catch (const RunTimeError& error) {
+            result = error.number();
+        }
+        ::_exit(result);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+class SavingLosesNothing : public ProjectTest {
+ protected:
+    SavingLosesNothing() : path(folder / "work files/school.vht"), d(newDesign()) {
+        d.information.comments = std::string(20000, 'o');
+        saveVHTFile(d, path);
+        old = bytesOf(path);
+        d.information.comments = std::string(30000, 'n');
+        fresh = projectText(d);
+    }
+    void expectOld() { EXPECT_TRUE(bytesOf(path) == old); }
+    std::size_t filesIn(const std::string& name) {
+        std::size_t count = 0;
+        for (const auto& entry : std::filesystem::directory_iterator(folder / name)) {
+            static_cast<void>(entry);
+            ++count;
+        }
+        return count;
+    }
+
+    std::string path;
+    frmBHDesign& d;
+    std::string old, fresh;
+};
+
+TEST_F(SavingLosesNothing, WhenTheProgramIsKilledAtAnyMomentOfAThousandSaves) {
+    // One that is saved through a link, and one that is not.
+    const std::string link = folder / "link.vht";
+    std::filesystem::create_symlink(path, link);
+    std::mt19937 random(20260115);
+    std::uniform_int_distribution<useconds_t> microseconds(0, 3000);
+    int oldFound = 0, newFound = 0;
+    for (int round = 0; round < 1000; ++round) {
+        const std::string& name = round % 2 == 0 ? path : link;
+        const pid_t child = ::fork();
+        if (child == 0) {
+            // Saves the two projects in turn until it is killed.
+            for (;;) {
+                replaceWholeFile(name, old);
+                replaceWholeFile(name, fresh);
+            }
+        }
+        ::usleep(microseconds(random));
+        ::kill(child, SIGKILL);
+        int status = 0;
+        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        ASSERT_TRUE(WIFSIGNALED(status)) << "the save ended by itself";
+        const std::string found = bytesOf(path);
+        ASSERT_TRUE(found == old || found == fresh)
+            << "round " << round << ": " << found.size() << " bytes";
+        (found == old ? oldFound : newFound) += 1;
+    }
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    // Both must have been met, or the kills came too early or too late to prove anything.
+    EXPECT_GT(oldFound, 50);
+    EXPECT_GT(newFound, 50);
+}
+
+TEST_F(SavingLosesNothing, WhenTheDiskIsFullBeforeTheEnd) {
+    for (const rlim_t most : {0u, 1u, 1000u, 29999u}) {
+        SCOPED_TRACE(most);
+        const auto fillDisk = [most] {
+            ::signal(SIGXFSZ, SIG_IGN);
+            const rlimit limit{most, most};
+            ::setrlimit(RLIMIT_FSIZE, &limit);
+        };
+        EXPECT_EQ(saveElsewhere(fillDisk, d, path), 61);
+        expectOld();
+        EXPECT_EQ(filesIn("work files"), 1u);
+    }
+}
+
+TEST_F(SavingLosesNothing, OnAFullFileSystem) {
+    const std::string small = folder / "small";
+    std::filesystem::create_directory(small);
+    // Only root may mount; the test before this one holds for everybody.
+    if (::mount("tmpfs", small.c_str(), "tmpfs", 0, "size=40k") != 0)
+        GTEST_SKIP() << "no right to mount a small file system";
+    path = small + "/school.vht";
+    replaceWholeFile(path, old);
+    EXPECT_EQ(saveElsewhere([] {}, d, path), 61);
+    expectOld();
+    EXPECT_EQ(filesIn("small"), 1u);
+    ::umount(small.c_str());
+}
+
+/// Gives up the superuser's rights, for whom no right is ever missing.
+void becomeNobody() {
+    if (::geteuid() == 0 && (::setgid(65534) != 0 || ::setuid(65534) != 0)) ::_exit(99);
+}
+
+TEST_F(SavingLosesNothing, WithoutTheRightToWriteTheFile) {
+    // The folder may be written, the file may not: it is not replaced all the same.
+    std::filesystem::permissions(folder.path(), std::filesystem::perms::all);
+    std::filesystem::permissions(folder / "work files", std::filesystem::perms::all);
+    std::filesystem::permissions(path, std::filesystem::perms(0444));
+    EXPECT_EQ(saveElsewhere(becomeNobody, d, path), 70);
+    expectOld();
+    EXPECT_EQ(filesIn("work files"), 1u);
+}
+
+TEST_F(SavingLosesNothing, WithoutTheRightToWriteTheFolder) {
+    std::filesystem::permissions(folder.path(), std::filesystem::perms(0755));
+    std::filesystem::permissions(path, std::filesystem::perms(0666));
+    std::filesystem::permissions(folder / "work files", std::filesystem::perms(0555));
+    EXPECT_EQ(saveElsewhere(becomeNobody, d, path), 70);
+    expectOld();
+    std::filesystem::permissions(folder / "work files", std::filesystem::perms(0755));
+}
+
+TEST_F(SavingLosesNothing, WhereAFolderHasTheName) {
+    std::filesystem::create_directory(folder / "school.vht");
+    saveAs(d, "school.vht");
+    EXPECT_EQ(lastMessage(), "75 - Path/File access error");
+    EXPECT_TRUE(std::filesystem::is_directory(folder / "school.vht"));
+    EXPECT_FALSE(d.currentFileCheck);
+}
+
+TEST_F(SavingLosesNothing, ThroughASymbolicLink) {
+    std::filesystem::create_symlink(path, folder / "link.vht");
+    saveVHTFile(d, folder / "link.vht");
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link.vht"));
+    EXPECT_TRUE(bytesOf(path) == fresh);
+}
+
+TEST_F(SavingLosesNothing, AndKeepsTheFilesPermissions) {
+    std::filesystem::permissions(path, std::filesystem::perms(0640));
+    saveVHTFile(d, path);
+    EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0640));
+}
+
+}  // namespace
+}  // namespace varnholt
