@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/tower_panel.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 #include <utility>
 
 #include "basis/number_text.h"
@@ -50,8 +52,6 @@ TowerPanel::TowerPanel(GroundDesign& design, TowerValues& values,
     onSlide("CAHybridSlider", [this] { CAHybridSlider_Change(); });
     add("CAPercentHybridLabel(0)", ControlKind::label, frame);
     for (const Figure& figure : figures) addFigure(figure);
-    control("CACoolingTowerFlowRateUpDown").setRange(0, largestFlow);
-    control("CACoolingRangeUpDown").setRange(0, largestRange);
     onSlide("CACondenserCapacityUpDown", [this] { CACondenserCapacityUpDown_Change(); });
     onSlide("CACoolingTowerFlowRateUpDown", [this] { CACoolingTowerFlowRateUpDown_Change(); });
     onSlide("CACoolingRangeUpDown", [this] { CACoolingRangeUpDown_Change(); });
@@ -118,16 +118,21 @@ void TowerPanel::showPercent() {
 }
 
 void TowerPanel::showTower() {
-    const double highest = quantities::load.shown(values_.tower.capacityMax, design().units());
-    control("CACondenserCapacityUpDown").setRange(0, highest);
-    for (const Figure& figure : figures) showFigure(figure);
+    const double highest[] = {values_.tower.capacityMax, largestFlow, largestRange, 0};
+    for (std::size_t i = 0; i < std::size(figures); ++i) showFigure(figures[i], highest[i]);
 }
 
-void TowerPanel::showFigure(const Figure& figure) {
+/// The limits of an up-down stand in the units shown, and give way to a value beyond them.
+void TowerPanel::showFigure(const Figure& figure, double highest) {
+    const UnitSystem units = design().units();
     Control& label = control(element(figure.label, 0));
-    label.setCaption(formatNumber(
-        figure.quantity->shown(values_.tower.*figure.value, design().units()), figure.format));
-    if (figure.upDown != nullptr) control(figure.upDown).setValue(leadingNumber(label.caption()));
+    label.setCaption(
+        formatNumber(figure.quantity->shown(values_.tower.*figure.value, units), figure.format));
+    if (figure.upDown == nullptr) return;
+    const double value = leadingNumber(label.caption());
+    control(figure.upDown)
+        .setRange(std::min(0.0, value), std::max(figure.quantity->shown(highest, units), value))
+        .setValue(value);
 }
 
 void TowerPanel::wake() {

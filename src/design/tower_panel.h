@@ -45,7 +45,7 @@ class TowerPanel : public DesignTab {
     double trimmed(const Figure& figure);
     void showPercent();
     void showTower();
-    void showFigure(const Figure& figure);
+    void showFigure(const Figure& figure, double highest);
     void paint(int colour);
 
     TowerValues& values_;
