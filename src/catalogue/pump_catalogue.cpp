@@ -85,9 +85,10 @@ void PumpCatalogue::readActiveSeries(std::size_t slot) {
     if (series != nullptr) readPumps(series->FileName, slot);
 }
 
-void PumpCatalogue::activate(const varnholt::PumpList& manufacturer, const PumpSeriesInfo& series) {
+bool PumpCatalogue::activate(const varnholt::PumpList& manufacturer, const PumpSeriesInfo& series) {
+    if (!readPumps(series.FileName, activeSlot)) return false;
     activeSeries = joined(manufacturer, series);
-    readPumps(series.FileName, activeSlot);
+    return true;
 }
 
 const PumpSeriesInfo* PumpCatalogue::find(const std::string& mfgName,

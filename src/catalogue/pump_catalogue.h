@@ -61,8 +61,9 @@ class PumpCatalogue {
     bool readPumps(const std::string& FileName, std::size_t slot);
     /// Reads the series that `activeSeries` names, or the first one, into a slot.
     void readActiveSeries(std::size_t slot);
-    /// Makes a series the active one and loads it into slot 0.
-    void activate(const varnholt::PumpList& manufacturer, const PumpSeriesInfo& series);
+    /// Makes a series the active one and loads it into slot 0. False when it cannot be read;
+    /// another one stays active then.
+    bool activate(const varnholt::PumpList& manufacturer, const PumpSeriesInfo& series);
 
     /// The catalogue's entry of a series; null when it lists none of these names.
     const PumpSeriesInfo* find(const std::string& mfgName, const std::string& seriesName) const;

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "loads/frmAvgBlock.h"
+
+#include "frame/varnmain.h"
+#include "loads/modLoads/raised_flag.h"
+#include "loads/representative_pump.h"
+
+namespace varnholt {
+namespace {
+
+constexpr ZoneWindowKind averageBlock{.formName = "frmAvgBlock",
+                                      .titleText = 2932,
+                                      .pumpNameText = 2933,
+                                      .hoursText = 2934,
+                                      .listsZones = false,
+                                      .linkLight = 8,
+                                      .firstUnits = "1.0"};
+
+}  // namespace
+
+frmAvgBlock::frmAvgBlock(Varnmain& main) : ZoneWindow(averageBlock, main) {
+    main.frmAvgBlockWindowExists = true;
+}
+
+void frmAvgBlock::unloaded() {
+    ZoneWindow::unloaded();
+    main().frmAvgBlockWindowExists = false;
+}
+
+std::string frmAvgBlock::zoneFrameCaption(const Zone&) const { return plainTitle(); }
+
+MiniPump frmAvgBlock::evaluated(const pump& model, std::int16_t units, const Zone& zone) const {
+    return representativePump(model, units, zone.gains, zone.pump, conditions());
+}
+
+/// The same model with the same number and load side, under the conditions as they are now.
+void frmAvgBlock::updatePumps() {
+    const Zone* zone = shownZone();
+    if (zone == nullptr || zone->pump.customPump == 1) return;
+    const ZoneSeries series = loadSeriesOf(zone->pump, activeSlot);
+    const auto model = modelNamed(zone->pump.name, activeSlot);
+    if (series == ZoneSeries::loaded && model) {
+        const RaisedFlag update(updating), same(samePumpUpdated);
+        carryLoadSide(zone->pump);
+        attempt([&] {
+            SetPumpValues(catalogue.PumpList(activeSlot, *model), zone->pump.number,
+                          static_cast<std::size_t>(selectedZone()));
+        });
+    } else if (series != ZoneSeries::unreadable) {
+        tellSeriesMissing(*zone);
+    }
+    restoreActiveSeries(activeSlot);
+}
+
+}  // namespace varnholt

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "loads/frmZoneManage.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "basis/run_time_error.h"
+#include "catalogue/pump_selection.h"
+#include "frame/varnmain.h"
+#include "loads/modLoads/progress.h"
+#include "loads/modLoads/raised_flag.h"
+
+namespace varnholt {
+namespace {
+
+constexpr ZoneWindowKind zoneManager{.formName = "frmZoneManage",
+                                     .titleText = 2930,
+                                     .pumpNameText = 2836,
+                                     .hoursText = 2828,
+                                     .listsZones = true,
+                                     .linkLight = 0,
+                                     .firstUnits = "1"};
+
+void append(std::string& list, const std::string& entry) {
+    if (!list.empty()) list += ", ";
+    list += entry;
+}
+
+}  // namespace
+
+frmZoneManage::frmZoneManage(Varnmain& main) : ZoneWindow(zoneManager, main) {
+    addSummary();
+    hookListCommands();
+    main.frmZoneManageWindowExists = true;
+}
+
+void frmZoneManage::unloaded() {
+    ZoneWindow::unloaded();
+    main().frmZoneManageWindowExists = false;
+}
+
+void frmZoneManage::hookListCommands() {
+    onCommand("LOCopyCommand", [this] { LOCopyCommand_Click(); });
+    onCommand("LORemoveCommand", [this] { LORemoveCommand_Click(); });
+    onCommand("LORenumberCommand", [this] { LORenumberCommand_Click(); });
+    onCommand("LOSummaryCommand", [this] { LOSummaryCommand_Click(); });
+    onCommand("LOReturnFromSummaryCommand", [this] { LOReturnFromSummaryCommand_Click(); });
+    onCommand("LOAutoSelectCommand", [this] { LOAutoSelectCommand_Click(); });
+    onCommand("LOAutoSelectAllCommand", [this] { LOAutoSelectAllCommand_Click(); });
+}
+
+std::string frmZoneManage::zoneFrameCaption(const Zone& zone) const {
+    return text(2816) + " " + zone.name;
+}
+
+MiniPump frmZoneManage::evaluated(const pump& model, std::int16_t units, const Zone& zone) const {
+    return evaluatePump(model, units, zone.gains, zone.pump, conditions());
+}
+
+void frmZoneManage::LOCopyCommand_Click() {
+    const Zone* selected = shownZone();
+    if (selected == nullptr) return;
+    Zone copy = *selected;
+    copy.name = nameOfZone(ZoneList.size() + 1);
+    addZone(std::move(copy));
+}
+
+/// Later zones keep their names, so that numbers may have gaps.
+void frmZoneManage::LORemoveCommand_Click() {
+    const int position = selectedZone();
+    if (shownZone() == nullptr) return;
+    ZoneList.erase(ZoneList.begin() + position);
+    if (ZoneList.empty()) {
+        zoneCount = 0;
+        forgetZoneFile();
+        return showZones(-1);
+    }
+    showZones(std::min(position, static_cast<int>(ZoneList.size()) - 1));
+    markChanged();
+}
+
+void frmZoneManage::LORenumberCommand_Click() {
+    for (std::size_t i = 0; i < ZoneList.size(); ++i) ZoneList[i].name = nameOfZone(i + 1);
+    zoneCount = static_cast<std::int16_t>(ZoneList.size());
+    showZones(0);
+    markChanged();
+}
+
+bool frmZoneManage::autoSelect(Zone& zone) {
+    const auto models = catalogue.models(activeSlot);
+    try {
+        zone.pump = autoSelectPump(models, zone.gains, zone.pump, conditions());
+    } catch (const RunTimeError& error) {
+        // The subscript of no model, unless the series is too long to be searched at all.
+        if (error.number() != 9 || models.size() > selectableModels) throw;
+        return false;
+    }
+    markChanged();
+    return true;
+}
+
+void frmZoneManage::LOAutoSelectCommand_Click() {
+    Zone* zone = shownZone();
+    if (zone == nullptr) return;
+    if (autoSelect(*zone))
+        displayZone();
+    else
+        show(MessageIcon::exclamation, text(2940) + "\n\n" + zone->name);
+}
+
+void frmZoneManage::LOAutoSelectAllCommand_Click() {
+    std::string without;
+    attempt([&] {
+        Progress progress(platform(), text(2943), ZoneList.size());
+        for (std::size_t i = 0; i < ZoneList.size(); ++i) {
+            if (!autoSelect(ZoneList[i])) append(without, ZoneList[i].name);
+            progress.tell(i + 1);
+        }
+    });
+    showSelectedPumps();
+    if (control("LOSummaryPicture").visible()) control("LOAutoSelectAllCommand").setEnabled(false);
+    if (!without.empty()) tellZonesWithoutPump(without);
+}
+
+void frmZoneManage::tellZonesWithoutPump(const std::string& zones) {
+    show(MessageIcon::exclamation, text(2941) + "\n\n" + zones);
+}
+
+/// After pumps of many zones have changed: the zone on display and the totals.
+void frmZoneManage::showSelectedPumps() {
+    displayZone();
+    rebuildSummary();
+}
+
+/// Each catalogue pump is selected again from its own series, at the load temperatures that it has.
+void frmZoneManage::updatePumps() {
+    std::string without;
+    attempt([&] {
+        Progress progress(platform(), text(2944), ZoneList.size());
+        for (std::size_t i = 0; i < ZoneList.size(); ++i) {
+            if (ZoneList[i].pump.customPump != 1) updatePump(ZoneList[i], without);
+            progress.tell(i + 1);
+        }
+    });
+    restoreActiveSeries(activeSlot);
+    showSelectedPumps();
+    if (!without.empty()) tellZonesWithoutPump(without);
+}
+
+void frmZoneManage::updatePump(Zone& zone, std::string& zonesWithoutPump) {
+    switch (loadSeriesOf(zone.pump, activeSlot)) {
+        case ZoneSeries::unlisted:
+            return tellSeriesMissing(zone);
+        case ZoneSeries::unreadable:
+            return;
+        case ZoneSeries::loaded:
+            break;
+    }
+    const RaisedFlag update(updating);
+    carryLoadSide(zone.pump);
+    if (!autoSelect(zone)) append(zonesWithoutPump, zone.name);
+}
+
+}  // namespace varnholt

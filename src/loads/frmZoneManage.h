@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "loads/modLoads/zone_window.h"
+
+namespace varnholt {
+
+/// The Zone Manager: a building zone by zone, and its totals.
+class frmZoneManage : public ZoneWindow {
+ public:
+    explicit frmZoneManage(Varnmain& main);
+
+    void unloaded() override;
+
+    /// The whole building's loads by time block.
+    LoadsChart buildingDayChart() const;
+
+ protected:
+    MiniPump evaluated(const pump& model, std::int16_t units, const Zone& zone) const override;
+    void updatePumps() override;
+    std::string zoneFrameCaption(const Zone& zone) const override;
+    void rebuildSummary() override;
+
+ private:
+    void addSummary();
+    void addSummaryHeadings();
+    void hookListCommands();
+
+    void LOCopyCommand_Click();
+    void LORemoveCommand_Click();
+    void LORenumberCommand_Click();
+    void LOSummaryCommand_Click();
+    void LOReturnFromSummaryCommand_Click();
+    void LOAutoSelectCommand_Click();
+    void LOAutoSelectAllCommand_Click();
+
+    void showTotals();
+    void showSummaryList();
+    void showSummaryCaptions();
+
+    /// False when no model fits; the zone is then as it was.
+    bool autoSelect(Zone& zone);
+    void updatePump(Zone& zone, std::string& zonesWithoutPump);
+    void showSelectedPumps();
+    void tellZonesWithoutPump(const std::string& zones);
+};
+
+}  // namespace varnholt

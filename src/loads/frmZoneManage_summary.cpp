@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The summary panel of the Zone Manager.
+#include <string>
+
+#include "basis/number_text.h"
+#include "basis/units.h"
+#include "forms/quantity.h"
+#include "loads/frmZoneManage.h"
+#include "loads/modLoads/building_totals.h"
+#include "loads/modLoads/raised_flag.h"
+#include "loads/modLoads/summary_lines.h"
+
+namespace varnholt {
+namespace {
+
+constexpr int blockTexts[] = {2881, 2882, 2883, 2884};
+
+/// Captions over the list, with their texts in metric units where they differ.
+struct Heading {
+    int englishText, metricText;
+};
+
+constexpr Heading headings[] = {
+    {2815, 2815}, {2895, 2895}, {2896, 2897}, {2881, 2881}, {2882, 2882},
+    {2883, 2883}, {2884, 2884}, {2898, 2898}, {2899, 2823}, {2901, 2901},
+    {2823, 2823}, {2915, 2918}, {2916, 2916}, {2917, 2917},
+};
+constexpr int headingOfEer = 12;
+
+struct TotalRow {
+    const char* name;
+    int englishText, metricText;
+};
+
+constexpr TotalRow totalRows[] = {
+    {"LOTotalCapacity", 2921, 2922}, {"LOPeakLoad", 2923, 2924},       {"LOPeakDemand", 2925, 2925},
+    {"LOPumpCOP", 2926, 2926},       {"LOPeakLoadPeriod", 2928, 2928},
+};
+
+}  // namespace
+
+void frmZoneManage::addSummary() {
+    const std::string frame = "LOSummaryPicture";
+    add(frame, ControlKind::frame, 2894).setVisible(false);
+    int index = 0;
+    for (const Heading& heading : headings)
+        add("LOSummaryLabel(" + std::to_string(index++) + ")", ControlKind::label,
+            heading.englishText)
+            .in(frame);
+    add("LOZoneSummaryList", ControlKind::list).in(frame);
+    add("LOSummaryModeLabel(0)", ControlKind::label, 2920).in(frame);
+    add("LOSummaryModeLabel(1)", ControlKind::label, 2919).in(frame);
+    for (const TotalRow& row : totalRows) {
+        add(std::string(row.name) + "TitleLabel", ControlKind::label, row.englishText).in(frame);
+        for (int m = 0; m < 2; ++m)
+            add(std::string(row.name) + "Label(" + std::to_string(m) + ")", ControlKind::label)
+                .in(frame);
+    }
+    add("LOBuildingDayChart", ControlKind::image, 2946).in(frame);
+    add("LOReturnFromSummaryCommand", ControlKind::button, 2854).in(frame);
+}
+
+void frmZoneManage::LOSummaryCommand_Click() {
+    if (!settingUnits && control("LOSummaryPicture").visible())
+        return LOReturnFromSummaryCommand_Click();
+    showSummaryCaptions();
+    showTotals();
+    showSummaryList();
+    control("LOSummaryPicture").setVisible(true);
+    enableZoneCommands();
+}
+
+void frmZoneManage::LOReturnFromSummaryCommand_Click() {
+    control("LOSummaryPicture").setVisible(false);
+    enableZoneCommands();
+}
+
+void frmZoneManage::rebuildSummary() {
+    if (!control("LOSummaryPicture").visible()) return;
+    const RaisedFlag rebuilding(settingUnits);
+    LOSummaryCommand_Click();
+}
+
+LoadsChart frmZoneManage::buildingDayChart() const {
+    return chartOf(totalsOf(ZoneList).gains, units());
+}
+
+void frmZoneManage::showSummaryCaptions() {
+    const bool metric = units() == UnitSystem::metric;
+    int index = 0;
+    for (const Heading& heading : headings)
+        element("LOSummaryLabel", index++)
+            .setCaption(text(metric ? heading.metricText : heading.englishText));
+    element("LOSummaryLabel", headingOfEer).setVisible(!metric);
+    for (const TotalRow& row : totalRows)
+        control(std::string(row.name) + "TitleLabel")
+            .setCaption(text(metric ? row.metricText : row.englishText));
+}
+
+void frmZoneManage::showTotals() {
+    const BuildingTotals totals = totalsOf(ZoneList);
+    const bool metric = units() == UnitSystem::metric;
+    for (const Mode m : modes) {
+        const int i = static_cast<int>(m);
+        const auto load = [&](double value) {
+            return formatNumber(quantities::load.shown(value, units()), "###0.0");
+        };
+        const double cop = totals.cop[m] * (m == cooling && !metric ? mbtuPerKilowatt : 1);
+        element("LOPeakLoadPeriodLabel", i).setCaption(text(blockTexts[totals.peakPeriod[m]]));
+        element("LOPeakDemandLabel", i).setCaption(formatNumber(totals.peakDemand[m], "##0.0"));
+        element("LOTotalCapacityLabel", i).setCaption(load(totals.totalCapacity[m]));
+        element("LOPeakLoadLabel", i).setCaption(load(totals.peakLoad[m]));
+        element("LOPumpCOPLabel", i).setCaption(formatNumber(cop, "####0.0"));
+    }
+}
+
+void frmZoneManage::showSummaryList() {
+    std::vector<std::string> lines;
+    for (const Zone& zone : ZoneList)
+        for (const Mode m : modes)
+            lines.push_back(summaryLine(numberOfZone(zone), zone, m, units()));
+    control("LOZoneSummaryList").setItems(std::move(lines));
+}
+
+}  // namespace varnholt

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace varnholt {
+
+class Varnmain;
+
+/// Registers the commands that open the two loads windows, one window each, and those of links.
+void installLoads(Varnmain& main);
+
+}  // namespace varnholt

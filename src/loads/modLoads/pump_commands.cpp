@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The heat pump of the zone on display: its figures, its details, its evaluation.
+#include <algorithm>
+#include <utility>
+
+#include "basis/number_text.h"
+#include "basis/run_time_error.h"
+#include "loads/modLoads/raised_flag.h"
+#include "loads/modLoads/zone_window.h"
+
+namespace varnholt {
+namespace {
+
+constexpr const char* figures[] = {"LOCapacityText", "LOPowerText", "LOCOPText", "LOFlowRateText",
+                                   "LOPLFText"};
+constexpr const char* detailFields[] = {"LOInletLoadsTempText", "LOInletLoadsFlowText"};
+
+/// A zone without a catalogue pump that nevertheless has figures: they were typed in.
+bool hasTypedFigures(const MiniPump& pump) {
+    const auto any = [](const ByMode<double>& values) { return values[0] != 0 || values[1] != 0; };
+    return pump.customPump == 1 && (any(pump.capacity) || any(pump.watts) || any(pump.efficiency) ||
+                                    any(pump.flowRate) || any(pump.plf));
+}
+
+}  // namespace
+
+void ZoneWindow::hookPumpCommands() {
+    onCommand("LOSelectCommand", [this] { LOSelectCommand_Click(); });
+    onCommand("LOMfgCombo", [this] { LOMfgCombo_Click(); });
+    onCommand("LOSeriesCombo", [this] { LOSeriesCombo_Click(); });
+    onCommand("LOSelectPumpCommand", [this] { LOSelectPumpCommand_Click(); });
+    onCommand("LOCancelCommand", [this] { LOCancelCommand_Click(); });
+    onCommand("LODetailsCommand", [this] { LODetailsCommand_Click(); });
+    onCommand("LOReturnCommand", [this] { LOReturnCommand_Click(); });
+    onCommand("LOClearPumpsCommand", [this] { LOClearPumpsCommand_Click(); });
+    onCommand("LOCustomPumpCheck", [this] { LOCustomPumpCheck_Click(); });
+    onClick("LOUpdatePumpsCommand", [this] { LOUpdatePumpsCommand_Click(); });
+    onCommand("HPManufacturerCombo", [this] { HPManufacturerCombo_Click(); });
+    onCommand("HPSeriesCombo", [this] { HPSeriesCombo_Click(); });
+}
+
+void ZoneWindow::SetPumpValues(const pump& model, std::int16_t units, std::size_t zoneIndex) {
+    Zone& zone = at(ZoneList, static_cast<std::ptrdiff_t>(zoneIndex));
+    zone.pump = evaluated(model, units, zone);
+    insideChange = false;
+    markChanged();
+    if (shownZone() == &zone) displayZone();
+}
+
+void ZoneWindow::displayPump() {
+    const MiniPump& shown = shownZone()->pump;
+    control("LOPumpNameText").setText(shown.name);
+    for (const char* prefix : {"LONumber", "LOCapacity", "LOPower", "LOCOP", "LOFlow", "LOPLF"})
+        fields().showAll(prefix);
+    showUnitsToSelect();
+    control("LOCustomPumpCheck").setChecked(hasTypedFigures(shown));
+    lockFigures(shown.customPump != 1);
+    showDetails(shown);
+}
+
+void ZoneWindow::lockFigures(bool locked) {
+    for (const char* figure : figures)
+        for (int m = 0; m < 2; ++m) element(figure, m).setLocked(locked);
+}
+
+/// A figure that was typed makes the pump a custom one.
+void ZoneWindow::figureTyped() {
+    Zone* zone = shownZone();
+    if (zone == nullptr) return;
+    zone->pump.customPump = 1;
+    control("LOCustomPumpCheck").setChecked(true);
+    showDetails(zone->pump);
+}
+
+void ZoneWindow::showUnitsToSelect() {
+    control("LONumberOfUnitsText(0)").setText(control("LONumberOfUnitsText(1)").text());
+}
+
+std::int16_t ZoneWindow::typedUnits() const {
+    const double typed = leadingNumber(control("LONumberOfUnitsText(0)").text());
+    return std::max<std::int16_t>(1, toInteger(typed));
+}
+
+void ZoneWindow::showDetails(const MiniPump& shown) {
+    const bool custom = control("LOCustomPumpCheck").checked();
+    const bool air = shown.pumpType == 0;
+    const bool metric = units() == UnitSystem::metric;
+    element("LODetailsTextLabel", 0).setCaption(shown.mfgName);
+    element("LODetailsTextLabel", 1).setCaption(shown.seriesName);
+    element("LODetailsTextLabel", 2).setCaption(text(custom ? 2864 : air ? 2865 : 2866));
+    control("LOInletAirFrame").setVisible(air);
+    control("LOInletWaterFrame").setVisible(!air);
+    for (const char* field : detailFields) fields().showAll(field);
+    const Quantity& flow = air ? quantities::airFlow : quantities::waterFlow;
+    control("LONominalFlowText")
+        .setText(formatNumber(flow.shown(shown.nominalFlow, units()), air ? "###0" : "###0.0"));
+    const int unitText = air ? (metric ? 2873 : 2874) : (metric ? 2877 : 2878);
+    control("LONominalFlowUnitLabel").setCaption(text(unitText));
+}
+
+void ZoneWindow::enableDetailFields(bool enabled) {
+    for (const char* field : detailFields)
+        for (int i = 0; i < 4; ++i) element(field, i).setEnabled(enabled);
+}
+
+void ZoneWindow::LODetailsCommand_Click() {
+    const Zone* zone = shownZone();
+    if (zone == nullptr) return;
+    control("LOSelectFrame").setVisible(false);
+    control("LODetailsFrame").setVisible(true);
+    enableDetailFields(zone->pump.customPump != 1);
+    if (zone->pump.customPump != 1) loadSeriesOf(zone->pump, browsedSlot);
+}
+
+/// Load conditions typed in the details enter the evaluation here.
+void ZoneWindow::LOReturnCommand_Click() {
+    control("LODetailsFrame").setVisible(false);
+    enableDetailFields(true);
+    const Zone* zone = shownZone();
+    if (zone == nullptr) return;
+    if (zone->pump.customPump != 1 && loadSeriesOf(zone->pump, browsedSlot) == ZoneSeries::loaded) {
+        if (const auto k = modelNamed(zone->pump.name, browsedSlot)) {
+            const RaisedFlag returning(returningFromDetails), same(samePumpUpdated);
+            carryLoadSide(zone->pump);
+            SetPumpValues(catalogue.PumpList(browsedSlot, *k), typedUnits(),
+                          static_cast<std::size_t>(selectedZone()));
+        }
+    }
+    restoreActiveSeries(browsedSlot);
+}
+
+void ZoneWindow::carryLoadSide(const MiniPump& zonePump) {
+    temporaryInletTemp = zonePump.elt;
+    temporaryInletFlow = zonePump.elf;
+}
+
+std::optional<std::size_t> ZoneWindow::modelNamed(const std::string& name, SeriesSlot slot) const {
+    const auto models = catalogue.models(slot);
+    const auto found = std::find_if(models.begin(), models.end(),
+                                    [&](const pump& model) { return model.name == name; });
+    if (found == models.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - models.begin());
+}
+
+void ZoneWindow::LOClearPumpsCommand_Click() {
+    Zone* zone = shownZone();
+    if (zone == nullptr) return;
+    // The nominal flow belonged to the model that goes.
+    zone->pump = MiniPump{};
+    zone->pump.elt = DesignConditions{}.inletLoadAirTemp;
+    markChanged();
+    displayZone();
+}
+
+void ZoneWindow::LOCustomPumpCheck_Click() {
+    Zone* zone = shownZone();
+    if (settingUnits || zone == nullptr) return;
+    const bool custom = control("LOCustomPumpCheck").checked();
+    lockFigures(!custom);
+    if (!custom) return;
+    zone->pump.customPump = 1;
+    zone->pump.mfgName.clear();
+    zone->pump.seriesName.clear();
+    showDetails(zone->pump);
+    markChanged();
+}
+
+ZoneWindow::ZoneSeries ZoneWindow::loadSeriesOf(const MiniPump& zonePump, SeriesSlot slot) {
+    const PumpSeriesInfo* series = catalogue.find(zonePump.mfgName, zonePump.seriesName);
+    if (series == nullptr) return ZoneSeries::unlisted;
+    if (catalogue.holds(slot, zonePump.mfgName, zonePump.seriesName)) return ZoneSeries::loaded;
+    return catalogue.readPumps(series->FileName, slot) ? ZoneSeries::loaded
+                                                       : ZoneSeries::unreadable;
+}
+
+void ZoneWindow::restoreActiveSeries(SeriesSlot slot) {
+    const auto models = catalogue.models(slot);
+    const bool there = !models.empty() &&
+                       models[0].mfgInfo.mfgName + models[0].seriesInfo.seriesName == activeSeries;
+    if (!there) catalogue.readActiveSeries(slot);
+}
+
+void ZoneWindow::tellSeriesMissing(const Zone& zone) {
+    show(MessageIcon::exclamation, text(2815) + " " + numberOfZone(zone) + " " + text(2875));
+}
+
+void ZoneWindow::LOUpdatePumpsCommand_Click() {
+    attempt([this] { updatePumps(); });
+}
+
+}  // namespace varnholt

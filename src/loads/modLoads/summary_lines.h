@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "basis/mode.h"
+#include "basis/units.h"
+#include "loads/zone.h"
+
+namespace varnholt {
+
+/// One line of the building's summary, in columns of fixed width: zone, pump, units, the four
+/// loads, capacity, power, COP (cooling in English units: EER) and part load factor.
+std::string summaryLine(const std::string& zoneNumber, const Zone& zone, Mode mode,
+                        UnitSystem units);
+
+}  // namespace varnholt

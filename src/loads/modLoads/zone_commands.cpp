@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The list of zones: adding and clearing, and the display of the selected zone.
+#include <utility>
+
+#include "basis/number_text.h"
+#include "basis/run_time_error.h"
+#include "frame/varnmain.h"
+#include "loads/modLoads/raised_flag.h"
+#include "loads/modLoads/zone_window.h"
+
+namespace varnholt {
+namespace {
+
+/// Commands that need a zone.
+constexpr const char* zoneCommands[] = {
+    "LOCopyCommand",        "LORemoveCommand",  "LORenumberCommand", "LOAutoSelectAllCommand",
+    "LOUpdatePumpsCommand", "LOSummaryCommand", "LOClearCommand"};
+
+/// Those of them, and the one for a new zone, that the summary suspends.
+constexpr const char* suspendedCommands[] = {"LONewCommand", "LOCopyCommand", "LORemoveCommand",
+                                             "LOClearCommand", "LORenumberCommand"};
+
+}  // namespace
+
+void ZoneWindow::hookCommands() {
+    onCommand("LONewCommand", [this] { LONewCommand_Click(); });
+    onCommand("LOClearCommand", [this] { LOClearCommand_Click(); });
+    onCommand("LOOpenCommand", [this] { LOOpenCommand_Click(); });
+    onCommand("LOSaveCommand", [this] { LOSaveCommand_Click(); });
+    onCommand("LOPrintCommand", [this] { LOPrintCommand_Click(); });
+    onCommand("LOEqvHoursCommand", [this] { LOEqvHoursCommand_Click(); });
+    onClick("LOZoneList", [this] { displayZone(); });
+    onClick("MetricCheck", [this] { MetricCheck_Click(); });
+}
+
+int ZoneWindow::selectedZone() const {
+    const std::vector<int>& rows = control("LOZoneList").selected();
+    return rows.empty() ? -1 : rows.front();
+}
+
+Zone* ZoneWindow::shownZone() {
+    const int position = selectedZone();
+    const bool exists = position >= 0 && static_cast<std::size_t>(position) < ZoneList.size();
+    return exists ? &ZoneList[static_cast<std::size_t>(position)] : nullptr;
+}
+
+const Zone* ZoneWindow::shownZone() const { return const_cast<ZoneWindow*>(this)->shownZone(); }
+
+std::string ZoneWindow::nameOfZone(std::size_t number) const {
+    return text(2815) + " " + std::to_string(number);
+}
+
+std::string ZoneWindow::numberOfZone(const Zone& zone) const {
+    const std::string word = text(2815) + " ";
+    return zone.name.starts_with(word) ? zone.name.substr(word.size()) : zone.name;
+}
+
+void ZoneWindow::LONewCommand_Click() {
+    Zone zone;
+    zone.pump.name = text(2837);
+    catalogue.readActiveSeries(browsedSlot);
+    if (catalogue.size(browsedSlot) > 0) {
+        const pump& first = catalogue.PumpList(browsedSlot, 0);
+        zone.pump.mfgName = first.mfgInfo.mfgName;
+        zone.pump.seriesName = first.seriesInfo.seriesName;
+        zone.pump.pumpType = first.pumpType;
+    }
+    zone.pump.elt = designLoadTemps(designConditions(), zone.pump.pumpType);
+    zone.name = nameOfZone(static_cast<std::size_t>(zoneCount) + 1);
+    addZone(std::move(zone));
+}
+
+void ZoneWindow::addZone(Zone zone) {
+    if (ZoneList.size() >= mostZones || static_cast<std::size_t>(zoneCount) >= mostZones)
+        throw RunTimeError(6);
+    if (ZoneList.empty() && !workingFileCheck) {
+        workingZoneFile = text(1204) + ".zon";
+        control("LOWorkingZoneLabel").setCaption(workingZoneFile);
+    }
+    ZoneList.push_back(std::move(zone));
+    ++zoneCount;
+    showZones(static_cast<int>(ZoneList.size()) - 1);
+    markChanged();
+}
+
+void ZoneWindow::LOClearCommand_Click() {
+    if (!CheckForSave()) return;
+    ZoneList.clear();
+    zoneCount = 0;
+    forgetZoneFile();
+    showZones(-1);
+    SetFluidsTabbedPaneSwitchVariables();
+}
+
+void ZoneWindow::replaceLoads(const std::vector<Zone>& zones) {
+    ZoneList = zones;
+    if (ZoneList.size() > mostZones) ZoneList.resize(mostZones);
+    zoneCount = static_cast<std::int16_t>(ZoneList.size());
+    for (std::size_t i = 0; i < ZoneList.size(); ++i) ZoneList[i].name = nameOfZone(i + 1);
+    const bool unsaved = hasUnsavedChanges();
+    InitializeHeatPumpLists();
+    SetFluidsTabbedPaneSwitchVariables();
+    showZones(0);
+    control("LOSaveCommand").setEnabled(unsaved);
+    control("LOWorkingZoneLabel")
+        .setCaption(workingZoneFile.empty() ? text(1204) + ".zon" : workingZoneFile);
+    rebuildSummary();
+}
+
+void ZoneWindow::showZones(int selected) {
+    std::vector<std::string> names;
+    for (const Zone& zone : ZoneList) names.push_back(zone.name);
+    zoneNumber = static_cast<std::int16_t>(ZoneList.size());
+    // One block needs no list; a file with several zones does.
+    control("LOZoneList").setItems(std::move(names)).setVisible(kind_.listsZones || zoneNumber > 1);
+    enableZoneCommands();
+    selectZone(selected);
+}
+
+void ZoneWindow::enableZoneCommands() {
+    const bool any = !ZoneList.empty();
+    for (const char* name : zoneCommands)
+        if (has(name)) control(name).setEnabled(any);
+    control("LOPrintCommand").setEnabled(any && main().hasCommand("mnuFilePrint"));
+    control("LOEqvHoursCommand").setEnabled(main().hasCommand("mnuEqvHours"));
+    if (!any) control("LOSaveCommand").setEnabled(false);
+    control("LONewCommand").setEnabled(kind_.listsZones || !any);
+    if (has("LOSummaryPicture") && control("LOSummaryPicture").visible())
+        for (const char* name : suspendedCommands) control(name).setEnabled(false);
+}
+
+void ZoneWindow::selectZone(int position) {
+    const bool exists = position >= 0 && static_cast<std::size_t>(position) < ZoneList.size();
+    control("LOZoneList").setSelected(exists ? std::vector<int>{position} : std::vector<int>{});
+    displayZone();
+}
+
+void ZoneWindow::displayZone() {
+    const Zone* zone = shownZone();
+    control("LOZoneFrame").setVisible(zone != nullptr);
+    if (zone == nullptr) return;
+    const RaisedFlag writing(settingUnits);
+    zoneTemp = *zone;
+    control("LOZoneFrame").setCaption(zoneFrameCaption(*zone));
+    control("LOZoneReferenceText").setText(zone->title);
+    for (const char* prefix : {"LOGains", "LOHours", "LODays"}) fields().showAll(prefix);
+    displayPump();
+}
+
+void ZoneWindow::LOEqvHoursCommand_Click() { main().click("mnuEqvHours"); }
+
+void ZoneWindow::LOPrintCommand_Click() { main().click("mnuFilePrint"); }
+
+}  // namespace varnholt

@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "loads/modLoads/zone_window.h"
+
+#include <utility>
+
+#include "basis/file_system.h"
+#include "basis/run_time_error.h"
+#include "frame/varnmain.h"
+#include "loads/links.h"
+#include "loads/modLoads/raised_flag.h"
+#include "loads/zone_values.h"
+
+namespace varnholt {
+
+ZoneWindow::ZoneWindow(const ZoneWindowKind& kind, Varnmain& main)
+    : LoadsWindow(kind.formName, main), kind_(kind) {
+    setCaption(plainTitle());
+    InitializeVariables();
+    registerValues();
+    addControls();
+    addFields();
+    hookTexts();
+    hookCommands();
+    hookPumpCommands();
+}
+
+void ZoneWindow::InitializeVariables() {
+    workingZoneDirectory = joinPath(main().MainDirectory, "zones");
+    information.currentDate = information.projectStartDate = platform().today();
+}
+
+void ZoneWindow::registerValues() {
+    Values& values = publicValues();
+    addZoneValues(values, ZoneList);
+    registerConditions();
+    values.add("designLinkID", &designLinkID);
+    values.add("zoneCount", &zoneCount);
+    values.add("zoneNumber", &zoneNumber);
+    values.add("style", &style);
+    values.add("workingFileCheck", &workingFileCheck);
+    values.add("workingZoneFile", &workingZoneFile);
+    values.add("workingZoneDirectory", &workingZoneDirectory);
+    values.add("zoneSaveCancelled", &zoneSaveCancelled);
+    values.add("settingUnits", &settingUnits);
+    values.add("settingItems", &settingItems);
+    values.add("beenHere", &beenHere);
+    values.add("insideChange", &insideChange);
+    values.add("updating", &updating);
+    values.add("samePumpUpdated", &samePumpUpdated);
+    values.add("returningFromDetails", &returningFromDetails);
+    values.add("selectingPump", &selectingPump);
+    values.add("LOPrintOption", &LOPrintOption);
+    values.add("counter", &counter);
+    values.add("FileName", &FileName);
+    values.add("directoryName", &directoryName);
+    values.add("currentFileCheck", &currentFileCheck);
+    const ProjectInformation& project = information;
+    values.add("projectName", &project.projectName);
+    values.add("designerName", &project.designerName);
+    values.add("clientName", &project.clientName);
+    values.add("addressLine1", &project.addressLine1);
+    values.add("addressLine2", &project.addressLine2);
+    values.add("city", &project.city);
+    values.add("state", &project.state);
+    values.add("zip", &project.zip);
+    values.add("country", &project.country);
+    values.add("phone", &project.phone);
+    values.add("fax", &project.fax);
+    values.add("email", &project.email);
+    values.add("comments", &project.comments);
+    values.add("currentDate", &project.currentDate);
+    values.add("projectStartDate", &project.projectStartDate);
+}
+
+void ZoneWindow::registerConditions() {
+    Values& values = publicValues();
+    values.add("activeSeries", &activeSeries);
+    values.add("flowRate", &flowRate);
+    values.addArray("inletTemp", &inletTemp);
+    values.addArray("minflowRate", &minflowRate);
+    values.addArray("inletLoadAirTemp", &inletLoadAirTemp);
+    values.addArray("inletLoadWaterTemp", &inletLoadWaterTemp);
+    values.addArray("temporaryInletTemp", &temporaryInletTemp);
+    values.addArray("temporaryInletFlow", &temporaryInletFlow);
+    values.add("vhtMfgCount", 0, [this](const Values::Indices&) {
+        return PublicValue(static_cast<double>(catalogue.vhtMfgCount()));
+    });
+    values.add("vhtTotalSeriesCount", 0, [this](const Values::Indices&) {
+        return PublicValue(static_cast<double>(catalogue.vhtTotalSeriesCount()));
+    });
+    values.add("size", 1, [this](const Values::Indices& i) {
+        checkIndex(i[0], 2);
+        return PublicValue(static_cast<double>(catalogue.size(static_cast<std::size_t>(i[0]))));
+    });
+}
+
+void ZoneWindow::load() {
+    control("MetricCheck").setChecked(main().units() == UnitSystem::metric);
+    InitializeHeatPumpLists();
+    SetFluidsTabbedPaneSwitchVariables();
+    forgetZoneFile();
+    showZones(-1);
+}
+
+void ZoneWindow::MetricCheck_Click() {
+    const RaisedFlag writing(settingUnits);
+    main().unitsSwitched(*this);
+    if (onUnitsSwitched) onUnitsSwitched();
+    SetFluidsTabbedPaneSwitchVariables();
+    displayZone();
+    rebuildSummary();
+}
+
+bool ZoneWindow::queryClose() { return CheckForSave(); }
+
+void ZoneWindow::unloaded() {
+    if (onClosed) onClosed();
+}
+
+bool ZoneWindow::hasUnsavedChanges() const { return control("LOSaveCommand").enabled(); }
+
+void ZoneWindow::markChanged() { control("LOSaveCommand").setEnabled(true); }
+
+std::string ZoneWindow::plainTitle() const { return text(kind_.titleText); }
+
+void ZoneWindow::setLight(bool on) {
+    element("imgLinkLight", kind_.linkLight).setVisible(on);
+    element("imgLinkLight", 6).setVisible(!on);
+}
+
+void ZoneWindow::showHoursAndDays(bool shown) {
+    for (const char* name : {"LOHoursText(0)", "LOHoursText(1)", "LOLoadsLabel(1)",
+                             "LODaysperWeekText", "LODaysperWeekLabel"})
+        control(name).setVisible(shown);
+}
+
+void ZoneWindow::TransferCall() { varnholt::TransferCall(main(), designLinkID); }
+
+EvaluationConditions ZoneWindow::conditions() const {
+    return {designConditions(), temporaryInletTemp,   temporaryInletFlow, updating,
+            selectingPump,      returningFromDetails, samePumpUpdated};
+}
+
+void ZoneWindow::onCommand(const std::string& control, std::function<void()> command) {
+    onClick(control, [this, run = std::move(command)] { attempt(run); });
+}
+
+void ZoneWindow::attempt(const std::function<void()>& command) {
+    try {
+        command();
+    } catch (const RunTimeError& error) {
+        show(MessageIcon::exclamation, error.message());
+    }
+}
+
+LoadsChart ZoneWindow::loadsChart() const {
+    const Zone* zone = shownZone();
+    return zone == nullptr ? LoadsChart{} : chartOf(zone->gains, units());
+}
+
+PumpChart ZoneWindow::pumpChart() const {
+    const int chosen = control("HPPumpList").index();
+    const auto models = catalogue.models(activeSlot);
+    if (chosen < 0 || static_cast<std::size_t>(chosen) >= models.size()) return {};
+    return chartOf(models[static_cast<std::size_t>(chosen)], units());
+}
+
+}  // namespace varnholt

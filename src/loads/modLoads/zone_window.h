@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "loads/ModLoadsIO.h"
+#include "loads/loads_window.h"
+#include "loads/modLoads/loads_pictures.h"
+
+namespace varnholt {
+
+/// Zones are counted in 16 bits.
+constexpr std::size_t mostZones = std::numeric_limits<std::int16_t>::max();
+
+/// In what the two loads windows differ before any of their commands runs.
+struct ZoneWindowKind {
+    const char* formName;
+    int titleText;
+    int pumpNameText;        ///< caption of the pump's name
+    int hoursText;           ///< caption of the equivalent full-load hours
+    bool listsZones;         ///< a list of zones with the commands for it, or one block
+    int linkLight;           ///< element of `imgLinkLight` that stands for a link
+    const char* firstUnits;  ///< what `LONumberOfUnitsText(0)` starts with
+};
+
+/// What the two loads windows share: their fields, panels and commands. One file of this folder
+/// for each of these.
+///
+/// `LOSaveCommand` is enabled while there are unsaved changes; there is no other mark of them.
+class ZoneWindow : public LoadsWindow {
+ public:
+    void load() override;
+    bool queryClose() override;
+    void unloaded() override;
+    void MetricCheck_Click() override;
+
+    /// Zones loaded or added; a new zone's name carries the next number.
+    std::int16_t zoneCount = 0;
+    /// A copy of the zone on display, as it was when it was chosen.
+    Zone zoneTemp;
+    /// Position of the first selected zone, -1 for none.
+    int selectedZone() const;
+    void replaceLoads(const std::vector<Zone>& zones) override;
+
+    bool hasUnsavedChanges() const override;
+    bool CheckForSave() override;
+    void LOSaveCommand_Click() override;
+    void LOOpenCommand_Click();
+    bool LOOpenZoneFile(const std::string& path) override;
+
+    void InitializeHeatPumpLists() override;
+    void SetFluidsTabbedPaneSwitchVariables() override;
+    void LOUpdatePumpsCommand_Click() override;
+    bool pumpsAreBeingSelected() const override;
+    /// Puts the catalogue model into the zone, evaluated for it. Throws a RunTimeError, and the
+    /// zone is then as it was.
+    void SetPumpValues(const pump& model, std::int16_t units, std::size_t zoneIndex);
+
+    std::string plainTitle() const override;
+    void setLight(bool on) override;
+    void showHoursAndDays(bool shown) override;
+    /// Hands the loads to the design that read from the window last.
+    void TransferCall();
+
+    LoadsChart loadsChart() const;
+    PumpChart pumpChart() const;
+
+    // Load-side conditions that an evaluation carries along, and the flags that tell which count.
+    ByMode<double> temporaryInletTemp{67, 70};  ///< degF
+    ByMode<double> temporaryInletFlow{};        ///< cfm or gpm
+    bool updating = false;
+    bool selectingPump = false;
+    bool returningFromDetails = false;
+    bool samePumpUpdated = false;
+    bool settingItems = false;  ///< lists are being refilled
+    bool beenHere = false;      ///< a pump has been selected by hand before
+    bool insideChange = false;
+
+    // What the window's project has beside its information.
+    ByMode<double> minflowRate{};
+    std::int16_t style = 0;
+    std::int16_t counter = 0;
+    std::int16_t LOPrintOption = 0;
+    std::string FileName, directoryName;
+    bool currentFileCheck = false;
+
+ protected:
+    ZoneWindow(const ZoneWindowKind& kind, Varnmain& main);
+
+    /// Evaluates a model for a zone by the window's own rule; throws a RunTimeError.
+    virtual MiniPump evaluated(const pump& model, std::int16_t units, const Zone& zone) const = 0;
+    virtual void updatePumps() = 0;
+    virtual std::string zoneFrameCaption(const Zone& zone) const = 0;
+    /// The totals are on show and may have changed.
+    virtual void rebuildSummary() {}
+
+    EvaluationConditions conditions() const;
+    /// Makes a button run a command, whose run-time error ends in a message.
+    void onCommand(const std::string& control, std::function<void()> command);
+    void attempt(const std::function<void()>& command);
+    void markChanged();
+
+    Zone* shownZone();
+    const Zone* shownZone() const;
+    void selectZone(int position);
+    void displayZone();
+    void displayPump();
+    /// Appends a zone, selects and displays it.
+    void addZone(Zone zone);
+    /// The list, its commands and the zone on display, after `ZoneList` has changed as a whole.
+    void showZones(int selected);
+    void enableZoneCommands();
+    void forgetZoneFile();
+    std::string nameOfZone(std::size_t number) const;
+    /// What stands for the zone in messages and lists: its name without the word before it.
+    std::string numberOfZone(const Zone& zone) const;
+
+    enum class ZoneSeries { loaded, unlisted, unreadable };
+    /// Loads the series of a zone's pump into a slot unless it is there already. A file that
+    /// cannot be read has been told of.
+    ZoneSeries loadSeriesOf(const MiniPump& zonePump, SeriesSlot slot);
+    void restoreActiveSeries(SeriesSlot slot);
+    void tellSeriesMissing(const Zone& zone);
+    /// Takes temperatures and flows of the zone's pump along into the next evaluation.
+    void carryLoadSide(const MiniPump& zonePump);
+    /// Position in a slot of the model of that name; none where it is not there.
+    std::optional<std::size_t> modelNamed(const std::string& name, SeriesSlot slot) const;
+
+ private:
+    void registerValues();
+    void registerConditions();
+    void InitializeVariables();
+
+    // Controls, in the reading order of the window.
+    void addControls();
+    void addCommandBar();
+    void addZonePanel();
+    void addLoadsFrame();
+    void addSpecificationsFrame();
+    void addSelectFrame();
+    void addDetailsFrame();
+    void addLoadSideFrame(const std::string& frame, int captionText, int first);
+    void addHeatPumpTab();
+    void addConditionsFrame();
+    void addCatalogueFrame();
+    void showUnitCaptions();
+
+    // The tables of the fields.
+    void addFields();
+    void addLoadsFields();
+    void addPumpFields();
+    void addDetailsFields();
+    void addConditionFields();
+    void takeFreezingPoint(std::size_t mode);
+    void hookTexts();
+    void hookCommands();
+    void hookPumpCommands();
+
+    void LONewCommand_Click();
+    void LOClearCommand_Click();
+    void LOEqvHoursCommand_Click();
+    void LOPrintCommand_Click();
+
+    Answer askForSave();
+    bool saveZonesTo(const std::string& path);
+    void takeFile(const std::string& path);
+    std::string proposedFile() const;
+    FileDialog zoneDialog(bool saving) const;
+    LoadsData loadsData() const;
+    void takeLoads(LoadsData data);
+
+    void LOSelectCommand_Click();
+    void LOMfgCombo_Click();
+    void LOSeriesCombo_Click();
+    void LOSelectPumpCommand_Click();
+    void LOCancelCommand_Click();
+    /// A series by its place in the catalogue's index; -1 for none.
+    struct SeriesPlace {
+        int manufacturer = -1, series = -1;
+    };
+    SeriesPlace placeOf(const std::string& joinedName) const;
+    int manufacturerNamed(const std::string& mfgName) const;
+    std::vector<std::string> manufacturerNames() const;
+    std::vector<std::string> seriesNames(int manufacturerIndex) const;
+    const PumpSeriesInfo* seriesAt(SeriesPlace place) const;
+    void SetUpLoadsSeriesList(int manufacturerIndex);
+    void showLoadsPumps(std::size_t slot);
+    void browseSeries();
+    void HPManufacturerCombo_Click();
+    void HPSeriesCombo_Click();
+    void showActiveSeries();
+    void showActiveModels();
+
+    void LODetailsCommand_Click();
+    void LOReturnCommand_Click();
+    void LOClearPumpsCommand_Click();
+    void LOCustomPumpCheck_Click();
+    void showDetails(const MiniPump& shown);
+    void enableDetailFields(bool enabled);
+    void lockFigures(bool locked);
+    void figureTyped();
+    void showUnitsToSelect();
+    std::int16_t typedUnits() const;
+
+    const ZoneWindowKind& kind_;
+};
+
+}  // namespace varnholt
