@@ -49,7 +49,7 @@ struct NumericFieldRow {
     bool lowestIsRefused = false;           ///< the lowest value itself is refused
     std::optional<double> unparsable{};     ///< stored for text that is no number (0 otherwise)
     std::optional<double> whenEmpty{};      ///< instead of the fallback, for a field left empty
-    std::function<double()> fallbackNow{};  ///< instead of the fallback, where it depends
+    std::function<double()> fallbackNow{};  ///< the fallback, where it varies
     std::function<void()> changed{};        ///< after the value is stored, before the form is told
     std::function<void()> left{};           ///< after the field has been reformatted
 };
