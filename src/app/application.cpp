@@ -2,12 +2,20 @@
 #include "app/application.h"
 
 #include "basis/file_system.h"
+#include "design/install.h"
+#include "loads/install.h"
+#include "loads/links.h"
+#include "persistence/project_commands.h"
 
 namespace varnholt {
 
 Application::Application(Platform& platform, const Setup& setup) {
     language_.LoadSatellite(joinPath(setup.resourceFolder, "language"), setup.localeNumber);
     main_ = std::make_unique<Varnmain>(platform, language_, setup.programFolder);
+    installLoads(*main_);
+    installLinks(*main_);
+    installDesign(*main_);
+    installPersistence(*main_);
 }
 
 }  // namespace varnholt
