@@ -84,7 +84,10 @@ void Monkey::act() {
     Form& form = inDialog ? *main_.modalForms().back() : anyForm();
     const std::vector<const Control*> workable = workableOf(form);
     if (workable.empty()) return;
-    work(form, *dice_.among(workable));
+    const Control& control = *dice_.among(workable);
+    // Else few sessions would come far.
+    if (control.name() == "mnuFileExit" && !dice_.chance(10)) return;
+    work(form, control);
     worked(&form);
 }
 
