@@ -1,9 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Writes the scripts by which the example buildings are typed into the program.
+"""Writes the scripts by which the example buildings and their designs are typed into the program.
 
     python3 examples/make_examples.py office > office.vscript
-    varnholt-script --program-folder FOLDER office.vscript
+    cd FOLDER && varnholt-script --program-folder . --today 2026-01-15 office.vscript
+
+leaves zones/office.zon and "work files/office.vht" in FOLDER, a program folder.
 
 Loads are in MBtu/hr for the blocks 8-12, 12-4, 4-8 and 8-8.  A room's peak follows its floor area
 with figures that are usual for its use; the shape over the day is the same for all rooms of a use.
@@ -53,6 +55,55 @@ BUILDINGS = {
 }
 
 
+# building: title, place, fields of the design (in the units of the last item), percent to the tower
+DESIGNS = {
+    "office": ("Harbour Street offices", "Portland", {
+        "FLInletTempText(0)": "85", "FLInletTempText(1)": "45", "SOGroundTempText": "55",
+        "SOThermalConductivityText": "1.25", "SOThermalDiffusivityText": "0.85",
+        "PAPatternRowsText(0)": "6", "PAPatternRowsText(1)": "2", "PATimeText": "15",
+        "EKWPumpPowerText(1)": "0.75"}, 0, "English"),
+    "school-south": ("Riverside school", "San Antonio", {
+        "FLInletTempText(0)": "92", "FLInletTempText(1)": "52", "SOGroundTempText": "70",
+        "SOThermalConductivityText": "1.15", "SOThermalDiffusivityText": "0.70",
+        "PAPatternRowsText(0)": "14", "PAPatternRowsText(1)": "10", "PASeparationText": "25",
+        "PATimeText": "20", "EKWPumpPowerText(1)": "10", "EKWPumpPowerText(4)": "5",
+        "EKWPumpPowerText(6)": "3"}, 30, "English"),
+    "school-north": ("Lakeside school", "Duluth", {
+        "FLInletTempText(0)": "25", "FLInletTempText(1)": "0", "SOGroundTempText": "8",
+        "SOThermalConductivityText": "2.2", "SOThermalDiffusivityText": "0.085",
+        "PAPatternRowsText(0)": "12", "PAPatternRowsText(1)": "12", "PASeparationText": "7",
+        "PIBoreholeDiameterText": "140", "PIGroutConductivityText": "1.6", "PATimeText": "25",
+        "FLFluidDensityText": "1020", "FLSpecificHeatText": "3.95",
+        "EKWPumpPowerText(1)": "7.5"}, 0, "Metric"),
+}
+
+
+def design_lines(name):
+    title, city, fields, percent, units = DESIGNS[name]
+    window = "frmBHDesign."
+    lines = ["click Varnmain.NewBorehole",
+             "type %sINProjectNameText %s" % (window, title), "type %sINCityText %s" % (window, city),
+             "click Varnmain.mnuLink"]
+    if units == "Metric":
+        lines += ["click Varnmain.Metric", "choose %sFLFluidTypeCombo #1" % window,
+                  "type %sFLPercentAntifreezeText 25" % window]
+    for field, value in fields.items():
+        lines += ["type %s%s %s" % (window, field, value), "leave %s%s" % (window, field)]
+    lines += ["click %sCACalculateCommand" % window]
+    # Other water temperatures may have changed the pumps.
+    lines += ["activate frmZoneManage", "pick zones/%s.zon" % name,
+              "click frmZoneManage.LOSaveCommand", "activate frmBHDesign",
+              "click %sCACalculateCommand" % window]
+    if percent:
+        lines += ["slide %sCAHybridSlider %d" % (window, percent),
+                  "slide %sCACoolingRangeUpDown 10" % window,
+                  "slide %sCACondenserCapacityUpDown 10000" % window]
+    lines += ["activate frmBHDesign", "pick work files/%s.vht" % name, "click Varnmain.mnuFileSave"]
+    for label in ("CATotalLengthLabel", "CABoreholeLengthLabel", "CASoilTempChangeLabel"):
+        lines += ["print %s%s(%d)" % (window, label, m) for m in (0, 1)]
+    return lines
+
+
 def main():
     file, series, rooms, climate, hours = BUILDINGS[sys.argv[1]]
     lines = ["# Types the example building %s zone by zone and saves its loads." % sys.argv[1],
@@ -73,6 +124,7 @@ def main():
                   "type %sLODaysperWeekText %d" % (window, days)]
     lines += ["click " + window + "LOAutoSelectAllCommand", "pick zones/" + file,
               "click " + window + "LOSaveCommand"]
+    lines += design_lines(sys.argv[1])
     print("\n".join(lines))
 
 
