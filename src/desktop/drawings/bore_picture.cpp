@@ -32,8 +32,8 @@ double reachOf(const BoreDrawing& bore) {
 }
 
 Scale scaleFor(const Canvas& canvas, const BoreDrawing& bore, double warningRoom) {
-    const QRectF room = canvas.area.adjusted(groundRoom, dimensionRoom, -groundRoom,
-                                             -dimensionRoom - warningRoom);
+    const QRectF room =
+        canvas.area.adjusted(groundRoom, dimensionRoom, -groundRoom, -dimensionRoom - warningRoom);
     const double radius = std::max(8.0, std::min(room.width(), room.height()) / 2);
     return {room.center(), radius / reachOf(bore)};
 }
@@ -53,8 +53,8 @@ void drawGround(const Canvas& canvas, const Scale& scale, double radius) {
 
 void drawHatch(const Canvas& canvas, const QPointF& middle, double radius) {
     QPainter& painter = canvas.painter;
-    const QColor tone = canvas.look.dark ? canvas.look.grout.lighter(130)
-                                         : canvas.look.grout.darker(114);
+    const QColor tone =
+        canvas.look.dark ? canvas.look.grout.lighter(130) : canvas.look.grout.darker(114);
     painter.setPen(QPen(tone, 1));
     // A line of the hatch lies so far from the middle and is as long as the circle leaves it.
     for (double off = hatchStep / 2 - hatchStep * std::floor(radius / hatchStep); off < radius;

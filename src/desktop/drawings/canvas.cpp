@@ -10,8 +10,8 @@ namespace {
 
 constexpr double arrowLength = 7;
 constexpr double arrowHalfWidth = 2.4;
-constexpr double overshoot = 4;   // of the hairlines beyond the dimension line
-constexpr double standoff = 3;    // of the hairlines from the drawing
+constexpr double overshoot = 4;  // of the hairlines beyond the dimension line
+constexpr double standoff = 3;   // of the hairlines from the drawing
 constexpr double labelMargin = 5;
 
 QPen hairline(const QColor& colour) { return {colour, 1, Qt::SolidLine, Qt::FlatCap}; }
@@ -23,7 +23,8 @@ void drawArrow(QPainter& painter, const QPointF& tip, double way) {
 }
 
 /// The dimension line itself from 0 to `length` on the level y = 0 of the painter's coordinates.
-void drawDimensionLine(const Canvas& canvas, double length, const QString& label) {
+/// @param room  what the picture has behind the line's end
+void drawDimensionLine(const Canvas& canvas, double length, double room, const QString& label) {
     QPainter& painter = canvas.painter;
     painter.setPen(hairline(canvas.look.muted));
     painter.setBrush(canvas.look.muted);
@@ -35,8 +36,9 @@ void drawDimensionLine(const Canvas& canvas, double length, const QString& label
     drawArrow(painter, {0, 0}, arrowsInside ? 1 : -1);
     drawArrow(painter, {length, 0}, arrowsInside ? -1 : 1);
     const bool labelInside = length >= labelWidth + 2 * arrowLength;
-    const double middle = labelInside ? length / 2 : length + reach + labelWidth / 2;
-    canvas.label({middle, 0}, label, canvas.look.ink);
+    const bool labelBehind = reach + labelWidth <= room;
+    const double beside = labelBehind ? length + reach + labelWidth / 2 : -reach - labelWidth / 2;
+    canvas.label({labelInside ? length / 2 : beside, 0}, label, canvas.look.ink);
 }
 
 }  // namespace
@@ -77,7 +79,7 @@ void drawLevelDimension(const Canvas& canvas, const QPointF& from, const QPointF
                         const QString& label) {
     QPainter& painter = canvas.painter;
     const double line = canvas.crisp(level);
-    painter.setPen(hairline(canvas.look.line));
+    painter.setPen(hairline(between(canvas.look.line, canvas.look.muted, 0.4)));
     for (const QPointF& end : {from, to}) {
         const double way = line < end.y() ? -1 : 1;
         const double x = canvas.crisp(end.x());
@@ -85,7 +87,8 @@ void drawLevelDimension(const Canvas& canvas, const QPointF& from, const QPointF
     }
     painter.save();
     painter.translate(canvas.crisp(from.x()), line);
-    drawDimensionLine(canvas, canvas.crisp(to.x()) - canvas.crisp(from.x()), label);
+    drawDimensionLine(canvas, canvas.crisp(to.x()) - canvas.crisp(from.x()),
+                      canvas.area.right() - to.x(), label);
     painter.restore();
 }
 
@@ -93,7 +96,7 @@ void drawUprightDimension(const Canvas& canvas, const QPointF& from, const QPoin
                           double upright, const QString& label) {
     QPainter& painter = canvas.painter;
     const double line = canvas.crisp(upright);
-    painter.setPen(hairline(canvas.look.line));
+    painter.setPen(hairline(between(canvas.look.line, canvas.look.muted, 0.4)));
     for (const QPointF& end : {from, to}) {
         const double way = line < end.x() ? -1 : 1;
         const double y = canvas.crisp(end.y());
@@ -102,7 +105,8 @@ void drawUprightDimension(const Canvas& canvas, const QPointF& from, const QPoin
     painter.save();
     painter.translate(line, canvas.crisp(to.y()));
     painter.rotate(-90);
-    drawDimensionLine(canvas, canvas.crisp(to.y()) - canvas.crisp(from.y()), label);
+    drawDimensionLine(canvas, canvas.crisp(to.y()) - canvas.crisp(from.y()),
+                      from.y() - canvas.area.top(), label);
     painter.restore();
 }
 

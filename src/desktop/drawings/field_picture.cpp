@@ -2,6 +2,7 @@
 #include "desktop/drawings/field_picture.h"
 
 #include <QFontMetricsF>
+#include <QPixmap>
 #include <QPolygonF>
 #include <algorithm>
 #include <array>
@@ -15,7 +16,7 @@ namespace varnholt {
 namespace {
 
 constexpr double dimensionRoom = 34;  // at each side that has a dimension line
-constexpr double widestPitch = 44;    // a few bores do not fly apart
+constexpr double widestPitch = 64;    // a few bores do not fly apart
 constexpr double narrowestPitch = 6;  // below it marks run into each other
 constexpr double largestMark = 11;
 
@@ -36,18 +37,21 @@ QPolygonF markShape(int neighbours, double half) {
         case 1:
             return {{0, -h}, {h, h * 0.8}, {-h, h * 0.8}};
         case 2:
-            return {{-h * 0.85, -h * 0.85}, {h * 0.85, -h * 0.85}, {h * 0.85, h * 0.85},
+            return {{-h * 0.85, -h * 0.85},
+                    {h * 0.85, -h * 0.85},
+                    {h * 0.85, h * 0.85},
                     {-h * 0.85, h * 0.85}};
         default:
             return {{0, -h * 1.15}, {h * 1.15, 0}, {0, h * 1.15}, {-h * 1.15, 0}};
     }
 }
 
-void drawMark(const Canvas& canvas, const QPointF& middle, int neighbours, double size) {
-    QPainter& painter = canvas.painter;
-    const Tone tone = toneOf(canvas.look, neighbours);
+void drawMark(QPainter& painter, const Look& look, const QPointF& middle, int neighbours,
+              double size) {
+    const Tone tone = toneOf(look, neighbours);
     painter.setBrush(tone.fill);
-    painter.setPen(QPen(tone.edge, size < 7 ? 1 : 1.4, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setPen(
+        QPen(tone.edge, size < 7 ? 1 : 1.4, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     if (neighbours == 0 || neighbours == 4)
         painter.drawEllipse(middle, size / 2, size / 2);
     else
@@ -111,7 +115,8 @@ QRectF drawLegend(const Canvas& canvas, const std::vector<LegendEntry>& entries)
     const QPointF origin(canvas.area.left(), canvas.area.bottom() - height);
     for (const auto& [offset, entry] : placed) {
         const QPointF start = origin + offset;
-        drawMark(canvas, start + QPointF(6, lineHeight / 2), entry->neighbours, 10);
+        drawMark(canvas.painter, canvas.look, start + QPointF(6, lineHeight / 2), entry->neighbours,
+                 10);
         canvas.painter.setFont(canvas.words);
         canvas.painter.setPen(canvas.look.ink);
         canvas.painter.drawText(
@@ -134,16 +139,20 @@ struct Grid {
     QRectF plot() const { return bores.adjusted(-margin(), -margin(), margin(), margin()); }
 };
 
-Grid gridIn(const QRectF& room, const FieldPlan& field) {
+Grid gridIn(const Canvas& canvas, const QRectF& room, const FieldPlan& field) {
     constexpr double ground = 16;
+    const double ratio = canvas.painter.device()->devicePixelRatioF();
     const QRectF inner = room.adjusted(dimensionRoom + ground, dimensionRoom + ground, -ground,
                                        -dimensionRoom - ground);
     Grid grid{std::floor(field.across), std::floor(field.down), widestPitch, {}};
     if (grid.columns > 1) grid.pitch = std::min(grid.pitch, inner.width() / (grid.columns - 1));
     if (grid.rows > 1) grid.pitch = std::min(grid.pitch, inner.height() / (grid.rows - 1));
-    grid.pitch = std::max(grid.pitch, 0.0);
+    // Whole pixels of the device from mark to mark, so that all marks look the same.
+    const bool told = grid.pitch >= narrowestPitch;
+    grid.pitch = told ? std::floor(grid.pitch * ratio) / ratio : std::max(grid.pitch, 0.0);
     const QSizeF size(grid.pitch * (grid.columns - 1), grid.pitch * (grid.rows - 1));
-    grid.bores = QRectF(inner.center() - QPointF(size.width(), size.height()) / 2, size);
+    const QPointF corner = inner.center() - QPointF(size.width(), size.height()) / 2;
+    grid.bores = QRectF(QPointF(canvas.crisp(corner.x()), canvas.crisp(corner.y())), size);
     return grid;
 }
 
@@ -157,11 +166,33 @@ int neighboursAt(const Grid& grid, double column, double row) {
     return (column > 0) + (column + 1 < grid.columns) + (row > 0) + (row + 1 < grid.rows);
 }
 
+/// The mark of a class once, to be stamped onto the plan: a thousand outlines would take too long
+/// for a picture that follows typing.
+QPixmap stampOf(const Canvas& canvas, int neighbours, double size) {
+    const double ratio = canvas.painter.device()->devicePixelRatioF();
+    const int side = static_cast<int>(std::ceil((size * 1.2 + 2) * ratio)) | 1;
+    QPixmap stamp(side, side);
+    stamp.setDevicePixelRatio(ratio);
+    stamp.fill(Qt::transparent);
+    QPainter painter(&stamp);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double middle = side / ratio / 2;
+    drawMark(painter, canvas.look, {middle, middle}, neighbours, size);
+    return stamp;
+}
+
 void drawBores(const Canvas& canvas, const Grid& grid) {
     const double size = std::min(largestMark, grid.pitch * 0.62);
+    std::array<QPixmap, 5> stamps;
+    for (int neighbours = 0; neighbours < 5; ++neighbours)
+        stamps[static_cast<std::size_t>(neighbours)] = stampOf(canvas, neighbours, size);
+    const double half = stamps[0].deviceIndependentSize().width() / 2;
     for (int row = 0; row < grid.rows; ++row)
-        for (int column = 0; column < grid.columns; ++column)
-            drawMark(canvas, grid.at(column, row), neighboursAt(grid, column, row), size);
+        for (int column = 0; column < grid.columns; ++column) {
+            const auto neighbours = static_cast<std::size_t>(neighboursAt(grid, column, row));
+            canvas.painter.drawPixmap(grid.at(column, row) - QPointF(half, half),
+                                      stamps[neighbours]);
+        }
 }
 
 /// Bores that cannot be told apart: the inside, the edges and the corners as areas.
@@ -183,7 +214,7 @@ void drawClasses(const Canvas& canvas, const Grid& grid) {
     const int corner = line ? 1 : 2;
     for (const double column : {0.0, grid.columns - 1})
         for (const double row : {0.0, grid.rows - 1})
-            drawMark(canvas, grid.at(column, row), corner, largestMark);
+            drawMark(painter, canvas.look, grid.at(column, row), corner, largestMark);
 }
 
 void drawDimensions(const Canvas& canvas, const Grid& grid, const FieldPlan& field) {
@@ -216,7 +247,7 @@ void paintField(const Canvas& canvas, const FieldPlan& field, const Texts& texts
         return;
     }
     const QRectF room = drawLegend(canvas, legendOf(field, texts));
-    const Grid grid = gridIn(room, field);
+    const Grid grid = gridIn(canvas, room, field);
     drawGround(canvas, grid);
     const double lines = std::max(grid.columns, grid.rows);
     if (lines > 1 && grid.pitch < narrowestPitch)
@@ -230,8 +261,7 @@ QString describeField(const FieldPlan& field, const Texts& texts) {
     if (field.across < 1 || field.down < 1) return qt(texts.text(2541));
     QString shown = qt(texts.text(2542))
                         .arg(counted(std::floor(field.across)), counted(std::floor(field.down)),
-                             qt(field.separationLabel), qt(field.acrossLabel),
-                             qt(field.downLabel));
+                             qt(field.separationLabel), qt(field.acrossLabel), qt(field.downLabel));
     for (const LegendEntry& entry : legendOf(field, texts)) shown += u' ' + entry.text + u'.';
     return shown;
 }

@@ -66,13 +66,13 @@ void paintLinkLight(const Canvas& canvas, LinkLight light) {
 QString describeLinkLight(LinkLight light, const Texts& texts) {
     switch (light) {
         case LinkLight::zones:
-            return qt(texts.text(2951));
+            return qt(texts.text(2980));
         case LinkLight::block:
-            return qt(texts.text(2952));
+            return qt(texts.text(2981));
         case LinkLight::none:
             break;
     }
-    return qt(texts.text(2953));
+    return qt(texts.text(2982));
 }
 
 }  // namespace varnholt

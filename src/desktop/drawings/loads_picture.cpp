@@ -16,7 +16,7 @@ constexpr double barGap = 3;  // between the two bars of a block
 QString figure(double load) { return qt(formatNumber(load, "##0.0")); }
 
 QString modeWord(Mode mode, const Texts& texts) {
-    return qt(mode == cooling ? texts.text(2961) : texts.text(2962));
+    return qt(mode == cooling ? texts.text(2983) : texts.text(2984));
 }
 
 void setBarStyle(const Canvas& canvas, Mode mode) {
@@ -54,10 +54,9 @@ void drawBlockNames(const Canvas& canvas, const QRectF& foot, const LoadsCaption
     canvas.painter.setFont(canvas.figures);
     canvas.painter.setPen(canvas.look.muted);
     for (std::size_t block = 0; block < timeBlocks; ++block)
-        canvas.painter.drawText(
-            QRectF(foot.left() + width * static_cast<double>(block), foot.top(), width,
-                   foot.height()),
-            Qt::AlignCenter, qt(captions.blocks[block]));
+        canvas.painter.drawText(QRectF(foot.left() + width * static_cast<double>(block), foot.top(),
+                                       width, foot.height()),
+                                Qt::AlignCenter, qt(captions.blocks[block]));
 }
 
 void drawBar(const Canvas& canvas, Mode mode, const QRectF& bar) {
@@ -89,8 +88,7 @@ void drawBars(const Canvas& canvas, const QRectF& plot, const LoadsChart& loads)
             const double load = loads.loads[mode][block];
             if (load <= 0) continue;
             const double middle = plot.left() + group * (static_cast<double>(block) + 0.5);
-            const double left =
-                mode == cooling ? middle - barGap / 2 - width : middle + barGap / 2;
+            const double left = mode == cooling ? middle - barGap / 2 - width : middle + barGap / 2;
             const double height = load / largest * tallest;
             const QRectF bar(left, plot.bottom() - height, width, height);
             drawBar(canvas, mode, bar);
@@ -110,7 +108,7 @@ void paintLoads(const Canvas& canvas, const LoadsChart& loads, const LoadsCaptio
     if (loads.empty()) {
         painter.setFont(canvas.words);
         painter.setPen(canvas.look.muted);
-        painter.drawText(plot, Qt::AlignCenter | Qt::TextWordWrap, qt(texts.text(2963)));
+        painter.drawText(plot, Qt::AlignCenter | Qt::TextWordWrap, qt(texts.text(2985)));
     } else {
         drawBars(canvas, plot, loads);
     }
@@ -120,13 +118,13 @@ void paintLoads(const Canvas& canvas, const LoadsChart& loads, const LoadsCaptio
 }
 
 QString describeLoads(const LoadsChart& loads, const LoadsCaptions& captions, const Texts& texts) {
-    if (loads.empty()) return qt(texts.text(2963));
+    if (loads.empty()) return qt(texts.text(2985));
     QStringList sentences;
     for (const Mode mode : modes) {
         if (!loads.peakBlock[mode]) continue;
-        sentences << qt(texts.text(2964))
-                         .arg(modeWord(mode, texts), figure(loads.largest[mode]),
-                              qt(captions.unit), qt(captions.blocks[*loads.peakBlock[mode]]));
+        sentences << qt(texts.text(2986))
+                         .arg(modeWord(mode, texts), figure(loads.largest[mode]), qt(captions.unit),
+                              qt(captions.blocks[*loads.peakBlock[mode]]));
     }
     return sentences.join(u' ');
 }

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+
+#include "design/bore_drawing.h"
+#include "design/field_plan.h"
+#include "desktop/drawings/link_light.h"
+#include "desktop/drawings/loads_picture.h"
+#include "desktop/drawings/pump_curves.h"
+#include "desktop/house_widgets.h"
+
+namespace varnholt {
+
+// The program's pictures as widgets. Each asks its source for what to draw whenever it is shown or
+// refreshed. The texts must outlive the widget.
+
+Drawing* newBoreDrawing(std::function<BoreDrawing()> source, const Texts& texts);
+Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts);
+/// A light that stands for one partner; a hint tells which.
+Drawing* newLinkLight(LinkLight light, const Texts& texts);
+/// Small bars beside the numbers of a zone.
+Drawing* newLoadsBars(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,
+                      const Texts& texts);
+Drawing* newDayChart(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,
+                     const Texts& texts);
+Drawing* newPumpCurves(std::function<PumpPicture()> source, const Texts& texts);
+
+}  // namespace varnholt

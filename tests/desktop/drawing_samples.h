@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QApplication>
+#include <QImage>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "basis/file_system.h"
+#include "desktop/drawings/bore_picture.h"
+#include "desktop/drawings/field_picture.h"
+#include "desktop/drawings/link_light.h"
+#include "desktop/drawings/loads_picture.h"
+#include "tools/text_table.h"
+
+namespace varnholt {
+
+/// The English texts of the pictures.
+class PictureTexts : public Texts {
+ public:
+    PictureTexts() {
+        const std::string name = "2460_pictures.txt";
+        table_.read(readWholeFile(VARNHOLT_SOURCE_DIR "/resources/language/english/" + name), name);
+    }
+    std::string text(int number) const override {
+        const auto found = table_.texts().find(number);
+        return found == table_.texts().end() ? std::string() : found->second;
+    }
+    std::string picture(int) const override { return {}; }
+
+ private:
+    TextTable table_;
+};
+
+inline const Texts& pictureTexts() {
+    static const PictureTexts texts;
+    return texts;
+}
+
+inline BoreDrawing sampleBore(double diameter, double outside, double inside, double uTubes,
+                              double placement) {
+    BoreValues bore;
+    bore.boreDiameter = diameter;
+    bore.uTubeConfig = uTubes;
+    bore.pipePlacement = placement;
+    PipeValues pipe;
+    pipe.pipeDiameter = {outside, inside};
+    BoreDrawing drawing = drawBore(bore, pipe);
+    drawing.boreLabel = QString::number(diameter, 'f', 2).toStdString() + " in";
+    drawing.pipeLabel = QString::number(outside, 'f', 2).toStdString() + " in";
+    return drawing;
+}
+
+inline FieldPlan sampleField(double across, double down) {
+    ArrangementValues values;
+    values.patternRows = {across, down};
+    FieldPlan plan = drawField(values);
+    const auto feet = [](double length) { return QString::number(length, 'f', 1) + " ft"; };
+    plan.separationLabel = feet(20).toStdString();
+    plan.acrossLabel = feet(fieldExtent(across, 20)).toStdString();
+    plan.downLabel = feet(fieldExtent(down, 20)).toStdString();
+    return plan;
+}
+
+inline LoadsChart sampleLoads() {
+    LoadsChart chart;
+    chart.loads[cooling] = {24.0, 42.5, 38.2, 6.0};
+    chart.loads[heating] = {31.0, 12.4, 9.0, 27.5};
+    chart.largest = {42.5, 31.0};
+    chart.peakBlock = {1, 0};
+    return chart;
+}
+
+inline LoadsCaptions sampleCaptions() { return {{"8-12", "12-4", "4-8", "8-8"}, "MBtu/hr"}; }
+
+/// One picture of the gallery.
+struct DrawingSample {
+    std::string name;
+    QSize size;
+    std::function<void(const Canvas&)> paint;
+};
+
+inline std::vector<DrawingSample> drawingSamples() {
+    const Texts& texts = pictureTexts();
+    std::vector<DrawingSample> samples;
+    const auto bore = [&](const char* name, const BoreDrawing& drawing) {
+        samples.push_back({name, {280, 300}, [=, &texts](const Canvas& canvas) {
+                               paintBore(canvas, drawing, texts);
+                           }});
+    };
+    const auto field = [&](const char* name, double across, double down) {
+        const FieldPlan plan = sampleField(across, down);
+        samples.push_back({name, {360, 320}, [=, &texts](const Canvas& canvas) {
+                               paintField(canvas, plan, texts);
+                           }});
+    };
+    bore("bore_average", sampleBore(5, 1.9, 1.55, 0, 1));
+    bore("bore_at_wall", sampleBore(6, 1.315, 1.08, 0, 0));
+    bore("bore_close_together", sampleBore(5, 1.05, 0.86, 0, 2));
+    bore("bore_double", sampleBore(6, 1.315, 1.08, 1, 1));
+    bore("bore_too_narrow", sampleBore(3, 1.9, 1.55, 0, 1));
+    field("field_6_by_4", 6, 4);
+    field("field_1_by_1", 1, 1);
+    field("field_8_by_1", 8, 1);
+    field("field_1_by_5", 1, 5);
+    field("field_2_by_2", 2, 2);
+    field("field_20_by_15", 20, 15);
+    field("field_100_by_100", 100, 100);
+    field("field_none", 0, 4);
+    samples.push_back({"loads", {300, 150}, [&texts](const Canvas& canvas) {
+                           paintLoads(canvas, sampleLoads(), sampleCaptions(), texts);
+                       }});
+    samples.push_back({"loads_none", {300, 150}, [&texts](const Canvas& canvas) {
+                           paintLoads(canvas, {}, sampleCaptions(), texts);
+                       }});
+    for (const LinkLight light : {LinkLight::none, LinkLight::zones, LinkLight::block})
+        samples.push_back({"light_" + std::to_string(static_cast<int>(light)),
+                           {40, 40},
+                           [=](const Canvas& canvas) { paintLinkLight(canvas, light); }});
+    return samples;
+}
+
+/// The sample on the surface of a scheme, at so many pixels to a device-independent one.
+inline QImage renderedSample(const DrawingSample& sample, const Look& look, double ratio) {
+    QImage image((QSizeF(sample.size) * ratio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    image.fill(look.surface);
+    QPainter painter(&image);
+    QPalette palette;
+    palette.setColor(QPalette::Window, look.window);
+    QFont font(QStringLiteral("Inter"));
+    font.setPointSizeF(9);
+    const QRectF area = QRectF(QPointF(0, 0), QSizeF(sample.size)).adjusted(8, 8, -8, -8);
+    sample.paint(canvasFor(painter, area, palette, font));
+    return image;
+}
+
+}  // namespace varnholt

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/drawings/drawings.h"
+
+#include <gtest/gtest.h>
+
+#include <QtCharts/QChartView>
+#include <QtCharts/QScatterSeries>
+#include <memory>
+
+#include "drawing_samples.h"
+
+namespace varnholt {
+namespace {
+
+int pixelsUnlike(const QImage& image, const QColor& ground) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixelColor(x, y) != ground) ++count;
+    return count;
+}
+
+/// Lengths of the runs of one colour along a level line, in pixels.
+std::vector<int> runsOf(const QImage& image, const QColor& colour, int y) {
+    std::vector<int> runs;
+    bool inside = false;
+    for (int x = 0; x < image.width(); ++x) {
+        const bool match = image.pixelColor(x, y) == colour;
+        if (match && !inside) runs.push_back(0);
+        if (match) ++runs.back();
+        inside = match;
+    }
+    return runs;
+}
+
+PumpPicture samplePump() {
+    PumpPicture picture;
+    picture.pump.name = "HV036";
+    picture.temperatureUnit = "deg F";
+    picture.capacityUnit = "MBtu/hr";
+    picture.powerUnit = "kW";
+    picture.designWater = {85, 50};
+    for (const Mode mode : modes) {
+        picture.pump.capacity[mode].curve = {{40, 30}, {60, 34}, {100, 26}};
+        picture.pump.capacity[mode].points = {{40, 30.5}, {60, 33.5}, {100, 26}};
+        picture.pump.power[mode].curve = {{40, 2}, {100, 3.2}};
+    }
+    return picture;
+}
+
+TEST(Drawings, ShowSomethingInBothSchemesAtEveryScale) {
+    for (const DrawingSample& sample : drawingSamples()) {
+        SCOPED_TRACE(sample.name);
+        for (const Look* look : {&lightLook(), &darkLook()})
+            for (const double ratio : {1.0, 1.5, 2.0}) {
+                const QImage image = renderedSample(sample, *look, ratio);
+                EXPECT_GT(pixelsUnlike(image, look->surface), 20);
+            }
+    }
+}
+
+TEST(BorePicture, IsToScale) {
+    // Placed at average, 1.9 in pipes leave three gaps of (5 - 2 * 1.9) / 3 = 0.4 in, so their
+    // middles are 2.3 in apart. A line through the middles crosses four walls of 0.175 in each; an
+    // inner diameter of 1.55 in lies between the walls of one pipe, 0.4 in between the pipes.
+    const BoreDrawing bore = sampleBore(5, 1.9, 1.55, 0, 1);
+    const DrawingSample sample{
+        "", {400, 400}, [&](const Canvas& canvas) { paintBore(canvas, bore, pictureTexts()); }};
+    const Look& look = lightLook();
+    const QImage image = renderedSample(sample, look, 4);
+    // Beside the line of centres, which hides the walls.
+    const std::vector<int> walls = runsOf(image, look.pipe, image.height() / 2 + 12);
+    ASSERT_EQ(walls.size(), 4u);
+    const double room = (400 - 16 - 2 * 30) / 2.0;  // radius that the dimensions leave
+    const double perInch = 4 * room / 2.5;
+    for (const int wall : walls) EXPECT_NEAR(wall, 0.175 * perInch, 6);
+}
+
+TEST(BorePicture, IsDescribed) {
+    EXPECT_EQ(describeBore(sampleBore(5, 1.9, 1.55, 0, 1), pictureTexts()),
+              "Cross-section of a borehole of 5.00 in with one U-tube, to scale. The pipe's outer "
+              "diameter is 1.90 in.");
+    EXPECT_TRUE(describeBore(sampleBore(6, 1.315, 1.08, 1, 1), pictureTexts())
+                    .contains(QStringLiteral("two U-tubes")));
+}
+
+TEST(BorePicture, SaysThatThePipesDoNotFit) {
+    EXPECT_TRUE(describeBore(sampleBore(3, 1.9, 1.55, 0, 1), pictureTexts())
+                    .endsWith(QStringLiteral("The pipes do not fit into the borehole.")));
+}
+
+TEST(BorePicture, OfNothingIsEmpty) {
+    const BoreDrawing bore = sampleBore(0, 0, 0, 0, 1);
+    const DrawingSample sample{
+        "", {200, 200}, [&](const Canvas& canvas) { paintBore(canvas, bore, pictureTexts()); }};
+    EXPECT_EQ(pixelsUnlike(renderedSample(sample, lightLook(), 1), lightLook().surface), 0);
+}
+
+TEST(FieldPicture, CountsTheBoresOfEachClass) {
+    // 6 by 4: 4 * 2 inside, 2 * (4 + 2) at the edges, 4 corners.
+    EXPECT_EQ(describeField(sampleField(6, 4), pictureTexts()),
+              "Plan of 6 by 4 boreholes, 20.0 ft apart. From the first to the last the field is "
+              "100.0 ft wide and 60.0 ft deep. Inside, 4 neighbours: 8. Edge, 3 neighbours: 12. "
+              "Corner, 2 neighbours: 4.");
+    EXPECT_TRUE(describeField(sampleField(8, 1), pictureTexts())
+                    .endsWith(QStringLiteral("In line, 2 neighbours: 6. End, 1 neighbour: 2.")));
+    EXPECT_TRUE(describeField(sampleField(1, 1), pictureTexts())
+                    .endsWith(QStringLiteral("No neighbour: 1.")));
+    EXPECT_TRUE(describeField(sampleField(100, 100), pictureTexts())
+                    .contains(QStringLiteral("Inside, 4 neighbours: 9604.")));
+}
+
+TEST(FieldPicture, WithoutRowsSaysWhatToDo) {
+    EXPECT_EQ(describeField(sampleField(0, 4), pictureTexts()),
+              "Enter at least one row across and one row down to see the field.");
+}
+
+TEST(FieldPicture, OfAnySizeIsDrawn) {
+    for (const double across : {1.0, 2.0, 41.0, 1000.0, 1e9, 1e300})
+        for (const double down : {1.0, 3.0, 1e6}) {
+            const FieldPlan field = sampleField(across, down);
+            const DrawingSample sample{"", {300, 300}, [&](const Canvas& canvas) {
+                                           paintField(canvas, field, pictureTexts());
+                                       }};
+            EXPECT_GT(pixelsUnlike(renderedSample(sample, lightLook(), 1), lightLook().surface),
+                      100);
+        }
+}
+
+TEST(LoadsPicture, NamesTheLargestLoadOfEachMode) {
+    EXPECT_EQ(describeLoads(sampleLoads(), sampleCaptions(), pictureTexts()),
+              "Cooling: the largest load is 42.5 MBtu/hr, in the block 12-4. Heating: the largest "
+              "load is 31.0 MBtu/hr, in the block 8-12.");
+    EXPECT_EQ(describeLoads({}, sampleCaptions(), pictureTexts()), "Enter loads to see the day.");
+}
+
+TEST(Charts, AreNotCreatedBeforeTheyAreShown) {
+    const std::unique_ptr<Drawing> day(newDayChart(sampleLoads, sampleCaptions, pictureTexts()));
+    EXPECT_TRUE(day->findChildren<QChartView*>().empty());
+    day->show();
+    EXPECT_EQ(day->findChildren<QChartView*>().size(), 1);
+}
+
+TEST(Charts, FollowTheirSource) {
+    PumpPicture picture = samplePump();
+    const std::unique_ptr<Drawing> curves(newPumpCurves([&] { return picture; }, pictureTexts()));
+    curves->show();
+    // At 50 degF, half way from 40 to 60, heating has (30 + 34) / 2 and 2 + 1.2 / 6 kW; at 85 degF
+    // cooling has 34 - 8 * 25 / 40 = 29 and 2 + 1.2 * 45 / 60 = 2.9 kW.
+    EXPECT_EQ(
+        curves->description(),
+        "Curves of HV036 over the entering water temperature. Cooling at 85.0 deg F: capacity "
+        "29.0 MBtu/hr, power 2.9 kW. Heating at 50.0 deg F: capacity 32.0 MBtu/hr, power 2.2 "
+        "kW.");
+    picture.pump.name.clear();
+    curves->refresh();
+    EXPECT_EQ(curves->description(), "Choose a heat pump to see its curves.");
+}
+
+TEST(Charts, TellNothingBeyondACurvesEnds) {
+    const PumpCurve curve{{{40, 30}, {60, 34}}, {}};
+    EXPECT_EQ(valueAt(curve, 39), std::nullopt);
+    EXPECT_EQ(valueAt(curve, 40), 30);
+    EXPECT_EQ(valueAt(curve, 55), 33);
+    EXPECT_EQ(valueAt(curve, 61), std::nullopt);
+    EXPECT_EQ(valueAt({}, 50), std::nullopt);
+}
+
+TEST(LinkLights, SayWhatTheyStandFor) {
+    const std::unique_ptr<Drawing> light(newLinkLight(LinkLight::block, pictureTexts()));
+    light->refresh();
+    EXPECT_EQ(light->description(), "Linked with the Average Block Loads");
+}
+
+}  // namespace
+}  // namespace varnholt
