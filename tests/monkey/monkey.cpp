@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "monkey/invariants.h"
+#include "script/properties.h"
 #include "script/transcript.h"
 
 namespace varnholt {
@@ -17,6 +18,7 @@ using Kind = ControlKind;
 constexpr std::size_t manyWindows = 8;
 constexpr int pressesInADialog = 30;
 constexpr int closesOfADialog = 100;
+constexpr int looks = 3;
 
 bool isEnabled(const Form& form, const Control& control) {
     if (!control.enabled()) return false;
@@ -30,7 +32,7 @@ bool takesHands(const Control& control) {
         case Kind::image:
             return false;
         case Kind::menu:
-            return !control.container().empty();
+            return !control.container().empty() && !control.caption().empty();
         case Kind::combo:
         case Kind::list:
         case Kind::tabs:
@@ -84,11 +86,31 @@ void Monkey::act() {
     Form& form = inDialog ? *main_.modalForms().back() : anyForm();
     const std::vector<const Control*> workable = workableOf(form);
     if (workable.empty()) return;
-    const Control& control = *dice_.among(workable);
+    const Control& control = anyControl(workable);
     // Else few sessions would come far.
     if (control.name() == "mnuFileExit" && !dice_.chance(10)) return;
     work(form, control);
     worked(&form);
+}
+
+/// Fields stand in the majority, and buttons lead further.
+const Control& Monkey::anyControl(const std::vector<const Control*>& workable) {
+    const Control* control = dice_.among(workable);
+    for (int i = 0; i < 3 && control->kind() == Kind::text; ++i) control = dice_.among(workable);
+    return *control;
+}
+
+/// Reads what some controls show, so that a replay is compared.
+void Monkey::look(Form& form) {
+    constexpr int properties = static_cast<int>(Property::tooltip) + 1;
+    for (int i = 0; i < looks; ++i) {
+        const Control& control = *form.controls()[dice_.below(form.controls().size())];
+        const auto property = static_cast<Property>(dice_.below(properties));
+        if (!hasProperty(control.kind(), property)) continue;
+        log_.action(fmt::format("print {}.{}.{}", platform_.forms().nameOf(form), control.name(),
+                                nameOf(property)));
+        driver_.read(form, control, property);
+    }
 }
 
 /// Mostly the window in front, for a person keeps to what he sees.
@@ -110,8 +132,11 @@ void Monkey::closeSome() {
 }
 
 /// The handler may have taken the window away.
-void Monkey::worked(const Form* form) {
-    if (platform_.forms().isOpen(form)) checkForm(*form);
+void Monkey::worked(Form* form) {
+    if (platform_.forms().isOpen(form)) {
+        checkForm(*form);
+        if (!form->modalEnded()) look(*form);
+    }
     for (const ChildWindow* window : main_.windows())
         if (window != form && dice_.chance(10)) checkForm(*window);
 }

@@ -31,9 +31,11 @@ class Monkey : public ScriptHost {
  private:
     void act();
     Form& anyForm();
+    const Control& anyControl(const std::vector<const Control*>& workable);
+    void look(Form& form);
     void closeSome();
     void work(Form& form, const Control& control);
-    void worked(const Form* form);
+    void worked(Form* form);
     void type(Form& form, const Control& control);
     void choose(Form& form, const Control& control);
     void select(Form& form, const Control& control);

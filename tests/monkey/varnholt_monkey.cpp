@@ -23,13 +23,13 @@ namespace fs = std::filesystem;
 
 constexpr const char* usage =
     "varnholt-monkey [--seed N] [--presses N] [--trace FILE] [--aloud]\n"
-    "A random user of every window. A failure's last session is written to FILE\n"
-    "(default monkey.vscript) as a script.\n";
+    "A random user of every window. The last session, which is the failed one after a\n"
+    "failure, is written to FILE as a script.\n";
 
 struct Options {
     std::uint64_t seed = 1;
     std::size_t presses = 2000;
-    std::string trace = "monkey.vscript";
+    std::string trace;
     bool aloud = false;
 };
 
@@ -101,6 +101,7 @@ std::size_t playSession(std::size_t presses, std::uint64_t seed, Dice& dice, Mon
 }
 
 void writeTrace(const std::string& path, const MonkeyLog& log) {
+    if (path.empty()) return;
     std::ofstream file(path);
     for (const std::string& line : log.lines()) file << line << '\n';
 }
@@ -115,10 +116,11 @@ int play(const Options& options) {
                                 options.seed, dice, log);
     } catch (const std::exception& exception) {
         writeTrace(options.trace, log);
-        std::cerr << fmt::format("seed {}, after {} presses: {}\nSee {}\n", options.seed, done,
-                                 exception.what(), options.trace);
+        std::cerr << fmt::format("seed {}, after {} presses: {}\n", options.seed, done,
+                                 exception.what());
         return 1;
     }
+    writeTrace(options.trace, log);
     std::cout << fmt::format("{} presses in {} sessions\n", done, sessions);
     return 0;
 }
