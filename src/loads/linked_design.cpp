@@ -22,7 +22,7 @@ bool sameLoads(const Zone& a, const Zone& b) {
 
 /// The lamp of a link burns brighter while loads are being transferred.
 void shine(Form& window, bool bright) {
-    Control& lamp = window.element("imgLinkLight", 0);
+    Control& lamp = window.element("imgLinkLight", window.formName() == "frmAvgBlock" ? 8 : 0);
     if (bright) lamp.setVisible(true);
     lamp.setBold(bright);
 }

@@ -147,9 +147,9 @@ void openZoneFile(Varnmain& main, const std::string& path) {
     const std::string whole = absolutePath(main, path);
     LoadsWindow* loads = openLoadsWindow(main, "frmZoneManage");
     if (loads == nullptr || !loads->CheckForSave()) return;
-    loads->LOOpenZoneFile(whole);
+    const bool read = loads->LOOpenZoneFile(whole);
     main.activate(*loads);
-    main.fileUsed(whole);
+    if (read) main.fileUsed(whole);
 }
 
 void openFile(Varnmain& main, const std::string& path) {

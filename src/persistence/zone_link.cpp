@@ -43,8 +43,9 @@ bool isEmpty(const LoadsWindow& loads) {
     return loads.zoneNumber == 0 && !loads.workingFileCheck && !loads.hasUnsavedChanges();
 }
 
-/// The loads window that the project wants, with the zone file in it; null when it is in use.
-LoadsWindow* loadsWindowWith(LinkedDesign& design, const std::string& path) {
+/// The loads window that the project wants, which holds the zone file or can take it; null when it
+/// is in use.
+LoadsWindow* loadsWindowFor(LinkedDesign& design, const std::string& path) {
     Varnmain& main = design.main();
     // Whatever else the file names, the Zone Manager is meant.
     const char* formName = design.linkType == "frmAvgBlock" ? "frmAvgBlock" : "frmZoneManage";
@@ -52,9 +53,7 @@ LoadsWindow* loadsWindowWith(LinkedDesign& design, const std::string& path) {
     if (loads != nullptr && loads->designLinkID != 0) return nullptr;
     if (loads != nullptr && holdsFile(*loads, path)) return loads;
     if (loads != nullptr && !isEmpty(*loads)) return nullptr;
-    if (loads == nullptr) loads = openLoadsWindow(main, formName);
-    if (loads != nullptr) loads->LOOpenZoneFile(path);
-    return loads;
+    return loads != nullptr ? loads : openLoadsWindow(main, formName);
 }
 
 /// What the project stored of its own.
@@ -99,9 +98,13 @@ void resolveZoneLink(LinkedDesign& design) {
         forgetZoneFile(design);
         return;
     }
-    LoadsWindow* loads = loadsWindowWith(design, path);
-    if (loads != nullptr) return takeZones(design, *loads);
-    warn(design, design.text(8539));
+    LoadsWindow* loads = loadsWindowFor(design, path);
+    if (loads == nullptr)
+        warn(design, design.text(8539));
+    else if (!holdsFile(*loads, path) && !loads->LOOpenZoneFile(path))
+        warn(design, design.text(8543) + "\n\n" + path);
+    else
+        return takeZones(design, *loads);
     forgetZoneFile(design);
 }
 

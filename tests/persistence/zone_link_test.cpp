@@ -97,6 +97,17 @@ TEST_F(ZoneLink, ThatIsMissingIsNamedAndForgotten) {
     EXPECT_EQ(d.zoneNumber, 3);
 }
 
+TEST_F(ZoneLink, IsNotMadeWithADamagedZoneFile) {
+    const std::string zones = bytesOf(folder / "zones/school.zon");
+    writeBytes(folder / "zones/school.zon", zones.substr(0, zones.size() / 2));
+    const frmBHDesign& d = reopen();
+    EXPECT_EQ(lastMessage(), "[8543]\n\n" + (folder / "zones/school.zon"));
+    expectForgotten(d);
+    EXPECT_FALSE(d.isStale());
+    // What could be read stays in the loads window.
+    EXPECT_EQ(loads().zoneNumber, 1);
+}
+
 TEST_F(ZoneLink, IsRefusedWhenTheLoadsWindowHoldsAnotherFile) {
     writeZones(folder / "zones/other.zon", 2);
     main.click("mnuZoneManage");
