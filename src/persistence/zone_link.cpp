@@ -85,6 +85,32 @@ void takeZones(LinkedDesign& design, LoadsWindow& loads) {
     design.TransferLoadsVariablesOut();
 }
 
+Answer askAboutZones(LinkedDesign& design) {
+    Varnmain& main = design.main();
+    const Answer answer =
+        main.platform().question(Buttons::yesNoCancel, main.text(1205), main.text(1206));
+    if (answer == Answer::cancel) {
+        warn(design, main.text(1207));
+        main.saveCancelled = true;
+    }
+    return answer;
+}
+
+void saveZones(LinkedDesign& design, LoadsWindow& loads) {
+    loads.zoneSaveCancelled = false;
+    loads.LOSaveCommand_Click();
+    if (!loads.hasUnsavedChanges()) return;
+    warn(design, design.text(1207));
+    loads.zoneSaveCancelled = design.zoneSaveCancelled = true;
+    design.main().saveCancelled = true;
+}
+
+void takeZoneFile(LinkedDesign& design, const LoadsWindow& loads) {
+    design.workingZoneFile = loads.workingZoneFile;
+    design.workingZoneDirectory = loads.workingZoneDirectory;
+    design.workingFileCheck = loads.workingFileCheck;
+}
+
 }  // namespace
 
 void resolveZoneLink(LinkedDesign& design) {
@@ -110,26 +136,12 @@ void resolveZoneLink(LinkedDesign& design) {
 
 Answer checkZoneFile(LinkedDesign& design) {
     LoadsWindow* loads = design.LoadsHome;
-    if (loads == nullptr || !loads->hasUnsavedChanges()) return Answer::no;
-    Varnmain& main = design.main();
-    const Answer answer =
-        main.platform().question(Buttons::yesNoCancel, main.text(1205), main.text(1206));
-    if (answer == Answer::cancel) {
-        warn(design, main.text(1207));
-        main.saveCancelled = true;
-    }
-    if (answer != Answer::yes || !main.isOpen(loads)) return answer;
-    loads->zoneSaveCancelled = false;
-    loads->LOSaveCommand_Click();
-    if (loads->hasUnsavedChanges()) {
-        warn(design, main.text(1207));
-        loads->zoneSaveCancelled = design.zoneSaveCancelled = true;
-        main.saveCancelled = true;
-        return answer;
-    }
-    design.workingZoneFile = loads->workingZoneFile;
-    design.workingZoneDirectory = loads->workingZoneDirectory;
-    design.workingFileCheck = loads->workingFileCheck;
+    if (loads == nullptr) return Answer::no;
+    const Answer answer = loads->hasUnsavedChanges() ? askAboutZones(design) : Answer::no;
+    if (answer == Answer::yes && design.LoadsHome == loads) saveZones(design, *loads);
+    // The project must name the file that its loads are in, also when that was saved or opened in
+    // the loads window since the last transfer.
+    if (design.LoadsHome == loads && loads->workingFileCheck) takeZoneFile(design, *loads);
     return answer;
 }
 

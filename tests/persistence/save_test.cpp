@@ -165,6 +165,15 @@ TEST_F(ZoneQuestion, YesSavesTheZonesFirstAndTakesTheirName) {
               std::string::npos);
 }
 
+TEST_F(ZoneQuestion, IsNotNeededToNameTheFileThatTheZonesWereSavedInSince) {
+    loads().LOSaveCommand_Click();
+    main.click("mnuFileSave");
+    EXPECT_TRUE(platform.questions.empty());
+    EXPECT_EQ(design().workingZoneFile, "renamed.zon");
+    EXPECT_NE(bytesOf(folder / "work files/school.vht").find("\r\nrenamed.zon\r\n"),
+              std::string::npos);
+}
+
 TEST_F(ZoneQuestion, YesWithAZoneSaveThatIsCancelledLeavesTheProjectUnsaved) {
     loads().refuseSave = true;
     answer(Answer::yes);
