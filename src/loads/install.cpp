@@ -6,7 +6,6 @@
 #include "frame/varnmain.h"
 #include "loads/frmAvgBlock.h"
 #include "loads/frmZoneManage.h"
-#include "loads/links.h"
 
 namespace varnholt {
 namespace {
@@ -27,7 +26,6 @@ void installLoads(Varnmain& main) {
                     [&main] { openOnce<frmZoneManage>(main, "frmZoneManage"); });
     main.setCommand("mnuAvgBlock", CommandNeeds::nothing,
                     [&main] { openOnce<frmAvgBlock>(main, "frmAvgBlock"); });
-    installLinks(main);
 }
 
 }  // namespace varnholt

@@ -5,7 +5,7 @@ namespace varnholt {
 
 class Varnmain;
 
-/// Registers the commands that open the two loads windows, one window each, and those of links.
+/// Registers the commands that open the two loads windows, one window each.
 void installLoads(Varnmain& main);
 
 }  // namespace varnholt

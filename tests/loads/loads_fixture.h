@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -48,11 +49,14 @@ class LoadsTest : public testing::Test {
         write(series);
     }
     void write(const PumpSeries& series) {
-        WritePumpSeries(pumps(), series);
+        writeFile(pumpSeriesPath(pumps(), series.seriesInfo.FileName), pumpSeriesText(series));
         if (index.empty() || index.back().mfgInfo != series.mfgInfo)
             index.push_back({series.mfgInfo, {}});
         index.back().seriesInfo.push_back(series.seriesInfo);
-        WritePumpList(pumps(), index);
+        writeFile(pumpIndexPath(pumps()), pumpIndexText(index));
+    }
+    static void writeFile(const std::string& path, const std::string& bytes) {
+        std::ofstream(path, std::ios::binary) << bytes;
     }
     std::string pumps() const { return folder.path() + "/pumps"; }
     std::string zoneFile(const std::string& name) const { return folder.path() + "/zones/" + name; }
