@@ -105,7 +105,10 @@ void GroundDesign::enableMenuButtons() {
 }
 
 void GroundDesign::activated() {
+    // Fresh loads make the link's light shine, and in that time the window may be closed.
+    const Varnmain& frame = main();
     LinkedDesign::activated();
+    if (!frame.isOpen(this)) return;
     beenHere = true;
     enableMenuButtons();
 }

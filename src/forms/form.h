@@ -68,6 +68,9 @@ class Form {
     const Values& values() const { return values_; }
     NumericFields& fields() { return fields_; }
 
+    /// A handler of the user's action is still running: the form must not end yet.
+    bool isHandling() const { return depth_ > 0; }
+
     /// The window came to the front.
     virtual void activated() {}
     /// The user or the frame wants to close the window. False stops the close.

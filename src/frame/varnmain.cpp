@@ -117,7 +117,9 @@ void Varnmain::run(const std::string& entry) {
 }
 
 void Varnmain::open(std::unique_ptr<ChildWindow> window) {
-    closed_.clear();
+    // One that was closed in the midst of its own handler is still on its way out of it.
+    const auto done = [](const auto& gone) { return !gone->isHandling(); };
+    closed_.erase(std::remove_if(closed_.begin(), closed_.end(), done), closed_.end());
     hideSplash();
     ChildWindow& opened = *window;
     windows_.push_back(std::move(window));

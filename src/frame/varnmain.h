@@ -127,7 +127,7 @@ class Varnmain : public Form {
 
     std::map<std::string, Command> commands_;
     std::vector<std::unique_ptr<ChildWindow>> windows_;
-    /// Closed in the midst of their own handlers: kept until the next window opens or closes.
+    /// Closed in the midst of their own handlers: kept until those have ended and a window opens.
     std::vector<std::unique_ptr<ChildWindow>> closed_;
     std::vector<ChildWindow*> activationOrder_;
     std::vector<Form*> modal_;

@@ -25,7 +25,8 @@ void mnuFileSaveAs_Click(Varnmain& main);
 void openProjectFile(Varnmain& main, const std::string& path);
 /// Opens a zone file in the Zone Manager, after that window's own question when it has changes.
 void openZoneFile(Varnmain& main, const std::string& path);
-/// Either of them, told by the name's extension.
+/// Either of them, told by the name's extension. A relative path is taken from the program's
+/// folder.
 void openFile(Varnmain& main, const std::string& path);
 
 }  // namespace varnholt

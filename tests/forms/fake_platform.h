@@ -7,6 +7,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/form.h"
@@ -62,7 +63,10 @@ class FakePlatform : public Platform {
     std::string clipboard() override { return clipboardText; }
     void setClipboard(const std::string& text) override { clipboardText = text; }
     Date today() override { return day; }
-    void pause(int milliseconds) override { paused += milliseconds; }
+    void pause(int milliseconds) override {
+        paused += milliseconds;
+        if (onPause) std::exchange(onPause, nullptr)();
+    }
     void progress(const std::string&, std::size_t done, std::size_t) override {
         progressSteps.push_back(done);
     }
@@ -81,6 +85,8 @@ class FakePlatform : public Platform {
     std::vector<FileDialog> dialogs;
     std::vector<std::string> openedForms, closedForms, outside;
     std::function<void(Form&)> onModal;
+    /// What the user does while the program waits: once.
+    std::function<void()> onPause;
     std::string clipboardText;
     Date day{2026, 1, 15};
     int paused = 0;

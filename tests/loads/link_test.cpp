@@ -244,41 +244,29 @@ TEST_F(Link, ShowsTheProjectOnTheLoadsAndHidesWhatTheMethodDoesNotUse) {
     EXPECT_EQ(loads.information.comments, "of the zones");
 }
 
-TEST_F(Link, OfAWindowClosedWhileTheLightShinesEndsQuietly) {
-    class Closing : public FakePlatform {
-     public:
-        void pause(int) override {
-            if (close) std::exchange(close, nullptr)();
-        }
-        std::function<void()> close;
-    } closing;
-    for (const bool closeLoads : {true, false}) {
-        SCOPED_TRACE(closeLoads);
-        Varnmain frame(closing, texts, "/nowhere");
-        installLinks(frame);
-        auto loadsMade = std::make_unique<PlainLoads>("frmZoneManage", frame);
-        PlainLoads& loads = *loadsMade;
-        frame.open(std::move(loadsMade));
-        auto made = std::make_unique<PlainDesign>(frame, frame.takeSlot(DesignKind::borehole));
-        PlainDesign& design = *made;
-        frame.open(std::move(made));
-        closing.close = [&] {
-            frame.close(closeLoads ? static_cast<ChildWindow&>(loads) : design);
-            // The closed window is really gone once another one opens.
-            frame.open(std::make_unique<PlainLoads>("frmAvgBlock", frame));
-        };
-        frame.activate(design);
-        frame.click("mnuLink");
-        EXPECT_EQ(frame.windows().size(), 2u);
-        if (closeLoads) {
-            EXPECT_EQ(design.LoadsHome, nullptr);
-            EXPECT_EQ(design.linkType, "");
-            EXPECT_FALSE(design.control("imgLinkLight(0)").visible());
-        } else {
-            EXPECT_EQ(loads.designLinkID, 0);
-            EXPECT_EQ(loads.caption(), "Project Loads");
-        }
-    }
+TEST_F(Link, EndsQuietlyWhenTheLoadsAreClosedWhileTheLightShines) {
+    PlainLoads& loads = newLoads();
+    PlainDesign& design = newDesign();
+    platform.onPause = [&] {
+        main.close(loads);
+        newLoads("frmAvgBlock");  // a closed window is really gone once another one opens
+    };
+    link(design);
+    EXPECT_EQ(design.LoadsHome, nullptr);
+    EXPECT_EQ(design.linkType, "");
+    EXPECT_FALSE(design.control("imgLinkLight(0)").visible());
+}
+
+TEST_F(Link, EndsQuietlyWhenTheDesignIsClosedWhileTheLightShines) {
+    PlainLoads& loads = newLoads();
+    PlainDesign& design = newDesign();
+    platform.onPause = [&] {
+        main.close(design);
+        newLoads("frmAvgBlock");
+    };
+    link(design);
+    EXPECT_EQ(loads.designLinkID, 0);
+    EXPECT_EQ(loads.caption(), "Project Loads");
 }
 
 }  // namespace

@@ -89,6 +89,27 @@ TEST_F(WholeRoad, AChangedInletTemperatureReachesTheLoadsAndTheirPumps) {
     EXPECT_TRUE(zones().hasUnsavedChanges());
 }
 
+TEST_F(WholeRoad, AWindowClosedWhileTheLightShinesEndsWhatItWasDoing) {
+    makeLinkedProject();
+    saveBoth();
+    const auto closeDesign = [this] {
+        answer(Answer::no);
+        main.close(design());
+        main.click("mnuAvgBlock");  // a closed window is really gone once another one opens
+    };
+    // While it calculates, and while it comes to the front with fresh loads.
+    platform.onPause = closeDesign;
+    design().click("CACalculateCommand");
+    EXPECT_TRUE(main.designs().empty());
+    open("work files/school.vht");
+    main.activate(zones());
+    zones().type("LOGainsText(1)", "50");
+    platform.onPause = closeDesign;
+    main.activate(design());
+    EXPECT_TRUE(main.designs().empty());
+    EXPECT_EQ(zones().designLinkID, 0);
+}
+
 TEST_F(WholeRoad, ClosingTheFrameAsksLoadsAndDesignEachForItself) {
     makeLinkedProject();
     answer(Answer::no);
