@@ -114,10 +114,10 @@ inline std::vector<DrawingSample> drawingSamples() {
     samples.push_back({"loads_none", {300, 150}, [&texts](const Canvas& canvas) {
                            paintLoads(canvas, {}, sampleCaptions(), texts);
                        }});
-    for (const LinkLight light : {LinkLight::none, LinkLight::zones, LinkLight::block})
+    for (const LinkPartner light : {LinkPartner::none, LinkPartner::zones, LinkPartner::block})
         samples.push_back({"light_" + std::to_string(static_cast<int>(light)),
                            {40, 40},
-                           [=](const Canvas& canvas) { paintLinkLight(canvas, light); }});
+                           [=](const Canvas& canvas) { paintLinkLight(canvas, light, true); }});
     return samples;
 }
 

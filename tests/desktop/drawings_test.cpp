@@ -167,8 +167,7 @@ TEST(Charts, TellNothingBeyondACurvesEnds) {
 }
 
 TEST(LinkLights, SayWhatTheyStandFor) {
-    const std::unique_ptr<Drawing> light(newLinkLight(LinkLight::block, pictureTexts()));
-    light->refresh();
+    const std::unique_ptr<Drawing> light(newLinkLight(LinkPartner::block, pictureTexts()));
     EXPECT_EQ(light->description(), "Linked with the Average Block Loads");
 }
 

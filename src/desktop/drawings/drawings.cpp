@@ -16,6 +16,26 @@ struct LoadsBars {
     LoadsCaptions captions;
 };
 
+class LinkLamp : public Drawing {
+ public:
+    LinkLamp(LinkPartner partner, const Texts& texts) : partner_(partner), texts_(texts) {
+        setFixedSize(24, 24);
+    }
+
+    void refresh() override {}
+    QString description() const override { return describeLinkLight(partner_, texts_); }
+
+ protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        paintLinkLight(canvasFor(painter, rect(), palette(), font()), partner_, isEnabled());
+    }
+
+ private:
+    LinkPartner partner_;
+    const Texts& texts_;
+};
+
 }  // namespace
 
 Drawing* newBoreDrawing(std::function<BoreDrawing()> source, const Texts& texts) {
@@ -34,13 +54,8 @@ Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts) 
         [&texts](const FieldPlan& field) { return describeField(field, texts); }, {380, 320});
 }
 
-Drawing* newLinkLight(LinkLight light, const Texts& texts) {
-    auto* lamp = new PaintedDrawing<LinkLight>(
-        [light] { return light; }, paintLinkLight,
-        [&texts](LinkLight shown) { return describeLinkLight(shown, texts); }, {24, 24});
-    lamp->setFixedSize(24, 24);
-    lamp->setToolTip(describeLinkLight(light, texts));
-    return lamp;
+Drawing* newLinkLight(LinkPartner partner, const Texts& texts) {
+    return new LinkLamp(partner, texts);
 }
 
 Drawing* newLoadsBars(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,

@@ -17,8 +17,8 @@ namespace varnholt {
 
 Drawing* newBoreDrawing(std::function<BoreDrawing()> source, const Texts& texts);
 Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts);
-/// A light that stands for one partner; a hint tells which.
-Drawing* newLinkLight(LinkLight light, const Texts& texts);
+/// A light that stands for one partner; it is lit while it is enabled.
+Drawing* newLinkLight(LinkPartner partner, const Texts& texts);
 /// Small bars beside the numbers of a zone.
 Drawing* newLoadsBars(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,
                       const Texts& texts);

@@ -19,7 +19,13 @@ void drawSocket(QPainter& painter, const Look& look) {
     painter.drawLine(QPointF(-3, 3), QPointF(3, -3));
 }
 
-void drawGlow(QPainter& painter, const Look& look) {
+void drawGlass(QPainter& painter, const Look& look, bool lit) {
+    if (!lit) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(look.line);
+        painter.drawEllipse(QPointF(0, 0), 8.5, 8.5);
+        return;
+    }
     QRadialGradient glow(QPointF(0, 0), designedSize / 2);
     QColor light = look.on;
     light.setAlphaF(look.dark ? 0.55F : 0.40F);
@@ -34,10 +40,10 @@ void drawGlow(QPainter& painter, const Look& look) {
 }
 
 /// Four rooms for the zones of a building, one for the building as a block.
-void drawPartner(QPainter& painter, const Look& look, LinkLight light) {
+void drawPartner(QPainter& painter, const Look& look, LinkPartner partner) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(look.dark ? look.window : look.field);
-    if (light == LinkLight::block) {
+    if (partner == LinkPartner::block) {
         painter.drawRoundedRect(QRectF(-3.6, -3.6, 7.2, 7.2), 0.8, 0.8);
         return;
     }
@@ -48,28 +54,28 @@ void drawPartner(QPainter& painter, const Look& look, LinkLight light) {
 
 }  // namespace
 
-void paintLinkLight(const Canvas& canvas, LinkLight light) {
+void paintLinkLight(const Canvas& canvas, LinkPartner partner, bool lit) {
     QPainter& painter = canvas.painter;
     const double size = std::min(canvas.area.width(), canvas.area.height());
     painter.save();
     painter.translate(canvas.area.center());
     painter.scale(size / designedSize, size / designedSize);
-    if (light == LinkLight::none) {
+    if (partner == LinkPartner::none) {
         drawSocket(painter, canvas.look);
     } else {
-        drawGlow(painter, canvas.look);
-        drawPartner(painter, canvas.look, light);
+        drawGlass(painter, canvas.look, lit);
+        drawPartner(painter, canvas.look, partner);
     }
     painter.restore();
 }
 
-QString describeLinkLight(LinkLight light, const Texts& texts) {
-    switch (light) {
-        case LinkLight::zones:
+QString describeLinkLight(LinkPartner partner, const Texts& texts) {
+    switch (partner) {
+        case LinkPartner::zones:
             return qt(texts.text(2980));
-        case LinkLight::block:
+        case LinkPartner::block:
             return qt(texts.text(2981));
-        case LinkLight::none:
+        case LinkPartner::none:
             break;
     }
     return qt(texts.text(2982));

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The window of the building as one block.
+#include <QTabWidget>
+
+#include "desktop/views/loads_pieces.h"
+#include "desktop/views/view_pieces.h"
+#include "desktop/views/views.h"
+
+namespace varnholt {
+
+QWidget* makeAverageBlockView(Binder& bind) {
+    return column(
+        loadsBar(bind),
+        grow(bind.tabs("tabLoads",
+                       {page(row_(bind.widget("LOZoneList"), grow(column(zonePanel(bind))))),
+                        page(heatPumpPage(bind))})));
+}
+
+}  // namespace varnholt

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/views/column_heads.h"
+
+#include <QEvent>
+#include <QFontMetricsF>
+#include <algorithm>
+#include <utility>
+
+namespace varnholt {
+namespace {
+
+/// What the list draws before an entry's first character: its frame and its paddings.
+constexpr double entryInset = 10;
+
+}  // namespace
+
+ColumnHeads::ColumnHeads(QWidget* list, std::vector<Head> heads)
+    : list_(list), heads_(std::move(heads)) {
+    for (const Head& head : heads_) {
+        head.label->setParent(this);
+        head.label->setProperty("unit", true);
+        head.label->show();
+        head.label->installEventFilter(this);
+    }
+    list_->installEventFilter(this);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+double ColumnHeads::columnAt(int character) const {
+    return entryInset + character * QFontMetricsF(list_->font()).horizontalAdvance(u'0');
+}
+
+QSize ColumnHeads::sizeHint() const {
+    int width = 0, lines = 0, height = 0;
+    for (const Head& head : heads_) {
+        width = std::max(width, static_cast<int>(columnAt(head.last)));
+        lines = std::max(lines, head.line + 1);
+        height = std::max(height, head.label->sizeHint().height());
+    }
+    return {width, lines * height};
+}
+
+void ColumnHeads::resizeEvent(QResizeEvent*) { place(); }
+
+bool ColumnHeads::eventFilter(QObject* watched, QEvent* event) {
+    const bool fontChanged = event->type() == QEvent::FontChange;
+    const bool textChanged = event->type() == QEvent::LayoutRequest;
+    if (fontChanged || textChanged || event->type() == QEvent::Polish) {
+        updateGeometry();
+        place();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ColumnHeads::place() {
+    for (const Head& head : heads_) {
+        const QSize size = head.label->sizeHint();
+        const double from = columnAt(head.first), to = columnAt(head.last);
+        const double left = head.left ? from : std::max(0.0, (from + to - size.width()) / 2);
+        head.label->setGeometry(static_cast<int>(left), head.line * size.height(), size.width(),
+                                size.height());
+    }
+}
+
+}  // namespace varnholt

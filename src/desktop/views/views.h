@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+class QWidget;
+
+namespace varnholt {
+
+class Binder;
+
+// One function a form: it lays out the form's controls as the window shows them.
+
+QWidget* makeBoreholeView(Binder& bind);
+QWidget* makeZoneManagerView(Binder& bind);
+QWidget* makeAverageBlockView(Binder& bind);
+QWidget* makeLinkOptionsView(Binder& bind);
+
+}  // namespace varnholt
