@@ -28,9 +28,11 @@ std::string numbered(const std::string& name, std::size_t index) {
     return name + "(" + std::to_string(index) + ")";
 }
 
+using ZoneOnDisplay = std::function<Zone*()>;
+
 /// A number of the zone that is on display by then; nothing while there is none.
-StoredNumber ofZone(std::function<Zone*()> zone, std::function<double(const Zone&)> get,
-                    std::function<void(Zone&, double)> set) {
+StoredNumber ofZone(const ZoneOnDisplay& zone, const std::function<double(const Zone&)>& get,
+                    const std::function<void(Zone&, double)>& set) {
     return {[zone, get] {
                 const Zone* shown = zone();
                 return shown == nullptr ? 0 : get(*shown);
@@ -41,9 +43,9 @@ StoredNumber ofZone(std::function<Zone*()> zone, std::function<double(const Zone
 }
 
 /// The same for a pump's value by mode.
-StoredNumber ofPump(std::function<Zone*()> zone, ByMode<double> MiniPump::*member, std::size_t m) {
+StoredNumber ofPump(const ZoneOnDisplay& zone, ByMode<double> MiniPump::*member, std::size_t m) {
     return ofZone(
-        std::move(zone), [member, m](const Zone& of) { return (of.pump.*member)[m]; },
+        zone, [member, m](const Zone& of) { return (of.pump.*member)[m]; },
         [member, m](Zone& of, double value) { (of.pump.*member)[m] = value; });
 }
 
@@ -184,7 +186,7 @@ void ZoneWindow::takeFreezingPoint(std::size_t mode) {
 }
 
 void ZoneWindow::hookTexts() {
-    const auto text = [this](const std::string& name, std::function<void(Zone&)> take) {
+    const auto text = [this](const std::string& name, const std::function<void(Zone&)>& take) {
         onChange(name, [this, take] {
             Zone* zone = shownZone();
             if (settingUnits || zone == nullptr) return;

@@ -14,7 +14,7 @@ namespace varnholt {
 
 ZoneWindow::ZoneWindow(const ZoneWindowKind& kind, Varnmain& main)
     : LoadsWindow(kind.formName, main), kind_(kind) {
-    setCaption(plainTitle());
+    setCaption(text(kind_.titleText));
     InitializeVariables();
     registerValues();
     addControls();
