@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <random>
 
 #include "basis/run_time_error.h"
@@ -61,17 +62,21 @@ TEST_F(SavingLosesNothing, WhenTheProgramIsKilledAtAnyMomentOfAThousandSaves) {
     const std::string link = folder / "link.vht";
     std::filesystem::create_symlink(path, link);
     std::mt19937 random(20260115);
-    std::uniform_int_distribution<useconds_t> microseconds(0, 3000);
+    // The kills spread over the time that three saves take on this disk.
+    const auto start = std::chrono::steady_clock::now();
+    for (const std::string* text : {&fresh, &old, &fresh}) replaceWholeFile(path, *text);
+    const std::chrono::duration<double, std::micro> threeSaves =
+        std::chrono::steady_clock::now() - start;
+    std::uniform_int_distribution<useconds_t> microseconds(
+        0, static_cast<useconds_t>(threeSaves.count()));
     int oldFound = 0, newFound = 0;
     for (int round = 0; round < 1000; ++round) {
         const std::string& name = round % 2 == 0 ? path : link;
         const pid_t child = ::fork();
         if (child == 0) {
             // Saves the two projects in turn until it is killed.
-            for (;;) {
-                replaceWholeFile(name, old);
-                replaceWholeFile(name, fresh);
-            }
+            for (bool fromOld = round % 4 < 2;; fromOld = !fromOld)
+                replaceWholeFile(name, fromOld ? fresh : old);
         }
         ::usleep(microseconds(random));
         ::kill(child, SIGKILL);
