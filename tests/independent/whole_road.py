@@ -3,11 +3,12 @@
 """The whole road from loads to bore length, worked a second time, apart from the program.
 
     python3 tests/independent/whole_road.py [--show]
+    python3 tests/independent/whole_road.py --check tests/scripts/whole_road.expected
 
 Reads the shipped catalogue as text, selects the pumps of five zones, evaluates them, rolls the
 loads up and iterates the bore lengths, then shifts 30 percent of the cooling peak to a tower, then
 changes a load.  It shares no line with the program; the system test `whole_road` must show the
-same figures.  --show prints every intermediate number.
+same figures.  --show prints every intermediate number, --check compares a transcript's values.
 """
 import math
 import os
@@ -252,6 +253,33 @@ def report(title, result):
             print("  %s = %.9f" % (name, value))
 
 
+def check(transcript, pumps, runs):
+    """Every figure of the transcript against this working; says how many agree."""
+    pump_keys = {"capacity": "capacity", "watts": "watts"}
+    run = -1
+    agreed = 0
+    for line in open(transcript, encoding="utf-8"):
+        if not line.startswith("value ") or "= \"" in line:
+            continue
+        name, value = line[len("value "):].strip().split(" = ")
+        name = name.split(".", 1)[1]
+        if name == "peakLoad(0)":
+            run += 1
+        if name.startswith("ZoneList("):
+            zone = int(name[9:name.index(")")])
+            member = name.split(".pump.")[1]
+            want = pumps[zone]["number"] if member == "number" else pumps[zone][
+                pump_keys[member[:-3]]][int(member[-2])]
+        elif name == "designLinkID":
+            continue
+        else:
+            want = runs[run][name] if name in runs[run] else runs[run][name[:-3]][int(name[-2])]
+        if not math.isclose(float(value), want, rel_tol=1e-9):
+            raise SystemExit("%s is %s, worked here as %r" % (name, value, want))
+        agreed += 1
+    print("%d figures agree" % agreed)
+
+
 def main():
     models = read_series("nf_meadow")
     zones = list(ZONES)
@@ -261,11 +289,15 @@ def main():
         pumps.append(evaluate(models[index], n, zone))
         print("%-14s %d x %s  capacity %.6f %.6f MBtu/hr  power %.6f %.6f kW" % (
             zone[0], n, pumps[-1]["name"], *pumps[-1]["capacity"], *pumps[-1]["watts"]))
-    report("Calculate", calculate(zones, pumps))
-    report("Tower at 30 percent", calculate(zones, pumps, 30))
+    runs = [calculate(zones, pumps), calculate(zones, pumps, 30)]
+    report("Calculate", runs[0])
+    report("Tower at 30 percent", runs[1])
     title, cool, heat, hours, days = zones[3]
     zones[3] = (title, (40.0, 55.0, 75.0, 12.0), heat, hours, days)
-    report("Shop at 75 MBtu/hr from 4 to 8, the pump unchanged", calculate(zones, pumps))
+    runs.append(calculate(zones, pumps))
+    report("Shop at 75 MBtu/hr from 4 to 8, the pump unchanged", runs[2])
+    if "--check" in sys.argv:
+        check(sys.argv[-1], pumps, runs)
 
 
 if __name__ == "__main__":
