@@ -1,2 +1,41 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-int main() { return 0; }
+#include <QApplication>
+#include <iostream>
+
+#include "desktop/program.h"
+#include "frame/program_version.h"
+#include "script/command_line.h"
+#include "script/script_fault.h"
+
+namespace varnholt {
+namespace {
+
+int run(int& count, char** arguments) {
+    const CommandLine line = parseCommandLine({arguments + 1, arguments + count}, Program::windows);
+    if (!line.error.empty()) {
+        std::cerr << "varnholt: " << line.error << '\n';
+        return static_cast<int>(ScriptStatus::badLine);
+    }
+    if (line.help || line.version) {
+        std::cout << (line.help ? usageOf(Program::windows) : versionOf(Program::windows));
+        return 0;
+    }
+    if (line.script) prepareForScript();
+    QCoreApplication::setApplicationName(QStringLiteral("varnholt"));
+    QCoreApplication::setApplicationVersion(QString::fromLatin1(programVersion));
+    QGuiApplication::setDesktopFileName(QStringLiteral("varnholt"));
+    QApplication application(count, arguments);
+    return line.script ? runScriptInWindows(application, line) : runForPerson(application, line);
+}
+
+}  // namespace
+}  // namespace varnholt
+
+int main(int count, char** arguments) {
+    try {
+        return varnholt::run(count, arguments);
+    } catch (const std::exception& exception) {
+        std::cerr << "varnholt: " << exception.what() << '\n';
+        return static_cast<int>(varnholt::ScriptStatus::programFault);
+    }
+}

@@ -197,9 +197,12 @@ FieldRow Binder::row(const std::string& field, std::initializer_list<QWidget*> m
     FieldRow row;
     row.caption = firstOf({companionName(field, "Label"), companionName(field, "Label", false)});
     row.fields = {withUpDown(field)};
-    row.unit = firstOf({companionName(field, "UnitLabel"), companionName(field, "UnitsLabel"),
-                        companionName(field, "UnitLabel", false),
-                        companionName(field, "UnitsLabel", false)});
+    // An element of an array of combos must not take the unit of the text beside it.
+    const bool hasUnit = find(field)->control().kind() != ControlKind::combo;
+    if (hasUnit)
+        row.unit = firstOf({companionName(field, "UnitLabel"), companionName(field, "UnitsLabel"),
+                            companionName(field, "UnitLabel", false),
+                            companionName(field, "UnitsLabel", false)});
     row.more = more;
     return row;
 }

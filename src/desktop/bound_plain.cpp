@@ -2,6 +2,7 @@
 // Labels, buttons, frames, pictures and tabs.
 #include <QLabel>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTabWidget>
 
 #include "desktop/binder.h"
@@ -183,6 +184,7 @@ class BoundTabs : public BoundControl {
         : BoundControl(binder, control, new QTabWidget), tabs_(static_cast<QTabWidget*>(widget())) {
         tabs_->setDocumentMode(true);
         tabs_->setUsesScrollButtons(true);
+        tabs_->tabBar()->setDrawBase(false);
         QObject::connect(tabs_, &QTabWidget::currentChanged, &binder, [this](int page) {
             this->binder().act(*this,
                                [page](Form& f, const std::string& name) { f.choose(name, page); });

@@ -3,10 +3,8 @@
 
 #include <QAction>
 #include <QFontMetrics>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QScreen>
 #include <algorithm>
 #include <cmath>
 
@@ -202,9 +200,6 @@ ScrollPage::ScrollPage(QWidget* page) {
     viewport()->setAutoFillBackground(false);
 }
 
-QSize ScrollPage::sizeHint() const {
-    const QSize screen = QGuiApplication::primaryScreen()->availableSize() * 0.85;
-    return (widget()->sizeHint() + QSize(2, 2)).boundedTo(screen);
-}
+QSize ScrollPage::sizeHint() const { return widget()->sizeHint() + QSize(2, 2); }
 
 }  // namespace varnholt

@@ -109,7 +109,7 @@ class GroupBox : public QWidget {
 class ScrollPage : public QScrollArea {
  public:
     explicit ScrollPage(QWidget* page);
-    /// The whole page, as far as the screen allows.
+    /// The whole page; whoever places it keeps it within the screen.
     QSize sizeHint() const override;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/layout.h"
 
+#include <QAbstractButton>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -38,6 +39,13 @@ int mostFields(const std::vector<FieldRow>& rows) {
     return static_cast<int>(most);
 }
 
+/// Buttons and check boxes are as wide as their captions, at the left.
+Qt::Alignment ownWidth(QWidget* widget) {
+    const bool isButton = qobject_cast<QAbstractButton*>(widget) != nullptr;
+    const bool isFixed = widget->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
+    return isButton || isFixed ? Qt::AlignLeft : Qt::Alignment();
+}
+
 /// Texts and combos take the place that units would take.
 bool takesPlace(const QWidget* field) {
     return (field->sizePolicy().horizontalPolicy() & QSizePolicy::GrowFlag) != 0 &&
@@ -58,7 +66,8 @@ void FieldGrid::addRow(int line, const FieldRow& row, int fieldColumns) {
     const int unitColumn = fieldColumns + 1;
     const int moreColumn = fieldColumns + 2;
     if (row.wide) {
-        layout_->addWidget(row.fields.front(), line, 0, 1, fieldColumns + 4);
+        QWidget* wide = row.fields.front();
+        layout_->addWidget(wide, line, 0, 1, fieldColumns + 4, ownWidth(wide));
         return;
     }
     if (row.caption != nullptr) {
@@ -198,7 +207,8 @@ QWidget* columnOf(const std::vector<Piece>& pieces) {
         if (piece.widget == nullptr)
             layout->addStretch(piece.stretch);
         else
-            layout->addWidget(piece.widget, std::max(piece.stretch, expands(piece) ? 1 : 0));
+            layout->addWidget(piece.widget, std::max(piece.stretch, expands(piece) ? 1 : 0),
+                              ownWidth(piece.widget));
     }
     // Where nothing grows the pieces stay together at the top.
     if (!anyExpands(pieces)) layout->addStretch(1);

@@ -20,7 +20,7 @@ void ListModel::setItems(const std::vector<std::string>& items) {
         for (std::size_t row = 0; row < items.size(); ++row) {
             if (items[row] == items_[row]) continue;
             items_[row] = items[row];
-            emit dataChanged(index(static_cast<int>(row), 0),
+            dataChanged(index(static_cast<int>(row), 0),
                              index(static_cast<int>(row), columns_ - 1));
         }
         return;
@@ -103,19 +103,31 @@ void ListView::setHeads(const QStringList& heads) {
 void ListView::setRows(const std::vector<int>& rows) {
     if (rows == this->rows()) return;
     writing_ = true;
+    select(rows);
+    writing_ = false;
+}
+
+void ListView::pick(const std::vector<int>& rows) {
+    if (rows == this->rows()) {
+        if (onPicked) onPicked();
+    } else {
+        select(rows);
+    }
+}
+
+void ListView::select(const std::vector<int>& rows) {
     QItemSelection selection;
     for (const int row : rows) {
         const QModelIndex at = model_->index(row, 0);
         if (at.isValid()) selection.select(at, at);
     }
-    selectionModel()->select(selection,
-                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     if (!rows.empty()) {
         const QModelIndex first = model_->index(rows.front(), 0);
         selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
         scrollTo(first);
     }
-    writing_ = false;
+    selectionModel()->select(selection,
+                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 std::vector<int> ListView::rows() const {

@@ -41,6 +41,8 @@ class ListView : public QTreeView {
     void setItems(const std::vector<std::string>& items);
     void setRows(const std::vector<int>& rows);
     std::vector<int> rows() const;
+    /// Selects exactly these rows as a person would.
+    void pick(const std::vector<int>& rows);
     /// Puts heads over the columns.
     void setHeads(const QStringList& heads);
 
@@ -55,6 +57,7 @@ class ListView : public QTreeView {
 
  private:
     void fitColumns();
+    void select(const std::vector<int>& rows);
 
     ListModel* model_;
     bool writing_ = false;

@@ -7,7 +7,10 @@
 
 namespace varnholt {
 
-ViewRegistry::ViewRegistry() { registerViews(*this); }
+ViewRegistry::ViewRegistry() {
+    registerFrameViews(*this);
+    registerViews(*this);
+}
 
 void ViewRegistry::registerView(const std::string& formName, ViewMaker maker) {
     makers_[formName] = std::move(maker);

@@ -34,6 +34,9 @@ class ViewRegistry {
 /// Registers every view of the program: the one list of them.
 void registerViews(ViewRegistry& views);
 
+/// Registers the views of the main window's own forms: the start picture and the About window.
+void registerFrameViews(ViewRegistry& views);
+
 /// Lays out any form by the conventions of its names: frames as groups, fields as rows of caption,
 /// field and unit, results as rows of two figures, tabs by the prefixes of their controls.
 QWidget* makeGenericView(Binder& bind);
