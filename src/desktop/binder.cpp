@@ -324,7 +324,7 @@ std::string companionName(const std::string& control, const std::string& suffix,
                              "Label", "List", "Check", "Option", "Command"}) {
         const std::string_view end = kind;
         if (stem.size() <= end.size() || !stem.ends_with(end)) continue;
-        stem.resize(stem.size() - end.size());
+        stem.erase(stem.size() - end.size());
         break;
     }
     const bool hasIndex = bracket != std::string::npos && indexed;
