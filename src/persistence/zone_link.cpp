@@ -28,7 +28,7 @@ void forgetZoneFile(LinkedDesign& design) {
 std::string findZoneFile(const LinkedDesign& design) {
     const std::string programZones = joinPath(design.main().MainDirectory, "zones");
     for (const std::string& folder : {design.workingZoneDirectory, programZones}) {
-        const std::string path = joinPath(folder, design.workingZoneFile);
+        std::string path = joinPath(folder, design.workingZoneFile);
         if (!folder.empty() && fileExists(path)) return path;
     }
     return {};

@@ -14,8 +14,10 @@ namespace varnholt {
 /// A folder of its own for one test, taken away afterwards.
 class TemporaryFolder {
  public:
-    TemporaryFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "varnholt-XXXXXX").string();
+    TemporaryFolder() : TemporaryFolder(std::filesystem::temp_directory_path()) {}
+    /// @param parent where it is made
+    explicit TemporaryFolder(const std::filesystem::path& parent) {
+        std::string pattern = (parent / "varnholt-XXXXXX").string();
         if (::mkdtemp(pattern.data()) == nullptr) ADD_FAILURE() << "no folder for the test";
         path_ = pattern;
     }
