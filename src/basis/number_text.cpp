@@ -70,18 +70,22 @@ void incrementDigits(std::string& digits) {
 /// The digits of |value| in units of 10^-decimals, rounded half away from zero on its shortest
 /// decimal text.
 std::string scaledDigits(double magnitude, std::size_t decimals) {
-    // The largest double has 309 digits before the point, the smallest about 1074 after it.
-    std::array<char, 1600> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
-                                   std::chars_format::fixed);
-    const std::string_view text(buffer.data(), static_cast<std::size_t>(end.ptr - buffer.data()));
-    const std::size_t point = std::min(text.find('.'), text.size());
-    std::string digits(text.substr(0, point));
-    const std::string_view fraction =
-        point == text.size() ? std::string_view{} : text.substr(point + 1);
-    digits += fraction.substr(0, decimals);
-    if (fraction.size() < decimals) digits.append(decimals - fraction.size(), '0');
-    if (fraction.size() > decimals && fraction[decimals] >= '5') incrementDigits(digits);
+    std::array<char, 32> buffer{};  // 17 digits at most, a point and the exponent
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
+                                      std::chars_format::scientific);
+    const std::string_view text(buffer.data(),
+                                static_cast<std::size_t>(result.ptr - buffer.data()));
+    const std::size_t mark = text.find('e');
+    std::string digits(text.substr(0, mark));
+    digits.erase(std::remove(digits.begin(), digits.end(), '.'), digits.end());
+    const auto exponent = static_cast<std::ptrdiff_t>(leadingNumber(text.substr(mark + 1)));
+
+    const std::ptrdiff_t kept = exponent + 1 + static_cast<std::ptrdiff_t>(decimals);
+    const auto size = static_cast<std::size_t>(std::max<std::ptrdiff_t>(kept, 0));
+    const bool up = kept >= 0 && size < digits.size() && digits[size] >= '5';
+    digits.resize(size, '0');
+    if (up) incrementDigits(digits);
+    if (digits.size() < decimals) digits.insert(0, decimals - digits.size(), '0');
     return digits;
 }
 

@@ -75,6 +75,17 @@ TEST(FormatNumber, RoundsHalfAwayFromZeroOnTheDecimalDigits) {
     }
 }
 
+TEST(FormatNumber, RoundsTheShortestTextOfNumbersOfAnySize) {
+    // The double nearest to 10^23 is 99999999999999991611392, and 1e+23 is its shortest text.
+    EXPECT_EQ(formatNumber(1e23, "###0"), "1" + std::string(23, '0'));
+    EXPECT_EQ(formatNumber(-1.5e300, "###0.0"), "-15" + std::string(299, '0') + ".0");
+    EXPECT_EQ(formatNumber(0.05, "###0.0"), "0.1");
+    EXPECT_EQ(formatNumber(0.049999, "###0.0"), "0.0");
+    EXPECT_EQ(formatNumber(0.999, "###0.00"), "1.00");
+    EXPECT_EQ(formatNumber(99.95, "###0.0"), "100.0");
+    EXPECT_EQ(formatNumber(5e-324, "###0.000"), "0.000");
+}
+
 TEST(FormatNumber, ShowsWhatIsNoNumberAsZero) {
     EXPECT_EQ(formatNumber(std::nan(""), "###0.0"), "0.0");
     EXPECT_EQ(formatNumber(std::numeric_limits<double>::infinity(), "###0"), "0");
