@@ -87,28 +87,35 @@ void TowerPanel::CAHybridSlider_Change() {
     if (frame.isOpen(&design)) design.hybridOn = false;
 }
 
-double TowerPanel::trimmed(const Figure& figure) {
+void TowerPanel::trim(const Figure& figure, const std::function<CoolingTower(double)>& trimmed) {
     Control& label = control(element(figure.label, 0));
     label.setCaption(formatNumber(control(figure.upDown).value(), figure.format));
-    return figure.quantity->stored(leadingNumber(label.caption()), design().units());
+    const double value = figure.quantity->stored(leadingNumber(label.caption()), design().units());
+    try {
+        values_.tower = trimmed(value);
+    } catch (const RunTimeError&) {
+        showTower();
+        throw;
+    }
+    showTower();
 }
 
 void TowerPanel::CACondenserCapacityUpDown_Change() {
-    values_.tower = modCalculations::trimCapacity(values_.tower, trimmed(figures[capacity]),
-                                                  year_(), design().fluid.fluid());
-    showTower();
+    trim(figures[capacity], [this](double value) {
+        return modCalculations::trimCapacity(values_.tower, value, year_(), design().fluid.fluid());
+    });
 }
 
 void TowerPanel::CACoolingTowerFlowRateUpDown_Change() {
-    values_.tower =
-        modCalculations::trimFlow(values_.tower, trimmed(figures[flow]), design().fluid.fluid());
-    showTower();
+    trim(figures[flow], [this](double value) {
+        return modCalculations::trimFlow(values_.tower, value, design().fluid.fluid());
+    });
 }
 
 void TowerPanel::CACoolingRangeUpDown_Change() {
-    values_.tower =
-        modCalculations::trimRange(values_.tower, trimmed(figures[range]), design().fluid.fluid());
-    showTower();
+    trim(figures[range], [this](double value) {
+        return modCalculations::trimRange(values_.tower, value, design().fluid.fluid());
+    });
 }
 
 void TowerPanel::showPercent() {

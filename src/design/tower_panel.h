@@ -41,8 +41,10 @@ class TowerPanel : public DesignTab {
     void CACondenserCapacityUpDown_Change();
     void CACoolingTowerFlowRateUpDown_Change();
     void CACoolingRangeUpDown_Change();
-    /// Takes the up-down's figure by way of its label.
-    double trimmed(const Figure& figure);
+    /// Takes the up-down's figure by way of its label, and the tower that follows from it. A
+    /// run-time error leaves the tower and its figures as they were.
+    void trim(const Figure& figure,
+              const std::function<modCalculations::CoolingTower(double)>& trimmed);
     void showPercent();
     void showTower();
     void showFigure(const Figure& figure, double highest);

@@ -5,6 +5,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include "basis/run_time_error.h"
+
 namespace varnholt {
 
 /// Hands the controls' changes on to whoever shows the form.
@@ -84,40 +86,54 @@ void Form::raise(const Handler& handler) const {
     if (handler) handler();
 }
 
-void Form::type(const std::string& name, const std::string& text) {
+/// One action of the user, to its end.
+void Form::perform(const Handler& action) {
     const Settling settling(*this);
-    control(name).setText(text);
-    if (fields_.has(name)) fields_.textChanged(name);
-    raise(handlersOf(name).change);
+    try {
+        action();
+    } catch (const RunTimeError& error) {
+        show(MessageIcon::exclamation, error.message());
+    }
+}
+
+void Form::type(const std::string& name, const std::string& text) {
+    perform([&] {
+        control(name).setText(text);
+        if (fields_.has(name)) fields_.textChanged(name);
+        raise(handlersOf(name).change);
+    });
 }
 
 void Form::leave(const std::string& name) {
-    const Settling settling(*this);
-    if (fields_.has(name)) fields_.left(name);
-    raise(handlersOf(name).leave);
+    perform([&] {
+        if (fields_.has(name)) fields_.left(name);
+        raise(handlersOf(name).leave);
+    });
 }
 
 void Form::key(const std::string& name, const std::string& key) {
-    const Settling settling(*this);
-    const Control& target = control(name);
-    const bool field = target.kind() == ControlKind::text ||
-                       target.kind() == ControlKind::richText || target.editable();
-    const bool typeable = field && !target.locked();
-    if (const KeyHandler& handler = handlersOf(name).key)
-        handler(key);
-    else if (key == "Ctrl+V" && typeable)
-        type(name, platform_.clipboard());
+    perform([&] {
+        const Control& target = control(name);
+        const bool field = target.kind() == ControlKind::text ||
+                           target.kind() == ControlKind::richText || target.editable();
+        const bool typeable = field && !target.locked();
+        if (const KeyHandler& handler = handlersOf(name).key)
+            handler(key);
+        else if (key == "Ctrl+V" && typeable)
+            type(name, platform_.clipboard());
+    });
 }
 
 void Form::click(const std::string& name) {
-    const Settling settling(*this);
-    Control& target = control(name);
-    if (target.kind() == ControlKind::check) target.setChecked(!target.checked());
-    if (target.kind() == ControlKind::option) {
-        if (target.checked()) return;
-        chooseOption(target);
-    }
-    raise(handlersOf(name).click);
+    perform([&] {
+        Control& target = control(name);
+        if (target.kind() == ControlKind::check) target.setChecked(!target.checked());
+        if (target.kind() == ControlKind::option) {
+            if (target.checked()) return;
+            chooseOption(target);
+        }
+        raise(handlersOf(name).click);
+    });
 }
 
 void Form::chooseOption(Control& target) {
@@ -127,31 +143,35 @@ void Form::chooseOption(Control& target) {
 }
 
 void Form::choose(const std::string& name, int index) {
-    const Settling settling(*this);
-    control(name).setIndex(index);
-    raise(handlersOf(name).click);
+    perform([&] {
+        control(name).setIndex(index);
+        raise(handlersOf(name).click);
+    });
 }
 
 void Form::select(const std::string& name, std::vector<int> rows) {
-    const Settling settling(*this);
-    std::sort(rows.begin(), rows.end());
-    control(name).setSelected(std::move(rows));
-    raise(handlersOf(name).click);
+    perform([&] {
+        std::sort(rows.begin(), rows.end());
+        control(name).setSelected(std::move(rows));
+        raise(handlersOf(name).click);
+    });
 }
 
 void Form::slide(const std::string& name, double value) {
-    const Settling settling(*this);
-    Control& target = control(name);
-    const double within = std::max(target.min(), std::min(target.max(), value));
-    if (within == target.value()) return;
-    target.setValue(within);
-    raise(handlersOf(name).slide);
+    perform([&] {
+        Control& target = control(name);
+        const double within = std::max(target.min(), std::min(target.max(), value));
+        if (within == target.value()) return;
+        target.setValue(within);
+        raise(handlersOf(name).slide);
+    });
 }
 
 void Form::pickDate(const std::string& name, const Date& date) {
-    const Settling settling(*this);
-    control(name).setDate(date);
-    raise(handlersOf(name).click);
+    perform([&] {
+        control(name).setDate(date);
+        raise(handlersOf(name).click);
+    });
 }
 
 void Form::addObserver(FormObserver* observer) { observers_.push_back(observer); }

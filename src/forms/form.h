@@ -53,7 +53,8 @@ class Form {
     /// Whether the control and every frame around it are visible.
     bool isShown(const Control& control) const;
 
-    // What the user does.
+    // What the user does. A run-time error that no handler has dealt with is shown by its number
+    // and description, and ends the action.
     void type(const std::string& control, const std::string& text);
     void leave(const std::string& control);
     void key(const std::string& control, const std::string& key);
@@ -118,6 +119,7 @@ class Form {
     };
 
     Handlers& handlersOf(const std::string& control);
+    void perform(const Handler& action);
     void raise(const Handler& handler) const;
     void chooseOption(Control& control);
 

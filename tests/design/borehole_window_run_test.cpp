@@ -142,6 +142,21 @@ TEST_F(BoreholeRuns, ClearTheStaleMark) {
     EXPECT_EQ(captionOf("CATotalLengthLabel(0)"), "1910.5");
 }
 
+TEST_F(BoreholeRuns, ClearTheStaleMarkEvenWhenTheyFail) {
+    enterHandCheck();
+    design->calculationNeeded();
+    takeZones({});
+    calculate();  // without loads
+    EXPECT_FALSE(design->isStale());
+
+    takeZones(handCheckZones());
+    type("PATimeText", "0");
+    EXPECT_TRUE(design->isStale());
+    calculate();  // a division by zero
+    EXPECT_EQ(platform.messages.back().text, RunTimeError(11).message());
+    EXPECT_EQ(design->control("CACalculateCommand").backcolor(), colours::buttonFace);
+}
+
 TEST_F(BoreholeRuns, WithoutZonesTellSo) {
     calculate();
     ASSERT_EQ(platform.messages.size(), 1u);
@@ -440,6 +455,20 @@ TEST_F(Tower, RangeRaisedAboveTheMaximumLowersTheFlow) {
     design->slide("CACoolingRangeUpDown", 20);
     EXPECT_NEAR(value("condenserCapacity"), 23.6007, 1e-4);
     EXPECT_NEAR(value("coolingTowerFlow"), 4.714738 / 2, 1e-5);
+}
+
+TEST_F(Tower, OfAFluidThatCarriesNoHeatIsToldAndKeepsItsFigures) {
+    // Each is positive, their product is less than any double.
+    type("FLFluidDensityText", "1e-200");
+    type("FLSpecificHeatText", "1e-200");
+    design->slide("CACondenserCapacityUpDown", 20);
+    ASSERT_EQ(platform.messages.size(), 1u);
+    EXPECT_EQ(platform.messages[0].icon, MessageIcon::exclamation);
+    EXPECT_EQ(platform.messages[0].text, RunTimeError(11).message());
+    EXPECT_NEAR(value("condenserCapacity"), 23.6007, 1e-4);
+    EXPECT_NEAR(value("coolingTowerFlow"), 4.714738, 1e-5);
+    EXPECT_EQ(captionOf("CACondenserCapacityLabel(0)"), "23.6");
+    EXPECT_EQ(design->control("CACondenserCapacityUpDown").value(), 23.6);
 }
 
 TEST_F(Tower, IsTrimmedInMetricUnits) {
