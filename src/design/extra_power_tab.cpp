@@ -51,6 +51,7 @@ void ExtraPowerTab::addMotor(const Motor& motor) {
                                &power_.motorEfficiency[motor.efficiency]};
     efficiency.highest = 100;
     efficiency.fallback = 100;
+    efficiency.whileEmpty = 100;
     efficiency.format = "###0.00";
     efficiency.changed = shaft.changed;
     addField(efficiency, {frame, motor.efficiencyCaption, 2613, 2613});

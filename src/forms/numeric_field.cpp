@@ -44,7 +44,12 @@ void NumericFields::textChanged(const std::string& control) {
 }
 
 void NumericFields::store(const NumericFieldRow& row) {
-    const std::optional<double> typed = readLeadingNumber(form_.control(row.control).text());
+    const std::string& text = form_.control(row.control).text();
+    if (text.empty() && row.whileEmpty) {
+        row.stored.set(*row.whileEmpty);
+        return;
+    }
+    const std::optional<double> typed = readLeadingNumber(text);
     if (!typed && row.unparsable) {
         row.stored.set(*row.unparsable);
         return;

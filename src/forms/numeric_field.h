@@ -48,6 +48,7 @@ struct NumericFieldRow {
     std::optional<double> ifAbove{};        ///< instead of the fallback, above the highest
     bool lowestIsRefused = false;           ///< the lowest value itself is refused
     std::optional<double> unparsable{};     ///< stored for text that is no number (0 otherwise)
+    std::optional<double> whileEmpty{};     ///< stored while the field stands empty (0 otherwise)
     std::optional<double> whenEmpty{};      ///< instead of the fallback, for a field left empty
     std::function<double()> fallbackNow{};  ///< the fallback, where it varies
     std::function<void()> changed{};        ///< after the value is stored, before the form is told

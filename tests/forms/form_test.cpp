@@ -13,10 +13,11 @@ namespace {
 class TestForm : public Form {
  public:
     TestForm(Platform& platform, const Texts& texts) : Form("frmTest", platform, texts) {
-        for (const char* field : {"Temperature", "Count", "Days", "Flow", "Name"})
+        for (const char* field : {"Temperature", "Count", "Days", "Flow", "Efficiency", "Name"})
             add(std::string(field) + "Text", ControlKind::text);
         add("Frame", ControlKind::frame);
         add("Go", ControlKind::button, 2001).in("Frame");
+        add("Broken", ControlKind::button);
         add("One", ControlKind::option).grouped("g").setChecked(true);
         add("Two", ControlKind::option).grouped("g");
         add("Metric", ControlKind::check);
@@ -26,9 +27,10 @@ class TestForm : public Form {
         add("Day", ControlKind::date);
         addFields();
         const auto counting = [this] { ++clicks; };
+        onClick("Broken", [] { throw RunTimeError(11); });
+        onSlide("Slider", counting);
         for (const char* clicked : {"Go", "One", "Two", "Metric", "Combo", "List", "Day"})
             onClick(clicked, counting);
-        onSlide("Slider", counting);
         onChange("NameText", [this] { name = control("NameText").text(); });
         publicValues().addArray("pair", &pair);
         publicValues().add("temperature", &temperature);
@@ -36,7 +38,7 @@ class TestForm : public Form {
 
     bool guard = false;
     int changes = 0, clicks = 0, chained = 0;
-    double temperature = 85, flow = 3, days = 7;
+    double temperature = 85, flow = 3, days = 7, efficiency = 85;
     std::int16_t count = 4;
     std::string name;
     std::array<double, 2> pair{1.5, 2.5};
@@ -73,6 +75,11 @@ class TestForm : public Form {
                       .highest = 212,
                       .fallback = 3,
                       .lowestIsRefused = true});
+        fields().add({.control = "EfficiencyText",
+                      .stored = &efficiency,
+                      .highest = 100,
+                      .fallback = 100,
+                      .whileEmpty = 100});
     }
 };
 
@@ -115,6 +122,16 @@ TEST_F(FormTest, AFieldLeftEmptyReturnsToItsFallback) {
     form.leave("TemperatureText");
     EXPECT_EQ(form.temperature, 85);
     EXPECT_EQ(form.control("TemperatureText").text(), "85.0");
+}
+
+TEST_F(FormTest, AFieldCanHoldAFixedValueWhileItStandsEmpty) {
+    form.type("EfficiencyText", "");
+    EXPECT_EQ(form.efficiency, 100);
+    EXPECT_EQ(form.control("EfficiencyText").text(), "");
+    form.leave("EfficiencyText");
+    EXPECT_EQ(form.control("EfficiencyText").text(), "100.0");
+    form.type("EfficiencyText", "x");
+    EXPECT_EQ(form.efficiency, 0);
 }
 
 TEST_F(FormTest, AMetricFieldLeftEmptyReturnsToItsFallbackToo) {
@@ -170,6 +187,16 @@ TEST_F(FormTest, ANumberThatLooksLikeTheHeldValueIsRefusedAtOnce) {
 TEST_F(FormTest, ALowestValueThatIsItselfRefusedFallsBack) {
     form.type("FlowText", "0");
     EXPECT_EQ(form.flow, 3);
+}
+
+TEST_F(FormTest, ARunTimeErrorThatNoHandlerDealsWithIsShownAndEndsTheAction) {
+    form.click("Broken");
+    ASSERT_EQ(platform.messages.size(), 1u);
+    EXPECT_EQ(platform.messages[0].icon, MessageIcon::exclamation);
+    EXPECT_EQ(platform.messages[0].text, "11 - Division by zero");
+    EXPECT_FALSE(form.isHandling());
+    form.click("Go");
+    EXPECT_EQ(form.clicks, 1);
 }
 
 TEST_F(FormTest, OptionsOfAGroupExcludeEachOtherAndAChosenOneStaysSilent) {
