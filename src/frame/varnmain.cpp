@@ -12,6 +12,15 @@
 #include "frame/menu_table.h"
 
 namespace varnholt {
+namespace {
+
+bool opensWindow(const std::string& entry) {
+    const auto rows = menuTable();
+    return std::any_of(rows.begin(), rows.end(),
+                       [&](const MenuRow& row) { return row.opensWindow && entry == row.control; });
+}
+
+}  // namespace
 
 Varnmain::Varnmain(Platform& platform, const Texts& texts, std::string programFolder)
     : Form("Varnmain", platform, texts), MainDirectory(std::move(programFolder)) {
@@ -106,8 +115,7 @@ void Varnmain::setCommand(const std::string& entry, CommandNeeds needs, std::fun
 void Varnmain::run(const std::string& entry) {
     const auto found = commands_.find(entry);
     if (found == commands_.end() || !usable(found->second)) return;
-    const std::string& menu = control(entry).container();
-    if (menu != "mnuUnits" && menu != "mnuView") hideSplash();
+    if (opensWindow(entry)) hideSplash();
     try {
         found->second.run();
     } catch (const RunTimeError& error) {
@@ -132,7 +140,11 @@ void Varnmain::activate(ChildWindow& window) {
     if (active_ == &window) return;
     setActive(&window);
     platform().activated(window);
-    window.activated();
+    try {
+        window.activated();
+    } catch (const RunTimeError& error) {
+        show(MessageIcon::exclamation, error.message());
+    }
     refreshCommands();
 }
 

@@ -28,7 +28,11 @@ class TestDesign : public DesignDocument {
     void unloaded() override { main().releaseSlot(DesignKind::borehole, counter); }
     void MetricCheck_Click() override { ++unitSwitches; }
 
-    bool mayClose = true, askedByFrame = false;
+    void activated() override {
+        if (failsInFront) throw RunTimeError(11);
+    }
+
+    bool mayClose = true, askedByFrame = false, failsInFront = false;
     int unitSwitches = 0;
 };
 
@@ -199,6 +203,34 @@ TEST_F(VarnmainTest, TheStartPictureGoesWithTheFirstCommandThatOpensAWindow) {
     main.click("NewBorehole");
     EXPECT_EQ(main.splash(), nullptr);
     EXPECT_EQ(platform.closedForms, std::vector<std::string>{"frmSplash"});
+}
+
+TEST_F(VarnmainTest, TheStartPictureStaysForACommandThatOpensNoWindow) {
+    int calls = 0;
+    for (const char* entry : {"mnuHelp", "mnuFilePrintSetup", "mnuShowToolbar", "English"}) {
+        main.setCommand(entry, CommandNeeds::nothing, [&] { ++calls; });
+        main.click(entry);
+        EXPECT_NE(main.splash(), nullptr) << entry;
+    }
+    EXPECT_EQ(calls, 4);
+}
+
+TEST_F(VarnmainTest, TheStartPictureGoesBeforeTheDialogToOpenAFile) {
+    main.setCommand("mnuFileOpen", CommandNeeds::nothing,
+                    [this] { EXPECT_EQ(main.splash(), nullptr); });
+    main.click("mnuFileOpen");
+    EXPECT_EQ(main.splash(), nullptr);
+}
+
+TEST_F(VarnmainTest, AWindowThatFailsAsItComesToTheFrontIsToldAndTheFrameGoesOn) {
+    main.click("NewBorehole");
+    main.click("NewBorehole");
+    design(0).failsInFront = true;
+    main.activate(design(0));
+    ASSERT_EQ(platform.messages.size(), 1U);
+    EXPECT_EQ(platform.messages[0].icon, MessageIcon::exclamation);
+    EXPECT_EQ(platform.messages[0].text, "11 - Division by zero");
+    EXPECT_EQ(main.activeWindow(), &design(0));
 }
 
 TEST_F(VarnmainTest, AboutIsModalAndClosesWithItsButton) {
