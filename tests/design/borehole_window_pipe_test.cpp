@@ -126,6 +126,16 @@ TEST_F(PipeOfADesign, WithAZeroInsideDiameterIsNotRecomputedWhileTyping) {
     EXPECT_EQ(textOf("PIPipeResistanceText"), "10000.000");
 }
 
+TEST_F(PipeOfADesign, WithAZeroInsideDiameterShowsNear10000WithAnyFlowType) {
+    type("PIPipeDiameterText(1)", "0");
+    for (const int flowType : {1, 2, 0}) {
+        design->choose("PIPipeResistanceCombo(1)", flowType);
+        // The film's conductance counts as 10000 as well: half of 1/10000 on top.
+        EXPECT_NEAR(value("pipeResistance"), 10000.00005, 1e-9);
+        EXPECT_EQ(textOf("PIPipeResistanceText"), "10000.000");
+    }
+}
+
 TEST_F(PipeOfADesign, DiametersAreRecomputedOnlyWhenTheyAreAPipes) {
     type("PIPipeDiameterText(1)", "1.9");  // no wall
     EXPECT_EQ(value("pipeResistance"), 0.075);
