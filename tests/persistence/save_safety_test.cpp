@@ -77,12 +77,18 @@ TEST_F(SavingLosesNothing, WhenTheProgramIsKilledAtAnyMomentOfAThousandSaves) {
     int oldFound = 0, newFound = 0;
     for (int round = 0; round < 1000; ++round) {
         const std::string& name = round % 2 == 0 ? path : link;
+        int begun[2];
+        ASSERT_EQ(::pipe(begun), 0);
         const pid_t child = ::fork();
         if (child == 0) {
+            static_cast<void>(::write(begun[1], "x", 1) == 1);
             // Saves the two projects in turn until it is killed.
             for (bool fromOld = round % 4 < 2;; fromOld = !fromOld)
                 replaceWholeFile(name, fromOld ? fresh : old);
         }
+        // Only from then on, however busy the machine is.
+        char first = 0;
+        ASSERT_EQ(::read(begun[0], &first, 1), 1);
         ::usleep(microseconds(random));
         ::kill(child, SIGKILL);
         int status = 0;
