@@ -287,6 +287,27 @@ TEST_F(ZoneManagerTest, OpensInTheUnitsOfTheMainWindow) {
     EXPECT_EQ(shown(window, "FLFlowRateText"), "11.4");      // 3 x 3.785412
 }
 
+TEST_F(ZoneManagerTest, FollowsTheUnitsMenuWithNoDesignOpen) {
+    frmZoneManage& window = manager();
+    EXPECT_EQ(main.windowCounter, 1);
+    main.click("Metric");
+    EXPECT_TRUE(window.control("MetricCheck").checked());
+    EXPECT_EQ(shown(window, "LOInletTempText(0)"), "29.4");
+    const frmAvgBlock& other = block();
+    EXPECT_EQ(main.windowCounter, 1);
+    main.click("English");
+    EXPECT_FALSE(other.control("MetricCheck").checked());
+    EXPECT_TRUE(window.control("MetricCheck").checked());
+}
+
+TEST_F(ZoneManagerTest, DoesNotCountAmongTheDesigns) {
+    manager();
+    ASSERT_EQ(main.takeSlot(DesignKind::borehole), 1);
+    EXPECT_EQ(main.windowCounter, 1);  // the design is the first: "#1"
+    block();
+    EXPECT_EQ(main.windowCounter, 1);
+}
+
 TEST_F(ZoneManagerTest, GivesItsValuesToScripts) {
     frmZoneManage& window = manager();
     addZone(window, 15, 10);
