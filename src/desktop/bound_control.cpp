@@ -13,8 +13,12 @@
 namespace varnholt {
 namespace {
 
+// What the control asked for, beside which a view may have a look of its own: themed colours,
+// headings in bold, the tool tip of a drawing.
 constexpr const char* backcolorProperty = "backcolor";
 constexpr const char* forecolorProperty = "forecolor";
+constexpr const char* boldProperty = "bold";
+constexpr const char* tooltipProperty = "tooltip";
 
 /// Whether the widget would be seen if the pages of tabs around it were in front.
 bool isShownIn(const QWidget* widget) {
@@ -55,6 +59,7 @@ void BoundControl::show(Property property) {
                 widget_->setVisible(control_.visible());
             break;
         case Property::tooltip:
+            widget_->setProperty(tooltipProperty, qt(control_.tooltip()));
             widget_->setToolTip(qt(control_.tooltip()));
             break;
         case Property::backcolor:
@@ -64,6 +69,7 @@ void BoundControl::show(Property property) {
             showForecolor();
             break;
         case Property::bold: {
+            widget_->setProperty(boldProperty, control_.bold());
             QFont font = widget_->font();
             font.setBold(control_.bold());
             widget_->setFont(font);
@@ -115,13 +121,13 @@ Shown BoundControl::shown(Property property) const {
         case Property::visible:
             return isShownIn(widget_);
         case Property::tooltip:
-            return plain(widget_->toolTip());
+            return plain(widget_->property(tooltipProperty).toString());
         case Property::backcolor:
             return widget_->property(backcolorProperty).toInt();
         case Property::forecolor:
             return widget_->property(forecolorProperty).toInt();
         case Property::bold:
-            return widget_->font().bold();
+            return widget_->property(boldProperty).toBool();
         case Property::locked:
         case Property::checked:
             return false;

@@ -13,6 +13,7 @@
 #include "desktop/qt_text.h"
 #include "frame/menu_table.h"
 #include "frame/varnmain.h"
+#include "script/properties.h"
 
 namespace varnholt {
 namespace {
@@ -177,7 +178,7 @@ Shown MainMenu::shown(const Control& control, Property property) const {
     if (action == nullptr) {
         if (property == Property::visible) return !toolbar_.isHidden();
         if (property == Property::enabled) return toolbar_.isEnabled();
-        return std::string();
+        return propertyOf(main_, control, property);
     }
     switch (property) {
         case Property::caption:
@@ -198,7 +199,7 @@ Shown MainMenu::shown(const Control& control, Property property) const {
         case Property::forecolor:
             return control.forecolor();
         default:
-            return false;
+            return propertyOf(main_, control, property);
     }
 }
 
