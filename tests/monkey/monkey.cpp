@@ -61,7 +61,6 @@ Monkey::Monkey(Varnmain& main, MonkeyPlatform& platform, Driver& driver, Dice& d
 
 void Monkey::press() {
     act();
-    if (platform_.takeQuit()) driver_.close(main_);
     if (!running()) return;
     checkFrame(main_);
     if (!main_.modalForms().empty()) throw std::runtime_error("a dialog has been left behind");
@@ -90,6 +89,7 @@ void Monkey::act() {
     // Else few sessions would come far.
     if (control.name() == "mnuFileExit" && !dice_.chance(10)) return;
     work(form, control);
+    if (platform_.takeQuit()) driver_.close(main_);
     worked(&form);
 }
 
