@@ -76,13 +76,13 @@ bool PumpCatalogue::readPumps(const std::string& FileName, std::size_t slot) {
     return true;
 }
 
-void PumpCatalogue::readActiveSeries(std::size_t slot) {
+bool PumpCatalogue::readActiveSeries(std::size_t slot) {
     const PumpSeriesInfo* series = findJoined(activeSeries);
     if (series == nullptr && !firstSeries().empty()) {
         activeSeries = firstSeries();
         series = findJoined(activeSeries);
     }
-    if (series != nullptr) readPumps(series->FileName, slot);
+    return series != nullptr && readPumps(series->FileName, slot);
 }
 
 bool PumpCatalogue::activate(const varnholt::PumpList& manufacturer, const PumpSeriesInfo& series) {

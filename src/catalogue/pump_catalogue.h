@@ -59,8 +59,9 @@ class PumpCatalogue {
     /// Reads a series file by its base name into a slot. False when nothing could be read; the
     /// slot is then as it was.
     bool readPumps(const std::string& FileName, std::size_t slot);
-    /// Reads the series that `activeSeries` names, or the first one, into a slot.
-    void readActiveSeries(std::size_t slot);
+    /// Reads the series that `activeSeries` names, or the first one, into a slot. False when
+    /// nothing could be read.
+    bool readActiveSeries(std::size_t slot);
     /// Makes a series the active one and loads it into slot 0. False when it cannot be read;
     /// another one stays active then.
     bool activate(const varnholt::PumpList& manufacturer, const PumpSeriesInfo& series);

@@ -154,6 +154,26 @@ TEST_F(LoadsFieldsTest, FiguresOfACataloguePumpAreLockedUntilItBecomesACustomOne
     EXPECT_TRUE(window.control("LOCustomPumpCheck").checked());
 }
 
+TEST_F(LoadsFieldsTest, FiguresAreLockedUntilCustomPumpIsSet) {
+    const char* figures[] = {"LOCapacityText(0)", "LOPowerText(1)", "LOCOPText(0)",
+                             "LOFlowRateText(1)", "LOPLFText(0)"};
+    for (const char* figure : figures) EXPECT_TRUE(window.control(figure).locked()) << figure;
+    window.click("LOCustomPumpCheck");
+    for (const char* figure : figures) EXPECT_FALSE(window.control(figure).locked()) << figure;
+    window.click("LOCustomPumpCheck");
+    for (const char* figure : figures) EXPECT_TRUE(window.control(figure).locked()) << figure;
+}
+
+TEST_F(LoadsFieldsTest, ACustomPumpStaysOneBeforeItsFiguresAreTyped) {
+    window.click("LOCustomPumpCheck");
+    inMetric();
+    EXPECT_TRUE(window.control("LOCustomPumpCheck").checked());
+    EXPECT_FALSE(window.control("LOCapacityText(0)").locked());
+    window.click("LOClearPumpsCommand");
+    EXPECT_FALSE(window.control("LOCustomPumpCheck").checked());
+    EXPECT_TRUE(window.control("LOCapacityText(0)").locked());
+}
+
 TEST_F(LoadsFieldsTest, LoadSideConditionsHaveLimitsAndDefaults) {
     window.type("LOInletLoadsTempText(0)", "63");
     EXPECT_EQ(zone().pump.elt[cooling], 63);

@@ -174,6 +174,35 @@ TEST_F(PumpByHandTest, TheLoadSideOfACustomPumpCannotBeTyped) {
     EXPECT_EQ(pumpOf(0).capacity[cooling], 30);
 }
 
+TEST_F(PumpByHandTest, TheOpenDetailsFollowTheZoneOnDisplay) {
+    addZone(window, 15, 10);
+    window.click("LOAutoSelectCommand");
+    addZone(window, 15, 10);  // without a pump
+    window.click("LODetailsCommand");
+    EXPECT_FALSE(enabled(window, "LOInletLoadsTempText(0)"));
+    window.choose("LOZoneList", 0);
+    EXPECT_TRUE(enabled(window, "LOInletLoadsTempText(0)"));
+    window.click("LOClearPumpsCommand");
+    EXPECT_FALSE(enabled(window, "LOInletLoadsFlowText(1)"));
+    window.click("LOAutoSelectCommand");
+    EXPECT_TRUE(enabled(window, "LOInletLoadsFlowText(1)"));
+    window.click("LOCustomPumpCheck");
+    EXPECT_FALSE(enabled(window, "LOInletLoadsFlowText(1)"));
+}
+
+TEST_F(PumpByHandTest, TheLastZoneTakesTheOpenPanelsWithIt) {
+    addZone(window, 15, 10);
+    window.click("LOSelectCommand");
+    window.click("LORemoveCommand");
+    EXPECT_FALSE(window.pumpsAreBeingSelected());
+    addZone(window, 15, 10);
+    window.click("LODetailsCommand");
+    platform.answers = {Answer::no};
+    window.click("LOClearCommand");
+    window.click("LONewCommand");
+    EXPECT_FALSE(window.isShown(window.control("LODetailsFrame")));
+}
+
 TEST_F(PumpByHandTest, ClearTakesThePumpOutOfTheZone) {
     addZone(window, 15, 10);
     window.click("LOAutoSelectCommand");

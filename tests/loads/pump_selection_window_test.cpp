@@ -107,6 +107,12 @@ TEST_F(PumpSelectionTest, EqualCatalogueFlowsEndWithDivisionByZero) {
     EXPECT_EQ(window.ZoneList[0], before);
     EXPECT_EQ(shown(window, "LOPumpNameText"), "No Pump");
     EXPECT_FALSE(window.selectingPump);
+    EXPECT_EQ(window.catalogue.PumpList(browsedSlot, 0).name, "Equal");
+    window.click("LOSelectCommand");
+    choose("LOMfgCombo", "Second");
+    window.type("LONumberOfUnitsText(0)", "40000");
+    window.click("LOSelectPumpCommand");  // an overflow, and the panel is left all the same
+    EXPECT_EQ(window.catalogue.PumpList(browsedSlot, 0).name, "Equal");
 }
 
 TEST_F(PumpSelectionTest, AutoSelectAllServesEveryZoneAndKeepsTheSelection) {

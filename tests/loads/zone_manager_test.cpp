@@ -74,6 +74,18 @@ TEST_F(ZoneManagerTest, ANewZoneTakesSeriesAndLoadTemperaturesOfTheActiveSeries)
     EXPECT_EQ(window.ZoneList[1].pump.elf, (ByMode<double>{0, 0}));
 }
 
+TEST_F(ZoneManagerTest, ANewZoneTakesNoSeriesThatIsOnlyBeingBrowsed) {
+    frmZoneManage& window = manager();
+    window.click("LONewCommand");
+    window.click("LOSelectCommand");
+    window.choose("LOSeriesCombo", 1);
+    std::filesystem::remove_all(pumps());
+    window.click("LONewCommand");
+    EXPECT_EQ(lastMessage(), "[2455]\r\r" + pumps() + "/f_Air.hpd");
+    EXPECT_EQ(window.ZoneList[1].pump.mfgName, "");
+    EXPECT_EQ(window.ZoneList[1].pump.pumpType, 0);
+}
+
 TEST_F(ZoneManagerTest, TheFirstZoneNamesTheFileAndWakesTheCommands) {
     frmZoneManage& window = manager();
     const char* commands[] = {"LOCopyCommand",          "LORemoveCommand",      "LORenumberCommand",
@@ -102,6 +114,10 @@ TEST_F(ZoneManagerTest, CommandsOfOtherPartsOfTheProgramWakeWhenThoseAreThere) {
     window.click("LOEqvHoursCommand");
     EXPECT_EQ(printed, 1);
     EXPECT_EQ(calculated, 1);
+    platform.answers = {Answer::no};
+    window.click("LOClearCommand");
+    EXPECT_FALSE(enabled(window, "LOPrintCommand"));
+    EXPECT_FALSE(enabled(window, "LOEqvHoursCommand"));
 }
 
 TEST_F(ZoneManagerTest, ACopyHasEverythingButTheName) {

@@ -59,7 +59,7 @@ void ZoneWindow::LOSelectCommand_Click() {
     const Zone* zone = shownZone();
     if (zone == nullptr) return;
     control("LODetailsFrame").setVisible(false);
-    enableDetailFields(true);
+    freeFields(zone->pump);
     control("LOSelectFrame").setVisible(true);
     SeriesPlace place;
     if (beenHere && zone->pump.customPump != 1)
@@ -129,7 +129,8 @@ void ZoneWindow::LOSelectPumpCommand_Click() {
         temporaryInletTemp = zone->pump.pumpType == model.pumpType
                                  ? zone->pump.elt
                                  : designLoadTemps(designConditions(), model.pumpType);
-        SetPumpValues(model, typedUnits(), static_cast<std::size_t>(selectedZone()));
+        attempt(
+            [&] { SetPumpValues(model, typedUnits(), static_cast<std::size_t>(selectedZone())); });
     }
     restoreActiveSeries(browsedSlot);
 }

@@ -15,11 +15,14 @@ constexpr const char* figures[] = {"LOCapacityText", "LOPowerText", "LOCOPText",
                                    "LOPLFText"};
 constexpr const char* detailFields[] = {"LOInletLoadsTempText", "LOInletLoadsFlowText"};
 
-/// A zone without a catalogue pump that nevertheless has figures: they were typed in.
-bool hasTypedFigures(const MiniPump& pump) {
+/// A pump that was made a custom one, which a zone that only waits for its pump is not: it has
+/// figures that were typed in, or a name without a series.
+bool isCustom(const MiniPump& pump) {
     const auto any = [](const ByMode<double>& values) { return values[0] != 0 || values[1] != 0; };
-    return pump.customPump == 1 && (any(pump.capacity) || any(pump.watts) || any(pump.efficiency) ||
-                                    any(pump.flowRate) || any(pump.plf));
+    const bool hasFigures = any(pump.capacity) || any(pump.watts) || any(pump.efficiency) ||
+                            any(pump.flowRate) || any(pump.plf);
+    const bool named = !pump.name.empty() && pump.mfgName.empty() && pump.seriesName.empty();
+    return pump.customPump == 1 && (hasFigures || named);
 }
 
 }  // namespace
@@ -53,14 +56,19 @@ void ZoneWindow::displayPump() {
     for (const char* prefix : {"LONumber", "LOCapacity", "LOPower", "LOCOP", "LOFlow", "LOPLF"})
         fields().showAll(prefix);
     showUnitsToSelect();
-    control("LOCustomPumpCheck").setChecked(hasTypedFigures(shown));
-    lockFigures(shown.customPump != 1);
+    control("LOCustomPumpCheck").setChecked(isCustom(shown));
     showDetails(shown);
+    freeFields(shown);
 }
 
-void ZoneWindow::lockFigures(bool locked) {
+/// The figures are typed for a custom pump only, the load side for a pump of the catalogue.
+void ZoneWindow::freeFields(const MiniPump& shown) {
+    const bool figuresLocked = !control("LOCustomPumpCheck").checked();
     for (const char* figure : figures)
-        for (int m = 0; m < 2; ++m) element(figure, m).setLocked(locked);
+        for (int m = 0; m < 2; ++m) element(figure, m).setLocked(figuresLocked);
+    const bool loadSide = shown.customPump != 1 || !control("LODetailsFrame").visible();
+    for (const char* field : detailFields)
+        for (int i = 0; i < 4; ++i) element(field, i).setEnabled(loadSide);
 }
 
 /// A figure that was typed makes the pump a custom one.
@@ -98,32 +106,29 @@ void ZoneWindow::showDetails(const MiniPump& shown) {
     control("LONominalFlowUnitLabel").setCaption(text(unitText));
 }
 
-void ZoneWindow::enableDetailFields(bool enabled) {
-    for (const char* field : detailFields)
-        for (int i = 0; i < 4; ++i) element(field, i).setEnabled(enabled);
-}
-
 void ZoneWindow::LODetailsCommand_Click() {
     const Zone* zone = shownZone();
     if (zone == nullptr) return;
     control("LOSelectFrame").setVisible(false);
     control("LODetailsFrame").setVisible(true);
-    enableDetailFields(zone->pump.customPump != 1);
+    freeFields(zone->pump);
     if (zone->pump.customPump != 1) loadSeriesOf(zone->pump, browsedSlot);
 }
 
 /// Load conditions typed in the details enter the evaluation here.
 void ZoneWindow::LOReturnCommand_Click() {
     control("LODetailsFrame").setVisible(false);
-    enableDetailFields(true);
     const Zone* zone = shownZone();
     if (zone == nullptr) return;
+    freeFields(zone->pump);
     if (zone->pump.customPump != 1 && loadSeriesOf(zone->pump, browsedSlot) == ZoneSeries::loaded) {
         if (const auto k = modelNamed(zone->pump.name, browsedSlot)) {
             const RaisedFlag returning(returningFromDetails), same(samePumpUpdated);
             carryLoadSide(zone->pump);
-            SetPumpValues(catalogue.PumpList(browsedSlot, *k), typedUnits(),
-                          static_cast<std::size_t>(selectedZone()));
+            attempt([&] {
+                SetPumpValues(catalogue.PumpList(browsedSlot, *k), typedUnits(),
+                              static_cast<std::size_t>(selectedZone()));
+            });
         }
     }
     restoreActiveSeries(browsedSlot);
@@ -155,13 +160,12 @@ void ZoneWindow::LOClearPumpsCommand_Click() {
 void ZoneWindow::LOCustomPumpCheck_Click() {
     Zone* zone = shownZone();
     if (settingUnits || zone == nullptr) return;
-    const bool custom = control("LOCustomPumpCheck").checked();
-    lockFigures(!custom);
-    if (!custom) return;
+    if (!control("LOCustomPumpCheck").checked()) return freeFields(zone->pump);
     zone->pump.customPump = 1;
     zone->pump.mfgName.clear();
     zone->pump.seriesName.clear();
     showDetails(zone->pump);
+    freeFields(zone->pump);
     markChanged();
 }
 
@@ -173,11 +177,14 @@ ZoneWindow::ZoneSeries ZoneWindow::loadSeriesOf(const MiniPump& zonePump, Series
                                                        : ZoneSeries::unreadable;
 }
 
-void ZoneWindow::restoreActiveSeries(SeriesSlot slot) {
+bool ZoneWindow::holdsActiveSeries(SeriesSlot slot) const {
     const auto models = catalogue.models(slot);
-    const bool there = !models.empty() &&
-                       models[0].mfgInfo.mfgName + models[0].seriesInfo.seriesName == activeSeries;
-    if (!there) catalogue.readActiveSeries(slot);
+    return !models.empty() &&
+           models[0].mfgInfo.mfgName + models[0].seriesInfo.seriesName == activeSeries;
+}
+
+void ZoneWindow::restoreActiveSeries(SeriesSlot slot) {
+    if (!holdsActiveSeries(slot)) catalogue.readActiveSeries(slot);
 }
 
 void ZoneWindow::tellSeriesMissing(const Zone& zone) {

@@ -58,8 +58,9 @@ std::string ZoneWindow::numberOfZone(const Zone& zone) const {
 void ZoneWindow::LONewCommand_Click() {
     Zone zone;
     zone.pump.name = text(2837);
-    catalogue.readActiveSeries(browsedSlot);
-    if (catalogue.size(browsedSlot) > 0) {
+    // The slot may still hold another series that was browsed.
+    const bool read = catalogue.readActiveSeries(browsedSlot) || holdsActiveSeries(browsedSlot);
+    if (read && catalogue.size(browsedSlot) > 0) {
         const pump& first = catalogue.PumpList(browsedSlot, 0);
         zone.pump.mfgName = first.mfgInfo.mfgName;
         zone.pump.seriesName = first.seriesInfo.seriesName;
@@ -122,7 +123,7 @@ void ZoneWindow::enableZoneCommands() {
     for (const char* name : zoneCommands)
         if (has(name)) control(name).setEnabled(any);
     control("LOPrintCommand").setEnabled(any && main().hasCommand("mnuFilePrint"));
-    control("LOEqvHoursCommand").setEnabled(main().hasCommand("mnuEqvHours"));
+    control("LOEqvHoursCommand").setEnabled(any && main().hasCommand("mnuEqvHours"));
     if (!any) control("LOSaveCommand").setEnabled(false);
     control("LONewCommand").setEnabled(kind_.listsZones || !any);
     if (has("LOSummaryPicture") && control("LOSummaryPicture").visible())
@@ -138,7 +139,12 @@ void ZoneWindow::selectZone(int position) {
 void ZoneWindow::displayZone() {
     const Zone* zone = shownZone();
     control("LOZoneFrame").setVisible(zone != nullptr);
-    if (zone == nullptr) return;
+    if (zone == nullptr) {
+        // The next zone does not begin in the midst of another's selection.
+        control("LOSelectFrame").setVisible(false);
+        control("LODetailsFrame").setVisible(false);
+        return;
+    }
     const RaisedFlag writing(settingUnits);
     zoneTemp = *zone;
     control("LOZoneFrame").setCaption(zoneFrameCaption(*zone));

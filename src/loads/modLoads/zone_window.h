@@ -124,6 +124,7 @@ class ZoneWindow : public LoadsWindow {
     /// Loads the series of a zone's pump into a slot unless it is there already. A file that
     /// cannot be read has been told of.
     ZoneSeries loadSeriesOf(const MiniPump& zonePump, SeriesSlot slot);
+    bool holdsActiveSeries(SeriesSlot slot) const;
     void restoreActiveSeries(SeriesSlot slot);
     void tellSeriesMissing(const Zone& zone);
     /// Takes temperatures and flows of the zone's pump along into the next evaluation.
@@ -201,8 +202,7 @@ class ZoneWindow : public LoadsWindow {
     void LOClearPumpsCommand_Click();
     void LOCustomPumpCheck_Click();
     void showDetails(const MiniPump& shown);
-    void enableDetailFields(bool enabled);
-    void lockFigures(bool locked);
+    void freeFields(const MiniPump& shown);
     void figureTyped();
     void showUnitsToSelect();
     std::int16_t typedUnits() const;
