@@ -79,6 +79,24 @@ void Binder::nameFor(const std::string& field, const std::string& caption) {
     if (!name.isEmpty()) find(field)->widget()->setAccessibleName(name);
 }
 
+void Binder::nameTheNameless() {
+    for (const auto& [name, bound] : bound_) {
+        QWidget* widget = bound->widget();
+        QString found = widget->accessibleName();
+        if (widget->focusPolicy() == Qt::NoFocus) continue;
+        if (found.isEmpty()) found = widget->toolTip();
+        for (QWidget* around = widget; found.isEmpty() && around != nullptr;
+             around = around->parentWidget()) {
+            if (const auto* group = dynamic_cast<const GroupBox*>(around)) found = group->title();
+            const auto* tabs = qobject_cast<const QTabWidget*>(around);
+            for (int page = 0; tabs != nullptr && page < tabs->count(); ++page)
+                if (tabs->widget(page)->isAncestorOf(widget)) found = tabs->tabText(page);
+        }
+        if (found.isEmpty() && form_ != nullptr) found = qt(form_->caption());
+        widget->setAccessibleName(found);
+    }
+}
+
 std::vector<std::string> Binder::unshown() const {
     std::vector<std::string> names;
     if (form_ == nullptr) return names;
@@ -131,6 +149,7 @@ void Binder::leave(BoundControl& bound) {
 void Binder::propertyChanged(Control& control, Property property) {
     const Writing writing(writing_);
     if (BoundControl* bound = find(control.name())) bound->show(property);
+    refreshLater();
     if (property != Property::caption) return;
     const auto [first, last] = named_.equal_range(control.name());
     std::vector<std::string> fields;
@@ -143,7 +162,19 @@ void Binder::captionChanged(Form&) {
     if (onCaption) onCaption();
 }
 
+/// What another window's action has changed in this one is drawn once that action has ended.
+void Binder::refreshLater() {
+    if (std::exchange(refreshDue_, true)) return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (refreshDue_ && form_ != nullptr) settled(*form_);
+        },
+        Qt::QueuedConnection);
+}
+
 void Binder::settled(Form&) {
+    refreshDue_ = false;
     refreshDrawings();
     const auto refreshers = refreshers_;
     for (const auto& refresh : refreshers) refresh();
@@ -189,7 +220,8 @@ QWidget* Binder::withUpDown(const std::string& field) {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
     layout->addWidget(editor);
-    layout->addWidget(steps);
+    // Centred, so that the buttons' height does not limit the field's.
+    layout->addWidget(steps, 0, Qt::AlignVCenter);
     return both;
 }
 

@@ -108,6 +108,8 @@ class Binder : public QObject, public FormObserver {
     void setLeavesByFocus(bool leaves) { leavesByFocus_ = leaves; }
     /// Names of the form's controls that no widget shows.
     std::vector<std::string> unshown() const;
+    /// Gives what has no caption the name of the group or page that it stands in.
+    void nameTheNameless();
     /// The bound control, null as long as no widget was asked for.
     BoundControl* find(const std::string& name) const;
 
@@ -142,6 +144,7 @@ class Binder : public QObject, public FormObserver {
     bool keyPressed(BoundControl& bound, int key, Qt::KeyboardModifiers modifiers);
     void stepCompanion(const BoundControl& bound, int steps);
     void refreshDrawings();
+    void refreshLater();
 
     Form* form_;
     QWidget* window_ = nullptr;
@@ -154,6 +157,7 @@ class Binder : public QObject, public FormObserver {
     std::vector<std::function<void()>> refreshers_;
     std::function<void(std::exception_ptr)> faults_;
     bool leavesByFocus_ = true;
+    bool refreshDue_ = false;
     int writing_ = 0;
     int actions_ = 0;
 };

@@ -256,8 +256,11 @@ class BoundDate : public BoundControl {
 }  // namespace
 
 std::unique_ptr<BoundControl> bindText(Binder& binder, Control& control) {
-    const bool numeric = binder.form() != nullptr && binder.form()->fields().has(control.name());
-    return std::make_unique<BoundText>(binder, control, numeric);
+    const bool typed = binder.form() != nullptr && binder.form()->fields().has(control.name());
+    // A text with a unit behind it is a figure too, though nobody types it.
+    const bool shown = binder.has(companionName(control.name(), "UnitLabel")) ||
+                       binder.has(companionName(control.name(), "UnitsLabel"));
+    return std::make_unique<BoundText>(binder, control, typed || shown);
 }
 std::unique_ptr<BoundControl> bindRichText(Binder& binder, Control& control) {
     return std::make_unique<BoundRichText>(binder, control);

@@ -41,6 +41,7 @@ FormWindow::FormWindow(Form& form, const ViewRegistry& views, const FaultTaker& 
     setWindowTitle(qt(form.caption()));
     setWindowIcon(iconOf(form.formName()));
     setReadingOrder(view_);
+    binder_.nameTheNameless();
 }
 
 FormWindow::~FormWindow() {

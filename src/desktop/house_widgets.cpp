@@ -13,8 +13,12 @@
 
 namespace varnholt {
 
-FieldEdit::FieldEdit(int characters, QWidget* parent) : QLineEdit(parent), characters_(characters) {
-    if (characters_ == 0) return;
+FieldEdit::FieldEdit(int characters, QWidget* parent) : QLineEdit(parent), characters_(0) {
+    if (characters > 0) setFigures(characters);
+}
+
+void FieldEdit::setFigures(int characters) {
+    characters_ = characters;
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
@@ -24,6 +28,10 @@ QSize FieldEdit::sizeHint() const {
     if (characters_ == 0) return {std::max(usual.width(), 160), usual.height()};
     constexpr int edges = 18;
     return {fontMetrics().horizontalAdvance(u'0') * characters_ + edges, usual.height()};
+}
+
+QSize FieldEdit::minimumSizeHint() const {
+    return characters_ == 0 ? QLineEdit::minimumSizeHint() : sizeHint();
 }
 
 void FieldEdit::setMark(const QIcon& icon, const QString& reason) {
@@ -94,12 +102,15 @@ UpDownButtons::UpDownButtons(QWidget* parent)
         button->setAutoRepeat(true);
         button->setFocusPolicy(Qt::NoFocus);
         button->setIconSize({9, 9});
-        button->setFixedSize(18, 12);
+        button->setFixedWidth(18);
+        button->setMinimumHeight(12);
+        button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
         layout->addWidget(button);
     }
     up_->setIcon(houseIcon(QStringLiteral("step-up")));
     down_->setIcon(houseIcon(QStringLiteral("step-down")));
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    // As high as the field beside it.
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     setFocusPolicy(Qt::StrongFocus);
     connect(up_, &QToolButton::clicked, this, [this] { step(1); });
     connect(down_, &QToolButton::clicked, this, [this] { step(-1); });

@@ -17,8 +17,10 @@ class FieldEdit : public QLineEdit {
     /// @param characters the width in figures; 0 for a text that takes the place there is
     explicit FieldEdit(int characters, QWidget* parent = nullptr);
 
+    /// Makes it as wide as so many figures.
+    void setFigures(int characters);
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    QSize minimumSizeHint() const override;
     /// Shows the sign of a refused value in the field's edge, before the figures.
     void setMark(const QIcon& icon, const QString& reason);
 

@@ -39,6 +39,9 @@ int mostFields(const std::vector<FieldRow>& rows) {
     return static_cast<int>(most);
 }
 
+/// Least width of a column of figures that has others beside it.
+constexpr int figureColumn = 11 * gridStep;
+
 /// Buttons and check boxes are as wide as their captions, at the left.
 Qt::Alignment ownWidth(QWidget* widget) {
     const bool isButton = qobject_cast<QAbstractButton*>(widget) != nullptr;
@@ -60,6 +63,10 @@ FieldGrid::FieldGrid(const std::vector<FieldRow>& rows) : layout_(new QGridLayou
     int line = 0;
     for (const FieldRow& row : rows) addRow(line++, row, fieldColumns);
     layout_->setColumnStretch(fieldColumns + 3, 1);
+    // Columns of figures stand apart whatever their figures are.
+    if (fieldColumns > 1)
+        for (int column = 1; column <= fieldColumns; ++column)
+            layout_->setColumnMinimumWidth(column, figureColumn);
 }
 
 void FieldGrid::addRow(int line, const FieldRow& row, int fieldColumns) {

@@ -21,7 +21,7 @@ void ListModel::setItems(const std::vector<std::string>& items) {
             if (items[row] == items_[row]) continue;
             items_[row] = items[row];
             dataChanged(index(static_cast<int>(row), 0),
-                             index(static_cast<int>(row), columns_ - 1));
+                        index(static_cast<int>(row), columns_ - 1));
         }
         return;
     }

@@ -68,7 +68,7 @@ Drawing* newLoadsBars(std::function<LoadsChart()> source, std::function<LoadsCap
             paintLoads(canvas, bars.loads, bars.captions, texts);
         },
         [&texts](const LoadsBars& bars) { return describeLoads(bars.loads, bars.captions, texts); },
-        {280, 140});
+        {252, 140});
 }
 
 Drawing* newDayChart(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,

@@ -44,8 +44,11 @@ double drawHead(const Canvas& canvas, const LoadsCaptions& captions, const Texts
                                 Qt::AlignLeft | Qt::AlignVCenter, word);
         x += sample + 6 + QFontMetricsF(canvas.words).horizontalAdvance(word) + 2 * gridStep;
     }
+    const QString unit = qt(captions.unit);
     canvas.painter.setPen(canvas.look.muted);
-    canvas.painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, qt(captions.unit));
+    // The columns of figures beside the picture name the unit too.
+    if (x + QFontMetricsF(canvas.words).horizontalAdvance(unit) <= line.right())
+        canvas.painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, unit);
     return height + gridStep / 2;
 }
 
@@ -66,34 +69,43 @@ void drawBar(const Canvas& canvas, Mode mode, const QRectF& bar) {
     canvas.painter.drawRect(place);
 }
 
-void drawFigure(const Canvas& canvas, Mode mode, const QRectF& bar, double load) {
-    const QString text = figure(load);
-    const double width = canvas.textWidth(text);
-    // Cooling's figure ends over its bar's right edge and heating's begins over its left one.
-    const double left = mode == cooling ? bar.right() - width : bar.left();
-    canvas.painter.setFont(canvas.figures);
-    canvas.painter.setPen(mode == cooling ? canvas.look.cooling : canvas.look.heating);
-    canvas.painter.drawText(
-        QRectF(left, bar.top() - canvas.textHeight() - 1, width + 1, canvas.textHeight()),
-        Qt::AlignCenter, text);
-}
-
-void drawBars(const Canvas& canvas, const QRectF& plot, const LoadsChart& loads) {
+/// The place of a load's bar.
+QRectF barOf(const QRectF& plot, double textHeight, const LoadsChart& loads, Mode mode,
+             std::size_t block) {
     const double largest = std::max(loads.largest[cooling], loads.largest[heating]);
     const double group = plot.width() / timeBlocks;
     const double width = std::min(widestBar, (group - barGap) / 2 - 4);
-    const double tallest = plot.height() - canvas.textHeight() - 2;
+    const double middle = plot.left() + group * (static_cast<double>(block) + 0.5);
+    const double left = mode == cooling ? middle - barGap / 2 - width : middle + barGap / 2;
+    const double height = loads.loads[mode][block] / largest * (plot.height() - textHeight - 2);
+    return {left, plot.bottom() - height, width, height};
+}
+
+/// The figure of a mode's largest load, over its bar, on a patch that parts it from other bars.
+void drawFigure(const Canvas& canvas, Mode mode, const QRectF& bar, double load) {
+    const QString text = figure(load);
+    const double width = canvas.textWidth(text) + 2;
+    // Cooling's figure ends over its bar's right edge and heating's begins over its left one.
+    const double left = mode == cooling ? std::max(bar.right() - width, canvas.area.left())
+                                        : std::min(bar.left(), canvas.area.right() - width);
+    const double height = canvas.textHeight();
+    const QRectF place(left, bar.top() - height - 1, width, height);
+    canvas.painter.fillRect(place, canvas.look.surface);
+    canvas.painter.setFont(canvas.figures);
+    canvas.painter.setPen(mode == cooling ? canvas.look.cooling : canvas.look.heating);
+    canvas.painter.drawText(place, Qt::AlignCenter, text);
+}
+
+void drawBars(const Canvas& canvas, const QRectF& plot, const LoadsChart& loads) {
+    const double textHeight = canvas.textHeight();
     for (std::size_t block = 0; block < timeBlocks; ++block)
-        for (const Mode mode : modes) {
-            const double load = loads.loads[mode][block];
-            if (load <= 0) continue;
-            const double middle = plot.left() + group * (static_cast<double>(block) + 0.5);
-            const double left = mode == cooling ? middle - barGap / 2 - width : middle + barGap / 2;
-            const double height = load / largest * tallest;
-            const QRectF bar(left, plot.bottom() - height, width, height);
-            drawBar(canvas, mode, bar);
-            if (loads.peakBlock[mode] == block) drawFigure(canvas, mode, bar, load);
-        }
+        for (const Mode mode : modes)
+            if (loads.loads[mode][block] > 0)
+                drawBar(canvas, mode, barOf(plot, textHeight, loads, mode, block));
+    for (const Mode mode : modes)
+        if (const auto peak = loads.peakBlock[mode])
+            drawFigure(canvas, mode, barOf(plot, textHeight, loads, mode, *peak),
+                       loads.loads[mode][*peak]);
 }
 
 }  // namespace

@@ -9,11 +9,13 @@
 namespace varnholt {
 
 QWidget* makeAverageBlockView(Binder& bind) {
-    return column(
-        loadsBar(bind),
-        grow(bind.tabs("tabLoads",
-                       {page(row_(bind.widget("LOZoneList"), grow(column(zonePanel(bind))))),
-                        page(heatPumpPage(bind))})));
+    return roomy(
+        column(loadsBar(bind),
+               grow(bind.tabs(
+                   "tabLoads",
+                   {page(row_(zoneList(bind), grow(new ScrollPage(column(zonePanel(bind)))))),
+                    page(heatPumpPage(bind))}))),
+        {1220, 700});
 }
 
 }  // namespace varnholt

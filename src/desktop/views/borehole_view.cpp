@@ -65,6 +65,7 @@ FieldRow density(Binder& bind) {
 }
 
 QWidget* fluidPage(Binder& bind) {
+    bind.mark("FLInletTempText(0)", cooling).mark("FLInletTempText(1)", heating);
     return column(group(bind.frame("FLFluidFrame"),
                         group(bind.frame("FLInletTempFrame"),
                               grid(bind.row("FLInletTempText(0)"), bind.row("FLInletTempText(1)"))),
@@ -119,7 +120,7 @@ QWidget* boreFields(Binder& bind) {
 
 QWidget* pipePage(Binder& bind) {
     return column(group(bind.frame("PIPipeFrame"),
-                        grow(row_(grow(pipeFields(bind)), grow(boreFields(bind))))));
+                        grow(row_(grow(pipeFields(bind)), gap(), grow(boreFields(bind))))));
 }
 
 QWidget* arrangementFields(Binder& bind) {
@@ -138,8 +139,9 @@ QWidget* arrangementPage(Binder& bind) {
             return design == nullptr ? FieldPlan() : design->fieldPlan();
         },
         bind.form()->texts());
-    return column(group(bind.frame("PAFieldFrame"),
-                        grow(row_(arrangementFields(bind), grow(bind.drawing("imgField", plan))))));
+    return column(
+        group(bind.frame("PAFieldFrame"),
+              grow(row_(arrangementFields(bind), gap(), grow(bind.drawing("imgField", plan))))));
 }
 
 /// A pump or fan: shaft power and motor efficiency, and the power that these need.

@@ -11,6 +11,8 @@ namespace {
 
 /// What the list draws before an entry's first character: its frame and its paddings.
 constexpr double entryInset = 10;
+/// Captions are smaller than the list's figures, whose columns are narrow.
+constexpr double headScale = 0.88;
 
 }  // namespace
 
@@ -19,6 +21,9 @@ ColumnHeads::ColumnHeads(QWidget* list, std::vector<Head> heads)
     for (const Head& head : heads_) {
         head.label->setParent(this);
         head.label->setProperty("unit", true);
+        QFont small = head.label->font();
+        small.setPointSizeF(small.pointSizeF() * headScale);
+        head.label->setFont(small);
         head.label->show();
         head.label->installEventFilter(this);
     }
@@ -56,7 +61,7 @@ void ColumnHeads::place() {
     for (const Head& head : heads_) {
         const QSize size = head.label->sizeHint();
         const double from = columnAt(head.first), to = columnAt(head.last);
-        const double left = head.left ? from : std::max(0.0, (from + to - size.width()) / 2);
+        const double left = std::max(0.0, head.left ? from : (from + to - size.width()) / 2);
         head.label->setGeometry(static_cast<int>(left), head.line * size.height(), size.width(),
                                 size.height());
     }

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/views/loads_pieces.h"
 
+#include <QAbstractItemView>
 #include <QLabel>
 
 #include "desktop/drawings/drawings.h"
+#include "desktop/house_widgets.h"
 #include "desktop/layout.h"
+#include "desktop/qt_text.h"
 #include "desktop/views/view_pieces.h"
 #include "forms/quantity.h"
 #include "loads/modLoads/zone_window.h"
@@ -104,12 +107,21 @@ QWidget* pumpCommands(Binder& bind) {
                    bind.widget("LOCustomPumpCheck"));
 }
 
+/// A number that the form keeps as text.
+void narrow(QWidget* field) {
+    constexpr int figures = 6;
+    field->setFont(figureFont(field->font()));
+    static_cast<FieldEdit*>(field)->setFigures(figures);
+}
+
 QWidget* selection(Binder& bind) {
+    narrow(bind.widget("LONumberOfUnitsText(0)"));
     FieldRow model = bind.row("LOPumpNameCombo");
     model.caption = bind.widget("LOPumpNameComboLabel");
+    revealWhenOpened(bind.frame("LOSelectFrame"));
     return group(bind.frame("LOSelectFrame"),
-                 grid(bind.row("LOMfgCombo"), bind.row("LOSeriesCombo"), model,
-                      bind.row("LONumberOfUnitsText(0)")),
+                 row_(grid(bind.row("LOMfgCombo"), bind.row("LOSeriesCombo")), gap(),
+                      grid(model, bind.row("LONumberOfUnitsText(0)")), stretch()),
                  buttons(bind.primary("LOSelectPumpCommand"), bind.widget("LOCancelCommand")));
 }
 
@@ -138,13 +150,18 @@ QWidget* loadSide(Binder& bind, const char* frame, int first) {
 }
 
 QWidget* details(Binder& bind) {
-    return group(bind.frame("LODetailsFrame"),
-                 grid(detail(bind, 0), detail(bind, 1), detail(bind, 2)),
-                 loadSide(bind, "LOInletAirFrame", 0), loadSide(bind, "LOInletWaterFrame", 2),
-                 grid(bind.row("LONominalFlowText")), buttons(bind.widget("LOReturnCommand")));
+    revealWhenOpened(bind.frame("LODetailsFrame"));
+    return group(
+        bind.frame("LODetailsFrame"),
+        row_(grid(detail(bind, 0), detail(bind, 1), detail(bind, 2)), gap(),
+             column(loadSide(bind, "LOInletAirFrame", 0), loadSide(bind, "LOInletWaterFrame", 2)),
+             gap(), grid(bind.row("LONominalFlowText")), stretch()),
+        buttons(bind.widget("LOReturnCommand")));
 }
 
 QWidget* conditions(Binder& bind) {
+    bind.mark("HPLoadInletText(0)", cooling).mark("HPLoadInletText(1)", heating);
+    bind.mark("HPLoadInletText(2)", cooling).mark("HPLoadInletText(3)", heating);
     return group(bind.frame("HPDesignFrame"),
                  grid(headRow(bind, nullptr, "HPCoolingLabel", "HPHeatingLabel"),
                       bind.pair("LOInletTempText"), bind.row("FLFlowRateText")),
@@ -174,7 +191,8 @@ QWidget* catalogue(Binder& bind) {
     return group(bind.frame("HPCatalogueFrame"),
                  grid(bind.row("HPManufacturerCombo"), bind.row("HPSeriesCombo")),
                  bind.widget("HPPumpListLabel"),
-                 grow(row_(bind.widget("HPPumpList"), grow(bind.drawing("LOPumpChart", curves)))));
+                 grow(row_(named(bind, "HPPumpList", "HPPumpListLabel"),
+                           grow(bind.drawing("LOPumpChart", curves)))));
 }
 
 }  // namespace
@@ -188,22 +206,31 @@ LoadsCaptions loadsCaptions(const Binder& bind) {
 }
 
 QWidget* loadsBar(Binder& bind) {
-    return column(
-        bar(buttons(bind.widget("LONewCommand"), ifAny(bind, "LOCopyCommand"),
-                    ifAny(bind, "LORemoveCommand"), ifAny(bind, "LORenumberCommand"),
-                    bind.widget("LOClearCommand"), ifAny(bind, "LOSummaryCommand"),
-                    withIcon(bind, "LOOpenCommand", "open"),
-                    withIcon(bind, "LOSaveCommand", "save"),
-                    withIcon(bind, "LOPrintCommand", "print"), bind.widget("LOImportCommand"),
-                    ifAny(bind, "LOAutoSelectAllCommand"), bind.widget("LOUpdatePumpsCommand"))),
-        bar(row_(bind.widget("MetricCheck"), stretch(), bind.widget("LOWorkingZoneLabel"),
-                 linkLights(bind))));
+    return bar(column(
+        buttons(bind.widget("LONewCommand"), ifAny(bind, "LOCopyCommand"),
+                ifAny(bind, "LORemoveCommand"), ifAny(bind, "LORenumberCommand"),
+                bind.widget("LOClearCommand"), ifAny(bind, "LOSummaryCommand"),
+                withIcon(bind, "LOOpenCommand", "open"), withIcon(bind, "LOSaveCommand", "save"),
+                withIcon(bind, "LOPrintCommand", "print"), bind.widget("LOImportCommand"),
+                ifAny(bind, "LOAutoSelectAllCommand"), bind.widget("LOUpdatePumpsCommand")),
+        row_(bind.widget("MetricCheck"), stretch(), bind.widget("LOWorkingZoneLabel"),
+             linkLights(bind))));
+}
+
+QWidget* zoneList(Binder& bind) {
+    constexpr int listWidth = 136;
+    auto* list = static_cast<QAbstractItemView*>(bind.widget("LOZoneList"));
+    list->setFixedWidth(listWidth);
+    list->setAccessibleName(qt(bind.text(2811)));
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    return list;
 }
 
 QWidget* zonePanel(Binder& bind) {
     return group(bind.frame("LOZoneFrame"),
-                 row_(grow(loads(bind)), grow(column(specifications(bind), pumpCommands(bind),
-                                                     selection(bind), details(bind)))));
+                 row_(grow(loads(bind), 3), gap(),
+                      grow(column(specifications(bind), pumpCommands(bind)), 2)),
+                 selection(bind), details(bind));
 }
 
 QWidget* heatPumpPage(Binder& bind) { return row_(conditions(bind), grow(catalogue(bind))); }

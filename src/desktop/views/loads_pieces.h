@@ -13,6 +13,8 @@ namespace varnholt {
 
 /// The commands, the units, the zone file and the lights of the link.
 QWidget* loadsBar(Binder& bind);
+/// The zones by their names.
+QWidget* zoneList(Binder& bind);
 /// Loads and heat pump of the zone on display.
 QWidget* zonePanel(Binder& bind);
 /// Design conditions, and the catalogue with the curves of its pumps.

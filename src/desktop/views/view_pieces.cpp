@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/views/view_pieces.h"
 
-#include <QFrame>
+#include <QEvent>
 #include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
 #include <utility>
 
 #include "desktop/drawings/drawings.h"
@@ -26,6 +28,50 @@ class Rule : public QWidget {
     }
 };
 
+class Roomy : public QWidget {
+ public:
+    Roomy(QWidget* view, const QSize& least) : least_(least) {
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(view);
+    }
+    QSize sizeHint() const override { return QWidget::sizeHint().expandedTo(least_); }
+    /// Else its height would follow from its width alone.
+    bool hasHeightForWidth() const override { return false; }
+
+ private:
+    QSize least_;
+};
+
+class Revealer : public QObject {
+ public:
+    explicit Revealer(QWidget* panel) : QObject(panel), panel_(panel) {
+        panel->installEventFilter(this);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        // The page takes its new size first.
+        if (event->type() == QEvent::ShowToParent)
+            QMetaObject::invokeMethod(
+                this, [this] { reveal(); }, Qt::QueuedConnection);
+        return QObject::eventFilter(watched, event);
+    }
+
+ private:
+    void reveal() {
+        QWidget* around = panel_->parentWidget();
+        while (around != nullptr && qobject_cast<QScrollArea*>(around) == nullptr)
+            around = around->parentWidget();
+        if (around == nullptr || panel_->isHidden()) return;
+        auto* area = static_cast<QScrollArea*>(around);
+        const QRect place(panel_->mapTo(area->widget(), QPoint(0, 0)), panel_->size());
+        // The end first and then the beginning, which counts more where not all fits.
+        area->ensureVisible(place.left(), place.bottom(), 0, gridStep);
+        area->ensureVisible(place.left(), place.top(), 0, gridStep);
+    }
+
+    QWidget* panel_;
+};
+
 QWidget* light(Binder& bind, const std::string& image, LinkPartner partner) {
     Drawing* lamp = newLinkLight(partner, bind.form()->texts());
     bind.drawing(image, lamp);
@@ -46,6 +92,22 @@ QWidget* bar(QWidget* content) {
     content->layout()->setContentsMargins(2 * gridStep, gridStep, 2 * gridStep, 0);
     return content;
 }
+
+QWidget* named(Binder& bind, const std::string& control, const std::string& caption) {
+    QWidget* widget = bind.widget(control);
+    widget->setAccessibleName(qt(bind.form()->control(caption).caption()));
+    return widget;
+}
+
+QWidget* gap() {
+    auto* room = new QWidget;
+    room->setFixedWidth(gridStep);
+    return room;
+}
+
+QWidget* roomy(QWidget* view, const QSize& least) { return new Roomy(view, least); }
+
+void revealWhenOpened(QWidget* panel) { new Revealer(panel); }
 
 QWidget* rule() { return new Rule; }
 

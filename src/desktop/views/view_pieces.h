@@ -14,6 +14,19 @@ namespace varnholt {
 QWidget* page(QWidget* content);
 QWidget* bar(QWidget* content);
 
+/// A control whose caption has a name of its own: it is called so to screen readers.
+QWidget* named(Binder& bind, const std::string& control, const std::string& caption);
+
+/// Room between two columns of a page.
+QWidget* gap();
+
+/// A view that opens no smaller than so much, though it may be made smaller: what it shows later
+/// finds its place.
+QWidget* roomy(QWidget* view, const QSize& least);
+
+/// Scrolls a panel into sight when it opens.
+void revealWhenOpened(QWidget* panel);
+
 /// A hairline between parts of a table.
 QWidget* rule();
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Zone Manager: the list of zones with the zone on display, the building's summary, and the
 // heat pumps.
-#include <QLabel>
+#include <QAbstractItemView>
+#include <QStyledItemDelegate>
 #include <QTabWidget>
 
 #include "desktop/drawings/drawings.h"
@@ -14,14 +15,34 @@
 namespace varnholt {
 namespace {
 
+constexpr int summaryWidth = 490;
+
+/// Lines come in pairs, a zone's cooling and its heating: told by the colours of the modes.
+class ModeLines : public QStyledItemDelegate {
+ public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const Look& look = lookOf(option->palette);
+        option->palette.setColor(QPalette::Text,
+                                 index.row() % 2 == 0 ? look.cooling : look.heating);
+    }
+};
+
+void colourModes(QWidget* list) {
+    static_cast<QAbstractItemView*>(list)->setItemDelegate(new ModeLines(list));
+}
+
 /// Captions over the columns of the summary's lines: 3 characters for the zone, 8 for the pump, 2
 /// for its units, 6 for each load, 7, 5, 6 and 4 for the pump's figures.
 QWidget* summaryHeads(Binder& bind) {
     const auto label = [&](int index) {
         return bind.widget("LOSummaryLabel(" + std::to_string(index) + ")");
     };
-    return new ColumnHeads(bind.widget("LOZoneSummaryList"), {{label(0), 0, 3, 1, true},
-                                                              {label(1), 4, 11, 1, true},
+    return new ColumnHeads(bind.widget("LOZoneSummaryList"), {{label(0), -1, 3, 1, true},
+                                                              {label(1), 3, 11, 1, true},
                                                               {label(2), 13, 37, 0},
                                                               {label(3), 14, 19},
                                                               {label(4), 20, 25},
@@ -56,21 +77,29 @@ QWidget* summary(Binder& bind) {
             return window == nullptr ? LoadsChart() : window->buildingDayChart();
         },
         [&bind] { return loadsCaptions(bind); }, bind.form()->texts());
-    return group(bind.frame("LOSummaryPicture"), summaryHeads(bind),
-                 grow(bind.fixedPitch("LOZoneSummaryList")),
-                 row_(totals(bind), grow(bind.drawing("LOBuildingDayChart", day))),
-                 buttons(bind.widget("LOReturnFromSummaryCommand")));
+    bind.widget("LOZoneSummaryList")->setMinimumWidth(summaryWidth);
+    colourModes(bind.fixedPitch("LOZoneSummaryList"));
+    revealWhenOpened(bind.frame("LOSummaryPicture"));
+    return group(
+        bind.frame("LOSummaryPicture"),
+        grow(row_(
+            column(summaryHeads(bind), grow(named(bind, "LOZoneSummaryList", "LOSummaryPicture"))),
+            gap(), grow(column(totals(bind), grow(bind.drawing("LOBuildingDayChart", day)))))),
+        buttons(bind.widget("LOReturnFromSummaryCommand")));
 }
 
+/// The summary above the zone, where it is seen as soon as it opens.
 QWidget* zonesPage(Binder& bind) {
-    return row_(bind.widget("LOZoneList"), grow(column(zonePanel(bind), summary(bind))));
+    return row_(zoneList(bind), grow(new ScrollPage(column(summary(bind), zonePanel(bind)))));
 }
 
 }  // namespace
 
 QWidget* makeZoneManagerView(Binder& bind) {
-    return column(loadsBar(bind),
-                  grow(bind.tabs("tabLoads", {page(zonesPage(bind)), page(heatPumpPage(bind))})));
+    return roomy(
+        column(loadsBar(bind),
+               grow(bind.tabs("tabLoads", {page(zonesPage(bind)), page(heatPumpPage(bind))}))),
+        {1220, 700});
 }
 
 }  // namespace varnholt
