@@ -74,7 +74,7 @@ class BoundRichText : public BoundControl {
         edit_->setTabChangesFocus(true);
         edit_->setMinimumHeight(6 * edit_->fontMetrics().lineSpacing());
         QObject::connect(edit_, &QPlainTextEdit::textChanged, &binder, [this] {
-            const std::string text = plain(edit_->toPlainText());
+            const std::string text = written();
             if (text == this->control().text()) return;
             this->binder().act(*this,
                                [text](Form& f, const std::string& name) { f.type(name, text); });
@@ -85,7 +85,7 @@ class BoundRichText : public BoundControl {
 
     void show(Property property) override {
         if (property == Property::text) {
-            if (plain(edit_->toPlainText()) != control().text())
+            if (written() != control().text())
                 edit_->setPlainText(qt(control().text()));
         } else if (property == Property::locked) {
             edit_->setReadOnly(control().locked());
@@ -94,12 +94,17 @@ class BoundRichText : public BoundControl {
         }
     }
     Shown shown(Property property) const override {
-        if (property == Property::text) return plain(edit_->toPlainText());
+        if (property == Property::text) return written();
         if (property == Property::locked) return edit_->isReadOnly();
         return BoundControl::shown(property);
     }
 
  private:
+    /// The lines of a form's text end in CR LF.
+    std::string written() const {
+        return plain(edit_->toPlainText().replace(QLatin1Char('\n'), QLatin1String("\r\n")));
+    }
+
     QPlainTextEdit* edit_;
 };
 

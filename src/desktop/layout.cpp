@@ -42,11 +42,14 @@ int mostFields(const std::vector<FieldRow>& rows) {
 /// Least width of a column of figures that has others beside it.
 constexpr int figureColumn = 11 * gridStep;
 
+bool hasOwnWidth(const QWidget* widget) {
+    return widget->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
+}
+
 /// Buttons and check boxes are as wide as their captions, at the left.
 Qt::Alignment ownWidth(QWidget* widget) {
     const bool isButton = qobject_cast<QAbstractButton*>(widget) != nullptr;
-    const bool isFixed = widget->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
-    return isButton || isFixed ? Qt::AlignLeft : Qt::Alignment();
+    return isButton || hasOwnWidth(widget) ? Qt::AlignLeft : Qt::Alignment();
 }
 
 /// Texts and combos take the place that units would take.
@@ -92,7 +95,9 @@ void FieldGrid::addRow(int line, const FieldRow& row, int fieldColumns) {
         else if (spans)
             layout_->addWidget(field, line, column, 1, fieldColumns + 1);
         else
-            layout_->addWidget(field, line, column);
+            // Below the heads of their columns, which stand at the right.
+            layout_->addWidget(field, line, column,
+                               hasOwnWidth(field) ? Qt::AlignRight : Qt::Alignment());
         ++column;
     }
     if (row.unit != nullptr) {

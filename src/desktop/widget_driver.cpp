@@ -133,6 +133,9 @@ void WidgetDriver::work(Form& form, const Control& control,
         if (binder != nullptr && binder->actions() == before) binder->act(bound, verb);
     }
     rethrow();
+    // Windows that have been closed go once nothing of theirs is under way.
+    if (main_.modalForms().empty())
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void WidgetDriver::type(Form& form, const Control& control, const std::string& text) {

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QApplication>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "app/application.h"
+#include "desktop/main_window.h"
+#include "desktop/theme.h"
+#include "desktop/window_shelf.h"
+#include "forms/fake_platform.h"
+#include "tools/program_folder.h"
+
+namespace varnholt {
+
+/// A platform with real windows and fake boxes: questions are answered from queues, file dialogs
+/// without a queued pick are cancelled.
+class DeskPlatform : public FakePlatform {
+ public:
+    explicit DeskPlatform(WindowShelf& shelf) : shelf_(shelf) {}
+
+    void opened(Form& form) override {
+        FakePlatform::opened(form);
+        shelf_.opened(form);
+    }
+    void closed(Form& form) override {
+        FakePlatform::closed(form);
+        shelf_.closed(form);
+    }
+    void activated(Form& form) override { shelf_.activated(form); }
+    std::optional<std::string> chooseFile(const FileDialog& dialog) override {
+        if (picks.empty()) return std::nullopt;
+        return FakePlatform::chooseFile(dialog);
+    }
+    Answer question(Buttons buttons, const std::string& title, const std::string& text) override {
+        if (answers.empty())
+            answers.push_back(buttons == Buttons::okCancel ? Answer::ok : Answer::no);
+        return FakePlatform::question(buttons, title, text);
+    }
+
+ private:
+    WindowShelf& shelf_;
+};
+
+/// The whole program with its real windows, in a program folder of its own.
+class Desk {
+ public:
+    Desk()
+        : folder_(freshFolder()),
+          shelf(false),
+          platform(shelf),
+          program(platform, {folder_, installedFiles().resources, 0x409}) {
+        applyTheme(*qApp, Scheme::light);
+        shelf.setFaultTaker([this](const std::exception_ptr& fault) { faults.push_back(fault); });
+        window = std::make_unique<MainWindow>(main(), shelf.faults(), folder_ + "/recent.txt");
+        shelf.setMain(*window, main());
+        window->resize(MainWindow::usualSize());
+        window->show();
+        program.start();
+    }
+    ~Desk() {
+        for (ChildWindow* child : main().windows()) shelf.closed(*child);
+        window.reset();
+        settle();
+        std::filesystem::remove_all(folder_);
+    }
+    Desk(const Desk&) = delete;
+    Desk& operator=(const Desk&) = delete;
+
+    Varnmain& main() { return program.main(); }
+    const std::string& folder() const { return folder_; }
+    /// Lets the toolkit do what it has put off.
+    static void settle() {
+        for (int round = 0; round < 5; ++round) QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+ private:
+    static std::string freshFolder() {
+        const std::string place =
+            (std::filesystem::temp_directory_path() / "varnholt-desk-XXXXXX").string();
+        std::string name = place;
+        if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no folder for the test");
+        const std::string folder = name + "/program";
+        fillProgramFolder(folder, installedFiles());
+        return folder;
+    }
+
+    std::string folder_;
+
+ public:
+    WindowShelf shelf;
+    DeskPlatform platform;
+    Application program;
+    std::unique_ptr<MainWindow> window;
+    std::vector<std::exception_ptr> faults;
+};
+
+}  // namespace varnholt

@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <functional>
+#include <set>
+
+#include "desk.h"
+#include "desktop/form_window.h"
+#include "desktop/house_widgets.h"
+#include "desktop/qt_text.h"
+#include "frame/menu_table.h"
+#include "sample_form.h"
+
+namespace varnholt {
+namespace {
+
+using Inspect = std::function<void(Form&)>;
+
+/// Shows every form that a menu entry opens, windows and dialogs, to the inspector.
+void forEveryForm(Desk& desk, const Inspect& inspect) {
+    std::set<std::string> seen;
+    const auto once = [&](Form& form) {
+        if (!seen.insert(form.formName()).second) return;
+        SCOPED_TRACE(form.formName());
+        inspect(form);
+    };
+    desk.platform.onModal = [&](Form& form) {
+        once(form);
+        form.endModal();
+    };
+    once(*desk.main().splash());
+    for (const MenuRow& row : menuTable()) {
+        const bool isEntry = row.menu != nullptr && row.captionText != 0;
+        if (!isEntry || std::string(row.control) == "mnuFileExit") continue;
+        if (desk.main().control(row.control).enabled()) desk.main().click(row.control);
+    }
+    for (ChildWindow* child : desk.main().windows()) once(*child);
+    EXPECT_GE(seen.size(), 4U);
+}
+
+/// What a widget needs to be read whole.
+QSize needOf(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+        if (!label->wordWrap()) return label->sizeHint();
+        return {0, label->heightForWidth(label->width())};
+    }
+    if (qobject_cast<const QAbstractButton*>(&widget) != nullptr) return widget.sizeHint();
+    return widget.minimumSizeHint();
+}
+
+/// Empty when the whole widget is in sight, else what is wrong with it.
+std::string faultOf(const QWidget& widget, const QWidget& window) {
+    if (!widget.isVisible()) return "is not visible";
+    const QSize need = needOf(widget);
+    if (widget.width() < need.width() || widget.height() < need.height())
+        return "has " + std::to_string(widget.width()) + " x " + std::to_string(widget.height()) +
+               " and needs " + std::to_string(need.width()) + " x " + std::to_string(need.height());
+    for (const QWidget* inner = &widget; inner != &window; inner = inner->parentWidget()) {
+        const QWidget* around = inner->parentWidget();
+        if (around == nullptr) return "stands in no window";
+        // What lies beyond the edge of a page can be scrolled to.
+        if (qobject_cast<const QScrollArea*>(around->parentWidget()) != nullptr) return {};
+        if (!around->rect().contains(inner->geometry())) return "reaches beyond what holds it";
+    }
+    return {};
+}
+
+void bringToFront(const QWidget& widget) {
+    for (QWidget* around = widget.parentWidget(); around != nullptr;
+         around = around->parentWidget()) {
+        auto* tabs = qobject_cast<QTabWidget*>(around);
+        if (tabs == nullptr) continue;
+        for (int page = 0; page < tabs->count(); ++page)
+            if (tabs->widget(page)->isAncestorOf(&widget)) tabs->setCurrentIndex(page);
+    }
+}
+
+void expectNothingClipped(Form& form, FormWindow& window) {
+    for (const auto& control : form.controls()) {
+        if (!form.isShown(*control) || control->name() == "tbrMain") continue;
+        const BoundControl* bound = window.binder().find(control->name());
+        ASSERT_NE(bound, nullptr) << control->name() << " stands nowhere in the view";
+        const bool isEmptyLabel =
+            control->kind() == ControlKind::label && control->caption().empty();
+        if (isEmptyLabel || control->kind() == ControlKind::tabs) continue;
+        bringToFront(*bound->widget());
+        QCoreApplication::sendPostedEvents();
+        EXPECT_EQ(faultOf(*bound->widget(), window), "") << control->name();
+    }
+}
+
+struct Case {
+    double scale;
+    /// How much longer than English the captions are, as other languages are.
+    double longer;
+};
+
+class Views : public testing::TestWithParam<Case> {
+ protected:
+    void SetUp() override {
+        const QFont usual = QApplication::font();
+        QFont scaled = usual;
+        scaled.setPointSizeF(usual.pointSizeF() * GetParam().scale);
+        QApplication::setFont(scaled);
+    }
+
+    void inspect(Form& form) const {
+        for (const auto& control : form.controls()) lengthen(*control);
+        FormWindow window(form, views_, {});
+        window.resize(window.sizeHint());
+        window.show();
+        Desk::settle();
+        expectNothingClipped(form, window);
+    }
+
+ private:
+    void lengthen(Control& control) const {
+        const std::string caption = control.caption();
+        const auto more =
+            static_cast<std::size_t>(static_cast<double>(caption.size()) * GetParam().longer);
+        if (more > 0) control.setCaption(caption + " " + std::string(more, 'n'));
+    }
+
+    ViewRegistry views_;
+
+ protected:
+    Desk desk;
+};
+
+TEST_P(Views, ShowEveryControlOfTheirFormWhole) {
+    forEveryForm(desk, [this](Form& form) { inspect(form); });
+}
+
+TEST_P(Views, ShowEveryControlWholeOnceAllPanelsAreOpen) {
+    forEveryForm(desk, [this](Form& form) {
+        for (const auto& control : form.controls()) control->setVisible(true);
+        inspect(form);
+    });
+}
+
+TEST_P(Views, OfAFormWithoutAViewOfItsOwnAreWholeToo) {
+    FakePlatform platform;
+    FakeTexts texts;
+    SampleForm form(platform, texts);
+    inspect(form);
+}
+
+INSTANTIATE_TEST_SUITE_P(Scales, Views,
+                         testing::Values(Case{1, 0}, Case{1.5, 0}, Case{2, 0}, Case{1, 0.4}),
+                         [](const testing::TestParamInfo<Case>& each) {
+                             return "At" +
+                                    std::to_string(static_cast<int>(each.param.scale * 100)) +
+                                    (each.param.longer > 0 ? "PercentWithLongTexts" : "Percent");
+                         });
+
+/// The widgets that Tab goes through, from the first.
+std::vector<QWidget*> tabOrder(QWidget& window) {
+    std::vector<QWidget*> order;
+    QWidget* widget = &window;
+    do {
+        widget = widget->nextInFocusChain();
+        const bool stops = (widget->focusPolicy() & Qt::TabFocus) != 0 &&
+                           widget->isVisibleTo(&window) && widget->isEnabled();
+        if (stops && window.isAncestorOf(widget)) order.push_back(widget);
+    } while (widget != &window);
+    return order;
+}
+
+bool takesTheKeyboard(const Form& form, const Control& control) {
+    switch (control.kind()) {
+        case ControlKind::label:
+        case ControlKind::frame:
+        case ControlKind::image:
+        case ControlKind::menu:
+        case ControlKind::tabs:
+        case ControlKind::upDown:  // the arrow keys of its field
+            return false;
+        default:
+            return form.isShown(control) && control.enabled();
+    }
+}
+
+TEST(Keyboard, ReachesEveryControlByTab) {
+    Desk desk;
+    ViewRegistry views;
+    forEveryForm(desk, [&](Form& form) {
+        FormWindow window(form, views, {});
+        window.show();
+        for (const auto& control : form.controls()) {
+            if (!takesTheKeyboard(form, *control)) continue;
+            QWidget* widget = window.binder().widget(control->name());
+            bringToFront(*widget);
+            const std::vector<QWidget*> order = tabOrder(window);
+            EXPECT_NE(std::find(order.begin(), order.end(), widget), order.end())
+                << control->name();
+        }
+    });
+}
+
+TEST(Keyboard, GoesThroughTheFieldsOfAGroupFromTopToBottomAndLeftToRight) {
+    Desk desk;
+    ViewRegistry views;
+    forEveryForm(desk, [&](Form& form) {
+        FormWindow window(form, views, {});
+        window.resize(window.sizeHint());
+        window.show();
+        Desk::settle();
+        const std::vector<QWidget*> order = tabOrder(window);
+        for (std::size_t i = 1; i < order.size(); ++i) {
+            const QWidget* before = order[i - 1];
+            const QWidget* after = order[i];
+            if (before->parentWidget() != after->parentWidget()) continue;
+            const bool below = after->geometry().top() > before->geometry().bottom();
+            const bool right =
+                after->x() > before->x() && after->geometry().bottom() >= before->y();
+            EXPECT_TRUE(below || right)
+                << plain(before->objectName()) << " before " << plain(after->objectName());
+        }
+    });
+}
+
+TEST(Accessibility, GivesEveryFieldAName) {
+    Desk desk;
+    ViewRegistry views;
+    forEveryForm(desk, [&](Form& form) {
+        FormWindow window(form, views, {});
+        window.show();
+        for (const auto& control : form.controls()) {
+            if (!takesTheKeyboard(form, *control)) continue;
+            EXPECT_FALSE(window.binder().widget(control->name())->accessibleName().isEmpty())
+                << control->name();
+        }
+    });
+}
+
+}  // namespace
+}  // namespace varnholt
