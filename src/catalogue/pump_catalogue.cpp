@@ -85,19 +85,24 @@ bool PumpCatalogue::readActiveSeries(std::size_t slot) {
     return series != nullptr && readPumps(series->FileName, slot);
 }
 
-bool PumpCatalogue::activate(const varnholt::PumpList& manufacturer, const PumpSeriesInfo& series) {
+bool PumpCatalogue::activate(const std::string& mfgName, const PumpSeriesInfo& series) {
     if (!readPumps(series.FileName, activeSlot)) return false;
-    activeSeries = joined(manufacturer, series);
+    activeSeries = mfgName + series.seriesName;
     return true;
+}
+
+std::vector<const PumpSeriesInfo*> PumpCatalogue::seriesOf(const std::string& mfgName) const {
+    std::vector<const PumpSeriesInfo*> found;
+    for (const varnholt::PumpList& manufacturer : manufacturers_)
+        if (manufacturer.mfgInfo.mfgName == mfgName)
+            for (const PumpSeriesInfo& series : manufacturer.seriesInfo) found.push_back(&series);
+    return found;
 }
 
 const PumpSeriesInfo* PumpCatalogue::find(const std::string& mfgName,
                                           const std::string& seriesName) const {
-    for (const varnholt::PumpList& manufacturer : manufacturers_) {
-        if (manufacturer.mfgInfo.mfgName != mfgName) continue;
-        for (const PumpSeriesInfo& series : manufacturer.seriesInfo)
-            if (series.seriesName == seriesName) return &series;
-    }
+    for (const PumpSeriesInfo* series : seriesOf(mfgName))
+        if (series->seriesName == seriesName) return series;
     return nullptr;
 }
 

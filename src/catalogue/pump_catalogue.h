@@ -64,8 +64,10 @@ class PumpCatalogue {
     bool readActiveSeries(std::size_t slot);
     /// Makes a series the active one and loads it into slot 0. False when it cannot be read;
     /// another one stays active then.
-    bool activate(const varnholt::PumpList& manufacturer, const PumpSeriesInfo& series);
+    bool activate(const std::string& mfgName, const PumpSeriesInfo& series);
 
+    /// The series of all manufacturers of that name: an index may list one more than once.
+    std::vector<const PumpSeriesInfo*> seriesOf(const std::string& mfgName) const;
     /// The catalogue's entry of a series; null when it lists none of these names.
     const PumpSeriesInfo* find(const std::string& mfgName, const std::string& seriesName) const;
     /// The entry of the first series whose joined name this is, or null.

@@ -143,7 +143,8 @@ TEST_F(PumpCatalogueTest, FindsASeriesByItsNamesApartOrJoined) {
     EXPECT_EQ(catalogue.find("First", "Premier P Series"), nullptr);
     EXPECT_EQ(catalogue.findJoined("FirstLarge")->FileName, "f_Large");
     EXPECT_EQ(catalogue.findJoined("First"), nullptr);
-    catalogue.activate(catalogue.vhtPumpNames()[0], catalogue.vhtPumpNames()[0].seriesInfo[1]);
+    catalogue.activate(catalogue.vhtPumpNames()[0].mfgInfo.mfgName,
+                       catalogue.vhtPumpNames()[0].seriesInfo[1]);
     EXPECT_EQ(catalogue.activeSeries, "FirstLarge");
     EXPECT_EQ(catalogue.size(activeSlot), 5U);
 }

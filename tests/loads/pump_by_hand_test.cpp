@@ -115,6 +115,36 @@ TEST_F(PumpByHandTest, UnitsToSelectAreAtLeastOneAndFitIntoSixteenBits) {
     EXPECT_EQ(window.ZoneList[0], before);
 }
 
+TEST_F(PumpByHandTest, AManufacturerThatIsListedTwiceStandsInTheListsOnce) {
+    writeSeries("First", "More", 0, {60});  // behind "Second": the index has "First" again
+    window.InitializeHeatPumpLists();
+    using Strings = std::vector<std::string>;
+    EXPECT_EQ(window.control("HPManufacturerCombo").items(), (Strings{"First", "Second"}));
+    EXPECT_EQ(window.control("HPSeriesCombo").items(), (Strings{"Air", "Water", "More"}));
+    choose("HPSeriesCombo", "More");
+    EXPECT_EQ(window.activeSeries, "FirstMore");
+    window.InitializeHeatPumpLists();
+    EXPECT_EQ(shown(window, "HPManufacturerCombo"), "First");
+    EXPECT_EQ(shown(window, "HPSeriesCombo"), "More");
+    addZone(window, 15, 10);
+    window.click("LOSelectCommand");
+    EXPECT_EQ(window.control("LOMfgCombo").items(), (Strings{"First", "Second"}));
+    EXPECT_EQ(shown(window, "LOSeriesCombo"), "More");
+    EXPECT_EQ(shown(window, "LOPumpNameCombo"), "More-60");
+    window.click("LOSelectPumpCommand");
+    EXPECT_EQ(pumpOf(0).name, "More-60");
+}
+
+TEST_F(PumpByHandTest, APumpChosenInThePanelGoesIntoAZoneThatWasAddedMeanwhile) {
+    addZone(window, 15, 10);
+    window.click("LOSelectCommand");
+    choose("LOMfgCombo", "Second");
+    window.click("LONewCommand");  // it reads the active series
+    window.click("LOSelectPumpCommand");
+    EXPECT_EQ(pumpOf(1).name, "Other-50");
+    EXPECT_EQ(pumpOf(0).name, "No Pump");
+}
+
 TEST_F(PumpByHandTest, ASeriesThatIsGoneOffersNoModels) {
     addZone(window, 15, 10);
     window.click("LOSelectCommand");

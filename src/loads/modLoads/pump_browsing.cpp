@@ -7,24 +7,6 @@
 
 namespace varnholt {
 
-ZoneWindow::SeriesPlace ZoneWindow::placeOf(const std::string& joinedName) const {
-    const auto& manufacturers = catalogue.vhtPumpNames();
-    for (std::size_t i = 0; i < manufacturers.size(); ++i) {
-        const auto& series = manufacturers[i].seriesInfo;
-        for (std::size_t j = 0; j < series.size(); ++j)
-            if (manufacturers[i].mfgInfo.mfgName + series[j].seriesName == joinedName)
-                return {static_cast<int>(i), static_cast<int>(j)};
-    }
-    return {};
-}
-
-int ZoneWindow::manufacturerNamed(const std::string& mfgName) const {
-    const auto& manufacturers = catalogue.vhtPumpNames();
-    for (std::size_t i = 0; i < manufacturers.size(); ++i)
-        if (manufacturers[i].mfgInfo.mfgName == mfgName) return static_cast<int>(i);
-    return -1;
-}
-
 /// In the catalogue's order, each once.
 std::vector<std::string> ZoneWindow::manufacturerNames() const {
     std::vector<std::string> names;
@@ -34,21 +16,40 @@ std::vector<std::string> ZoneWindow::manufacturerNames() const {
     return names;
 }
 
-std::vector<std::string> ZoneWindow::seriesNames(int manufacturerIndex) const {
+std::vector<std::string> ZoneWindow::seriesNames(const std::string& mfgName) const {
     std::vector<std::string> names;
-    if (manufacturerIndex < 0) return names;
-    for (const PumpSeriesInfo& series :
-         catalogue.vhtPumpNames().at(static_cast<std::size_t>(manufacturerIndex)).seriesInfo)
-        names.push_back(series.seriesName);
+    for (const PumpSeriesInfo* series : catalogue.seriesOf(mfgName))
+        names.push_back(series->seriesName);
     return names;
 }
 
-const PumpSeriesInfo* ZoneWindow::seriesAt(SeriesPlace place) const {
-    const auto& manufacturers = catalogue.vhtPumpNames();
-    if (place.manufacturer < 0 || place.series < 0) return nullptr;
-    const auto& series = manufacturers.at(static_cast<std::size_t>(place.manufacturer)).seriesInfo;
-    const auto index = static_cast<std::size_t>(place.series);
-    return index < series.size() ? &series[index] : nullptr;
+ZoneWindow::SeriesPlace ZoneWindow::placeOf(const std::string& joinedName) const {
+    for (const std::string& mfgName : manufacturerNames()) {
+        const std::vector<std::string> series = seriesNames(mfgName);
+        for (std::size_t i = 0; i < series.size(); ++i)
+            if (mfgName + series[i] == joinedName) return {mfgName, static_cast<int>(i)};
+    }
+    return {};
+}
+
+void ZoneWindow::showPlace(const char* makerCombo, const char* seriesCombo,
+                           const SeriesPlace& place) {
+    const RaisedFlag refilling(settingItems);
+    const std::vector<std::string> names = manufacturerNames();
+    Control& makers = control(makerCombo).setItems(names).setText({});
+    Control& series = control(seriesCombo).setItems({}).setText({});
+    if (place.series < 0) return;
+    const auto maker = std::find(names.begin(), names.end(), place.mfgName);
+    makers.setIndex(static_cast<int>(maker - names.begin()));
+    series.setItems(seriesNames(place.mfgName)).setIndex(place.series);
+}
+
+const PumpSeriesInfo* ZoneWindow::chosenSeries(const char* makerCombo,
+                                               const char* seriesCombo) const {
+    const auto listed = catalogue.seriesOf(control(makerCombo).text());
+    const int chosen = control(seriesCombo).index();
+    const bool exists = chosen >= 0 && static_cast<std::size_t>(chosen) < listed.size();
+    return exists ? listed[static_cast<std::size_t>(chosen)] : nullptr;
 }
 
 bool ZoneWindow::pumpsAreBeingSelected() const { return control("LOSelectFrame").visible(); }
@@ -65,31 +66,22 @@ void ZoneWindow::LOSelectCommand_Click() {
     if (beenHere && zone->pump.customPump != 1)
         place = placeOf(zone->pump.mfgName + zone->pump.seriesName);
     if (place.series < 0) place = placeOf(activeSeries);
-    {
-        const RaisedFlag refilling(settingItems);
-        const std::vector<std::string> names = manufacturerNames();
-        Control& combo = control("LOMfgCombo").setItems(names);
-        if (place.manufacturer >= 0) {
-            const auto& chosen =
-                catalogue.vhtPumpNames()[static_cast<std::size_t>(place.manufacturer)];
-            const auto at = std::find(names.begin(), names.end(), chosen.mfgInfo.mfgName);
-            combo.setIndex(static_cast<int>(at - names.begin()));
-        }
-        SetUpLoadsSeriesList(place.manufacturer);
-        control("LOSeriesCombo").setIndex(place.series);
-    }
+    showPlace("LOMfgCombo", "LOSeriesCombo", place);
     browseSeries();
 }
 
 void ZoneWindow::SetUpLoadsSeriesList(int manufacturerIndex) {
     const RaisedFlag refilling(settingItems);
-    Control& combo = control("LOSeriesCombo").setItems(seriesNames(manufacturerIndex));
+    const Control& makers = control("LOMfgCombo");
+    Control& combo = control("LOSeriesCombo").setItems({}).setText({});
+    if (manufacturerIndex < 0) return;
+    combo.setItems(seriesNames(makers.items().at(static_cast<std::size_t>(manufacturerIndex))));
     if (!combo.items().empty()) combo.setIndex(0);
 }
 
 void ZoneWindow::LOMfgCombo_Click() {
     if (settingItems) return;
-    SetUpLoadsSeriesList(manufacturerNamed(control("LOMfgCombo").text()));
+    SetUpLoadsSeriesList(control("LOMfgCombo").index());
     browseSeries();
 }
 
@@ -99,8 +91,7 @@ void ZoneWindow::LOSeriesCombo_Click() {
 
 /// Loads the chosen series into slot 1. A series that cannot be read has no models to choose from.
 void ZoneWindow::browseSeries() {
-    const PumpSeriesInfo* series = seriesAt(
-        {manufacturerNamed(control("LOMfgCombo").text()), control("LOSeriesCombo").index()});
+    const PumpSeriesInfo* series = chosenSeries("LOMfgCombo", "LOSeriesCombo");
     if (series != nullptr && catalogue.readPumps(series->FileName, browsedSlot))
         showLoadsPumps(browsedSlot);
     else
@@ -122,17 +113,24 @@ void ZoneWindow::LOSelectPumpCommand_Click() {
     control("LOSelectFrame").setVisible(false);
     beenHere = true;
     const Zone* zone = shownZone();
-    const auto j = modelNamed(control("LOPumpNameCombo").text(), browsedSlot);
-    if (zone != nullptr && j && control("LOPumpNameCombo").index() >= 0) {
-        const pump& model = catalogue.PumpList(browsedSlot, *j);
-        const RaisedFlag selecting(selectingPump);
-        temporaryInletTemp = zone->pump.pumpType == model.pumpType
-                                 ? zone->pump.elt
-                                 : designLoadTemps(designConditions(), model.pumpType);
-        attempt(
-            [&] { SetPumpValues(model, typedUnits(), static_cast<std::size_t>(selectedZone())); });
-    }
+    const PumpSeriesInfo* series = chosenSeries("LOMfgCombo", "LOSeriesCombo");
+    // A new zone or another one's details may have taken the slot meanwhile.
+    if (zone != nullptr && series != nullptr && control("LOPumpNameCombo").index() >= 0 &&
+        loadSeries(control("LOMfgCombo").text(), *series, browsedSlot))
+        selectPump(*zone);
     restoreActiveSeries(browsedSlot);
+}
+
+/// Puts the chosen model into the zone; between pumps of one type the load temperatures stay.
+void ZoneWindow::selectPump(const Zone& zone) {
+    const auto j = modelNamed(control("LOPumpNameCombo").text(), browsedSlot);
+    if (!j) return;
+    const pump& model = catalogue.PumpList(browsedSlot, *j);
+    const RaisedFlag selecting(selectingPump);
+    temporaryInletTemp = zone.pump.pumpType == model.pumpType
+                             ? zone.pump.elt
+                             : designLoadTemps(designConditions(), model.pumpType);
+    attempt([&] { SetPumpValues(model, typedUnits(), static_cast<std::size_t>(selectedZone())); });
 }
 
 void ZoneWindow::LOCancelCommand_Click() {
@@ -146,18 +144,7 @@ void ZoneWindow::InitializeHeatPumpLists() {
 }
 
 void ZoneWindow::showActiveSeries() {
-    const RaisedFlag refilling(settingItems);
-    const SeriesPlace place = placeOf(activeSeries);
-    const std::vector<std::string> names = manufacturerNames();
-    Control& makers = control("HPManufacturerCombo").setItems(names).setText({});
-    Control& series =
-        control("HPSeriesCombo").setItems(seriesNames(place.manufacturer)).setText({});
-    if (place.manufacturer >= 0) {
-        const auto& active = catalogue.vhtPumpNames()[static_cast<std::size_t>(place.manufacturer)];
-        const auto at = std::find(names.begin(), names.end(), active.mfgInfo.mfgName);
-        makers.setIndex(static_cast<int>(at - names.begin()));
-        series.setIndex(place.series);
-    }
+    showPlace("HPManufacturerCombo", "HPSeriesCombo", placeOf(activeSeries));
     showActiveModels();
 }
 
@@ -170,8 +157,8 @@ void ZoneWindow::showActiveModels() {
 
 void ZoneWindow::HPManufacturerCombo_Click() {
     if (settingItems) return;
-    const int manufacturer = manufacturerNamed(control("HPManufacturerCombo").text());
-    Control& series = control("HPSeriesCombo").setItems(seriesNames(manufacturer)).setText({});
+    const std::string& maker = control("HPManufacturerCombo").text();
+    Control& series = control("HPSeriesCombo").setItems(seriesNames(maker)).setText({});
     if (series.items().empty()) return;
     series.setIndex(0);
     HPSeriesCombo_Click();
@@ -179,11 +166,10 @@ void ZoneWindow::HPManufacturerCombo_Click() {
 
 void ZoneWindow::HPSeriesCombo_Click() {
     if (settingItems) return;
-    const int manufacturer = manufacturerNamed(control("HPManufacturerCombo").text());
-    const PumpSeriesInfo* series = seriesAt({manufacturer, control("HPSeriesCombo").index()});
+    const PumpSeriesInfo* series = chosenSeries("HPManufacturerCombo", "HPSeriesCombo");
     if (series == nullptr) return;
-    const PumpList& maker = catalogue.vhtPumpNames()[static_cast<std::size_t>(manufacturer)];
-    if (!catalogue.activate(maker, *series)) return showActiveSeries();
+    if (!catalogue.activate(control("HPManufacturerCombo").text(), *series))
+        return showActiveSeries();
     showActiveModels();
     markChanged();
 }

@@ -172,9 +172,14 @@ void ZoneWindow::LOCustomPumpCheck_Click() {
 ZoneWindow::ZoneSeries ZoneWindow::loadSeriesOf(const MiniPump& zonePump, SeriesSlot slot) {
     const PumpSeriesInfo* series = catalogue.find(zonePump.mfgName, zonePump.seriesName);
     if (series == nullptr) return ZoneSeries::unlisted;
-    if (catalogue.holds(slot, zonePump.mfgName, zonePump.seriesName)) return ZoneSeries::loaded;
-    return catalogue.readPumps(series->FileName, slot) ? ZoneSeries::loaded
+    return loadSeries(zonePump.mfgName, *series, slot) ? ZoneSeries::loaded
                                                        : ZoneSeries::unreadable;
+}
+
+bool ZoneWindow::loadSeries(const std::string& mfgName, const PumpSeriesInfo& series,
+                            SeriesSlot slot) {
+    return catalogue.holds(slot, mfgName, series.seriesName) ||
+           catalogue.readPumps(series.FileName, slot);
 }
 
 bool ZoneWindow::holdsActiveSeries(SeriesSlot slot) const {

@@ -124,6 +124,7 @@ class ZoneWindow : public LoadsWindow {
     /// Loads the series of a zone's pump into a slot unless it is there already. A file that
     /// cannot be read has been told of.
     ZoneSeries loadSeriesOf(const MiniPump& zonePump, SeriesSlot slot);
+    bool loadSeries(const std::string& mfgName, const PumpSeriesInfo& series, SeriesSlot slot);
     bool holdsActiveSeries(SeriesSlot slot) const;
     void restoreActiveSeries(SeriesSlot slot);
     void tellSeriesMissing(const Zone& zone);
@@ -179,16 +180,19 @@ class ZoneWindow : public LoadsWindow {
     void LOMfgCombo_Click();
     void LOSeriesCombo_Click();
     void LOSelectPumpCommand_Click();
+    void selectPump(const Zone& zone);
     void LOCancelCommand_Click();
-    /// A series by its place in the catalogue's index; -1 for none.
+    /// A series as two combos show it: its manufacturer, and its place among the series of that
+    /// name; -1 for none.
     struct SeriesPlace {
-        int manufacturer = -1, series = -1;
+        std::string mfgName;
+        int series = -1;
     };
     SeriesPlace placeOf(const std::string& joinedName) const;
-    int manufacturerNamed(const std::string& mfgName) const;
     std::vector<std::string> manufacturerNames() const;
-    std::vector<std::string> seriesNames(int manufacturerIndex) const;
-    const PumpSeriesInfo* seriesAt(SeriesPlace place) const;
+    std::vector<std::string> seriesNames(const std::string& mfgName) const;
+    void showPlace(const char* makerCombo, const char* seriesCombo, const SeriesPlace& place);
+    const PumpSeriesInfo* chosenSeries(const char* makerCombo, const char* seriesCombo) const;
     void SetUpLoadsSeriesList(int manufacturerIndex);
     void showLoadsPumps(std::size_t slot);
     void browseSeries();
