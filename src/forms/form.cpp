@@ -8,6 +8,22 @@
 #include "basis/run_time_error.h"
 
 namespace varnholt {
+namespace {
+
+/// The lines of a rich text end in CR LF, whatever they are pasted with.
+std::string withFullLineEnds(const std::string& text) {
+    std::string full;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
+        if (text[i] == '\r' || text[i] == '\n')
+            full += "\r\n";
+        else
+            full += text[i];
+    }
+    return full;
+}
+
+}  // namespace
 
 /// Hands the controls' changes on to whoever shows the form.
 class Form::Relay : public ControlObserver {
@@ -98,7 +114,8 @@ void Form::perform(const Handler& action) {
 
 void Form::type(const std::string& name, const std::string& text) {
     perform([&] {
-        control(name).setText(text);
+        Control& target = control(name);
+        target.setText(target.kind() == ControlKind::richText ? withFullLineEnds(text) : text);
         if (fields_.has(name)) fields_.textChanged(name);
         raise(handlersOf(name).change);
     });

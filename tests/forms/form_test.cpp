@@ -25,6 +25,7 @@ class TestForm : public Form {
         add("List", ControlKind::list).multipleRows().setItems({"x", "y", "z"});
         add("Slider", ControlKind::slider).setRange(0, 100);
         add("Day", ControlKind::date);
+        add("Notes", ControlKind::richText);
         addFields();
         const auto counting = [this] { ++clicks; };
         onClick("Broken", [] { throw RunTimeError(11); });
@@ -231,6 +232,13 @@ TEST_F(FormTest, PastingReplacesTheText) {
     platform.clipboardText = "Riverside";
     form.key("NameText", "Ctrl+V");
     EXPECT_EQ(form.name, "Riverside");
+}
+
+TEST_F(FormTest, TheLinesOfARichTextEndInCrLf) {
+    for (const char* typed : {"one\ntwo\n", "one\r\ntwo\r\n", "one\rtwo\r"}) {
+        form.type("Notes", typed);
+        EXPECT_EQ(form.control("Notes").text(), "one\r\ntwo\r\n");
+    }
 }
 
 TEST_F(FormTest, PastingLeavesALockedFieldAlone) {
