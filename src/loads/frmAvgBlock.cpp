@@ -9,6 +9,7 @@ namespace varnholt {
 namespace {
 
 constexpr ZoneWindowKind averageBlock{.formName = "frmAvgBlock",
+                                      .windowExists = &Varnmain::frmAvgBlockWindowExists,
                                       .titleText = 2932,
                                       .pumpNameText = 2933,
                                       .hoursText = 2934,
@@ -18,14 +19,7 @@ constexpr ZoneWindowKind averageBlock{.formName = "frmAvgBlock",
 
 }  // namespace
 
-frmAvgBlock::frmAvgBlock(Varnmain& main) : ZoneWindow(averageBlock, main) {
-    main.frmAvgBlockWindowExists = true;
-}
-
-void frmAvgBlock::unloaded() {
-    ZoneWindow::unloaded();
-    main().frmAvgBlockWindowExists = false;
-}
+frmAvgBlock::frmAvgBlock(Varnmain& main) : ZoneWindow(averageBlock, main) {}
 
 std::string frmAvgBlock::zoneFrameCaption(const Zone&) const { return plainTitle(); }
 
@@ -34,7 +28,7 @@ MiniPump frmAvgBlock::evaluated(const pump& model, std::int16_t units, const Zon
 }
 
 /// The same model with the same number and load side, under the conditions as they are now.
-void frmAvgBlock::updatePumps() {
+void frmAvgBlock::LOUpdatePumpsCommand_Click() {
     const Zone* zone = shownZone();
     if (zone == nullptr || zone->pump.customPump == 1) return;
     const ZoneSeries series = loadSeriesOf(zone->pump, activeSlot);

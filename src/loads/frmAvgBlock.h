@@ -12,11 +12,10 @@ class frmAvgBlock : public ZoneWindow {
  public:
     explicit frmAvgBlock(Varnmain& main);
 
-    void unloaded() override;
+    void LOUpdatePumpsCommand_Click() override;
 
  protected:
     MiniPump evaluated(const pump& model, std::int16_t units, const Zone& zone) const override;
-    void updatePumps() override;
     std::string zoneFrameCaption(const Zone& zone) const override;
 };
 

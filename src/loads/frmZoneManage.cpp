@@ -14,6 +14,7 @@ namespace varnholt {
 namespace {
 
 constexpr ZoneWindowKind zoneManager{.formName = "frmZoneManage",
+                                     .windowExists = &Varnmain::frmZoneManageWindowExists,
                                      .titleText = 2930,
                                      .pumpNameText = 2836,
                                      .hoursText = 2828,
@@ -31,22 +32,16 @@ void append(std::string& list, const std::string& entry) {
 frmZoneManage::frmZoneManage(Varnmain& main) : ZoneWindow(zoneManager, main) {
     addSummary();
     hookListCommands();
-    main.frmZoneManageWindowExists = true;
-}
-
-void frmZoneManage::unloaded() {
-    ZoneWindow::unloaded();
-    main().frmZoneManageWindowExists = false;
 }
 
 void frmZoneManage::hookListCommands() {
-    onCommand("LOCopyCommand", [this] { LOCopyCommand_Click(); });
-    onCommand("LORemoveCommand", [this] { LORemoveCommand_Click(); });
-    onCommand("LORenumberCommand", [this] { LORenumberCommand_Click(); });
-    onCommand("LOSummaryCommand", [this] { LOSummaryCommand_Click(); });
-    onCommand("LOReturnFromSummaryCommand", [this] { LOReturnFromSummaryCommand_Click(); });
-    onCommand("LOAutoSelectCommand", [this] { LOAutoSelectCommand_Click(); });
-    onCommand("LOAutoSelectAllCommand", [this] { LOAutoSelectAllCommand_Click(); });
+    onClick("LOCopyCommand", [this] { LOCopyCommand_Click(); });
+    onClick("LORemoveCommand", [this] { LORemoveCommand_Click(); });
+    onClick("LORenumberCommand", [this] { LORenumberCommand_Click(); });
+    onClick("LOSummaryCommand", [this] { LOSummaryCommand_Click(); });
+    onClick("LOReturnFromSummaryCommand", [this] { LOReturnFromSummaryCommand_Click(); });
+    onClick("LOAutoSelectCommand", [this] { LOAutoSelectCommand_Click(); });
+    onClick("LOAutoSelectAllCommand", [this] { LOAutoSelectAllCommand_Click(); });
 }
 
 std::string frmZoneManage::zoneFrameCaption(const Zone& zone) const {
@@ -133,7 +128,7 @@ void frmZoneManage::showSelectedPumps() {
 }
 
 /// Each catalogue pump is selected again from its own series, at the load temperatures that it has.
-void frmZoneManage::updatePumps() {
+void frmZoneManage::LOUpdatePumpsCommand_Click() {
     std::string without;
     attempt([&] {
         Progress progress(platform(), text(2944), ZoneList.size());

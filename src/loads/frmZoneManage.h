@@ -12,14 +12,13 @@ class frmZoneManage : public ZoneWindow {
  public:
     explicit frmZoneManage(Varnmain& main);
 
-    void unloaded() override;
+    void LOUpdatePumpsCommand_Click() override;
 
     /// The whole building's loads by time block.
     LoadsChart buildingDayChart() const;
 
  protected:
     MiniPump evaluated(const pump& model, std::int16_t units, const Zone& zone) const override;
-    void updatePumps() override;
     std::string zoneFrameCaption(const Zone& zone) const override;
     void rebuildSummary() override;
 

@@ -141,7 +141,7 @@ void LinkedDesign::TransferLoadsVariablesOut() {
     if (LoadsHome == nullptr || transferring_) return;
     // The design that read from the window last must not lose changes that it has not seen yet.
     if (LoadsHome->hasUnsavedChanges() && LoadsHome->designLinkID != myID)
-        varnholt::TransferCall(main(), LoadsHome->designLinkID);
+        LoadsHome->TransferCall();
     if (LoadsHome == nullptr || !blinkLight()) return;
     LoadsWindow& loads = *LoadsHome;
     loads.designLinkID = myID;

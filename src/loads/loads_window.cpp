@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "frame/varnmain.h"
+#include "loads/links.h"
 
 namespace varnholt {
 
@@ -15,5 +16,7 @@ LoadsWindow::LoadsWindow(std::string formName, Varnmain& main)
 DesignConditions LoadsWindow::designConditions() const {
     return {flowRate, inletTemp, inletLoadAirTemp, inletLoadWaterTemp};
 }
+
+void LoadsWindow::TransferCall() { varnholt::TransferCall(main(), designLinkID); }
 
 }  // namespace varnholt

@@ -66,6 +66,8 @@ class LoadsWindow : public ChildWindow {
 
     /// Number of the design that read from the window last; 0 when unlinked.
     std::int16_t designLinkID = 0;
+    /// Hands the loads to that design.
+    void TransferCall();
     /// Set by a link, so that the window needs to know no design.
     std::function<void()> onClosed, onUnitsSwitched;
     /// The window's title without a project's name.

@@ -28,18 +28,18 @@ bool isCustom(const MiniPump& pump) {
 }  // namespace
 
 void ZoneWindow::hookPumpCommands() {
-    onCommand("LOSelectCommand", [this] { LOSelectCommand_Click(); });
-    onCommand("LOMfgCombo", [this] { LOMfgCombo_Click(); });
-    onCommand("LOSeriesCombo", [this] { LOSeriesCombo_Click(); });
-    onCommand("LOSelectPumpCommand", [this] { LOSelectPumpCommand_Click(); });
-    onCommand("LOCancelCommand", [this] { LOCancelCommand_Click(); });
-    onCommand("LODetailsCommand", [this] { LODetailsCommand_Click(); });
-    onCommand("LOReturnCommand", [this] { LOReturnCommand_Click(); });
-    onCommand("LOClearPumpsCommand", [this] { LOClearPumpsCommand_Click(); });
-    onCommand("LOCustomPumpCheck", [this] { LOCustomPumpCheck_Click(); });
+    onClick("LOSelectCommand", [this] { LOSelectCommand_Click(); });
+    onClick("LOMfgCombo", [this] { LOMfgCombo_Click(); });
+    onClick("LOSeriesCombo", [this] { LOSeriesCombo_Click(); });
+    onClick("LOSelectPumpCommand", [this] { LOSelectPumpCommand_Click(); });
+    onClick("LOCancelCommand", [this] { LOCancelCommand_Click(); });
+    onClick("LODetailsCommand", [this] { LODetailsCommand_Click(); });
+    onClick("LOReturnCommand", [this] { LOReturnCommand_Click(); });
+    onClick("LOClearPumpsCommand", [this] { LOClearPumpsCommand_Click(); });
+    onClick("LOCustomPumpCheck", [this] { LOCustomPumpCheck_Click(); });
     onClick("LOUpdatePumpsCommand", [this] { LOUpdatePumpsCommand_Click(); });
-    onCommand("HPManufacturerCombo", [this] { HPManufacturerCombo_Click(); });
-    onCommand("HPSeriesCombo", [this] { HPSeriesCombo_Click(); });
+    onClick("HPManufacturerCombo", [this] { HPManufacturerCombo_Click(); });
+    onClick("HPSeriesCombo", [this] { HPSeriesCombo_Click(); });
 }
 
 void ZoneWindow::SetPumpValues(const pump& model, std::int16_t units, std::size_t zoneIndex) {
@@ -194,10 +194,6 @@ void ZoneWindow::restoreActiveSeries(SeriesSlot slot) {
 
 void ZoneWindow::tellSeriesMissing(const Zone& zone) {
     show(MessageIcon::exclamation, text(2815) + " " + numberOfZone(zone) + " " + text(2875));
-}
-
-void ZoneWindow::LOUpdatePumpsCommand_Click() {
-    attempt([this] { updatePumps(); });
 }
 
 }  // namespace varnholt

@@ -23,12 +23,12 @@ constexpr const char* suspendedCommands[] = {"LONewCommand", "LOCopyCommand", "L
 }  // namespace
 
 void ZoneWindow::hookCommands() {
-    onCommand("LONewCommand", [this] { LONewCommand_Click(); });
-    onCommand("LOClearCommand", [this] { LOClearCommand_Click(); });
-    onCommand("LOOpenCommand", [this] { LOOpenCommand_Click(); });
-    onCommand("LOSaveCommand", [this] { LOSaveCommand_Click(); });
-    onCommand("LOPrintCommand", [this] { LOPrintCommand_Click(); });
-    onCommand("LOEqvHoursCommand", [this] { LOEqvHoursCommand_Click(); });
+    onClick("LONewCommand", [this] { LONewCommand_Click(); });
+    onClick("LOClearCommand", [this] { LOClearCommand_Click(); });
+    onClick("LOOpenCommand", [this] { LOOpenCommand_Click(); });
+    onClick("LOSaveCommand", [this] { LOSaveCommand_Click(); });
+    onClick("LOPrintCommand", [this] { LOPrintCommand_Click(); });
+    onClick("LOEqvHoursCommand", [this] { LOEqvHoursCommand_Click(); });
     onClick("LOZoneList", [this] { displayZone(); });
     onClick("MetricCheck", [this] { MetricCheck_Click(); });
 }
@@ -75,8 +75,8 @@ void ZoneWindow::addZone(Zone zone) {
     if (ZoneList.size() >= mostZones || static_cast<std::size_t>(zoneCount) >= mostZones)
         throw RunTimeError(6);
     if (ZoneList.empty() && !workingFileCheck) {
-        workingZoneFile = text(1204) + ".zon";
-        control("LOWorkingZoneLabel").setCaption(workingZoneFile);
+        workingZoneFile = newFile();
+        showFile();
     }
     ZoneList.push_back(std::move(zone));
     ++zoneCount;
@@ -103,8 +103,7 @@ void ZoneWindow::replaceLoads(const std::vector<Zone>& zones) {
     SetFluidsTabbedPaneSwitchVariables();
     showZones(0);
     control("LOSaveCommand").setEnabled(unsaved);
-    control("LOWorkingZoneLabel")
-        .setCaption(workingZoneFile.empty() ? text(1204) + ".zon" : workingZoneFile);
+    showFile();
     rebuildSummary();
 }
 

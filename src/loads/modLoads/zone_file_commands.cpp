@@ -24,8 +24,16 @@ std::string ZoneWindow::proposedFile() const {
     for (const LinkedDesign* design : linkableDesigns(main()))
         if (design->myID == designLinkID && !design->FileName.empty())
             return baseNameOf(design->FileName) + ".zon";
-    return text(1204) + ".zon";
+    return newFile();
 }
+
+std::string ZoneWindow::newFile() const { return text(1204) + ".zon"; }
+
+std::string ZoneWindow::fileOnShow() const {
+    return workingZoneFile.empty() ? newFile() : workingZoneFile;
+}
+
+void ZoneWindow::showFile() { control("LOWorkingZoneLabel").setCaption(fileOnShow()); }
 
 FileDialog ZoneWindow::zoneDialog(bool saving) const {
     return {
@@ -87,13 +95,13 @@ void ZoneWindow::takeFile(const std::string& path) {
     workingZoneFile = fileNameOf(path);
     workingZoneDirectory = folderOf(path);
     workingFileCheck = true;
-    control("LOWorkingZoneLabel").setCaption(workingZoneFile);
+    showFile();
 }
 
 void ZoneWindow::forgetZoneFile() {
     workingFileCheck = false;
     workingZoneFile.clear();
-    control("LOWorkingZoneLabel").setCaption(text(1204) + ".zon");
+    showFile();
 }
 
 void ZoneWindow::LOSaveCommand_Click() {
@@ -118,10 +126,9 @@ bool ZoneWindow::saveZonesTo(const std::string& path) {
 
 /// The frame asks more briefly when it closes all of its windows.
 Answer ZoneWindow::askForSave() {
-    const std::string name = workingZoneFile.empty() ? text(1204) + ".zon" : workingZoneFile;
     return platform().question(
         Buttons::yesNoCancel, text(1205),
-        main().closing ? text(1206) : text(1204) + "\n\n" + name + "\n\n" + text(1203));
+        main().closing ? text(1206) : text(1204) + "\n\n" + fileOnShow() + "\n\n" + text(1203));
 }
 
 bool ZoneWindow::CheckForSave() {

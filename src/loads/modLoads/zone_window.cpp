@@ -14,6 +14,7 @@ namespace varnholt {
 
 ZoneWindow::ZoneWindow(const ZoneWindowKind& kind, Varnmain& main)
     : LoadsWindow(kind.formName, main), kind_(kind) {
+    main.*kind.windowExists = true;
     setCaption(text(kind_.titleText));
     InitializeVariables();
     registerValues();
@@ -117,6 +118,7 @@ bool ZoneWindow::queryClose() { return CheckForSave(); }
 
 void ZoneWindow::unloaded() {
     if (onClosed) onClosed();
+    main().*kind_.windowExists = false;
 }
 
 bool ZoneWindow::hasUnsavedChanges() const { return control("LOSaveCommand").enabled(); }
@@ -136,15 +138,9 @@ void ZoneWindow::showHoursAndDays(bool shown) {
         control(name).setVisible(shown);
 }
 
-void ZoneWindow::TransferCall() { varnholt::TransferCall(main(), designLinkID); }
-
 EvaluationConditions ZoneWindow::conditions() const {
     return {designConditions(), temporaryInletTemp,   temporaryInletFlow, updating,
             selectingPump,      returningFromDetails, samePumpUpdated};
-}
-
-void ZoneWindow::onCommand(const std::string& control, std::function<void()> command) {
-    onClick(control, [this, run = std::move(command)] { attempt(run); });
 }
 
 void ZoneWindow::attempt(const std::function<void()>& command) {

@@ -20,6 +20,7 @@ constexpr std::size_t mostZones = std::numeric_limits<std::int16_t>::max();
 /// In what the two loads windows differ before any of their commands runs.
 struct ZoneWindowKind {
     const char* formName;
+    bool Varnmain::*windowExists;  ///< the frame's account of the window
     int titleText;
     int pumpNameText;        ///< caption of the pump's name
     int hoursText;           ///< caption of the equivalent full-load hours
@@ -55,7 +56,6 @@ class ZoneWindow : public LoadsWindow {
 
     void InitializeHeatPumpLists() override;
     void SetFluidsTabbedPaneSwitchVariables() override;
-    void LOUpdatePumpsCommand_Click() override;
     bool pumpsAreBeingSelected() const override;
     /// Puts the catalogue model into the zone, evaluated for it. Throws a RunTimeError, and the
     /// zone is then as it was.
@@ -64,8 +64,6 @@ class ZoneWindow : public LoadsWindow {
     std::string plainTitle() const override;
     void setLight(bool on) override;
     void showHoursAndDays(bool shown) override;
-    /// Hands the loads to the design that read from the window last.
-    void TransferCall();
 
     LoadsChart loadsChart() const;
     PumpChart pumpChart() const;
@@ -94,14 +92,12 @@ class ZoneWindow : public LoadsWindow {
 
     /// Evaluates a model for a zone by the window's own rule; throws a RunTimeError.
     virtual MiniPump evaluated(const pump& model, std::int16_t units, const Zone& zone) const = 0;
-    virtual void updatePumps() = 0;
     virtual std::string zoneFrameCaption(const Zone& zone) const = 0;
     /// The totals are on show and may have changed.
     virtual void rebuildSummary() {}
 
     EvaluationConditions conditions() const;
-    /// Makes a button run a command, whose run-time error ends in a message.
-    void onCommand(const std::string& control, std::function<void()> command);
+    /// Runs a part of a command, whose run-time error ends in a message and not the command.
     void attempt(const std::function<void()>& command);
     void markChanged();
 
@@ -116,6 +112,9 @@ class ZoneWindow : public LoadsWindow {
     void showZones(int selected);
     void enableZoneCommands();
     void forgetZoneFile();
+    /// The zones' file as the window names it, one that is not saved yet included.
+    std::string fileOnShow() const;
+    void showFile();
     std::string nameOfZone(std::size_t number) const;
     /// What stands for the zone in messages and lists: its name without the word before it.
     std::string numberOfZone(const Zone& zone) const;
@@ -172,6 +171,7 @@ class ZoneWindow : public LoadsWindow {
     bool saveZonesTo(const std::string& path);
     void takeFile(const std::string& path);
     std::string proposedFile() const;
+    std::string newFile() const;
     FileDialog zoneDialog(bool saving) const;
     LoadsData loadsData() const;
     void takeLoads(LoadsData data);
