@@ -46,6 +46,12 @@ bool hasOwnWidth(const QWidget* widget) {
     return widget->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
 }
 
+bool holdsFields(const std::vector<FieldRow>& rows) {
+    for (const FieldRow& row : rows)
+        if (std::any_of(row.fields.begin(), row.fields.end(), hasOwnWidth)) return true;
+    return false;
+}
+
 /// Buttons and check boxes are as wide as their captions, at the left.
 Qt::Alignment ownWidth(QWidget* widget) {
     const bool isButton = qobject_cast<QAbstractButton*>(widget) != nullptr;
@@ -66,8 +72,8 @@ FieldGrid::FieldGrid(const std::vector<FieldRow>& rows) : layout_(new QGridLayou
     int line = 0;
     for (const FieldRow& row : rows) addRow(line++, row, fieldColumns);
     layout_->setColumnStretch(fieldColumns + 3, 1);
-    // Columns of figures stand apart whatever their figures are.
-    if (fieldColumns > 1)
+    // Columns of figures stand apart whatever their figures are; fields have widths of their own.
+    if (fieldColumns > 1 && !holdsFields(rows))
         for (int column = 1; column <= fieldColumns; ++column)
             layout_->setColumnMinimumWidth(column, figureColumn);
 }
@@ -96,8 +102,9 @@ void FieldGrid::addRow(int line, const FieldRow& row, int fieldColumns) {
             layout_->addWidget(field, line, column, 1, fieldColumns + 1);
         else
             // Below the heads of their columns, which stand at the right.
-            layout_->addWidget(field, line, column,
-                               hasOwnWidth(field) ? Qt::AlignRight : Qt::Alignment());
+            layout_->addWidget(
+                field, line, column,
+                fieldColumns > 1 && hasOwnWidth(field) ? Qt::AlignRight : Qt::Alignment());
         ++column;
     }
     if (row.unit != nullptr) {
@@ -126,8 +133,9 @@ class CaptionAligner : public QObject {
  public:
     CaptionAligner(QObject* parent, std::vector<FieldGrid*> grids)
         : QObject(parent), grids_(std::move(grids)) {
+        // Not at once: a widget that is asked for its size is dressed for it, and dressed again with
+        // every piece of the window that it is built into.
         for (FieldGrid* grid : grids_) grid->installEventFilter(this);
-        align();
     }
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Polish) align();

@@ -114,9 +114,21 @@ void PumpCurves::dress(const Look& look) {
 }
 
 void PumpCurves::take() {
-    PumpPicture picture = source_();
-    if (picture == picture_) return;
-    picture_ = std::move(picture);
+    const PumpPicture before = std::exchange(picture_, source_());
+    if (picture_ == before) return;
+    // A design temperature that is being typed moves its points alone.
+    PumpPicture moved = before;
+    moved.designWater = picture_.designWater;
+    if (picture_ != moved) {
+        showCaptions();
+        showCurves(capacity_, picture_.pump.capacity);
+        showCurves(power_, picture_.pump.power);
+    }
+    showDesign(capacity_, picture_.pump.capacity);
+    showDesign(power_, picture_.pump.power);
+}
+
+void PumpCurves::showCaptions() {
     const auto title = [](const std::string& name, const std::string& unit) {
         return qt(name) + (unit.empty() ? QString() : QStringLiteral(" (%1)").arg(qt(unit)));
     };
@@ -124,23 +136,26 @@ void PumpCurves::take() {
     power_.value->setTitleText(title(texts_.text(2994), picture_.powerUnit));
     for (const Plot* plot : {&capacity_, &power_})
         plot->water->setTitleText(title(texts_.text(2995), picture_.temperatureUnit));
-    showPlot(capacity_, picture_.pump.capacity);
-    showPlot(power_, picture_.pump.power);
 }
 
-void PumpCurves::showPlot(Plot& plot, const ByMode<PumpCurve>& curves) {
+void PumpCurves::showCurves(Plot& plot, const ByMode<PumpCurve>& curves) {
     Extent extent;
     for (const Mode mode : modes) {
         extent.take(curves[mode].curve);
         extent.take(curves[mode].points);
         plot.curves[mode]->replace(pointsOf(curves[mode].curve));
         plot.points[mode]->replace(pointsOf(curves[mode].points));
+    }
+    fitAround(*plot.water, extent.coldest, extent.warmest);
+    fitFromZero(*plot.value, extent.highest);
+}
+
+void PumpCurves::showDesign(Plot& plot, const ByMode<PumpCurve>& curves) {
+    for (const Mode mode : modes) {
         const auto value = valueAt(curves[mode], picture_.designWater[mode]);
         plot.design[mode]->replace(value ? QList<QPointF>{{picture_.designWater[mode], *value}}
                                          : QList<QPointF>());
     }
-    fitAround(*plot.water, extent.coldest, extent.warmest);
-    fitFromZero(*plot.value, extent.highest);
 }
 
 QString PumpCurves::emptyHint() const {

@@ -53,7 +53,9 @@ class PumpCurves : public ChartDrawing {
     };
 
     void createPlot(Plot& plot);
-    void showPlot(Plot& plot, const ByMode<PumpCurve>& curves);
+    void showCaptions();
+    static void showCurves(Plot& plot, const ByMode<PumpCurve>& curves);
+    void showDesign(Plot& plot, const ByMode<PumpCurve>& curves);
 
     Source source_;
     const Texts& texts_;
