@@ -39,6 +39,7 @@ TEST_P(RandomSessionsInWindows, GiveTheTranscriptThatTheFormsGive) {
     const ScriptOutcome windows =
         session.run("env QT_QPA_PLATFORM=offscreen " VARNHOLT_BIN_DIR "/varnholt --script");
     EXPECT_EQ(windows.status, forms.status) << windows.faults;
+    EXPECT_EQ(windows.faults, forms.faults);
     EXPECT_EQ(firstDifference(windows.transcript, forms.transcript), "");
 }
 
