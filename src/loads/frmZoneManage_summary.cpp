@@ -78,7 +78,10 @@ void frmZoneManage::LOReturnFromSummaryCommand_Click() {
 void frmZoneManage::rebuildSummary() {
     if (!control("LOSummaryPicture").visible()) return;
     const RaisedFlag rebuilding(settingUnits);
+    // A selection for all zones rests until the summary is left.
+    const bool selectable = control("LOAutoSelectAllCommand").enabled();
     LOSummaryCommand_Click();
+    control("LOAutoSelectAllCommand").setEnabled(selectable);
 }
 
 LoadsChart frmZoneManage::buildingDayChart() const {

@@ -159,6 +159,9 @@ TEST_F(SummaryTest, IsRebuiltByASelectionForAllZonesWhichThenRests) {
     EXPECT_TRUE(window.control("LOSummaryPicture").visible());
     EXPECT_EQ(shown(window, "LOTotalCapacityLabel(0)"), "80.0");
     EXPECT_FALSE(enabled(window, "LOAutoSelectAllCommand"));
+    window.click("MetricCheck");
+    window.click("LOUpdatePumpsCommand");
+    EXPECT_FALSE(enabled(window, "LOAutoSelectAllCommand"));
     window.click("LOReturnFromSummaryCommand");
     EXPECT_TRUE(enabled(window, "LOAutoSelectAllCommand"));
 }
