@@ -190,6 +190,23 @@ TEST_F(PumpByHandTest, DetailsKeepTheUnitsThatAutoSelectFound) {
     EXPECT_EQ(pumpOf(0).capacity[cooling], 120);
 }
 
+TEST_F(PumpByHandTest, AReturnFromTheDetailsOfAModelThatTheCatalogueLostChangesNothing) {
+    addZone(window, 15, 10);
+    window.click("LOAutoSelectCommand");
+    for (std::string MiniPump::*lost : {&MiniPump::name, &MiniPump::seriesName}) {
+        window.ZoneList[0].pump.*lost = "Gone";
+        window.choose("LOZoneList", 0);
+        setSaved(window, "a.zon");
+        window.click("LODetailsCommand");
+        const Zone before = window.ZoneList[0];
+        window.click("LOReturnCommand");
+        EXPECT_EQ(window.ZoneList[0], before);
+        EXPECT_FALSE(window.hasUnsavedChanges());
+    }
+    EXPECT_TRUE(platform.messages.empty());
+    EXPECT_EQ(window.catalogue.PumpList(browsedSlot, 0).name, "Air-10");
+}
+
 TEST_F(PumpByHandTest, TheLoadSideOfACustomPumpCannotBeTyped) {
     addZone(window, 15, 10);
     window.click("LOCustomPumpCheck");

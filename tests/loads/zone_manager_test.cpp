@@ -168,6 +168,17 @@ TEST_F(ZoneManagerTest, AZoneAddedAfterARemovalDoesNotTakeAUsedName) {
     EXPECT_EQ(window.control("LOZoneList").items(), (Strings{"Zone 2", "Zone 3", "Zone 4"}));
 }
 
+TEST_F(ZoneManagerTest, ACopyIsNamedByItsPositionEvenWhereThatNameIsUsed) {
+    frmZoneManage& window = manager();
+    for (int i = 0; i < 3; ++i) window.click("LONewCommand");
+    window.choose("LOZoneList", 1);
+    window.click("LORemoveCommand");
+    window.click("LOCopyCommand");
+    EXPECT_EQ(window.control("LOZoneList").items(), (Strings{"Zone 1", "Zone 3", "Zone 3"}));
+    EXPECT_EQ(window.zoneCount, 4);  // loaded or added so far
+    EXPECT_EQ(window.zoneNumber, 3);
+}
+
 TEST_F(ZoneManagerTest, RemovingTheLastInTheListSelectsTheOneBeforeIt) {
     frmZoneManage& window = manager();
     for (const double load : {1.0, 2.0}) addZone(window, load, 0);
