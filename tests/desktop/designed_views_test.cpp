@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The views of the designs and the loads windows: in the order of their forms, with pictures that
+// follow.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "desk.h"
+#include "desktop/form_window.h"
+#include "desktop/house_widgets.h"
+
+namespace varnholt {
+namespace {
+
+/// Names of the form's controls in the order in which Tab visits them.
+std::vector<std::string> walkedByTab(const Form& form, FormWindow& window) {
+    std::vector<std::string> walked;
+    for (QWidget* at = window.nextInFocusChain(); at != &window; at = at->nextInFocusChain()) {
+        const std::string name = at->objectName().toStdString();
+        if ((at->focusPolicy() & Qt::TabFocus) == 0 || !form.has(name)) continue;
+        // The pane hands the focus on to its bar of tabs.
+        if (form.control(name).kind() != ControlKind::tabs) walked.push_back(name);
+    }
+    return walked;
+}
+
+class DesignedViews : public testing::Test {
+ protected:
+    /// The form of the window that a menu entry opens.
+    ChildWindow& opened(const char* command) {
+        desk.main().click(command);
+        return *desk.main().windows().back();
+    }
+
+    void expectReadingOrder(const char* command) {
+        ChildWindow& form = opened(command);
+        FormWindow window(form, views, {});
+        std::vector<std::string> walked = walkedByTab(form, window);
+        // The summary stands above the zone, where it is seen as soon as it opens.
+        std::erase_if(walked, [&](const std::string& name) {
+            return form.control(name).container() == "LOSummaryPicture";
+        });
+        std::vector<std::string> added;
+        for (const auto& control : form.controls())
+            if (std::find(walked.begin(), walked.end(), control->name()) != walked.end())
+                added.push_back(control->name());
+        EXPECT_EQ(walked, added);
+        EXPECT_GT(walked.size(), 20U);
+    }
+
+    Desk desk;
+    ViewRegistry views;
+};
+
+TEST_F(DesignedViews, OfABoreholeDesignIsWalkedInTheOrderOfItsForm) {
+    expectReadingOrder("NewBorehole");
+}
+
+TEST_F(DesignedViews, OfTheZoneManagerIsWalkedInTheOrderOfItsForm) {
+    expectReadingOrder("mnuZoneManage");
+}
+
+TEST_F(DesignedViews, OfTheAverageBlockIsWalkedInTheOrderOfItsForm) {
+    expectReadingOrder("mnuAvgBlock");
+}
+
+TEST_F(DesignedViews, LeaveNoControlOut) {
+    for (const char* command : {"NewBorehole", "mnuZoneManage", "mnuAvgBlock"}) {
+        ChildWindow& form = opened(command);
+        FormWindow window(form, views, {});
+        EXPECT_EQ(window.binder().unshown(), std::vector<std::string>{}) << form.formName();
+    }
+}
+
+TEST_F(DesignedViews, DrawTheBoreAsItIsTyped) {
+    ChildWindow& form = opened("NewBorehole");
+    form.choose("BHTabs", 3);
+    FormWindow window(form, views, {});
+    window.show();
+    form.type("PIBoreholeDiameterText", "6.5");
+    const auto* bore = static_cast<Drawing*>(window.binder().widget("imgBore"));
+    EXPECT_TRUE(bore->description().contains(QStringLiteral("6.50 in")));
+}
+
+TEST_F(DesignedViews, DrawAnewWhatAnotherWindowsActionHasChanged) {
+    ChildWindow& form = opened("NewBorehole");
+    form.choose("BHTabs", 3);
+    FormWindow window(form, views, {});
+    window.show();
+    Desk::settle();
+    desk.main().click("Metric");
+    Desk::settle();
+    const auto* bore = static_cast<Drawing*>(window.binder().widget("imgBore"));
+    // 5 in are 127 mm.
+    EXPECT_TRUE(bore->description().contains(QStringLiteral("127.00 mm")));
+}
+
+TEST_F(DesignedViews, LightTheLampOfTheLinkedWindow) {
+    ChildWindow& form = opened("NewBorehole");
+    opened("mnuAvgBlock");
+    desk.main().activate(form);
+    desk.main().click("mnuLink");
+    FormWindow window(form, views, {});
+    window.show();
+    EXPECT_TRUE(window.binder().widget("imgLinkLight(8)")->isEnabled());
+    EXPECT_FALSE(window.binder().widget("imgLinkLight(0)")->isEnabled());
+    EXPECT_FALSE(window.binder().widget("imgLinkLight(6)")->isVisible());
+}
+
+}  // namespace
+}  // namespace varnholt
