@@ -242,6 +242,7 @@ void Varnmain::releaseSlot(DesignKind kind, std::int16_t slot) {
     DesignSlots& places = slots(kind);
     at(places.exists, slot) = false;
     at(places.files, slot).clear();
+    places.marker = slot;
 }
 
 std::string& Varnmain::openWindowFiles(DesignKind kind, std::int16_t slot) {
@@ -275,11 +276,17 @@ void Varnmain::runModal(Form& form) {
     modal_.pop_back();
 }
 
+/// Newest first, as the windows lie on one another; but the designs before all others, so that a
+/// project that is saved on the way out still has its link to the loads.
+ChildWindow& Varnmain::nextToClose() const {
+    const std::vector<DesignDocument*> open = designs();
+    return open.empty() ? *windows_.back() : *open.back();
+}
+
 bool Varnmain::queryClose() {
     saveCancelled = false;
     closing = true;
-    // Newest first, as the windows lie on one another.
-    while (!windows_.empty() && close(*windows_.back())) continue;
+    while (!windows_.empty() && close(nextToClose())) continue;
     closing = false;
     return windows_.empty();
 }

@@ -124,6 +124,7 @@ class Varnmain : public Form {
     void compact(DesignKind kind);
     void reassignSlot(DesignKind kind, std::size_t from, std::size_t to);
     void setActive(ChildWindow* window);
+    ChildWindow& nextToClose() const;
 
     std::map<std::string, Command> commands_;
     std::vector<std::unique_ptr<ChildWindow>> windows_;

@@ -6,6 +6,15 @@ namespace {
 
 using Closing = ProjectTest;
 
+TEST_F(Closing, LeavesTheMarkerAtTheSlotOfTheClosedWindow) {
+    frmBHDesign& first = newDesign();
+    newDesign();
+    ASSERT_EQ(main.slots(DesignKind::borehole).marker, 2);
+    answer(Answer::no);
+    main.close(first);
+    EXPECT_EQ(main.slots(DesignKind::borehole).marker, 1);
+}
+
 TEST_F(Closing, AsksWithTheFilesNameOrTheCaption) {
     frmBHDesign& d = newDesign();
     answer(Answer::cancel);
