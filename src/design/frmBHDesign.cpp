@@ -2,6 +2,7 @@
 #include "design/frmBHDesign.h"
 
 #include "basis/number_text.h"
+#include "basis/run_time_error.h"
 #include "design/arrangement_tab.h"
 #include "design/bore_tab.h"
 #include "design/extra_power_tab.h"
@@ -163,7 +164,12 @@ void frmBHDesign::rollUpLoads() {
 }
 
 void frmBHDesign::loadsChanged() {
-    rollUpLoads();
+    try {
+        rollUpLoads();
+    } catch (const RunTimeError&) {
+        // A file may hold a fluid with which no loads add up. They are taken over all the same;
+        // the next run says what is wrong.
+    }
     fields().showAll("FL");
 }
 
