@@ -142,10 +142,12 @@ void unlinkDesign(LinkedDesign& design) {
         loads->designLinkID = 0;
         loads->setCaption(loads->plainTitle());
         loads->setLight(false);
+        loads->showHoursAndDays(true);
     } else if (named) {
         // It goes on serving the others: one of them gives it its name now.
         loads->designLinkID = others.back()->myID;
         loads->setCaption(linkedCaption(*loads, *others.back()));
+        loads->showHoursAndDays(others.back()->usesHoursAndDays());
     }
 }
 

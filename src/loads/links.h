@@ -27,7 +27,8 @@ void mnuUnlink_Click(Varnmain& main);
 /// its copy of the zones.
 void cleanupLinks(ChildWindow& closing);
 
-/// Makes the design take its loads from the window: type, captions, lights, units. No transfer.
+/// Makes the design take its loads from the window: type, number, the window's title, and that the
+/// window's later unit switches and its end reach the design. No lights, no transfer.
 void joinLoads(LinkedDesign& design, LoadsWindow& loads);
 
 /// Ends one design's link; the same for every kind of design (BHUnlink, HZUnlink, SWUnlink). The

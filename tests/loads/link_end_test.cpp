@@ -32,6 +32,23 @@ TEST_F(LinkEnd, FromTheDesign) {
     EXPECT_EQ(design.zoneCount(), 1);
 }
 
+TEST_F(LinkEnd, BringsBackWhatTheDesignsMethodHadNoUseFor) {
+    PlainLoads& loads = newLoads();
+    PlainDesign& first = newDesign();
+    link(first);
+    PlainDesign& second = newDesign();
+    second.usesHours = false;
+    link(second);
+    ASSERT_FALSE(loads.hoursShown);
+    main.click("mnuUnlink");  // the first is still linked, and uses them
+    EXPECT_TRUE(loads.hoursShown);
+    link(second);
+    unlinkDesign(first);
+    EXPECT_FALSE(loads.hoursShown);
+    unlinkDesign(second);
+    EXPECT_TRUE(loads.hoursShown);
+}
+
 TEST_F(LinkEnd, FromTheLoadsWindowForAllItsDesigns) {
     PlainLoads& loads = newLoads();
     PlainDesign& first = newDesign();
