@@ -21,6 +21,8 @@ class LinkedDesign : public DesignDocument {
 
     /// "frmZoneManage", "frmAvgBlock", or empty without a link.
     std::string linkType;
+    /// Whether the project's file can tell of a link at all; projects of old versions cannot.
+    bool linkIsStored = true;
     /// The linked loads window; null without a link, and from the moment that it closes.
     LoadsWindow* LoadsHome = nullptr;
 

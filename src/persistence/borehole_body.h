@@ -87,13 +87,14 @@ void describeTower(File& file, frmBHDesign& design) {
 /// The body of a project file, behind the head.
 template <class File>
 void describeBoreholeProject(File& file, frmBHDesign& design) {
+    design.linkIsStored = file.since(2.0);
     describeConditions(file, design);
     modCalculations::ExtraPower& extraPower = design.extraPower.extraPower;
     items(file, extraPower[0], extraPower[1], extraPower[2]);
     describeSite(file, design);
     items(file, design.workingZoneFile, design.workingZoneDirectory, design.zoneNumber);
     describeResults(file, design);
-    if (file.since(2.0))
+    if (design.linkIsStored)
         file.text(design.linkType);
     else
         design.linkType.clear();

@@ -13,21 +13,12 @@
 #include "loads/links.h"
 #include "loads/loads_window.h"
 #include "persistence/design_files.h"
+#include "persistence/dialogs.h"
 #include "persistence/saving.h"
 #include "persistence/zone_link.h"
 
 namespace varnholt {
 namespace {
-
-constexpr int projectsInFilter = 3;
-
-void warn(const Varnmain& main, const std::string& message) {
-    main.platform().message(MessageIcon::exclamation, main.text(1001), message);
-}
-
-void warnOfReading(const Varnmain& main, const RunTimeError& error) {
-    warn(main, main.text(1001) + " - " + error.description());
-}
 
 /// Whether some open design has the file; says so.
 bool isOpenAlready(Varnmain& main, const std::string& path) {
@@ -84,11 +75,7 @@ const DesignFileKind* kindOfFile(Varnmain& main, const std::string& path) {
 }
 
 FileDialog openDialog(const Varnmain& main) {
-    FileDialog dialog;
-    dialog.title = main.text(1018);
-    dialog.folder = joinPath(main.MainDirectory, "work files");
-    dialog.filter = main.text(1220);
-    dialog.filterIndex = projectsInFilter;
+    FileDialog dialog = projectDialog(main, 1018);
     if (const auto* design = dynamic_cast<DesignDocument*>(main.activeWindow())) {
         if (!design->directoryName.empty()) dialog.folder = design->directoryName;
         dialog.proposedName = design->FileName;

@@ -9,16 +9,11 @@
 #include "frame/varnmain.h"
 #include "loads/links.h"
 #include "persistence/design_files.h"
+#include "persistence/dialogs.h"
 #include "persistence/zone_link.h"
 
 namespace varnholt {
 namespace {
-
-constexpr int projectsInFilter = 3;
-
-void warn(const Varnmain& main, const std::string& message) {
-    main.platform().message(MessageIcon::exclamation, main.text(1001), message);
-}
 
 /// Whether the loads have been seen to and the save may go on.
 bool zonesAreSettled(GroundDesign& design) {
@@ -58,15 +53,11 @@ std::string captionLessPrefix(const GroundDesign& design) {
 
 FileDialog saveDialog(const GroundDesign& design) {
     const Varnmain& main = design.main();
-    FileDialog dialog;
+    FileDialog dialog = projectDialog(main, 1021);
     dialog.saving = true;
     dialog.overwritePrompt = true;
-    dialog.title = main.text(1021);
-    dialog.folder =
-        design.currentFileCheck ? design.directoryName : joinPath(main.MainDirectory, "work files");
+    if (design.currentFileCheck) dialog.folder = design.directoryName;
     dialog.proposedName = design.FileName.empty() ? captionLessPrefix(design) : design.FileName;
-    dialog.filter = main.text(1220);
-    dialog.filterIndex = projectsInFilter;
     return dialog;
 }
 

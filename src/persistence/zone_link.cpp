@@ -8,13 +8,10 @@
 #include "loads/linked_design.h"
 #include "loads/links.h"
 #include "loads/loads_window.h"
+#include "persistence/dialogs.h"
 
 namespace varnholt {
 namespace {
-
-void warn(const LinkedDesign& design, const std::string& message) {
-    design.platform().message(MessageIcon::exclamation, design.text(1001), message);
-}
 
 void forgetZoneFile(LinkedDesign& design) {
     design.workingZoneFile.clear();
@@ -59,26 +56,33 @@ LoadsWindow* loadsWindowFor(LinkedDesign& design, const std::string& path) {
 /// What the project stored of its own.
 struct DesignConditionsOfProject {
     explicit DesignConditionsOfProject(const LinkedDesign& design)
-        : inletTemp(design.inletTemp), flowRate(design.flowRate) {}
+        : inletTemp(design.inletTemp),
+          flowRate(design.flowRate),
+          activeSeries(design.activeSeries) {}
     bool areIn(const LoadsWindow& loads) const {
         return loads.inletTemp == inletTemp && loads.flowRate == flowRate;
     }
 
     ByMode<double> inletTemp;
     double flowRate;
+    std::string activeSeries;
 };
 
 /// The zones come from the file; temperatures, flow and series are the project's, with which its
 /// results were computed.
 void takeZones(LinkedDesign& design, LoadsWindow& loads) {
     const DesignConditionsOfProject stored(design);
-    if (!design.activeSeries.empty()) loads.activeSeries = design.activeSeries;
+    // The design is about to be shown in the main window's units.
+    loads.switchUnits(design.main().units());
+    if (!stored.activeSeries.empty()) loads.activeSeries = stored.activeSeries;
     joinLoads(design, loads);
     loads.InitializeHeatPumpLists();
     design.TransferLoadsVariablesIn();
     if (design.LoadsHome == nullptr) return;
     design.showLinkLight();
     loads.setLight(true);
+    // Also a series that the catalogue at hand does not have.
+    if (!stored.activeSeries.empty()) design.activeSeries = stored.activeSeries;
     if (stored.areIn(loads)) return;
     design.inletTemp = stored.inletTemp;
     design.flowRate = stored.flowRate;
@@ -90,17 +94,17 @@ Answer askAboutZones(LinkedDesign& design) {
     const Answer answer =
         main.platform().question(Buttons::yesNoCancel, main.text(1205), main.text(1206));
     if (answer == Answer::cancel) {
-        warn(design, main.text(1207));
+        warn(main, main.text(1207));
         main.saveCancelled = true;
     }
     return answer;
 }
 
 void saveZones(LinkedDesign& design, LoadsWindow& loads) {
-    loads.zoneSaveCancelled = false;
+    loads.zoneSaveCancelled = design.zoneSaveCancelled = false;
     loads.LOSaveCommand_Click();
     if (!loads.hasUnsavedChanges()) return;
-    warn(design, design.text(1207));
+    warn(design.main(), design.text(1207));
     loads.zoneSaveCancelled = design.zoneSaveCancelled = true;
     design.main().saveCancelled = true;
 }
@@ -114,21 +118,22 @@ void takeZoneFile(LinkedDesign& design, const LoadsWindow& loads) {
 }  // namespace
 
 void resolveZoneLink(LinkedDesign& design) {
-    // Without a kind of loads window there is no link, and without a file none either.
+    // The zone file makes the link. A project that was saved when its loads window had been closed
+    // names a file and no window: it would be without loads if it were not linked again.
     if (design.workingZoneFile.empty()) design.linkType.clear();
     design.showLinkLight();
-    if (design.linkType.empty()) return;
+    if (design.workingZoneFile.empty() || !design.linkIsStored) return;
     const std::string path = findZoneFile(design);
     if (path.empty()) {
-        warn(design, design.text(8540) + "\n\n" + design.workingZoneFile);
+        warn(design.main(), design.text(8540) + "\n\n" + design.workingZoneFile);
         forgetZoneFile(design);
         return;
     }
     LoadsWindow* loads = loadsWindowFor(design, path);
     if (loads == nullptr)
-        warn(design, design.text(8539));
+        warn(design.main(), design.text(8539));
     else if (!holdsFile(*loads, path) && !loads->LOOpenZoneFile(path))
-        warn(design, design.text(8543) + "\n\n" + path);
+        warn(design.main(), design.text(8543) + "\n\n" + path);
     else
         return takeZones(design, *loads);
     forgetZoneFile(design);

@@ -183,6 +183,14 @@ TEST_F(ZoneQuestion, YesWithAZoneSaveThatIsCancelledLeavesTheProjectUnsaved) {
     EXPECT_TRUE(design().zoneSaveCancelled);
     EXPECT_TRUE(loads().zoneSaveCancelled);
     EXPECT_FALSE(projectSaved());
+    // The next save that succeeds leaves nothing of it.
+    loads().refuseSave = false;
+    answer(Answer::yes);
+    main.click("mnuFileSave");
+    EXPECT_FALSE(main.saveCancelled);
+    EXPECT_FALSE(design().zoneSaveCancelled);
+    EXPECT_FALSE(loads().zoneSaveCancelled);
+    EXPECT_TRUE(projectSaved());
 }
 
 TEST_F(ZoneQuestion, StandsBeforeTheDialogOfSaveAs) {

@@ -49,7 +49,7 @@ TEST_F(WholeRoad, SavedAndOpenedAgainIsByteForByteTheSameProject) {
     EXPECT_FALSE(zones().hasUnsavedChanges());
     main.click("mnuFileSave");
     EXPECT_EQ(bytesOf(folder / "work files/school.vht"), saved);
-    EXPECT_TRUE(platform.questions.size() <= 1u);
+    EXPECT_EQ(platform.questions.size(), 1u);  // of closing
 }
 
 TEST_F(WholeRoad, CalculatingAnOpenedProjectGivesItsSavedResults) {
@@ -117,6 +117,52 @@ TEST_F(WholeRoad, ClosingTheFrameAsksLoadsAndDesignEachForItself) {
     main.click("mnuFileExit");
     EXPECT_EQ(platform.quitResult, true);
     EXPECT_EQ(platform.questions.size(), 2u);
+}
+
+TEST_F(WholeRoad, AProjectSavedWhenTheFrameClosesStillHasItsLink) {
+    makeLinkedProject();
+    saveBoth();
+    closeAll();
+    // Opening a project opens its loads after it: they are the newest window.
+    open("work files/school.vht");
+    design().type("INCityText", "Stillwater");
+    answer(Answer::yes);
+    main.click("mnuFileExit");
+    EXPECT_TRUE(main.windows().empty());
+    EXPECT_EQ(messages(), 0u);
+    const std::string saved = bytesOf(folder / "work files/school.vht");
+    EXPECT_NE(saved.find("Stillwater"), std::string::npos);
+    EXPECT_NE(saved.find("\r\nfrmZoneManage\r\n"), std::string::npos);
+}
+
+TEST_F(WholeRoad, KeepsASeriesThatTheCatalogueDoesNotHave) {
+    makeLinkedProject();
+    saveBoth();
+    const std::string series = design().activeSeries;
+    closeAll();
+    const std::string path = folder / "work files/school.vht";
+    std::string bytes = bytesOf(path);
+    bytes.replace(bytes.find(series), series.size(), "NobodySeries Z");
+    writeBytes(path, bytes);
+    EXPECT_EQ(open("work files/school.vht").activeSeries, "NobodySeries Z");
+    EXPECT_EQ(zones().activeSeries, series);
+    main.click("mnuFileSave");
+    EXPECT_EQ(bytesOf(path), bytes);
+}
+
+TEST_F(WholeRoad, AnOpenedProjectTakesItsLoadsIntoItsUnits) {
+    makeLinkedProject();
+    saveBoth();
+    answer(Answer::no);
+    main.close(design());
+    main.click("Metric");
+    main.click("NewBorehole");
+    main.click("English");
+    ASSERT_EQ(zones().units(), UnitSystem::metric);
+    const frmBHDesign& d = open("work files/school.vht");
+    EXPECT_EQ(d.LoadsHome, &zones());
+    EXPECT_EQ(d.units(), UnitSystem::english);
+    EXPECT_EQ(zones().units(), UnitSystem::english);
 }
 
 TEST_F(WholeRoad, CancelAtTheLoadsStopsTheClosingOfTheFrame) {

@@ -179,6 +179,32 @@ TEST_F(ZoneLink, StaysAwayWithoutAZoneFileEvenWhenALinkTypeIsStored) {
     EXPECT_EQ(main.find("frmZoneManage"), nullptr);
 }
 
+TEST_F(ZoneLink, IsMadeAgainWhenTheLoadsWereClosedBeforeTheProjectWasSaved) {
+    frmBHDesign& before = reopen();
+    ASSERT_TRUE(main.close(loads()));
+    ASSERT_EQ(before.linkType, "");
+    main.click("mnuFileSave");
+    closeAll();
+    const frmBHDesign& d = reopen();
+    EXPECT_EQ(messages(), 0u);
+    EXPECT_EQ(d.linkType, "frmZoneManage");
+    EXPECT_EQ(d.LoadsHome, &loads());
+    EXPECT_EQ(d.ZoneList.size(), 3u);
+}
+
+TEST_F(ZoneLink, IsMadeWithAFluidWithWhichNoLoadsAddUp) {
+    replaceInProject("\r\n62.4\r\n1\r\n", "\r\n1e-200\r\n1e-200\r\n");
+    frmBHDesign& d = reopen();
+    EXPECT_EQ(messages(), 0u);
+    EXPECT_FALSE(main.openCall);
+    EXPECT_FALSE(d.settingUnits);
+    EXPECT_EQ(d.LoadsHome, &loads());
+    EXPECT_EQ(d.ZoneList.size(), 3u);
+    EXPECT_EQ(main.activeWindow(), &d);
+    d.click("CACalculateCommand");
+    EXPECT_EQ(messages(), 1u);
+}
+
 TEST_F(ZoneLink, OfAProjectBeforeVersionTwoStaysEmpty) {
     replaceInProject("Version 3.0", "Version 1.2");
     const frmBHDesign& d = reopen();
