@@ -41,8 +41,10 @@ BoundControl::BoundControl(Binder& binder, Control& control, QWidget* widget)
 const Look& BoundControl::look() const { return binder_.look(); }
 
 void BoundControl::setStyleProperty(const char* name, const QVariant& value) {
-    if (widget_->property(name) == value) return;
+    const QVariant before = widget_->property(name);
+    if (before == value || (!before.isValid() && value.toString().isEmpty())) return;
     widget_->setProperty(name, value);
+    if (!widget_->testAttribute(Qt::WA_WState_Polished)) return;
     widget_->style()->unpolish(widget_);
     widget_->style()->polish(widget_);
     widget_->update();

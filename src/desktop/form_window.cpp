@@ -49,9 +49,11 @@ FormWindow::~FormWindow() {
     binder_.detach();
 }
 
-ChildFrame::ChildFrame(FormWindow* content) : content_(content) {
+ChildFrame::ChildFrame() { setAttribute(Qt::WA_DeleteOnClose, false); }
+
+void ChildFrame::setContent(FormWindow* content) {
+    content_ = content;
     setWidget(content);
-    setAttribute(Qt::WA_DeleteOnClose, false);
     setWindowIcon(content->windowIcon());
 }
 

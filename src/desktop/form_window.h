@@ -33,8 +33,10 @@ class FormWindow : public QWidget {
 /// The window of a child form inside the main window.
 class ChildFrame : public QMdiSubWindow {
  public:
-    explicit ChildFrame(FormWindow* content);
+    ChildFrame();
 
+    /// Takes what it shows, once it stands in its area: then all of it is dressed at once.
+    void setContent(FormWindow* content);
     FormWindow& content() { return *content_; }
     /// A person presses the close box.
     std::function<void()> onCloseBox;
@@ -43,7 +45,7 @@ class ChildFrame : public QMdiSubWindow {
     void closeEvent(QCloseEvent* event) override;
 
  private:
-    FormWindow* content_;
+    FormWindow* content_ = nullptr;
 };
 
 /// The window of a modal form.

@@ -133,8 +133,8 @@ class CaptionAligner : public QObject {
  public:
     CaptionAligner(QObject* parent, std::vector<FieldGrid*> grids)
         : QObject(parent), grids_(std::move(grids)) {
-        // Not at once: a widget that is asked for its size is dressed for it, and dressed again with
-        // every piece of the window that it is built into.
+        // Not at once: a widget that is asked for its size is dressed for it, and dressed again
+        // with every piece of the window that it is built into.
         for (FieldGrid* grid : grids_) grid->installEventFilter(this);
     }
     bool eventFilter(QObject* watched, QEvent* event) override {

@@ -22,6 +22,7 @@
 #include "desktop/mnemonics.h"
 #include "desktop/qt_text.h"
 #include "desktop/start_page.h"
+#include "desktop/theme.h"
 #include "frame/design_document.h"
 #include "frame/varnmain.h"
 #include "loads/loads_window.h"
@@ -63,7 +64,6 @@ MainWindow::MainWindow(Varnmain& main, FaultTaker faults, const std::string& rec
     area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    area_->setBackground(palette().brush(QPalette::Window));
     start_ =
         new StartPage(main, [this](const std::string& entry) { menu_->action(entry)->trigger(); });
     pages_->addWidget(start_);
@@ -87,6 +87,8 @@ MainWindow::MainWindow(Varnmain& main, FaultTaker faults, const std::string& rec
     const QSize room = screen()->availableSize();
     resize(usualSize().boundedTo(room));
     refresh();
+    area_->setBackground(QApplication::palette().brush(QPalette::Window));
+    dress(*this);
 }
 
 MainWindow::~MainWindow() = default;
@@ -133,6 +135,12 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         if (closes) main_.platform().closed(main_);
     });
     event->setAccepted(closes);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        area_->setBackground(QApplication::palette().brush(QPalette::Window));
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

@@ -45,6 +45,7 @@ class MainWindow : public QMainWindow {
     QWidget* dialogParent();
 
  protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;

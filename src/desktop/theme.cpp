@@ -83,23 +83,25 @@ QFont houseFont(const QString& fontFace) {
     return font;
 }
 
-void wear(QApplication& application, const Look& look) {
-    application.setPalette(paletteOf(look));
-    application.setStyleSheet(sheetOf(look));
+constexpr const char* dressedProperty = "dressed";
+
+void wear(const Look& look) {
+    QApplication::setPalette(paletteOf(look));
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->property(dressedProperty).toBool()) dress(*window);
 }
 
 /// Looks at the desktop's own palette again when the desktop says that its theme has changed.
 class DesktopFollower : public QObject {
  public:
-    explicit DesktopFollower(QApplication& application)
-        : QObject(&application), application_(application) {
+    explicit DesktopFollower(QApplication& application) : QObject(&application) {
         application.installEventFilter(this);
     }
 
     void follow() {
         following_ = true;
         QApplication::setPalette(QPalette());
-        wear(application_, lookOf(QGuiApplication::palette()));
+        wear(lookOf(QGuiApplication::palette()));
         following_ = false;
     }
 
@@ -109,7 +111,6 @@ class DesktopFollower : public QObject {
     }
 
  private:
-    QApplication& application_;
     bool following_ = false;
 };
 
@@ -121,11 +122,16 @@ void applyTheme(QApplication& application, Scheme scheme, const QString& fontFac
     QApplication::setStyle(new HouseStyle);
     QApplication::setFont(houseFont(fontFace));
     if (scheme == Scheme::followDesktop) {
-        wear(application, desktopIsDark ? darkLook() : lightLook());
+        wear(desktopIsDark ? darkLook() : lightLook());
         new DesktopFollower(application);
     } else {
-        wear(application, scheme == Scheme::dark ? darkLook() : lightLook());
+        wear(scheme == Scheme::dark ? darkLook() : lightLook());
     }
+}
+
+void dress(QWidget& window) {
+    window.setProperty(dressedProperty, true);
+    window.setStyleSheet(sheetOf(lookOf(QApplication::palette())));
 }
 
 }  // namespace varnholt

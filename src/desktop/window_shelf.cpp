@@ -60,14 +60,15 @@ void WindowShelf::opened(Form& form) {
 void WindowShelf::openChild(ChildWindow& form) {
     const Quiet quiet(quiet_);
     window_->showArea(true);
-    auto* frame = new ChildFrame(makeContent(form));
+    auto* frame = new ChildFrame;
+    window_->area().addSubWindow(frame);
+    frame->setContent(makeContent(form));
     places_[&form].child = frame;
     frame->onCloseBox = [this, &form] { closeByBox(&form); };
     frame->content().binder().onSettled([this, &form] {
         refreshTitle(form);
         window_->noteFile(form);
     });
-    window_->area().addSubWindow(frame);
     place(*frame);
     refreshTitle(form);
     frame->show();

@@ -32,6 +32,7 @@ class BinderTest : public testing::Test {
         EXPECT_TRUE(dressed);
         window = std::make_unique<FormWindow>(
             form, views, [this](std::exception_ptr fault) { faults.push_back(std::move(fault)); });
+        dress(*window);
         window->show();
     }
 

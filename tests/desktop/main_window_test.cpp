@@ -139,6 +139,17 @@ TEST_F(MainWindowTest, BringsTheWindowUsedBeforeToTheFrontWhenOneCloses) {
     EXPECT_TRUE(desk.main().isOpen(&second));
 }
 
+TEST_F(MainWindowTest, StaysTheOnlyWindowOfTheScreenAndTheActiveOne) {
+    Desk::settle();
+    for (const char* entry : {"NewBorehole", "mnuZoneManage", "mnuAvgBlock"}) {
+        open(entry);
+        EXPECT_EQ(QApplication::activeWindow(), desk.window.get()) << entry;
+        EXPECT_EQ(desk.window->area().activeSubWindow(), frameOf(*desk.main().activeWindow()));
+    }
+    for (const QWidget* widget : QApplication::topLevelWidgets())
+        EXPECT_TRUE(!widget->isVisible() || widget == desk.window.get());
+}
+
 TEST_F(MainWindowTest, KeepsAWindowWhoseQuestionIsCancelled) {
     ChildWindow& design = open("NewBorehole");
     desk.platform.answers = {Answer::cancel};

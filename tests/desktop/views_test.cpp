@@ -112,6 +112,7 @@ class Views : public testing::TestWithParam<Case> {
     void inspect(Form& form) const {
         for (const auto& control : form.controls()) lengthen(*control);
         FormWindow window(form, views_, {});
+        dress(window);
         window.resize(window.sizeHint());
         window.show();
         Desk::settle();
@@ -190,6 +191,7 @@ TEST(Keyboard, ReachesEveryControlByTab) {
     ViewRegistry views;
     forEveryForm(desk, [&](Form& form) {
         FormWindow window(form, views, {});
+        dress(window);
         window.show();
         for (const auto& control : form.controls()) {
             if (!takesTheKeyboard(form, *control)) continue;
@@ -207,6 +209,7 @@ TEST(Keyboard, GoesThroughTheFieldsOfAGroupFromTopToBottomAndLeftToRight) {
     ViewRegistry views;
     forEveryForm(desk, [&](Form& form) {
         FormWindow window(form, views, {});
+        dress(window);
         window.resize(window.sizeHint());
         window.show();
         Desk::settle();
@@ -229,6 +232,7 @@ TEST(Accessibility, GivesEveryFieldAName) {
     ViewRegistry views;
     forEveryForm(desk, [&](Form& form) {
         FormWindow window(form, views, {});
+        dress(window);
         window.show();
         for (const auto& control : form.controls()) {
             if (!takesTheKeyboard(form, *control)) continue;

@@ -116,10 +116,11 @@ QWidget* hint(Binder& bind, int text, std::function<bool()> condition) {
     label->setProperty("unit", true);
     label->setWordWrap(true);
     const auto refresh = [label, condition = std::move(condition)] {
-        label->setVisible(condition());
+        // A label without a parent would open as a window of its own.
+        const bool shown = condition();
+        if (!shown || label->parentWidget() != nullptr) label->setVisible(shown);
     };
-    label->setVisible(false);
-    if (bind.form() != nullptr) refresh();
+    refresh();
     bind.onSettled(refresh);
     return label;
 }
