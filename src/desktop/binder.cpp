@@ -2,6 +2,7 @@
 #include "desktop/binder.h"
 
 #include <QButtonGroup>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -165,12 +166,11 @@ void Binder::captionChanged(Form&) {
 /// What another window's action has changed in this one is drawn once that action has ended.
 void Binder::refreshLater() {
     if (std::exchange(refreshDue_, true)) return;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (refreshDue_ && form_ != nullptr) settled(*form_);
-        },
-        Qt::QueuedConnection);
+    QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+}
+
+void Binder::customEvent(QEvent*) {
+    if (refreshDue_ && form_ != nullptr) settled(*form_);
 }
 
 void Binder::settled(Form&) {

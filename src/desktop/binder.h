@@ -131,6 +131,7 @@ class Binder : public QObject, public FormObserver {
     void captionChanged(Form& form) override;
     void settled(Form& form) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void customEvent(QEvent* event) override;
 
     /// The window's caption has changed.
     std::function<void()> onCaption;
@@ -144,6 +145,7 @@ class Binder : public QObject, public FormObserver {
     bool keyPressed(BoundControl& bound, int key, Qt::KeyboardModifiers modifiers);
     void stepCompanion(const BoundControl& bound, int steps);
     void refreshDrawings();
+    void recolour();
     void refreshLater();
 
     Form* form_;

@@ -56,9 +56,10 @@ void drawHatch(const Canvas& canvas, const QPointF& middle, double radius) {
     const QColor tone =
         canvas.look.dark ? canvas.look.grout.lighter(130) : canvas.look.grout.darker(114);
     painter.setPen(QPen(tone, 1));
+    const int lines = static_cast<int>(std::ceil(radius / hatchStep));
     // A line of the hatch lies so far from the middle and is as long as the circle leaves it.
-    for (double off = hatchStep / 2 - hatchStep * std::floor(radius / hatchStep); off < radius;
-         off += hatchStep) {
+    for (int line = -lines; line < lines; ++line) {
+        const double off = (line + 0.5) * hatchStep;
         const double half = std::sqrt(std::max(0.0, radius * radius - off * off));
         const QPointF along(half * M_SQRT1_2, -half * M_SQRT1_2);
         const QPointF foot = middle + QPointF(off * M_SQRT1_2, off * M_SQRT1_2);
@@ -146,7 +147,7 @@ void drawDiameters(const Canvas& canvas, const Scale& scale, const BoreDrawing& 
 
 void paintBore(const Canvas& canvas, const BoreDrawing& bore, const Texts& texts) {
     if (reachOf(bore) <= 0) return;
-    const double warningRoom = bore.fits ? 0 : canvas.textHeight() + gridStep / 2;
+    const double warningRoom = bore.fits ? 0 : canvas.textHeight() + gridStep / 2.0;
     const Scale scale = scaleFor(canvas, bore, warningRoom);
     const double reach = reachOf(bore) * scale.perInch;
     drawGround(canvas, scale, reach);

@@ -2,6 +2,7 @@
 #include "desktop/drawings/chart_drawing.h"
 
 #include <QEvent>
+#include <QGraphicsLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QtCharts/QAbstractAxis>

@@ -123,7 +123,7 @@ QRectF drawLegend(const Canvas& canvas, const std::vector<LegendEntry>& entries)
             QRectF(start + QPointF(markRoom, 0), QSizeF(canvas.area.width(), lineHeight)),
             Qt::AlignLeft | Qt::AlignVCenter, entry->text);
     }
-    return canvas.area.adjusted(0, 0, 0, -height - gridStep / 2);
+    return canvas.area.adjusted(0, 0, 0, -height - gridStep / 2.0);
 }
 
 /// Where the bores lie on the screen.

@@ -29,7 +29,7 @@ void setBarStyle(const Canvas& canvas, Mode mode) {
 /// The words for the two kinds of bars, and the unit, over the bars.
 double drawHead(const Canvas& canvas, const LoadsCaptions& captions, const Texts& texts) {
     constexpr double sample = 9;
-    const double height = canvas.textHeight() + gridStep / 2;
+    const double height = canvas.textHeight() + gridStep / 2.0;
     const QRectF line(canvas.area.topLeft(), QSizeF(canvas.area.width(), height));
     const double middle = line.center().y();
     double x = line.left();
@@ -49,7 +49,7 @@ double drawHead(const Canvas& canvas, const LoadsCaptions& captions, const Texts
     // The columns of figures beside the picture name the unit too.
     if (x + QFontMetricsF(canvas.words).horizontalAdvance(unit) <= line.right())
         canvas.painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, unit);
-    return height + gridStep / 2;
+    return height + gridStep / 2.0;
 }
 
 void drawBlockNames(const Canvas& canvas, const QRectF& foot, const LoadsCaptions& captions) {
@@ -114,7 +114,7 @@ void paintLoads(const Canvas& canvas, const LoadsChart& loads, const LoadsCaptio
                 const Texts& texts) {
     QPainter& painter = canvas.painter;
     const double head = drawHead(canvas, captions, texts);
-    const double footHeight = canvas.textHeight() + gridStep / 2;
+    const double footHeight = canvas.textHeight() + gridStep / 2.0;
     const QRectF plot = canvas.area.adjusted(0, head, 0, -footHeight);
     drawBlockNames(canvas, {plot.left(), plot.bottom(), plot.width(), footHeight}, captions);
     if (loads.empty()) {

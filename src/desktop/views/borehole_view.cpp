@@ -10,6 +10,8 @@
 namespace varnholt {
 namespace {
 
+constexpr int noLoadsText = 2160;
+
 const frmBHDesign* designOf(const Binder& bind) {
     return static_cast<const frmBHDesign*>(bind.form());
 }
@@ -24,7 +26,7 @@ QWidget* results(Binder& bind) {
              bind.results("CAPeakLoadLabel"), bind.results("CAPeakDemandLabel"),
              bind.results("CAPumpCOPLabel"), bind.results("CASystemCOPLabel"), bind.wide(rule()),
              bind.results("CAFlowRateLabel"), bind.results("CASoilTempChangeLabel")),
-        buttons(bind.primary("CACalculateCommand")), hint(bind, 2160, [&bind] {
+        buttons(bind.primary("CACalculateCommand")), hint(bind, noLoadsText, [&bind] {
             const frmBHDesign* design = designOf(bind);
             return design != nullptr && design->zoneNumber == 0;
         }));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/views/view_pieces.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QScrollArea>
@@ -51,10 +52,10 @@ class Revealer : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override {
         // The page takes its new size first.
         if (event->type() == QEvent::ShowToParent)
-            QMetaObject::invokeMethod(
-                this, [this] { reveal(); }, Qt::QueuedConnection);
+            QCoreApplication::postEvent(this, new QEvent(QEvent::User));
         return QObject::eventFilter(watched, event);
     }
+    void customEvent(QEvent*) override { reveal(); }
 
  private:
     void reveal() {
