@@ -38,13 +38,9 @@ void Binder::watchKeys(BoundControl& bound, QWidget* keyboard) {
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
     if (form_ == nullptr) return false;
     if (watched == window_ && event->type() == QEvent::PaletteChange) {
-        for (const auto& [name, bound] : bound_) {
-            bound->show(Property::forecolor);
-            bound->show(Property::backcolor);
-            const QString icon = bound->widget()->property("houseIcon").toString();
-            if (!icon.isEmpty())
-                picture(name, icon, bound->widget()->property("houseIconSize").toInt());
-        }
+        // Once the window has been dressed in the new colours too.
+        QMetaObject::invokeMethod(
+            this, [this] { recolour(); }, Qt::QueuedConnection);
         return false;
     }
     if (event->type() == QEvent::Show) {
@@ -66,6 +62,18 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
         return keyPressed(bound, key->key(), key->modifiers());
     }
     return false;
+}
+
+/// Shows the controls' own colours in the scheme that has come.
+void Binder::recolour() {
+    if (form_ == nullptr) return;
+    for (const auto& [name, bound] : bound_) {
+        bound->show(Property::forecolor);
+        bound->show(Property::backcolor);
+        const QString icon = bound->widget()->property("houseIcon").toString();
+        if (!icon.isEmpty())
+            picture(name, icon, bound->widget()->property("houseIconSize").toInt());
+    }
 }
 
 /// Whether the key has done all that it does.

@@ -154,16 +154,18 @@ void DesktopPlatform::progress(const std::string& what, std::size_t done, std::s
 }
 
 void DesktopPlatform::openOutside(const std::string& address) {
-    const QUrl url(qt(address));
-    const QString scheme = url.scheme().toLower();
-    const bool allowed = scheme == QLatin1String("http") || scheme == QLatin1String("https") ||
-                         scheme == QLatin1String("file");
-    if (allowed) QDesktopServices::openUrl(url);
+    if (mayOpenOutside(address)) QDesktopServices::openUrl(QUrl(qt(address)));
 }
 
 void DesktopPlatform::quit(Form&) {
     // The handler at hand ends first.
     QTimer::singleShot(0, &shelf_.mainWindow(), [this] { shelf_.mainWindow().close(); });
+}
+
+bool mayOpenOutside(const std::string& address) {
+    const QString scheme = QUrl(qt(address)).scheme().toLower();
+    return scheme == QLatin1String("http") || scheme == QLatin1String("https") ||
+           scheme == QLatin1String("file");
 }
 
 std::vector<FileFilter> fileFilters(const std::string& filter) {

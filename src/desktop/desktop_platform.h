@@ -42,6 +42,9 @@ class DesktopPlatform : public Platform {
     QElapsedTimer started_, painted_;
 };
 
+/// Whether an address may be handed to the desktop: web pages and files, nothing that runs.
+bool mayOpenOutside(const std::string& address);
+
 /// One pair of a file dialog's filter: "Zone Files (*.zon)" with its patterns "*.zon".
 struct FileFilter {
     std::string caption;

@@ -219,6 +219,26 @@ TEST_F(MainWindowTest, PassesOverDroppedFilesOfOtherKinds) {
     EXPECT_TRUE(desk.platform.messages.empty());
 }
 
+TEST_F(MainWindowTest, ChangesItsSchemeWhileWindowsAreOpen) {
+    ChildWindow& design = open("NewBorehole");
+    Desk::settle();
+    applyTheme(*qApp, Scheme::dark);
+    Desk::settle();
+    FormWindow& content = *desk.shelf.windowOf(design);
+    for (const auto& control : design.controls()) {
+        const BoundControl* bound = content.binder().find(control->name());
+        ASSERT_NE(bound, nullptr);
+        const auto* label = qobject_cast<const QLabel*>(bound->widget());
+        if (const auto* group = dynamic_cast<const GroupBox*>(bound->widget()))
+            label = group->titleLabel();
+        if (label == nullptr) continue;
+        EXPECT_GE(contrast(label->palette().color(label->foregroundRole()), darkLook().surface),
+                  4.5)
+            << control->name();
+    }
+    applyTheme(*qApp, Scheme::light);
+}
+
 TEST(Mnemonics, TakeTheFirstFreeLetterOfAWord) {
     const std::vector<QString> marked = withMnemonics({"Save", "Save As", "Split", "A & S", "S"});
     EXPECT_EQ(plain(marked[0]), "&Save");
@@ -228,6 +248,15 @@ TEST(Mnemonics, TakeTheFirstFreeLetterOfAWord) {
     EXPECT_EQ(plain(marked[4]), "S");
     EXPECT_EQ(withoutMnemonic(marked[3]), "A & S");
     EXPECT_EQ(withoutMnemonic(marked[1]), "Save As");
+}
+
+TEST(OpeningOutside, IsForPagesAndFilesOnly) {
+    EXPECT_TRUE(mayOpenOutside("https://varnholt.example"));
+    EXPECT_TRUE(mayOpenOutside("HTTP://varnholt.example/a?b"));
+    EXPECT_TRUE(mayOpenOutside("file:///usr/share/doc"));
+    EXPECT_FALSE(mayOpenOutside("javascript:alert(1)"));
+    EXPECT_FALSE(mayOpenOutside("/usr/bin/xterm"));
+    EXPECT_FALSE(mayOpenOutside(""));
 }
 
 TEST(FileFilters, AreReadInPairs) {

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/desktop_platform.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QTimer>
+
+#include "app/application.h"
+#include "desktop/main_window.h"
+#include "desktop/qt_text.h"
+#include "desktop/theme.h"
+#include "frame/frmAbout.h"
+#include "tools/program_folder.h"
+
+namespace varnholt {
+namespace {
+
+class DesktopPlatformTest : public testing::Test {
+ protected:
+    DesktopPlatformTest()
+        : platform(shelf), program(platform, {"/nowhere", installedFiles().resources, 0x409}) {
+        applyTheme(*qApp, Scheme::light);
+        window = std::make_unique<MainWindow>(program.main(), FaultTaker(), std::string());
+        shelf.setMain(*window, program.main());
+        window->show();
+    }
+
+    /// Once a dialog of that kind has come up, does this with it.
+    template <class Dialog>
+    void whenShown(std::function<void(Dialog&)> hand) {
+        QTimer::singleShot(0, window.get(), [this, hand = std::move(hand)] {
+            auto* dialog = dynamic_cast<Dialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) return whenShown<Dialog>(hand);
+            hand(*dialog);
+        });
+    }
+
+    WindowShelf shelf{false};
+    DesktopPlatform platform;
+    Application program;
+    std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(DesktopPlatformTest, ShowsAMessageAsItStandsWithItsIcon) {
+    QString shown;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        shown = box.text();
+        icon = box.icon();
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        box.button(QMessageBox::Ok)->click();
+    });
+    platform.message(MessageIcon::exclamation, "Varnholt", "11 - <b>Division</b> by zero");
+    EXPECT_EQ(plain(shown), "11 - <b>Division</b> by zero");
+    EXPECT_EQ(icon, QMessageBox::Warning);
+}
+
+TEST_F(DesktopPlatformTest, AnswersAQuestionByTheButtonPressed) {
+    const std::pair<QMessageBox::StandardButton, Answer> cases[] = {
+        {QMessageBox::Yes, Answer::yes},
+        {QMessageBox::No, Answer::no},
+        {QMessageBox::Cancel, Answer::cancel}};
+    for (const auto& [button, answer] : cases) {
+        whenShown<QMessageBox>(
+            [pressed = button](QMessageBox& box) { box.button(pressed)->click(); });
+        EXPECT_EQ(platform.question(Buttons::yesNoCancel, "Save", "Save?"), answer);
+    }
+}
+
+TEST_F(DesktopPlatformTest, TakesAClosedQuestionForCancel) {
+    whenShown<QMessageBox>([](QMessageBox& box) { box.close(); });
+    EXPECT_EQ(platform.question(Buttons::yesNoCancel, "Save", "Save?"), Answer::cancel);
+    whenShown<QMessageBox>([](QMessageBox& box) { box.close(); });
+    EXPECT_EQ(platform.question(Buttons::okCancel, "Clear", "Clear?"), Answer::cancel);
+}
+
+TEST_F(DesktopPlatformTest, OffersTheKindsOfFilesWithTheOneAskedForInFront) {
+    whenShown<QFileDialog>([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.nameFilters().size(), 2);
+        EXPECT_EQ(plain(dialog.selectedNameFilter()), "Zone Files (*.zon)");
+        EXPECT_EQ(plain(dialog.defaultSuffix()), "zon");
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        dialog.reject();
+    });
+    const FileDialog dialog{
+        true, "Save Zones", "/tmp", "a b.zon", "Projects (*.vht)|*.vht|Zone Files (*.zon)|*.zon",
+        2,    true};
+    EXPECT_EQ(platform.chooseFile(dialog), std::nullopt);
+}
+
+TEST_F(DesktopPlatformTest, RunsADialogUntilItsFormEndsItself) {
+    frmAbout about(platform, program.texts());
+    whenShown<FormDialog>([](FormDialog& dialog) {
+        static_cast<QPushButton*>(dialog.content().binder().widget("cmdOK"))->click();
+    });
+    platform.runModal(about);
+    EXPECT_TRUE(about.modalEnded());
+    EXPECT_EQ(shelf.windowOf(about), nullptr);
+}
+
+TEST_F(DesktopPlatformTest, EndsADialogByEscapeAfterItsOwnQuestion) {
+    class Stubborn : public frmAbout {
+     public:
+        using frmAbout::frmAbout;
+        bool queryClose() override { return ++asked > 1; }
+        int asked = 0;
+    } about(platform, program.texts());
+    whenShown<FormDialog>([](FormDialog& dialog) {
+        for (int times = 0; times < 2; ++times) {
+            QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QCoreApplication::sendEvent(&dialog, &escape);
+        }
+    });
+    platform.runModal(about);
+    EXPECT_EQ(about.asked, 2);
+    EXPECT_TRUE(about.modalEnded());
+}
+
+TEST_F(DesktopPlatformTest, PressesTheFirstButtonOfADialogByEnter) {
+    frmAbout about(platform, program.texts());
+    whenShown<FormDialog>([](FormDialog& dialog) {
+        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QCoreApplication::sendEvent(&dialog, &enter);
+    });
+    platform.runModal(about);
+    EXPECT_TRUE(about.modalEnded());
+}
+
+TEST_F(DesktopPlatformTest, ShowsProgressOnlyOfWhatLastsAQuarterOfASecond) {
+    QElapsedTimer clock;
+    clock.start();
+    const auto dialog = [] {
+        return dynamic_cast<QProgressDialog*>(QApplication::activeModalWidget());
+    };
+    platform.progress("Selecting", 1, 1000);
+    EXPECT_EQ(dialog(), nullptr);
+    while (dialog() == nullptr && clock.elapsed() < 5000) platform.progress("Selecting", 2, 1000);
+    ASSERT_NE(dialog(), nullptr);
+    EXPECT_GE(clock.elapsed(), 250);
+    EXPECT_EQ(plain(dialog()->labelText()), "Selecting");
+    platform.progress("Selecting", 1000, 1000);
+    EXPECT_EQ(dialog(), nullptr);
+}
+
+TEST_F(DesktopPlatformTest, KeepsTextOnTheClipboard) {
+    platform.setClipboard("1\t2\r\n3");
+    EXPECT_EQ(platform.clipboard(), "1\t2\r\n3");
+}
+
+TEST_F(DesktopPlatformTest, PausesAboutAsLongAsAsked) {
+    QElapsedTimer clock;
+    clock.start();
+    platform.pause(20);
+    EXPECT_GE(clock.elapsed(), 19);
+}
+
+}  // namespace
+}  // namespace varnholt
