@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frame/design_document.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -36,24 +35,6 @@ constexpr std::array<InformationRow, 11> informationRows{{
     {"INFaxText", "INFaxLabel", 2710, "fax", &ProjectInformation::fax},
     {"INEmailText", "INEmailLabel", 2711, "email", &ProjectInformation::email},
 }};
-
-/// The lines of a text ended by CR LF, however the platform's field ended them.
-std::string withLineEnds(const std::string& text) {
-    std::string lines;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
-        if (text[i] == '\n' || text[i] == '\r')
-            lines += "\r\n";
-        else
-            lines += text[i];
-    }
-    return lines;
-}
-
-std::string withoutReturns(std::string text) {
-    text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
-    return text;
-}
 
 }  // namespace
 
@@ -129,9 +110,8 @@ void DesignDocument::addInformationControls() {
             [this] { information.projectStartDate = control("INStartDateDTPicker").date(); });
     add("INCommentsLabel", ControlKind::label, 2714).in("INProjectFrame");
     add("INCommentsRichTextBox", ControlKind::richText).in("INProjectFrame");
-    onChange("INCommentsRichTextBox", [this] {
-        information.comments = withLineEnds(control("INCommentsRichTextBox").text());
-    });
+    onChange("INCommentsRichTextBox",
+             [this] { information.comments = control("INCommentsRichTextBox").text(); });
 }
 
 void DesignDocument::showInformation() {
@@ -139,7 +119,7 @@ void DesignDocument::showInformation() {
         control(row.control).setText(information.*row.member);
     control("INDateDTPicker").setDate(information.currentDate);
     control("INStartDateDTPicker").setDate(information.projectStartDate);
-    control("INCommentsRichTextBox").setText(withoutReturns(information.comments));
+    control("INCommentsRichTextBox").setText(information.comments);
 }
 
 }  // namespace varnholt

@@ -70,9 +70,9 @@ TEST_F(BinderTest, AKeystrokeReachesTheFormOnce) {
 
 TEST_F(BinderTest, ATextThatCodeWritesIsShownAndRaisesNothing) {
     control("NameText").setText("Riverside");
-    control("NotesRichTextBox").setText("two\nlines");
+    control("NotesRichTextBox").setText("two\r\nlines");
     EXPECT_EQ(text("NameText"), "Riverside");
-    EXPECT_EQ(text("NotesRichTextBox"), "two\nlines");
+    EXPECT_EQ(text("NotesRichTextBox"), "two\r\nlines");
     EXPECT_TRUE(form.events.empty());
 }
 
