@@ -179,11 +179,14 @@ QWidget* informationPage(Binder& bind) {
 }  // namespace
 
 QWidget* makeBoreholeView(Binder& bind) {
-    return column(bar(row_(bind.widget("MetricCheck"), stretch(), linkLights(bind))),
-                  grow(bind.tabs("BHTabs", {page(resultsPage(bind)), page(fluidPage(bind)),
-                                            page(soilPage(bind)), page(pipePage(bind)),
-                                            page(arrangementPage(bind)), page(extraPowerPage(bind)),
-                                            page(informationPage(bind))})));
+    QWidget* pages =
+        bind.tabs("BHTabs", {page(resultsPage(bind)), page(fluidPage(bind)), page(soilPage(bind)),
+                             page(pipePage(bind)), page(arrangementPage(bind)),
+                             page(extraPowerPage(bind)), page(informationPage(bind))});
+    // The results take more room than the zeros that they begin with.
+    return roomy(
+        column(bar(row_(bind.widget("MetricCheck"), stretch(), linkLights(bind))), grow(pages)),
+        {980, 640});
 }
 
 }  // namespace varnholt

@@ -47,10 +47,14 @@ QSize ColumnHeads::sizeHint() const {
 
 void ColumnHeads::resizeEvent(QResizeEvent*) { place(); }
 
+bool ColumnHeads::event(QEvent* event) {
+    // A caption has changed.
+    if (event->type() == QEvent::LayoutRequest) place();
+    return QWidget::event(event);
+}
+
 bool ColumnHeads::eventFilter(QObject* watched, QEvent* event) {
-    const bool fontChanged = event->type() == QEvent::FontChange;
-    const bool textChanged = event->type() == QEvent::LayoutRequest;
-    if (fontChanged || textChanged || event->type() == QEvent::Polish) {
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::Polish) {
         updateGeometry();
         place();
     }

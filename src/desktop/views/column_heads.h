@@ -24,6 +24,7 @@ class ColumnHeads : public QWidget {
 
  protected:
     void resizeEvent(QResizeEvent* event) override;
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
