@@ -85,8 +85,7 @@ class BoundRichText : public BoundControl {
 
     void show(Property property) override {
         if (property == Property::text) {
-            if (written() != control().text())
-                edit_->setPlainText(qt(control().text()));
+            if (written() != control().text()) edit_->setPlainText(qt(control().text()));
         } else if (property == Property::locked) {
             edit_->setReadOnly(control().locked());
         } else {
@@ -218,6 +217,15 @@ class BoundCombo : public BoundControl {
 };
 
 class CalmDateEdit : public QDateEdit {
+ public:
+    /// The style's own hint leaves no room for the arrow beside the whole date.
+    QSize sizeHint() const override {
+        constexpr int arrowAndPadding = 48;
+        const int date = fontMetrics().horizontalAdvance(QStringLiteral("0000-00-00"));
+        return {date + arrowAndPadding, QDateEdit::sizeHint().height()};
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
  protected:
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 };
