@@ -63,7 +63,7 @@ TEST_F(BoreholeDesign, OpenedFromAFileShowsItsResultsAsCurrent) {
         DesignFiles files;
         files.readINIFile = [] { FAIL(); };
         files.readProject = [&window] {
-            window.setFile("/work/school.vht");
+            window.setFile("/projects/school.vht");
             window.results.lengths.boreLength = {1910.475, 1010.005};
         };
         return files;

@@ -48,7 +48,7 @@ TEST_F(Link, PutsTheProjectsNameIntoTheLoadsTitleAndLeavesTheDesigns) {
 TEST_F(Link, ProjectNameIsWhatStandsBehindTheFirstDash) {
     PlainLoads& block = newLoads("frmAvgBlock");
     PlainDesign& design = newDesign();
-    design.setFile("/work/north-wing.vht");
+    design.setFile("/projects/north-wing.vht");
     link(design);
     EXPECT_EQ(block.caption(), "Average Block Loads - Average Block of north-wing.vht");
 }
@@ -57,7 +57,7 @@ TEST_F(Link, FollowsTheDesignsNewFileName) {
     PlainLoads& loads = newLoads();
     PlainDesign& design = newDesign();
     link(design);
-    renameDesign(design, "/work/school.vht");
+    renameDesign(design, "/projects/school.vht");
     EXPECT_EQ(design.caption(), "Borehole Design Project - school.vht");
     EXPECT_EQ(loads.caption(), "Project Loads - Zone Manager of school.vht");
     EXPECT_TRUE(namesDesign(loads, design));
