@@ -83,8 +83,10 @@ bool Binder::keyPressed(BoundControl& bound, int key, Qt::KeyboardModifiers modi
     const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
     const Qt::KeyboardModifiers held = modifiers & ~Qt::KeypadModifier;
     if (enter && held == Qt::NoModifier && control.kind() != ControlKind::richText) {
+        // An editable combo would take the text for a choice of its own.
+        const bool done = mine || control.editable();
         if (mine) act(bound, [](Form& f, const std::string& name) { f.key(name, "Enter"); });
-        return mine || control.editable();
+        return done;
     }
     if (key == Qt::Key_V && held == Qt::ControlModifier && control.enabled() && !control.locked() &&
         (mine || (takesText(control) && replacesAll(bound.widget())))) {
@@ -92,7 +94,7 @@ bool Binder::keyPressed(BoundControl& bound, int key, Qt::KeyboardModifiers modi
         return true;
     }
     if ((key == Qt::Key_Up || key == Qt::Key_Down) && control.kind() == ControlKind::text &&
-        held == Qt::NoModifier) {
+        !control.locked() && held == Qt::NoModifier) {
         stepCompanion(bound, key == Qt::Key_Up ? 1 : -1);
         return true;
     }

@@ -167,6 +167,7 @@ class BoundCombo : public BoundControl {
                 return combo_->currentIndex();
             case Property::items: {
                 std::vector<std::string> items;
+                items.reserve(static_cast<std::size_t>(combo_->count()));
                 for (int i = 0; i < combo_->count(); ++i)
                     items.push_back(plain(combo_->itemText(i)));
                 return items;

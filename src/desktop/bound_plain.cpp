@@ -2,6 +2,7 @@
 // Labels, buttons, frames, pictures and tabs.
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -185,6 +186,8 @@ class BoundTabs : public BoundControl {
         tabs_->setDocumentMode(true);
         tabs_->setUsesScrollButtons(true);
         tabs_->tabBar()->setDrawBase(false);
+        addPageKey(QKeySequence::fromString(QStringLiteral("Ctrl+PgDown")), 1);
+        addPageKey(QKeySequence::fromString(QStringLiteral("Ctrl+PgUp")), -1);
         QObject::connect(tabs_, &QTabWidget::currentChanged, &binder, [this](int page) {
             this->binder().act(*this,
                                [page](Form& f, const std::string& name) { f.choose(name, page); });
@@ -206,6 +209,7 @@ class BoundTabs : public BoundControl {
     Shown shown(Property property) const override {
         if (property == Property::items) {
             std::vector<std::string> items;
+            items.reserve(static_cast<std::size_t>(tabs_->count()));
             for (int page = 0; page < tabs_->count(); ++page)
                 items.push_back(captionOfButton(tabs_->tabText(page)));
             return items;
@@ -219,6 +223,16 @@ class BoundTabs : public BoundControl {
     }
 
  private:
+    /// Keys that turn the pages, whichever field has the focus.
+    void addPageKey(const QKeySequence& keys, int pages) {
+        auto* shortcut = new QShortcut(keys, tabs_);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        QObject::connect(shortcut, &QShortcut::activated, tabs_, [this, pages] {
+            const int count = tabs_->count();
+            if (count > 0) tabs_->setCurrentIndex((tabs_->currentIndex() + pages + count) % count);
+        });
+    }
+
     QTabWidget* tabs_;
 };
 

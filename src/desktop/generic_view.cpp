@@ -109,6 +109,7 @@ class GenericView {
                 pages[static_cast<std::size_t>(page - prefixes.begin())].push_back(control);
         }
         std::vector<QWidget*> made;
+        made.reserve(pages.size());
         for (const Controls& page : pages) made.push_back(padded(contentOf(page)));
         std::vector<Piece> pieces;
         if (!above.empty()) pieces.push_back(padded(contentOf(above)));

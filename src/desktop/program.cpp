@@ -27,7 +27,7 @@ namespace {
 /// The program's folder, filled on first start; one that is named is used as it stands.
 std::string programFolderOf(const CommandLine& line, const InstalledFiles& installed) {
     if (line.programFolder) return *line.programFolder;
-    const std::string folder = userProgramFolder();
+    std::string folder = userProgramFolder();
     fillProgramFolder(folder, installed);
     return folder;
 }

@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QFile>
 #include <QFontDatabase>
+#include <QWidget>
 #include <utility>
 #include <vector>
 

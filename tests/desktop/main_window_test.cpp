@@ -11,6 +11,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QShortcut>
+#include <QStatusBar>
 #include <QToolBar>
 #include <QUrl>
 #include <set>
@@ -173,6 +175,25 @@ TEST_F(MainWindowTest, MarksAWindowWithUnsavedLoads) {
     loads.click("LONewCommand");
     EXPECT_TRUE(frameOf(loads)->isWindowModified());
     EXPECT_EQ(plain(frameOf(loads)->windowTitle()), loads.caption() + "[*]");
+}
+
+TEST_F(MainWindowTest, TurnsThePagesOfAWindowByKeys) {
+    ChildWindow& design = open("NewBorehole");
+    QWidget* pages = desk.shelf.windowOf(design)->binder().widget("BHTabs");
+    std::map<QString, QShortcut*> keys;
+    for (QShortcut* shortcut : pages->findChildren<QShortcut*>())
+        keys[shortcut->key().toString()] = shortcut;
+    ASSERT_EQ(keys.count("Ctrl+PgDown"), 1U);
+    keys["Ctrl+PgDown"]->activated();
+    EXPECT_EQ(design.control("BHTabs").index(), 1);
+    keys["Ctrl+PgUp"]->activated();
+    keys["Ctrl+PgUp"]->activated();
+    EXPECT_EQ(design.control("BHTabs").index(), 6);
+}
+
+TEST_F(MainWindowTest, TellsInTheStatusBarWhatACommandDoes) {
+    desk.window->menu().action("mnuZoneManage")->showStatusText(desk.window.get());
+    EXPECT_EQ(plain(desk.window->statusBar()->currentMessage()), desk.main().text(1313));
 }
 
 TEST_F(MainWindowTest, ListsTheOpenWindowsAndMarksTheOneInFront) {
