@@ -12,7 +12,7 @@ namespace varnholt {
 
 /// The whole program behind its windows: the language, the main window, every subsystem.
 class Application {
-   public:
+ public:
     struct Setup {
         std::string programFolder;   ///< the program's folder, without a slash at its end
         std::string resourceFolder;  ///< holds `language`
@@ -25,7 +25,7 @@ class Application {
     const Texts& texts() const { return language_; }
     void start() { main_->start(); }
 
-   private:
+ private:
     LanguageResource language_;
     std::unique_ptr<Varnmain> main_;
 };
