@@ -33,17 +33,37 @@ if(VARNHOLT_FUZZ)
     add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
+# Lets TARGET include the files of FOLDER, a folder below src/, by their names from src/, and no
+# others: the include directory holds a symbolic link to that folder and nothing else.
+function(varnholt_sees TARGET SCOPE FOLDER)
+    string(REPLACE "/" "_" name "${FOLDER}")
+    set(directory "${CMAKE_BINARY_DIR}/floors/${name}")
+    cmake_path(GET FOLDER PARENT_PATH parent)
+    file(MAKE_DIRECTORY "${directory}/${parent}")
+    file(CREATE_LINK "${PROJECT_SOURCE_DIR}/src/${FOLDER}" "${directory}/${FOLDER}" SYMBOLIC)
+    target_include_directories(${TARGET} ${SCOPE} "${directory}")
+    # What the target sees in all, for the test that tries to include what is above.
+    set(seen "$<TARGET_PROPERTY:${TARGET},INCLUDE_DIRECTORIES>")
+    if(SCOPE STREQUAL "INTERFACE")
+        set(seen "$<TARGET_PROPERTY:${TARGET},INTERFACE_INCLUDE_DIRECTORIES>")
+    endif()
+    file(GENERATE OUTPUT "${directory}.txt" CONTENT "$<JOIN:${seen},\n>\n")
+endfunction()
+
 # One static library a floor, from every source below its folder. FOLDER is the folder below src/,
-# the other arguments are the libraries it may use: a floor cannot include what it does not link.
+# the other arguments are the libraries it may use: "loads/zone.h" is found by those who link the
+# loads. A floor may be cut into rooms, such as "desktop/widgets", each with a library of its own,
+# varnholt_desktop_widgets.
 function(varnholt_floor FOLDER)
+    string(REPLACE "/" "_" name "${FOLDER}")
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${FOLDER}/*.cpp")
     if(sources)
-        add_library(varnholt_${FOLDER} STATIC ${sources})
+        add_library(varnholt_${name} STATIC ${sources})
         set(scope PUBLIC)
     else()
-        add_library(varnholt_${FOLDER} INTERFACE)
+        add_library(varnholt_${name} INTERFACE)
         set(scope INTERFACE)
     endif()
-    target_include_directories(varnholt_${FOLDER} ${scope} "${PROJECT_SOURCE_DIR}/src")
-    target_link_libraries(varnholt_${FOLDER} ${scope} ${ARGN})
+    varnholt_sees(varnholt_${name} ${scope} "${FOLDER}")
+    target_link_libraries(varnholt_${name} ${scope} ${ARGN})
 endfunction()

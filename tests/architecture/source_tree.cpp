@@ -4,12 +4,14 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <regex>
 
 namespace varnholt {
 namespace {
 
 namespace fs = std::filesystem;
-const fs::path root = VARNHOLT_SOURCE_DIR;
+
+fs::path root() { return VARNHOLT_SOURCE_DIR; }
 
 std::vector<std::string> linesOf(const fs::path& file) {
     std::vector<std::string> lines;
@@ -28,12 +30,22 @@ std::string SourceFile::folder() const {
 
 std::vector<SourceFile> filesBelow(const std::string& folder) {
     std::vector<SourceFile> files;
-    for (const auto& entry : fs::recursive_directory_iterator(root / folder))
+    for (const auto& entry : fs::recursive_directory_iterator(root() / folder))
         if (entry.is_regular_file())
-            files.push_back({fs::relative(entry.path(), root).string(), linesOf(entry.path())});
+            files.push_back({fs::relative(entry.path(), root()).string(), linesOf(entry.path())});
     std::sort(files.begin(), files.end(),
               [](const SourceFile& a, const SourceFile& b) { return a.path < b.path; });
     return files;
+}
+
+std::map<std::string, int> floorsOfTheHouse() {
+    // "| 5 | `tools/` | ..."; the row of the two mains names files instead of a folder.
+    const std::regex row(R"(\| (\d+) \| `(?:([a-z]+)/|varnholt\.cpp)`.*)");
+    std::map<std::string, int> floors;
+    std::smatch match;
+    for (const std::string& line : linesOf(root() / "ARCHITECTURE.md"))
+        if (std::regex_match(line, match, row)) floors.emplace(match[2], std::stoi(match[1]));
+    return floors;
 }
 
 std::vector<Include> includesOf(const SourceFile& source) {

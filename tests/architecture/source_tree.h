@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,10 @@ struct SourceFile {
 
 /// Every file below one folder of the tree, by path.
 std::vector<SourceFile> filesBelow(const std::string& folder);
+
+/// The floors of the house and their numbers, from the table of ARCHITECTURE.md. The two `main`
+/// functions have the empty name.
+std::map<std::string, int> floorsOfTheHouse();
 
 /// One include directive.
 struct Include {
