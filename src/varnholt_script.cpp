@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <fstream>
 #include <iostream>
+#include <memory>
 
 #include "app/application.h"
 #include "basis/date.h"
+#include "basis/system/files.h"
 #include "script/command_line.h"
 #include "script/form_driver.h"
 #include "script/script_runner.h"
@@ -41,10 +42,8 @@ int run(const CommandLine& line) {
         return 0;
     }
     if (*line.script == "-") return runScript(line, std::cin);
-    std::ifstream file(*line.script, std::ios::binary);
-    // A folder opens, but nothing can be read from it.
-    if (!file || (file.peek(), file.bad())) return usageFault(*line.script + " cannot be read");
-    return runScript(line, file);
+    const std::unique_ptr<std::istream> file = openInput(*line.script);
+    return file ? runScript(line, *file) : usageFault(*line.script + " cannot be read");
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include <array>
 #include <charconv>
 #include <chrono>
-#include <ctime>
 
 namespace varnholt {
 namespace {
@@ -44,13 +43,6 @@ std::optional<Date> readDate(std::string_view text) {
                                           std::chrono::day{static_cast<unsigned>(parts[2])}};
     if (!day.ok()) return std::nullopt;
     return Date{parts[0], parts[1], parts[2]};
-}
-
-Date dateOfToday() {
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
-    return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
 }
 
 }  // namespace varnholt

@@ -4,9 +4,9 @@
 #include <fmt/format.h>
 
 #include <charconv>
-#include <filesystem>
 #include <stdexcept>
 
+#include "basis/system/folders.h"
 #include "frame/program_version.h"
 
 namespace varnholt {
@@ -35,13 +35,6 @@ Date readToday(const std::string& text) {
     if (!date || text.front() == '#')
         throw UsageError(fmt::format("{} is not a date of the form YYYY-MM-DD", text));
     return *date;
-}
-
-std::string absolutePath(const std::string& text) {
-    const std::filesystem::path path = std::filesystem::absolute(text).lexically_normal();
-    // A slash at the end leaves an empty last name.
-    return path.has_filename() || !path.has_relative_path() ? path.string()
-                                                            : path.parent_path().string();
 }
 
 /// Walks the arguments; "--option value" and "--option=value" mean the same.

@@ -4,12 +4,12 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <stdexcept>
 #include <utility>
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
+#include "basis/system/folders.h"
 #include "script/properties.h"
 #include "script/script_fault.h"
 
@@ -74,7 +74,7 @@ ScriptCommands::ScriptCommands(Varnmain& main, ScriptPlatform& platform, Driver&
       platform_(platform),
       driver_(driver),
       transcript_(transcript),
-      startFolder_(std::filesystem::current_path().string()) {}
+      startFolder_(currentFolder()) {}
 
 void ScriptCommands::execute(const ScriptLine& line) {
     std::string rest = line.rest;

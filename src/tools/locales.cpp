@@ -2,7 +2,8 @@
 #include "tools/locales.h"
 
 #include <array>
-#include <cstdlib>
+
+#include "basis/system/process.h"
 
 namespace varnholt {
 namespace {
@@ -109,8 +110,8 @@ unsigned localeNumber(std::string_view name) {
 
 unsigned platformLocale() {
     for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        const char* name = std::getenv(variable);
-        if (name != nullptr && *name != '\0') return localeNumber(name);
+        const std::string name = environmentVariable(variable).value_or("");
+        if (!name.empty()) return localeNumber(name);
     }
     return defaultLocale;
 }

@@ -4,11 +4,11 @@
 #include <fmt/core.h>
 #include <algorithm>
 #include <exception>
-#include <filesystem>
 #include <stdexcept>
 #include <vector>
 
 #include "basis/file_system.h"
+#include "basis/system/folders.h"
 
 namespace varnholt {
 namespace {
@@ -36,10 +36,8 @@ std::string takeTableName(std::string& satellite) {
 
 /// All text files of a language's folder, by name.
 std::vector<std::string> tableFiles(const std::string& folder) {
-    std::vector<std::string> files;
-    for (const auto& entry : std::filesystem::directory_iterator(folder))
-        if (entry.path().extension() == ".txt") files.push_back(entry.path().string());
-    std::sort(files.begin(), files.end());
+    std::vector<std::string> files = filesIn(folder);
+    std::erase_if(files, [](const std::string& file) { return !file.ends_with(".txt"); });
     return files;
 }
 

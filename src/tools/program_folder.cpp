@@ -1,88 +1,71 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/program_folder.h"
 
-#include <unistd.h>
-
-#include <cstdlib>
-#include <filesystem>
-
+#include "basis/file_system.h"
 #include "basis/run_time_error.h"
+#include "basis/system/folders.h"
+#include "basis/system/process.h"
 
 namespace varnholt {
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr int pathAccessError = 75;
 
-/// A file of an installed tree may be read-only; the user's copy is the user's to change.
-void copyFile(const fs::path& from, const fs::path& to) {
-    fs::copy_file(from, to);
-    fs::permissions(to, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add);
+/// Copies the files of a folder, or only those with the extension, into a new folder. A folder
+/// that is not there has no files.
+void copyFiles(const std::string& from, const std::string& to, const std::string& extension = {}) {
+    makeFolders(to);
+    if (!isFolder(from)) return;
+    for (const std::string& file : filesIn(from))
+        if (file.ends_with(extension)) copyFile(file, joinPath(to, fileNameOf(file)));
 }
 
-/// Copies the files of a folder, or only those with the extension. A folder that is not there has
-/// no files.
-void copyFiles(const fs::path& from, const fs::path& to, const char* extension = nullptr) {
-    fs::create_directories(to);
-    if (!fs::is_directory(from)) return;
-    for (const fs::directory_entry& entry : fs::directory_iterator(from)) {
-        const fs::path& file = entry.path();
-        if (entry.is_regular_file() && (extension == nullptr || file.extension() == extension))
-            copyFile(file, to / file.filename());
-    }
-}
-
-void fill(const fs::path& folder, const InstalledFiles& from) {
-    copyFiles(from.examples, folder / "work files", ".vht");
-    copyFiles(from.examples, folder / "zones", ".zon");
-    copyFiles(fs::path(from.resources) / "pumps", folder / "pumps");
-    copyFiles(fs::path(from.resources) / "help", folder / "OnlineHelp");
-    fs::create_directories(folder / "Data");
+void fill(const std::string& folder, const InstalledFiles& from) {
+    copyFiles(from.examples, joinPath(folder, "work files"), ".vht");
+    copyFiles(from.examples, joinPath(folder, "zones"), ".zon");
+    copyFiles(joinPath(from.resources, "pumps"), joinPath(folder, "pumps"));
+    copyFiles(joinPath(from.resources, "help"), joinPath(folder, "OnlineHelp"));
+    makeFolders(joinPath(folder, "Data"));
 }
 
 /// Gives the filled folder its name, unless another start of the program was faster.
-void takeName(const fs::path& filled, const fs::path& folder) {
-    std::error_code error;
-    fs::rename(filled, folder, error);
-    if (!error) return;
-    const bool madeByAnother = fs::is_directory(folder);
-    std::error_code ignored;
-    fs::remove_all(filled, ignored);
+void takeName(const std::string& filled, const std::string& folder) {
+    if (renameFolder(filled, folder)) return;
+    const bool madeByAnother = isFolder(folder);
+    removeFolder(filled);
     if (!madeByAnother) throw RunTimeError(pathAccessError);
+}
+
+std::string withoutSlashAtEnd(std::string path) {
+    while (path.size() > 1 && path.back() == '/') path.pop_back();
+    return path;
 }
 
 }  // namespace
 
 InstalledFiles installedFilesOf(const std::string& executable) {
-    const fs::path shared = fs::path(executable).parent_path().parent_path() / "share/varnholt";
-    std::error_code ignored;
-    if (fs::is_directory(shared, ignored)) return {shared, shared / "examples"};
+    const std::string shared = joinPath(folderOf(folderOf(executable)), "share/varnholt");
+    if (isFolder(shared)) return {shared, joinPath(shared, "examples")};
     return {VARNHOLT_RESOURCE_DIR, VARNHOLT_EXAMPLE_DIR};
 }
 
-InstalledFiles installedFiles() {
-    std::error_code ignored;
-    return installedFilesOf(fs::read_symlink("/proc/self/exe", ignored));
-}
+InstalledFiles installedFiles() { return installedFilesOf(executablePath()); }
 
 std::string userProgramFolder() {
-    const char* data = std::getenv("XDG_DATA_HOME");
-    if (data != nullptr && *data == '/') return fs::path(data) / "varnholt";
-    const char* home = std::getenv("HOME");
-    return fs::path(home != nullptr ? home : "/") / ".local/share/varnholt";
+    const std::string data = environmentVariable("XDG_DATA_HOME").value_or("");
+    if (data.starts_with('/')) return joinPath(data, "varnholt");
+    return joinPath(environmentVariable("HOME").value_or("/"), ".local/share/varnholt");
 }
 
 void fillProgramFolder(const std::string& path, const InstalledFiles& from) {
-    const fs::path folder = fs::path(path + "/").parent_path();  // Without a slash at its end.
-    std::error_code ignored;
-    if (fs::is_directory(folder, ignored)) return;
-    const fs::path filling = folder.string() + ".new-" + std::to_string(getpid());
+    const std::string folder = withoutSlashAtEnd(path);
+    if (isFolder(folder)) return;
+    const std::string filling = folder + ".new-" + std::to_string(processNumber());
     try {
-        fs::create_directories(filling);
+        makeFolders(filling);
         fill(filling, from);
-    } catch (const fs::filesystem_error&) {
-        fs::remove_all(filling, ignored);
+    } catch (const RunTimeError&) {
+        removeFolder(filling);
         throw RunTimeError(pathAccessError);
     }
     takeName(filling, folder);

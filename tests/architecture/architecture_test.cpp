@@ -35,6 +35,21 @@ bool isQt(const Include& include) {
     return file.size() > 1 && (file[0] == 'Q' || file.starts_with("qt") || file == "qglobal.h");
 }
 
+/// Qt stands between the desktop and the system.
+bool mayCallTheSystem(const SourceFile& source) {
+    return source.path.starts_with("src/basis/system/") || mayUseQt(source);
+}
+
+/// Headers of files, folders, processes, signals, threads and clocks.
+bool isOfTheSystem(const Include& include) {
+    const std::string& file = include.file;
+    static const std::set<std::string> headers{
+        "filesystem", "fstream",  "cstdio",   "stdio.h", "cstdlib", "stdlib.h",
+        "csignal",    "signal.h", "ctime",    "time.h",  "thread",  "pthread.h",
+        "unistd.h",   "fcntl.h",  "dirent.h", "pwd.h",   "dlfcn.h", "spawn.h"};
+    return headers.count(file) > 0 || file.starts_with("sys/") || file.starts_with("linux/");
+}
+
 bool isSource(const SourceFile& file) {
     return file.isCpp() || file.has(".py") || file.has(".sh") || file.has(".cmake") ||
            file.has("CMakeLists.txt") || file.has(".awk");
@@ -93,6 +108,24 @@ TEST(Architecture, QtIsSeenByTheDesktopAlone) {
         for (const Include& include : includesOf(source))
             EXPECT_TRUE(mayUseQt(source) || !isQt(include))
                 << source.path << " includes " << include.file;
+}
+
+TEST(Architecture, TheSystemIsCalledInOneFolder) {
+    bool seen = false;
+    for (const SourceFile& source : filesBelow("src"))
+        for (const Include& include : includesOf(source)) {
+            if (!isOfTheSystem(include)) continue;
+            seen = seen || source.path.starts_with("src/basis/system/");
+            EXPECT_TRUE(mayCallTheSystem(source)) << source.path << " includes " << include.file;
+        }
+    EXPECT_TRUE(seen) << "no header of the system is recognised";
+}
+
+TEST(Architecture, TheClockIsReadWhereTheSystemIsCalled) {
+    for (const SourceFile& source : filesBelow("src"))
+        for (const std::string& line : source.lines)
+            EXPECT_TRUE(line.find("_clock::now") == std::string::npos || mayCallTheSystem(source))
+                << source.path << ": " << line;
 }
 
 TEST(Architecture, EverySourceNamesItsLicenceFirst) {

@@ -1,10 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cstdlib>
-#include <filesystem>
 
 #include "basis/date.h"
 #include "basis/file_system.h"
@@ -14,62 +9,6 @@
 
 namespace varnholt {
 namespace {
-
-namespace fs = std::filesystem;
-
-class FilesTest : public testing::Test {
- protected:
-    void SetUp() override {
-        std::string name = (fs::temp_directory_path() / "varnholt-files-XXXXXX").string();
-        ASSERT_NE(mkdtemp(name.data()), nullptr);
-        folder_ = name;
-    }
-    void TearDown() override { fs::remove_all(folder_); }
-    std::string path(const std::string& name) const { return joinPath(folder_, name); }
-    int errorOfReading(const std::string& file) const {
-        try {
-            readWholeFile(file);
-        } catch (const RunTimeError& error) {
-            return error.number();
-        }
-        return 0;
-    }
-
-    std::string folder_;
-};
-
-TEST_F(FilesTest, AReplacedFileHoldsTheNewBytesAndNothingElseIsLeft) {
-    replaceWholeFile(path("a.txt"), "one");
-    replaceWholeFile(path("a.txt"), "two");
-    EXPECT_EQ(readWholeFile(path("a.txt")), "two");
-    EXPECT_EQ(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()), 1);
-}
-
-TEST_F(FilesTest, ReplacingThroughASymbolicLinkKeepsTheLinkAndThePermissions) {
-    replaceWholeFile(path("real.txt"), "old");
-    ASSERT_EQ(::chmod(path("real.txt").c_str(), 0640), 0);
-    fs::create_symlink("real.txt", path("link.txt"));
-    replaceWholeFile(path("link.txt"), "new");
-    EXPECT_TRUE(fs::is_symlink(path("link.txt")));
-    EXPECT_EQ(readWholeFile(path("real.txt")), "new");
-    struct stat status {};
-    ASSERT_EQ(::stat(path("real.txt").c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777, 0640U);
-}
-
-TEST_F(FilesTest, MissingFilesAndFoldersHaveTheirOwnErrors) {
-    EXPECT_EQ(errorOfReading(path("missing.txt")), 53);
-    EXPECT_EQ(errorOfReading(path("nowhere/missing.txt")), 76);
-    EXPECT_THROW(replaceWholeFile(path("nowhere/new.txt"), "x"), RunTimeError);
-    EXPECT_FALSE(fileExists(path("missing.txt")));
-    EXPECT_FALSE(fileExists(folder_));
-}
-
-TEST_F(FilesTest, AFolderInPlaceOfTheFileIsRefusedAndStays) {
-    fs::create_directory(path("taken"));
-    EXPECT_THROW(replaceWholeFile(path("taken"), "x"), RunTimeError);
-    EXPECT_TRUE(fs::is_directory(path("taken")));
-}
 
 TEST(Paths, AreTakenApartAtTheLastSlash) {
     EXPECT_EQ(fileNameOf("a/b/school.zon"), "school.zon");

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <stdlib.h>
-
-#include <filesystem>
 #include <string>
 
 #include "basis/run_time_error.h"
+#include "basis/temporary_folder.h"
 #include "catalogue/pump.h"
 #include "catalogue/pump_evaluation.h"
 
@@ -49,21 +47,5 @@ int errorOf(Action&& action) {
     }
     return 0;
 }
-
-/// A folder that is gone after the test.
-class TemporaryFolder {
- public:
-    TemporaryFolder() {
-        path_ = (std::filesystem::temp_directory_path() / "varnholt-test-XXXXXX").string();
-        if (mkdtemp(path_.data()) == nullptr) throw RunTimeError(75);
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
-    const std::string& path() const { return path_; }
-
- private:
-    std::string path_;
-};
 
 }  // namespace varnholt

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "basis/system/system_error.h"
+
+#include <cerrno>
+
+#include "basis/file_system.h"
+#include "basis/run_time_error.h"
+#include "basis/system/folders.h"
+
+namespace varnholt {
+
+void throwFileError(int systemError, const std::string& path) {
+    switch (systemError) {
+        case ENOENT: {
+            const std::string folder = folderOf(path);
+            throw RunTimeError(folder.empty() || isFolder(folder) ? 53 : 76);
+        }
+        case ENOTDIR:
+            throw RunTimeError(76);
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            throw RunTimeError(61);
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            throw RunTimeError(70);
+        case EIO:
+            throw RunTimeError(57);
+        default:
+            throw RunTimeError(75);
+    }
+}
+
+}  // namespace varnholt
