@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "basis/file_system.h"
 #include "basis/run_time_error.h"
 #include "catalogue/makers.h"
 
@@ -20,29 +19,41 @@ std::string joined(const PumpList& manufacturer, const PumpSeriesInfo& series) {
 
 }  // namespace
 
+PumpCatalogue::PumpCatalogue(const std::string& programFolder, const Texts& texts, Exclaim exclaim,
+                             std::shared_ptr<CatalogueFiles> files)
+    : folder_(programFolder + "/pumps"),
+      texts_(texts),
+      exclaim_(std::move(exclaim)),
+      files_(std::move(files)),
+      index_(std::make_shared<const CatalogueFiles::Index>()) {}
+
 PumpCatalogue::PumpCatalogue(const std::string& programFolder, const Texts& texts, Exclaim exclaim)
-    : folder_(programFolder + "/pumps"), texts_(texts), exclaim_(std::move(exclaim)) {}
+    : PumpCatalogue(programFolder, texts, std::move(exclaim), std::make_shared<CatalogueFiles>()) {}
 
 std::int16_t PumpCatalogue::vhtTotalSeriesCount() const {
     std::size_t total = 0;
-    for (const varnholt::PumpList& manufacturer : manufacturers_)
+    for (const varnholt::PumpList& manufacturer : vhtPumpNames())
         total += manufacturer.seriesInfo.size();
     return static_cast<std::int16_t>(total);
 }
 
 const pump& PumpCatalogue::PumpList(std::size_t slot, std::size_t i) const {
-    return at(slots_.at(slot).models, static_cast<std::ptrdiff_t>(i));
+    return at(slots_, static_cast<std::ptrdiff_t>(slot)).model(i);
+}
+
+std::size_t PumpCatalogue::size(std::size_t slot) const {
+    return at(slots_, static_cast<std::ptrdiff_t>(slot)).size();
 }
 
 std::span<const pump> PumpCatalogue::models(std::size_t slot) const {
-    return std::span(slots_.at(slot).models).first(slots_.at(slot).size);
+    return at(slots_, static_cast<std::ptrdiff_t>(slot)).models();
 }
 
 bool PumpCatalogue::holds(std::size_t slot, const std::string& mfgName,
                           const std::string& seriesName) const {
-    const std::vector<pump>& models = slots_.at(slot).models;
-    return !models.empty() && models[0].mfgInfo.mfgName == mfgName &&
-           models[0].seriesInfo.seriesName == seriesName;
+    const LoadedSeries& loaded = at(slots_, static_cast<std::ptrdiff_t>(slot));
+    return loaded.isLoaded() && loaded.model(0).mfgInfo.mfgName == mfgName &&
+           loaded.model(0).seriesInfo.seriesName == seriesName;
 }
 
 void PumpCatalogue::InitializeHeatPumpLists() {
@@ -52,28 +63,30 @@ void PumpCatalogue::InitializeHeatPumpLists() {
 }
 
 void PumpCatalogue::readPumpNames() {
-    manufacturers_.clear();
+    index_ = std::make_shared<const CatalogueFiles::Index>();
     const std::string path = pumpIndexPath(folder_);
-    if (!checkFile(path)) return;
     try {
-        readPumpIndex(readWholeFile(path), manufacturers_);
+        const auto file = files_->index(path);
+        if (file == nullptr) return tellMissing(path);
+        index_ = file;
+        tell(file->error);
     } catch (const RunTimeError& error) {
-        tell(error);
+        tell(error.number());
     }
 }
 
 bool PumpCatalogue::readPumps(const std::string& FileName, std::size_t slot) {
     const std::string path = pumpSeriesPath(folder_, FileName);
-    if (!checkFile(path)) return false;
-    PumpSeries series;
     try {
-        readPumpSeries(readWholeFile(path), series);
+        const auto file = files_->series(path);
+        if (file == nullptr) return tellMissing(path), false;
+        tell(file->error);
+        if (file->content == PumpSeries{}) return false;
+        at(slots_, static_cast<std::ptrdiff_t>(slot)).load({file, &file->content});
+        return true;
     } catch (const RunTimeError& error) {
-        tell(error);
+        return tell(error.number()), false;
     }
-    if (series == PumpSeries{}) return false;
-    store(std::move(series), slots_.at(slot));
-    return true;
 }
 
 bool PumpCatalogue::readActiveSeries(std::size_t slot) {
@@ -93,7 +106,7 @@ bool PumpCatalogue::activate(const std::string& mfgName, const PumpSeriesInfo& s
 
 std::vector<const PumpSeriesInfo*> PumpCatalogue::seriesOf(const std::string& mfgName) const {
     std::vector<const PumpSeriesInfo*> found;
-    for (const varnholt::PumpList& manufacturer : manufacturers_)
+    for (const varnholt::PumpList& manufacturer : vhtPumpNames())
         if (manufacturer.mfgInfo.mfgName == mfgName)
             for (const PumpSeriesInfo& series : manufacturer.seriesInfo) found.push_back(&series);
     return found;
@@ -107,14 +120,14 @@ const PumpSeriesInfo* PumpCatalogue::find(const std::string& mfgName,
 }
 
 const PumpSeriesInfo* PumpCatalogue::findJoined(const std::string& joinedName) const {
-    for (const varnholt::PumpList& manufacturer : manufacturers_)
+    for (const varnholt::PumpList& manufacturer : vhtPumpNames())
         for (const PumpSeriesInfo& series : manufacturer.seriesInfo)
             if (joined(manufacturer, series) == joinedName) return &series;
     return nullptr;
 }
 
 std::string PumpCatalogue::firstSeries() const {
-    for (const varnholt::PumpList& manufacturer : manufacturers_)
+    for (const varnholt::PumpList& manufacturer : vhtPumpNames())
         if (!manufacturer.seriesInfo.empty())
             return joined(manufacturer, manufacturer.seriesInfo.front());
     return {};
@@ -129,28 +142,13 @@ std::string PumpCatalogue::preferredSeries() const {
     return firstSeries();
 }
 
-/// A shorter series leaves the slot's higher models in place.
-void PumpCatalogue::store(PumpSeries series, Slot& slot) {
-    slot.size = series.models.size();
-    if (slot.models.size() < slot.size) slot.models.resize(slot.size);
-    if (slot.models.empty()) slot.models.emplace_back();
-    if (slot.size == 0) {  // the head belongs to model 0 even where no model follows
-        slot.models[0] = {};
-        slot.models[0].mfgInfo = series.mfgInfo;
-        slot.models[0].seriesInfo = series.seriesInfo;
-    }
-    std::move(series.models.begin(), series.models.end(), slot.models.begin());
-}
-
-bool PumpCatalogue::checkFile(const std::string& path) const {
-    const bool found = fileExists(path);
-    if (!found) exclaim_(texts_.text(missingFileText) + "\r\r" + path);
-    return found;
+void PumpCatalogue::tellMissing(const std::string& path) const {
+    exclaim_(texts_.text(missingFileText) + "\r\r" + path);
 }
 
 /// Only a missing file and a file that ends too early are worth a message.
-void PumpCatalogue::tell(const RunTimeError& error) const {
-    if (error.number() == 53 || error.number() == 62) exclaim_(error.message());
+void PumpCatalogue::tell(int error) const {
+    if (error == 53 || error == 62) exclaim_(RunTimeError(error).message());
 }
 
 }  // namespace varnholt

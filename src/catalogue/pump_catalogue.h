@@ -5,17 +5,17 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <span>
 #include <string>
 #include <vector>
 
-#include "catalogue/ModPumpsIO.h"
+#include "catalogue/catalogue_files.h"
+#include "catalogue/loaded_series.h"
 #include "catalogue/pump.h"
 #include "forms/texts.h"
 
 namespace varnholt {
-
-class RunTimeError;
 
 /// The two series that a window keeps loaded.
 enum SeriesSlot : std::size_t {
@@ -23,8 +23,9 @@ enum SeriesSlot : std::size_t {
     browsedSlot = 1,  ///< the series being browsed, or that of the zone at hand
 };
 
-/// A loads window's own copy of the catalogue: the index, two loaded series, and which one is
-/// active. Reading never throws: what went wrong is shown, and what was read up to there stays.
+/// A loads window's own view of the catalogue: the index, two loaded series, and which one is
+/// active. Reading never throws: what went wrong is shown, each time, and what was read up to there
+/// stays.
 class PumpCatalogue {
  public:
     /// Shows a message with an exclamation mark.
@@ -32,24 +33,33 @@ class PumpCatalogue {
 
     /// @param programFolder  the program's folder, without a slash at its end; the catalogue is
     ///                       its folder `pumps`
+    /// @param files          what the program has read of the catalogue, for its windows to share
+    PumpCatalogue(const std::string& programFolder, const Texts& texts, Exclaim exclaim,
+                  std::shared_ptr<CatalogueFiles> files);
+    /// With no other window to share with.
     PumpCatalogue(const std::string& programFolder, const Texts& texts, Exclaim exclaim);
 
     /// Manufacturer's and series' name joined. A window that opens a zone file stores its series
     /// here and calls InitializeHeatPumpLists.
     std::string activeSeries;
 
-    const std::vector<varnholt::PumpList>& vhtPumpNames() const { return manufacturers_; }
-    std::int16_t vhtMfgCount() const { return static_cast<std::int16_t>(manufacturers_.size()); }
+    const std::vector<varnholt::PumpList>& vhtPumpNames() const { return index_->content; }
+    std::int16_t vhtMfgCount() const { return static_cast<std::int16_t>(vhtPumpNames().size()); }
     std::int16_t vhtTotalSeriesCount() const;
+
+    // Throw RunTimeError 9 for a slot that there is not. What they return lasts until the slot is
+    // read into again.
 
     /// Model i of a slot in file order, RunTimeError 9 beyond those ever read into it.
     const pump& PumpList(std::size_t slot, std::size_t i) const;
     /// Number of models in the slot; models beyond it belong to a series read before.
-    std::size_t size(std::size_t slot) const { return slots_.at(slot).size; }
+    std::size_t size(std::size_t slot) const;
     /// The models that count.
     std::span<const pump> models(std::size_t slot) const;
     /// Whether the slot holds this series.
     bool holds(std::size_t slot, const std::string& mfgName, const std::string& seriesName) const;
+
+    // A file that has not changed since the program read it is not read again.
 
     /// Reads the index afresh, chooses the active series if none is set, and loads it into slot
     /// 0. An active series that the catalogue does not list gives way to the first series.
@@ -76,21 +86,16 @@ class PumpCatalogue {
     std::string firstSeries() const;
 
  private:
-    struct Slot {
-        std::vector<pump> models;
-        std::size_t size = 0;
-    };
-
     std::string preferredSeries() const;
-    void store(PumpSeries series, Slot& slot);
-    bool checkFile(const std::string& path) const;
-    void tell(const RunTimeError& error) const;
+    void tellMissing(const std::string& path) const;
+    void tell(int error) const;
 
     std::string folder_;
     const Texts& texts_;
     Exclaim exclaim_;
-    std::vector<varnholt::PumpList> manufacturers_;
-    std::array<Slot, 2> slots_;
+    std::shared_ptr<CatalogueFiles> files_;
+    std::shared_ptr<const CatalogueFiles::Index> index_;
+    std::array<LoadedSeries, 2> slots_;
 };
 
 }  // namespace varnholt

@@ -10,8 +10,9 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <utility>
 
+#include "basis/system/descriptor.h"
+#include "basis/system/file_source.h"
 #include "basis/system/process.h"
 #include "basis/system/system_error.h"
 
@@ -19,23 +20,6 @@ namespace varnholt {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// A file descriptor that is closed on every way out.
-class Descriptor {
- public:
-    explicit Descriptor(int number) : number_(number) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (number_ >= 0) ::close(number_);
-    }
-    int number() const { return number_; }
-    /// Closes now; false when the system reports a late write fault.
-    bool close() { return ::close(std::exchange(number_, -1)) == 0; }
-
- private:
-    int number_;
-};
 
 bool writeAll(int descriptor, std::string_view bytes) {
     while (!bytes.empty()) {
@@ -56,25 +40,9 @@ std::string resolvedTarget(const std::string& path) {
 
 }  // namespace
 
-bool fileExists(const std::string& path) {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    struct stat status {};
-    return file.number() >= 0 && ::fstat(file.number(), &status) == 0 && !S_ISDIR(status.st_mode);
-}
+bool fileExists(const std::string& path) { return DiskFiles().stamp(path).has_value(); }
 
-std::string readWholeFile(const std::string& path) {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    if (file.number() < 0) throwFileError(errno, path);
-    std::string bytes;
-    char buffer[65536];
-    for (;;) {
-        const ssize_t got = ::read(file.number(), buffer, sizeof buffer);
-        if (got < 0 && errno == EINTR) continue;
-        if (got < 0) throwFileError(errno, path);
-        if (got == 0) return bytes;
-        bytes.append(buffer, static_cast<std::size_t>(got));
-    }
-}
+std::string readWholeFile(const std::string& path) { return DiskFiles().read(path).bytes; }
 
 void replaceWholeFile(const std::string& path, std::string_view bytes) {
     const std::string target = resolvedTarget(path);
@@ -86,7 +54,7 @@ void replaceWholeFile(const std::string& path, std::string_view bytes) {
 
     const std::string fresh = fmt::format("{}.{}.new", target, processNumber());
     Descriptor file(::open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
-    if (file.number() < 0) throwFileError(errno == ENOENT ? ENOTDIR : errno, target);
+    if (!file.isOpen()) throwFileError(errno == ENOENT ? ENOTDIR : errno, target);
     const bool written = (!replacing || ::fchmod(file.number(), old.st_mode & 07777) == 0) &&
                          writeAll(file.number(), bytes) && ::fsync(file.number()) == 0 &&
                          file.close() && ::rename(fresh.c_str(), target.c_str()) == 0;

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace varnholt {
+
+/// What tells one state of a file from another without reading it.
+struct FileStamp {
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
+    std::int64_t size = 0;      ///< bytes
+    std::int64_t modified = 0;  ///< ns since 1970
+    /// Whether the last change lies so far back that a further one is bound to show in `modified`,
+    /// which some file systems keep in steps of two seconds.
+    bool settled = false;
+};
+
+/// Whether a file, now of the stamp `now`, is sure to hold what it held when it had `then`.
+bool isUnchanged(const FileStamp& then, const FileStamp& now);
+
+/// Where files are read from. A port, so that a test can see what is read.
+class FileSource {
+ public:
+    struct Content {
+        std::string bytes;
+        FileStamp stamp;  ///< as it was before the bytes were read
+    };
+
+    virtual ~FileSource() = default;
+    /// Nothing when the file cannot be opened for reading.
+    virtual std::optional<FileStamp> stamp(const std::string& path) const = 0;
+    /// The whole file. Throws as readWholeFile.
+    virtual Content read(const std::string& path) const = 0;
+};
+
+/// The files of the disk.
+class DiskFiles : public FileSource {
+ public:
+    std::optional<FileStamp> stamp(const std::string& path) const override;
+    Content read(const std::string& path) const override;
+};
+
+}  // namespace varnholt
