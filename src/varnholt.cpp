@@ -2,7 +2,7 @@
 #include <QApplication>
 #include <iostream>
 
-#include "desktop/program.h"
+#include "desktop/windows/program.h"
 #include "frame/program_version.h"
 #include "script/command_line.h"
 #include "script/script_fault.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/binder.h"
+#include "desktop/binding/binder.h"
 
 #include <gtest/gtest.h>
 
@@ -13,11 +13,11 @@
 #include <QTabBar>
 #include <stdexcept>
 
-#include "desktop/form_window.h"
-#include "desktop/list_view.h"
-#include "desktop/qt_text.h"
-#include "desktop/theme.h"
-#include "desktop/view_registry.h"
+#include "desktop/binding/form_window.h"
+#include "desktop/views/view_registry.h"
+#include "desktop/widgets/list_view.h"
+#include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/theme.h"
 #include "sample_form.h"
 
 namespace varnholt {
@@ -31,7 +31,8 @@ class BinderTest : public testing::Test {
         static const bool dressed = (applyTheme(*qApp, Scheme::light), true);
         EXPECT_TRUE(dressed);
         window = std::make_unique<FormWindow>(
-            form, views, [this](std::exception_ptr fault) { faults.push_back(std::move(fault)); });
+            form, views.maker(),
+            [this](std::exception_ptr fault) { faults.push_back(std::move(fault)); });
         dress(*window);
         window->show();
     }
@@ -310,7 +311,7 @@ TEST_F(BinderTest, AFailureOfAHandlerGoesToWhoTakesItAndNotThroughTheToolkit) {
             onClick("GoCommand", [] { throw std::runtime_error("no"); });
         }
     } failing(platform, texts);
-    FormWindow other(failing, views,
+    FormWindow other(failing, views.maker(),
                      [this](std::exception_ptr fault) { faults.push_back(std::move(fault)); });
     static_cast<QAbstractButton*>(other.binder().widget("GoCommand"))->click();
     EXPECT_EQ(faults.size(), 1U);

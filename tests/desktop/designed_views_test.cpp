@@ -6,8 +6,8 @@
 #include <algorithm>
 
 #include "desk.h"
-#include "desktop/form_window.h"
-#include "desktop/house_widgets.h"
+#include "desktop/binding/form_window.h"
+#include "desktop/widgets/house_widgets.h"
 
 namespace varnholt {
 namespace {
@@ -34,7 +34,7 @@ class DesignedViews : public testing::Test {
 
     void expectReadingOrder(const char* command) {
         ChildWindow& form = opened(command);
-        FormWindow window(form, views, {});
+        FormWindow window(form, views.maker(), {});
         std::vector<std::string> walked = walkedByTab(form, window);
         // The summary stands above the zone, where it is seen as soon as it opens.
         std::erase_if(walked, [&](const std::string& name) {
@@ -67,7 +67,7 @@ TEST_F(DesignedViews, OfTheAverageBlockIsWalkedInTheOrderOfItsForm) {
 TEST_F(DesignedViews, LeaveNoControlOut) {
     for (const char* command : {"NewBorehole", "mnuZoneManage", "mnuAvgBlock"}) {
         ChildWindow& form = opened(command);
-        FormWindow window(form, views, {});
+        FormWindow window(form, views.maker(), {});
         EXPECT_EQ(window.binder().unshown(), std::vector<std::string>{}) << form.formName();
     }
 }
@@ -75,7 +75,7 @@ TEST_F(DesignedViews, LeaveNoControlOut) {
 TEST_F(DesignedViews, DrawTheBoreAsItIsTyped) {
     ChildWindow& form = opened("NewBorehole");
     form.choose("BHTabs", 3);
-    FormWindow window(form, views, {});
+    FormWindow window(form, views.maker(), {});
     window.show();
     form.type("PIBoreholeDiameterText", "6.5");
     const auto* bore = static_cast<Drawing*>(window.binder().widget("imgBore"));
@@ -85,7 +85,7 @@ TEST_F(DesignedViews, DrawTheBoreAsItIsTyped) {
 TEST_F(DesignedViews, DrawAnewWhatAnotherWindowsActionHasChanged) {
     ChildWindow& form = opened("NewBorehole");
     form.choose("BHTabs", 3);
-    FormWindow window(form, views, {});
+    FormWindow window(form, views.maker(), {});
     window.show();
     Desk::settle();
     desk.main().click("Metric");
@@ -100,7 +100,7 @@ TEST_F(DesignedViews, LightTheLampOfTheLinkedWindow) {
     opened("mnuAvgBlock");
     desk.main().activate(form);
     desk.main().click("mnuLink");
-    FormWindow window(form, views, {});
+    FormWindow window(form, views.maker(), {});
     window.show();
     EXPECT_TRUE(window.binder().widget("imgLinkLight(8)")->isEnabled());
     EXPECT_FALSE(window.binder().widget("imgLinkLight(0)")->isEnabled());

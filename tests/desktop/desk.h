@@ -7,9 +7,9 @@
 #include <string>
 
 #include "app/application.h"
-#include "desktop/main_window.h"
-#include "desktop/theme.h"
-#include "desktop/window_shelf.h"
+#include "desktop/widgets/theme.h"
+#include "desktop/windows/main_window.h"
+#include "desktop/windows/window_shelf.h"
 #include "forms/fake_platform.h"
 #include "tools/program_folder.h"
 

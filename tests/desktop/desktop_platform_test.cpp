@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/desktop_platform.h"
+#include "desktop/windows/desktop_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -14,9 +14,9 @@
 #include <QTimer>
 
 #include "app/application.h"
-#include "desktop/main_window.h"
-#include "desktop/qt_text.h"
-#include "desktop/theme.h"
+#include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/theme.h"
+#include "desktop/windows/main_window.h"
 #include "frame/frmAbout.h"
 #include "tools/program_folder.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/look.h"
+#include "desktop/widgets/look.h"
 
 #include <gtest/gtest.h>
 

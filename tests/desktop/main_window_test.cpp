@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/main_window.h"
+#include "desktop/windows/main_window.h"
 
 #include <gtest/gtest.h>
 
@@ -18,10 +18,10 @@
 #include <set>
 
 #include "desk.h"
-#include "desktop/desktop_platform.h"
-#include "desktop/desktop_texts.h"
-#include "desktop/mnemonics.h"
-#include "desktop/qt_text.h"
+#include "desktop/binding/mnemonics.h"
+#include "desktop/widgets/desktop_texts.h"
+#include "desktop/widgets/qt_text.h"
+#include "desktop/windows/desktop_platform.h"
 #include "frame/menu_table.h"
 
 namespace varnholt {

@@ -10,9 +10,9 @@
 #include <set>
 
 #include "desk.h"
-#include "desktop/form_window.h"
-#include "desktop/house_widgets.h"
-#include "desktop/qt_text.h"
+#include "desktop/binding/form_window.h"
+#include "desktop/widgets/house_widgets.h"
+#include "desktop/widgets/qt_text.h"
 #include "frame/menu_table.h"
 #include "sample_form.h"
 
@@ -111,7 +111,7 @@ class Views : public testing::TestWithParam<Case> {
 
     void inspect(Form& form) const {
         for (const auto& control : form.controls()) lengthen(*control);
-        FormWindow window(form, views_, {});
+        FormWindow window(form, views_.maker(), {});
         dress(window);
         window.resize(window.sizeHint());
         window.show();
@@ -190,7 +190,7 @@ TEST(Keyboard, ReachesEveryControlByTab) {
     Desk desk;
     ViewRegistry views;
     forEveryForm(desk, [&](Form& form) {
-        FormWindow window(form, views, {});
+        FormWindow window(form, views.maker(), {});
         dress(window);
         window.show();
         for (const auto& control : form.controls()) {
@@ -208,7 +208,7 @@ TEST(Keyboard, GoesThroughTheFieldsOfAGroupFromTopToBottomAndLeftToRight) {
     Desk desk;
     ViewRegistry views;
     forEveryForm(desk, [&](Form& form) {
-        FormWindow window(form, views, {});
+        FormWindow window(form, views.maker(), {});
         dress(window);
         window.resize(window.sizeHint());
         window.show();
@@ -231,7 +231,7 @@ TEST(Accessibility, GivesEveryFieldAName) {
     Desk desk;
     ViewRegistry views;
     forEveryForm(desk, [&](Form& form) {
-        FormWindow window(form, views, {});
+        FormWindow window(form, views.maker(), {});
         dress(window);
         window.show();
         for (const auto& control : form.controls()) {

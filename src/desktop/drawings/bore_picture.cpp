@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/qt_text.h"
+#include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
 namespace {

@@ -6,7 +6,7 @@
 #include <QRectF>
 #include <QString>
 
-#include "desktop/look.h"
+#include "desktop/widgets/look.h"
 
 namespace varnholt {
 

@@ -5,9 +5,9 @@
 #include <QtCharts/QChartView>
 #include <vector>
 
+#include "desktop/drawings/drawing.h"
 #include "desktop/drawings/legend_row.h"
-#include "desktop/house_widgets.h"
-#include "desktop/look.h"
+#include "desktop/widgets/look.h"
 
 class QLabel;
 class QValueAxis;

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "desktop/qt_text.h"
+#include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
 namespace {

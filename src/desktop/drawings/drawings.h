@@ -5,10 +5,10 @@
 
 #include "design/bore_drawing.h"
 #include "design/field_plan.h"
+#include "desktop/drawings/drawing.h"
 #include "desktop/drawings/link_light.h"
 #include "desktop/drawings/loads_picture.h"
 #include "desktop/drawings/pump_curves.h"
-#include "desktop/house_widgets.h"
 
 namespace varnholt {
 

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "design/modCalculations/bore_grid.h"
-#include "desktop/qt_text.h"
+#include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
 namespace {

@@ -4,7 +4,7 @@
 #include <QRadialGradient>
 #include <algorithm>
 
-#include "desktop/qt_text.h"
+#include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
 namespace {

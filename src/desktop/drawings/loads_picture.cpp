@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "basis/number_text.h"
-#include "desktop/qt_text.h"
+#include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
 namespace {

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "desktop/drawings/canvas.h"
-#include "desktop/house_widgets.h"
+#include "desktop/drawings/drawing.h"
 
 namespace varnholt {
 

@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "basis/number_text.h"
-#include "desktop/qt_text.h"
+#include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
 namespace {

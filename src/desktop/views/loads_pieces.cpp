@@ -5,10 +5,10 @@
 #include <QLabel>
 
 #include "desktop/drawings/drawings.h"
-#include "desktop/house_widgets.h"
-#include "desktop/layout.h"
-#include "desktop/qt_text.h"
 #include "desktop/views/view_pieces.h"
+#include "desktop/widgets/house_widgets.h"
+#include "desktop/widgets/layout.h"
+#include "desktop/widgets/qt_text.h"
 #include "forms/quantity.h"
 #include "loads/modLoads/zone_window.h"
 

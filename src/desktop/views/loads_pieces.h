@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "desktop/binder.h"
+#include "desktop/binding/binder.h"
 #include "desktop/drawings/loads_picture.h"
 
 class QWidget;

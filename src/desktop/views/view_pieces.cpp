@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "desktop/drawings/drawings.h"
-#include "desktop/qt_text.h"
+#include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
 namespace {

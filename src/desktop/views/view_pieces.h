@@ -3,8 +3,8 @@
 
 #include <QWidget>
 
-#include "desktop/binder.h"
-#include "desktop/layout.h"
+#include "desktop/binding/binder.h"
+#include "desktop/widgets/layout.h"
 
 namespace varnholt {
 

@@ -6,10 +6,10 @@
 #include <QTabWidget>
 
 #include "desktop/drawings/drawings.h"
-#include "desktop/views/column_heads.h"
 #include "desktop/views/loads_pieces.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/views.h"
+#include "desktop/widgets/column_heads.h"
 #include "loads/frmZoneManage.h"
 
 namespace varnholt {

@@ -1,0 +1,366 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/binding/binder.h"
+
+#include <QButtonGroup>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+#include <stdexcept>
+
+#include "desktop/widgets/icons.h"
+#include "desktop/widgets/list_view.h"
+#include "desktop/widgets/qt_text.h"
+
+namespace varnholt {
+namespace {
+
+/// Counts the calls under way, so that what code writes is not taken for a person's action.
+class Writing {
+ public:
+    explicit Writing(int& depth) : depth_(depth) { ++depth_; }
+    ~Writing() { --depth_; }
+    Writing(const Writing&) = delete;
+    Writing& operator=(const Writing&) = delete;
+
+ private:
+    int& depth_;
+};
+
+std::string element(const std::string& stem, std::size_t index) {
+    return stem + "(" + std::to_string(index) + ")";
+}
+
+}  // namespace
+
+Binder::Binder(Form& form) : form_(&form) { form.addObserver(this); }
+
+Binder::~Binder() { detach(); }
+
+void Binder::detach() {
+    if (form_ == nullptr) return;
+    form_->removeObserver(this);
+    form_ = nullptr;
+    drawings_.clear();
+    refreshers_.clear();
+}
+
+bool Binder::has(const std::string& name) const { return form_ != nullptr && form_->has(name); }
+
+QWidget* Binder::widget(const std::string& name) {
+    if (BoundControl* known = find(name)) return known->widget();
+    if (form_ == nullptr) throw std::logic_error("the form of the control " + name + " has ended");
+    const Writing writing(writing_);
+    return keep(bindControl(*this, form_->control(name)));
+}
+
+QWidget* Binder::keep(std::unique_ptr<BoundControl> bound) {
+    QWidget* widget = bound->widget();
+    const std::string name = bound->control().name();
+    bound_[name] = std::move(bound);
+    if (widget->accessibleName().isEmpty())
+        for (const bool indexed : {true, false}) {
+            const std::string caption = companionName(name, "Label", indexed);
+            if (caption != name && has(caption)) nameFor(name, caption);
+        }
+    return widget;
+}
+
+BoundControl* Binder::find(const std::string& name) const {
+    const auto found = bound_.find(name);
+    return found == bound_.end() ? nullptr : found->second.get();
+}
+
+/// A screen reader calls the field by its caption.
+void Binder::nameFor(const std::string& field, const std::string& caption) {
+    named_.emplace(caption, field);
+    QString name = qt(form_->control(caption).caption()).trimmed();
+    while (name.endsWith(u':')) name.chop(1);
+    if (!name.isEmpty()) find(field)->widget()->setAccessibleName(name);
+}
+
+void Binder::nameTheNameless() {
+    for (const auto& [name, bound] : bound_) {
+        QWidget* widget = bound->widget();
+        QString found = widget->accessibleName();
+        if (widget->focusPolicy() == Qt::NoFocus) continue;
+        if (found.isEmpty()) found = widget->toolTip();
+        for (QWidget* around = widget; found.isEmpty() && around != nullptr;
+             around = around->parentWidget()) {
+            if (const auto* group = dynamic_cast<const GroupBox*>(around)) found = group->title();
+            const auto* tabs = qobject_cast<const QTabWidget*>(around);
+            for (int page = 0; tabs != nullptr && page < tabs->count(); ++page)
+                if (tabs->widget(page)->isAncestorOf(widget)) found = tabs->tabText(page);
+        }
+        if (found.isEmpty() && form_ != nullptr) found = qt(form_->caption());
+        widget->setAccessibleName(found);
+    }
+}
+
+std::vector<std::string> Binder::unshown() const {
+    std::vector<std::string> names;
+    if (form_ == nullptr) return names;
+    for (const auto& control : form_->controls())
+        if (find(control->name()) == nullptr) names.push_back(control->name());
+    return names;
+}
+
+std::string Binder::text(int number) const {
+    return form_ == nullptr ? std::string() : form_->text(number);
+}
+
+const Look& Binder::look() const {
+    return lookOf(window_ != nullptr ? window_->palette() : QPalette());
+}
+
+void Binder::setWindow(QWidget* window) {
+    window_ = window;
+    window->installEventFilter(this);
+}
+
+void Binder::onSettled(std::function<void()> refresh) { refreshers_.push_back(std::move(refresh)); }
+
+QButtonGroup* Binder::optionGroup(const std::string& group) {
+    QButtonGroup*& known = groups_[group];
+    if (known == nullptr) known = new QButtonGroup(this);
+    return known;
+}
+
+void Binder::act(BoundControl& bound, const Verb& verb) {
+    if (writing_ > 0 || form_ == nullptr) return;
+    ++actions_;
+    // The handler may take the form and its controls away.
+    const std::string name = bound.control().name();
+    try {
+        verb(*form_, name);
+    } catch (...) {
+        if (!faults_) throw;
+        faults_(std::current_exception());
+    }
+    if (form_ == nullptr) return;
+    const Writing writing(writing_);
+    bound.showAll();
+}
+
+void Binder::leave(BoundControl& bound) {
+    act(bound, [](Form& form, const std::string& name) { form.leave(name); });
+}
+
+void Binder::propertyChanged(Control& control, Property property) {
+    const Writing writing(writing_);
+    if (BoundControl* bound = find(control.name())) bound->show(property);
+    refreshLater();
+    if (property != Property::caption) return;
+    const auto [first, last] = named_.equal_range(control.name());
+    std::vector<std::string> fields;
+    for (auto it = first; it != last; ++it) fields.push_back(it->second);
+    named_.erase(first, last);
+    for (const std::string& field : fields) nameFor(field, control.name());
+}
+
+void Binder::captionChanged(Form&) {
+    if (onCaption) onCaption();
+}
+
+/// What another window's action has changed in this one is drawn once that action has ended.
+void Binder::refreshLater() {
+    if (std::exchange(refreshDue_, true)) return;
+    QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+}
+
+void Binder::customEvent(QEvent*) {
+    if (refreshDue_ && form_ != nullptr) settled(*form_);
+}
+
+void Binder::settled(Form&) {
+    refreshDue_ = false;
+    refreshDrawings();
+    const auto refreshers = refreshers_;
+    for (const auto& refresh : refreshers) refresh();
+}
+
+void Binder::refreshDrawings() {
+    for (Drawing* drawing : drawings_) {
+        if (!drawing->isVisible()) continue;
+        drawing->refresh();
+        drawing->setAccessibleDescription(drawing->description());
+        drawing->update();
+    }
+}
+
+GroupBox* Binder::frame(const std::string& name) { return static_cast<GroupBox*>(widget(name)); }
+
+QTabWidget* Binder::tabs(const std::string& name, std::initializer_list<QWidget*> pages) {
+    return tabs(name, std::vector<QWidget*>(pages));
+}
+
+QTabWidget* Binder::tabs(const std::string& name, const std::vector<QWidget*>& pages) {
+    auto* tabs = static_cast<QTabWidget*>(widget(name));
+    const Writing writing(writing_);
+    for (QWidget* page : pages) tabs->addTab(new ScrollPage(page), QString());
+    find(name)->showAll();
+    return tabs;
+}
+
+QWidget* Binder::firstOf(const std::vector<std::string>& names) {
+    for (const std::string& name : names)
+        if (has(name)) return widget(name);
+    return nullptr;
+}
+
+QWidget* Binder::withUpDown(const std::string& field) {
+    QWidget* editor = widget(field);
+    const std::string name = companionName(field, "UpDown");
+    if (name == field || !has(name)) return editor;
+    QWidget* steps = widget(name);
+    steps->setFocusPolicy(Qt::NoFocus);  // the arrow keys in the field do the same
+    auto* both = new QWidget;
+    auto* layout = new QHBoxLayout(both);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    layout->addWidget(editor);
+    // Centred, so that the buttons' height does not limit the field's.
+    layout->addWidget(steps, 0, Qt::AlignVCenter);
+    return both;
+}
+
+FieldRow Binder::row(const std::string& field, std::initializer_list<QWidget*> more) {
+    FieldRow row;
+    row.caption = firstOf({companionName(field, "Label"), companionName(field, "Label", false)});
+    row.fields = {withUpDown(field)};
+    // An element of an array of combos must not take the unit of the text beside it.
+    const bool hasUnit = find(field)->control().kind() != ControlKind::combo;
+    if (hasUnit)
+        row.unit = firstOf({companionName(field, "UnitLabel"), companionName(field, "UnitsLabel"),
+                            companionName(field, "UnitLabel", false),
+                            companionName(field, "UnitsLabel", false)});
+    row.more = more;
+    return row;
+}
+
+FieldRow Binder::pair(const std::string& stem, std::initializer_list<QWidget*> more) {
+    FieldRow row = this->row(element(stem, 0), more);
+    row.fields.push_back(withUpDown(element(stem, 1)));
+    mark(element(stem, 0), cooling);
+    mark(element(stem, 1), heating);
+    return row;
+}
+
+FieldRow Binder::results(const std::string& label) {
+    FieldRow row;
+    row.caption = widget(element(label, 2));
+    for (const std::size_t mode : {0U, 1U}) {
+        auto* figure = static_cast<QLabel*>(widget(element(label, mode)));
+        figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        figure->setFont(figureFont(figure->font()));
+        row.fields.push_back(figure);
+        nameFor(element(label, mode), element(label, 2));
+    }
+    return row;
+}
+
+FieldRow Binder::figure(const std::string& caption, const std::string& value,
+                        std::initializer_list<QWidget*> more) {
+    FieldRow row;
+    row.caption = widget(caption);
+    auto* figure = static_cast<QLabel*>(widget(value));
+    figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    figure->setFont(figureFont(figure->font()));
+    row.fields = {figure};
+    nameFor(value, caption);
+    row.more = more;
+    return row;
+}
+
+FieldRow Binder::heads(const std::string& coolingHead, const std::string& heatingHead) {
+    FieldRow row;
+    for (const std::string& name : {coolingHead, heatingHead}) {
+        auto* head = static_cast<QLabel*>(widget(name));
+        head->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        QFont font = head->font();
+        font.setWeight(QFont::DemiBold);
+        head->setFont(font);
+        row.fields.push_back(head);
+    }
+    mark(coolingHead, cooling);
+    mark(heatingHead, heating);
+    return row;
+}
+
+FieldRow Binder::wide(QWidget* widget) const {
+    FieldRow row;
+    row.fields = {widget};
+    row.wide = true;
+    return row;
+}
+
+Binder& Binder::mark(const std::string& name, Mode mode) {
+    QWidget* marked = widget(name);
+    marked->setProperty("mode",
+                        mode == cooling ? QStringLiteral("cooling") : QStringLiteral("heating"));
+    const Writing writing(writing_);
+    find(name)->show(Property::forecolor);
+    return *this;
+}
+
+QWidget* Binder::primary(const std::string& button) {
+    QWidget* widget = this->widget(button);
+    widget->setProperty("usualTone", QStringLiteral("primary"));
+    const Writing writing(writing_);
+    find(button)->show(Property::backcolor);
+    return widget;
+}
+
+QWidget* Binder::iconButton(const std::string& button, const QString& icon) {
+    QWidget* widget = this->widget(button);
+    widget->setProperty("usualIcon", icon);
+    const Writing writing(writing_);
+    find(button)->show(Property::backcolor);
+    return widget;
+}
+
+QWidget* Binder::fixedPitch(const std::string& list) {
+    QWidget* view = widget(list);
+    view->setFont(fixedPitchFont(view->font()));
+    return view;
+}
+
+QWidget* Binder::picture(const std::string& image, const QString& icon, int size) {
+    auto* label = static_cast<QLabel*>(widget(image));
+    label->setPixmap(houseIcon(icon).pixmap(QSize(size, size), label->devicePixelRatioF()));
+    label->setProperty("houseIcon", icon);
+    label->setProperty("houseIconSize", size);
+    return label;
+}
+
+QWidget* Binder::drawing(const std::string& image, Drawing* drawing) {
+    if (form_ == nullptr) throw std::logic_error("the form of the drawing " + image + " has ended");
+    const Writing writing(writing_);
+    keep(bindImage(*this, form_->control(image), drawing));
+    return this->drawing(drawing);
+}
+
+Drawing* Binder::drawing(Drawing* drawing) {
+    drawings_.push_back(drawing);
+    drawing->installEventFilter(this);
+    connect(drawing, &QObject::destroyed, this,
+            [this, drawing] { std::erase(drawings_, drawing); });
+    return drawing;
+}
+
+std::string companionName(const std::string& control, const std::string& suffix, bool indexed) {
+    const std::size_t bracket = control.find('(');
+    std::string stem = control.substr(0, bracket);
+    for (const char* kind : {"RichTextBox", "DTPicker", "Text", "Combo", "Slider", "UpDown",
+                             "Label", "List", "Check", "Option", "Command"}) {
+        const std::string_view end = kind;
+        if (stem.size() <= end.size() || !stem.ends_with(end)) continue;
+        stem.erase(stem.size() - end.size());
+        break;
+    }
+    const bool hasIndex = bracket != std::string::npos && indexed;
+    return stem + suffix + (hasIndex ? control.substr(bracket) : std::string());
+}
+
+}  // namespace varnholt

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <exception>
+#include <functional>
+#include <initializer_list>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "basis/mode.h"
+#include "desktop/binding/bound_control.h"
+#include "desktop/drawings/drawing.h"
+#include "desktop/widgets/field_row.h"
+#include "desktop/widgets/house_widgets.h"
+#include "desktop/widgets/look.h"
+#include "forms/form.h"
+
+class QButtonGroup;
+class QTabWidget;
+
+namespace varnholt {
+
+/// Connects the widgets of one window to the controls of the same names in its form, both ways.
+///
+/// A view asks for widgets by the controls' names and lays them out; everything else follows:
+/// captions, units, colours, enabled and visible state, refused and stale marks, accessible names,
+/// keys. The same name gives the same widget however often it is asked for.
+///
+/// Names that belong together: the field "XText(i)" (or Combo, Slider, ...) has the caption
+/// "XLabel(i)" or "XLabel", the unit "XUnitLabel(i)", "XUnitsLabel(i)" or the same without index,
+/// and the spin buttons "XUpDown(i)". A results label has the figures "XLabel(0)" (cooling) and
+/// "XLabel(1)" (heating) and the caption "XLabel(2)".
+class Binder : public QObject, public FormObserver {
+ public:
+    explicit Binder(Form& form);
+    ~Binder() override;
+
+    // What a view is made of.
+
+    /// The form, for drawings that read its model. Null when the window has been taken away.
+    Form* form() const { return form_; }
+    bool has(const std::string& name) const;
+    /// The widget of a control, whatever its kind. Throws std::out_of_range for an unknown name.
+    QWidget* widget(const std::string& name);
+    /// The group box of a control of kind frame, to be filled by group().
+    GroupBox* frame(const std::string& name);
+    /// The tabbed pane with its pages in the order of its captions. Each page scrolls by itself.
+    QTabWidget* tabs(const std::string& name, std::initializer_list<QWidget*> pages);
+    QTabWidget* tabs(const std::string& name, const std::vector<QWidget*>& pages);
+
+    /// Caption, field with its spin buttons, unit; then whatever else is named.
+    FieldRow row(const std::string& field, std::initializer_list<QWidget*> more = {});
+    /// The fields "XText(0)" and "XText(1)" side by side, cooling and heating, under one caption.
+    FieldRow pair(const std::string& stem, std::initializer_list<QWidget*> more = {});
+    /// A line of results: caption XLabel(2), cooling XLabel(0), heating XLabel(1).
+    FieldRow results(const std::string& label);
+    /// One figure: a caption label, a label with the value, and spin buttons or the like.
+    FieldRow figure(const std::string& caption, const std::string& value,
+                    std::initializer_list<QWidget*> more = {});
+    /// Heads over the two columns of results or pairs.
+    FieldRow heads(const std::string& cooling, const std::string& heating);
+    /// One widget over the whole width.
+    FieldRow wide(QWidget* widget) const;
+
+    /// Marks a control as one of cooling or heating, by colour.
+    Binder& mark(const std::string& name, Mode mode);
+    /// The one button that a window is about: Calculate.
+    QWidget* primary(const std::string& button);
+    /// A button with a drawn icon beside its caption.
+    QWidget* iconButton(const std::string& button, const QString& icon);
+    /// A list whose columns are made of blanks: its figures stand in a fixed pitch.
+    QWidget* fixedPitch(const std::string& list);
+    /// Shows a control of kind image by one of the drawn icons, of that size.
+    QWidget* picture(const std::string& image, const QString& icon, int size = 20);
+    /// Shows a control of kind image by a drawing, which is refreshed after every action.
+    QWidget* drawing(const std::string& image, Drawing* drawing);
+    /// A drawing that no control stands for.
+    Drawing* drawing(Drawing* drawing);
+    /// Called after every action of the user has been handled to its end.
+    void onSettled(std::function<void()> refresh);
+
+    const Look& look() const;
+
+    // What the window does with it.
+
+    /// The window that holds the widgets: colours follow its scheme.
+    void setWindow(QWidget* window);
+    /// The form ends: nothing is passed on in either direction from now on.
+    void detach();
+    /// Takes the failures of handlers, which must not pass through the toolkit.
+    void setFaultTaker(std::function<void(std::exception_ptr)> taker) {
+        faults_ = std::move(taker);
+    }
+    /// Whether a field that loses the focus is left; else only by Binder::leave.
+    void setLeavesByFocus(bool leaves) { leavesByFocus_ = leaves; }
+    /// Names of the form's controls that no widget shows.
+    std::vector<std::string> unshown() const;
+    /// Gives what has no caption the name of the group or page that it stands in.
+    void nameTheNameless();
+    /// The bound control, null as long as no widget was asked for.
+    BoundControl* find(const std::string& name) const;
+
+    // For the bound controls.
+
+    using Verb = std::function<void(Form&, const std::string& name)>;
+    /// Does what the user did, unless code is writing the widget, and has it show what came of it.
+    void act(BoundControl& bound, const Verb& verb);
+    /// How many verbs have been passed on.
+    int actions() const { return actions_; }
+    void watchKeys(BoundControl& bound, QWidget* keyboard);
+    /// The widget loses the focus for good: the control is left.
+    void leave(BoundControl& bound);
+    /// Options of one group exclude each other.
+    QButtonGroup* optionGroup(const std::string& group);
+    std::string text(int number) const;
+
+    void propertyChanged(Control& control, Property property) override;
+    void captionChanged(Form& form) override;
+    void settled(Form& form) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void customEvent(QEvent* event) override;
+
+    /// The window's caption has changed.
+    std::function<void()> onCaption;
+
+ private:
+    QWidget* keep(std::unique_ptr<BoundControl> bound);
+    /// The widget of the first of the names that the form has; null for none.
+    QWidget* firstOf(const std::vector<std::string>& names);
+    QWidget* withUpDown(const std::string& field);
+    void nameFor(const std::string& field, const std::string& caption);
+    bool keyPressed(BoundControl& bound, int key, Qt::KeyboardModifiers modifiers);
+    void stepCompanion(const BoundControl& bound, int steps);
+    void refreshDrawings();
+    void recolour();
+    void refreshLater();
+
+    Form* form_;
+    QWidget* window_ = nullptr;
+    std::map<std::string, std::unique_ptr<BoundControl>> bound_;
+    std::map<const QObject*, BoundControl*> keyboards_;
+    std::map<std::string, QButtonGroup*> groups_;
+    /// Fields by the caption that names them to screen readers.
+    std::multimap<std::string, std::string> named_;
+    std::vector<Drawing*> drawings_;
+    std::vector<std::function<void()>> refreshers_;
+    std::function<void(std::exception_ptr)> faults_;
+    bool leavesByFocus_ = true;
+    bool refreshDue_ = false;
+    int writing_ = 0;
+    int actions_ = 0;
+};
+
+/// "FLInletTempLabel(0)" of "FLInletTempText(0)": the control's name with another suffix before
+/// its index, and without the index when `indexed` is false.
+std::string companionName(const std::string& control, const std::string& suffix,
+                          bool indexed = true);
+
+}  // namespace varnholt

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the binder learns from the widgets' own events: keys, the focus, the colour scheme.
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QLabel>
+
+#include "desktop/binding/binder.h"
+#include "desktop/widgets/icons.h"
+#include "desktop/widgets/qt_text.h"
+
+namespace varnholt {
+namespace {
+
+/// The focus comes back by itself: the person has not left the field.
+bool comesBack(Qt::FocusReason reason) {
+    return reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason ||
+           reason == Qt::MenuBarFocusReason;
+}
+
+bool takesText(const Control& control) {
+    return control.kind() == ControlKind::text || control.editable();
+}
+
+/// Whether what is pasted replaces the whole text.
+bool replacesAll(const QWidget* widget) {
+    const auto* edit = qobject_cast<const QLineEdit*>(widget);
+    if (edit == nullptr) edit = widget->findChild<const QLineEdit*>();
+    return edit != nullptr && edit->selectedText() == edit->text();
+}
+
+}  // namespace
+
+void Binder::watchKeys(BoundControl& bound, QWidget* keyboard) {
+    keyboards_[keyboard] = &bound;
+    keyboard->installEventFilter(this);
+}
+
+bool Binder::eventFilter(QObject* watched, QEvent* event) {
+    if (form_ == nullptr) return false;
+    if (watched == window_ && event->type() == QEvent::PaletteChange) {
+        // Once the window has been dressed in the new colours too.
+        QMetaObject::invokeMethod(
+            this, [this] { recolour(); }, Qt::QueuedConnection);
+        return false;
+    }
+    if (event->type() == QEvent::Show) {
+        for (Drawing* drawing : drawings_) {
+            if (drawing != watched) continue;
+            drawing->refresh();
+            drawing->setAccessibleDescription(drawing->description());
+        }
+        return false;
+    }
+    const auto found = keyboards_.find(watched);
+    if (found == keyboards_.end()) return false;
+    BoundControl& bound = *found->second;
+    if (event->type() == QEvent::FocusOut && leavesByFocus_ &&
+        !comesBack(static_cast<QFocusEvent*>(event)->reason())) {
+        leave(bound);
+    } else if (event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        return keyPressed(bound, key->key(), key->modifiers());
+    }
+    return false;
+}
+
+/// Shows the controls' own colours in the scheme that has come.
+void Binder::recolour() {
+    if (form_ == nullptr) return;
+    for (const auto& [name, bound] : bound_) {
+        bound->show(Property::forecolor);
+        bound->show(Property::backcolor);
+        const QString icon = bound->widget()->property("houseIcon").toString();
+        if (!icon.isEmpty())
+            picture(name, icon, bound->widget()->property("houseIconSize").toInt());
+    }
+}
+
+/// Whether the key has done all that it does.
+bool Binder::keyPressed(BoundControl& bound, int key, Qt::KeyboardModifiers modifiers) {
+    const Control& control = bound.control();
+    const bool mine = form_->takesKeys(control.name());
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    const Qt::KeyboardModifiers held = modifiers & ~Qt::KeypadModifier;
+    if (enter && held == Qt::NoModifier && control.kind() != ControlKind::richText) {
+        // An editable combo would take the text for a choice of its own.
+        const bool done = mine || control.editable();
+        if (mine) act(bound, [](Form& f, const std::string& name) { f.key(name, "Enter"); });
+        return done;
+    }
+    if (key == Qt::Key_V && held == Qt::ControlModifier && control.enabled() && !control.locked() &&
+        (mine || (takesText(control) && replacesAll(bound.widget())))) {
+        act(bound, [](Form& f, const std::string& name) { f.key(name, "Ctrl+V"); });
+        return true;
+    }
+    if ((key == Qt::Key_Up || key == Qt::Key_Down) && control.kind() == ControlKind::text &&
+        !control.locked() && held == Qt::NoModifier) {
+        stepCompanion(bound, key == Qt::Key_Up ? 1 : -1);
+        return true;
+    }
+    return false;
+}
+
+void Binder::stepCompanion(const BoundControl& bound, int steps) {
+    const std::string name = companionName(bound.control().name(), "UpDown");
+    const BoundControl* buttons = find(name);
+    if (buttons == nullptr || buttons->control().kind() != ControlKind::upDown) return;
+    if (buttons->widget()->isEnabled()) static_cast<UpDownButtons*>(buttons->widget())->step(steps);
+}
+
+}  // namespace varnholt

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Check boxes, options, lists, sliders and spin buttons.
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QRadioButton>
+
+#include "desktop/binding/binder.h"
+#include "desktop/binding/bound_control.h"
+#include "desktop/widgets/list_view.h"
+#include "desktop/widgets/qt_text.h"
+
+namespace varnholt {
+namespace {
+
+/// What check boxes and option buttons have in common.
+class BoundToggle : public BoundControl {
+ public:
+    BoundToggle(Binder& binder, Control& control, QAbstractButton* button)
+        : BoundControl(binder, control, button), button_(button) {
+        QObject::connect(button_, &QAbstractButton::clicked, &binder, [this] {
+            this->binder().act(*this, [](Form& f, const std::string& name) { f.click(name); });
+        });
+    }
+
+    void show(Property property) override {
+        if (property == Property::caption) {
+            button_->setText(buttonCaption(control().caption()));
+            button_->setAccessibleName(qt(control().caption()));
+        } else if (property == Property::checked) {
+            showChecked();
+        } else {
+            BoundControl::show(property);
+        }
+    }
+    Shown shown(Property property) const override {
+        if (property == Property::caption) return captionOfButton(button_->text());
+        if (property == Property::checked) return button_->isChecked();
+        return BoundControl::shown(property);
+    }
+
+ protected:
+    QAbstractButton* button() const { return button_; }
+    virtual void showChecked() { button_->setChecked(control().checked()); }
+
+ private:
+    QAbstractButton* button_;
+};
+
+class BoundCheck : public BoundToggle {
+ public:
+    BoundCheck(Binder& binder, Control& control) : BoundToggle(binder, control, new QCheckBox) {
+        showAll();
+    }
+};
+
+class BoundOption : public BoundToggle {
+ public:
+    BoundOption(Binder& binder, Control& control)
+        : BoundToggle(binder, control, new QRadioButton),
+          group_(binder.optionGroup(control.group())) {
+        group_->addButton(button());
+        showAll();
+    }
+
+ protected:
+    void showChecked() override {
+        // An exclusive group would not let its last button go.
+        group_->setExclusive(false);
+        BoundToggle::showChecked();
+        group_->setExclusive(true);
+    }
+
+ private:
+    QButtonGroup* group_;
+};
+
+class BoundList : public BoundControl {
+ public:
+    BoundList(Binder& binder, Control& control)
+        : BoundControl(binder, control, new ListView(control.multiple())),
+          list_(static_cast<ListView*>(widget())) {
+        list_->onPicked = [this] { picked(); };
+        showAll();
+    }
+
+    void show(Property property) override {
+        if (property == Property::items)
+            list_->setItems(control().items());
+        else if (property == Property::selected)
+            list_->setRows(control().selected());
+        else
+            BoundControl::show(property);
+    }
+    Shown shown(Property property) const override {
+        const std::vector<int> rows = list_->rows();
+        switch (property) {
+            case Property::items:
+                return list_->entries().items();
+            case Property::selected:
+                return rows;
+            case Property::index:
+                return rows.empty() ? -1 : rows.front();
+            case Property::text:
+                return rows.empty() ? std::string()
+                                    : list_->entries().items()[static_cast<std::size_t>(rows[0])];
+            default:
+                return BoundControl::shown(property);
+        }
+    }
+
+ private:
+    void picked() {
+        const std::vector<int> rows = list_->rows();
+        binder().act(*this, [this, rows](Form& f, const std::string& name) {
+            if (control().multiple())
+                f.select(name, rows);
+            else
+                f.choose(name, rows.empty() ? -1 : rows.front());
+        });
+    }
+
+    ListView* list_;
+};
+
+/// Sliders and spin buttons have the same members.
+template <class Widget>
+class BoundNumber : public BoundControl {
+ public:
+    BoundNumber(Binder& binder, Control& control)
+        : BoundControl(binder, control, new Widget), number_(static_cast<Widget*>(widget())) {
+        number_->onMoved = [this](double value) {
+            this->binder().act(*this,
+                               [value](Form& f, const std::string& name) { f.slide(name, value); });
+        };
+        showAll();
+    }
+
+    void show(Property property) override {
+        if (property == Property::min || property == Property::max)
+            number_->setNumbers(control().min(), control().max());
+        else if (property == Property::value)
+            number_->setNumber(control().value());
+        else
+            BoundControl::show(property);
+    }
+    Shown shown(Property property) const override {
+        if (property == Property::min) return number_->lowest();
+        if (property == Property::max) return number_->highest();
+        if (property == Property::value) return number_->number();
+        return BoundControl::shown(property);
+    }
+
+ private:
+    Widget* number_;
+};
+
+}  // namespace
+
+std::unique_ptr<BoundControl> bindCheck(Binder& binder, Control& control) {
+    return std::make_unique<BoundCheck>(binder, control);
+}
+std::unique_ptr<BoundControl> bindOption(Binder& binder, Control& control) {
+    return std::make_unique<BoundOption>(binder, control);
+}
+std::unique_ptr<BoundControl> bindList(Binder& binder, Control& control) {
+    return std::make_unique<BoundList>(binder, control);
+}
+std::unique_ptr<BoundControl> bindSlider(Binder& binder, Control& control) {
+    return std::make_unique<BoundNumber<NumberSlider>>(binder, control);
+}
+std::unique_ptr<BoundControl> bindUpDown(Binder& binder, Control& control) {
+    return std::make_unique<BoundNumber<UpDownButtons>>(binder, control);
+}
+
+}  // namespace varnholt

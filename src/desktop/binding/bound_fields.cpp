@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Text fields, rich text, combos and dates.
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QPlainTextEdit>
+#include <QWheelEvent>
+
+#include "desktop/binding/binder.h"
+#include "desktop/binding/bound_control.h"
+#include "desktop/widgets/desktop_texts.h"
+#include "desktop/widgets/icons.h"
+#include "desktop/widgets/qt_text.h"
+
+namespace varnholt {
+namespace {
+
+/// Figures that a numeric field must have room for: "-12345.67".
+constexpr int figuresInField = 9;
+
+class BoundText : public BoundControl {
+ public:
+    BoundText(Binder& binder, Control& control, bool numeric)
+        : BoundControl(binder, control, new FieldEdit(numeric ? figuresInField : 0)),
+          edit_(static_cast<FieldEdit*>(widget())) {
+        if (numeric) edit_->setFont(figureFont(edit_->font()));
+        QObject::connect(edit_, &QLineEdit::textEdited, &binder, [this](const QString& text) {
+            this->binder().act(
+                *this, [text](Form& f, const std::string& name) { f.type(name, plain(text)); });
+        });
+        binder.watchKeys(*this, edit_);
+        showAll();
+    }
+
+    void show(Property property) override {
+        if (property == Property::text) {
+            // Writing the text that stands there would move the cursor away from where one types.
+            if (plain(edit_->text()) == control().text()) return;
+            edit_->setText(qt(control().text()));
+            if (!edit_->hasFocus()) edit_->setCursorPosition(0);
+        } else if (property == Property::locked) {
+            edit_->setReadOnly(control().locked());
+        } else if (property == Property::refused) {
+            showRefused();
+        } else {
+            BoundControl::show(property);
+        }
+    }
+    Shown shown(Property property) const override {
+        if (property == Property::text) return plain(edit_->text());
+        if (property == Property::locked) return edit_->isReadOnly();
+        return BoundControl::shown(property);
+    }
+
+ private:
+    void showRefused() {
+        const QString reason =
+            control().refused() ? qt(binder().text(desktop_texts::refusedValue)) : QString();
+        if (edit_->property("refused").toBool() == control().refused()) return;
+        setStyleProperty("refused", control().refused());
+        edit_->setMark(control().refused() ? houseIcon(QStringLiteral("refused")) : QIcon(),
+                       reason);
+        edit_->setAccessibleDescription(reason);
+    }
+
+    FieldEdit* edit_;
+};
+
+class BoundRichText : public BoundControl {
+ public:
+    BoundRichText(Binder& binder, Control& control)
+        : BoundControl(binder, control, new QPlainTextEdit),
+          edit_(static_cast<QPlainTextEdit*>(widget())) {
+        edit_->setTabChangesFocus(true);
+        edit_->setMinimumHeight(6 * edit_->fontMetrics().lineSpacing());
+        QObject::connect(edit_, &QPlainTextEdit::textChanged, &binder, [this] {
+            const std::string text = written();
+            if (text == this->control().text()) return;
+            this->binder().act(*this,
+                               [text](Form& f, const std::string& name) { f.type(name, text); });
+        });
+        binder.watchKeys(*this, edit_);
+        showAll();
+    }
+
+    void show(Property property) override {
+        if (property == Property::text) {
+            if (written() != control().text()) edit_->setPlainText(qt(control().text()));
+        } else if (property == Property::locked) {
+            edit_->setReadOnly(control().locked());
+        } else {
+            BoundControl::show(property);
+        }
+    }
+    Shown shown(Property property) const override {
+        if (property == Property::text) return written();
+        if (property == Property::locked) return edit_->isReadOnly();
+        return BoundControl::shown(property);
+    }
+
+ private:
+    /// The lines of a form's text end in CR LF.
+    std::string written() const {
+        return plain(edit_->toPlainText().replace(QLatin1Char('\n'), QLatin1String("\r\n")));
+    }
+
+    QPlainTextEdit* edit_;
+};
+
+/// A combo that the wheel changes only when one works it, not while the page scrolls by.
+class CalmCombo : public QComboBox {
+ protected:
+    void wheelEvent(QWheelEvent* event) override {
+        if (hasFocus())
+            QComboBox::wheelEvent(event);
+        else
+            event->ignore();
+    }
+};
+
+class BoundCombo : public BoundControl {
+ public:
+    BoundCombo(Binder& binder, Control& control)
+        : BoundControl(binder, control, new CalmCombo), combo_(static_cast<QComboBox*>(widget())) {
+        combo_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        combo_->setMinimumContentsLength(8);
+        combo_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        combo_->setMaxVisibleItems(20);
+        if (control.editable()) makeEditable();
+        QObject::connect(combo_, &QComboBox::activated, &binder, [this](int index) {
+            this->binder().act(
+                *this, [index](Form& f, const std::string& name) { f.choose(name, index); });
+        });
+        binder.watchKeys(*this, combo_);
+        showAll();
+    }
+
+    void show(Property property) override {
+        switch (property) {
+            case Property::items:
+                showItems();
+                break;
+            case Property::index:
+                if (combo_->currentIndex() != control().index()) {
+                    combo_->setCurrentIndex(control().index());
+                    showText();
+                }
+                break;
+            case Property::text:
+                showText();
+                break;
+            case Property::locked:
+                combo_->setProperty("locked", control().locked());
+                combo_->setAttribute(Qt::WA_TransparentForMouseEvents, control().locked());
+                break;
+            default:
+                BoundControl::show(property);
+        }
+    }
+    Shown shown(Property property) const override {
+        switch (property) {
+            case Property::text:
+                if (!control().editable() && combo_->currentIndex() < 0)
+                    return plain(combo_->placeholderText());
+                return plain(combo_->currentText());
+            case Property::index:
+                return combo_->currentIndex();
+            case Property::items: {
+                std::vector<std::string> items;
+                items.reserve(static_cast<std::size_t>(combo_->count()));
+                for (int i = 0; i < combo_->count(); ++i)
+                    items.push_back(plain(combo_->itemText(i)));
+                return items;
+            }
+            case Property::locked:
+                return combo_->property("locked").toBool();
+            default:
+                return BoundControl::shown(property);
+        }
+    }
+
+ private:
+    void makeEditable() {
+        combo_->setEditable(true);
+        combo_->setInsertPolicy(QComboBox::NoInsert);
+        combo_->setCompleter(nullptr);
+        QObject::connect(
+            combo_->lineEdit(), &QLineEdit::textEdited, &binder(), [this](const QString& text) {
+                binder().act(
+                    *this, [text](Form& f, const std::string& name) { f.type(name, plain(text)); });
+            });
+    }
+
+    void showText() {
+        const QString text = qt(control().text());
+        if (!control().editable())
+            combo_->setPlaceholderText(text);  // stands there while no entry is chosen
+        else if (combo_->currentText() != text)
+            combo_->setEditText(text);
+    }
+
+    void showItems() {
+        const auto& items = control().items();
+        if (static_cast<std::size_t>(combo_->count()) == items.size()) {
+            for (std::size_t i = 0; i < items.size(); ++i)
+                combo_->setItemText(static_cast<int>(i), qt(items[i]));
+        } else {
+            QStringList texts;
+            for (const std::string& item : items) texts << qt(item);
+            combo_->clear();
+            combo_->addItems(texts);
+        }
+        combo_->setCurrentIndex(control().index());
+        showText();
+    }
+
+    QComboBox* combo_;
+};
+
+class CalmDateEdit : public QDateEdit {
+ public:
+    /// The style's own hint leaves no room for the arrow beside the whole date.
+    QSize sizeHint() const override {
+        constexpr int arrowAndPadding = 48;
+        const int date = fontMetrics().horizontalAdvance(QStringLiteral("0000-00-00"));
+        return {date + arrowAndPadding, QDateEdit::sizeHint().height()};
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+};
+
+class BoundDate : public BoundControl {
+ public:
+    BoundDate(Binder& binder, Control& control)
+        : BoundControl(binder, control, new CalmDateEdit),
+          edit_(static_cast<QDateEdit*>(widget())) {
+        edit_->setCalendarPopup(true);
+        edit_->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+        edit_->setFont(figureFont(edit_->font()));
+        edit_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        QObject::connect(edit_, &QDateEdit::dateChanged, &binder, [this](QDate date) {
+            this->binder().act(
+                *this, [date](Form& f, const std::string& name) { f.pickDate(name, plain(date)); });
+        });
+        binder.watchKeys(*this, edit_);
+        showAll();
+    }
+
+    void show(Property property) override {
+        if (property == Property::date)
+            edit_->setDate(qt(control().date()));
+        else if (property == Property::locked)
+            edit_->setReadOnly(control().locked());
+        else
+            BoundControl::show(property);
+    }
+    Shown shown(Property property) const override {
+        if (property == Property::value || property == Property::date) return plain(edit_->date());
+        if (property == Property::text) return isoText(plain(edit_->date()));
+        if (property == Property::locked) return edit_->isReadOnly();
+        return BoundControl::shown(property);
+    }
+
+ private:
+    QDateEdit* edit_;
+};
+
+}  // namespace
+
+std::unique_ptr<BoundControl> bindText(Binder& binder, Control& control) {
+    const bool typed = binder.form() != nullptr && binder.form()->fields().has(control.name());
+    // A text with a unit behind it is a figure too, though nobody types it.
+    const bool shown = binder.has(companionName(control.name(), "UnitLabel")) ||
+                       binder.has(companionName(control.name(), "UnitsLabel"));
+    return std::make_unique<BoundText>(binder, control, typed || shown);
+}
+std::unique_ptr<BoundControl> bindRichText(Binder& binder, Control& control) {
+    return std::make_unique<BoundRichText>(binder, control);
+}
+std::unique_ptr<BoundControl> bindCombo(Binder& binder, Control& control) {
+    return std::make_unique<BoundCombo>(binder, control);
+}
+std::unique_ptr<BoundControl> bindDate(Binder& binder, Control& control) {
+    return std::make_unique<BoundDate>(binder, control);
+}
+
+}  // namespace varnholt

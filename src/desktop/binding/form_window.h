@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+#include <exception>
+#include <functional>
+
+#include "desktop/binding/binder.h"
+
+namespace varnholt {
+
+/// Takes the failures of handlers, which must not pass through the toolkit.
+using FaultTaker = std::function<void(std::exception_ptr)>;
+
+/// What lays out a form's controls: gets the form's binder, returns the whole view.
+using ViewMaker = std::function<QWidget*(Binder& bind)>;
+
+/// The widgets of one form.
+class FormWindow : public QWidget {
+ public:
+    FormWindow(Form& form, const ViewMaker& makeView, const FaultTaker& faults);
+    ~FormWindow() override;
+
+    Binder& binder() { return binder_; }
+    QWidget* view() const { return view_; }
+
+ private:
+    Binder binder_;
+    QWidget* view_;
+};
+
+}  // namespace varnholt

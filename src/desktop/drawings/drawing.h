@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+namespace varnholt {
+
+/// A picture drawn from the model. It is refreshed after every action of the user.
+class Drawing : public QWidget {
+ public:
+    explicit Drawing(QWidget* parent = nullptr) : QWidget(parent) {}
+
+    /// Takes what is to be drawn from the form again. Called only while the drawing is on show.
+    virtual void refresh() = 0;
+    /// What the picture shows, for a screen reader.
+    virtual QString description() const = 0;
+};
+
+}  // namespace varnholt

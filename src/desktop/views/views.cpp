@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/views/views.h"
+
+#include "desktop/views/view_registry.h"
+
+namespace varnholt {
+
+void registerViews(ViewRegistry& views) {
+    views.registerView("frmBHDesign", makeBoreholeView);
+    views.registerView("frmZoneManage", makeZoneManagerView);
+    views.registerView("frmAvgBlock", makeAverageBlockView);
+    views.registerView("frmLinkOptions", makeLinkOptionsView);
+}
+
+}  // namespace varnholt

@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/widgets/house_widgets.h"
+
+#include <QAction>
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/widgets/icons.h"
+#include "desktop/widgets/look.h"
+
+namespace varnholt {
+
+FieldEdit::FieldEdit(int characters, QWidget* parent) : QLineEdit(parent), characters_(0) {
+    if (characters > 0) setFigures(characters);
+}
+
+void FieldEdit::setFigures(int characters) {
+    characters_ = characters;
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize FieldEdit::sizeHint() const {
+    const QSize usual = QLineEdit::sizeHint();
+    if (characters_ == 0) return {std::max(usual.width(), 160), usual.height()};
+    constexpr int edges = 18;
+    return {fontMetrics().horizontalAdvance(u'0') * characters_ + edges, usual.height()};
+}
+
+QSize FieldEdit::minimumSizeHint() const {
+    return characters_ == 0 ? QLineEdit::minimumSizeHint() : sizeHint();
+}
+
+void FieldEdit::setMark(const QIcon& icon, const QString& reason) {
+    if (mark_ != nullptr) removeAction(mark_);
+    mark_ = nullptr;
+    if (icon.isNull()) return;
+    mark_ = addAction(icon, QLineEdit::LeadingPosition);
+    mark_->setToolTip(reason);
+}
+
+namespace {
+constexpr int positionsPerUnit = 1000;
+/// Ranges below this many units are worked in tenths.
+constexpr double fineRange = 20;
+}  // namespace
+
+NumberSlider::NumberSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
+    setNumbers(0, 100);
+    setMinimumWidth(160);
+    connect(this, &QSlider::valueChanged, this, [this](int position) { snap(position); });
+}
+
+int NumberSlider::positionOf(double number) const {
+    // The positions are whole numbers of 32 bits.
+    constexpr double widest = 2e6;
+    const double above = std::clamp(number - lowest_, 0.0, widest);
+    return static_cast<int>(std::lround(above * positionsPerUnit));
+}
+
+void NumberSlider::setNumbers(double lowest, double highest) {
+    lowest_ = lowest;
+    highest_ = highest;
+    step_ = highest_ - lowest_ < fineRange ? 0.1 : 1;
+    writing_ = true;
+    setRange(0, positionOf(highest_));
+    setSingleStep(static_cast<int>(step_ * positionsPerUnit));
+    setPageStep(10 * singleStep());
+    setValue(positionOf(number_));
+    writing_ = false;
+}
+
+void NumberSlider::setNumber(double number) {
+    number_ = number;
+    writing_ = true;
+    setValue(positionOf(number));
+    writing_ = false;
+}
+
+void NumberSlider::snap(int position) {
+    if (writing_) return;
+    const double number = lowest_ + static_cast<double>(position) / positionsPerUnit;
+    const double snapped = std::round(number / step_) * step_;
+    moveTo(std::clamp(snapped, lowest_, highest_));
+}
+
+void NumberSlider::moveTo(double number) {
+    setNumber(number);
+    if (onMoved) onMoved(number);
+}
+
+UpDownButtons::UpDownButtons(QWidget* parent)
+    : QWidget(parent), up_(new QToolButton(this)), down_(new QToolButton(this)) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    for (QToolButton* button : {up_, down_}) {
+        button->setProperty("stepper", true);
+        button->setAutoRepeat(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setIconSize({9, 9});
+        button->setFixedWidth(18);
+        button->setMinimumHeight(12);
+        button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+        layout->addWidget(button);
+    }
+    up_->setIcon(houseIcon(QStringLiteral("step-up")));
+    down_->setIcon(houseIcon(QStringLiteral("step-down")));
+    // As high as the field beside it.
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    setFocusPolicy(Qt::StrongFocus);
+    connect(up_, &QToolButton::clicked, this, [this] { step(1); });
+    connect(down_, &QToolButton::clicked, this, [this] { step(-1); });
+}
+
+void UpDownButtons::setNumbers(double lowest, double highest) {
+    lowest_ = lowest;
+    highest_ = highest;
+    refresh();
+}
+
+void UpDownButtons::setNumber(double number) {
+    number_ = number;
+    refresh();
+}
+
+void UpDownButtons::moveTo(double number) {
+    const double within = std::max(lowest_, std::min(highest_, number));
+    if (onMoved) onMoved(within);
+}
+
+void UpDownButtons::refresh() {
+    up_->setEnabled(number_ < highest_);
+    down_->setEnabled(number_ > lowest_);
+}
+
+void UpDownButtons::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Up)
+        step(1);
+    else if (event->key() == Qt::Key_Down)
+        step(-1);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void UpDownButtons::wheelEvent(QWheelEvent* event) {
+    // The wheel scrolls the page; it does not change a design by accident.
+    event->ignore();
+}
+
+GroupBox::GroupBox(QWidget* parent)
+    : QWidget(parent), title_(new QLabel(this)), layout_(new QVBoxLayout(this)) {
+    QFont font = title_->font();
+    font.setWeight(QFont::DemiBold);
+    title_->setFont(font);
+    title_->setTextFormat(Qt::PlainText);
+    title_->hide();
+    layout_->setContentsMargins(2 * gridStep, gridStep + gridStep / 2, 2 * gridStep,
+                                gridStep + gridStep / 2);
+    layout_->setSpacing(gridStep);
+    layout_->addWidget(title_);
+}
+
+void GroupBox::setTitle(const QString& title) {
+    title_->setText(title);
+    title_->setVisible(!title.isEmpty());
+    setAccessibleName(title);
+}
+
+void GroupBox::setContent(QWidget* content) {
+    delete content_;
+    content_ = content;
+    if (content == nullptr) return;
+    layout_->addWidget(content, 1);
+    for (QWidget* inner : content->findChildren<QWidget*>())
+        if (auto* group = dynamic_cast<GroupBox*>(inner)) group->setNested(true);
+    if (auto* group = dynamic_cast<GroupBox*>(content)) group->setNested(true);
+}
+
+void GroupBox::setNested(bool nested) {
+    nested_ = nested;
+    layout_->setContentsMargins(0, gridStep / 2, 0, gridStep / 2);
+}
+
+void GroupBox::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const Look& look = lookOf(palette());
+    painter.setPen(look.hairline);
+    if (nested_) {
+        if (title_->isHidden()) return;
+        const int middle = title_->geometry().center().y();
+        const int from =
+            title_->x() + title_->fontMetrics().horizontalAdvance(title_->text()) + gridStep;
+        if (from < width()) painter.drawLine(from, middle, width() - 1, middle);
+        return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(look.surface);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
+}
+
+ScrollPage::ScrollPage(QWidget* page) {
+    page->setObjectName(QStringLiteral("page"));
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidget(page);
+    viewport()->setAutoFillBackground(false);
+}
+
+QSize ScrollPage::sizeHint() const { return widget()->sizeHint() + QSize(2, 2); }
+
+}  // namespace varnholt

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/windows/child_frame.h"
+
+#include <QCloseEvent>
+
+namespace varnholt {
+
+ChildFrame::ChildFrame() { setAttribute(Qt::WA_DeleteOnClose, false); }
+
+void ChildFrame::setContent(FormWindow* content) {
+    content_ = content;
+    setWidget(content);
+    setWindowIcon(content->windowIcon());
+}
+
+void ChildFrame::closeEvent(QCloseEvent* event) {
+    // The main window takes the frame away, after the form's question.
+    event->ignore();
+    if (onCloseBox) onCloseBox();
+}
+
+}  // namespace varnholt

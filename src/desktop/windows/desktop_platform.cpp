@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/windows/desktop_platform.h"
+
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QTimer>
+#include <QUrl>
+#include <algorithm>
+
+#include "basis/file_system.h"
+#include "desktop/widgets/qt_text.h"
+#include "desktop/windows/main_window.h"
+
+namespace varnholt {
+namespace {
+
+QMessageBox::Icon iconOf(MessageIcon icon) {
+    switch (icon) {
+        case MessageIcon::information:
+            return QMessageBox::Information;
+        case MessageIcon::exclamation:
+            return QMessageBox::Warning;
+        case MessageIcon::question:
+            return QMessageBox::Question;
+        case MessageIcon::critical:
+            return QMessageBox::Critical;
+        case MessageIcon::plain:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
+    switch (buttons) {
+        case Buttons::yesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case Buttons::yesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case Buttons::okCancel:
+            break;
+    }
+    return QMessageBox::Ok | QMessageBox::Cancel;
+}
+
+Answer answerOf(int button) {
+    switch (button) {
+        case QMessageBox::Yes:
+            return Answer::yes;
+        case QMessageBox::No:
+            return Answer::no;
+        case QMessageBox::Ok:
+            return Answer::ok;
+        default:
+            return Answer::cancel;
+    }
+}
+
+/// Shows the dialog's kinds of files; a saved file takes the extension of the chosen kind.
+void offerFilters(QFileDialog& picker, const FileDialog& dialog) {
+    const std::vector<FileFilter> filters = fileFilters(dialog.filter);
+    if (filters.empty()) return;
+    QStringList names;
+    for (const FileFilter& filter : filters) names << qt(nameFilter(filter));
+    const auto choose = [&picker, names, filters](const QString& name) {
+        const auto chosen = names.indexOf(name);
+        if (chosen >= 0)
+            picker.setDefaultSuffix(qt(extensionOf(filters[static_cast<std::size_t>(chosen)])));
+    };
+    QObject::connect(&picker, &QFileDialog::filterSelected, &picker, choose);
+    const QString first =
+        names[std::clamp(dialog.filterIndex, 1, static_cast<int>(names.size())) - 1];
+    picker.setNameFilters(names);
+    picker.selectNameFilter(first);
+    if (dialog.saving) choose(first);
+}
+
+/// How long an operation runs before its progress is shown, and between two repaints, in ms.
+constexpr int patience = 250;
+constexpr int repaintEvery = 40;
+
+}  // namespace
+
+DesktopPlatform::DesktopPlatform(WindowShelf& shelf) : shelf_(shelf) {}
+
+DesktopPlatform::~DesktopPlatform() = default;
+
+void DesktopPlatform::message(MessageIcon icon, const std::string& title, const std::string& text) {
+    QMessageBox box(iconOf(icon), qt(title), qt(text), QMessageBox::Ok,
+                    shelf_.mainWindow().dialogParent());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+Answer DesktopPlatform::question(Buttons buttons, const std::string& title,
+                                 const std::string& text) {
+    QMessageBox box(QMessageBox::Question, qt(title), qt(text), buttonsOf(buttons),
+                    shelf_.mainWindow().dialogParent());
+    box.setTextFormat(Qt::PlainText);
+    return answerOf(box.exec());
+}
+
+std::optional<std::string> DesktopPlatform::chooseFile(const FileDialog& dialog) {
+    QFileDialog picker(shelf_.mainWindow().dialogParent(), qt(dialog.title), qt(dialog.folder));
+    picker.setAcceptMode(dialog.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    picker.setFileMode(dialog.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    picker.setOption(QFileDialog::DontConfirmOverwrite, !dialog.overwritePrompt);
+    offerFilters(picker, dialog);
+    if (!dialog.proposedName.empty()) picker.selectFile(qt(dialog.proposedName));
+    if (picker.exec() != QDialog::Accepted || picker.selectedFiles().isEmpty()) return std::nullopt;
+    return plain(picker.selectedFiles().front());
+}
+
+std::string DesktopPlatform::clipboard() { return plain(QGuiApplication::clipboard()->text()); }
+
+void DesktopPlatform::setClipboard(const std::string& text) {
+    QGuiApplication::clipboard()->setText(qt(text));
+}
+
+void DesktopPlatform::pause(int milliseconds) {
+    // A person's input waits, so that no command starts in the midst of another.
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+void DesktopPlatform::progress(const std::string& what, std::size_t done, std::size_t total) {
+    if (done >= total) {
+        progress_.reset();
+        started_.invalidate();
+        return;
+    }
+    if (!started_.isValid()) started_.start();
+    if (started_.elapsed() < patience) return;
+    if (!progress_) {
+        progress_ = std::make_unique<QProgressDialog>(shelf_.mainWindow().dialogParent());
+        progress_->setWindowModality(Qt::ApplicationModal);
+        progress_->setCancelButton(nullptr);
+        progress_->setMinimumDuration(0);
+        progress_->setAutoClose(false);
+        progress_->setAutoReset(false);
+        painted_.invalidate();
+    }
+    if (painted_.isValid() && painted_.elapsed() < repaintEvery) return;
+    painted_.start();
+    progress_->setLabelText(qt(what));
+    progress_->setMaximum(static_cast<int>(total));
+    progress_->setValue(static_cast<int>(done));
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void DesktopPlatform::openOutside(const std::string& address) {
+    if (mayOpenOutside(address)) QDesktopServices::openUrl(QUrl(qt(address)));
+}
+
+void DesktopPlatform::quit(Form&) {
+    // The handler at hand ends first.
+    QTimer::singleShot(0, &shelf_.mainWindow(), [this] { shelf_.mainWindow().close(); });
+}
+
+bool mayOpenOutside(const std::string& address) {
+    const QString scheme = QUrl(qt(address)).scheme().toLower();
+    return scheme == QLatin1String("http") || scheme == QLatin1String("https") ||
+           scheme == QLatin1String("file");
+}
+
+std::vector<FileFilter> fileFilters(const std::string& filter) {
+    std::vector<FileFilter> filters;
+    const QStringList parts = qt(filter).split(u'|');
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
+        filters.push_back({plain(parts[i]), plain(parts[i + 1])});
+    return filters;
+}
+
+std::string nameFilter(const FileFilter& filter) {
+    // The patterns stand in the caption's brackets, parted by blanks.
+    QString caption = qt(filter.caption);
+    if (const qsizetype bracket = caption.lastIndexOf(u'('); bracket >= 0)
+        caption.truncate(bracket);
+    QString patterns = qt(filter.patterns).replace(u';', u' ').simplified();
+    patterns.replace(QLatin1String("*.*"), QLatin1String("*"));
+    return plain(QStringLiteral("%1 (%2)").arg(caption.trimmed(), patterns));
+}
+
+std::string extensionOf(const FileFilter& filter) {
+    const std::string pattern = filter.patterns.substr(0, filter.patterns.find(';'));
+    const bool one = pattern.starts_with("*.") && pattern.find('*', 1) == std::string::npos;
+    return one ? pattern.substr(2) : std::string();
+}
+
+}  // namespace varnholt

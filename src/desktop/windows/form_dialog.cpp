@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/windows/form_dialog.h"
+
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace varnholt {
+
+FormDialog::FormDialog(FormWindow* content, QWidget* parent) : QDialog(parent), content_(content) {
+    setModal(true);
+    setWindowTitle(content->windowTitle());
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(content);
+    resize(sizeHint().boundedTo(screen()->availableSize() * 0.9));
+    makeFirstButtonDefault();
+    content_->binder().onSettled([this] { endWithForm(); });
+}
+
+/// Enter presses the form's first button.
+void FormDialog::makeFirstButtonDefault() {
+    for (const auto& control : content_->binder().form()->controls()) {
+        if (control->kind() != ControlKind::button) continue;
+        const BoundControl* bound = content_->binder().find(control->name());
+        auto* button = bound == nullptr ? nullptr : qobject_cast<QPushButton*>(bound->widget());
+        if (button == nullptr) continue;
+        button->setDefault(true);
+        return;
+    }
+}
+
+void FormDialog::endWithForm() {
+    const Form* form = content_->binder().form();
+    if (form == nullptr || form->modalEnded()) done(Accepted);
+}
+
+void FormDialog::reject() {
+    Form* form = content_->binder().form();
+    if (form == nullptr || form->modalEnded()) return QDialog::reject();
+    if (!form->queryClose()) return;
+    form->endModal();
+    QDialog::reject();
+}
+
+}  // namespace varnholt

@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/windows/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScreen>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QUrl>
+
+#include "basis/file_system.h"
+#include "desktop/binding/mnemonics.h"
+#include "desktop/widgets/desktop_texts.h"
+#include "desktop/widgets/icons.h"
+#include "desktop/widgets/look.h"
+#include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/theme.h"
+#include "desktop/windows/start_page.h"
+#include "frame/design_document.h"
+#include "frame/varnmain.h"
+#include "loads/loads_window.h"
+#include "persistence/project_commands.h"
+
+namespace varnholt {
+namespace {
+
+/// The file that a window shows; empty for none.
+std::string fileOf(const Form& form) {
+    if (const auto* design = dynamic_cast<const DesignDocument*>(&form))
+        return design->currentFileCheck ? design->filePath() : std::string();
+    if (const auto* loads = dynamic_cast<const LoadsWindow*>(&form))
+        return loads->workingFileCheck
+                   ? joinPath(loads->workingZoneDirectory, loads->workingZoneFile)
+                   : std::string();
+    return {};
+}
+
+bool isOurs(const QUrl& url) {
+    const QString name = url.fileName().toLower();
+    return url.isLocalFile() &&
+           (name.endsWith(QLatin1String(".vht")) || name.endsWith(QLatin1String(".zon")));
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Varnmain& main, FaultTaker faults, const std::string& recentFile)
+    : main_(main),
+      faults_(std::move(faults)),
+      recent_(recentFile),
+      pages_(new QStackedWidget),
+      area_(new QMdiArea),
+      units_(new QLabel) {
+    setObjectName(QStringLiteral("Varnmain"));
+    setWindowIcon(applicationIcon());
+    setAcceptDrops(true);
+    area_->setFrameShape(QFrame::NoFrame);
+    area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    start_ =
+        new StartPage(main, [this](const std::string& entry) { menu_->action(entry)->trigger(); });
+    pages_->addWidget(start_);
+    pages_->addWidget(area_);
+    setCentralWidget(pages_);
+
+    auto* toolbar = new QToolBar(qt(main.text(desktop_texts::toolbar)), this);
+    toolbar->setObjectName(QStringLiteral("tbrMain"));
+    toolbar->setMovable(false);
+    toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
+    toolbar->setIconSize({24, 24});
+    addToolBar(toolbar);
+    menu_ = std::make_unique<MainMenu>(
+        main, *menuBar(), *toolbar,
+        [this](const std::function<void()>& command) { guarded(command); });
+    menu_->onChange = [this] { refresh(); };
+    addRecentMenu();
+    addWindowMenu();
+    statusBar()->setSizeGripEnabled(true);
+    statusBar()->addPermanentWidget(units_);
+    const QSize room = screen()->availableSize();
+    resize(usualSize().boundedTo(room));
+    refresh();
+    area_->setBackground(QApplication::palette().brush(QPalette::Window));
+    dress(*this);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::guarded(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (...) {
+        if (!faults_) throw;
+        faults_(std::current_exception());
+    }
+}
+
+void MainWindow::showArea(bool area) {
+    pages_->setCurrentWidget(area ? static_cast<QWidget*>(area_) : start_);
+}
+
+void MainWindow::showStartPicture(QWidget* picture) { start_->setPicture(picture); }
+
+QWidget* MainWindow::dialogParent() {
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : this;
+}
+
+void MainWindow::refresh() {
+    setWindowTitle(qt(main_.caption()));
+    const char* units = main_.control("Metric").checked() ? "Metric" : "English";
+    units_->setText(qt(main_.control(units).caption()));
+}
+
+void MainWindow::noteFile(const Form& form) {
+    const std::string file = fileOf(form);
+    if (!file.empty()) recent_.add(file);
+}
+
+void MainWindow::openFiles(const std::vector<std::string>& paths) {
+    for (const std::string& path : paths) guarded([&] { openFile(main_, path); });
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    bool closes = false;
+    guarded([&] {
+        closes = main_.queryClose();
+        if (closes) main_.platform().closed(main_);
+    });
+    event->setAccepted(closes);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        area_->setBackground(QApplication::palette().brush(QPalette::Window));
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    for (const QUrl& url : event->mimeData()->urls())
+        if (isOurs(url)) return event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    std::vector<std::string> paths;
+    for (const QUrl& url : event->mimeData()->urls())
+        if (isOurs(url)) paths.push_back(plain(url.toLocalFile()));
+    event->acceptProposedAction();
+    openFiles(paths);
+}
+
+void MainWindow::addRecentMenu() {
+    QMenu* file = menu_->menu("File");
+    recentMenu_ = new QMenu(qt(main_.text(desktop_texts::recentFiles)), this);
+    recentMenu_->setIcon(houseIcon(QStringLiteral("recent")));
+    file->insertMenu(menu_->action("Split1"), recentMenu_);
+    connect(recentMenu_, &QMenu::aboutToShow, this, [this] { fillRecentMenu(); });
+}
+
+void MainWindow::fillRecentMenu() {
+    recentMenu_->clear();
+    int place = 0;
+    for (const std::string& file : recent_.files()) {
+        QString shown = qt(fileNameOf(file));
+        shown.replace(u'&', QStringLiteral("&&"));
+        QAction* entry = recentMenu_->addAction(QStringLiteral("&%1  %2").arg(++place).arg(shown));
+        entry->setStatusTip(qt(file));
+        connect(entry, &QAction::triggered, this, [this, file] { openFiles({file}); });
+    }
+    if (place == 0)
+        recentMenu_->addAction(qt(main_.text(desktop_texts::noRecentFiles)))->setEnabled(false);
+}
+
+void MainWindow::addWindowMenu() {
+    QMenu* menu = menu_->menu("Window");
+    struct Row {
+        int caption, hint;
+        const char* shortcut;
+        void (QMdiArea::*run)();
+    };
+    static constexpr Row rows[] = {
+        {desktop_texts::tile, desktop_texts::tileHint, "Ctrl+Shift+T", &QMdiArea::tileSubWindows},
+        {desktop_texts::cascade, desktop_texts::cascadeHint, "Ctrl+Shift+C",
+         &QMdiArea::cascadeSubWindows},
+        {desktop_texts::nextWindow, desktop_texts::nextWindowHint, "Ctrl+Tab",
+         &QMdiArea::activateNextSubWindow}};
+    std::vector<std::string> captions;
+    for (const Row& row : rows) captions.push_back(main_.text(row.caption));
+    const std::vector<QString> marked = withMnemonics(captions);
+    std::size_t place = 0;
+    for (const Row& row : rows) {
+        QAction* action = menu->addAction(marked[place++]);
+        action->setShortcut(QKeySequence(QString::fromLatin1(row.shortcut)));
+        action->setStatusTip(qt(main_.text(row.hint)));
+        connect(action, &QAction::triggered, area_, row.run);
+    }
+    menu->addSeparator();
+    connect(menu, &QMenu::aboutToShow, this, [this] { fillWindowMenu(); });
+}
+
+void MainWindow::fillWindowMenu() {
+    QMenu* menu = menu_->menu("Window");
+    for (QAction* entry : windowEntries_) delete entry;
+    windowEntries_.clear();
+    int place = 0;
+    for (ChildWindow* window : main_.windows()) {
+        QString caption = qt(window->caption());
+        caption.replace(u'&', QStringLiteral("&&"));
+        QAction* entry = menu->addAction(QStringLiteral("&%1  %2").arg(++place).arg(caption));
+        entry->setCheckable(true);
+        entry->setChecked(window == main_.activeWindow());
+        connect(entry, &QAction::triggered, this,
+                [this, window] { guarded([&] { main_.activate(*window); }); });
+        windowEntries_.push_back(entry);
+    }
+    if (place > 0) return;
+    windowEntries_.push_back(menu->addAction(qt(main_.text(desktop_texts::noWindows))));
+    windowEntries_.back()->setEnabled(false);
+}
+
+}  // namespace varnholt

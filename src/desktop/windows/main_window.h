@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "desktop/binding/form_window.h"
+#include "desktop/windows/main_menu.h"
+#include "persistence/recent_files.h"
+
+class QLabel;
+class QMdiArea;
+class QStackedWidget;
+
+namespace varnholt {
+
+class StartPage;
+class Varnmain;
+
+/// The main window: menus, toolbar, status bar, and the area of the child windows.
+class MainWindow : public QMainWindow {
+ public:
+    /// @param recentFile where the list of recent files is kept; empty for nowhere
+    MainWindow(Varnmain& main, FaultTaker faults, const std::string& recentFile);
+    ~MainWindow() override;
+    /// Its first size, where the screen has room for it.
+    static QSize usualSize() { return {1280, 860}; }
+
+    QMdiArea& area() { return *area_; }
+    MainMenu& menu() { return *menu_; }
+    /// The child windows' area, or the page that says what to do first.
+    void showArea(bool area);
+    /// The start picture; null takes it away.
+    void showStartPicture(QWidget* picture);
+    /// Notes the file of a window among the recent files.
+    void noteFile(const Form& form);
+    /// Opens project and zone files, as named on the command line or dropped on the window.
+    void openFiles(const std::vector<std::string>& paths);
+    /// Runs something of the forms; what it throws goes to the taker of faults.
+    void guarded(const std::function<void()>& action);
+    /// The window that a dialog belongs to: the innermost dialog on show, else this one.
+    QWidget* dialogParent();
+
+ protected:
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+ private:
+    void addWindowMenu();
+    void fillWindowMenu();
+    void addRecentMenu();
+    void fillRecentMenu();
+    void refresh();
+
+    Varnmain& main_;
+    FaultTaker faults_;
+    RecentFiles recent_;
+    QStackedWidget* pages_;
+    QMdiArea* area_;
+    StartPage* start_;
+    QLabel* units_;
+    std::unique_ptr<MainMenu> menu_;
+    QMenu* recentMenu_ = nullptr;
+    std::vector<QAction*> windowEntries_;
+};
+
+}  // namespace varnholt

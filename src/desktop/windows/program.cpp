@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/windows/program.h"
+
+#include <QMessageBox>
+#include <QTimer>
+#include <fstream>
+#include <iostream>
+
+#include "app/application.h"
+#include "basis/date.h"
+#include "basis/file_system.h"
+#include "basis/run_time_error.h"
+#include "desktop/binding/widget_driver.h"
+#include "desktop/widgets/desktop_texts.h"
+#include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/theme.h"
+#include "desktop/windows/desktop_platform.h"
+#include "desktop/windows/main_window.h"
+#include "desktop/windows/window_shelf.h"
+#include "script/script_runner.h"
+#include "tools/locales.h"
+#include "tools/program_folder.h"
+
+namespace varnholt {
+namespace {
+
+/// The program's folder, filled on first start; one that is named is used as it stands.
+std::string programFolderOf(const CommandLine& line, const InstalledFiles& installed) {
+    if (line.programFolder) return *line.programFolder;
+    std::string folder = userProgramFolder();
+    fillProgramFolder(folder, installed);
+    return folder;
+}
+
+/// Tells a person of a failure that no command has told.
+void tellFault(Platform& platform, const Texts& texts, const std::exception_ptr& fault) {
+    try {
+        std::rethrow_exception(fault);
+    } catch (const RunTimeError& error) {
+        platform.message(MessageIcon::exclamation, texts.text(1001), error.message());
+    } catch (const std::exception& error) {
+        platform.message(MessageIcon::critical, texts.text(1001),
+                         texts.text(desktop_texts::programFault) + "\n\n" + error.what());
+    }
+}
+
+unsigned localeOf(const CommandLine& line) { return line.localeNumber.value_or(platformLocale()); }
+
+int runPrepared(QApplication& application, const CommandLine& line) {
+    const InstalledFiles installed = installedFiles();
+    const std::string folder = programFolderOf(line, installed);
+    WindowShelf shelf(false);
+    DesktopPlatform platform(shelf);
+    Application program(platform, {folder, installed.resources, localeOf(line)});
+    Varnmain& main = program.main();
+    applyTheme(application, Scheme::followDesktop, qt(main.text(1101)));
+
+    const FaultTaker faults = [&](const std::exception_ptr& fault) {
+        tellFault(platform, program.texts(), fault);
+    };
+    shelf.setFaultTaker(faults);
+    MainWindow window(main, faults, joinPath(folder, "recent files.txt"));
+    shelf.setMain(window, main);
+    window.guarded([&] { program.start(); });
+    window.show();
+    QTimer::singleShot(0, &window, [&] { window.openFiles(line.files); });
+    return QApplication::exec();
+}
+
+int runReading(QApplication& application, const CommandLine& line, std::istream& input) {
+    const InstalledFiles installed = installedFiles();
+    const std::string folder = programFolderOf(line, installed);
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    Transcript transcript(std::cout);
+    WindowShelf shelf(true);
+    ScriptPlatform platform(transcript, folder, line.today.value_or(dateOfToday()));
+    Application program(platform, {folder, installed.resources, localeOf(line)});
+    Varnmain& main = program.main();
+    applyTheme(application, Scheme::followDesktop, qt(main.text(1101)));
+
+    WidgetDriver driver(main, shelf);
+    shelf.setFaultTaker(driver.faultTaker());
+    MainWindow window(main, driver.faultTaker(), {});
+    shelf.setMain(window, main);
+    platform.setStage(&shelf);
+    program.start();
+    // Pictures are the same whatever screen there is, and none at all.
+    window.resize(MainWindow::usualSize());
+    window.show();
+
+    ScriptReader reader(input, *line.script);
+    ScriptRunner runner(main, platform, driver, transcript, reader, std::cerr);
+    int status = 0;
+    QTimer::singleShot(0, &window, [&] {
+        status = runner.run();
+        QCoreApplication::exit();
+    });
+    QApplication::exec();
+    return status;
+}
+
+int usageFault(const std::string& what) {
+    std::cerr << "varnholt: " << what << '\n';
+    return static_cast<int>(ScriptStatus::badLine);
+}
+
+}  // namespace
+
+int runForPerson(QApplication& application, const CommandLine& line) {
+    try {
+        return runPrepared(application, line);
+    } catch (const std::exception& error) {
+        QMessageBox::critical(nullptr, QStringLiteral("Varnholt"), QString::fromUtf8(error.what()));
+        return static_cast<int>(ScriptStatus::programFault);
+    }
+}
+
+void prepareForScript() {
+    // Standard error belongs to the script's faults: the toolkit's remarks stay out of it.
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+        if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << plain(text) << '\n';
+    });
+    // Windows are drawn in memory where there is no display.
+    const bool hasDisplay = qEnvironmentVariableIsSet("DISPLAY") ||
+                            qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+                            qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    if (!hasDisplay) qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+int runScriptInWindows(QApplication& application, const CommandLine& line) {
+    if (*line.script == "-") return runReading(application, line, std::cin);
+    std::ifstream file(*line.script, std::ios::binary);
+    // A folder opens, but nothing can be read from it.
+    if (!file || (file.peek(), file.bad())) return usageFault(*line.script + " cannot be read");
+    return runReading(application, line, file);
+}
+
+}  // namespace varnholt

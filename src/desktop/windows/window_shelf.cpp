@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/windows/window_shelf.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <algorithm>
+
+#include "desktop/widgets/qt_text.h"
+#include "desktop/windows/main_window.h"
+#include "frame/varnmain.h"
+#include "loads/loads_window.h"
+
+namespace varnholt {
+namespace {
+
+class Quiet {
+ public:
+    explicit Quiet(int& depth) : depth_(depth) { ++depth_; }
+    ~Quiet() { --depth_; }
+    Quiet(const Quiet&) = delete;
+    Quiet& operator=(const Quiet&) = delete;
+
+ private:
+    int& depth_;
+};
+
+bool isModified(const Form& form) {
+    const auto* loads = dynamic_cast<const LoadsWindow*>(&form);
+    return loads != nullptr && loads->hasUnsavedChanges();
+}
+
+}  // namespace
+
+WindowShelf::WindowShelf(bool scripted) : scripted_(scripted) {}
+
+WindowShelf::~WindowShelf() = default;
+
+void WindowShelf::setMain(MainWindow& window, Varnmain& main) {
+    window_ = &window;
+    main_ = &main;
+    QObject::connect(&window.area(), &QMdiArea::subWindowActivated, &window,
+                     [this](QMdiSubWindow* frame) { userActivated(frame); });
+}
+
+FormWindow* WindowShelf::makeContent(Form& form) {
+    auto* content = new FormWindow(form, views_.maker(), faults_);
+    content->binder().setLeavesByFocus(!scripted_);
+    content->binder().onCaption = [this, &form] { refreshTitle(form); };
+    places_[&form].content = content;
+    return content;
+}
+
+void WindowShelf::opened(Form& form) {
+    if (auto* child = dynamic_cast<ChildWindow*>(&form))
+        openChild(*child);
+    else if (!isMain(form))
+        window_->showStartPicture(makeContent(form));
+}
+
+void WindowShelf::openChild(ChildWindow& form) {
+    const Quiet quiet(quiet_);
+    window_->showArea(true);
+    auto* frame = new ChildFrame;
+    window_->area().addSubWindow(frame);
+    frame->setContent(makeContent(form));
+    places_[&form].child = frame;
+    frame->onCloseBox = [this, &form] { closeByBox(&form); };
+    frame->content().binder().onSettled([this, &form] {
+        refreshTitle(form);
+        window_->noteFile(form);
+    });
+    place(*frame);
+    refreshTitle(form);
+    frame->show();
+    window_->noteFile(form);
+}
+
+/// As large as what it shows, within the area: beside the windows that are open where there is
+/// room, else a step below and to the right of the last one.
+void WindowShelf::place(ChildFrame& frame) {
+    const QSize room = window_->area().viewport()->size();
+    const QSize size = frame.sizeHint().boundedTo(room).expandedTo(QSize(320, 200));
+    QPoint corner;
+    QRect taken;
+    for (const QMdiSubWindow* open : window_->area().subWindowList(QMdiArea::CreationOrder)) {
+        if (open == &frame) continue;
+        taken |= open->geometry();
+        corner = open->pos() + QPoint(4 * gridStep, 4 * gridStep);
+    }
+    if (!taken.isNull() && taken.right() + size.width() < room.width())
+        corner = QPoint(taken.right() + 1, 0);
+    const QPoint last(std::max(0, room.width() - size.width()),
+                      std::max(0, room.height() - size.height()));
+    corner = QPoint(std::min(corner.x(), last.x()), std::min(corner.y(), last.y()));
+    frame.setGeometry({corner, size});
+}
+
+void WindowShelf::closed(Form& form) {
+    const auto found = places_.find(&form);
+    if (found == places_.end()) return;
+    const Place place = found->second;
+    places_.erase(found);
+    const Quiet quiet(quiet_);
+    place.content->binder().detach();
+    if (place.child == nullptr) {
+        window_->showStartPicture(nullptr);
+        return;
+    }
+    place.child->onCloseBox = nullptr;
+    place.child->hide();
+    window_->area().removeSubWindow(place.child);
+    // A handler of one of its widgets may be under way.
+    place.child->deleteLater();
+    window_->showArea(!window_->area().subWindowList().isEmpty());
+}
+
+void WindowShelf::activated(Form& form) {
+    const auto found = places_.find(&form);
+    if (found == places_.end() || found->second.child == nullptr) return;
+    const Quiet quiet(quiet_);
+    ChildFrame* frame = found->second.child;
+    if (frame->isMinimized()) frame->showNormal();
+    window_->area().setActiveSubWindow(frame);
+}
+
+void WindowShelf::userActivated(QMdiSubWindow* frame) {
+    if (quiet_ > 0 || frame == nullptr) return;
+    auto* child = dynamic_cast<ChildWindow*>(formOf(frame));
+    if (child == nullptr || !main_->isOpen(child)) return;
+    window_->guarded([&] { main_->activate(*child); });
+}
+
+Form* WindowShelf::formOf(const QMdiSubWindow* frame) const {
+    for (const auto& [form, place] : places_)
+        if (place.child == frame) return place.content->binder().form();
+    return nullptr;
+}
+
+void WindowShelf::closeByBox(Form* form) {
+    auto* child = dynamic_cast<ChildWindow*>(form);
+    if (child != nullptr) window_->guarded([&] { main_->close(*child); });
+}
+
+bool WindowShelf::isMain(const Form& form) const {
+    return &form == static_cast<const Form*>(main_);
+}
+
+void WindowShelf::bringToFront(Form& form) {
+    if (auto* frame = qobject_cast<QMdiSubWindow*>(frameOf(form)))
+        window_->area().setActiveSubWindow(frame);
+}
+
+QAction* WindowShelf::command(const std::string& control) const {
+    return window_->menu().action(control);
+}
+
+Shown WindowShelf::shownOfMain(const Control& control, Property property) const {
+    return window_->menu().shown(control, property);
+}
+
+void WindowShelf::pressCloseBox(Form& form) {
+    if (isMain(form)) {
+        window_->close();
+        return;
+    }
+    const auto found = places_.find(&form);
+    if (found == places_.end()) return;
+    if (found->second.child != nullptr)
+        found->second.child->close();
+    else if (found->second.dialog != nullptr)
+        found->second.dialog->reject();
+    else
+        main_->hideSplash();
+}
+
+void WindowShelf::modalOpened(Form& form) {
+    auto* dialog = new FormDialog(makeContent(form), window_->dialogParent());
+    places_[&form].dialog = dialog;
+    dialog->show();
+}
+
+void WindowShelf::modalClosed(Form& form) {
+    const auto found = places_.find(&form);
+    if (found == places_.end()) return;
+    FormDialog* dialog = found->second.dialog;
+    places_.erase(found);
+    dialog->content().binder().detach();
+    dialog->hide();
+    dialog->deleteLater();
+}
+
+void WindowShelf::runModal(Form& form) {
+    FormDialog dialog(makeContent(form), window_->dialogParent());
+    places_[&form].dialog = &dialog;
+    if (!form.modalEnded()) dialog.exec();
+    places_.erase(&form);
+    dialog.content().binder().detach();
+}
+
+FormWindow* WindowShelf::windowOf(const Form& form) const {
+    const auto found = places_.find(&form);
+    return found == places_.end() ? nullptr : found->second.content;
+}
+
+QWidget* WindowShelf::frameOf(const Form& form) const {
+    if (isMain(form)) return window_;
+    const auto found = places_.find(&form);
+    if (found == places_.end()) return nullptr;
+    const Place& place = found->second;
+    if (place.child != nullptr) return place.child;
+    if (place.dialog != nullptr) return place.dialog;
+    return place.content;
+}
+
+void WindowShelf::refreshTitle(const Form& form) {
+    QWidget* frame = frameOf(form);
+    if (frame == nullptr) return;
+    const QString title = qt(form.caption()) + QStringLiteral("[*]");
+    if (frame->windowTitle() != title) frame->setWindowTitle(title);
+    frame->setWindowModified(isModified(form));
+}
+
+}  // namespace varnholt

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace varnholt {
+
+/// Everything that undo brings back of a document at one moment.
+class DocumentState {
+ public:
+    virtual ~DocumentState() = default;
+    /// The other is a state of the same document.
+    virtual bool equals(const DocumentState& other) const = 0;
+};
+
+/// The state of a document as a plain value.
+template <class Value>
+class StateOf : public DocumentState {
+ public:
+    explicit StateOf(Value held) : value(std::move(held)) {}
+    bool equals(const DocumentState& other) const override {
+        return value == static_cast<const StateOf&>(other).value;
+    }
+
+    const Value value;
+};
+
+using StatePointer = std::shared_ptr<const DocumentState>;
+
+/// The states that a document went through, and where among them it stands: what undo and redo
+/// walk. States share what did not change between them, so that many cost little.
+class DocumentHistory {
+ public:
+    static constexpr std::size_t mostSteps = 200;
+
+    /// The document begins, or begins anew, with this state; nothing can be undone. It counts as
+    /// saved.
+    void start(StatePointer now);
+    bool hasStarted() const { return !states_.empty(); }
+
+    /// The document has changed by something that is no step of its user: what follows starts from
+    /// here. Does nothing when the state is the present one.
+    void absorb(StatePointer now);
+    /// The user has brought the document into this state.
+    /// @param name  what was done: "Remove Zone 3"
+    /// @param visit changes in a row with the same visit that is not empty are one step
+    void record(StatePointer now, const std::string& name, const std::string& visit = {});
+    /// The next change is a step of its own, whatever its visit.
+    void endVisit() { visit_.clear(); }
+
+    /// The document as it stands is on the disk.
+    void markSaved(StatePointer now);
+    /// Whether the document stands where it was saved last.
+    bool isAtSaved() const;
+
+    bool canUndo() const { return at_ > 0; }
+    bool canRedo() const { return at_ + 1 < states_.size(); }
+    /// Name of the step that would be undone, or redone; empty for none.
+    std::string undoName() const { return canUndo() ? steps_[at_ - 1] : std::string(); }
+    std::string redoName() const { return canRedo() ? steps_[at_] : std::string(); }
+    /// Goes one step back or on, and gives the state to bring back. Only where there is one.
+    const DocumentState& undo();
+    const DocumentState& redo();
+
+ private:
+    struct Moment {
+        StatePointer state;
+        int revision;
+    };
+
+    void forgetOldest();
+
+    /// Step i leads from moment i to moment i + 1.
+    std::vector<Moment> states_;
+    std::vector<std::string> steps_;
+    std::size_t at_ = 0;
+    int lastRevision_ = 0;
+    int savedRevision_ = 0;
+    std::string visit_;
+};
+
+}  // namespace varnholt

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The rooms of the desktop: src/desktop is one floor, and a house of its own inside.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+#include <string>
+
+#include "architecture/source_tree.h"
+
+namespace varnholt {
+namespace {
+
+/// A room may use the rooms with smaller numbers, and itself.
+const std::map<std::string, int> rooms{
+    {"widgets", 1}, {"drawings", 2}, {"binding", 3}, {"views", 4}, {"windows", 5}};
+
+/// What a room may see of the floors below. What is drawn needs no program around it, and what
+/// lays out a form needs no file.
+const std::map<std::string, std::set<std::string>> floorsSeen{
+    {"widgets", {"basis", "forms"}},
+    {"drawings", {"basis", "forms", "loads", "design"}},
+    {"binding", {"basis", "forms", "frame", "script"}},
+    {"views", {"basis", "forms", "loads", "design"}},
+};
+
+/// "drawings" of "desktop/drawings/canvas.h"; empty for what is not in a room.
+std::string roomOf(const std::string& path) {
+    const std::size_t desktop = path.find("desktop/");
+    if (desktop == std::string::npos) return {};
+    const std::string rest = path.substr(desktop + std::string("desktop/").size());
+    return rest.substr(0, rest.find('/'));
+}
+
+std::string floorOf(const std::string& include) { return include.substr(0, include.find('/')); }
+
+template <class Check>
+void forEveryInclude(const Check& check) {
+    std::size_t seen = 0;
+    for (const SourceFile& source : filesBelow("src/desktop")) {
+        if (!source.isCpp()) continue;
+        for (const Include& include : includesOf(source)) {
+            SCOPED_TRACE(source.path + " includes " + include.file);
+            ++seen;
+            check(roomOf(source.path), include);
+        }
+    }
+    EXPECT_GT(seen, 300U);
+}
+
+TEST(DesktopRooms, HoldEverySource) {
+    for (const SourceFile& source : filesBelow("src/desktop"))
+        EXPECT_EQ(rooms.count(roomOf(source.path)), 1U) << source.path;
+}
+
+TEST(DesktopRooms, IncludeOnlyLowerRooms) {
+    forEveryInclude([](const std::string& room, const Include& include) {
+        const std::string used = include.quoted ? roomOf(include.file) : std::string();
+        if (used.empty() || used == room) return;
+        EXPECT_LT(rooms.at(used), rooms.at(room));
+    });
+}
+
+TEST(DesktopRooms, SeeOnlyTheirFloors) {
+    forEveryInclude([](const std::string& room, const Include& include) {
+        const auto seen = floorsSeen.find(room);
+        if (!include.quoted || seen == floorsSeen.end() || floorOf(include.file) == "desktop")
+            return;
+        EXPECT_EQ(seen->second.count(floorOf(include.file)), 1U);
+    });
+}
+
+}  // namespace
+}  // namespace varnholt
