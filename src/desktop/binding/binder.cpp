@@ -28,10 +28,6 @@ class Writing {
     int& depth_;
 };
 
-std::string element(const std::string& stem, std::size_t index) {
-    return stem + "(" + std::to_string(index) + ")";
-}
-
 }  // namespace
 
 Binder::Binder(Form& form) : form_(&form) { form.addObserver(this); }
@@ -347,6 +343,10 @@ Drawing* Binder::drawing(Drawing* drawing) {
     connect(drawing, &QObject::destroyed, this,
             [this, drawing] { std::erase(drawings_, drawing); });
     return drawing;
+}
+
+std::string element(const std::string& array, std::size_t index) {
+    return array + "(" + std::to_string(index) + ")";
 }
 
 std::string companionName(const std::string& control, const std::string& suffix, bool indexed) {

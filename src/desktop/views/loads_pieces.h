@@ -8,6 +8,8 @@ class QWidget;
 
 namespace varnholt {
 
+class ZoneWindow;
+
 // What the views of the two loads windows are made of. A control that only one of them has is
 // left out of the other's view.
 
@@ -20,7 +22,15 @@ QWidget* zonePanel(Binder& bind);
 /// Design conditions, and the catalogue with the curves of its pumps.
 QWidget* heatPumpPage(Binder& bind);
 
+// What those are made of.
+
+/// The form; null when the window has been taken away.
+const ZoneWindow* zoneWindowOf(const Binder& bind);
+/// Heads over two columns, and the caption of the rows below; null for none.
+FieldRow headRow(Binder& bind, const char* caption, const char* cooling, const char* heating);
 /// Words at the pictures of loads, in the units shown.
 LoadsCaptions loadsCaptions(const Binder& bind);
+/// "kW" of "(kW)".
+std::string withoutBrackets(const std::string& unit);
 
 }  // namespace varnholt

@@ -1,34 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QWidget>
+#include <functional>
+#include <string>
 
 #include "desktop/binding/binder.h"
 #include "desktop/widgets/layout.h"
+#include "desktop/widgets/pages.h"
 
 namespace varnholt {
 
 // Pieces that several views are made of.
 
-/// Gives a page, or the bar above the pages, its margins.
-QWidget* page(QWidget* content);
-QWidget* bar(QWidget* content);
+/// The widget of a control that not every form has; null where it is missing.
+QWidget* ifAny(Binder& bind, const std::string& name);
 
 /// A control whose caption has a name of its own: it is called so to screen readers.
 QWidget* named(Binder& bind, const std::string& control, const std::string& caption);
-
-/// Room between two columns of a page.
-QWidget* gap();
-
-/// A view that opens no smaller than so much, though it may be made smaller: what it shows later
-/// finds its place.
-QWidget* roomy(QWidget* view, const QSize& least);
-
-/// Scrolls a panel into sight when it opens.
-void revealWhenOpened(QWidget* panel);
-
-/// A hairline between parts of a table.
-QWidget* rule();
 
 /// A line that tells what to do first, shown while the condition holds.
 QWidget* hint(Binder& bind, int text, std::function<bool()> condition);

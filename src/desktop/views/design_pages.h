@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vector>
+
+#include "desktop/widgets/field_row.h"
+
+class QWidget;
+
+namespace varnholt {
+
+class Binder;
+
+// Pages and panels that the windows of several kinds of design share.
+
+using FieldRows = std::vector<FieldRow>;
+
+/// The results in two columns, the parts of their table divided by hairlines, and the command that
+/// calculates them. While the design has no loads a line tells where these come from.
+QWidget* resultsPanel(Binder& bind, const std::vector<FieldRows>& parts);
+/// Parts of that table which every kind of design has.
+FieldRows unitTemperatures(Binder& bind);
+FieldRows systemPerformance(Binder& bind);
+
+/// The share of a cooling tower and the sizes that follow from it.
+QWidget* towerPanel(Binder& bind);
+
+QWidget* fluidPage(Binder& bind);
+QWidget* soilPage(Binder& bind);
+/// Size and thermal resistance of the pipe.
+QWidget* pipePanel(Binder& bind);
+/// Circulation pump, additional power, and the fan and pump of a cooling tower.
+QWidget* extraPowerPage(Binder& bind);
+/// Who designs what for whom, and remarks.
+QWidget* informationPage(Binder& bind);
+
+}  // namespace varnholt

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Pumps and fans beside the heat pumps.
+#include "desktop/views/design_pages.h"
+#include "desktop/views/view_pieces.h"
+
+namespace varnholt {
+namespace {
+
+/// A pump or fan: shaft power and motor efficiency, and the power that these need.
+QWidget* motor(Binder& bind, std::size_t shaft, std::size_t efficiency, std::size_t input) {
+    return grid(bind.row(element("EKWPumpPowerText", shaft)),
+                bind.row(element("EKWPumpEfficiencyText", efficiency)),
+                bind.row(element("EKWPumpPowerText", input)));
+}
+
+}  // namespace
+
+QWidget* extraPowerPage(Binder& bind) {
+    return column(group(bind.frame("EKWCirculationFrame"), motor(bind, 1, 0, 0),
+                        buttons(bind.widget("EKWPumpPowerCommand"))),
+                  group(bind.frame("EKWAdditionalFrame"), grid(bind.row("EKWPumpPowerText(2)"))),
+                  group(bind.frame("EKWCoolingTowerFrame"),
+                        group(bind.frame("EKWTowerFanFrame"), motor(bind, 4, 1, 3)),
+                        group(bind.frame("EKWTowerPumpFrame"), motor(bind, 6, 2, 5))));
+}
+
+}  // namespace varnholt

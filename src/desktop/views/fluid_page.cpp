@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The fluid of the loop, its temperatures and its flow.
+#include "desktop/views/design_pages.h"
+#include "desktop/views/view_pieces.h"
+
+namespace varnholt {
+namespace {
+
+/// The name of the fluid, and behind it how much of it is in the water.
+FieldRow fluidType(Binder& bind) {
+    const FieldRow percent = bind.row("FLPercentAntifreezeText");
+    return bind.row("FLFluidTypeCombo", {percent.fields.front(), percent.caption});
+}
+
+FieldRow density(Binder& bind) {
+    FieldRow row = bind.row("FLFluidDensityText");
+    row.unit = bind.widget("FLDensityUnitsLabel");
+    return row;
+}
+
+}  // namespace
+
+QWidget* fluidPage(Binder& bind) {
+    bind.mark("FLInletTempText(0)", cooling).mark("FLInletTempText(1)", heating);
+    return column(group(bind.frame("FLFluidFrame"),
+                        group(bind.frame("FLInletTempFrame"),
+                              grid(bind.row("FLInletTempText(0)"), bind.row("FLInletTempText(1)"))),
+                        group(bind.frame("FLFlowRateFrame"), grid(bind.row("FLFlowRateText"))),
+                        group(bind.frame("FLSolutionFrame"),
+                              grid(fluidType(bind), bind.row("FLSpecificHeatText"), density(bind)),
+                              buttons(bind.widget("FLTablesButton")))));
+}
+
+}  // namespace varnholt

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The results of a design, with the command that calculates them.
+#include "desktop/views/design_pages.h"
+#include "desktop/views/view_pieces.h"
+#include "loads/linked_design.h"
+
+namespace varnholt {
+namespace {
+
+constexpr int noLoadsText = 2160;
+
+bool hasNoLoads(const Binder& bind) {
+    const auto* design = static_cast<const LinkedDesign*>(bind.form());
+    return design != nullptr && design->zoneNumber == 0;
+}
+
+}  // namespace
+
+QWidget* resultsPanel(Binder& bind, const std::vector<FieldRows>& parts) {
+    FieldRows rows{bind.heads("CATopLabel(0)", "CATopLabel(1)")};
+    for (const FieldRows& part : parts) {
+        if (rows.size() > 1) rows.push_back(bind.wide(rule()));
+        rows.insert(rows.end(), part.begin(), part.end());
+    }
+    return group(bind.frame("CACalculationFrame"), gridOf(rows),
+                 buttons(bind.primary("CACalculateCommand")),
+                 hint(bind, noLoadsText, [&bind] { return hasNoLoads(bind); }));
+}
+
+FieldRows unitTemperatures(Binder& bind) {
+    return {bind.results("CAUnitInletLabel"), bind.results("CAUnitOutletLabel")};
+}
+
+FieldRows systemPerformance(Binder& bind) {
+    return {bind.results("CATotalCapacityLabel"), bind.results("CAPeakLoadLabel"),
+            bind.results("CAPeakDemandLabel"), bind.results("CAPumpCOPLabel"),
+            bind.results("CASystemCOPLabel")};
+}
+
+}  // namespace varnholt

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The ground around the loop.
+#include "desktop/views/design_pages.h"
+#include "desktop/views/view_pieces.h"
+
+namespace varnholt {
+
+QWidget* soilPage(Binder& bind) {
+    return column(group(
+        bind.frame("SOSoilFrame"),
+        group(bind.frame("SOGroundTempFrame"), grid(bind.row("SOGroundTempText"))),
+        group(bind.frame("SOPropertiesFrame"),
+              grid(bind.row("SOThermalConductivityText"), bind.row("SOThermalDiffusivityText")),
+              buttons(bind.widget("SOSoilCommand(0)"), bind.widget("SOSoilCommand(1)")))));
+}
+
+}  // namespace varnholt

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Loads and heat pump of the zone on display.
+#include <QLabel>
+
+#include "desktop/drawings/drawings.h"
+#include "desktop/views/loads_pieces.h"
+#include "desktop/views/view_pieces.h"
+#include "loads/modLoads/zone_window.h"
+
+namespace varnholt {
+namespace {
+
+FieldRow unitRow(Binder& bind, const char* cooling, const char* heating) {
+    FieldRow row;
+    for (const char* name : {cooling, heating}) {
+        auto* unit = static_cast<QLabel*>(bind.widget(name));
+        unit->setProperty("unit", true);
+        unit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        row.fields.push_back(unit);
+    }
+    return row;
+}
+
+FieldRow blockRow(Binder& bind, std::size_t block) {
+    FieldRow row;
+    row.caption = bind.widget(element("LOTimeLabel", block));
+    for (const Mode mode : modes) {
+        const std::string field = element("LOGainsText", block + mode * timeBlocks);
+        row.fields.push_back(bind.widget(field));
+        bind.mark(field, mode);
+    }
+    return row;
+}
+
+FieldRow hoursRow(Binder& bind) {
+    FieldRow row = bind.pair("LOHoursText");
+    row.caption = bind.widget("LOLoadsLabel(1)");
+    return row;
+}
+
+QWidget* loads(Binder& bind) {
+    Drawing* bars = newLoadsBars(
+        [&bind] {
+            const ZoneWindow* window = zoneWindowOf(bind);
+            return window == nullptr ? LoadsChart() : window->loadsChart();
+        },
+        [&bind] { return loadsCaptions(bind); }, bind.form()->texts());
+    return group(
+        bind.frame("LODesignLoadsFrame"),
+        row_(column(grid(bind.row("LOZoneReferenceText"), bind.wide(bind.widget("LOLoadsLabel(0)")),
+                         headRow(bind, "LOTimeOfDayLabel", "LOHeatGainsLabel", "LOHeatLossesLabel"),
+                         unitRow(bind, "LOHeatGainsUnitLabel", "LOHeatLossesUnitLabel"),
+                         blockRow(bind, 0), blockRow(bind, 1), blockRow(bind, 2), blockRow(bind, 3),
+                         hoursRow(bind), bind.row("LODaysperWeekText")),
+                    buttons(bind.widget("LOEqvHoursCommand"))),
+             grow(bind.drawing("LOLoadsChart", bars))));
+}
+
+FieldRow pumpName(Binder& bind) {
+    const FieldRow units = bind.row("LONumberOfUnitsText(1)");
+    FieldRow row = bind.row("LOPumpNameText");
+    row.more = {units.caption, units.fields.front()};
+    return row;
+}
+
+QWidget* specifications(Binder& bind) {
+    return group(bind.frame("LOSpecificationsFrame"), grid(pumpName(bind)),
+                 grid(headRow(bind, nullptr, "LOCoolingLabel", "LOHeatingLabel"),
+                      bind.pair("LOCapacityText"), bind.pair("LOPowerText"), bind.pair("LOCOPText"),
+                      bind.pair("LOFlowRateText"), bind.pair("LOPLFText")));
+}
+
+QWidget* pumpCommands(Binder& bind) {
+    return buttons(bind.widget("LOSelectCommand"), ifAny(bind, "LOAutoSelectCommand"),
+                   bind.widget("LODetailsCommand"), bind.widget("LOClearPumpsCommand"),
+                   bind.widget("LOCustomPumpCheck"));
+}
+
+/// A number that the form keeps as text.
+void narrow(QWidget* field) {
+    constexpr int figures = 6;
+    field->setFont(figureFont(field->font()));
+    static_cast<FieldEdit*>(field)->setFigures(figures);
+}
+
+QWidget* selection(Binder& bind) {
+    narrow(bind.widget("LONumberOfUnitsText(0)"));
+    FieldRow model = bind.row("LOPumpNameCombo");
+    model.caption = bind.widget("LOPumpNameComboLabel");
+    revealWhenOpened(bind.frame("LOSelectFrame"));
+    return group(bind.frame("LOSelectFrame"),
+                 row_(grid(bind.row("LOMfgCombo"), bind.row("LOSeriesCombo")), gap(),
+                      grid(model, bind.row("LONumberOfUnitsText(0)")), stretch()),
+                 buttons(bind.primary("LOSelectPumpCommand"), bind.widget("LOCancelCommand")));
+}
+
+FieldRow detail(Binder& bind, std::size_t index) {
+    FieldRow row;
+    row.caption = bind.widget(element("LODetailsLabel", index));
+    row.fields = {bind.widget(element("LODetailsTextLabel", index))};
+    return row;
+}
+
+/// Temperature and flow of one kind of load side.
+QWidget* loadSide(Binder& bind, const char* frame, std::size_t first) {
+    const auto row = [&](const char* field) {
+        FieldRow both = bind.row(element(field, first));
+        both.fields.push_back(bind.widget(element(field, first + 1)));
+        bind.mark(element(field, first), cooling).mark(element(field, first + 1), heating);
+        return both;
+    };
+    return group(bind.frame(frame), grid(bind.heads(element("LOInletLoadsModeLabel", first),
+                                                    element("LOInletLoadsModeLabel", first + 1)),
+                                         row("LOInletLoadsTempText"), row("LOInletLoadsFlowText")));
+}
+
+QWidget* details(Binder& bind) {
+    revealWhenOpened(bind.frame("LODetailsFrame"));
+    return group(
+        bind.frame("LODetailsFrame"),
+        row_(grid(detail(bind, 0), detail(bind, 1), detail(bind, 2)), gap(),
+             column(loadSide(bind, "LOInletAirFrame", 0), loadSide(bind, "LOInletWaterFrame", 2)),
+             gap(), grid(bind.row("LONominalFlowText")), stretch()),
+        buttons(bind.widget("LOReturnCommand")));
+}
+
+}  // namespace
+
+QWidget* zonePanel(Binder& bind) {
+    return group(bind.frame("LOZoneFrame"),
+                 row_(grow(loads(bind), 3), gap(),
+                      grow(column(specifications(bind), pumpCommands(bind)), 2)),
+                 selection(bind), details(bind));
+}
+
+}  // namespace varnholt

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/widgets/pages.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPainter>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include "desktop/widgets/look.h"
+
+namespace varnholt {
+namespace {
+
+/// A line in the colour of its window's hairlines, whatever the scheme becomes.
+class Rule : public QWidget {
+ public:
+    Rule() {
+        setFixedHeight(gridStep + 1);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    }
+
+ protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(0, height() / 2, width(), 1, lookOf(palette()).hairline);
+    }
+};
+
+class Roomy : public QWidget {
+ public:
+    Roomy(QWidget* view, const QSize& least) : least_(least) {
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(view);
+    }
+    QSize sizeHint() const override { return QWidget::sizeHint().expandedTo(least_); }
+    /// Else its height would follow from its width alone.
+    bool hasHeightForWidth() const override { return false; }
+
+ private:
+    QSize least_;
+};
+
+class Revealer : public QObject {
+ public:
+    explicit Revealer(QWidget* panel) : QObject(panel), panel_(panel) {
+        panel->installEventFilter(this);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        // The page takes its new size first.
+        if (event->type() == QEvent::ShowToParent)
+            QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+        return QObject::eventFilter(watched, event);
+    }
+    void customEvent(QEvent*) override { reveal(); }
+
+ private:
+    void reveal() {
+        QWidget* around = panel_->parentWidget();
+        while (around != nullptr && qobject_cast<QScrollArea*>(around) == nullptr)
+            around = around->parentWidget();
+        if (around == nullptr || panel_->isHidden()) return;
+        auto* area = static_cast<QScrollArea*>(around);
+        const QRect place(panel_->mapTo(area->widget(), QPoint(0, 0)), panel_->size());
+        // The end first and then the beginning, which counts more where not all fits.
+        area->ensureVisible(place.left(), place.bottom(), 0, gridStep);
+        area->ensureVisible(place.left(), place.top(), 0, gridStep);
+    }
+
+    QWidget* panel_;
+};
+
+}  // namespace
+
+QWidget* page(QWidget* content) {
+    constexpr int margin = 2 * gridStep;
+    content->layout()->setContentsMargins(margin, margin, margin, margin);
+    return content;
+}
+
+QWidget* bar(QWidget* content) {
+    content->layout()->setContentsMargins(2 * gridStep, gridStep, 2 * gridStep, 0);
+    return content;
+}
+
+QWidget* gap() {
+    auto* room = new QWidget;
+    room->setFixedWidth(gridStep);
+    return room;
+}
+
+QWidget* rule() { return new Rule; }
+
+QWidget* roomy(QWidget* view, const QSize& least) { return new Roomy(view, least); }
+
+void revealWhenOpened(QWidget* panel) { new Revealer(panel); }
+
+}  // namespace varnholt

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+namespace varnholt {
+
+// The margins, gaps and lines of a window's pages.
+
+/// Gives a page, or the bar above the pages, its margins.
+QWidget* page(QWidget* content);
+QWidget* bar(QWidget* content);
+
+/// Room between two columns of a page.
+QWidget* gap();
+
+/// A hairline between parts of a table.
+QWidget* rule();
+
+/// A view that opens no smaller than so much, though it may be made smaller: what it shows later
+/// finds its place.
+QWidget* roomy(QWidget* view, const QSize& least);
+
+/// Scrolls a panel into sight when it opens.
+void revealWhenOpened(QWidget* panel);
+
+}  // namespace varnholt
