@@ -8,6 +8,10 @@ if(VARNHOLT_DESKTOP)
     list(APPEND programs varnholt)
 endif()
 install(TARGETS ${programs} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+if(VARNHOLT_DESKTOP)
+    # Where the program looks for it, whatever the system's folder of libraries is called.
+    install(TARGETS varnholt_charts LIBRARY DESTINATION lib/varnholt)
+endif()
 
 # The programs look for their files in ../share/varnholt. The windows' pictures are compiled in.
 set(shared ${CMAKE_INSTALL_DATADIR}/varnholt)

@@ -20,8 +20,9 @@ namespace varnholt {
 class PictureTexts : public Texts {
  public:
     PictureTexts() {
-        const std::string name = "2460_pictures.txt";
-        table_.read(readWholeFile(VARNHOLT_SOURCE_DIR "/resources/language/english/" + name), name);
+        for (const std::string name : {"1350_desktop.txt", "2460_pictures.txt"})
+            table_.read(readWholeFile(VARNHOLT_SOURCE_DIR "/resources/language/english/" + name),
+                        name);
     }
     std::string text(int number) const override {
         const auto found = table_.texts().find(number);

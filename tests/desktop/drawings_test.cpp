@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QtCharts/QChartView>
-#include <QtCharts/QScatterSeries>
+#include <QLabel>
+#include <algorithm>
 #include <memory>
 
 #include "drawing_samples.h"
@@ -134,11 +134,56 @@ TEST(LoadsPicture, NamesTheLargestLoadOfEachMode) {
     EXPECT_EQ(describeLoads({}, sampleCaptions(), pictureTexts()), "Enter loads to see the day.");
 }
 
+/// The chart engine's widgets within a drawing.
+int chartsIn(const Drawing& drawing) {
+    const QList<QWidget*> inside = drawing.findChildren<QWidget*>();
+    return static_cast<int>(std::count_if(inside.begin(), inside.end(), [](const QWidget* widget) {
+        return widget->inherits("QChartView");
+    }));
+}
+
 TEST(Charts, AreNotCreatedBeforeTheyAreShown) {
     const std::unique_ptr<Drawing> day(newDayChart(sampleLoads, sampleCaptions, pictureTexts()));
-    EXPECT_TRUE(day->findChildren<QChartView*>().empty());
+    EXPECT_EQ(chartsIn(*day), 0);
     day->show();
-    EXPECT_EQ(day->findChildren<QChartView*>().size(), 1);
+    EXPECT_EQ(chartsIn(*day), 1);
+}
+
+TEST(Charts, AreNotCreatedBeforeThereIsSomethingToShow) {
+    LoadsChart loads;
+    const std::unique_ptr<Drawing> day(
+        newDayChart([&] { return loads; }, sampleCaptions, pictureTexts()));
+    day->show();
+    EXPECT_EQ(chartsIn(*day), 0);
+    loads = sampleLoads();
+    day->refresh();
+    EXPECT_EQ(chartsIn(*day), 1);
+}
+
+TEST(Charts, SaySoWhereThePartThatDrawsThemIsMissing) {
+    const std::unique_ptr<Drawing> day(newDayChart(sampleLoads, sampleCaptions, pictureTexts(),
+                                                   []() -> ChartModule* { return nullptr; }));
+    day->show();
+    EXPECT_EQ(chartsIn(*day), 0);
+    const auto* hint = day->findChild<QLabel*>();
+    EXPECT_TRUE(hint->isVisible());
+    EXPECT_EQ(hint->text().toStdString(), pictureTexts().text(1369));
+    EXPECT_FALSE(hint->text().isEmpty());
+}
+
+TEST(ChartAxes, EndAtRoundNumbers) {
+    // 42.5 in at most 4 steps: 10.6 is not above 20, the next of 1, 2, 2.5, 5.
+    const ChartAxis loads = axisFromZero(42.5);
+    EXPECT_EQ(loads.step, 20);
+    EXPECT_EQ(loads.highest, 60);
+    EXPECT_EQ(loads.figures, 4);
+    EXPECT_EQ(axisFromZero(100).highest, 100);
+    EXPECT_EQ(axisFromZero(0).highest, 1);
+    // 40 to 100 has steps of 20, and 4 % of 60 as room at each end.
+    const ChartAxis water = axisAround(40, 100);
+    EXPECT_EQ(water.step, 20);
+    EXPECT_NEAR(water.lowest, 37.6, 1e-12);
+    EXPECT_NEAR(water.highest, 102.4, 1e-12);
 }
 
 TEST(Charts, FollowTheirSource) {

@@ -1,24 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QtCharts/QChart>
-#include <QtCharts/QChartView>
 #include <vector>
 
+#include "desktop/drawings/chart_module.h"
 #include "desktop/drawings/drawing.h"
 #include "desktop/drawings/legend_row.h"
-#include "desktop/widgets/look.h"
+#include "forms/texts.h"
 
 class QLabel;
-class QValueAxis;
 
 namespace varnholt {
 
-/// A drawing made of charts. The chart engine is created when the drawing is shown for the first
-/// time, and follows the colours and the font of its window.
+/// A drawing made of charts side by side. The module of charts is loaded when there is something to
+/// show for the first time; where it is missing, a sentence in the charts' place says so.
 class ChartDrawing : public Drawing {
  public:
-    explicit ChartDrawing(QWidget* parent = nullptr);
+    ChartDrawing(const Texts& texts, ChartModuleFinder charts);
 
     void refresh() final;
     QSize minimumSizeHint() const override { return {240, 160}; }
@@ -27,31 +25,27 @@ class ChartDrawing : public Drawing {
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
-    /// Creates the charts, by newChart.
-    virtual void create() = 0;
-    /// Takes what is to be drawn from the form again.
-    virtual void take() = 0;
+    /// Takes what is to be drawn from the form again. False when it is the same as before.
+    virtual bool take() = 0;
+    /// The charts from left to right; always the same number.
+    virtual std::vector<ChartPicture> pictures() const = 0;
+    virtual std::vector<LegendRow::Entry> legend() const = 0;
     /// What stands in place of the charts while there is nothing to draw; else empty.
     virtual QString emptyHint() const = 0;
-    /// Puts the colours of the look on what create has made.
-    virtual void dress(const Look& look) = 0;
 
-    /// One more chart beside the others.
-    QChart* newChart();
-    LegendRow& legend() { return *legend_; }
-    /// An axis from zero to the next round number beyond the highest value.
-    static void fitFromZero(QValueAxis& axis, double highest);
-    /// An axis that has a little room at both ends of the values, with ticks at round numbers.
-    static void fitAround(QValueAxis& axis, double lowest, double highest);
+    const Texts& texts() const { return texts_; }
 
  private:
-    void dressAll();
+    void create();
+    void dress();
 
+    const Texts& texts_;
+    ChartModuleFinder module_;
     LegendRow* legend_;
     QLabel* hint_;
     QWidget* plots_;
-    std::vector<QChart*> charts_;
-    bool created_ = false;
+    std::vector<Chart*> charts_;
+    bool refreshed_ = false, created_ = false;
 };
 
 }  // namespace varnholt

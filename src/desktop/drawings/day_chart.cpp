@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/drawings/day_chart.h"
 
-#include <QtCharts/QAreaSeries>
-#include <QtCharts/QCategoryAxis>
-#include <QtCharts/QLineSeries>
-#include <QtCharts/QValueAxis>
 #include <algorithm>
 #include <utility>
 
@@ -12,8 +8,6 @@
 
 namespace varnholt {
 namespace {
-
-constexpr double wholeDay = 24;
 
 /// The loads as steps: each block's load from its first hour to its last.
 QList<QPointF> stepsOf(const std::array<double, timeBlocks>& loads) {
@@ -27,75 +21,51 @@ QList<QPointF> stepsOf(const std::array<double, timeBlocks>& loads) {
     return points;
 }
 
+ChartAxis dayAxis(const LoadsCaptions& captions) {
+    ChartAxis day;
+    double hour = 0;
+    for (std::size_t block = 0; block < timeBlocks; ++block)
+        day.parts.push_back({qt(captions.blocks[block]), hour += blockHours[block]});
+    day.highest = hour;
+    return day;
+}
+
 }  // namespace
 
-DayChart::DayChart(Source loads, Captions captions, const Texts& texts)
-    : source_(std::move(loads)), captionSource_(std::move(captions)), texts_(texts) {}
+DayChart::DayChart(Source loads, Captions captions, const Texts& texts, ChartModuleFinder charts)
+    : ChartDrawing(texts, std::move(charts)),
+      source_(std::move(loads)),
+      captionSource_(std::move(captions)) {}
 
-QString DayChart::description() const { return describeLoads(loads_, captions_, texts_); }
+QString DayChart::description() const { return describeLoads(loads_, captions_, texts()); }
 
-void DayChart::create() {
-    QChart* chart = newChart();
-    day_ = new QCategoryAxis;
-    day_->setRange(0, wholeDay);
-    day_->setStartValue(0);
-    load_ = new QValueAxis;
-    chart->addAxis(day_, Qt::AlignBottom);
-    chart->addAxis(load_, Qt::AlignLeft);
-    for (const Mode mode : modes) {
-        auto* edge = new QLineSeries(this);
-        lines_[mode] = new QLineSeries;
-        areas_[mode] = new QAreaSeries(edge);
-        for (QAbstractSeries* series : {static_cast<QAbstractSeries*>(areas_[mode]),
-                                        static_cast<QAbstractSeries*>(lines_[mode])}) {
-            chart->addSeries(series);
-            series->attachAxis(day_);
-            series->attachAxis(load_);
-        }
-    }
-    legend().setEntries({{LegendRow::Sign::coolingLine, qt(texts_.text(2983))},
-                         {LegendRow::Sign::heatingLine, qt(texts_.text(2984))}});
-    showLoads();
+bool DayChart::take() {
+    LoadsChart loads = source_();
+    LoadsCaptions captions = captionSource_();
+    if (loads == loads_ && captions == captions_) return false;
+    loads_ = std::move(loads);
+    captions_ = std::move(captions);
+    return true;
 }
 
-void DayChart::dress(const Look& look) {
-    for (const Mode mode : modes) {
-        const QColor colour = mode == cooling ? look.cooling : look.heating;
-        QColor wash = colour;
-        wash.setAlphaF(look.dark ? 0.22F : 0.14F);
-        areas_[mode]->setPen(Qt::NoPen);
-        areas_[mode]->setBrush(wash);
-        // Heating is dashed, so that the lines differ without their colours too.
-        lines_[mode]->setPen(QPen(colour, 2, mode == cooling ? Qt::SolidLine : Qt::DashLine,
-                                  Qt::FlatCap, Qt::MiterJoin));
-    }
-}
-
-void DayChart::take() {
-    const LoadsChart loads = source_();
-    const LoadsCaptions captions = captionSource_();
-    if (loads == loads_ && captions == captions_) return;
-    loads_ = loads;
-    if (captions != captions_) {
-        captions_ = captions;
-        for (const QString& old : day_->categoriesLabels()) day_->remove(old);
-        double hour = 0;
-        for (std::size_t block = 0; block < timeBlocks; ++block)
-            day_->append(qt(captions.blocks[block]), hour += blockHours[block]);
-        load_->setTitleText(qt(captions.unit));
-    }
-    showLoads();
-}
-
-void DayChart::showLoads() {
-    fitFromZero(*load_, std::max(loads_.largest[cooling], loads_.largest[heating]));
+std::vector<ChartPicture> DayChart::pictures() const {
+    ChartPicture day{dayAxis(captions_),
+                     axisFromZero(std::max(loads_.largest[cooling], loads_.largest[heating])),
+                     {}};
+    day.up.title = qt(captions_.unit);
     for (const Mode mode : modes) {
         const QList<QPointF> steps = stepsOf(loads_.loads[mode]);
-        areas_[mode]->upperSeries()->replace(steps);
-        lines_[mode]->replace(steps);
+        day.series.push_back({ChartSeries::Sign::area, mode, steps});
+        day.series.push_back({ChartSeries::Sign::steps, mode, steps});
     }
+    return {day};
 }
 
-QString DayChart::emptyHint() const { return loads_.empty() ? qt(texts_.text(2985)) : QString(); }
+std::vector<LegendRow::Entry> DayChart::legend() const {
+    return {{LegendRow::Sign::coolingLine, qt(texts().text(2983))},
+            {LegendRow::Sign::heatingLine, qt(texts().text(2984))}};
+}
+
+QString DayChart::emptyHint() const { return loads_.empty() ? qt(texts().text(2985)) : QString(); }
 
 }  // namespace varnholt

@@ -72,12 +72,13 @@ Drawing* newLoadsBars(std::function<LoadsChart()> source, std::function<LoadsCap
 }
 
 Drawing* newDayChart(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,
-                     const Texts& texts) {
-    return new DayChart(std::move(source), std::move(captions), texts);
+                     const Texts& texts, ChartModuleFinder charts) {
+    return new DayChart(std::move(source), std::move(captions), texts, std::move(charts));
 }
 
-Drawing* newPumpCurves(std::function<PumpPicture()> source, const Texts& texts) {
-    return new PumpCurves(std::move(source), texts);
+Drawing* newPumpCurves(std::function<PumpPicture()> source, const Texts& texts,
+                       ChartModuleFinder charts) {
+    return new PumpCurves(std::move(source), texts, std::move(charts));
 }
 
 }  // namespace varnholt

@@ -5,6 +5,7 @@
 
 #include "design/bore_drawing.h"
 #include "design/field_plan.h"
+#include "desktop/drawings/chart_module.h"
 #include "desktop/drawings/drawing.h"
 #include "desktop/drawings/link_light.h"
 #include "desktop/drawings/loads_picture.h"
@@ -23,7 +24,8 @@ Drawing* newLinkLight(LinkPartner partner, const Texts& texts);
 Drawing* newLoadsBars(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,
                       const Texts& texts);
 Drawing* newDayChart(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,
-                     const Texts& texts);
-Drawing* newPumpCurves(std::function<PumpPicture()> source, const Texts& texts);
+                     const Texts& texts, ChartModuleFinder charts = findChartModule);
+Drawing* newPumpCurves(std::function<PumpPicture()> source, const Texts& texts,
+                       ChartModuleFinder charts = findChartModule);
 
 }  // namespace varnholt

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/drawings/pump_curves.h"
 
-#include <QtCharts/QLineSeries>
-#include <QtCharts/QScatterSeries>
-#include <QtCharts/QValueAxis>
 #include <algorithm>
 #include <utility>
 
@@ -34,6 +31,10 @@ struct Extent {
     }
 };
 
+QString titleOf(const std::string& name, const std::string& unit) {
+    return qt(name) + (unit.empty() ? QString() : QStringLiteral(" (%1)").arg(qt(unit)));
+}
+
 }  // namespace
 
 std::optional<double> valueAt(const PumpCurve& curve, double enteringWater) {
@@ -48,19 +49,19 @@ std::optional<double> valueAt(const PumpCurve& curve, double enteringWater) {
     return std::nullopt;
 }
 
-PumpCurves::PumpCurves(Source picture, const Texts& texts)
-    : source_(std::move(picture)), texts_(texts) {}
+PumpCurves::PumpCurves(Source picture, const Texts& texts, ChartModuleFinder charts)
+    : ChartDrawing(texts, std::move(charts)), source_(std::move(picture)) {}
 
 QString PumpCurves::description() const {
-    if (picture_.pump.name.empty()) return qt(texts_.text(2990));
-    QString shown = qt(texts_.text(2991)).arg(qt(picture_.pump.name));
+    if (picture_.pump.name.empty()) return qt(texts().text(2990));
+    QString shown = qt(texts().text(2991)).arg(qt(picture_.pump.name));
     for (const Mode mode : modes) {
         const auto capacity = valueAt(picture_.pump.capacity[mode], picture_.designWater[mode]);
         const auto power = valueAt(picture_.pump.power[mode], picture_.designWater[mode]);
         if (!capacity || !power) continue;
         const auto figure = [](double value) { return qt(formatNumber(value, "##0.0")); };
-        shown += u' ' + qt(texts_.text(2992))
-                            .arg(qt(mode == cooling ? texts_.text(2983) : texts_.text(2984)),
+        shown += u' ' + qt(texts().text(2992))
+                            .arg(qt(mode == cooling ? texts().text(2983) : texts().text(2984)),
                                  figure(picture_.designWater[mode]), qt(picture_.temperatureUnit),
                                  figure(*capacity), qt(picture_.capacityUnit), figure(*power),
                                  qt(picture_.powerUnit));
@@ -68,98 +69,45 @@ QString PumpCurves::description() const {
     return shown;
 }
 
-void PumpCurves::create() {
-    createPlot(capacity_);
-    createPlot(power_);
-    legend().setEntries({{LegendRow::Sign::coolingLine, qt(texts_.text(2983))},
-                         {LegendRow::Sign::heatingLine, qt(texts_.text(2984))},
-                         {LegendRow::Sign::measured, qt(texts_.text(2996))},
-                         {LegendRow::Sign::design, qt(texts_.text(2997))}});
-}
-
-void PumpCurves::createPlot(Plot& plot) {
-    plot.chart = newChart();
-    plot.water = new QValueAxis;
-    plot.value = new QValueAxis;
-    plot.chart->addAxis(plot.water, Qt::AlignBottom);
-    plot.chart->addAxis(plot.value, Qt::AlignLeft);
-    const auto adopt = [&](QXYSeries* series) {
-        plot.chart->addSeries(series);
-        series->attachAxis(plot.water);
-        series->attachAxis(plot.value);
-    };
-    for (const Mode mode : modes) {
-        adopt(plot.curves[mode] = new QLineSeries);
-        adopt(plot.points[mode] = new QScatterSeries);
-        adopt(plot.design[mode] = new QScatterSeries);
-        plot.points[mode]->setMarkerShape(mode == cooling ? QScatterSeries::MarkerShapeCircle
-                                                          : QScatterSeries::MarkerShapeRectangle);
-        plot.design[mode]->setMarkerShape(QScatterSeries::MarkerShapeRotatedRectangle);
-        plot.points[mode]->setMarkerSize(7);
-        plot.design[mode]->setMarkerSize(12);
-    }
-}
-
-void PumpCurves::dress(const Look& look) {
-    for (const Plot* plot : {&capacity_, &power_})
-        for (const Mode mode : modes) {
-            const QColor colour = mode == cooling ? look.cooling : look.heating;
-            plot->curves[mode]->setPen(
-                QPen(colour, 2, mode == cooling ? Qt::SolidLine : Qt::DashLine));
-            plot->points[mode]->setBrush(look.surface);
-            plot->points[mode]->setPen(QPen(colour, 1.4));
-            plot->design[mode]->setBrush(colour);
-            plot->design[mode]->setPen(QPen(look.surface, 1.4));
-        }
-}
-
-void PumpCurves::take() {
+bool PumpCurves::take() {
     const PumpPicture before = std::exchange(picture_, source_());
-    if (picture_ == before) return;
-    // A design temperature that is being typed moves its points alone.
-    PumpPicture moved = before;
-    moved.designWater = picture_.designWater;
-    if (picture_ != moved) {
-        showCaptions();
-        showCurves(capacity_, picture_.pump.capacity);
-        showCurves(power_, picture_.pump.power);
-    }
-    showDesign(capacity_, picture_.pump.capacity);
-    showDesign(power_, picture_.pump.power);
+    return picture_ != before;
 }
 
-void PumpCurves::showCaptions() {
-    const auto title = [](const std::string& name, const std::string& unit) {
-        return qt(name) + (unit.empty() ? QString() : QStringLiteral(" (%1)").arg(qt(unit)));
-    };
-    capacity_.value->setTitleText(title(texts_.text(2993), picture_.capacityUnit));
-    power_.value->setTitleText(title(texts_.text(2994), picture_.powerUnit));
-    for (const Plot* plot : {&capacity_, &power_})
-        plot->water->setTitleText(title(texts_.text(2995), picture_.temperatureUnit));
+std::vector<ChartPicture> PumpCurves::pictures() const {
+    return {chartOf(picture_.pump.capacity, titleOf(texts().text(2993), picture_.capacityUnit)),
+            chartOf(picture_.pump.power, titleOf(texts().text(2994), picture_.powerUnit))};
 }
 
-void PumpCurves::showCurves(Plot& plot, const ByMode<PumpCurve>& curves) {
+ChartPicture PumpCurves::chartOf(const ByMode<PumpCurve>& curves, const QString& title) const {
     Extent extent;
+    ChartPicture chart;
     for (const Mode mode : modes) {
         extent.take(curves[mode].curve);
         extent.take(curves[mode].points);
-        plot.curves[mode]->replace(pointsOf(curves[mode].curve));
-        plot.points[mode]->replace(pointsOf(curves[mode].points));
+        const double water = picture_.designWater[mode];
+        const auto value = valueAt(curves[mode], water);
+        chart.series.push_back({ChartSeries::Sign::line, mode, pointsOf(curves[mode].curve)});
+        chart.series.push_back({ChartSeries::Sign::measured, mode, pointsOf(curves[mode].points)});
+        chart.series.push_back({ChartSeries::Sign::design, mode,
+                                value ? QList<QPointF>{{water, *value}} : QList<QPointF>()});
     }
-    fitAround(*plot.water, extent.coldest, extent.warmest);
-    fitFromZero(*plot.value, extent.highest);
+    chart.across = axisAround(extent.coldest, extent.warmest);
+    chart.across.title = titleOf(texts().text(2995), picture_.temperatureUnit);
+    chart.up = axisFromZero(extent.highest);
+    chart.up.title = title;
+    return chart;
 }
 
-void PumpCurves::showDesign(Plot& plot, const ByMode<PumpCurve>& curves) {
-    for (const Mode mode : modes) {
-        const auto value = valueAt(curves[mode], picture_.designWater[mode]);
-        plot.design[mode]->replace(value ? QList<QPointF>{{picture_.designWater[mode], *value}}
-                                         : QList<QPointF>());
-    }
+std::vector<LegendRow::Entry> PumpCurves::legend() const {
+    return {{LegendRow::Sign::coolingLine, qt(texts().text(2983))},
+            {LegendRow::Sign::heatingLine, qt(texts().text(2984))},
+            {LegendRow::Sign::measured, qt(texts().text(2996))},
+            {LegendRow::Sign::design, qt(texts().text(2997))}};
 }
 
 QString PumpCurves::emptyHint() const {
-    return picture_.pump.name.empty() ? qt(texts_.text(2990)) : QString();
+    return picture_.pump.name.empty() ? qt(texts().text(2990)) : QString();
 }
 
 }  // namespace varnholt

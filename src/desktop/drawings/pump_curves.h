@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "desktop/drawings/chart_drawing.h"
 #include "forms/texts.h"
 #include "loads/modLoads/loads_pictures.h"
-
-class QLineSeries;
-class QScatterSeries;
 
 namespace varnholt {
 
@@ -32,35 +29,22 @@ class PumpCurves : public ChartDrawing {
  public:
     using Source = std::function<PumpPicture()>;
 
-    PumpCurves(Source picture, const Texts& texts);
+    PumpCurves(Source picture, const Texts& texts, ChartModuleFinder charts);
 
     QString description() const override;
     QSize sizeHint() const override { return {560, 240}; }
 
  protected:
-    void create() override;
-    void take() override;
+    bool take() override;
+    std::vector<ChartPicture> pictures() const override;
+    std::vector<LegendRow::Entry> legend() const override;
     QString emptyHint() const override;
-    void dress(const Look& look) override;
 
  private:
-    /// One of the two charts.
-    struct Plot {
-        QChart* chart = nullptr;
-        QValueAxis *water = nullptr, *value = nullptr;
-        ByMode<QLineSeries*> curves{};
-        ByMode<QScatterSeries*> points{}, design{};
-    };
-
-    void createPlot(Plot& plot);
-    void showCaptions();
-    static void showCurves(Plot& plot, const ByMode<PumpCurve>& curves);
-    void showDesign(Plot& plot, const ByMode<PumpCurve>& curves);
+    ChartPicture chartOf(const ByMode<PumpCurve>& curves, const QString& title) const;
 
     Source source_;
-    const Texts& texts_;
     PumpPicture picture_;
-    Plot capacity_, power_;
 };
 
 }  // namespace varnholt

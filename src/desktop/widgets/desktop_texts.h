@@ -23,5 +23,6 @@ constexpr int cascadeHint = 1365;
 constexpr int nextWindowHint = 1366;
 constexpr int programFault = 1367;
 constexpr int toolbar = 1368;
+constexpr int noCharts = 1369;
 
 }  // namespace varnholt::desktop_texts

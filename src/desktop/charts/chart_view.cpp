@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/charts/chart_view.h"
+
+#include <QGraphicsLayout>
+#include <QtCharts/QCategoryAxis>
+#include <QtCharts/QLegend>
+#include <QtCharts/QValueAxis>
+#include <cmath>
+#include <utility>
+
+namespace varnholt {
+namespace {
+
+/// As many decimals as the steps have.
+QString labelFormat(double step) {
+    int decimals = 0;
+    for (double left = step; decimals < 6; left *= 10, ++decimals)
+        if (std::abs(left - std::round(left)) < 1e-6 * left) break;
+    return QStringLiteral("%.%1f").arg(decimals);
+}
+
+QAbstractAxis* newAxis(const ChartAxis& axis) {
+    if (axis.parts.empty()) return new QValueAxis;
+    return new QCategoryAxis;
+}
+
+void nameParts(QCategoryAxis& engine, const ChartAxis& axis) {
+    for (const QString& old : engine.categoriesLabels()) engine.remove(old);
+    engine.setStartValue(axis.lowest);
+    for (const ChartAxis::Part& part : axis.parts) engine.append(part.name, part.end);
+}
+
+void figure(QValueAxis& engine, const ChartAxis& axis) {
+    engine.setLabelFormat(labelFormat(axis.step));
+    if (axis.figures > 0) {
+        engine.setTickCount(axis.figures);
+        return;
+    }
+    engine.setTickType(QValueAxis::TicksDynamic);
+    engine.setTickAnchor(0);
+    engine.setTickInterval(axis.step);
+}
+
+void drawAxis(QAbstractAxis& engine, const ChartAxis& axis) {
+    engine.setTitleText(axis.title);
+    engine.setRange(axis.lowest, axis.highest);
+    if (axis.parts.empty())
+        figure(static_cast<QValueAxis&>(engine), axis);
+    else
+        nameParts(static_cast<QCategoryAxis&>(engine), axis);
+}
+
+void dressAxis(QAbstractAxis& engine, const Look& look, const QFont& font) {
+    engine.setLabelsFont(font);
+    engine.setTitleFont(font);
+    engine.setLabelsBrush(look.muted);
+    engine.setTitleBrush(look.muted);
+    engine.setGridLinePen(QPen(look.hairline, 1));
+    engine.setLinePen(QPen(look.line, 1));
+}
+
+QChart* newPlainChart() {
+    auto* chart = new QChart;
+    chart->setAnimationOptions(QChart::NoAnimation);
+    chart->setBackgroundRoundness(0);
+    chart->setBackgroundVisible(false);
+    chart->setMargins({0, 0, 0, 0});
+    chart->layout()->setContentsMargins(0, 0, 0, 0);
+    chart->legend()->hide();
+    return chart;
+}
+
+}  // namespace
+
+ChartView::ChartView(QWidget* parent) : QChartView(newPlainChart(), parent) {
+    setRenderHint(QPainter::Antialiasing);
+    setFrameShape(QFrame::NoFrame);
+    setBackgroundBrush(Qt::NoBrush);
+    viewport()->setAutoFillBackground(false);
+    setFocusPolicy(Qt::NoFocus);
+    // The wheel belongs to the page.
+    setInteractive(false);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+bool ChartView::hasPartsOf(const ChartPicture& picture) const {
+    if (across_ == nullptr || picture.series.size() != picture_.series.size()) return false;
+    if (picture.across.parts.empty() != picture_.across.parts.empty()) return false;
+    if (picture.up.parts.empty() != picture_.up.parts.empty()) return false;
+    for (std::size_t i = 0; i < picture.series.size(); ++i)
+        if (picture.series[i].sign != picture_.series[i].sign ||
+            picture.series[i].mode != picture_.series[i].mode)
+            return false;
+    return true;
+}
+
+void ChartView::build(const ChartPicture& picture) {
+    chart()->removeAllSeries();
+    series_.clear();
+    delete std::exchange(across_, newAxis(picture.across));
+    delete std::exchange(up_, newAxis(picture.up));
+    chart()->addAxis(across_, Qt::AlignBottom);
+    chart()->addAxis(up_, Qt::AlignLeft);
+    for (const ChartSeries& series : picture.series) {
+        QAbstractSeries* engine = series_.emplace_back(series.sign, series.mode).engine();
+        chart()->addSeries(engine);
+        engine->attachAxis(across_);
+        engine->attachAxis(up_);
+    }
+}
+
+void ChartView::draw(const ChartPicture& picture) {
+    const bool built = hasPartsOf(picture);
+    if (!built) build(picture);
+    if (!built || picture.across != picture_.across) drawAxis(*across_, picture.across);
+    if (!built || picture.up != picture_.up) drawAxis(*up_, picture.up);
+    for (std::size_t i = 0; i < series_.size(); ++i)
+        if (!built || picture.series[i].points != picture_.series[i].points)
+            series_[i].draw(picture.series[i].points);
+    picture_ = picture;
+    if (!built) dressAll();
+}
+
+void ChartView::dress(const Look& look, const QFont& figures) {
+    look_ = &look;
+    figures_ = figures;
+    dressAll();
+}
+
+void ChartView::dressAll() {
+    if (look_ == nullptr || across_ == nullptr) return;
+    for (QAbstractAxis* axis : {across_, up_}) dressAxis(*axis, *look_, figures_);
+    for (PlottedSeries& series : series_) series.dress(*look_);
+}
+
+}  // namespace varnholt

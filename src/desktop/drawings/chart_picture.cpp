@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/drawings/chart_picture.h"
+
+#include <cmath>
+
+namespace varnholt {
+namespace {
+
+constexpr int mostSteps = 4;
+
+/// The smallest of 1, 2, 2.5, 5 times a power of ten that is not below the number.
+double roundStep(double atLeast) {
+    const double power = std::pow(10, std::floor(std::log10(atLeast)));
+    for (const double round : {1.0, 2.0, 2.5, 5.0})
+        if (round * power >= atLeast * 0.999) return round * power;
+    return 10 * power;
+}
+
+}  // namespace
+
+ChartAxis axisFromZero(double highest) {
+    if (!(highest > 0)) highest = 1;
+    ChartAxis axis;
+    axis.step = roundStep(highest / mostSteps);
+    const double steps = std::ceil(highest / axis.step - 1e-9);
+    axis.highest = steps * axis.step;
+    axis.figures = static_cast<int>(steps) + 1;
+    return axis;
+}
+
+ChartAxis axisAround(double lowest, double highest) {
+    if (!(highest > lowest)) highest = lowest + 1;
+    const double room = (highest - lowest) * 0.04;
+    ChartAxis axis;
+    axis.step = roundStep((highest - lowest) / mostSteps);
+    axis.lowest = lowest - room;
+    axis.highest = highest + room;
+    return axis;
+}
+
+}  // namespace varnholt

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QList>
+#include <QPointF>
+#include <QString>
+#include <vector>
+
+#include "basis/mode.h"
+
+namespace varnholt {
+
+/// One axis of a chart and what stands at it.
+struct ChartAxis {
+    /// A part of the axis with a name of its own, from the part before it to its end.
+    struct Part {
+        QString name;
+        double end;
+
+        friend bool operator==(const Part&, const Part&) = default;
+    };
+
+    QString title;
+    double lowest = 0, highest = 1;
+    /// Figures stand at the multiples of the step...
+    double step = 1;
+    /// ...or so many of them at even distances from the lowest to the highest; 0 for the former.
+    int figures = 0;
+    /// Names in place of figures.
+    std::vector<Part> parts;
+
+    friend bool operator==(const ChartAxis&, const ChartAxis&) = default;
+};
+
+/// Points of one mode, and the sign by which they are shown.
+struct ChartSeries {
+    enum class Sign {
+        line,      ///< solid for cooling, dashed for heating
+        steps,     ///< a line with square corners
+        area,      ///< what lies below the points, in a wash of the mode's colour
+        measured,  ///< hollow marks, round for cooling and square for heating
+        design,    ///< diamonds
+    };
+
+    Sign sign;
+    Mode mode;
+    QList<QPointF> points;
+
+    friend bool operator==(const ChartSeries&, const ChartSeries&) = default;
+};
+
+/// A chart as plain data: whoever draws it knows nothing of what it tells.
+struct ChartPicture {
+    ChartAxis across, up;
+    std::vector<ChartSeries> series;
+
+    friend bool operator==(const ChartPicture&, const ChartPicture&) = default;
+};
+
+/// From zero to the next round number at or beyond the highest value.
+ChartAxis axisFromZero(double highest);
+
+/// With a little room at both ends of the values, and figures at round numbers.
+ChartAxis axisAround(double lowest, double highest);
+
+}  // namespace varnholt

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QProcess>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include "scripts/script_run.h"
+
+namespace varnholt {
+
+/// The real program with its windows, worked line by line over its standard input.
+class StartedProgram {
+ public:
+    /// @param program the executable file
+    explicit StartedProgram(const std::string& program) {
+        const std::filesystem::path folder = temporary_.path() / "program";
+        for (const char* name : {"work files", "zones", "Data", "OnlineHelp"})
+            std::filesystem::create_directories(folder / name);
+        std::filesystem::copy(VARNHOLT_SOURCE_DIR "/resources/pumps", folder / "pumps",
+                              std::filesystem::copy_options::recursive);
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        process_.setProcessEnvironment(environment);
+        process_.start(QString::fromStdString(program),
+                       {QStringLiteral("--script"), QStringLiteral("-"), QStringLiteral("--locale"),
+                        QStringLiteral("409"), QStringLiteral("--program-folder"),
+                        QString::fromStdString(folder.string())});
+        EXPECT_TRUE(process_.waitForStarted(10000)) << program;
+    }
+    ~StartedProgram() {
+        process_.kill();
+        process_.waitForFinished(10000);
+    }
+    StartedProgram(const StartedProgram&) = delete;
+    StartedProgram& operator=(const StartedProgram&) = delete;
+
+    std::filesystem::path folder() const { return temporary_.path() / "program"; }
+
+    /// Gives the program these lines and waits until it has run them.
+    void run(const std::string& lines) {
+        process_.write(QByteArray::fromStdString(lines + "\nprint Varnmain.mnuHelp\n"));
+        QByteArray told;
+        while (!told.startsWith("Varnmain.mnuHelp = ")) {
+            if (!process_.canReadLine() && !process_.waitForReadyRead(30000)) {
+                ADD_FAILURE() << told.toStdString()
+                              << process_.readAllStandardError().toStdString();
+                return;
+            }
+            told = process_.readLine();
+        }
+    }
+
+    /// What the program has in memory, by the names of the files it came from.
+    std::string filesInMemory() const { return ofSystem("maps"); }
+
+    /// Memory that the program occupies at this moment, in MB of 2^20 bytes.
+    double megabytes() const {
+        std::istringstream status(ofSystem("status"));
+        for (std::string word; status >> word;)
+            if (double kilobytes = 0; word == "VmRSS:" && status >> kilobytes)
+                return kilobytes / 1024;
+        return 0;
+    }
+
+    /// Ends the script; the program's exit status.
+    int end() {
+        process_.closeWriteChannel();
+        process_.waitForFinished(30000);
+        return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
+    }
+
+ private:
+    std::string ofSystem(const std::string& file) const {
+        return wholeFile("/proc/" + std::to_string(process_.processId()) + "/" + file);
+    }
+
+    TemporaryFolder temporary_;
+    QProcess process_;
+};
+
+}  // namespace varnholt

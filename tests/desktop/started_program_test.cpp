@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "started_program.h"
+
+#include <gtest/gtest.h>
+
+namespace varnholt {
+namespace {
+
+const std::string windows = VARNHOLT_BIN_DIR "/varnholt";
+
+/// Brings the curves of a heat pump into sight.
+const std::string showCurves = R"(click Varnmain.mnuZoneManage
+click frmZoneManage.LONewCommand
+choose frmZoneManage.tabLoads #1
+choose frmZoneManage.HPManufacturerCombo #0
+choose frmZoneManage.HPSeriesCombo #0
+choose frmZoneManage.HPPumpList #0)";
+
+TEST(StartedProgram, LoadsTheChartEngineWithTheFirstChart) {
+    StartedProgram program(windows);
+    program.run("click Varnmain.NewBorehole\nclick Varnmain.mnuZoneManage");
+    const std::string before = program.filesInMemory();
+    EXPECT_NE(before.find("libQt6Widgets"), std::string::npos);
+    for (const char* library : {"varnholt_charts", "libQt6Charts", "libQt6OpenGL"})
+        EXPECT_EQ(before.find(library), std::string::npos) << library;
+    program.run(showCurves);
+    EXPECT_NE(program.filesInMemory().find("varnholt_charts"), std::string::npos);
+    EXPECT_EQ(program.end(), 0);
+}
+
+TEST(StartedProgram, DoesWithoutTheChartsWhereTheyAreMissing) {
+    const TemporaryFolder elsewhere;
+    const std::filesystem::path copy = elsewhere.path() / "bin" / "varnholt";
+    std::filesystem::create_directories(copy.parent_path());
+    std::filesystem::copy_file(windows, copy);
+    StartedProgram program(copy.string());
+    const std::filesystem::path picture = elsewhere.path() / "curves.png";
+    program.run(showCurves + "\nshot frmZoneManage " + picture.string());
+    EXPECT_EQ(program.filesInMemory().find("varnholt_charts"), std::string::npos);
+    EXPECT_TRUE(std::filesystem::exists(picture));
+    EXPECT_EQ(program.end(), 0);
+}
+
+}  // namespace
+}  // namespace varnholt
