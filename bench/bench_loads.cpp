@@ -74,7 +74,7 @@ void readZoneFileText(benchmark::State& state) {
     for (auto _ : state) {
         LoadsData data;
         readZones(text, {"Zone", ""}, data);
-        benchmark::DoNotOptimize(data.zones.data());
+        benchmark::DoNotOptimize(data.zones.size());
     }
 }
 BENCHMARK(readZoneFileText)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMillisecond);

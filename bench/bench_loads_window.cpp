@@ -63,7 +63,10 @@ class OpenManager {
             list[i].gains = {
                 {{load * 0.6, load * 0.8}, {load, load * 0.3}, {load * 0.9, 0}, {0, load}}};
         }
-        window->replaceLoads(list);
+        DesignProject project;
+        project.loads.zones = list;
+        project.loads.activeSeries = window->activeSeries();
+        window->replaceLoads(project);
     }
     ~OpenManager() { std::filesystem::remove_all(folder_); }
     OpenManager(const OpenManager&) = delete;
@@ -100,7 +103,7 @@ BENCHMARK(updatePumps)->RangeMultiplier(10)->Range(10, 1000)->Unit(benchmark::kM
 
 void openZoneFile(benchmark::State& state) {
     OpenManager manager(state.range(0));
-    saveZoneFile(manager.path("zones.zon"), {manager.window->ZoneList, {}, "MakerRising"});
+    saveZoneFile(manager.path("zones.zon"), {manager.window->ZoneList(), {}, "MakerRising"});
     for (auto _ : state) manager.window->LOOpenZoneFile(manager.path("zones.zon"));
 }
 BENCHMARK(openZoneFile)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMillisecond);

@@ -56,22 +56,24 @@ class ProjectFolder {
 
  private:
     void makeProject(std::size_t zones) {
-        LoadsData data;
-        data.zones.resize(zones);
+        std::vector<Zone> rooms(zones);
         double load = 0;
-        for (Zone& zone : data.zones) {
+        for (Zone& zone : rooms) {
             zone.gains[1][cooling] = load += 1.5;
             zone.gains[3][heating] = load / 2;
             zone.title = "A room with a name";
             zone.pump.capacity = {load, load};
             zone.pump.watts = {load / 12, load / 14};
         }
+        LoadsData data;
+        data.zones = rooms;
         saveZoneFile(folder + "/zones.zon", data);
         main->click("NewBorehole");
         auto& design = dynamic_cast<frmBHDesign&>(*main->find("frmBHDesign"));
-        design.linkType = "frmZoneManage";
-        design.workingZoneFile = "zones.zon";
-        design.workingZoneDirectory = folder;
+        BoreholeProject linked = design.project();
+        linked.loads.linkType = "frmZoneManage";
+        linked.loads.file = {"zones.zon", folder, true};
+        design.setProject(std::move(linked));
         saveVHTFile(design, project);
         closeAll();
     }
@@ -81,7 +83,7 @@ void openProject(benchmark::State& state) {
     ProjectFolder program(state.range(0));
     for (auto _ : state) {
         const frmBHDesign& design = program.open();
-        if (design.ZoneList.size() != static_cast<std::size_t>(state.range(0)))
+        if (design.ZoneList().size() != static_cast<std::size_t>(state.range(0)))
             state.SkipWithError("the zones were not found");
         state.PauseTiming();
         program.closeAll();

@@ -21,7 +21,7 @@ class SilentPlatform : public Platform {
     std::string clipboard() override { return {}; }
     void setClipboard(const std::string&) override {}
     Date today() override { return {2026, 1, 15}; }
-    void pause(int) override {}
+    void edit(EditCommand) override {}
     void progress(const std::string&, std::size_t, std::size_t) override {}
     void openOutside(const std::string&) override {}
     std::optional<std::string> GetKeyValue(const std::string&, const std::string&) override {

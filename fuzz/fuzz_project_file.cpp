@@ -52,8 +52,10 @@ void readShowCalculateSave(std::string_view bytes) {
         // What was read so far is there, and must do no harm.
     }
     const std::string saved = projectText(design);
-    design.ZoneList = loads();
-    design.zoneNumber = 2;
+    BoreholeProject project = design.project();
+    project.loads.zones = loads();
+    project.loads.zoneNumber = 2;
+    design.setProject(std::move(project));
     design.setUnitLabels();
     design.click("MetricCheck");
     design.showGoverningMode();

@@ -150,7 +150,7 @@ void addIndex(Values& values, const PumpCatalogue& catalogue) {
 }  // namespace
 
 void addCatalogueValues(Values& values, const PumpCatalogue& catalogue) {
-    values.add("activeSeries", &catalogue.activeSeries);
+    values.add("activeSeries", &catalogue.activeSeries());
     addCount(values, "vhtMfgCount", 0,
              [&catalogue](const Indices&) { return catalogue.vhtMfgCount(); });
     addCount(values, "vhtTotalSeriesCount", 0,

@@ -19,16 +19,15 @@ std::string joined(const PumpList& manufacturer, const PumpSeriesInfo& series) {
 
 }  // namespace
 
-PumpCatalogue::PumpCatalogue(const std::string& programFolder, const Texts& texts, Exclaim exclaim,
+PumpCatalogue::PumpCatalogue(const std::string& programFolder, const Texts& texts,
+                             std::string& activeSeries, Exclaim exclaim,
                              std::shared_ptr<CatalogueFiles> files)
     : folder_(programFolder + "/pumps"),
       texts_(texts),
+      activeSeries_(activeSeries),
       exclaim_(std::move(exclaim)),
       files_(std::move(files)),
       index_(std::make_shared<const CatalogueFiles::Index>()) {}
-
-PumpCatalogue::PumpCatalogue(const std::string& programFolder, const Texts& texts, Exclaim exclaim)
-    : PumpCatalogue(programFolder, texts, std::move(exclaim), std::make_shared<CatalogueFiles>()) {}
 
 std::int16_t PumpCatalogue::vhtTotalSeriesCount() const {
     std::size_t total = 0;
@@ -58,7 +57,7 @@ bool PumpCatalogue::holds(std::size_t slot, const std::string& mfgName,
 
 void PumpCatalogue::InitializeHeatPumpLists() {
     readPumpNames();
-    if (activeSeries.empty()) activeSeries = preferredSeries();
+    if (activeSeries_.empty()) activeSeries_ = preferredSeries();
     readActiveSeries(activeSlot);
 }
 
@@ -90,17 +89,17 @@ bool PumpCatalogue::readPumps(const std::string& FileName, std::size_t slot) {
 }
 
 bool PumpCatalogue::readActiveSeries(std::size_t slot) {
-    const PumpSeriesInfo* series = findJoined(activeSeries);
+    const PumpSeriesInfo* series = findJoined(activeSeries_);
     if (series == nullptr && !firstSeries().empty()) {
-        activeSeries = firstSeries();
-        series = findJoined(activeSeries);
+        activeSeries_ = firstSeries();
+        series = findJoined(activeSeries_);
     }
     return series != nullptr && readPumps(series->FileName, slot);
 }
 
 bool PumpCatalogue::activate(const std::string& mfgName, const PumpSeriesInfo& series) {
     if (!readPumps(series.FileName, activeSlot)) return false;
-    activeSeries = mfgName + series.seriesName;
+    activeSeries_ = mfgName + series.seriesName;
     return true;
 }
 

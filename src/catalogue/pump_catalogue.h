@@ -33,16 +33,15 @@ class PumpCatalogue {
 
     /// @param programFolder  the program's folder, without a slash at its end; the catalogue is
     ///                       its folder `pumps`
-    /// @param files          what the program has read of the catalogue, for its windows to share
-    PumpCatalogue(const std::string& programFolder, const Texts& texts, Exclaim exclaim,
-                  std::shared_ptr<CatalogueFiles> files);
-    /// With no other window to share with.
-    PumpCatalogue(const std::string& programFolder, const Texts& texts, Exclaim exclaim);
+    /// @param activeSeries   manufacturer's and series' name joined, part of the document that the
+    ///                       window edits. A window that opens a zone file stores its series there
+    ///                       and calls InitializeHeatPumpLists
+    /// @param files          what the program has read of the catalogue, for windows to share
+    PumpCatalogue(const std::string& programFolder, const Texts& texts, std::string& activeSeries,
+                  Exclaim exclaim,
+                  std::shared_ptr<CatalogueFiles> files = std::make_shared<CatalogueFiles>());
 
-    /// Manufacturer's and series' name joined. A window that opens a zone file stores its series
-    /// here and calls InitializeHeatPumpLists.
-    std::string activeSeries;
-
+    const std::string& activeSeries() const { return activeSeries_; }
     const std::vector<varnholt::PumpList>& vhtPumpNames() const { return index_->content; }
     std::int16_t vhtMfgCount() const { return static_cast<std::int16_t>(vhtPumpNames().size()); }
     std::int16_t vhtTotalSeriesCount() const;
@@ -92,6 +91,7 @@ class PumpCatalogue {
 
     std::string folder_;
     const Texts& texts_;
+    std::string& activeSeries_;
     Exclaim exclaim_;
     std::shared_ptr<CatalogueFiles> files_;
     std::shared_ptr<const CatalogueFiles::Index> index_;

@@ -10,6 +10,10 @@ namespace varnholt {
 class ArrangementTab : public DesignTab {
  public:
     ArrangementTab(GroundDesign& design, ArrangementValues& arrangement);
+
+ private:
+    void addRows(ArrangementValues& arrangement);
+    void addSeparation(ArrangementValues& arrangement);
 };
 
 }  // namespace varnholt

@@ -18,10 +18,6 @@ constexpr std::array<int, placements> placementCaptions{2433, 2434, 2435};
 constexpr int single = 0;
 constexpr int average = 1;
 
-std::string option(const char* name, int element) {
-    return std::string(name) + "(" + std::to_string(element) + ")";
-}
-
 }  // namespace
 
 BoreTab::BoreTab(GroundDesign& design, PipeValues& pipe, BoreValues& bore)
@@ -39,7 +35,7 @@ BoreTab::BoreTab(GroundDesign& design, PipeValues& pipe, BoreValues& bore)
 void BoreTab::addConfiguration() {
     addFrame("PIConfigurationFrame", 2429, "PIPipeFrame");
     for (int i = 0; i < configurations; ++i) {
-        const std::string name = option("PIConfigurationOption", i);
+        const std::string name = elementName("PIConfigurationOption", static_cast<std::size_t>(i));
         add(name, ControlKind::option, "PIConfigurationFrame",
             configurationCaptions[static_cast<std::size_t>(i)])
             .grouped("PIConfigurationOption");
@@ -50,7 +46,7 @@ void BoreTab::addConfiguration() {
 void BoreTab::addPlacement() {
     addFrame("PIPlacementFrame", 2432, "PIPipeFrame");
     for (int i = 0; i < placements; ++i) {
-        const std::string name = option("PIPlacementOption", i);
+        const std::string name = elementName("PIPlacementOption", static_cast<std::size_t>(i));
         add(name, ControlKind::option, "PIPlacementFrame",
             placementCaptions[static_cast<std::size_t>(i)])
             .grouped("PIPlacementOption");
@@ -60,29 +56,49 @@ void BoreTab::addPlacement() {
 
 void BoreTab::addBore() {
     addFrame("PIBoreholeDiameterFrame", 2423, "PIPipeFrame");
-    NumericFieldRow row{"PIBoreholeDiameterText", &bore_.boreDiameter, &quantities::diameter};
-    row.fallback = BoreValues().boreDiameter;
-    row.format = "###0.00";
-    row.left = [this] { PIBoreholeDiameterText_Leave(); };
-    addField(row, {"PIBoreholeDiameterFrame", 2424, 2448, 2449, "PIBoreholeDiameterUnitsLabel"});
+    addField({.control = "PIBoreholeDiameterText",
+              .stored = &bore_.boreDiameter,
+              .quantity = &quantities::diameter,
+              .fallback = BoreValues().boreDiameter,
+              .format = "###0.00",
+              .beside = {.frame = "PIBoreholeDiameterFrame",
+                         .label = "PIBoreholeDiameterLabel",
+                         .caption = {2424, 2424},
+                         .unitLabel = "PIBoreholeDiameterUnitsLabel",
+                         .unit = {2449, 2448},
+                         .help = "borehole#piping"},
+              .left = [this] { PIBoreholeDiameterText_Leave(); }});
 }
 
 void BoreTab::addGrout() {
     addFrame("PIGroutFrame", 2422, "PIPipeFrame");
-    NumericFieldRow row{"PIGroutConductivityText", &bore_.groutConductivity,
-                        &quantities::conductivity};
-    row.fallback = BoreValues().groutConductivity;
-    row.format = "###0.00";
-    row.changed = [this] { calculateResistance(); };
-    addField(row, {"PIGroutFrame", 2426, 2446, 2447, "PIGroutThermalConductivityUnitsLabel"});
+    addField({.control = "PIGroutConductivityText",
+              .stored = &bore_.groutConductivity,
+              .quantity = &quantities::conductivity,
+              .fallback = BoreValues().groutConductivity,
+              .format = "###0.00",
+              .beside = {.frame = "PIGroutFrame",
+                         .label = "PIGroutConductivityLabel",
+                         .caption = {2426, 2426},
+                         .unitLabel = "PIGroutThermalConductivityUnitsLabel",
+                         .unit = {2447, 2446},
+                         .help = "borehole#piping"},
+              .changed = [this] { calculateResistance(); }});
 }
 
 void BoreTab::addResistance() {
     addFrame("PIThermalResistanceFrame", 2402, "PIPipeFrame");
-    NumericFieldRow row{"PIThermalResistanceText", &bore_.boreResistance, &quantities::resistance};
-    row.fallback = BoreValues().boreResistance;
-    row.format = "###0.000";
-    addField(row, {"PIThermalResistanceFrame", 2403, 2404, 2405, "PIThermalResistanceUnitsLabel"});
+    addField({.control = "PIThermalResistanceText",
+              .stored = &bore_.boreResistance,
+              .quantity = &quantities::resistance,
+              .fallback = BoreValues().boreResistance,
+              .format = "###0.000",
+              .beside = {.frame = "PIThermalResistanceFrame",
+                         .label = "PIThermalResistanceLabel",
+                         .caption = {2403, 2403},
+                         .unitLabel = "PIThermalResistanceUnitsLabel",
+                         .unit = {2405, 2404},
+                         .help = "borehole#resistance"}});
 }
 
 void BoreTab::setUnitLabels() {
@@ -152,9 +168,11 @@ void BoreTab::PIBoreholeDiameterText_Leave() {
 
 void BoreTab::showOptions() {
     for (int i = 0; i < configurations; ++i)
-        control(option("PIConfigurationOption", i)).setChecked(bore_.uTubeConfig == i);
+        control(elementName("PIConfigurationOption", static_cast<std::size_t>(i)))
+            .setChecked(bore_.uTubeConfig == i);
     for (int i = 0; i < placements; ++i)
-        control(option("PIPlacementOption", i)).setChecked(bore_.pipePlacement == i);
+        control(elementName("PIPlacementOption", static_cast<std::size_t>(i)))
+            .setChecked(bore_.pipePlacement == i);
 }
 
 }  // namespace varnholt

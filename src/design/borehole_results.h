@@ -1,31 +1,35 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
+
 #include "basis/mode.h"
+#include "design/design_values.h"
+#include "design/loads_roll_up.h"
 #include "design/modCalculations/bore_grid.h"
+#include "design/modCalculations/cooling_tower.h"
 #include "design/modCalculations/ground_load.h"
 #include "design/modCalculations/ground_resistance.h"
-#include "design/modCalculations/part_load.h"
-#include "design/modCalculations/peak_demand.h"
-#include "design/modCalculations/peak_loads.h"
 #include "design/modCalculations/settling.h"
-#include "design/modCalculations/system_cop.h"
-#include "design/modCalculations/system_flow.h"
 
 namespace varnholt {
 
-/// What the zones amount to: the same for every kind of ground loop.
-struct LoadsRollUp {
-    modCalculations::PeakLoads loads;
-    modCalculations::PeakDemand demand;
-    modCalculations::PartLoadFactors partLoad;
-    modCalculations::SystemCOP cop;
-    /// `outletTemp` of a new design is its inlet temperature.
-    modCalculations::UnitOutlet outlet;
+/// All that a run of the borehole design starts from.
+struct BoreholeInputs {
+    LoadsInputs loads;
+    SoilValues soil;
+    BoreValues bore;
+    ArrangementValues arrangement;
+    double coolingRange = 0;  ///< of the tower, degF
+
+    friend bool operator==(const BoreholeInputs&, const BoreholeInputs&) = default;
 };
 
-/// Everything that a run of the borehole design computes.
+/// Everything that a run of the borehole design computes, and what it was computed from.
 struct BoreholeResults : LoadsRollUp {
+    /// What the figures came from; none before the first run, and what the project holds where
+    /// they were read from its file.
+    std::optional<BoreholeInputs> inputs;
     modCalculations::LoadTonHours tonHours;
     ByMode<double> annualTonHours{};
     double annualGroundLoad = 0;  ///< mean heat taken from the ground, MBtu/hr
@@ -33,6 +37,9 @@ struct BoreholeResults : LoadsRollUp {
     modCalculations::NeighbourCount neighbourCount{};
     modCalculations::SettledLengths lengths;
     double coolingPeakBeforeHybrid = 0;  ///< MBtu/hr
+    modCalculations::CoolingTower tower;
+
+    friend bool operator==(const BoreholeResults&, const BoreholeResults&) = default;
 };
 
 }  // namespace varnholt

@@ -1,133 +1,113 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/borehole_run.h"
 
+#include <algorithm>
+
 #include "design/modCalculations/heat_pulses.h"
 #include "design/modCalculations/short_circuit.h"
+#include "design/modCalculations/temperature_penalty.h"
+#include "loads/linked_design.h"
 
 namespace varnholt {
 namespace {
 
+using namespace modCalculations;
+
 constexpr double inchesPerFoot = 12;
 
-modCalculations::Soil soilOf(const SoilValues& soil) {
-    return {soil.conductivity, soil.diffusivity};
+Soil soilOf(const SoilValues& soil) { return {soil.conductivity, soil.diffusivity}; }
+
+/// A project whose zone file is missing counts more zones than it has.
+SharedZones zonesInUse(const ProjectLoads& loads) {
+    SharedZones zones = loads.zones;
+    zones.cutTo(static_cast<std::size_t>(std::max<std::int16_t>(loads.zoneNumber, 0)));
+    return zones;
+}
+
+GroundResistances groundResistancesOf(const BoreholeInputs& inputs, const PeakLoads& loads) {
+    const PulseTimes pulses = calcPulseTimes(loads.peakBlock, inputs.arrangement.predictionTime);
+    return calcGroundResistances(pulses, inputs.bore.boreDiameter / inchesPerFoot,
+                                 soilOf(inputs.soil));
+}
+
+LengthTerms lengthTermsOf(const BoreholeInputs& inputs, const BoreholeResults& results) {
+    LengthTerms terms;
+    terms.annualGroundLoad = results.annualGroundLoad;
+    terms.peakLoad = results.loads.peakLoad;
+    terms.peakDemand = results.demand.peakDemand;
+    terms.partLoadFactor = results.partLoad.partLoadFactor;
+    terms.groundResistance = results.groundResistance;
+    terms.boreResistance = inputs.bore.boreResistance;
+    terms.shortCircuitFactor =
+        shortCircuitFactor(inputs.arrangement.boresPerCircuit, inputs.loads.flowRate);
+    terms.groundTemp = {inputs.soil.groundTemp, inputs.soil.groundTemp};
+    terms.inletTemp = inputs.loads.inletTemp;
+    terms.outletTemp = results.outlet.outletTemp;
+    return terms;
+}
+
+/// The ground's load over the years, and the tower that keeps a part of it away.
+void rollUpYear(const LoadsInputs& loads, double coolingRange, const Hybrid& hybrid,
+                BoreholeResults& results) {
+    const ByMode<double>& cop = results.cop.heatPumpCOP;
+    results.tonHours = calculateLoadTonHours(loads.zones);
+    results.annualTonHours = annualTonHours(results.tonHours);
+    results.annualGroundLoad = calcAnnualGroundLoad(results.annualTonHours, cop, hybrid);
+    results.coolingPeakBeforeHybrid = hybrid.coolingPeakBeforeHybrid;
+    results.tower =
+        sizeCoolingTower(hybrid, results.loads.peakLoad[cooling],
+                         {cop[cooling], results.annualTonHours[cooling], loads.hybridPercent},
+                         loads.fluid, coolingRange);
+}
+
+/// Length and penalty depend on each other: a first length, its penalty, and so on until they
+/// agree.
+void settleLengths(const BoreholeInputs& inputs, BoreholeResults& results) {
+    const LengthTerms terms = lengthTermsOf(inputs, results);
+    const auto& [rows, columns] = inputs.arrangement.patternRows;
+    ByMode<double> lengths = calcBoreLengths(terms, initTemperaturePenalty());
+    results.neighbourCount = countNeighbours(rows, columns);
+    const PenaltySite site{{rows, columns, inputs.arrangement.boreSeparation},
+                           results.neighbourCount,
+                           soilOf(inputs.soil),
+                           inputs.arrangement.predictionTime};
+    lengths =
+        calcBoreLengths(terms, calcTemperaturePenalty(site, results.annualGroundLoad, lengths));
+    results.lengths = settleBoreLengths(terms, site, lengths);
 }
 
 }  // namespace
 
-LoadsRun::LoadsRun(const LoadsInputs& inputs, LoadsRollUp& rollUp)
-    : inputs_(inputs), rollUp_(rollUp), hybrid_{inputs.hybridOn, inputs.hybridPercent, 0} {}
-
-void LoadsRun::calcPeakLoads() { rollUp_.loads = modCalculations::calcPeakLoads(inputs_.zones); }
-
-bool LoadsRun::hasLoad() const {
-    return rollUp_.loads.peakLoad[cooling] > 0 || rollUp_.loads.peakLoad[heating] > 0;
+BoreholeInputs inputsOf(const BoreholeProject& project, bool hybridOn) {
+    return {
+        {zonesInUse(project.loads), project.extraPower.extraPower, project.conditions.inletTemp,
+         project.conditions.flowRate, project.fluid.fluid(), hybridOn, project.tower.hybridPercent},
+        project.soil,
+        project.bore,
+        project.arrangement,
+        project.tower.tower.range};
 }
 
-void LoadsRun::prepareHybrid() {
-    if (!hybrid_.on) return;
-    double& peak = rollUp_.loads.peakLoad[cooling];
-    hybrid_.coolingPeakBeforeHybrid = peak;
-    peak = hybrid_.leftForGround(peak);
+std::optional<BoreholeResults> runBorehole(const BoreholeInputs& inputs) {
+    BoreholeResults results;
+    results.loads = calcPeakLoads(inputs.loads.zones);
+    if (!hasLoad(results.loads)) return std::nullopt;
+    const Hybrid hybrid = rollUpForGround(inputs.loads, results);
+    rollUpYear(inputs.loads, inputs.coolingRange, hybrid, results);
+    results.groundResistance = groundResistancesOf(inputs, results.loads);
+    settleLengths(inputs, results);
+    if (hybrid.on) results.loads.peakLoad[cooling] = hybrid.coolingPeakBeforeHybrid;
+    results.inputs = inputs;
+    return results;
 }
 
-void LoadsRun::calcPeakDemand() {
-    rollUp_.demand = modCalculations::calcPeakDemand(inputs_.zones, rollUp_.loads.peakBlock);
-}
-
-void LoadsRun::calcPartLoadFactors() {
-    rollUp_.partLoad =
-        modCalculations::calcPartLoadFactors(inputs_.zones, rollUp_.loads.peakLoad, hybrid_);
-}
-
-void LoadsRun::calcSystemCOP() {
-    rollUp_.cop =
-        modCalculations::calcSystemCOP(inputs_.zones, rollUp_.loads.peakLoad,
-                                       rollUp_.demand.peakDemand, inputs_.extraPower, hybrid_);
-}
-
-void LoadsRun::calcUnitOutletTemps() {
-    rollUp_.outlet = modCalculations::calcUnitOutletTemps(
-        rollUp_.loads.peakLoad, rollUp_.demand.peakDemand, inputs_.inletTemp, inputs_.flowRate,
-        inputs_.fluid, hybrid_);
-}
-
-void LoadsRun::restorePeakLoad() {
-    if (hybrid_.on) rollUp_.loads.peakLoad[cooling] = hybrid_.coolingPeakBeforeHybrid;
-}
-
-BoreholeRun::BoreholeRun(const BoreholeInputs& inputs)
-    : LoadsRun(inputs.loads, results_), inputs_(inputs) {}
-
-void BoreholeRun::calculateLoadTonHours() {
-    results_.tonHours = modCalculations::calculateLoadTonHours(inputs_.loads.zones);
-}
-
-void BoreholeRun::calcAnnualGroundLoad() {
-    results_.annualTonHours = modCalculations::annualTonHours(results_.tonHours);
-    results_.annualGroundLoad = modCalculations::calcAnnualGroundLoad(
-        results_.annualTonHours, results_.cop.heatPumpCOP, hybrid());
-    results_.coolingPeakBeforeHybrid = hybrid().coolingPeakBeforeHybrid;
-    const modCalculations::TowerYear year{results_.cop.heatPumpCOP[cooling],
-                                          results_.annualTonHours[cooling],
-                                          inputs_.loads.hybridPercent};
-    tower_ = modCalculations::sizeCoolingTower(hybrid(), results_.loads.peakLoad[cooling], year,
-                                               inputs_.loads.fluid, inputs_.coolingRange);
-}
-
-void BoreholeRun::calcGroundResistances() {
-    const modCalculations::PulseTimes pulses = modCalculations::calcPulseTimes(
-        results_.loads.peakBlock, inputs_.arrangement.predictionTime);
-    results_.groundResistance = modCalculations::calcGroundResistances(
-        pulses, inputs_.bore.boreDiameter / inchesPerFoot, soilOf(inputs_.soil));
-}
-
-void BoreholeRun::initTemperaturePenalty() {
-    results_.lengths.temperaturePenalty = modCalculations::initTemperaturePenalty();
-}
-
-void BoreholeRun::calcBoreLengths() {
-    results_.lengths.boreLength =
-        modCalculations::calcBoreLengths(lengthTerms(), results_.lengths.temperaturePenalty);
-}
-
-void BoreholeRun::countNeighbours() {
-    const auto& [rows, columns] = inputs_.arrangement.patternRows;
-    results_.neighbourCount = modCalculations::countNeighbours(rows, columns);
-}
-
-void BoreholeRun::calcTemperaturePenalty() {
-    results_.lengths.temperaturePenalty = modCalculations::calcTemperaturePenalty(
-        penaltySite(), results_.annualGroundLoad, results_.lengths.boreLength);
-}
-
-void BoreholeRun::iterate() {
-    results_.lengths = modCalculations::settleBoreLengths(lengthTerms(), penaltySite(),
-                                                          results_.lengths.boreLength);
-}
-
-modCalculations::LengthTerms BoreholeRun::lengthTerms() const {
-    modCalculations::LengthTerms terms;
-    terms.annualGroundLoad = results_.annualGroundLoad;
-    terms.peakLoad = results_.loads.peakLoad;
-    terms.peakDemand = results_.demand.peakDemand;
-    terms.partLoadFactor = results_.partLoad.partLoadFactor;
-    terms.groundResistance = results_.groundResistance;
-    terms.boreResistance = inputs_.bore.boreResistance;
-    terms.shortCircuitFactor = modCalculations::shortCircuitFactor(
-        inputs_.arrangement.boresPerCircuit, inputs_.loads.flowRate);
-    terms.groundTemp = {inputs_.soil.groundTemp, inputs_.soil.groundTemp};
-    terms.inletTemp = inputs_.loads.inletTemp;
-    terms.outletTemp = results_.outlet.outletTemp;
-    return terms;
-}
-
-modCalculations::PenaltySite BoreholeRun::penaltySite() const {
-    const ArrangementValues& field = inputs_.arrangement;
-    return {{field.patternRows[0], field.patternRows[1], field.boreSeparation},
-            results_.neighbourCount,
-            soilOf(inputs_.soil),
-            field.predictionTime};
+bool differ(const BoreholeInputs& then, const BoreholeInputs& now) {
+    if (!sameLoads(then.loads.zones, now.loads.zones)) return true;
+    BoreholeInputs same = now;
+    same.loads.zones = then.loads.zones;
+    same.loads.hybridOn = then.loads.hybridOn;
+    same.coolingRange = then.coolingRange;
+    return !(same == then);
 }
 
 }  // namespace varnholt

@@ -7,17 +7,6 @@
 
 namespace varnholt {
 
-std::string withSuffix(const std::string& field, const std::string& suffix) {
-    const std::size_t index = field.find('(');
-    std::string stem = field.substr(0, index);
-    for (const std::string kind : {"Text", "Combo", "Slider"})
-        if (stem.ends_with(kind)) {
-            stem.resize(stem.size() - kind.size());
-            break;
-        }
-    return stem + suffix + (index == std::string::npos ? std::string() : field.substr(index));
-}
-
 int entryOf(double index, int count) {
     for (int entry = 0; entry < count; ++entry)
         if (index == entry) return entry;
@@ -29,8 +18,8 @@ void DesignTab::setLabels() {
 }
 
 void DesignTab::setUnitLabels() {
-    for (const auto& [name, inMetric, inEnglish] : unitCaptions_)
-        control(name).setCaption(text(metric() ? inMetric : inEnglish));
+    for (const auto& [name, caption] : unitCaptions_)
+        control(name).setCaption(text(caption.in(design_.units())));
     for (const std::string& field : fields_) design_.fields().show(field);
 }
 
@@ -55,24 +44,15 @@ Control& DesignTab::addFrame(const std::string& name, int caption, const std::st
     return add(name, ControlKind::frame, frame, caption);
 }
 
-Control& DesignTab::addUnitLabel(const std::string& name, const std::string& frame, int metric,
-                                 int english) {
-    unitCaptions_.push_back({name, metric, english});
-    return design_.add(name, ControlKind::label, english).in(frame);
+Control& DesignTab::addUnitLabel(const std::string& name, const std::string& frame,
+                                 UnitTexts caption) {
+    unitCaptions_.push_back({name, caption});
+    return design_.add(name, ControlKind::label, caption.english).in(frame);
 }
 
-Control& DesignTab::addField(NumericFieldRow row, const FieldCaptions& captions) {
-    const std::string name = row.control;
-    if (captions.caption != 0)
-        add(withSuffix(name, "Label"), ControlKind::label, captions.frame, captions.caption);
-    Control& field = add(name, ControlKind::text, captions.frame);
-    if (captions.englishUnit != 0)
-        addUnitLabel(
-            captions.unitLabel.empty() ? withSuffix(name, "UnitLabel") : captions.unitLabel,
-            captions.frame, captions.metricUnit, captions.englishUnit);
-    design_.fields().add(std::move(row));
-    fields_.push_back(name);
-    return field;
+Control& DesignTab::addField(NumericFieldRow row) {
+    fields_.push_back(row.control);
+    return design_.addField(std::move(row));
 }
 
 Control& DesignTab::addCombo(const std::string& name, const std::string& frame,
@@ -80,7 +60,7 @@ Control& DesignTab::addCombo(const std::string& name, const std::string& frame,
     add(label, ControlKind::label, frame, caption);
     std::vector<std::string> entries;
     for (int number = first; number <= last; ++number) entries.push_back(text(number));
-    return add(name, ControlKind::combo, frame).setItems(std::move(entries));
+    return add(name, ControlKind::combo, frame).captionedBy(label).setItems(std::move(entries));
 }
 
 void DesignTab::onChange(const std::string& name, Handler handler) {

@@ -13,14 +13,6 @@ namespace varnholt {
 
 class GroundDesign;
 
-/// What stands beside a numeric field.
-struct FieldCaptions {
-    std::string frame;
-    int caption = 0;                      ///< text of the label before the field; 0 for none
-    int metricUnit = 0, englishUnit = 0;  ///< texts of the label behind it; 0 for none
-    std::string unitLabel = {};           ///< its name, when it is not made from the field's
-};
-
 /// One page of a design window: its controls, their captions, its part in the unit switch.
 ///
 /// A tab adds its controls when it is created and keeps references to the values it edits, which
@@ -49,10 +41,9 @@ class DesignTab {
     Control& add(const std::string& name, ControlKind kind, const std::string& frame, int caption);
     Control& addFrame(const std::string& name, int caption, const std::string& frame = {});
     /// A label whose caption depends on the units.
-    Control& addUnitLabel(const std::string& name, const std::string& frame, int metric,
-                          int english);
-    /// A field with the labels before and behind it, as one row of the tab's table.
-    Control& addField(NumericFieldRow row, const FieldCaptions& captions);
+    Control& addUnitLabel(const std::string& name, const std::string& frame, UnitTexts caption);
+    /// A field with the labels before and behind it, as one row of the tab's table declares them.
+    Control& addField(NumericFieldRow row);
     /// A combo of fixed entries: texts `first` to `last`.
     Control& addCombo(const std::string& name, const std::string& frame, const std::string& label,
                       int caption, int first, int last);
@@ -73,7 +64,7 @@ class DesignTab {
     };
     struct UnitCaption {
         std::string control;
-        int metric, english;
+        UnitTexts caption;
     };
 
     GroundDesign& design_;
@@ -81,10 +72,6 @@ class DesignTab {
     std::vector<UnitCaption> unitCaptions_;
     std::vector<std::string> fields_;
 };
-
-/// "FLInletTempLabel(0)" for the field "FLInletTempText(0)": the name with another suffix before
-/// its index.
-std::string withSuffix(const std::string& field, const std::string& suffix);
 
 /// A stored index as a whole number, -1 for one that is none of `count` entries. Files may hold
 /// any number.

@@ -9,12 +9,9 @@
 namespace varnholt {
 namespace {
 
-std::string powerField(std::size_t element) {
-    return "EKWPumpPowerText(" + std::to_string(element) + ")";
-}
-std::string powerUnits(std::size_t element) {
-    return "EKWPumpPowerUnitsLabel(" + std::to_string(element) + ")";
-}
+std::string powerField(std::size_t index) { return elementName("EKWPumpPowerText", index); }
+std::string powerLabel(std::size_t index) { return elementName("EKWPumpPowerLabel", index); }
+std::string powerUnits(std::size_t index) { return elementName("EKWPumpPowerUnitsLabel", index); }
 
 }  // namespace
 
@@ -41,32 +38,53 @@ ExtraPowerTab::ExtraPowerTab(GroundDesign& design, ExtraPowerValues& power)
 
 void ExtraPowerTab::addMotor(const Motor& motor) {
     const std::string frame = motor.frame;
-    NumericFieldRow shaft{powerField(motor.shaft), &power_.extraPower[motor.shaft],
-                          &quantities::shaftPower};
-    shaft.highest = 10000;
-    shaft.changed = [this, motor] { updateInput(motor); };
-    addField(shaft, {frame, motor.powerCaption, 2611, 2612, powerUnits(motor.shaft)});
-
-    NumericFieldRow efficiency{"EKWPumpEfficiencyText(" + std::to_string(motor.efficiency) + ")",
-                               &power_.motorEfficiency[motor.efficiency]};
-    efficiency.highest = 100;
-    efficiency.fallback = 100;
-    efficiency.whileEmpty = 100;
-    efficiency.format = "###0.00";
-    efficiency.changed = shaft.changed;
-    addField(efficiency, {frame, motor.efficiencyCaption, 2613, 2613});
+    const auto follow = [this, motor] { updateInput(motor); };
+    addField({.control = powerField(motor.shaft),
+              .stored = &power_.extraPower[motor.shaft],
+              .quantity = &quantities::shaftPower,
+              .highest = 10000,
+              .beside = {.frame = frame,
+                         .label = powerLabel(motor.shaft),
+                         .caption = {motor.powerCaption, motor.powerCaption},
+                         .unitLabel = powerUnits(motor.shaft),
+                         .unit = {2612, 2611},
+                         .help = "borehole#power"},
+              .changed = follow});
+    addField({.control = elementName("EKWPumpEfficiencyText", motor.efficiency),
+              .stored = &power_.motorEfficiency[motor.efficiency],
+              .highest = 100,
+              .fallback = 100,
+              .format = "###0.00",
+              .beside = {.frame = frame,
+                         .label = elementName("EKWPumpEfficiencyLabel", motor.efficiency),
+                         .caption = {motor.efficiencyCaption, motor.efficiencyCaption},
+                         .unitLabel = elementName("EKWPumpEfficiencyUnitLabel", motor.efficiency),
+                         .unit = {2613, 2613},
+                         .help = "borehole#power"},
+              .whileEmpty = 100,
+              .changed = follow});
 
     const std::string input = powerField(motor.input);
-    add(withSuffix(input, "Label"), ControlKind::label, frame, 2607);
-    add(input, ControlKind::text, frame).setLocked(true);
-    addUnitLabel(powerUnits(motor.input), frame, 2611, 2611);
+    add(powerLabel(motor.input), ControlKind::label, frame, 2607);
+    add(input, ControlKind::text, frame)
+        .captionedBy(powerLabel(motor.input))
+        .unitsIn(powerUnits(motor.input))
+        .helpedBy("borehole#power")
+        .setLocked(true);
+    addUnitLabel(powerUnits(motor.input), frame, {2611, 2611});
 }
 
 void ExtraPowerTab::addAdditional() {
     addFrame("EKWAdditionalFrame", 2602);
-    NumericFieldRow row{powerField(additionalPower), &power_.extraPower[additionalPower]};
-    row.highest = 10000;
-    addField(row, {"EKWAdditionalFrame", 2604, 2611, 2611, powerUnits(additionalPower)});
+    addField({.control = powerField(additionalPower),
+              .stored = &power_.extraPower[additionalPower],
+              .highest = 10000,
+              .beside = {.frame = "EKWAdditionalFrame",
+                         .label = powerLabel(additionalPower),
+                         .caption = {2604, 2604},
+                         .unitLabel = powerUnits(additionalPower),
+                         .unit = {2611, 2611},
+                         .help = "borehole#power"}});
 }
 
 void ExtraPowerTab::setUnitLabels() {

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "basis/number_text.h"
+#include "basis/raised_flag.h"
 #include "design/ground_design.h"
 
 namespace varnholt {
@@ -13,7 +14,8 @@ constexpr int water = 0;  // first of the list
 
 }  // namespace
 
-FluidTab::FluidTab(GroundDesign& design, FluidValues& fluid) : DesignTab(design), fluid_(fluid) {
+FluidTab::FluidTab(GroundDesign& design, FluidValues& fluid, ProjectConditions& conditions)
+    : DesignTab(design), fluid_(fluid), conditions_(conditions) {
     addFrame("FLFluidFrame", 2201);
     addTemperatures();
     addFlow();
@@ -23,25 +25,41 @@ FluidTab::FluidTab(GroundDesign& design, FluidValues& fluid) : DesignTab(design)
 
 void FluidTab::addTemperatures() {
     addFrame("FLInletTempFrame", 2202, "FLFluidFrame");
-    const auto temperature = [this](Mode mode, const char* name, double fallback) {
-        NumericFieldRow row{name,    &design().inletTemp[mode], &quantities::temperature, 0, 212,
-                            fallback};
-        row.changed = [this, mode] { design().passTemperature(mode); };
-        row.left = [this] { design().refreshLoadsPumps(); };
-        return row;
-    };
-    addField(temperature(cooling, "FLInletTempText(0)", 85),
-             {"FLInletTempFrame", 2203, 2205, 2206});
-    addField(temperature(heating, "FLInletTempText(1)", 55),
-             {"FLInletTempFrame", 2204, 2205, 2206});
+    const ByMode<double> fallbacks{85, 55};
+    const ByMode<int> captions{2203, 2204};
+    for (const Mode mode : modes)
+        addField({.control = elementName("FLInletTempText", mode),
+                  .stored = &conditions_.inletTemp[mode],
+                  .quantity = &quantities::temperature,
+                  .highest = 212,
+                  .fallback = fallbacks[mode],
+                  .beside = {.frame = "FLInletTempFrame",
+                             .label = elementName("FLInletTempLabel", mode),
+                             .caption = {captions[mode], captions[mode]},
+                             .unitLabel = elementName("FLInletTempUnitLabel", mode),
+                             .unit = {2206, 2205},
+                             .help = "borehole#fluid",
+                             .accessible = 2202,
+                             .distinction = captions[mode]},
+                  .changed = [this, mode] { design().passTemperature(mode); },
+                  .left = [this] { design().refreshLoadsPumps(); }});
 }
 
 void FluidTab::addFlow() {
     addFrame("FLFlowRateFrame", 2207, "FLFluidFrame");
-    NumericFieldRow row{"FLFlowRateText", &design().flowRate, &quantities::waterFlow, 0, 212, 3};
-    row.changed = [this] { design().passFlow(); };
-    row.left = [this] { design().refreshLoadsPumps(); };
-    addField(row, {"FLFlowRateFrame", 2208, 2209, 2210, "FLFlowRateUnitsLabel"});
+    addField({.control = "FLFlowRateText",
+              .stored = &conditions_.flowRate,
+              .quantity = &quantities::waterFlow,
+              .highest = 212,
+              .fallback = 3,
+              .beside = {.frame = "FLFlowRateFrame",
+                         .label = "FLFlowRateLabel",
+                         .caption = {2208, 2208},
+                         .unitLabel = "FLFlowRateUnitsLabel",
+                         .unit = {2210, 2209},
+                         .help = "borehole#fluid"},
+              .changed = [this] { design().passFlow(); },
+              .left = [this] { design().refreshLoadsPumps(); }});
 }
 
 void FluidTab::addSolution() {
@@ -51,32 +69,46 @@ void FluidTab::addSolution() {
     onClick("FLFluidTypeCombo", [this] { FLFluidTypeCombo_Change(); });
     onChange("FLFluidTypeCombo", [this] { FLFluidTypeCombo_Change(); });
     onLeave("FLFluidTypeCombo", [this] { FLFluidTypeCombo_Leave(); });
-    NumericFieldRow percent{"FLPercentAntifreezeText",
-                            &fluid_.percentAntifreeze,
-                            &quantities::plain,
-                            0,
-                            100,
-                            0,
-                            "###0"};
-    percent.changed = [this] { showPercent(); };
-    addField(percent, {"FLSolutionFrame", 2213});
+    addField({.control = "FLPercentAntifreezeText",
+              .stored = &fluid_.percentAntifreeze,
+              .highest = 100,
+              .format = "###0",
+              .beside = {.frame = "FLSolutionFrame",
+                         .label = "FLPercentAntifreezeLabel",
+                         .caption = {2213, 2213},
+                         .help = "borehole#fluid",
+                         .accessible = 2211,
+                         .distinction = 2213},
+              .changed = [this] { showPercent(); }});
     add("FLPercentAntifreezeUpDown", ControlKind::upDown, "FLSolutionFrame").setRange(0, 100);
     onSlide("FLPercentAntifreezeUpDown", [this] { FLPercentAntifreezeUpDown_Change(); });
 }
 
 void FluidTab::addProperties() {
-    NumericFieldRow heat{"FLSpecificHeatText",
-                         &fluid_.specificHeat,
-                         &quantities::specificHeat,
-                         0,
-                         10000,
-                         1,
-                         "###0.00",
-                         "###0.000"};
-    addField(heat, {"FLSolutionFrame", 2216, 2217, 2218, "FLSpecificHeatUnitsLabel"});
-    NumericFieldRow density{
-        "FLFluidDensityText", &fluid_.density, &quantities::density, 0, 10000, 62.4};
-    addField(density, {"FLSolutionFrame", 2219, 2220, 2221, "FLDensityUnitsLabel"});
+    addField({.control = "FLSpecificHeatText",
+              .stored = &fluid_.specificHeat,
+              .quantity = &quantities::specificHeat,
+              .highest = 10000,
+              .fallback = 1,
+              .format = "###0.00",
+              .metricFormat = "###0.000",
+              .beside = {.frame = "FLSolutionFrame",
+                         .label = "FLSpecificHeatLabel",
+                         .caption = {2216, 2216},
+                         .unitLabel = "FLSpecificHeatUnitsLabel",
+                         .unit = {2218, 2217},
+                         .help = "borehole#fluid"}});
+    addField({.control = "FLFluidDensityText",
+              .stored = &fluid_.density,
+              .quantity = &quantities::density,
+              .highest = 10000,
+              .fallback = 62.4,
+              .beside = {.frame = "FLSolutionFrame",
+                         .label = "FLFluidDensityLabel",
+                         .caption = {2219, 2219},
+                         .unitLabel = "FLDensityUnitsLabel",
+                         .unit = {2221, 2220},
+                         .help = "borehole#fluid"}});
     addMenuButton("FLTablesButton", "FLSolutionFrame", 2222, "FluidProperties");
 }
 
@@ -118,10 +150,11 @@ void FluidTab::FLPercentAntifreezeUpDown_Change() {
 void FluidTab::showFluid() {
     Control& combo = control("FLFluidTypeCombo");
     const int entry = entryOf(fluid_.fluidTypeIndex, static_cast<int>(combo.items().size()));
-    design().settingItems = true;
-    combo.setIndex(entry);
-    if (entry < 0) combo.setText(fluid_.fluidName);
-    design().settingItems = false;
+    {
+        const RaisedFlag refilling(design().settingItems);
+        combo.setIndex(entry);
+        if (entry < 0) combo.setText(fluid_.fluidName);
+    }
     control("FLPercentAntifreezeText").setLocked(entry == water);
     control("FLPercentAntifreezeUpDown").setEnabled(entry != water);
     showPercent();

@@ -3,13 +3,14 @@
 
 #include "design/design_tab.h"
 #include "design/design_values.h"
+#include "loads/design_project.h"
 
 namespace varnholt {
 
 /// Fluid temperatures, flow and the solution's properties.
 class FluidTab : public DesignTab {
  public:
-    FluidTab(GroundDesign& design, FluidValues& fluid);
+    FluidTab(GroundDesign& design, FluidValues& fluid, ProjectConditions& conditions);
 
     void setUnitLabels() override;
 
@@ -27,6 +28,7 @@ class FluidTab : public DesignTab {
     void showPercent();
 
     FluidValues& fluid_;
+    ProjectConditions& conditions_;
 };
 
 }  // namespace varnholt

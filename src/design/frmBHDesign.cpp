@@ -2,31 +2,46 @@
 #include "design/frmBHDesign.h"
 
 #include "basis/number_text.h"
-#include "basis/run_time_error.h"
 #include "design/arrangement_tab.h"
 #include "design/bore_tab.h"
+#include "design/borehole_run.h"
 #include "design/extra_power_tab.h"
 #include "design/fluid_tab.h"
 #include "design/shared_values.h"
 #include "design/soil_tab.h"
 
 namespace varnholt {
+namespace {
+
+/// What undo brings back of a borehole design.
+struct BoreholeState {
+    BoreholeProject project;
+    std::optional<BoreholeInputs> lastRun;
+    int droppedError;
+    bool stale;
+
+    friend bool operator==(const BoreholeState&, const BoreholeState&) = default;
+};
+
+}  // namespace
 
 frmBHDesign::frmBHDesign(Varnmain& main, std::int16_t slot)
-    : GroundDesign("frmBHDesign", DesignKind::borehole, main, slot) {
+    : GroundDesign("frmBHDesign", DesignKind::borehole, main, slot, project_,
+                   {project_.fluid, project_.extraPower, &project_.tower}) {
     addWindowControls();
     resultsTab_ = std::make_unique<ResultsTab>(*this, resultRows(), 2101);
     // The number of bores stands once, though there is a label for each mode.
     element("CABoreholeNumberLabel", heating).setVisible(false);
-    towerPanel_ = std::make_unique<TowerPanel>(*this, tower, [this] {
-        return modCalculations::TowerYear{results.cop.heatPumpCOP[cooling],
-                                          results.annualTonHours[cooling], tower.hybridPercent};
+    towerPanel_ = std::make_unique<TowerPanel>(*this, project_.tower, [this] {
+        return modCalculations::TowerYear{results().cop.heatPumpCOP[cooling],
+                                          results().annualTonHours[cooling],
+                                          project_.tower.hybridPercent};
     });
-    inputTabs_.push_back(std::make_unique<FluidTab>(*this, fluid));
-    inputTabs_.push_back(std::make_unique<SoilTab>(*this, soil));
-    inputTabs_.push_back(std::make_unique<BoreTab>(*this, pipe, bore));
-    inputTabs_.push_back(std::make_unique<ArrangementTab>(*this, arrangement));
-    inputTabs_.push_back(std::make_unique<ExtraPowerTab>(*this, extraPower));
+    inputTabs_.push_back(std::make_unique<FluidTab>(*this, project_.fluid, project_.conditions));
+    inputTabs_.push_back(std::make_unique<SoilTab>(*this, project_.soil));
+    inputTabs_.push_back(std::make_unique<BoreTab>(*this, project_.pipe, project_.bore));
+    inputTabs_.push_back(std::make_unique<ArrangementTab>(*this, project_.arrangement));
+    inputTabs_.push_back(std::make_unique<ExtraPowerTab>(*this, project_.extraPower));
     addInformationControls();
     registerBoreholeValues();
 }
@@ -46,31 +61,40 @@ std::vector<DesignTab*> frmBHDesign::tabs() {
 }
 
 std::vector<ResultRow> frmBHDesign::resultRows() const {
-    const auto bores = [this] { return arrangement.patternRows[0] * arrangement.patternRows[1]; };
+    const auto bores = [this] {
+        const auto& rows = inputsOnShow().arrangement.patternRows;
+        return rows[0] * rows[1];
+    };
     const auto total = [this](Mode mode) { return shownAs(quantities::length, *this, GetL(mode)); };
     const auto number = [bores](Mode) { return formatNumber(bores(), "###0"); };
     const auto each = [this, bores](Mode mode) {
         return shownAs(quantities::length, *this, bores() == 0 ? 0 : GetL(mode) / bores());
     };
     std::vector<ResultRow> rows{
-        {"CATotalLengthLabel", 2104, 2105, total, true},
-        {"CABoreholeNumberLabel", 2106, 2106, number},
-        {"CABoreholeLengthLabel", 2107, 2108, each, true},
+        {"CATotalLengthLabel", {2105, 2104}, total, true},
+        {"CABoreholeNumberLabel", {2106, 2106}, number},
+        {"CABoreholeLengthLabel", {2108, 2107}, each, true},
     };
-    for (ResultRow& row : unitRows(*this, results)) rows.push_back(std::move(row));
-    rows.push_back(soilChangeRow(*this, results.lengths.temperaturePenalty));
+    const auto rollUp = [this]() -> const LoadsRollUp& { return results(); };
+    const auto inputs = [this] { return inputsOnShow().loads; };
+    for (ResultRow& row : unitRows(*this, rollUp, inputs)) rows.push_back(std::move(row));
+    rows.push_back(soilChangeRow(*this, [this](Mode mode) { return GetTemperaturePenalty(mode); }));
     return rows;
 }
 
 void frmBHDesign::registerBoreholeValues() {
     Values& values = publicValues();
-    registerRollUp(results);
-    addBoreholeResults(values, results);
+    addSoilValues(values, project_.soil);
+    addPipeValues(values, project_.pipe);
+    addRollUpValues(values, [this]() -> const LoadsRollUp& { return results(); });
+    addBoreholeResults(values, [this]() -> const BoreholeResults& { return results(); });
+    const BoreValues& bore = project_.bore;
     values.add("uTubeConfig", &bore.uTubeConfig);
     values.add("pipePlacement", &bore.pipePlacement);
     values.add("boreDiameter", &bore.boreDiameter);
     values.add("groutConductivity", &bore.groutConductivity);
     values.add("boreResistance", &bore.boreResistance);
+    const ArrangementValues& arrangement = project_.arrangement;
     values.addArray("patternRows", &arrangement.patternRows);
     values.add("boreSeparation", &arrangement.boreSeparation);
     values.add("boresPerCircuit", &arrangement.boresPerCircuit);
@@ -78,70 +102,49 @@ void frmBHDesign::registerBoreholeValues() {
 }
 
 void frmBHDesign::fillDefaults() {
-    results.outlet.outletTemp = inletTemp;
-    tower.tower.range = results.outlet.outletTemp[cooling] - inletTemp[cooling];
+    const ByMode<double>& inlet = project_.conditions.inletTemp;
+    project_.results.edit().outlet.outletTemp = inlet;
+    project_.tower.tower.range = results().outlet.outletTemp[cooling] - inlet[cooling];
 }
 
-LoadsInputs frmBHDesign::loadsInputs() const {
-    return {zones(),  extraPower.extraPower, inletTemp, flowRate, fluid.fluid(),
-            hybridOn, tower.hybridPercent};
-}
-
-BoreholeInputs frmBHDesign::inputs() const {
-    return {loadsInputs(), soil, bore, arrangement, tower.tower.range};
+/// The figures that a file holds came from what else it holds.
+void frmBHDesign::projectRead() {
+    lastRun_ = inputsOf(project_, towerIsOn());
+    project_.results.edit().inputs = lastRun_;
 }
 
 void frmBHDesign::calculate() {
-    const Varnmain& frame = main();
-    TransferLoadsVariablesIn();
-    if (!frame.isOpen(this)) return;
-    if (!hybridOn) towerPanel_->drop();
-    if (zoneNumber == 0) return tellNoLoads();
-
-    BoreholeRun run(inputs());
-    run.calcPeakLoads();
-    if (!run.hasLoad()) return show(MessageIcon::information, text(2814));
-    run.prepareHybrid();
-    run.calcPeakDemand();
-    run.calcPartLoadFactors();
-    run.calcSystemCOP();
-    run.calculateLoadTonHours();
-    run.calcAnnualGroundLoad();
-    run.calcGroundResistances();
-    run.calcUnitOutletTemps();
-    run.initTemperaturePenalty();
-    run.calcBoreLengths();
-    run.countNeighbours();
-    run.calcTemperaturePenalty();
-    run.calcBoreLengths();
-    iterate(run);
-    run.restorePeakLoad();
-    keep(run);
+    lastRun_ = inputsOf(project_, hybridOn);
+    std::optional<BoreholeResults> found = runBorehole(*lastRun_);
+    if (!found) return show(MessageIcon::information, text(2814));
+    if (found->lengths.failed)
+        show(MessageIcon::plain, text(2151) + std::to_string(found->lengths.iterations));
+    project_.tower.tower = found->tower;
+    project_.results = std::move(*found);
     showGoverningMode();
     resultsTab_->setUnitLabels();
     towerPanel_->setUnitLabels();
 }
 
-void frmBHDesign::tellNoLoads() {
-    show(MessageIcon::information, text(2814));
-    tower.tower.capacity = 0;
-    towerPanel_->drop();
-    towerPanel_->setUnitLabels();
+bool frmBHDesign::tellsError(int number) const {
+    constexpr int divisionByZero = 11;
+    return number == divisionByZero;
 }
 
-void frmBHDesign::iterate(BoreholeRun& run) {
-    run.iterate();
-    const modCalculations::SettledLengths& lengths = run.results().lengths;
-    if (lengths.failed) show(MessageIcon::plain, text(2151) + std::to_string(lengths.iterations));
+/// What a run would take now, with the loads that it would transfer first.
+BoreholeInputs frmBHDesign::presentInputs() const {
+    BoreholeInputs now = inputsOf(project_, hybridOn);
+    if (link() != nullptr) now.loads.zones = presentZones();
+    return now;
 }
 
-void frmBHDesign::keep(const BoreholeRun& run) {
-    results = run.results();
-    tower.tower = run.tower();
+/// What the figures on show came from. Before a first run they are those of the design itself.
+BoreholeInputs frmBHDesign::inputsOnShow() const {
+    return results().inputs ? *results().inputs : inputsOf(project_, towerIsOn());
 }
 
-void frmBHDesign::showGoverningMode() {
-    showGoverningMode(GetL(cooling) > GetL(heating) ? heating : cooling);
+bool frmBHDesign::resultsAreOlder() const {
+    return results().inputs && lastRun_ && differ(*lastRun_, presentInputs());
 }
 
 void frmBHDesign::showGoverningMode(Mode greyed) {
@@ -152,48 +155,43 @@ void frmBHDesign::showGoverningMode(Mode greyed) {
         towerPanel_->rest();
 }
 
-void frmBHDesign::rollUpLoads() {
-    LoadsRun run(loadsInputs(), results);
-    run.calcPeakLoads();
-    run.prepareHybrid();
-    run.calcPeakDemand();
-    run.calcPartLoadFactors();
-    run.calcSystemCOP();
-    run.calcUnitOutletTemps();
-    run.restorePeakLoad();
+void frmBHDesign::rollUp() {
+    const LoadsRollUp rolledUp = rollUpLoads(inputsOf(project_, hybridOn).loads);
+    static_cast<LoadsRollUp&>(project_.results.edit()) = rolledUp;
 }
 
-void frmBHDesign::loadsChanged() {
-    try {
-        rollUpLoads();
-    } catch (const RunTimeError&) {
-        // A file may hold a fluid with which no loads add up. They are taken over all the same;
-        // the next run says what is wrong.
-    }
-    fields().showAll("FL");
+StatePointer frmBHDesign::state() const {
+    return std::make_shared<StateOf<BoreholeState>>(
+        BoreholeState{project_, lastRun_, droppedError_, isStale()});
 }
 
-std::string frmBHDesign::shownWithUnit(const Quantity& quantity, double value, int metric,
-                                       int english, const char* format) const {
-    const bool inMetric = units() == UnitSystem::metric;
-    return formatNumber(quantity.shown(value, units()), format) + " " +
-           text(inMetric ? metric : english);
+void frmBHDesign::restore(const DocumentState& earlier) {
+    const BoreholeState& wanted = static_cast<const StateOf<BoreholeState>&>(earlier).value;
+    project_ = wanted.project;
+    lastRun_ = wanted.lastRun;
+    droppedError_ = wanted.droppedError;
+    showRestored(wanted.stale);
+}
+
+std::string frmBHDesign::shownWithUnit(const Quantity& quantity, double value, UnitTexts unit,
+                                       const char* format) const {
+    return formatNumber(quantity.shown(value, units()), format) + " " + text(unit.in(units()));
 }
 
 BoreDrawing frmBHDesign::boreDrawing() const {
-    BoreDrawing drawing = drawBore(bore, pipe);
+    BoreDrawing drawing = drawBore(project_.bore, project_.pipe);
     const auto label = [this](double inches) {
-        return shownWithUnit(quantities::diameter, inches, 2448, 2449, "###0.00");
+        return shownWithUnit(quantities::diameter, inches, {2449, 2448}, "###0.00");
     };
-    drawing.boreLabel = label(bore.boreDiameter);
-    drawing.pipeLabel = label(pipe.pipeDiameter[0]);
+    drawing.boreLabel = label(project_.bore.boreDiameter);
+    drawing.pipeLabel = label(project_.pipe.pipeDiameter[0]);
     return drawing;
 }
 
 FieldPlan frmBHDesign::fieldPlan() const {
-    FieldPlan plan = drawField(arrangement);
+    FieldPlan plan = drawField(project_.arrangement);
     const auto label = [this](double feet) {
-        return shownWithUnit(quantities::length, feet, 2511, 2512, "###0.0");
+        return shownWithUnit(quantities::length, feet, {2512, 2511}, "###0.0");
     };
     plan.separationLabel = label(plan.separation);
     plan.acrossLabel = label(fieldExtent(plan.across, plan.separation));

@@ -2,11 +2,12 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "design/bore_drawing.h"
-#include "design/borehole_run.h"
+#include "design/borehole_project.h"
 #include "design/field_plan.h"
 #include "design/ground_design.h"
 #include "design/results_tab.h"
@@ -14,19 +15,14 @@
 
 namespace varnholt {
 
-/// Numbers of a borehole file that the design carries along and does not use. They keep the file's
-/// shape.
-struct BoreholeFileRemainder {
-    ByMode<std::int16_t> inputFlag{1, 1};
-    ByMode<double> inputNumber{}, inputDouble{};
-    std::array<double, 3> numbers{1.9, 100, 0};
-    ByMode<double> resultFlag{1, 1}, resultNumber{}, resultDouble{};
-
-    friend bool operator==(const BoreholeFileRemainder&, const BoreholeFileRemainder&) = default;
+/// Holds a window's project, so that it is there before the window that edits it.
+template <class Project>
+struct HoldsProject {
+    Project project_;
 };
 
 /// The design of a field of vertical bores.
-class frmBHDesign : public GroundDesign {
+class frmBHDesign : private HoldsProject<BoreholeProject>, public GroundDesign {
  public:
     /// @param slot  its place among the borehole designs, taken by the caller
     frmBHDesign(Varnmain& main, std::int16_t slot);
@@ -34,52 +30,55 @@ class frmBHDesign : public GroundDesign {
 
     std::string baseCaption() const override;
 
-    BoreValues bore;
-    ArrangementValues arrangement;
-    BoreholeResults results;
-    BoreholeFileRemainder remainder;
+    const BoreholeProject& project() const { return project_; }
+    /// Takes another project, as a file holds it. It is shown when the window is set up.
+    void setProject(BoreholeProject project) { project_ = std::move(project); }
+    const BoreholeResults& results() const { return *project_.results; }
 
     /// Total required length of bore, ft.
-    double GetL(Mode mode) const { return results.lengths.boreLength[mode]; }
+    double GetL(Mode mode) const { return results().lengths.boreLength[mode]; }
     /// degF
     double GetTemperaturePenalty(Mode mode) const {
-        return results.lengths.temperaturePenalty[mode];
+        return results().lengths.temperaturePenalty[mode];
     }
     /// degF
-    double GetGroundTemp() const { return soil.groundTemp; }
+    double GetGroundTemp() const { return project_.soil.groundTemp; }
 
-    /// Greys the figures of one mode, emphasises the other's, and wakes or rests the tower.
-    void showGoverningMode(Mode greyed);
-    /// By the lengths at hand: the longer one governs.
-    void showGoverningMode();
-
-    /// The roll-up of the zones at hand, as a run begins with.
-    void rollUpLoads();
-    void loadsChanged() override;
+    using GroundDesign::showGoverningMode;
+    void showGoverningMode(Mode greyed) override;
 
     /// What `imgBore` shows.
     BoreDrawing boreDrawing() const;
     /// What `imgField` shows.
     FieldPlan fieldPlan() const;
 
+    StatePointer state() const override;
+
  protected:
     void calculate() override;
+    void rollUp() override;
+    ByMode<double> lengths() const override { return results().lengths.boreLength; }
+    bool tellsError(int number) const override;
+    bool resultsAreOlder() const override;
     std::vector<DesignTab*> tabs() override;
     std::vector<int> pageCaptions() const override;
     std::string pagesName() const override { return "BHTabs"; }
     void fillDefaults() override;
+    void projectRead() override;
+    void dropTower() override { towerPanel_->drop(); }
+    void showTower() override { towerPanel_->setUnitLabels(); }
+    void restore(const DocumentState& earlier) override;
 
  private:
     std::vector<ResultRow> resultRows() const;
     void registerBoreholeValues();
-    LoadsInputs loadsInputs() const;
-    BoreholeInputs inputs() const;
-    void tellNoLoads();
-    void iterate(BoreholeRun& run);
-    void keep(const BoreholeRun& run);
-    std::string shownWithUnit(const Quantity& quantity, double value, int metric, int english,
+    BoreholeInputs presentInputs() const;
+    BoreholeInputs inputsOnShow() const;
+    std::string shownWithUnit(const Quantity& quantity, double value, UnitTexts unit,
                               const char* format) const;
 
+    /// What the last run started from, whether it came to an end or not.
+    std::optional<BoreholeInputs> lastRun_;
     std::unique_ptr<ResultsTab> resultsTab_;
     std::unique_ptr<TowerPanel> towerPanel_;
     std::vector<std::unique_ptr<DesignTab>> inputTabs_;

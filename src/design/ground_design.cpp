@@ -1,69 +1,62 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/ground_design.h"
 
-#include <algorithm>
-
+#include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
 #include "design/design_tab.h"
 #include "design/shared_values.h"
 
 namespace varnholt {
+namespace {
 
-GroundDesign::GroundDesign(std::string formName, DesignKind kind, Varnmain& main, std::int16_t slot)
-    : LinkedDesign(std::move(formName), kind, main, slot) {
+constexpr int overflow = 6;
+
+}  // namespace
+
+GroundDesign::GroundDesign(std::string formName, DesignKind kind, Varnmain& main, std::int16_t slot,
+                           DesignProject& project, const GroundParts& parts)
+    : LinkedDesign(std::move(formName), kind, main, slot, project), parts_(parts) {
     fields().setManner({[this] { return settingUnits; }, [this] { return units(); },
                         [this] { calculationNeeded(); }});
-    registerSharedValues();
-}
-
-GroundDesign::~GroundDesign() = default;
-
-modCalculations::Hybrid GroundDesign::shownHybrid() const {
-    return {towerIsOn(), tower.hybridPercent, 0};
-}
-
-void GroundDesign::registerSharedValues() {
-    addSharedValues(publicValues(), *this);
+    addFluidValues(publicValues(), parts.fluid);
+    addExtraPowerValues(publicValues(), parts.extraPower);
+    if (parts.tower != nullptr) addTowerValues(publicValues(), *parts.tower);
     publicValues().add("hybridOn", &hybridOn);
     publicValues().addArray("temporaryInletTemp", &temporaryInletTemp);
 }
 
-void GroundDesign::registerRollUp(const LoadsRollUp& rollUp) {
-    addRollUpValues(publicValues(), rollUp);
+GroundDesign::~GroundDesign() = default;
+
+bool GroundDesign::towerIsOn() const {
+    return hybridOn || (parts_.tower != nullptr && parts_.tower->hybridPercent != 0);
 }
 
 void GroundDesign::addWindowControls() {
     add("MetricCheck", ControlKind::check, 2011);
     onClick("MetricCheck", [this] { MetricCheck_Click(); });
     addLinkLights();
+    addNotice();
     std::vector<std::string> pages;
     for (const int number : pageCaptions()) pages.push_back(text(number));
     add(pagesName(), ControlKind::tabs).setItems(std::move(pages)).setIndex(0);
 }
 
-modCalculations::Zones GroundDesign::zones() const {
-    // A project whose zone file is missing counts more zones than it has.
-    const auto counted = static_cast<std::size_t>(std::max<std::int16_t>(zoneNumber, 0));
-    return {ZoneList.data(), std::min(ZoneList.size(), counted)};
-}
-
 void GroundDesign::load() {
-    settingUnits = true;
-    if (main().openCall) {
-        if (files.readProject) files.readProject();
-    } else {
-        setCaption(baseCaption() + " #" + std::to_string(main().windowCounter));
-        fillDefaults();
-        if (files.readINIFile) files.readINIFile();
+    {
+        const RaisedFlag setting(settingUnits);
+        if (main().openCall) {
+            if (files.readProject) files.readProject();
+            projectRead();
+        } else {
+            setCaption(baseCaption() + " #" + std::to_string(main().windowCounter));
+            fillDefaults();
+            if (files.readINIFile) files.readINIFile();
+        }
     }
-    settingUnits = false;
     control("MetricCheck").setChecked(main().units() == UnitSystem::metric);
     setLabels();
     setUnitLabels();
-    if (main().openCall)
-        calculationDone();
-    else
-        calculationNeeded();
+    setStale(!main().openCall);
     enableMenuButtons();
 }
 
@@ -73,30 +66,88 @@ void GroundDesign::setLabels() {
 }
 
 void GroundDesign::setUnitLabels() {
+    fields().showCaptions();
     for (DesignTab* tab : tabs()) tab->setUnitLabels();
 }
 
 void GroundDesign::MetricCheck_Click() {
-    const bool wasSetting = settingUnits;
-    settingUnits = true;
-    switchLinkedUnits();
-    control("CACalculateCommand").setEnabled(false);
-    setUnitLabels();
-    control("CACalculateCommand").setEnabled(true);
-    settingUnits = wasSetting;
+    {
+        const RaisedFlag setting(settingUnits);
+        switchLinkedUnits();
+        control("CACalculateCommand").setEnabled(false);
+        setUnitLabels();
+        control("CACalculateCommand").setEnabled(true);
+    }
     main().unitsSwitched(*this);
 }
 
 void GroundDesign::CACalculateCommand_Click() {
-    // The link's light shines for a moment, and in that time the window may be closed.
-    const Varnmain& frame = main();
+    droppedError_ = 0;
     try {
-        calculate();
+        run();
     } catch (const RunTimeError& error) {
-        constexpr int divisionByZero = 11;
-        if (error.number() == divisionByZero) show(MessageIcon::exclamation, error.message());
+        if (tellsError(error.number()))
+            show(MessageIcon::exclamation, error.message());
+        else
+            droppedError_ = error.number();
     }
-    if (frame.isOpen(this)) calculationDone();
+    calculationDone();
+}
+
+void GroundDesign::run() {
+    TransferLoadsVariablesIn();
+    if (!hybridOn) dropTower();
+    if (loads().zoneNumber == 0) return tellNoLoads();
+    calculate();
+}
+
+void GroundDesign::tellNoLoads() {
+    show(MessageIcon::information, text(2814));
+    if (parts_.tower == nullptr) return;
+    parts_.tower->tower.capacity = 0;
+    dropTower();
+    showTower();
+}
+
+void GroundDesign::showGoverningMode() {
+    const ByMode<double> length = lengths();
+    showGoverningMode(length[cooling] > length[heating] ? heating : cooling);
+}
+
+void GroundDesign::loadsChanged() {
+    try {
+        rollUp();
+    } catch (const RunTimeError&) {
+        // A file may hold a fluid with which no loads add up. They are taken over all the same;
+        // the next run says what is wrong.
+    }
+    fields().showAll("FL");
+}
+
+void GroundDesign::showRestored(bool stale) {
+    const RaisedFlag setting(settingUnits);
+    restoreLink();
+    setLabels();
+    setUnitLabels();
+    showGoverningMode();
+    setStale(stale);
+}
+
+std::vector<Notice> GroundDesign::notices() const {
+    std::vector<Notice> holding;
+    if (!halfReadFile_.empty()) holding.push_back({filledIn(text(1236), {halfReadFile_})});
+    if (!missingZoneFile().empty())
+        holding.push_back(
+            {filledIn(text(1234), {missingZoneFile()}), text(1235), files.findZoneFile});
+    if (droppedError_ == overflow) holding.push_back({text(1232)});
+    if (droppedError_ != 0 && droppedError_ != overflow)
+        holding.push_back({filledIn(text(1233), {RunTimeError(droppedError_).message()})});
+    if (const auto refused = fields().refused()) holding.push_back(refusedNotice(*refused));
+    if (resultsAreOlder())
+        holding.push_back({text(1230), text(1231), [this] {
+                               const_cast<GroundDesign*>(this)->CACalculateCommand_Click();
+                           }});
+    return holding;
 }
 
 void GroundDesign::enableMenuButtons() {
@@ -105,10 +156,7 @@ void GroundDesign::enableMenuButtons() {
 }
 
 void GroundDesign::activated() {
-    // Fresh loads make the link's light shine, and in that time the window may be closed.
-    const Varnmain& frame = main();
     LinkedDesign::activated();
-    if (!frame.isOpen(this)) return;
     beenHere = true;
     enableMenuButtons();
 }

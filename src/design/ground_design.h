@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "design/borehole_results.h"
 #include "design/design_values.h"
+#include "design/loads_roll_up.h"
 #include "frame/varnmain.h"
 #include "loads/linked_design.h"
 
@@ -24,21 +24,29 @@ struct DesignFiles {
     std::function<void()> readProject;
     /// The question whether to save. False stops the close.
     std::function<bool()> queryClose;
+    /// Asks where the project's zone file is, and links the design with it.
+    std::function<void()> findZoneFile;
 };
 
-/// What the designs of all ground loops share beyond their loads: fluid, soil, pipe and extra
-/// power, the pages that edit them, the set-up of the window, the unit switch, and the frame around
-/// a run.
+/// The parts of a project that the pages of several kinds edit. A kind without a cooling tower has
+/// no tower.
+struct GroundParts {
+    FluidValues& fluid;
+    ExtraPowerValues& extraPower;
+    TowerValues* tower = nullptr;
+};
+
+/// What the designs of all ground loops share beyond their loads: fluid and extra power, the
+/// set-up of the window, the unit switch, the roll-up of the loads, which mode governs, and the
+/// frame around a run.
 class GroundDesign : public LinkedDesign {
  public:
-    GroundDesign(std::string formName, DesignKind kind, Varnmain& main, std::int16_t slot);
+    /// @param project  held by the kind's own window, as are the parts of it
+    GroundDesign(std::string formName, DesignKind kind, Varnmain& main, std::int16_t slot,
+                 DesignProject& project, const GroundParts& parts);
     ~GroundDesign() override;
 
-    FluidValues fluid;
-    SoilValues soil;
-    PipeValues pipe;
-    ExtraPowerValues extraPower;
-    TowerValues tower;
+    const FluidValues& fluid() const { return parts_.fluid; }
     /// A run caused by the slider is under way.
     bool hybridOn = false;
     ByMode<double> temporaryInletTemp{67, 70};
@@ -46,9 +54,7 @@ class GroundDesign : public LinkedDesign {
     DesignFiles files;
 
     /// A tower takes a share of the cooling load: in the run at hand, or in the results on show.
-    bool towerIsOn() const { return hybridOn || tower.hybridPercent != 0; }
-    /// The tower as the figures on show count it.
-    modCalculations::Hybrid shownHybrid() const;
+    bool towerIsOn() const;
 
     // Form_Load, in the order in which a window is set up.
     void load() override;
@@ -57,9 +63,18 @@ class GroundDesign : public LinkedDesign {
     /// Writes the unit words and values of all tabs.
     void setUnitLabels();
     void MetricCheck_Click() override;
-    /// The run, and what every run ends with: a division by zero is shown, other errors are
-    /// dropped, and the stale mark is taken away whatever happened.
+    /// The run, and what every run ends with: an error that the kind tells is shown, others are
+    /// told by the notice alone, and the stale mark is taken away whatever happened.
     void CACalculateCommand_Click();
+
+    /// Greys the figures of one mode, emphasises the other's, and wakes or rests the tower.
+    virtual void showGoverningMode(Mode greyed) = 0;
+    /// By the lengths at hand: the longer one governs.
+    void showGoverningMode();
+
+    void loadsChanged() override;
+    /// The name of the project's file, of which not everything could be read.
+    void setHalfReadFile(const std::string& name) { halfReadFile_ = name; }
 
     void activated() override;
     bool queryClose() override;
@@ -68,8 +83,16 @@ class GroundDesign : public LinkedDesign {
  protected:
     friend class DesignTab;
 
-    /// The steps of the Calculate command.
+    /// The steps of the Calculate command behind the transfer of the loads.
     virtual void calculate() = 0;
+    /// The design's own copy of the loads has changed as a whole: its roll-up is found anew.
+    virtual void rollUp() = 0;
+    /// Total lengths on show, ft.
+    virtual ByMode<double> lengths() const = 0;
+    /// Whether a box tells a run's error of that number.
+    virtual bool tellsError(int number) const = 0;
+    /// The results on show come from other inputs or loads than the present ones.
+    virtual bool resultsAreOlder() const = 0;
     /// Tabs in the order in which the unit switch rewrites them.
     virtual std::vector<DesignTab*> tabs() = 0;
     /// Texts of the pages' captions.
@@ -78,17 +101,29 @@ class GroundDesign : public LinkedDesign {
     virtual std::string pagesName() const = 0;
     /// Built-in values that depend on others.
     virtual void fillDefaults() {}
+    /// A project has been read from its file, and its loads found again.
+    virtual void projectRead() {}
+    /// Takes the tower out of the design, as a plain Calculate does before it runs.
+    virtual void dropTower() {}
+    virtual void showTower() {}
 
-    /// Controls that stand above the pages: the pane, the unit switch, the light of the link.
+    /// Controls that stand above the pages: the unit switch, the light of the link, the notice,
+    /// the pane.
     void addWindowControls();
-    /// The loads as the calculations take them.
-    modCalculations::Zones zones() const;
-    void registerSharedValues();
-    void registerRollUp(const LoadsRollUp& rollUp);
+    /// Shows the document after another state of it has been put back.
+    void showRestored(bool stale);
+    std::vector<Notice> notices() const override;
+    /// There is nothing to calculate with.
+    void tellNoLoads();
+    /// Number of the error that ended the last run without a box; 0 for none.
+    int droppedError_ = 0;
 
  private:
     void enableMenuButtons();
+    void run();
 
+    GroundParts parts_;
+    std::string halfReadFile_;
     /// Buttons on the pages and the menu entries they stand for.
     std::vector<std::pair<std::string, std::string>> menuButtons_;
 };

@@ -31,27 +31,41 @@ void PipeTab::addPipeControls(const std::string& frame) {
     onClick("PIPipeResistanceCombo(1)", [this] { PIPipeResistanceCombo_Click(1); });
     addDiameter(outside, 2440);
     addDiameter(inside, 2441);
-    NumericFieldRow resistance{"PIPipeResistanceText", &pipe_.pipeResistance};
-    resistance.quantity = &quantities::resistance;
-    resistance.fallback = PipeValues().pipeResistance;
-    resistance.format = "###0.000";
-    resistance.changed = [this] { calculateResistance(); };
-    addField(resistance, {"PIParametersFrame", 2408, 2404, 2405, "PIPipeResistanceUnitsLabel"});
+    addField({.control = "PIPipeResistanceText",
+              .stored = &pipe_.pipeResistance,
+              .quantity = &quantities::resistance,
+              .fallback = PipeValues().pipeResistance,
+              .format = "###0.000",
+              .beside = {.frame = "PIParametersFrame",
+                         .label = "PIPipeResistanceLabel",
+                         .caption = {2408, 2408},
+                         .unitLabel = "PIPipeResistanceUnitsLabel",
+                         .unit = {2405, 2404},
+                         .help = "borehole#piping"},
+              .changed = [this] { calculateResistance(); }});
     addMenuButton("PIPipeTablesCommand", "PIParametersFrame", 2417, "PipeProperties");
 }
 
-void PipeTab::addDiameter(int element, int caption) {
-    const std::string name = "PIPipeDiameterText(" + std::to_string(element) + ")";
-    NumericFieldRow row{name, &pipe_.pipeDiameter[static_cast<std::size_t>(element)]};
-    row.quantity = &quantities::diameter;
-    row.highest = 1000.0;
-    row.fallbackNow = [this, element] { return tableDiameter(element); };
-    row.format = "###0.000";
-    row.metricFormat = "###0.00";
-    row.changed = [this] { PIPipeDiameterText_Change(); };
+void PipeTab::addDiameter(int side, int caption) {
+    const auto index = static_cast<std::size_t>(side);
+    std::function<void()> left;
     // Told once the diameter has been typed to its end, not at every digit on the way.
-    if (element == outside) row.left = [this] { checkPipeFit(); };
-    addField(row, {"PIParametersFrame", caption, 2448, 2449});
+    if (side == outside) left = [this] { checkPipeFit(); };
+    addField({.control = elementName("PIPipeDiameterText", index),
+              .stored = &pipe_.pipeDiameter[index],
+              .quantity = &quantities::diameter,
+              .highest = 1000.0,
+              .format = "###0.000",
+              .metricFormat = "###0.00",
+              .beside = {.frame = "PIParametersFrame",
+                         .label = elementName("PIPipeDiameterLabel", index),
+                         .caption = {caption, caption},
+                         .unitLabel = elementName("PIPipeDiameterUnitLabel", index),
+                         .unit = {2449, 2448},
+                         .help = "borehole#piping"},
+              .fallbackNow = [this, side] { return tableDiameter(side); },
+              .changed = [this] { PIPipeDiameterText_Change(); },
+              .left = left});
 }
 
 void PipeTab::setUnitLabels() {
@@ -72,10 +86,10 @@ void PipeTab::PIPipeDiameterCombo_Click() {
     if (!design().settingUnits) recompute();
 }
 
-void PipeTab::PIPipeResistanceCombo_Click(int element) {
+void PipeTab::PIPipeResistanceCombo_Click(int combo) {
     const int chosen =
-        control(element == 0 ? "PIPipeResistanceCombo(0)" : "PIPipeResistanceCombo(1)").index();
-    if (element == 0) {
+        control(combo == 0 ? "PIPipeResistanceCombo(0)" : "PIPipeResistanceCombo(1)").index();
+    if (combo == 0) {
         pipe_.pipeSdrIndex = chosen;
         takeDiametersFromTable();
         showDiameters();
@@ -111,12 +125,12 @@ void PipeTab::recompute() {
     design().calculationNeeded();
 }
 
-double PipeTab::tableDiameter(int element) const {
+double PipeTab::tableDiameter(int side) const {
     const int size = entryOf(pipe_.pipeSizeIndex, sizes);
     const int wall = entryOf(pipe_.pipeSdrIndex, walls);
-    if (size < 0 || wall < 0) return PipeValues().pipeDiameter[static_cast<std::size_t>(element)];
+    if (size < 0 || wall < 0) return PipeValues().pipeDiameter[static_cast<std::size_t>(side)];
     const modCalculations::PipeDiameters& pipe = modCalculations::pipeTable(size, wall);
-    return element == outside ? pipe.outside : pipe.inside;
+    return side == outside ? pipe.outside : pipe.inside;
 }
 
 void PipeTab::takeDiametersFromTable() {

@@ -36,13 +36,13 @@ class PipeTab : public DesignTab {
     PipeValues& pipe_;
 
  private:
-    void addDiameter(int element, int caption);
+    void addDiameter(int side, int caption);
     void PIPipeDiameterCombo_Click();
-    void PIPipeResistanceCombo_Click(int element);
+    void PIPipeResistanceCombo_Click(int combo);
     void PIPipeDiameterText_Change();
     /// The size and wall that a file gave may be none of the table's: then the built-in pipe
     /// counts.
-    double tableDiameter(int element) const;
+    double tableDiameter(int side) const;
     void takeDiametersFromTable();
     void showPipe();
     void showDiameters();

@@ -11,10 +11,6 @@
 namespace varnholt {
 namespace {
 
-std::string element(const std::string& label, std::size_t index) {
-    return label + "(" + std::to_string(index) + ")";
-}
-
 constexpr int captionElement = 2;
 
 }  // namespace
@@ -31,9 +27,8 @@ ResultsTab::ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int fr
     add("CATopLabel(0)", ControlKind::label, frame, 2102);
     add("CATopLabel(1)", ControlKind::label, frame, 2103);
     for (const ResultRow& row : rows_) {
-        addUnitLabel(element(row.label, captionElement), frame, row.metricCaption,
-                     row.englishCaption);
-        for (const Mode mode : modes) add(element(row.label, mode), ControlKind::label, frame);
+        addUnitLabel(elementName(row.label, captionElement), frame, row.caption);
+        for (const Mode mode : modes) add(elementName(row.label, mode), ControlKind::label, frame);
     }
     add("CACalculateCommand", ControlKind::button, frame, 2130);
     onClick("CACalculateCommand", [this] { this->design().CACalculateCommand_Click(); });
@@ -42,59 +37,70 @@ ResultsTab::ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int fr
 void ResultsTab::setUnitLabels() {
     DesignTab::setUnitLabels();
     for (const ResultRow& row : rows_)
-        for (const Mode mode : modes) control(element(row.label, mode)).setCaption(row.value(mode));
+        for (const Mode mode : modes)
+            control(elementName(row.label, mode)).setCaption(row.value(mode));
 }
 
 void ResultsTab::paintGoverning(Mode greyed) {
     const Mode governing = greyed == cooling ? heating : cooling;
     const int colour = governing == cooling ? colours::coolingGoverns : colours::heatingGoverns;
     const auto paint = [&](const std::string& label, int governingColour) {
-        control(element(label, greyed)).setForecolor(colours::greyed).setBold(false);
-        control(element(label, governing)).setForecolor(governingColour).setBold(true);
+        control(elementName(label, greyed)).setForecolor(colours::greyed).setBold(false);
+        control(elementName(label, governing)).setForecolor(governingColour).setBold(true);
     };
     paint("CATopLabel", colour);
     for (const ResultRow& row : rows_) paint(row.label, row.isLength ? colours::black : colour);
 }
 
-std::vector<ResultRow> unitRows(const GroundDesign& design, const LoadsRollUp& rollUp) {
-    const auto row = [&design](const char* label, int metric, int english, const Quantity& quantity,
-                               const ByMode<double>& values) {
-        return ResultRow{label, metric, english, [&design, &quantity, &values](Mode mode) {
-                             return shownAs(quantity, design, values[mode]);
+std::vector<ResultRow> unitRows(const GroundDesign& design,
+                                const std::function<const LoadsRollUp&()>& rollUp,
+                                const std::function<LoadsInputs()>& inputs) {
+    using Get = std::function<double(Mode)>;
+    const auto row = [&design](const char* label, UnitTexts caption, const Quantity& quantity,
+                               Get value) {
+        return ResultRow{label, caption, [&design, &quantity, value](Mode mode) {
+                             return shownAs(quantity, design, value(mode));
                          }};
     };
     // The cooling figure is an energy efficiency ratio where the units are English.
-    const auto cop = [&design](const char* label, int metric, int english,
-                               const ByMode<double>& values) {
+    const auto cop = [&design](const char* label, UnitTexts caption, Get value) {
         return ResultRow{
-            label, metric, english, [&design, &values](Mode mode) {
+            label, caption, [&design, value](Mode mode) {
                 const bool ratio = mode == cooling && design.units() == UnitSystem::english;
-                return formatNumber(values[mode] * (ratio ? mbtuPerKilowatt : 1), "####0.0");
+                return formatNumber(value(mode) * (ratio ? mbtuPerKilowatt : 1), "####0.0");
             }};
     };
-    const auto demand = [&design, &rollUp](Mode mode) {
+    const auto demand = [rollUp, inputs](Mode mode) {
+        const LoadsInputs from = inputs();
         const auto kilowatts = modCalculations::demandWithExtraPower(
-            rollUp.demand.peakDemand, design.extraPower.extraPower, design.shownHybrid());
+            rollUp().demand.peakDemand, from.extraPower, {from.hybridOn, from.hybridPercent, 0});
         return formatNumber(kilowatts[mode], "###0.0");
     };
     using namespace quantities;
     return {
-        row("CAUnitInletLabel", 2109, 2110, temperature, design.inletTemp),
-        row("CAUnitOutletLabel", 2111, 2112, temperature, rollUp.outlet.outletTemp),
-        row("CATotalCapacityLabel", 2113, 2114, load, rollUp.demand.totalCapacity),
-        row("CAPeakLoadLabel", 2115, 2117, load, rollUp.loads.peakLoad),
-        {"CAPeakDemandLabel", 2119, 2119, demand},
-        cop("CAPumpCOPLabel", 2116, 2120, rollUp.cop.heatPumpCOP),
-        cop("CASystemCOPLabel", 2118, 2121, rollUp.cop.systemCOP),
-        row("CAFlowRateLabel", 2122, 2123, waterFlow, rollUp.outlet.systemFlow),
+        row("CAUnitInletLabel", {2110, 2109}, temperature,
+            [inputs](Mode m) { return inputs().inletTemp[m]; }),
+        row("CAUnitOutletLabel", {2112, 2111}, temperature,
+            [rollUp](Mode m) { return rollUp().outlet.outletTemp[m]; }),
+        row("CATotalCapacityLabel", {2114, 2113}, load,
+            [rollUp](Mode m) { return rollUp().demand.totalCapacity[m]; }),
+        row("CAPeakLoadLabel", {2117, 2115}, load,
+            [rollUp](Mode m) { return rollUp().loads.peakLoad[m]; }),
+        {"CAPeakDemandLabel", {2119, 2119}, demand},
+        cop("CAPumpCOPLabel", {2120, 2116},
+            [rollUp](Mode m) { return rollUp().cop.heatPumpCOP[m]; }),
+        cop("CASystemCOPLabel", {2121, 2118},
+            [rollUp](Mode m) { return rollUp().cop.systemCOP[m]; }),
+        row("CAFlowRateLabel", {2123, 2122}, waterFlow,
+            [rollUp](Mode m) { return rollUp().outlet.systemFlow[m]; }),
     };
 }
 
-ResultRow soilChangeRow(const GroundDesign& design, const ByMode<double>& penalty) {
-    return {"CASoilTempChangeLabel", 2124, 2125, [&design, &penalty](Mode mode) {
+ResultRow soilChangeRow(const GroundDesign& design, const std::function<double(Mode)>& penalty) {
+    return {"CASoilTempChangeLabel", {2125, 2124}, [&design, penalty](Mode mode) {
                 const std::string change =
-                    shownAs(quantities::temperatureDifference, design, -penalty[mode]);
-                return penalty[mode] < 0 ? "+" + change : change;
+                    shownAs(quantities::temperatureDifference, design, -penalty(mode));
+                return penalty(mode) < 0 ? "+" + change : change;
             }};
 }
 

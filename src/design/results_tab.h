@@ -7,16 +7,15 @@
 
 #include "basis/mode.h"
 #include "design/design_tab.h"
+#include "design/loads_roll_up.h"
 
 namespace varnholt {
-
-struct LoadsRollUp;
 
 /// One row of the results: elements 0 and 1 of the label array are its values, element 2 its
 /// caption, which carries the unit.
 struct ResultRow {
     std::string label;
-    int metricCaption, englishCaption;
+    UnitTexts caption;
     std::function<std::string(Mode)> value;
     bool isLength = false;  ///< black in the governing mode
 };
@@ -35,9 +34,13 @@ class ResultsTab : public DesignTab {
 };
 
 /// The rows that every kind of design has below its lengths.
+/// @param rollUp  the loads as the last run rolled them up
+/// @param inputs  what that run took
+std::vector<ResultRow> unitRows(const GroundDesign& design,
+                                const std::function<const LoadsRollUp&()>& rollUp,
+                                const std::function<LoadsInputs()>& inputs);
 /// @param penalty  long-term drift of the ground, degF
-std::vector<ResultRow> unitRows(const GroundDesign& design, const LoadsRollUp& rollUp);
-ResultRow soilChangeRow(const GroundDesign& design, const ByMode<double>& penalty);
+ResultRow soilChangeRow(const GroundDesign& design, const std::function<double(Mode)>& penalty);
 
 /// A figure as the results show it.
 std::string shownAs(const Quantity& quantity, const GroundDesign& design, double value,

@@ -1,24 +1,81 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/shared_values.h"
 
+#include <array>
 #include <string>
-
-#include "design/borehole_results.h"
-#include "design/ground_design.h"
 
 namespace varnholt {
 namespace {
 
-/// An array of arrays: two indices, elements outside being run-time error 9.
-template <class Table>
-void addTable(Values& values, const std::string& name, const Table* table) {
-    values.add(name, 2, [table](const Values::Indices& i) {
-        return static_cast<double>(
-            table->at(static_cast<std::size_t>(i[0])).at(static_cast<std::size_t>(i[1])));
-    });
+template <class Container>
+const auto& elementOf(const Container& container, int index) {
+    return container.at(static_cast<std::size_t>(index));
 }
 
-void addTower(Values& values, const TowerValues& tower) {
+/// Registers values that one function finds in the results of the moment.
+template <class Results>
+class ResultValues {
+ public:
+    ResultValues(Values& values, std::function<const Results&()> results)
+        : values_(values), results_(std::move(results)) {}
+
+    template <class Get>
+    void number(const std::string& name, Get get) {
+        values_.add(name, 0, [results = results_, get](const Values::Indices&) {
+            return static_cast<double>(get(results()));
+        });
+    }
+    /// Elements outside are run-time error 9.
+    template <class Get>
+    void array(const std::string& name, Get get) {
+        values_.add(name, 1, [results = results_, get](const Values::Indices& i) {
+            return static_cast<double>(elementOf(get(results()), i[0]));
+        });
+    }
+    /// An array of arrays: two indices.
+    template <class Get>
+    void table(const std::string& name, Get get) {
+        values_.add(name, 2, [results = results_, get](const Values::Indices& i) {
+            return static_cast<double>(elementOf(elementOf(get(results()), i[0]), i[1]));
+        });
+    }
+
+ private:
+    Values& values_;
+    std::function<const Results&()> results_;
+};
+
+}  // namespace
+
+void addFluidValues(Values& values, const FluidValues& fluid) {
+    values.add("fluidTypeIndex", &fluid.fluidTypeIndex);
+    values.add("fluidName", &fluid.fluidName);
+    values.add("percentAntifreeze", &fluid.percentAntifreeze);
+    values.add("fluidDensity", &fluid.density);
+    values.add("specificHeat", &fluid.specificHeat);
+}
+
+void addSoilValues(Values& values, const SoilValues& soil) {
+    values.add("groundTemp", &soil.groundTemp);
+    values.add("soilConductivity", &soil.conductivity);
+    values.add("soilDiffusivity", &soil.diffusivity);
+}
+
+void addPipeValues(Values& values, const PipeValues& pipe) {
+    values.add("pipeSizeIndex", &pipe.pipeSizeIndex);
+    values.add("pipeSdrIndex", &pipe.pipeSdrIndex);
+    values.add("flowTypeIndex", &pipe.flowTypeIndex);
+    values.addArray("pipeDiameter", &pipe.pipeDiameter);
+    values.add("pipeResistance", &pipe.pipeResistance);
+}
+
+void addExtraPowerValues(Values& values, const ExtraPowerValues& power) {
+    values.addArray("extraPower", &power.extraPower);
+    values.addArray("motorEfficiency", &power.motorEfficiency);
+    values.addArray("towerMotorEfficiency", &power.motorEfficiency);
+}
+
+void addTowerValues(Values& values, const TowerValues& tower) {
     values.add("hybridPercent", &tower.hybridPercent);
     values.add("condenserCapacity", &tower.tower.capacity);
     values.add("condenserCapacityMax", &tower.tower.capacityMax);
@@ -27,62 +84,64 @@ void addTower(Values& values, const TowerValues& tower) {
     values.add("coolingTowerHours", &tower.tower.hours);
 }
 
-}  // namespace
-
-void addSharedValues(Values& values, const GroundDesign& design) {
-    const FluidValues& fluid = design.fluid;
-    values.add("fluidTypeIndex", &fluid.fluidTypeIndex);
-    values.add("fluidName", &fluid.fluidName);
-    values.add("percentAntifreeze", &fluid.percentAntifreeze);
-    values.add("fluidDensity", &fluid.density);
-    values.add("specificHeat", &fluid.specificHeat);
-    values.add("groundTemp", &design.soil.groundTemp);
-    values.add("soilConductivity", &design.soil.conductivity);
-    values.add("soilDiffusivity", &design.soil.diffusivity);
-    const PipeValues& pipe = design.pipe;
-    values.add("pipeSizeIndex", &pipe.pipeSizeIndex);
-    values.add("pipeSdrIndex", &pipe.pipeSdrIndex);
-    values.add("flowTypeIndex", &pipe.flowTypeIndex);
-    values.addArray("pipeDiameter", &pipe.pipeDiameter);
-    values.add("pipeResistance", &pipe.pipeResistance);
-    values.addArray("extraPower", &design.extraPower.extraPower);
-    values.addArray("motorEfficiency", &design.extraPower.motorEfficiency);
-    values.addArray("towerMotorEfficiency", &design.extraPower.motorEfficiency);
-    addTower(values, design.tower);
+void addRollUpValues(Values& values, const std::function<const LoadsRollUp&()>& rollUp) {
+    using R = const LoadsRollUp&;
+    ResultValues<LoadsRollUp> of(values, rollUp);
+    of.table(
+        "blockLoad", [](R r) -> auto& { return r.loads.blockLoad; });
+    of.array(
+        "peakLoad", [](R r) -> auto& { return r.loads.peakLoad; });
+    of.array(
+        "peakBlock", [](R r) -> auto& { return r.loads.peakBlock; });
+    of.table(
+        "weightedBlockLoad", [](R r) -> auto& { return r.partLoad.weightedBlockLoad; });
+    of.array(
+        "dailyLoad", [](R r) -> auto& { return r.partLoad.dailyLoad; });
+    of.array(
+        "partLoadFactor", [](R r) -> auto& { return r.partLoad.partLoadFactor; });
+    of.array(
+        "peakDemand", [](R r) -> auto& { return r.demand.peakDemand; });
+    of.table(
+        "zoneDemand", [](R r) -> auto& { return r.demand.zoneDemand; });
+    of.table(
+        "zonePartLoad", [](R r) -> auto& { return r.demand.zonePartLoad; });
+    of.array(
+        "totalCapacity", [](R r) -> auto& { return r.demand.totalCapacity; });
+    of.array(
+        "totalPumpWatts", [](R r) -> auto& { return r.cop.totalPumpWatts; });
+    of.array(
+        "heatPumpCOP", [](R r) -> auto& { return r.cop.heatPumpCOP; });
+    of.array(
+        "systemCOP", [](R r) -> auto& { return r.cop.systemCOP; });
+    of.array(
+        "systemFlow", [](R r) -> auto& { return r.outlet.systemFlow; });
+    of.array(
+        "outletTemp", [](R r) -> auto& { return r.outlet.outletTemp; });
 }
 
-void addRollUpValues(Values& values, const LoadsRollUp& rollUp) {
-    addTable(values, "blockLoad", &rollUp.loads.blockLoad);
-    values.addArray("peakLoad", &rollUp.loads.peakLoad);
-    values.addArray("peakBlock", &rollUp.loads.peakBlock);
-    addTable(values, "weightedBlockLoad", &rollUp.partLoad.weightedBlockLoad);
-    values.addArray("dailyLoad", &rollUp.partLoad.dailyLoad);
-    values.addArray("partLoadFactor", &rollUp.partLoad.partLoadFactor);
-    values.addArray("peakDemand", &rollUp.demand.peakDemand);
-    addTable(values, "zoneDemand", &rollUp.demand.zoneDemand);
-    addTable(values, "zonePartLoad", &rollUp.demand.zonePartLoad);
-    values.addArray("totalCapacity", &rollUp.demand.totalCapacity);
-    values.addArray("totalPumpWatts", &rollUp.cop.totalPumpWatts);
-    values.addArray("heatPumpCOP", &rollUp.cop.heatPumpCOP);
-    values.addArray("systemCOP", &rollUp.cop.systemCOP);
-    values.addArray("systemFlow", &rollUp.outlet.systemFlow);
-    values.addArray("outletTemp", &rollUp.outlet.outletTemp);
-}
-
-void addBoreholeResults(Values& values, const BoreholeResults& results) {
-    addTable(values, "zonePeakTons", &results.tonHours.zonePeakTons);
-    addTable(values, "loadTonHours", &results.tonHours.loadTonHours);
-    values.addArray("annualTonHours", &results.annualTonHours);
-    values.add("annualGroundLoad", &results.annualGroundLoad);
-    values.add("groundResistance", 1, [&ground = results.groundResistance](const auto& i) {
-        const std::array<double, 3> pulses{ground.annual, ground.monthly, ground.shortTerm};
-        return pulses.at(static_cast<std::size_t>(i[0]));
+void addBoreholeResults(Values& values, const std::function<const BoreholeResults&()>& results) {
+    using R = const BoreholeResults&;
+    ResultValues<BoreholeResults> of(values, results);
+    of.table(
+        "zonePeakTons", [](R r) -> auto& { return r.tonHours.zonePeakTons; });
+    of.table(
+        "loadTonHours", [](R r) -> auto& { return r.tonHours.loadTonHours; });
+    of.array(
+        "annualTonHours", [](R r) -> auto& { return r.annualTonHours; });
+    of.number("annualGroundLoad", [](R r) { return r.annualGroundLoad; });
+    of.array("groundResistance", [](R r) {
+        const modCalculations::GroundResistances& ground = r.groundResistance;
+        return std::array<double, 3>{ground.annual, ground.monthly, ground.shortTerm};
     });
-    values.addArray("neighbourCount", &results.neighbourCount);
-    values.addArray("temperaturePenalty", &results.lengths.temperaturePenalty);
-    values.addArray("boreLength", &results.lengths.boreLength);
-    values.addArray("previousBoreLength", &results.lengths.previousBoreLength);
-    values.add("coolingPeakBeforeHybrid", &results.coolingPeakBeforeHybrid);
+    of.array(
+        "neighbourCount", [](R r) -> auto& { return r.neighbourCount; });
+    of.array(
+        "temperaturePenalty", [](R r) -> auto& { return r.lengths.temperaturePenalty; });
+    of.array(
+        "boreLength", [](R r) -> auto& { return r.lengths.boreLength; });
+    of.array(
+        "previousBoreLength", [](R r) -> auto& { return r.lengths.previousBoreLength; });
+    of.number("coolingPeakBeforeHybrid", [](R r) { return r.coolingPeakBeforeHybrid; });
 }
 
 }  // namespace varnholt

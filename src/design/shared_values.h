@@ -1,21 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
+
+#include "design/borehole_results.h"
+#include "design/design_values.h"
 #include "forms/values.h"
 
 namespace varnholt {
 
-class GroundDesign;
-struct BoreholeResults;
-struct LoadsRollUp;
+// Public values under the names that scripts, reports and files know. What they are read from must
+// outlive them; results are asked for anew at each reading, since a run replaces them.
 
-// Public values under the names that scripts, reports and files know.
+void addFluidValues(Values& values, const FluidValues& fluid);
+void addSoilValues(Values& values, const SoilValues& soil);
+void addPipeValues(Values& values, const PipeValues& pipe);
+void addExtraPowerValues(Values& values, const ExtraPowerValues& power);
+void addTowerValues(Values& values, const TowerValues& tower);
 
-/// Fluid, soil, pipe, extra power and tower of any design.
-void addSharedValues(Values& values, const GroundDesign& design);
 /// What the zones amount to.
-void addRollUpValues(Values& values, const LoadsRollUp& rollUp);
+void addRollUpValues(Values& values, const std::function<const LoadsRollUp&()>& rollUp);
 /// The rest of a borehole run.
-void addBoreholeResults(Values& values, const BoreholeResults& results);
+void addBoreholeResults(Values& values, const std::function<const BoreholeResults&()>& results);
 
 }  // namespace varnholt

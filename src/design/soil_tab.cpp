@@ -8,17 +8,49 @@ namespace varnholt {
 SoilTab::SoilTab(GroundDesign& design, SoilValues& soil) : DesignTab(design) {
     addFrame("SOSoilFrame", 2301);
     addFrame("SOGroundTempFrame", 2302, "SOSoilFrame");
-    addField({"SOGroundTempText", &soil.groundTemp, &quantities::temperature, 0, 212, 62},
-             {"SOGroundTempFrame", 2303, 2304, 2305, "SOGroundTempUnitsLabel"});
+    addField({.control = "SOGroundTempText",
+              .stored = &soil.groundTemp,
+              .quantity = &quantities::temperature,
+              .highest = 212,
+              .fallback = 62,
+              .beside = {.frame = "SOGroundTempFrame",
+                         .label = "SOGroundTempLabel",
+                         .caption = {2303, 2303},
+                         .unitLabel = "SOGroundTempUnitsLabel",
+                         .unit = {2305, 2304},
+                         .help = "borehole#soil"}});
     addFrame("SOPropertiesFrame", 2306, "SOSoilFrame");
-    addField({"SOThermalConductivityText", &soil.conductivity, &quantities::conductivity, 0, 1000.0,
-              1.3, "###0.00"},
-             {"SOPropertiesFrame", 2445, 2446, 2447, "SOThermalConductivityUnitsLabel"});
-    addField({"SOThermalDiffusivityText", &soil.diffusivity, &quantities::diffusivity, 0, 1000.0,
-              0.75, "###0.00", "###0.000"},
-             {"SOPropertiesFrame", 2307, 2308, 2309, "SOThermalDiffusivityUnitsLabel"});
+    addProperties(soil);
     addMenuButton("SOSoilCommand(0)", "SOPropertiesFrame", 2310, "mnuDiffCalc");
     addMenuButton("SOSoilCommand(1)", "SOPropertiesFrame", 2312, "SoilProperties");
+}
+
+void SoilTab::addProperties(SoilValues& soil) {
+    addField({.control = "SOThermalConductivityText",
+              .stored = &soil.conductivity,
+              .quantity = &quantities::conductivity,
+              .highest = 1000.0,
+              .fallback = 1.3,
+              .format = "###0.00",
+              .beside = {.frame = "SOPropertiesFrame",
+                         .label = "SOThermalConductivityLabel",
+                         .caption = {2445, 2445},
+                         .unitLabel = "SOThermalConductivityUnitsLabel",
+                         .unit = {2447, 2446},
+                         .help = "borehole#soil"}});
+    addField({.control = "SOThermalDiffusivityText",
+              .stored = &soil.diffusivity,
+              .quantity = &quantities::diffusivity,
+              .highest = 1000.0,
+              .fallback = 0.75,
+              .format = "###0.00",
+              .metricFormat = "###0.000",
+              .beside = {.frame = "SOPropertiesFrame",
+                         .label = "SOThermalDiffusivityLabel",
+                         .caption = {2307, 2307},
+                         .unitLabel = "SOThermalDiffusivityUnitsLabel",
+                         .unit = {2309, 2308},
+                         .help = "borehole#soil"}});
 }
 
 }  // namespace varnholt

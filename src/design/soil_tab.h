@@ -10,6 +10,9 @@ namespace varnholt {
 class SoilTab : public DesignTab {
  public:
     SoilTab(GroundDesign& design, SoilValues& soil);
+
+ private:
+    void addProperties(SoilValues& soil);
 };
 
 }  // namespace varnholt

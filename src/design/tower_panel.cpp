@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "basis/number_text.h"
+#include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
 #include "design/ground_design.h"
 #include "design/modCalculations/cooling_tower.h"
@@ -25,20 +26,32 @@ constexpr std::size_t range = 2;
 constexpr double largestFlow = 30000.0;
 constexpr double largestRange = 100;
 
-std::string element(const char* label, int index) {
-    return std::string(label) + "(" + std::to_string(index) + ")";
-}
-
 }  // namespace
 
 const TowerPanel::Figure TowerPanel::figures[4] = {
-    {"CACondenserCapacityLabel", "CACondenserCapacityUpDown", 2143, 2144, &quantities::load,
-     &CoolingTower::capacity, "###0.0"},
-    {"CACoolingTowerFlowRateLabel", "CACoolingTowerFlowRateUpDown", 2145, 2146,
-     &quantities::waterFlow, &CoolingTower::flow, "###0.0"},
-    {"CACoolingTowerRangeLabel", "CACoolingRangeUpDown", 2147, 2148,
-     &quantities::temperatureDifference, &CoolingTower::range, "###0.0"},
-    {"CACoolingTowerHoursLabel", nullptr, 2149, 2149, &quantities::plain, &CoolingTower::hours,
+    {"CACondenserCapacityLabel",
+     "CACondenserCapacityUpDown",
+     {2144, 2143},
+     &quantities::load,
+     &CoolingTower::capacity,
+     "###0.0"},
+    {"CACoolingTowerFlowRateLabel",
+     "CACoolingTowerFlowRateUpDown",
+     {2146, 2145},
+     &quantities::waterFlow,
+     &CoolingTower::flow,
+     "###0.0"},
+    {"CACoolingTowerRangeLabel",
+     "CACoolingRangeUpDown",
+     {2148, 2147},
+     &quantities::temperatureDifference,
+     &CoolingTower::range,
+     "###0.0"},
+    {"CACoolingTowerHoursLabel",
+     nullptr,
+     {2149, 2149},
+     &quantities::plain,
+     &CoolingTower::hours,
      "####0"},
 };
 
@@ -48,7 +61,11 @@ TowerPanel::TowerPanel(GroundDesign& design, TowerValues& values,
     const std::string frame = "CAHybridFrame";
     addFrame(frame, 2142);
     add("CAPercentHybridLabel(1)", ControlKind::label, frame, 2141);
-    add("CAHybridSlider", ControlKind::slider, frame).setRange(0, 100).setEnabled(false);
+    add("CAHybridSlider", ControlKind::slider, frame)
+        .captionedBy("CAPercentHybridLabel(1)")
+        .helpedBy("tower")
+        .setRange(0, 100)
+        .setEnabled(false);
     onSlide("CAHybridSlider", [this] { CAHybridSlider_Change(); });
     add("CAPercentHybridLabel(0)", ControlKind::label, frame);
     for (const Figure& figure : figures) addFigure(figure);
@@ -59,10 +76,11 @@ TowerPanel::TowerPanel(GroundDesign& design, TowerValues& values,
 }
 
 void TowerPanel::addFigure(const Figure& figure) {
-    addUnitLabel(element(figure.label, 1), "CAHybridFrame", figure.metricCaption,
-                 figure.englishCaption);
-    add(element(figure.label, 0), ControlKind::label, "CAHybridFrame");
-    if (figure.upDown != nullptr) add(figure.upDown, ControlKind::upDown, "CAHybridFrame");
+    addUnitLabel(elementName(figure.label, 1), "CAHybridFrame", figure.caption);
+    add(elementName(figure.label, 0), ControlKind::label, "CAHybridFrame");
+    if (figure.upDown != nullptr)
+        add(figure.upDown, ControlKind::upDown, "CAHybridFrame")
+            .captionedBy(elementName(figure.label, 1));
 }
 
 void TowerPanel::setUnitLabels() {
@@ -81,14 +99,12 @@ void TowerPanel::CAHybridSlider_Change() {
     }
     values_.hybridPercent = toInteger(slider.value());
     showPercent();
-    const Varnmain& frame = design.main();
-    design.hybridOn = true;
+    const RaisedFlag sliding(design.hybridOn);
     design.CACalculateCommand_Click();
-    if (frame.isOpen(&design)) design.hybridOn = false;
 }
 
 void TowerPanel::trim(const Figure& figure, const std::function<CoolingTower(double)>& trimmed) {
-    Control& label = control(element(figure.label, 0));
+    Control& label = control(elementName(figure.label, 0));
     label.setCaption(formatNumber(control(figure.upDown).value(), figure.format));
     const double value = figure.quantity->stored(leadingNumber(label.caption()), design().units());
     try {
@@ -102,19 +118,20 @@ void TowerPanel::trim(const Figure& figure, const std::function<CoolingTower(dou
 
 void TowerPanel::CACondenserCapacityUpDown_Change() {
     trim(figures[capacity], [this](double value) {
-        return modCalculations::trimCapacity(values_.tower, value, year_(), design().fluid.fluid());
+        return modCalculations::trimCapacity(values_.tower, value, year_(),
+                                             design().fluid().fluid());
     });
 }
 
 void TowerPanel::CACoolingTowerFlowRateUpDown_Change() {
     trim(figures[flow], [this](double value) {
-        return modCalculations::trimFlow(values_.tower, value, design().fluid.fluid());
+        return modCalculations::trimFlow(values_.tower, value, design().fluid().fluid());
     });
 }
 
 void TowerPanel::CACoolingRangeUpDown_Change() {
     trim(figures[range], [this](double value) {
-        return modCalculations::trimRange(values_.tower, value, design().fluid.fluid());
+        return modCalculations::trimRange(values_.tower, value, design().fluid().fluid());
     });
 }
 
@@ -132,7 +149,7 @@ void TowerPanel::showTower() {
 /// The limits of an up-down stand in the units shown, and give way to a value beyond them.
 void TowerPanel::showFigure(const Figure& figure, double highest) {
     const UnitSystem units = design().units();
-    Control& label = control(element(figure.label, 0));
+    Control& label = control(elementName(figure.label, 0));
     label.setCaption(
         formatNumber(figure.quantity->shown(values_.tower.*figure.value, units), figure.format));
     if (figure.upDown == nullptr) return;
@@ -160,10 +177,10 @@ void TowerPanel::drop() {
 
 void TowerPanel::paint(int colour) {
     control("CAHybridFrame").setForecolor(colour);
-    for (const int index : {0, 1}) {
-        control(element("CAPercentHybridLabel", index)).setForecolor(colour);
+    for (const std::size_t index : {0, 1}) {
+        control(elementName("CAPercentHybridLabel", index)).setForecolor(colour);
         for (const Figure& figure : figures)
-            control(element(figure.label, index)).setForecolor(colour);
+            control(elementName(figure.label, index)).setForecolor(colour);
     }
 }
 

@@ -29,7 +29,7 @@ class TowerPanel : public DesignTab {
     struct Figure {
         const char* label;
         const char* upDown;  ///< null for a figure that only follows
-        int metricCaption, englishCaption;
+        UnitTexts caption;
         const Quantity* quantity;
         double modCalculations::CoolingTower::*value;
         const char* format;

@@ -84,6 +84,10 @@ Control& Control::setTooltip(std::string tooltip) {
 Control& Control::setDate(const Date& date) { return set(Property::date, date_, Date(date)); }
 Control& Control::setRefused(bool refused) { return set(Property::refused, refused_, refused); }
 
+Control& Control::setAccessibleName(std::string name) {
+    return set(Property::accessibleName, accessibleName_, std::move(name));
+}
+
 Control& Control::in(std::string container) {
     container_ = std::move(container);
     return *this;
@@ -99,6 +103,22 @@ Control& Control::editableText() {
 Control& Control::multipleRows() {
     multiple_ = true;
     return *this;
+}
+Control& Control::captionedBy(std::string label) {
+    label_ = std::move(label);
+    return *this;
+}
+Control& Control::unitsIn(std::string unitLabel) {
+    unitLabel_ = std::move(unitLabel);
+    return *this;
+}
+Control& Control::helpedBy(std::string topic) {
+    helpTopic_ = std::move(topic);
+    return *this;
+}
+
+std::string elementName(const std::string& array, std::size_t index) {
+    return array + "(" + std::to_string(index) + ")";
 }
 
 }  // namespace varnholt

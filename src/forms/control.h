@@ -48,6 +48,8 @@ enum class Property {
     tooltip,
     date,
     refused,
+    accessibleName,
+    flash,
 };
 
 class Control;
@@ -116,6 +118,14 @@ class Control {
     bool editable() const { return editable_; }
     /// A list in which several rows may be selected.
     bool multiple() const { return multiple_; }
+    /// Name of the label that captions the control, empty for none.
+    const std::string& label() const { return label_; }
+    /// Name of the label that tells its unit, empty for none.
+    const std::string& unitLabel() const { return unitLabel_; }
+    /// What a screen reader calls the control, where that is not its label's or its own caption.
+    const std::string& accessibleName() const { return accessibleName_; }
+    /// Page of the help that explains it, with its section: "soil#temperature". Empty for none.
+    const std::string& helpTopic() const { return helpTopic_; }
 
     Control& setText(std::string text);
     Control& setCaption(std::string caption);
@@ -137,11 +147,17 @@ class Control {
     Control& setTooltip(std::string tooltip);
     Control& setDate(const Date& date);
     Control& setRefused(bool refused);
+    Control& setAccessibleName(std::string name);
+    /// Draws attention to the control for a moment; nothing of its state changes.
+    void flash() { notify(Property::flash); }
 
     Control& in(std::string container);
     Control& grouped(std::string group);
     Control& editableText();
     Control& multipleRows();
+    Control& captionedBy(std::string label);
+    Control& unitsIn(std::string unitLabel);
+    Control& helpedBy(std::string topic);
 
     void setObserver(ControlObserver* observer) { observer_ = observer; }
 
@@ -154,6 +170,7 @@ class Control {
     ControlKind kind_;
     ControlObserver* observer_ = nullptr;
     std::string text_, caption_, tooltip_, container_, group_;
+    std::string label_, unitLabel_, accessibleName_, helpTopic_;
     std::vector<std::string> items_;
     std::vector<int> selected_;
     Date date_;
@@ -163,5 +180,8 @@ class Control {
     bool enabled_ = true, visible_ = true, locked_ = false, checked_ = false, bold_ = false;
     bool refused_ = false, editable_ = false, multiple_ = false;
 };
+
+/// "CATopLabel(1)": the name of an element of a control array.
+std::string elementName(const std::string& array, std::size_t index);
 
 }  // namespace varnholt

@@ -30,8 +30,9 @@ class Form::Relay : public ControlObserver {
  public:
     explicit Relay(Form& form) : form_(form) {}
     void propertyChanged(Control& control, Property property) override {
-        for (FormObserver* observer : form_.observers_)
-            observer->propertyChanged(control, property);
+        // By index, since an observer may go away while it is told.
+        for (std::size_t i = 0; i < form_.observers_.size(); ++i)
+            form_.observers_[i]->propertyChanged(control, property);
     }
 
  private:
@@ -41,19 +42,27 @@ class Form::Relay : public ControlObserver {
 /// One action of the user, from its entry to the end of its last handler.
 class Form::Settling {
  public:
-    explicit Settling(Form& form) : form_(form) { ++form_.depth_; }
+    Settling(Form& form, UserAction action) : form_(form), action_(std::move(action)) {
+        if (++form_.depth_ == 1) form_.actionBegins();
+    }
     Settling(const Settling&) = delete;
     Settling& operator=(const Settling&) = delete;
     ~Settling() {
         if (--form_.depth_ > 0) return;
-        // A copy, since an observer may go away while it is told.
-        const std::vector<FormObserver*> observers = form_.observers_;
-        for (FormObserver* observer : observers) observer->settled(form_);
+        form_.actionEnds(action_);
+        for (std::size_t i = 0; i < form_.observers_.size(); ++i)
+            form_.observers_[i]->settled(form_);
     }
 
  private:
     Form& form_;
+    UserAction action_;
 };
+
+FormObserver::~FormObserver() {
+    const std::vector<Form*> forms = observed_;
+    for (Form* form : forms) form->removeObserver(this);
+}
 
 Form::Form(std::string formName, Platform& platform, const Texts& texts)
     : formName_(std::move(formName)),
@@ -61,12 +70,15 @@ Form::Form(std::string formName, Platform& platform, const Texts& texts)
       texts_(texts),
       relay_(std::make_unique<Relay>(*this)) {}
 
-Form::~Form() = default;
+Form::~Form() {
+    const std::vector<FormObserver*> observers = observers_;
+    for (FormObserver* observer : observers) removeObserver(observer);
+}
 
 void Form::setCaption(std::string caption) {
     if (caption_ == caption) return;
     caption_ = std::move(caption);
-    for (FormObserver* observer : observers_) observer->captionChanged(*this);
+    for (std::size_t i = 0; i < observers_.size(); ++i) observers_[i]->captionChanged(*this);
 }
 
 Control& Form::control(const std::string& name) {
@@ -103,8 +115,8 @@ void Form::raise(const Handler& handler) const {
 }
 
 /// One action of the user, to its end.
-void Form::perform(const Handler& action) {
-    const Settling settling(*this);
+void Form::perform(Verb verb, const std::string& control, const Handler& action) {
+    const Settling settling(*this, {verb, control});
     try {
         action();
     } catch (const RunTimeError& error) {
@@ -113,8 +125,9 @@ void Form::perform(const Handler& action) {
 }
 
 void Form::type(const std::string& name, const std::string& text) {
-    perform([&] {
+    perform(Verb::type, name, [&] {
         Control& target = control(name);
+        visited_ = name;
         target.setText(target.kind() == ControlKind::richText ? withFullLineEnds(text) : text);
         if (fields_.has(name)) fields_.textChanged(name);
         raise(handlersOf(name).change);
@@ -122,14 +135,15 @@ void Form::type(const std::string& name, const std::string& text) {
 }
 
 void Form::leave(const std::string& name) {
-    perform([&] {
+    perform(Verb::leave, name, [&] {
+        if (visited_ == name) visited_.clear();
         if (fields_.has(name)) fields_.left(name);
         raise(handlersOf(name).leave);
     });
 }
 
 void Form::key(const std::string& name, const std::string& key) {
-    perform([&] {
+    perform(Verb::key, name, [&] {
         const Control& target = control(name);
         const bool field = target.kind() == ControlKind::text ||
                            target.kind() == ControlKind::richText || target.editable();
@@ -142,7 +156,7 @@ void Form::key(const std::string& name, const std::string& key) {
 }
 
 void Form::click(const std::string& name) {
-    perform([&] {
+    perform(Verb::click, name, [&] {
         Control& target = control(name);
         if (target.kind() == ControlKind::check) target.setChecked(!target.checked());
         if (target.kind() == ControlKind::option) {
@@ -160,14 +174,14 @@ void Form::chooseOption(Control& target) {
 }
 
 void Form::choose(const std::string& name, int index) {
-    perform([&] {
+    perform(Verb::choose, name, [&] {
         control(name).setIndex(index);
         raise(handlersOf(name).click);
     });
 }
 
 void Form::select(const std::string& name, std::vector<int> rows) {
-    perform([&] {
+    perform(Verb::select, name, [&] {
         std::sort(rows.begin(), rows.end());
         control(name).setSelected(std::move(rows));
         raise(handlersOf(name).click);
@@ -175,7 +189,7 @@ void Form::select(const std::string& name, std::vector<int> rows) {
 }
 
 void Form::slide(const std::string& name, double value) {
-    perform([&] {
+    perform(Verb::slide, name, [&] {
         Control& target = control(name);
         const double within = std::max(target.min(), std::min(target.max(), value));
         if (within == target.value()) return;
@@ -185,16 +199,21 @@ void Form::slide(const std::string& name, double value) {
 }
 
 void Form::pickDate(const std::string& name, const Date& date) {
-    perform([&] {
+    perform(Verb::pickDate, name, [&] {
         control(name).setDate(date);
         raise(handlersOf(name).click);
     });
 }
 
-void Form::addObserver(FormObserver* observer) { observers_.push_back(observer); }
+void Form::addObserver(FormObserver* observer) {
+    observers_.push_back(observer);
+    observer->observed_.push_back(this);
+}
 
 void Form::removeObserver(FormObserver* observer) {
     observers_.erase(std::remove(observers_.begin(), observers_.end(), observer), observers_.end());
+    std::vector<Form*>& forms = observer->observed_;
+    forms.erase(std::remove(forms.begin(), forms.end(), this), forms.end());
 }
 
 Control& Form::add(const std::string& name, ControlKind kind) {
@@ -208,6 +227,23 @@ Control& Form::add(const std::string& name, ControlKind kind) {
 
 Control& Form::add(const std::string& name, ControlKind kind, int captionText) {
     return add(name, kind).setCaption(text(captionText));
+}
+
+Control& Form::addField(NumericFieldRow row) {
+    const FieldCompanions& beside = row.beside;
+    if (!beside.label.empty() && !has(beside.label))
+        add(beside.label, ControlKind::label).in(beside.frame);
+    Control& field = has(row.control) ? control(row.control) : add(row.control, ControlKind::text);
+    field.in(beside.frame)
+        .captionedBy(beside.label)
+        .unitsIn(beside.unitLabel)
+        .helpedBy(beside.help);
+    if (!beside.unitLabel.empty() && !has(beside.unitLabel))
+        add(beside.unitLabel, ControlKind::label).in(beside.frame);
+    const std::string name = row.control;
+    fields_.add(std::move(row));
+    fields_.showCaptions(name);
+    return field;
 }
 
 void Form::onChange(const std::string& control, Handler handler) {

@@ -16,12 +16,29 @@
 
 namespace varnholt {
 
-/// Whoever shows a form.
+/// Whoever shows a form. An observer that ends while it observes is forgotten by its forms.
 class FormObserver : public ControlObserver {
  public:
+    FormObserver() = default;
+    ~FormObserver() override;
+    FormObserver(const FormObserver&) = delete;
+    FormObserver& operator=(const FormObserver&) = delete;
+
     virtual void captionChanged(Form& form) = 0;
     /// Something the user did has been handled to its end: pictures drawn from the model are due.
     virtual void settled(Form& form) = 0;
+
+ private:
+    friend class Form;
+    std::vector<Form*> observed_;
+};
+
+/// What the user did, by the verbs of Form.
+enum class Verb { type, leave, key, click, choose, select, slide, pickDate };
+
+struct UserAction {
+    Verb verb;
+    std::string control;
 };
 
 /// One window, known without a toolkit: its named controls, the handlers of their events, and the
@@ -63,11 +80,20 @@ class Form {
     void select(const std::string& control, std::vector<int> rows);
     void slide(const std::string& control, double value);
     void pickDate(const std::string& control, const Date& date);
+    /// A drag of a slider begins or ends: its many moves are one change.
+    void beginGesture(const std::string& control) { gesture_ = control; }
+    void endGesture() { gesture_.clear(); }
+    /// The slider that is being dragged, empty for none.
+    const std::string& gesture() const { return gesture_; }
+    /// The field in which something has been typed and which has not been left since; empty for
+    /// none.
+    const std::string& visitedField() const { return visited_; }
     /// Whether keys in the control have a meaning of their own.
     bool takesKeys(const std::string& control) const;
 
     const Values& values() const { return values_; }
     NumericFields& fields() { return fields_; }
+    const NumericFields& fields() const { return fields_; }
 
     /// A handler of the user's action is still running: the form must not end yet.
     bool isHandling() const { return depth_ > 0; }
@@ -97,6 +123,16 @@ class Form {
     Control& add(const std::string& name, ControlKind kind);
     /// Adds a control whose caption is the language's text of that number.
     Control& add(const std::string& name, ControlKind kind, int captionText);
+    /// Adds a numeric field with the label before it and the unit behind it, as its row declares
+    /// them; a label that stands already serves several fields.
+    Control& addField(NumericFieldRow row);
+
+    /// The outermost of the user's actions on this form begins, or has been handled to its end;
+    /// those who show the form hear of it after this.
+    virtual void actionBegins() {}
+    virtual void actionEnds(const UserAction&) {}
+    /// Code has put another state into the form: no field is being visited any more.
+    void endVisit() { visited_.clear(); }
 
     // Handlers of one control's events; a later one replaces an earlier one.
     void onChange(const std::string& control, Handler handler);  ///< text typed
@@ -119,7 +155,7 @@ class Form {
     };
 
     Handlers& handlersOf(const std::string& control);
-    void perform(const Handler& action);
+    void perform(Verb verb, const std::string& control, const Handler& action);
     void raise(const Handler& handler) const;
     void chooseOption(Control& control);
 
@@ -134,6 +170,7 @@ class Form {
     NumericFields fields_{*this};
     std::vector<FormObserver*> observers_;
     std::unique_ptr<Relay> relay_;
+    std::string visited_, gesture_;
     int depth_ = 0;
     bool modalEnded_ = false;
 };

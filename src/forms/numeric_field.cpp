@@ -32,15 +32,41 @@ const NumericFieldRow& NumericFields::row(const std::string& control) const {
 void NumericFields::textChanged(const std::string& control) {
     if (manner_.codeIsWriting && manner_.codeIsWriting()) return;
     const NumericFieldRow& row = rows_.at(control);
+    const std::string typed = form_.control(control).text();
     try {
         store(row);
         const bool refused = applyRange(row);
-        form_.control(control).setRefused(refused);
+        if (refused)
+            refuse(row, typed);
+        else
+            form_.control(control).setRefused(false);
         if (row.changed) row.changed();
         if (manner_.changed) manner_.changed();
     } catch (const RunTimeError&) {
+        // A number that the field cannot hold: the field says so.
         if (manner_.anyErrorStoresZero) row.stored.set(0);
+        refuse(row, typed);
     }
+}
+
+void NumericFields::refuse(const NumericFieldRow& row, const std::string& typed) {
+    const auto limit = [&](double value, double none) {
+        return value == none ? std::string() : shownAs(row, value);
+    };
+    constexpr double unlimited = 1e308;
+    refused_ = {row.control, typed, limit(row.lowest, -unlimited), limit(row.highest, unlimited),
+                shownAs(row, row.stored.get())};
+    form_.control(row.control).setRefused(true);
+}
+
+std::optional<RefusedValue> NumericFields::refused() const {
+    if (!refused_ || !form_.control(refused_->control).refused()) return std::nullopt;
+    return refused_;
+}
+
+void NumericFields::forgetRefused() {
+    for (const std::string& name : order_) form_.control(name).setRefused(false);
+    refused_.reset();
 }
 
 void NumericFields::store(const NumericFieldRow& row) {
@@ -54,7 +80,7 @@ void NumericFields::store(const NumericFieldRow& row) {
         row.stored.set(*row.unparsable);
         return;
     }
-    row.stored.set(row.quantity->stored(typed.value_or(0), manner_.units()));
+    row.stored.set(row.quantity->stored(typed.value_or(0), units()));
 }
 
 /// A value out of range is replaced once something is typed; an empty field waits until it is left.
@@ -89,8 +115,34 @@ void NumericFields::left(const std::string& control) {
 
 void NumericFields::show(const std::string& control) {
     const NumericFieldRow& row = rows_.at(control);
-    form_.control(control).setText(
-        formatNumber(row.quantity->shown(row.stored.get(), manner_.units()), formatOf(row)));
+    form_.control(control).setText(shownAs(row, row.stored.get()));
+}
+
+std::string NumericFields::shownAs(const NumericFieldRow& row, double value) const {
+    return formatNumber(row.quantity->shown(value, units()), formatOf(row));
+}
+
+void NumericFields::showCaptions(const std::string& control) {
+    const FieldCompanions& beside = rows_.at(control).beside;
+    if (const int number = beside.caption.in(units()); number != 0)
+        form_.control(beside.label).setCaption(form_.text(number));
+    if (const int number = beside.unit.in(units()); number != 0)
+        form_.control(beside.unitLabel).setCaption(form_.text(number));
+    std::string name = beside.accessible != 0 ? form_.text(beside.accessible)
+                       : beside.label.empty() ? std::string()
+                                              : form_.control(beside.label).caption();
+    name = captionWords(name);
+    if (beside.distinction != 0)
+        name += (name.empty() ? "" : ", ") + captionWords(form_.text(beside.distinction));
+    form_.control(control).setAccessibleName(std::move(name));
+}
+
+void NumericFields::showCaptions() {
+    for (const std::string& name : order_) showCaptions(name);
+}
+
+UnitSystem NumericFields::units() const {
+    return manner_.units ? manner_.units() : UnitSystem::english;
 }
 
 void NumericFields::showAll(std::string_view prefix) {
@@ -103,7 +155,7 @@ double NumericFields::fallbackOf(const NumericFieldRow& row) {
 }
 
 std::string_view NumericFields::formatOf(const NumericFieldRow& row) const {
-    const bool metric = manner_.units() == UnitSystem::metric;
+    const bool metric = units() == UnitSystem::metric;
     return metric && !row.metricFormat.empty() ? row.metricFormat : row.format;
 }
 

@@ -31,6 +31,28 @@ class StoredNumber {
     std::function<void(double)> set_;
 };
 
+/// A text in each system of units; often the same one.
+struct UnitTexts {
+    int english = 0, metric = 0;
+
+    int in(UnitSystem units) const { return units == UnitSystem::metric ? metric : english; }
+};
+
+/// What stands beside a field and explains it. Labels are named, since several fields may share
+/// one; texts are numbers of the language, 0 for none.
+struct FieldCompanions {
+    std::string frame{};      ///< that holds the field and its labels
+    std::string label{};      ///< the label before it
+    UnitTexts caption{};      ///< of that label, where this row is the one that writes it
+    std::string unitLabel{};  ///< the label behind it
+    UnitTexts unit{};         ///< of that label, likewise
+    std::string help{};       ///< page of the help and its section
+    int accessible = 0;       ///< what a screen reader calls it, where not by its caption
+    /// What tells the field from others under the same caption, "Heating" for instance: it goes
+    /// behind the caption where a screen reader names the field.
+    int distinction = 0;
+};
+
 /// One numeric field of a form, as one row of its table. Limits and fallbacks are in stored
 /// (English) units and hold for the number as stored.
 struct NumericFieldRow {
@@ -42,6 +64,7 @@ struct NumericFieldRow {
     double fallback = 0;     ///< what a refused or an empty field returns to
     std::string_view format = "###0.0";
     std::string_view metricFormat = {};  ///< when it differs
+    FieldCompanions beside{};
 
     // What only some fields need.
     std::optional<double> ifBelow{};        ///< instead of the fallback, below the lowest
@@ -53,6 +76,14 @@ struct NumericFieldRow {
     std::function<double()> fallbackNow{};  ///< the fallback, where it varies
     std::function<void()> changed{};        ///< after the value is stored, before the form is told
     std::function<void()> left{};           ///< after the field has been reformatted
+};
+
+/// A value that a field has refused, in the units shown.
+struct RefusedValue {
+    std::string control;
+    std::string typed;
+    std::string lowest, highest;  ///< what it would have taken; empty for no limit
+    std::string taken;            ///< what stands in its place
 };
 
 /// What the fields of one form have in common.
@@ -82,15 +113,26 @@ class NumericFields {
     void show(const std::string& control);
     /// Writes every field whose control's name begins with the prefix.
     void showAll(std::string_view prefix = {});
+    /// Writes caption, unit and accessible name of the field, and of all fields.
+    void showCaptions(const std::string& control);
+    void showCaptions();
+    /// The last refused value, as long as its field carries the mark.
+    std::optional<RefusedValue> refused() const;
+    /// Takes the mark of refused values away.
+    void forgetRefused();
 
  private:
     void store(const NumericFieldRow& row);
     static double fallbackOf(const NumericFieldRow& row);
     bool applyRange(const NumericFieldRow& row);
+    void refuse(const NumericFieldRow& row, const std::string& typed);
+    std::string shownAs(const NumericFieldRow& row, double value) const;
+    UnitSystem units() const;
     std::string_view formatOf(const NumericFieldRow& row) const;
 
     Form& form_;
     NumericFieldManner manner_;
+    std::optional<RefusedValue> refused_;
     std::map<std::string, NumericFieldRow> rows_;
     std::vector<std::string> order_;
 };

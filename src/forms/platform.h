@@ -16,6 +16,9 @@ enum class Buttons { yesNoCancel, yesNo, okCancel };
 /// The numbers are those that the save questions return.
 enum class Answer { ok = 1, cancel = 2, yes = 6, no = 7 };
 
+/// What the Edit menu does with the field that has the focus.
+enum class EditCommand { cut, copy, paste, selectAll };
+
 /// A file dialog, open or save.
 struct FileDialog {
     bool saving = false;
@@ -51,8 +54,8 @@ class Platform {
     virtual std::string clipboard() = 0;
     virtual void setClipboard(const std::string& text) = 0;
     virtual Date today() = 0;
-    /// Waits while events go on being served; returns at once where nobody watches.
-    virtual void pause(int milliseconds) = 0;
+    /// Does it with the field that has the focus, if any has.
+    virtual void edit(EditCommand command) = 0;
     /// How far a long operation has come; done equal to total ends it.
     virtual void progress(const std::string& what, std::size_t done, std::size_t total) = 0;
     /// Opens a page or a program outside.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <initializer_list>
 #include <string>
 
 namespace varnholt {
@@ -15,5 +16,10 @@ class Texts {
     /// The file of a picture by its number; empty when the language lacks it.
     virtual std::string picture(int number) const = 0;
 };
+
+/// The text with what belongs in its places %1, %2, ... in their order.
+std::string filledIn(const std::string& text, std::initializer_list<std::string> parts);
+/// A caption as words in a sentence: without the colon and the blanks at its end.
+std::string captionWords(std::string caption);
 
 }  // namespace varnholt

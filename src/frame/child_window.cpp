@@ -6,7 +6,6 @@
 #include "frame/varnmain.h"
 
 namespace varnholt {
-
 ChildWindow::ChildWindow(std::string formName, Varnmain& main)
     : Form(std::move(formName), main.platform(), main.texts()), main_(main) {}
 
@@ -19,6 +18,128 @@ void ChildWindow::switchUnits(UnitSystem wanted) {
     if (!hasUnitSwitch() || units() == wanted) return;
     control("MetricCheck").setChecked(wanted == UnitSystem::metric);
     MetricCheck_Click();
+}
+
+void ChildWindow::startHistory() {
+    if (StatePointer now = state()) history_.start(std::move(now));
+}
+
+void ChildWindow::actionBegins() {
+    main_.beginAction();
+    stepName_.clear();
+    beginStep();
+}
+
+void ChildWindow::actionEnds(const UserAction& action) {
+    const bool open = main_.isOpen(this);
+    const std::string name = open ? stepName(action) : std::string();
+    const std::string visit = open ? visitOf(action) : std::string();
+    if (open) {
+        endStep(name, visit);
+        if (action.verb == Verb::leave) history_.endVisit();
+        refreshNotice();
+    }
+    main_.endAction(name, visit.empty() ? visit : formName() + "." + visit,
+                    action.verb == Verb::leave);
+}
+
+/// Typing in a field up to its leaving is one change, and so is a slider's drag.
+std::string ChildWindow::visitOf(const UserAction& action) const {
+    if (action.verb == Verb::leave || visitedField() == action.control) return action.control;
+    return gesture();
+}
+
+std::string ChildWindow::stepName(const UserAction& action) const {
+    if (!stepName_.empty()) return stepName_;
+    const Control& acted = control(action.control);
+    if (!acted.accessibleName().empty()) return acted.accessibleName();
+    if (!acted.caption().empty()) return captionWords(acted.caption());
+    if (!acted.label().empty()) return captionWords(control(acted.label()).caption());
+    return acted.tooltip();
+}
+
+void ChildWindow::beginStep() {
+    if (history_.hasStarted()) history_.absorb(state());
+}
+
+void ChildWindow::endStep(const std::string& name, const std::string& visit) {
+    if (history_.hasStarted()) history_.record(state(), name, visit);
+}
+
+void ChildWindow::touch() { main_.touch(*this); }
+
+void ChildWindow::changedByAnother(const std::string& step, const std::string& visit,
+                                   bool visitEnds) {
+    if (step.empty())
+        beginStep();
+    else
+        endStep(step, visit);
+    if (visitEnds) history_.endVisit();
+    refreshNotice();
+}
+
+void ChildWindow::markSaved() {
+    if (history_.hasStarted()) history_.markSaved(state());
+}
+
+void ChildWindow::undo() {
+    if (!history_.canUndo()) return;
+    beginStep();
+    goTo(history_.undo());
+}
+
+void ChildWindow::redo() {
+    if (!history_.canRedo()) return;
+    beginStep();
+    goTo(history_.redo());
+}
+
+void ChildWindow::goTo(const DocumentState& state) {
+    endVisit();
+    fields().forgetRefused();
+    restore(state);
+    savedStateReached(history_.isAtSaved());
+    refreshNotice();
+}
+
+Notice ChildWindow::refusedNotice(const RefusedValue& refused) const {
+    const int words = refused.highest.empty() ? 1238 : 1237;
+    return {filledIn(text(words), {control(refused.control).accessibleName(), refused.typed,
+                                   refused.lowest, refused.highest, refused.taken})};
+}
+
+void ChildWindow::addNotice() {
+    add("NoticeLabel", ControlKind::label);
+    add("NoticeCommand", ControlKind::button).setVisible(false);
+    onClick("NoticeCommand", [this] {
+        // The action may change what the notice says, and with it the action.
+        const std::function<void()> action = noticeAction_;
+        if (action) action();
+    });
+}
+
+void ChildWindow::refreshNotice() {
+    if (!has("NoticeLabel")) return;
+    const std::vector<Notice> holding = notices();
+    std::string text;
+    for (const Notice& notice : holding) text += (text.empty() ? "" : " ") + notice.text;
+    const bool acts = !holding.empty() && !holding.front().action.empty();
+    noticeAction_ = acts ? holding.front().act : nullptr;
+    control("NoticeLabel").setCaption(std::move(text));
+    control("NoticeCommand")
+        .setCaption(acts ? holding.front().action : std::string())
+        .setVisible(acts);
+}
+
+DocumentStep::DocumentStep(ChildWindow& window, std::string name)
+    : main_(window.main()), window_(&window), name_(std::move(name)) {
+    window.beginStep();
+}
+
+DocumentStep::~DocumentStep() {
+    if (!main_.isOpen(window_)) return;
+    window_->endStep(name_);
+    window_->refreshNotice();
 }
 
 }  // namespace varnholt

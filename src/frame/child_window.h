@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "basis/units.h"
 #include "forms/form.h"
+#include "frame/document_history.h"
+#include "frame/notice.h"
 
 namespace varnholt {
 
@@ -37,8 +42,71 @@ class ChildWindow : public Form {
     /// Fields are being rewritten by code: text changes must not be treated as the user's.
     bool settingUnits = false;
 
+    // The document that the window edits, and its history. A window without a document has none.
+    /// Everything that undo brings back, or null.
+    virtual StatePointer state() const { return nullptr; }
+    const DocumentHistory& history() const { return history_; }
+    /// The document is new, or another one has been opened: nothing can be undone.
+    void startHistory();
+    void undo();
+    void redo();
+    /// Before another window's action changes this document: what it changes is a step here too.
+    void touch();
+    /// The action that touched this document has ended; without a name it makes no step.
+    void changedByAnother(const std::string& step, const std::string& visit, bool visitEnds);
+    /// What comes is changed from the document as it stands now.
+    void beginStep();
+
+    /// Shows the notices that hold now.
+    void refreshNotice();
+
+    void actionBegins() override;
+    void actionEnds(const UserAction& action) override;
+
+ protected:
+    friend class DocumentStep;
+
+    /// Puts an earlier state back and shows it.
+    virtual void restore(const DocumentState&) {}
+    /// After undo and redo: whether the document counts as changed.
+    virtual void savedStateReached(bool /*atSaved*/) {}
+    /// What holds now, the most pressing first.
+    virtual std::vector<Notice> notices() const { return {}; }
+    /// Adds `NoticeLabel` and `NoticeCommand`.
+    void addNotice();
+    /// The document has been saved as it stands.
+    void markSaved();
+    /// The command at hand calls its step so; else it is called by the control that was used.
+    void nameStep(std::string name) { stepName_ = std::move(name); }
+    /// How the step is called that an action has made.
+    virtual std::string stepName(const UserAction& action) const;
+    /// Explains why a field holds another value than was typed.
+    Notice refusedNotice(const RefusedValue& refused) const;
+
+ private:
+    void endStep(const std::string& name, const std::string& visit = {});
+    std::string visitOf(const UserAction& action) const;
+    void goTo(const DocumentState& state);
+
+    Varnmain& main_;
+    DocumentHistory history_;
+    std::string stepName_;
+    std::function<void()> noticeAction_;
+};
+
+/// A command that changes a window's document from outside the window's own actions, as one step
+/// of its history from here to the end of the scope.
+class DocumentStep {
+ public:
+    DocumentStep(ChildWindow& window, std::string name);
+    ~DocumentStep();
+    DocumentStep(const DocumentStep&) = delete;
+    DocumentStep& operator=(const DocumentStep&) = delete;
+
  private:
     Varnmain& main_;
+    ChildWindow* window_;
+    std::string name_;
 };
 
 }  // namespace varnholt

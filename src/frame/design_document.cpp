@@ -39,20 +39,24 @@ constexpr std::array<InformationRow, 11> informationRows{{
 }  // namespace
 
 DesignDocument::DesignDocument(std::string formName, DesignKind kind, Varnmain& main,
-                               std::int16_t slot)
-    : ChildWindow(std::move(formName), main), counter(slot), myID(main.windowCounter), kind_(kind) {
-    information.currentDate = information.projectStartDate = platform().today();
+                               std::int16_t slot, ProjectInformation& information)
+    : ChildWindow(std::move(formName), main),
+      counter(slot),
+      myID(main.windowCounter),
+      kind_(kind),
+      information_(information) {
+    information_.currentDate = information_.projectStartDate = platform().today();
     registerValues();
 }
 
 void DesignDocument::registerValues() {
     Values& values = publicValues();
     for (const InformationRow& row : informationRows)
-        values.add(row.value, &(information.*row.member));
-    values.add("country", &information.country);
-    values.add("comments", &information.comments);
-    values.add("currentDate", &information.currentDate);
-    values.add("projectStartDate", &information.projectStartDate);
+        values.add(row.value, &(information_.*row.member));
+    values.add("country", &information_.country);
+    values.add("comments", &information_.comments);
+    values.add("currentDate", &information_.currentDate);
+    values.add("projectStartDate", &information_.projectStartDate);
     values.add("FileName", &FileName);
     values.add("directoryName", &directoryName);
     values.add("currentFileCheck", &currentFileCheck);
@@ -68,16 +72,20 @@ void DesignDocument::registerValues() {
     values.add("selectingPump", &selectingPump);
 }
 
-void DesignDocument::calculationNeeded() {
-    control("CACalculateCommand").setBackcolor(colours::stale);
+void DesignDocument::setStale(bool stale) {
+    stale_ = stale;
+    control("CACalculateCommand").setBackcolor(stale ? colours::stale : colours::buttonFace);
 }
 
-void DesignDocument::calculationDone() {
-    control("CACalculateCommand").setBackcolor(colours::buttonFace);
+void DesignDocument::saved() {
+    markSaved();
+    changed_ = false;
 }
 
-bool DesignDocument::isStale() const {
-    return control("CACalculateCommand").backcolor() == colours::stale;
+/// Every action that has brought the document into another state counts as a change.
+void DesignDocument::actionEnds(const UserAction& action) {
+    ChildWindow::actionEnds(action);
+    if (history().hasStarted() && !history().isAtSaved()) changed_ = true;
 }
 
 std::string DesignDocument::filePath() const {
@@ -94,32 +102,42 @@ void DesignDocument::setFile(const std::string& path) {
 void DesignDocument::addInformationControls() {
     add("INProjectFrame", ControlKind::frame, 2700);
     for (const InformationRow& row : informationRows) {
-        add(row.label, ControlKind::label, row.captionText).in("INProjectFrame");
-        add(row.control, ControlKind::text).in("INProjectFrame");
+        addLabel(row.label, row.captionText);
+        add(row.control, ControlKind::text)
+            .in("INProjectFrame")
+            .captionedBy(row.label)
+            .helpedBy("borehole#information");
         onChange(row.control, [this, member = row.member, name = std::string(row.control)] {
-            information.*member = control(name).text();
+            information_.*member = control(name).text();
         });
     }
-    add("INDateLabel", ControlKind::label, 2712).in("INProjectFrame");
-    add("INDateDTPicker", ControlKind::date).in("INProjectFrame");
-    onClick("INDateDTPicker",
-            [this] { information.currentDate = control("INDateDTPicker").date(); });
-    add("INStartDateLabel", ControlKind::label, 2713).in("INProjectFrame");
-    add("INStartDateDTPicker", ControlKind::date).in("INProjectFrame");
-    onClick("INStartDateDTPicker",
-            [this] { information.projectStartDate = control("INStartDateDTPicker").date(); });
-    add("INCommentsLabel", ControlKind::label, 2714).in("INProjectFrame");
-    add("INCommentsRichTextBox", ControlKind::richText).in("INProjectFrame");
+    addDate("INDateDTPicker", "INDateLabel", 2712, &ProjectInformation::currentDate);
+    addDate("INStartDateDTPicker", "INStartDateLabel", 2713, &ProjectInformation::projectStartDate);
+    addLabel("INCommentsLabel", 2714);
+    add("INCommentsRichTextBox", ControlKind::richText)
+        .in("INProjectFrame")
+        .captionedBy("INCommentsLabel");
     onChange("INCommentsRichTextBox",
-             [this] { information.comments = control("INCommentsRichTextBox").text(); });
+             [this] { information_.comments = control("INCommentsRichTextBox").text(); });
+}
+
+void DesignDocument::addLabel(const char* name, int captionText) {
+    add(name, ControlKind::label, captionText).in("INProjectFrame");
+}
+
+void DesignDocument::addDate(const char* name, const char* label, int captionText,
+                             Date ProjectInformation::*member) {
+    addLabel(label, captionText);
+    add(name, ControlKind::date).in("INProjectFrame").captionedBy(label);
+    onClick(name, [this, name, member] { information_.*member = control(name).date(); });
 }
 
 void DesignDocument::showInformation() {
     for (const InformationRow& row : informationRows)
-        control(row.control).setText(information.*row.member);
-    control("INDateDTPicker").setDate(information.currentDate);
-    control("INStartDateDTPicker").setDate(information.projectStartDate);
-    control("INCommentsRichTextBox").setText(information.comments);
+        control(row.control).setText(information_.*row.member);
+    control("INDateDTPicker").setDate(information_.currentDate);
+    control("INStartDateDTPicker").setDate(information_.projectStartDate);
+    control("INCommentsRichTextBox").setText(information_.comments);
 }
 
 }  // namespace varnholt

@@ -4,37 +4,31 @@
 #include <cstdint>
 #include <string>
 
-#include "basis/date.h"
 #include "frame/child_window.h"
 #include "frame/design_slots.h"
+#include "frame/project_information.h"
 
 namespace varnholt {
-
-/// Who the project is for and who made it, as the information tab edits it.
-struct ProjectInformation {
-    std::string projectName, designerName, clientName;
-    std::string addressLine1, addressLine2, city, state, zip, country;
-    std::string phone, fax, email;
-    Date currentDate, projectStartDate;
-    /// Lines end in CR LF.
-    std::string comments;
-
-    friend bool operator==(const ProjectInformation&, const ProjectInformation&) = default;
-};
 
 /// What every design window has, whatever its ground loop: file identity, stale mark, unit switch,
 /// project information.
 class DesignDocument : public ChildWindow {
  public:
-    DesignDocument(std::string formName, DesignKind kind, Varnmain& main, std::int16_t slot);
+    /// @param information part of the project that the window holds, which outlives the call
+    DesignDocument(std::string formName, DesignKind kind, Varnmain& main, std::int16_t slot,
+                   ProjectInformation& information);
 
     DesignKind kind() const { return kind_; }
     bool isDesign() const override { return true; }
 
-    /// Marks the results stale: the colour of the Calculate button alone tells it.
-    void calculationNeeded();
-    void calculationDone();
-    bool isStale() const;
+    /// Marks the results stale: the Calculate button takes the colour that tells it.
+    void calculationNeeded() { setStale(true); }
+    void calculationDone() { setStale(false); }
+    bool isStale() const { return stale_; }
+    /// The document is not as it was saved, or opened.
+    bool isChanged() const { return changed_; }
+    /// The project has been written to its file.
+    void saved();
 
     /// The base text of the captions of such windows.
     virtual std::string baseCaption() const = 0;
@@ -52,7 +46,7 @@ class DesignDocument : public ChildWindow {
     /// Whether the project has a file on disk yet.
     bool currentFileCheck = false;
 
-    ProjectInformation information;
+    const ProjectInformation& information() const { return information_; }
 
     bool settingItems = false, insideChange = false, updating = false, beenHere = false;
     bool samePumpUpdated = false, returningFromDetails = false, selectingPump = false;
@@ -62,11 +56,20 @@ class DesignDocument : public ChildWindow {
     void addInformationControls();
     /// Writes the project information into its fields.
     void showInformation();
+    void setStale(bool stale);
+    void actionEnds(const UserAction& action) override;
+    void savedStateReached(bool atSaved) override { changed_ = !atSaved; }
 
  private:
     void registerValues();
+    void addLabel(const char* name, int captionText);
+    void addDate(const char* name, const char* label, int captionText,
+                 Date ProjectInformation::*member);
 
     DesignKind kind_;
+    ProjectInformation& information_;
+    bool stale_ = false;
+    bool changed_ = false;
 };
 
 }  // namespace varnholt

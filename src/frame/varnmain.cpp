@@ -20,6 +20,13 @@ bool opensWindow(const std::string& entry) {
                        [&](const MenuRow& row) { return row.opensWindow && entry == row.control; });
 }
 
+constexpr std::pair<const char*, EditCommand> editCommands[] = {
+    {"mnuCut", EditCommand::cut},
+    {"mnuCopy", EditCommand::copy},
+    {"mnuPaste", EditCommand::paste},
+    {"mnuSelectAll", EditCommand::selectAll},
+};
+
 }  // namespace
 
 Varnmain::Varnmain(Platform& platform, const Texts& texts, std::string programFolder)
@@ -31,6 +38,11 @@ Varnmain::Varnmain(Platform& platform, const Texts& texts, std::string programFo
     setCommand("English", CommandNeeds::nothing, [this] { English_Click(); });
     setCommand("mnuAbout", CommandNeeds::nothing, [this] { mnuAbout_Click(); });
     setCommand("mnuShowToolbar", CommandNeeds::nothing, [this] { mnuShowToolbar_Click(); });
+    setCommand("mnuUndo", CommandNeeds::undo, [this] { mnuUndo_Click(); });
+    setCommand("mnuRedo", CommandNeeds::redo, [this] { mnuRedo_Click(); });
+    for (const auto& [entry, command] : editCommands)
+        setCommand(entry, CommandNeeds::anyWindow,
+                   [this, todo = command] { this->platform().edit(todo); });
     setCommand("mnuFileExit", CommandNeeds::nothing, [this] { mnuFileExit_Click(); });
 }
 
@@ -131,7 +143,16 @@ void Varnmain::open(std::unique_ptr<ChildWindow> window) {
     hideSplash();
     ChildWindow& opened = *window;
     windows_.push_back(std::move(window));
-    opened.load();
+    try {
+        opened.load();
+    } catch (...) {
+        opened.unloaded();
+        takeAway(opened);
+        refreshCommands();
+        throw;
+    }
+    opened.startHistory();
+    opened.refreshNotice();
     platform().opened(opened);
     activate(opened);
 }
@@ -163,12 +184,7 @@ bool Varnmain::close(ChildWindow& window) {
     if (!isOpen(&window)) return true;
     window.unloaded();
     platform().closed(window);
-    activationOrder_.erase(std::remove(activationOrder_.begin(), activationOrder_.end(), &window),
-                           activationOrder_.end());
-    const auto at = std::find_if(windows_.begin(), windows_.end(),
-                                 [&](const auto& open) { return open.get() == &window; });
-    closed_.push_back(std::move(*at));
-    windows_.erase(at);
+    takeAway(window);
     if (active_ == &window) {
         active_ = nullptr;
         if (!activationOrder_.empty()) activate(*activationOrder_.back());
@@ -176,6 +192,35 @@ bool Varnmain::close(ChildWindow& window) {
     refreshCommands();
     return true;
 }
+
+/// Ends the account of the window; what handler of it may still be running can go to its end.
+void Varnmain::takeAway(ChildWindow& window) {
+    const auto drop = [&](auto& list) {
+        list.erase(std::remove(list.begin(), list.end(), &window), list.end());
+    };
+    drop(activationOrder_);
+    drop(touched_);
+    const auto at = std::find_if(windows_.begin(), windows_.end(),
+                                 [&](const auto& open) { return open.get() == &window; });
+    closed_.push_back(std::move(*at));
+    windows_.erase(at);
+}
+
+void Varnmain::touch(ChildWindow& window) {
+    if (actions_ == 0 || std::count(touched_.begin(), touched_.end(), &window) > 0) return;
+    window.beginStep();
+    touched_.push_back(&window);
+}
+
+void Varnmain::endAction(const std::string& name, const std::string& visit, bool visitEnds) {
+    if (--actions_ > 0) return;
+    for (ChildWindow* window : std::exchange(touched_, {}))
+        window->changedByAnother(name, visit, visitEnds);
+    refreshUndo();
+}
+
+/// What a command of the menu changes is no step of its own unless the command says so.
+void Varnmain::actionEnds(const UserAction&) { endAction({}, {}, false); }
 
 std::vector<ChildWindow*> Varnmain::windows() const {
     std::vector<ChildWindow*> open;
@@ -301,6 +346,10 @@ bool Varnmain::usable(const Command& command) const {
             return active_ != nullptr && active_->isDesign();
         case CommandNeeds::designOrLoads:
             return active_ != nullptr && active_->canSave();
+        case CommandNeeds::undo:
+            return active_ != nullptr && active_->history().canUndo();
+        case CommandNeeds::redo:
+            return active_ != nullptr && active_->history().canRedo();
     }
     return false;
 }
@@ -316,6 +365,21 @@ void Varnmain::refreshCommands() {
     int index = 0;
     for (const ToolRow& row : toolTable())
         element("tbrMain", index++).setEnabled(enabled(row.command));
+    refreshUndo();
+}
+
+/// The entries for undo and redo tell what they would do.
+void Varnmain::refreshUndo() {
+    const auto show = [this](const char* entry, int captionText, bool can,
+                             const std::string& step) {
+        control(entry)
+            .setCaption(text(captionText) + (step.empty() ? "" : " " + step))
+            .setEnabled(can);
+    };
+    const DocumentHistory none;
+    const DocumentHistory& history = active_ == nullptr ? none : active_->history();
+    show("mnuUndo", 1081, history.canUndo(), history.undoName());
+    show("mnuRedo", 1082, history.canRedo(), history.redoName());
 }
 
 void Varnmain::unitsSwitched(ChildWindow& window) {
@@ -352,6 +416,9 @@ void Varnmain::mnuShowToolbar_Click() {
     entry.setChecked(!entry.checked());
     control("tbrMain").setVisible(entry.checked());
 }
+
+void Varnmain::mnuUndo_Click() { active_->undo(); }
+void Varnmain::mnuRedo_Click() { active_->redo(); }
 
 void Varnmain::mnuFileExit_Click() { platform().quit(*this); }
 

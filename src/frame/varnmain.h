@@ -18,7 +18,7 @@ namespace varnholt {
 class DesignDocument;
 
 /// When a menu command can be used.
-enum class CommandNeeds { nothing, anyWindow, design, designOrLoads };
+enum class CommandNeeds { nothing, anyWindow, design, designOrLoads, undo, redo };
 
 /// The main window: menus, toolbar, the common dialog, and the account of all child windows.
 ///
@@ -64,6 +64,17 @@ class Varnmain : public Form {
     /// openWindowFiles(kind, slot): file name of an open design window, with its folder.
     std::string& openWindowFiles(DesignKind kind, std::int16_t slot);
 
+    // The user's actions in the child windows, and the documents that they change.
+    void beginAction() { ++actions_; }
+    /// @param name, visit how the action calls its step, for the documents of other windows that
+    ///                    it has changed too
+    /// @param visitEnds   the visit ends with it
+    void endAction(const std::string& name, const std::string& visit, bool visitEnds);
+    /// An action is about to change the document of another window.
+    void touch(ChildWindow& window);
+    void actionBegins() override { beginAction(); }
+    void actionEnds(const UserAction& action) override;
+
     // A dialog of the program: the modal form takes the user's actions until it ends itself.
     void runModal(Form& form);
     /// Modal forms on show, the innermost last.
@@ -85,6 +96,8 @@ class Varnmain : public Form {
     void mnuAbout_Click();
     void mnuShowToolbar_Click();
     void mnuFileExit_Click();
+    void mnuUndo_Click();
+    void mnuRedo_Click();
     /// Takes the start picture away.
     void hideSplash();
     Form* splash() const { return splash_.get(); }
@@ -124,6 +137,8 @@ class Varnmain : public Form {
     void compact(DesignKind kind);
     void reassignSlot(DesignKind kind, std::size_t from, std::size_t to);
     void setActive(ChildWindow* window);
+    void takeAway(ChildWindow& window);
+    void refreshUndo();
     ChildWindow& nextToClose() const;
 
     std::map<std::string, Command> commands_;
@@ -132,6 +147,8 @@ class Varnmain : public Form {
     std::vector<std::unique_ptr<ChildWindow>> closed_;
     std::vector<ChildWindow*> activationOrder_;
     std::vector<Form*> modal_;
+    std::vector<ChildWindow*> touched_;
+    int actions_ = 0;
     ChildWindow* active_ = nullptr;
     std::array<DesignSlots, 3> slots_;
     std::unique_ptr<Form> splash_;

@@ -62,13 +62,22 @@ void describeLoadFlow(File& file, Pump& pump) {
     for (const Mode m : modes) file.number(pump.elf[m]);
 }
 
+template <class File, class Zones>
+void describeLoadFlows(File& file, Zones& zones) {
+    for (std::size_t i = 0; i < zones.size(); ++i) {
+        if constexpr (File::reading)
+            describeLoadFlow(file, zones.edit(i).pump);
+        else
+            describeLoadFlow(file, zones[i].pump);
+    }
+}
+
 template <class File, class Data>
 void describeFile(File& file, const ZoneFileContext& context, Data& data) {
     describeZones(file, context, data);
     auto& conditions = data.conditions;
     const DesignConditions before;  // what held before files could tell
-    if (file.since(1.1))
-        for (auto& zone : data.zones) describeLoadFlow(file, zone.pump);
+    if (file.since(1.1)) describeLoadFlows(file, data.zones);
     if (file.since(2.0)) {
         file.number(conditions.flowRate);
         for (const Mode m : modes) file.number(conditions.inletTemp[m]);

@@ -3,16 +3,15 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "catalogue/pump_evaluation.h"
-#include "loads/zone.h"
+#include "loads/shared_zones.h"
 
 namespace varnholt {
 
 /// What a zone file holds: a loads window's zones and the conditions they were designed for.
 struct LoadsData {
-    std::vector<Zone> zones;
+    SharedZones zones;
     DesignConditions conditions;
     std::string activeSeries;  ///< manufacturer's and series' name joined
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "loads/frmAvgBlock.h"
 
+#include "basis/raised_flag.h"
 #include "frame/varnmain.h"
-#include "loads/modLoads/raised_flag.h"
 #include "loads/representative_pump.h"
 
 namespace varnholt {
@@ -24,7 +24,7 @@ frmAvgBlock::frmAvgBlock(Varnmain& main) : ZoneWindow(averageBlock, main) {}
 std::string frmAvgBlock::zoneFrameCaption(const Zone&) const { return plainTitle(); }
 
 MiniPump frmAvgBlock::evaluated(const pump& model, std::int16_t units, const Zone& zone) const {
-    return representativePump(model, units, zone.gains, zone.pump, conditions());
+    return representativePump(model, units, zone.gains, zone.pump, evaluationConditions());
 }
 
 /// The same model with the same number and load side, under the conditions as they are now.

@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
 #include "catalogue/pump_selection.h"
 #include "frame/varnmain.h"
 #include "loads/modLoads/progress.h"
-#include "loads/modLoads/raised_flag.h"
 
 namespace varnholt {
 namespace {
@@ -49,14 +49,14 @@ std::string frmZoneManage::zoneFrameCaption(const Zone& zone) const {
 }
 
 MiniPump frmZoneManage::evaluated(const pump& model, std::int16_t units, const Zone& zone) const {
-    return evaluatePump(model, units, zone.gains, zone.pump, conditions());
+    return evaluatePump(model, units, zone.gains, zone.pump, evaluationConditions());
 }
 
 void frmZoneManage::LOCopyCommand_Click() {
     const Zone* selected = shownZone();
     if (selected == nullptr) return;
     Zone copy = *selected;
-    copy.name = nameOfZone(ZoneList.size() + 1);
+    copy.name = nameOfZone(ZoneList().size() + 1);
     addZone(std::move(copy));
 }
 
@@ -64,27 +64,30 @@ void frmZoneManage::LOCopyCommand_Click() {
 void frmZoneManage::LORemoveCommand_Click() {
     const int position = selectedZone();
     if (shownZone() == nullptr) return;
-    ZoneList.erase(ZoneList.begin() + position);
-    if (ZoneList.empty()) {
-        zoneCount = 0;
+    nameStep(text(2952) + " " + shownZone()->name);
+    zones().erase(static_cast<std::size_t>(position));
+    if (ZoneList().empty()) {
+        document_.zoneCount = 0;
         forgetZoneFile();
         return showZones(-1);
     }
-    showZones(std::min(position, static_cast<int>(ZoneList.size()) - 1));
+    showZones(std::min(position, static_cast<int>(ZoneList().size()) - 1));
     markChanged();
 }
 
 void frmZoneManage::LORenumberCommand_Click() {
-    for (std::size_t i = 0; i < ZoneList.size(); ++i) ZoneList[i].name = nameOfZone(i + 1);
-    zoneCount = static_cast<std::int16_t>(ZoneList.size());
+    for (std::size_t i = 0; i < ZoneList().size(); ++i) zones().edit(i).name = nameOfZone(i + 1);
+    document_.zoneCount = zoneNumber();
     showZones(0);
     markChanged();
 }
 
-bool frmZoneManage::autoSelect(Zone& zone) {
+bool frmZoneManage::autoSelect(std::size_t position) {
+    const Zone& zone = ZoneList()[position];
     const auto models = catalogue.models(activeSlot);
     try {
-        zone.pump = autoSelectPump(models, zone.gains, zone.pump, conditions());
+        MiniPump pump = autoSelectPump(models, zone.gains, zone.pump, evaluationConditions());
+        zones().edit(position).pump = std::move(pump);
     } catch (const RunTimeError& error) {
         // The subscript of no model, unless the series is too long to be searched at all.
         if (error.number() != 9 || models.size() > selectableModels) throw;
@@ -95,9 +98,9 @@ bool frmZoneManage::autoSelect(Zone& zone) {
 }
 
 void frmZoneManage::LOAutoSelectCommand_Click() {
-    Zone* zone = shownZone();
+    const Zone* zone = shownZone();
     if (zone == nullptr) return;
-    if (autoSelect(*zone))
+    if (autoSelect(static_cast<std::size_t>(selectedZone())))
         displayZone();
     else
         show(MessageIcon::exclamation, text(2940) + "\n\n" + zone->name);
@@ -106,9 +109,9 @@ void frmZoneManage::LOAutoSelectCommand_Click() {
 void frmZoneManage::LOAutoSelectAllCommand_Click() {
     std::string without;
     attempt([&] {
-        Progress progress(platform(), text(2943), ZoneList.size());
-        for (std::size_t i = 0; i < ZoneList.size(); ++i) {
-            if (!autoSelect(ZoneList[i])) append(without, ZoneList[i].name);
+        Progress progress(platform(), text(2943), ZoneList().size());
+        for (std::size_t i = 0; i < ZoneList().size(); ++i) {
+            if (!autoSelect(i)) append(without, ZoneList()[i].name);
             progress.tell(i + 1);
         }
     });
@@ -131,9 +134,9 @@ void frmZoneManage::showSelectedPumps() {
 void frmZoneManage::LOUpdatePumpsCommand_Click() {
     std::string without;
     attempt([&] {
-        Progress progress(platform(), text(2944), ZoneList.size());
-        for (std::size_t i = 0; i < ZoneList.size(); ++i) {
-            if (ZoneList[i].pump.customPump != 1) updatePump(ZoneList[i], without);
+        Progress progress(platform(), text(2944), ZoneList().size());
+        for (std::size_t i = 0; i < ZoneList().size(); ++i) {
+            if (ZoneList()[i].pump.customPump != 1) updatePump(i, without);
             progress.tell(i + 1);
         }
     });
@@ -142,7 +145,8 @@ void frmZoneManage::LOUpdatePumpsCommand_Click() {
     if (!without.empty()) tellZonesWithoutPump(without);
 }
 
-void frmZoneManage::updatePump(Zone& zone, std::string& zonesWithoutPump) {
+void frmZoneManage::updatePump(std::size_t position, std::string& zonesWithoutPump) {
+    const Zone& zone = ZoneList()[position];
     switch (loadSeriesOf(zone.pump, activeSlot)) {
         case ZoneSeries::unlisted:
             return tellSeriesMissing(zone);
@@ -153,7 +157,7 @@ void frmZoneManage::updatePump(Zone& zone, std::string& zonesWithoutPump) {
     }
     const RaisedFlag update(updating);
     carryLoadSide(zone.pump);
-    if (!autoSelect(zone)) append(zonesWithoutPump, zone.name);
+    if (!autoSelect(position)) append(zonesWithoutPump, ZoneList()[position].name);
 }
 
 }  // namespace varnholt

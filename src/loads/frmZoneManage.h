@@ -40,8 +40,8 @@ class frmZoneManage : public ZoneWindow {
     void showSummaryCaptions();
 
     /// False when no model fits; the zone is then as it was.
-    bool autoSelect(Zone& zone);
-    void updatePump(Zone& zone, std::string& zonesWithoutPump);
+    bool autoSelect(std::size_t position);
+    void updatePump(std::size_t position, std::string& zonesWithoutPump);
     void showSelectedPumps();
     void tellZonesWithoutPump(const std::string& zones);
 };

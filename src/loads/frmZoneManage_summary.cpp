@@ -3,11 +3,11 @@
 #include <string>
 
 #include "basis/number_text.h"
+#include "basis/raised_flag.h"
 #include "basis/units.h"
 #include "forms/quantity.h"
 #include "loads/frmZoneManage.h"
 #include "loads/modLoads/building_totals.h"
-#include "loads/modLoads/raised_flag.h"
 #include "loads/modLoads/summary_lines.h"
 
 namespace varnholt {
@@ -85,7 +85,7 @@ void frmZoneManage::rebuildSummary() {
 }
 
 LoadsChart frmZoneManage::buildingDayChart() const {
-    return chartOf(totalsOf(ZoneList).gains, units());
+    return chartOf(totalsOf(ZoneList()).gains, units());
 }
 
 void frmZoneManage::showSummaryCaptions() {
@@ -101,7 +101,7 @@ void frmZoneManage::showSummaryCaptions() {
 }
 
 void frmZoneManage::showTotals() {
-    const BuildingTotals totals = totalsOf(ZoneList);
+    const BuildingTotals totals = totalsOf(ZoneList());
     const bool metric = units() == UnitSystem::metric;
     for (const Mode m : modes) {
         const int i = static_cast<int>(m);
@@ -119,7 +119,7 @@ void frmZoneManage::showTotals() {
 
 void frmZoneManage::showSummaryList() {
     std::vector<std::string> lines;
-    for (const Zone& zone : ZoneList)
+    for (const Zone& zone : ZoneList())
         for (const Mode m : modes)
             lines.push_back(summaryLine(numberOfZone(zone), zone, m, units()));
     control("LOZoneSummaryList").setItems(std::move(lines));

@@ -12,19 +12,9 @@
 namespace varnholt {
 namespace {
 
-constexpr int blinkMilliseconds = 250;
-
-/// Equal in everything but the name, which is only the place in the list.
-bool sameLoads(const Zone& a, const Zone& b) {
-    return a.gains == b.gains && a.hours == b.hours && a.days == b.days && a.title == b.title &&
-           a.pump == b.pump;
-}
-
-/// The lamp of a link burns brighter while loads are being transferred.
-void shine(Form& window, bool bright) {
-    Control& lamp = window.element("imgLinkLight", window.formName() == "frmAvgBlock" ? 8 : 0);
-    if (bright) lamp.setVisible(true);
-    lamp.setBold(bright);
+/// The lamp of a link flashes while loads are being transferred.
+void flash(Form& window) {
+    window.element("imgLinkLight", window.formName() == "frmAvgBlock" ? 8 : 0).flash();
 }
 
 std::string trimmed(const std::string& text) {
@@ -35,30 +25,79 @@ std::string trimmed(const std::string& text) {
 
 }  // namespace
 
-LinkedDesign::LinkedDesign(std::string formName, DesignKind kind, Varnmain& main, std::int16_t slot)
-    : DesignDocument(std::move(formName), kind, main, slot) {
-    registerLoadsValues();
+bool sameLoads(const Zone& a, const Zone& b) {
+    return a.gains == b.gains && a.hours == b.hours && a.days == b.days && a.title == b.title &&
+           a.pump == b.pump;
 }
+
+bool sameLoads(const SharedZones& a, const SharedZones& b) {
+    if (a.isSameAs(b)) return true;
+    if (a.size() != b.size()) return false;
+    for (std::size_t i = 0; i < a.size(); ++i)
+        if (!a.sharesZone(i, b) && !sameLoads(a[i], b[i])) return false;
+    return true;
+}
+
+LinkedDesign::LinkedDesign(std::string formName, DesignKind kind, Varnmain& main, std::int16_t slot,
+                           DesignProject& project)
+    : DesignDocument(std::move(formName), kind, main, slot, project.information), common_(project) {
+    registerLoadsValues();
+    registerConditions();
+}
+
+LinkedDesign::~LinkedDesign() = default;
 
 void LinkedDesign::registerLoadsValues() {
     Values& values = publicValues();
-    values.add("linkType", &linkType);
-    values.add("zoneNumber", &zoneNumber);
-    values.add("zoneCount", &zoneNumber);
-    values.add("activeSeries", &activeSeries);
-    values.add("workingZoneFile", &workingZoneFile);
-    values.add("workingZoneDirectory", &workingZoneDirectory);
-    values.add("workingFileCheck", &workingFileCheck);
+    const ProjectLoads& loads = common_.loads;
+    values.add("linkType", &loads.linkType);
+    values.add("zoneNumber", &loads.zoneNumber);
+    values.add("zoneCount", &loads.zoneNumber);
+    values.add("activeSeries", &loads.activeSeries);
+    values.add("workingZoneFile", &loads.file.name);
+    values.add("workingZoneDirectory", &loads.file.folder);
+    values.add("workingFileCheck", &loads.file.exists);
     values.add("zoneSaveCancelled", &zoneSaveCancelled);
-    values.addArray("inletTemp", &inletTemp);
-    values.addArray("inletLoadAirTemp", &inletLoadAirTemp);
-    values.addArray("inletLoadWaterTemp", &inletLoadWaterTemp);
-    values.addArray("minflowRate", &minflowRate);
-    values.add("flowRate", &flowRate);
     values.add("LoadsHome", 0, [this](const Values::Indices&) {
-        return LoadsHome == nullptr ? std::string() : LoadsHome->formName();
+        return LoadsHome() == nullptr ? std::string() : LoadsHome()->formName();
     });
-    addZoneValues(values, ZoneList);
+    addZoneValues(values, loads.zones);
+}
+
+void LinkedDesign::registerConditions() {
+    Values& values = publicValues();
+    const ProjectConditions& conditions = common_.conditions;
+    values.addArray("inletTemp", &conditions.inletTemp);
+    values.addArray("inletLoadAirTemp", &conditions.inletLoadAirTemp);
+    values.addArray("inletLoadWaterTemp", &conditions.inletLoadWaterTemp);
+    values.addArray("minflowRate", &conditions.minflowRate);
+    values.add("flowRate", &conditions.flowRate);
+}
+
+LoadsWindow* LinkedDesign::LoadsHome() const { return link_ ? &link_->loads() : nullptr; }
+
+void LinkedDesign::joinLoads(LoadsWindow& loads) {
+    link_ = std::make_unique<Link>(*this, loads);
+    common_.loads.linkType = loads.formName();
+    missingZoneFile_.clear();
+    loads.setCaption(linkedCaption(loads, *this));
+}
+
+void LinkedDesign::leaveLoads() {
+    LoadsWindow* loads = LoadsHome();
+    const bool named = link_ && link_->isNamed();
+    common_.loads.linkType.clear();
+    link_.reset();
+    showLinkLight();
+    if (loads == nullptr) return;
+    if (const Link* next = loads->links().named(); next == nullptr) {
+        loads->setCaption(loads->plainTitle());
+        loads->setLight(false);
+        loads->showHoursAndDays(true);
+    } else if (named) {
+        loads->setCaption(linkedCaption(*loads, next->design()));
+        loads->showHoursAndDays(next->design().usesHoursAndDays());
+    }
 }
 
 void LinkedDesign::addLinkLights() {
@@ -68,6 +107,7 @@ void LinkedDesign::addLinkLights() {
 }
 
 void LinkedDesign::showLinkLight() {
+    const std::string& linkType = common_.loads.linkType;
     const bool average = linkType == "frmAvgBlock";
     element("imgLinkLight", 0)
         .setEnabled(linkType == "frmZoneManage")
@@ -82,111 +122,143 @@ std::string LinkedDesign::projectCaption() const {
 }
 
 void LinkedDesign::TransferLoadsVariablesIn() {
-    if (LoadsHome == nullptr || transferring_) return;
-    LoadsHome->designLinkID = myID;
-    if (!blinkLight()) return;
+    if (!link_) return;
+    link_->read();
+    flashLights();
     if (transferZones()) {
         calculationNeeded();
         loadsChanged();
     }
-    if (LoadsHome != nullptr) passProjectData();
+    passProjectData();
 }
 
-/// Lets the lights of both windows shine for a moment. False when the user has ended the link in
-/// that time, or this window altogether.
-bool LinkedDesign::blinkLight() {
-    Varnmain& frame = main();
-    LoadsWindow* loads = LoadsHome;
-    transferring_ = true;
-    shine(*this, true);
-    shine(*loads, true);
-    platform().pause(blinkMilliseconds);
-    if (frame.isOpen(loads)) shine(*loads, false);
-    if (!frame.isOpen(this)) return false;
-    transferring_ = false;
-    shine(*this, false);
-    return LoadsHome == loads;
+void LinkedDesign::flashLights() {
+    flash(*this);
+    flash(*LoadsHome());
 }
 
 /// Takes the loads window's zones when they differ. True when they did.
 bool LinkedDesign::transferZones() {
-    const LoadsWindow& loads = *LoadsHome;
-    const auto count = static_cast<std::size_t>(loads.zoneNumber);
-    if (ZoneList.size() == count && zoneCount() == loads.zoneNumber &&
-        std::equal(ZoneList.begin(), ZoneList.end(), loads.ZoneList.begin(), sameLoads))
-        return false;
-    ZoneList.assign(loads.ZoneList.begin(),
-                    loads.ZoneList.begin() + static_cast<std::ptrdiff_t>(count));
-    for (std::size_t i = 0; i < count; ++i)
-        ZoneList[i].name = text(2815) + " " + std::to_string(i + 1);
-    zoneNumber = loads.zoneNumber;
-    activeSeries = loads.activeSeries;
-    workingZoneDirectory = loads.workingZoneDirectory;
-    workingFileCheck = loads.workingFileCheck;
-    workingZoneFile = loads.workingZoneFile;
-    flowRate = loads.flowRate;
-    inletTemp = loads.inletTemp;
+    const LoadsDocument& from = LoadsHome()->document();
+    ProjectLoads& own = common_.loads;
+    const std::int16_t count = LoadsHome()->zoneNumber();
+    if (own.zoneNumber == count && sameLoads(own.zones, from.data.zones)) return false;
+    own.zones = from.data.zones;
+    for (std::size_t i = 0; i < own.zones.size(); ++i) {
+        const std::string name = text(2815) + " " + std::to_string(i + 1);
+        if (own.zones[i].name != name) own.zones.edit(i).name = name;
+    }
+    own.zoneNumber = count;
+    own.activeSeries = from.data.activeSeries;
+    own.file = from.file;
+    common_.conditions.flowRate = from.data.conditions.flowRate;
+    common_.conditions.inletTemp = from.data.conditions.inletTemp;
     return true;
 }
 
 /// The loads window shows what the design's method uses, and prints under the project's names.
 void LinkedDesign::passProjectData() {
-    LoadsHome->showHoursAndDays(usesHoursAndDays());
-    std::string comments = std::move(LoadsHome->information.comments);
-    LoadsHome->information = information;
-    LoadsHome->information.comments = std::move(comments);
+    LoadsHome()->showHoursAndDays(usesHoursAndDays());
+    LoadsHome()->takeProject(common_.information);
 }
 
 void LinkedDesign::TransferLoadsVariablesOut() {
-    if (LoadsHome == nullptr || transferring_) return;
+    if (!link_) return;
+    LoadsWindow& loads = *LoadsHome();
     // The design that read from the window last must not lose changes that it has not seen yet.
-    if (LoadsHome->hasUnsavedChanges() && LoadsHome->designLinkID != myID)
-        LoadsHome->TransferCall();
-    if (LoadsHome == nullptr || !blinkLight()) return;
-    LoadsWindow& loads = *LoadsHome;
-    loads.designLinkID = myID;
-    loads.activeSeries = activeSeries;
-    loads.workingZoneDirectory = workingZoneDirectory;
-    loads.workingFileCheck = workingFileCheck;
-    loads.workingZoneFile = workingZoneFile;
-    loads.flowRate = flowRate;
-    loads.inletTemp = inletTemp;
-    loads.replaceLoads(ZoneList);
+    if (loads.hasUnsavedChanges() && loads.links().designLinkID() != myID) loads.TransferCall();
+    link_->read();
+    flashLights();
+    loads.replaceLoads(common_);
     passProjectData();
 }
 
+void LinkedDesign::takeZonesOf(LoadsWindow& loads) {
+    const ProjectConditions stored = common_.conditions;
+    const std::string series = common_.loads.activeSeries;
+    joinLoads(loads);
+    if (series.empty())
+        loads.InitializeHeatPumpLists();
+    else
+        loads.takeSeries(series);
+    TransferLoadsVariablesIn();
+    showLinkLight();
+    loads.setLight(true);
+    // Also a series that the catalogue at hand does not have.
+    if (!series.empty()) common_.loads.activeSeries = series;
+    if (loads.conditions().inletTemp == stored.inletTemp &&
+        loads.conditions().flowRate == stored.flowRate)
+        return;
+    common_.conditions.inletTemp = stored.inletTemp;
+    common_.conditions.flowRate = stored.flowRate;
+    TransferLoadsVariablesOut();
+}
+
+void LinkedDesign::forgetZoneFile() {
+    common_.loads.file = {};
+    common_.loads.linkType.clear();
+    showLinkLight();
+}
+
 void LinkedDesign::passTemperature(Mode mode) {
-    if (LoadsHome == nullptr || LoadsHome->inletTemp[mode] == inletTemp[mode]) return;
-    LoadsHome->inletTemp[mode] = inletTemp[mode];
-    LoadsHome->SetFluidsTabbedPaneSwitchVariables();
+    const double temperature = common_.conditions.inletTemp[mode];
+    if (!link_ || LoadsHome()->conditions().inletTemp[mode] == temperature) return;
+    LoadsHome()->takeTemperature(mode, temperature);
     valuePassed_ = true;
 }
 
 void LinkedDesign::passFlow() {
-    if (LoadsHome == nullptr || LoadsHome->flowRate == flowRate) return;
-    LoadsHome->flowRate = flowRate;
-    LoadsHome->SetFluidsTabbedPaneSwitchVariables();
+    const double flow = common_.conditions.flowRate;
+    if (!link_ || LoadsHome()->conditions().flowRate == flow) return;
+    LoadsHome()->takeFlow(flow);
     valuePassed_ = true;
 }
 
 void LinkedDesign::refreshLoadsPumps() {
     // A field that was only visited leaves a selection made by hand alone.
-    if (!std::exchange(valuePassed_, false) || LoadsHome == nullptr) return;
-    if (!LoadsHome->pumpsAreBeingSelected()) LoadsHome->LOUpdatePumpsCommand_Click();
+    if (!std::exchange(valuePassed_, false) || !link_) return;
+    if (LoadsHome()->pumpsAreBeingSelected()) return;
+    LoadsHome()->touch();
+    LoadsHome()->LOUpdatePumpsCommand_Click();
 }
 
 void LinkedDesign::switchLinkedUnits() {
-    if (LoadsHome == nullptr || LoadsHome->units() == units()) return;
-    if (namesDesign(*LoadsHome, *this))
-        linkedSetMetric(*this, *LoadsHome);
+    LoadsWindow* loads = LoadsHome();
+    if (loads == nullptr || loads->units() == units()) return;
+    if (link_->isNamed())
+        linkedSetMetric(*this, *loads);
     else
-        control("MetricCheck").setChecked(LoadsHome->units() == UnitSystem::metric);
+        control("MetricCheck").setChecked(loads->units() == UnitSystem::metric);
+}
+
+const SharedZones& LinkedDesign::presentZones() const {
+    return link_ ? LoadsHome()->ZoneList() : common_.loads.zones;
+}
+
+void LinkedDesign::restoreLink() {
+    const std::string wanted = common_.loads.linkType;
+    auto* loads = dynamic_cast<LoadsWindow*>(wanted.empty() ? nullptr : main().find(wanted));
+    if (LoadsHome() != loads) {
+        if (link_) leaveLoads();
+        common_.loads.linkType.clear();
+        if (loads != nullptr) {
+            joinLoads(*loads);
+            loads->setLight(true);
+            passProjectData();
+        }
+    }
+    common_.loads.linkType = loads == nullptr ? std::string() : wanted;
+    showLinkLight();
+    for (const Mode mode : modes) passTemperature(mode);
+    passFlow();
+    refreshLoadsPumps();
 }
 
 void LinkedDesign::activated() {
     DesignDocument::activated();
-    if (LoadsHome != nullptr && LoadsHome->hasUnsavedChanges() && namesDesign(*LoadsHome, *this))
-        TransferLoadsVariablesIn();
+    if (!link_ || !LoadsHome()->hasUnsavedChanges() || !link_->isNamed()) return;
+    TransferLoadsVariablesIn();
+    refreshNotice();
 }
 
 void LinkedDesign::unloaded() {

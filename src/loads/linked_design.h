@@ -2,12 +2,13 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
-#include <vector>
 
 #include "basis/mode.h"
 #include "frame/design_document.h"
-#include "loads/zone.h"
+#include "loads/design_project.h"
+#include "loads/link.h"
 
 namespace varnholt {
 
@@ -17,42 +18,46 @@ class LoadsWindow;
 /// come from. While linked the loads window wins: its zones replace the design's.
 class LinkedDesign : public DesignDocument {
  public:
-    LinkedDesign(std::string formName, DesignKind kind, Varnmain& main, std::int16_t slot);
+    /// @param project  the project that the window holds, which outlives the call
+    LinkedDesign(std::string formName, DesignKind kind, Varnmain& main, std::int16_t slot,
+                 DesignProject& project);
+    ~LinkedDesign() override;
 
-    /// "frmZoneManage", "frmAvgBlock", or empty without a link.
-    std::string linkType;
-    /// Whether the project's file can tell of a link at all; projects of old versions cannot.
-    bool linkIsStored = true;
+    const ProjectLoads& loads() const { return common_.loads; }
+    const SharedZones& ZoneList() const { return common_.loads.zones; }
+    const ProjectConditions& conditions() const { return common_.conditions; }
     /// The linked loads window; null without a link, and from the moment that it closes.
-    LoadsWindow* LoadsHome = nullptr;
-
-    // The design's own copy of the loads. It outlives the link.
-    std::vector<Zone> ZoneList;
-    /// As a project file holds it: it may be more than the zones at hand while a project's zone
-    /// file is missing.
-    std::int16_t zoneNumber = 0;
-    std::int16_t zoneCount() const { return zoneNumber; }
-    /// Manufacturer's and series' name joined.
-    std::string activeSeries;
-    /// Zone file's name; empty without one.
-    std::string workingZoneFile;
-    std::string workingZoneDirectory;
-    bool workingFileCheck = false;
+    LoadsWindow* LoadsHome() const;
+    const Link* link() const { return link_.get(); }
     /// The last save of the zone file was cancelled.
     bool zoneSaveCancelled = false;
 
-    // Design temperatures and flows, in degF, gpm and gpm per ton.
-    ByMode<double> inletTemp{85, 50};
-    ByMode<double> inletLoadAirTemp{67, 70};
-    ByMode<double> inletLoadWaterTemp{55, 100};
-    ByMode<double> minflowRate{2.8, 4.2};
-    double flowRate = 3;
+    /// Makes the design take its loads from the window: the window's title, and that its later
+    /// unit switches and its end reach the design. No lights, no transfer.
+    void joinLoads(LoadsWindow& loads);
+    /// Ends the link, on both sides; the design keeps its copy of the zones.
+    void leaveLoads();
+    /// The loads window has ended without a word: there is nothing to show any more.
+    void dropLink() { link_.reset(); }
 
     /// Copies zones, series, flow and temperatures from the linked loads window when its zones
     /// differ from the design's, then its project data the other way. Does nothing when unlinked.
     void TransferLoadsVariablesIn();
     /// Copies the design's zones, series, flow and temperatures into the linked loads window.
     void TransferLoadsVariablesOut();
+    /// The zones come from the window's file; temperatures, flow and series stay the project's,
+    /// with which its results were computed.
+    void takeZonesOf(LoadsWindow& loads);
+    void takeSeries(const std::string& activeSeries) { common_.loads.activeSeries = activeSeries; }
+    /// Which file the zones are in: the loads window's, or none any more.
+    void takeZoneFile(const ZoneFile& file) { common_.loads.file = file; }
+    void forgetZoneFile();
+    /// Forgets which window the project was linked with when it was saved.
+    void forgetLink() { common_.loads.linkType.clear(); }
+    /// The project's zone file that could not be found when it was opened; empty once the design
+    /// has been linked.
+    const std::string& missingZoneFile() const { return missingZoneFile_; }
+    void setMissingZoneFile(const std::string& name) { missingZoneFile_ = name; }
 
     /// The transfer has replaced the loads: the design shows the temperatures and the flow that
     /// came along and recomputes its roll-up. The results are already marked stale.
@@ -78,7 +83,7 @@ class LinkedDesign : public DesignDocument {
     /// The caption's part behind its first "-", trimmed; the whole caption without one.
     std::string projectCaption() const;
 
-    /// Shows the link light that goes with `linkType`, or the one for no link.
+    /// Shows the link light that goes with the link, or the one for no link.
     void showLinkLight();
 
     /// The window goes: its link ends.
@@ -88,16 +93,28 @@ class LinkedDesign : public DesignDocument {
     /// Adds `imgLinkLight(0)`, `imgLinkLight(8)` and `imgLinkLight(6)` where they stand in the
     /// reading order.
     void addLinkLights();
+    /// The zones that a run would take: while linked the window's, else the design's own.
+    const SharedZones& presentZones() const;
+    /// After undo and redo: the link follows `linkType`, and the linked window takes temperatures
+    /// and flow.
+    void restoreLink();
 
  private:
     void registerLoadsValues();
+    void registerConditions();
 
     bool transferZones();
-    bool blinkLight();
+    void flashLights();
     void passProjectData();
 
-    bool transferring_ = false;
+    DesignProject& common_;
+    std::unique_ptr<Link> link_;
+    std::string missingZoneFile_;
     bool valuePassed_ = false;
 };
+
+/// Equal in everything but the name, which is only the place in the list.
+bool sameLoads(const Zone& a, const Zone& b);
+bool sameLoads(const SharedZones& a, const SharedZones& b);
 
 }  // namespace varnholt

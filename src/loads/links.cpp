@@ -2,7 +2,6 @@
 #include "loads/links.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "frame/varnmain.h"
 #include "loads/frmLinkOptions.h"
@@ -28,32 +27,31 @@ LoadsWindow* chooseLoadsWindow(Varnmain& main) {
     return main.isOpen(chosen) ? chosen : nullptr;
 }
 
-/// Shows the design's link on both windows and, for the first time, brings its loads over. False
-/// when one of them was closed on the way.
-bool linkWithTransfer(LinkedDesign& design, LoadsWindow& loads) {
-    Varnmain& main = design.main();
-    joinLoads(design, loads);
+/// Shows the design's link on both windows and, for the first time, brings its loads over.
+void linkWithTransfer(LinkedDesign& design, LoadsWindow& loads) {
+    design.joinLoads(loads);
     design.element("imgLinkLight", 6).setVisible(false);
     design.TransferLoadsVariablesIn();
-    if (!main.isOpen(&design) || design.LoadsHome == nullptr) return false;
     design.showLinkLight();
     loads.setLight(true);
-    return true;
+    design.refreshNotice();
 }
 
 /// A design without a series takes the loads window's: no series is no choice.
 void shareSeries(LinkedDesign& design, LoadsWindow& loads) {
-    if (design.activeSeries.empty()) design.activeSeries = loads.activeSeries;
-    loads.activeSeries = design.activeSeries;
-    loads.InitializeHeatPumpLists();
+    if (design.loads().activeSeries.empty()) design.takeSeries(loads.activeSeries());
+    loads.takeSeries(design.loads().activeSeries);
 }
 
 void linkDesign(LinkedDesign& design) {
-    if (!design.linkType.empty()) return;
-    LoadsWindow* loads = chooseLoadsWindow(design.main());
-    if (loads == nullptr) return;
+    if (design.link() != nullptr) return;
+    Varnmain& main = design.main();
+    LoadsWindow* loads = chooseLoadsWindow(main);
+    if (loads == nullptr || !main.isOpen(&design)) return;
+    const DocumentStep step(design, design.text(1029));
     loads->switchUnits(design.units());
-    if (linkWithTransfer(design, *loads)) shareSeries(design, *loads);
+    linkWithTransfer(design, *loads);
+    shareSeries(design, *loads);
 }
 
 /// Only one free design is an unmistakable partner.
@@ -61,18 +59,25 @@ void linkLoadsWindow(LoadsWindow& loads) {
     LinkedDesign* partner = nullptr;
     int freeDesigns = 0;
     for (LinkedDesign* design : linkableDesigns(loads.main())) {
-        if (design->LoadsHome != nullptr) continue;
+        if (design->link() != nullptr) continue;
         ++freeDesigns;
         partner = design;
     }
     if (freeDesigns != 1) return;
+    const DocumentStep step(loads, loads.text(1029));
     partner->switchUnits(loads.units());
-    if (linkWithTransfer(*partner, loads)) partner->activeSeries = loads.activeSeries;
+    linkWithTransfer(*partner, loads);
+    partner->takeSeries(loads.activeSeries());
 }
 
-/// Every window that is linked to the loads window goes over to its units.
-void loadsUnitsSwitched(LoadsWindow& loads) {
-    for (LinkedDesign* design : designsLinkedTo(loads)) design->switchUnits(loads.units());
+/// The links that name the window, on either side.
+std::vector<LinkedDesign*> designsLinkedBy(const ChildWindow& window) {
+    std::vector<LinkedDesign*> found = linkableDesigns(window.main());
+    const auto others = [&](const LinkedDesign* design) {
+        return design->link() == nullptr || (design != &window && design->LoadsHome() != &window);
+    };
+    found.erase(std::remove_if(found.begin(), found.end(), others), found.end());
+    return found;
 }
 
 }  // namespace
@@ -92,13 +97,6 @@ std::vector<LinkedDesign*> linkableDesigns(const Varnmain& main) {
     return found;
 }
 
-std::vector<LinkedDesign*> designsLinkedTo(const LoadsWindow& loads) {
-    std::vector<LinkedDesign*> found = linkableDesigns(loads.main());
-    const auto others = [&](const LinkedDesign* design) { return design->LoadsHome != &loads; };
-    found.erase(std::remove_if(found.begin(), found.end(), others), found.end());
-    return found;
-}
-
 void mnuLink_Click(Varnmain& main) {
     ChildWindow* active = main.activeWindow();
     if (auto* design = dynamic_cast<LinkedDesign*>(active))
@@ -108,46 +106,16 @@ void mnuLink_Click(Varnmain& main) {
 }
 
 void mnuUnlink_Click(Varnmain& main) {
-    const ChildWindow* active = main.activeWindow();
+    ChildWindow* active = main.activeWindow();
     if (active == nullptr) return;
-    for (LinkedDesign* design : linkableDesigns(main))
-        if (design->LoadsHome != nullptr && (design == active || design->LoadsHome == active))
-            unlinkDesign(*design);
+    const DocumentStep step(*active, main.text(1032));
+    cleanupLinks(*active);
 }
 
 void cleanupLinks(ChildWindow& closing) {
-    for (LinkedDesign* design : linkableDesigns(closing.main()))
-        if (design->LoadsHome != nullptr && (design == &closing || design->LoadsHome == &closing))
-            unlinkDesign(*design);
-}
-
-void joinLoads(LinkedDesign& design, LoadsWindow& loads) {
-    design.linkType = loads.formName();
-    design.LoadsHome = &loads;
-    loads.designLinkID = design.myID;
-    loads.setCaption(linkedCaption(loads, design));
-    loads.onUnitsSwitched = [&loads] { loadsUnitsSwitched(loads); };
-    loads.onClosed = [&loads] { cleanupLinks(loads); };
-}
-
-void unlinkDesign(LinkedDesign& design) {
-    LoadsWindow* loads = design.LoadsHome;
-    const bool named = loads != nullptr && namesDesign(*loads, design);
-    design.linkType.clear();
-    design.LoadsHome = nullptr;
-    design.showLinkLight();
-    if (loads == nullptr) return;
-    const std::vector<LinkedDesign*> others = designsLinkedTo(*loads);
-    if (others.empty()) {
-        loads->designLinkID = 0;
-        loads->setCaption(loads->plainTitle());
-        loads->setLight(false);
-        loads->showHoursAndDays(true);
-    } else if (named) {
-        // It goes on serving the others: one of them gives it its name now.
-        loads->designLinkID = others.back()->myID;
-        loads->setCaption(linkedCaption(*loads, *others.back()));
-        loads->showHoursAndDays(others.back()->usesHoursAndDays());
+    for (LinkedDesign* design : designsLinkedBy(closing)) {
+        design->leaveLoads();
+        design->refreshNotice();
     }
 }
 
@@ -157,10 +125,10 @@ void linkedSetMetric(LinkedDesign& design, LoadsWindow& loads) {
 }
 
 void renameDesign(LinkedDesign& design, const std::string& path) {
-    LoadsWindow* loads = design.LoadsHome;
-    const bool named = loads != nullptr && namesDesign(*loads, design);
     design.setFile(path);
-    if (named) loads->setCaption(linkedCaption(*loads, design));
+    const Link* link = design.link();
+    if (link != nullptr && link->isNamed())
+        link->loads().setCaption(linkedCaption(link->loads(), design));
 }
 
 LoadsWindow* openLoadsWindow(Varnmain& main, const std::string& formName) {
@@ -170,7 +138,7 @@ LoadsWindow* openLoadsWindow(Varnmain& main, const std::string& formName) {
 
 void TransferCall(Varnmain& main, std::int16_t designLinkID) {
     for (LinkedDesign* design : linkableDesigns(main)) {
-        if (design->myID != designLinkID || design->LoadsHome == nullptr) continue;
+        if (design->myID != designLinkID || design->link() == nullptr) continue;
         design->TransferLoadsVariablesIn();
         return;
     }
@@ -179,10 +147,6 @@ void TransferCall(Varnmain& main, std::int16_t designLinkID) {
 std::string linkedCaption(const LoadsWindow& loads, const LinkedDesign& design) {
     const int relation = loads.formName() == "frmAvgBlock" ? 1030 : 1031;
     return loads.plainTitle() + " - " + loads.text(relation) + " " + design.projectCaption();
-}
-
-bool namesDesign(const LoadsWindow& loads, const LinkedDesign& design) {
-    return loads.caption() == linkedCaption(loads, design);
 }
 
 }  // namespace varnholt

@@ -27,14 +27,6 @@ void mnuUnlink_Click(Varnmain& main);
 /// its copy of the zones.
 void cleanupLinks(ChildWindow& closing);
 
-/// Makes the design take its loads from the window: type, number, the window's title, and that the
-/// window's later unit switches and its end reach the design. No lights, no transfer.
-void joinLoads(LinkedDesign& design, LoadsWindow& loads);
-
-/// Ends one design's link; the same for every kind of design (BHUnlink, HZUnlink, SWUnlink). The
-/// loads window goes back to its plain title unless another design is still linked to it.
-void unlinkDesign(LinkedDesign& design);
-
 /// The design has switched its units: the linked loads window follows, and the designs linked to
 /// that; the same for every kind of design (LinkedBHSetMetric and its siblings).
 void linkedSetMetric(LinkedDesign& design, LoadsWindow& loads);
@@ -51,12 +43,8 @@ void TransferCall(Varnmain& main, std::int16_t designLinkID);
 
 /// The title that the loads window carries while it is linked to this design.
 std::string linkedCaption(const LoadsWindow& loads, const LinkedDesign& design);
-/// Whether the loads window's caption names this design.
-bool namesDesign(const LoadsWindow& loads, const LinkedDesign& design);
 
 /// The linkable designs in the order of their kinds and slots.
 std::vector<LinkedDesign*> linkableDesigns(const Varnmain& main);
-/// Those linked to the window.
-std::vector<LinkedDesign*> designsLinkedTo(const LoadsWindow& loads);
 
 }  // namespace varnholt

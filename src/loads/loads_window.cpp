@@ -4,19 +4,60 @@
 #include <utility>
 
 #include "frame/varnmain.h"
+#include "loads/linked_design.h"
 #include "loads/links.h"
 
 namespace varnholt {
 
 LoadsWindow::LoadsWindow(std::string formName, Varnmain& main)
     : ChildWindow(std::move(formName), main),
-      catalogue(main.MainDirectory, main.texts(),
+      catalogue(main.MainDirectory, main.texts(), document_.data.activeSeries,
                 [this](const std::string& message) { show(MessageIcon::exclamation, message); }) {}
 
-DesignConditions LoadsWindow::designConditions() const {
-    return {flowRate, inletTemp, inletLoadAirTemp, inletLoadWaterTemp};
+LoadsWindow::~LoadsWindow() {
+    while (!links_.all().empty()) links_.all().back()->design().dropLink();
 }
 
-void LoadsWindow::TransferCall() { varnholt::TransferCall(main(), designLinkID); }
+void LoadsWindow::takeTemperature(Mode mode, double temperature) {
+    touch();
+    document_.data.conditions.inletTemp[mode] = temperature;
+    SetFluidsTabbedPaneSwitchVariables();
+}
+
+void LoadsWindow::takeFlow(double flowPerTon) {
+    touch();
+    document_.data.conditions.flowRate = flowPerTon;
+    SetFluidsTabbedPaneSwitchVariables();
+}
+
+void LoadsWindow::takeSeries(const std::string& activeSeries) {
+    document_.data.activeSeries = activeSeries;
+    InitializeHeatPumpLists();
+}
+
+void LoadsWindow::takeProject(const ProjectInformation& information) {
+    std::string comments = std::move(document_.information.comments);
+    document_.information = information;
+    document_.information.comments = std::move(comments);
+}
+
+void LoadsWindow::TransferCall() { varnholt::TransferCall(main(), links_.designLinkID()); }
+
+void LoadsWindow::switchLinkedUnits() {
+    // A design that switches may answer by renaming the window, but ends no link.
+    for (const Link* link : std::vector<Link*>(links_.all())) link->design().switchUnits(units());
+}
+
+/// The designs tell at once that their results are older than the loads.
+void LoadsWindow::actionEnds(const UserAction& action) {
+    ChildWindow::actionEnds(action);
+    for (const Link* link : links_.all()) link->design().refreshNotice();
+}
+
+void LoadsWindow::savedStateReached(bool) {
+    for (const Link* link : links_.all()) link->design().refreshNotice();
+}
+
+void LoadsWindow::unloaded() { cleanupLinks(*this); }
 
 }  // namespace varnholt

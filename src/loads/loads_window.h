@@ -2,49 +2,46 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
-#include <vector>
 
 #include "basis/mode.h"
 #include "catalogue/pump_catalogue.h"
-#include "catalogue/pump_evaluation.h"
 #include "frame/child_window.h"
-#include "frame/design_document.h"
-#include "loads/zone.h"
+#include "loads/design_project.h"
+#include "loads/link.h"
+#include "loads/loads_document.h"
 
 namespace varnholt {
 
-/// A window that owns a list of zones with the conditions that they are designed for: what a
+/// A window that edits a list of zones with the conditions that they are designed for: what a
 /// linked design and the project files know of the two loads windows.
 class LoadsWindow : public ChildWindow {
  public:
     LoadsWindow(std::string formName, Varnmain& main);
+    ~LoadsWindow() override;
 
     bool isLoads() const override { return true; }
 
+    const LoadsDocument& document() const { return document_; }
     /// The zones in use, in the order of `LOZoneList`.
-    std::vector<Zone> ZoneList;
+    const SharedZones& ZoneList() const { return document_.data.zones; }
     /// Entries of the list.
-    std::int16_t zoneNumber = 0;
-    /// Takes other zones in place of the window's own and shows them together with the window's
-    /// values (series, flow, temperatures, file) as they stand by then. Not a user's change.
-    virtual void replaceLoads(const std::vector<Zone>& zones) = 0;
+    std::int16_t zoneNumber() const { return static_cast<std::int16_t>(ZoneList().size()); }
+    const DesignConditions& conditions() const { return document_.data.conditions; }
+    const std::string& activeSeries() const { return document_.data.activeSeries; }
+    const ZoneFile& file() const { return document_.file; }
 
-    PumpCatalogue catalogue;
-    std::string& activeSeries = catalogue.activeSeries;
-    double flowRate = 3;                         ///< source side, gpm per ton
-    ByMode<double> inletTemp{85, 50};            ///< entering water, degF
-    ByMode<double> inletLoadAirTemp{67, 70};     ///< wet bulb in cooling, dry bulb in heating, degF
-    ByMode<double> inletLoadWaterTemp{55, 100};  ///< degF
-    DesignConditions designConditions() const;
+    // What a linked design hands over. Not a change by the window's user.
+    /// Takes a project's zones, series, file, temperatures and flow in place of the window's own.
+    virtual void replaceLoads(const DesignProject& project) = 0;
+    /// A design temperature, degF, or the design's flow, gpm per ton; shown at once.
+    void takeTemperature(Mode mode, double temperature);
+    void takeFlow(double flowPerTon);
+    void takeSeries(const std::string& activeSeries);
+    /// Whose building it is; comments stay the window's own.
+    void takeProject(const ProjectInformation& information);
 
-    /// The zone file's name and folder.
-    std::string workingZoneFile, workingZoneDirectory;
-    /// Whether the zones have a file on disk.
-    bool workingFileCheck = false;
-    /// The last save was cancelled.
-    bool zoneSaveCancelled = false;
+    /// The document is not as its file holds it.
     virtual bool hasUnsavedChanges() const = 0;
     /// Asks whether unsaved changes should be saved, and saves them. False when the user cancels,
     /// or when the save did not succeed.
@@ -54,6 +51,8 @@ class LoadsWindow : public ChildWindow {
     /// Reads a zone file without a dialog. False when it could not be read to its end; whatever
     /// could be read is then in the window.
     virtual bool LOOpenZoneFile(const std::string& path) = 0;
+    /// The last save was cancelled.
+    bool zoneSaveCancelled = false;
 
     /// Reads the catalogue afresh, loads the active series, fills the lists of the heat pump tab.
     virtual void InitializeHeatPumpLists() = 0;
@@ -64,20 +63,34 @@ class LoadsWindow : public ChildWindow {
     /// The selection panel is open.
     virtual bool pumpsAreBeingSelected() const = 0;
 
-    /// Number of the design that read from the window last; 0 when unlinked.
-    std::int16_t designLinkID = 0;
-    /// Hands the loads to that design.
+    const LoadsLinks& links() const { return links_; }
+    /// Hands the loads to the design that read from the window last.
     void TransferCall();
-    /// Set by a link, so that the window needs to know no design.
-    std::function<void()> onClosed, onUnitsSwitched;
     /// The window's title without a project's name.
     virtual std::string plainTitle() const = 0;
     virtual void setLight(bool on) = 0;
     /// Whether the linked design has a use for hours and days a week.
     virtual void showHoursAndDays(bool shown) = 0;
 
-    /// Project data of the linked design, for the reports.
-    ProjectInformation information;
+    void actionEnds(const UserAction& action) override;
+    /// The window goes: its links end.
+    void unloaded() override;
+
+ protected:
+    /// To be called by MetricCheck_Click: the linked designs go over to the window's units.
+    void switchLinkedUnits();
+    void savedStateReached(bool atSaved) override;
+
+    LoadsDocument document_;
+
+ public:
+    /// The window's own copy of the catalogue, behind the document whose series it follows.
+    PumpCatalogue catalogue;
+
+ private:
+    friend class Link;
+
+    LoadsLinks links_;
 };
 
 }  // namespace varnholt

@@ -17,7 +17,7 @@ PublicValue asValue(const T& value) {
         return value;
 }
 
-using Zones = std::vector<Zone>;
+using Zones = SharedZones;
 
 template <class Member>
 void addOfZone(Values& values, const Zones& zones, const std::string& name, Member Zone::*member) {
@@ -72,7 +72,7 @@ void addPump(Values& values, const Zones& zones) {
 
 }  // namespace
 
-void addZoneValues(Values& values, const std::vector<Zone>& zones) {
+void addZoneValues(Values& values, const SharedZones& zones) {
     addLoads(values, zones);
     addPump(values, zones);
 }

@@ -6,6 +6,8 @@
 #include <stdexcept>
 
 #include "basis/file_system.h"
+#include "basis/run_time_error.h"
+#include "design/frmBHDesign.h"
 #include "frame/varnmain.h"
 #include "persistence/borehole_body.h"
 #include "persistence/project_head.h"
@@ -14,47 +16,77 @@
 namespace varnholt {
 namespace {
 
-frmBHDesign& borehole(GroundDesign& design) { return static_cast<frmBHDesign&>(design); }
-
 std::unique_ptr<GroundDesign> makeBorehole(Varnmain& main, std::int16_t slot) {
     return std::make_unique<frmBHDesign>(main, slot);
 }
 
-template <class File>
-void boreholeProject(File& file, GroundDesign& design) {
-    describeBoreholeProject(file, borehole(design));
+template <class Window>
+const auto& projectOf(const GroundDesign& design) {
+    return static_cast<const Window&>(design).project();
 }
 
-template <class File>
-void boreholeDefaults(File& file, GroundDesign& design) {
-    describeBoreholeDefaults(file, borehole(design));
+/// Reads into the window's project. Whatever goes wrong, it has the values read so far.
+template <class Window, class Read>
+void readInto(GroundDesign& design, const Read& read) {
+    auto& window = static_cast<Window&>(design);
+    auto project = window.project();
+    try {
+        read(project);
+    } catch (const RunTimeError&) {
+        window.setProject(std::move(project));
+        throw;
+    }
+    window.setProject(std::move(project));
+}
+
+template <class File, class Project>
+void describeBoreholeFile(File& file, Project& project) {
+    describeHead(file, "Borehole Design", project.information);
+    describeBoreholeProject(file, project);
+}
+
+void readBoreholeProject(LineFileReader& file, GroundDesign& design) {
+    readInto<frmBHDesign>(design,
+                          [&](BoreholeProject& project) { describeBoreholeFile(file, project); });
+}
+
+void writeBoreholeProject(LineFileWriter& file, const GroundDesign& design) {
+    describeBoreholeFile(file, projectOf<frmBHDesign>(design));
 }
 
 void readBoreholeDefaults(LineFileReader& file, GroundDesign& design) {
-    boreholeDefaults(file, design);
-    resetCoolingRange(borehole(design));
+    readInto<frmBHDesign>(design, [&](BoreholeProject& project) {
+        describeBoreholeDefaults(file, project);
+        resetCoolingRange(project);
+    });
+}
+
+void writeBoreholeDefaults(LineFileWriter& file, const GroundDesign& design) {
+    describeBoreholeDefaults(file, projectOf<frmBHDesign>(design));
 }
 
 /// The zones have come from their file, and what they amount to with them. The results on show are
 /// the project's own, tower included, as they were saved.
-void findBoreholeLoads(GroundDesign& design) {
-    BoreholeResults& results = borehole(design).results;
-    const BoreholeResults saved = results;
-    resolveZoneLink(design);
-    results.loads.peakLoad = saved.loads.peakLoad;
-    results.demand.peakDemand = saved.demand.peakDemand;
-    results.cop.heatPumpCOP = saved.cop.heatPumpCOP;
-    results.cop.systemCOP = saved.cop.systemCOP;
-    results.outlet = saved.outlet;
-    borehole(design).showGoverningMode();
+void findBoreholeLoads(GroundDesign& design, bool linkIsStored) {
+    const BoreholeResults saved = *projectOf<frmBHDesign>(design).results;
+    resolveZoneLink(design, linkIsStored);
+    readInto<frmBHDesign>(design, [&](BoreholeProject& project) {
+        BoreholeResults& results = project.results.edit();
+        results.loads.peakLoad = saved.loads.peakLoad;
+        results.demand.peakDemand = saved.demand.peakDemand;
+        results.cop.heatPumpCOP = saved.cop.heatPumpCOP;
+        results.cop.systemCOP = saved.cop.systemCOP;
+        results.outlet = saved.outlet;
+    });
+    design.showGoverningMode();
 }
 
 /// The rows of the horizontal design ("Horizontal Design", vhthz.ini) and of the surface water
 /// design ("Surface Water Design", vhtsw.ini) stand here beside it once there are such windows.
 constexpr std::array kinds{
     DesignFileKind{DesignKind::borehole, "NewBorehole", "Borehole Design", "vhtbh.ini",
-                   makeBorehole, boreholeProject<LineFileReader>, boreholeProject<LineFileWriter>,
-                   readBoreholeDefaults, boreholeDefaults<LineFileWriter>, findBoreholeLoads},
+                   makeBorehole, readBoreholeProject, writeBoreholeProject, readBoreholeDefaults,
+                   writeBoreholeDefaults, findBoreholeLoads},
 };
 
 std::string defaultsPath(const GroundDesign& design) {
@@ -83,22 +115,24 @@ const DesignFileKind* fileKindOfTitle(std::string_view line) {
     return nullptr;
 }
 
-std::string projectText(GroundDesign& design) {
-    const DesignFileKind& kind = fileKindOf(design);
+std::string projectText(const GroundDesign& design) {
     LineFileWriter file;
-    describeHead(file, kind.title, design.information);
-    kind.writeProject(file, design);
+    fileKindOf(design).writeProject(file, design);
     return file.bytes();
 }
 
 void readProjectText(std::string_view bytes, GroundDesign& design) {
-    const DesignFileKind& kind = fileKindOf(design);
     LineFileReader file(bytes);
-    describeHead(file, kind.title, design.information);
-    kind.readProject(file, design);
+    fileKindOf(design).readProject(file, design);
 }
 
-void saveVHTFile(GroundDesign& design, const std::string& path) {
+bool tellsOfLink(std::string_view bytes) {
+    LineFileReader file(bytes.substr(0, bytes.find('\n')));
+    file.title({});
+    return file.since(2.0);
+}
+
+void saveVHTFile(const GroundDesign& design, const std::string& path) {
     replaceWholeFile(path, projectText(design));
 }
 
@@ -106,7 +140,7 @@ void readVHTFile(GroundDesign& design, const std::string& path) {
     readProjectText(readWholeFile(path), design);
 }
 
-void saveINIFile(GroundDesign& design) {
+void saveINIFile(const GroundDesign& design) {
     const DesignFileKind& kind = fileKindOf(design);
     LineFileWriter file;
     describeDefaultsHead(file, kind.title);

@@ -20,12 +20,14 @@ struct DesignFileKind {
     std::string_view title;         ///< second line of its files
     std::string_view defaultsFile;  ///< in the program's folder
     std::unique_ptr<GroundDesign> (*make)(Varnmain& main, std::int16_t slot);
+    /// Head and body of a project file, or body of a defaults file, read into the window's project.
+    /// On an error the values read so far stay.
     void (*readProject)(LineFileReader& file, GroundDesign& design);
-    void (*writeProject)(LineFileWriter& file, GroundDesign& design);
+    void (*writeProject)(LineFileWriter& file, const GroundDesign& design);
     void (*readDefaults)(LineFileReader& file, GroundDesign& design);
-    void (*writeDefaults)(LineFileWriter& file, GroundDesign& design);
+    void (*writeDefaults)(LineFileWriter& file, const GroundDesign& design);
     /// After a project has been read: links it with its loads again and shows which mode governs.
-    void (*findLoads)(GroundDesign& design);
+    void (*findLoads)(GroundDesign& design, bool linkIsStored);
 };
 
 std::span<const DesignFileKind> designFileKinds();
@@ -34,18 +36,20 @@ const DesignFileKind& fileKindOf(const GroundDesign& design);
 const DesignFileKind* fileKindOfTitle(std::string_view line);
 
 /// The project as the bytes of a file of the newest version.
-std::string projectText(GroundDesign& design);
+std::string projectText(const GroundDesign& design);
 /// Reads a project of any version. Throws RunTimeError 62 or 6 when the file ends early or holds
 /// a whole number beyond 16 bits; the values read so far then stay.
 void readProjectText(std::string_view bytes, GroundDesign& design);
 
 /// Replaces the project file whole. Throws as replaceWholeFile.
-void saveVHTFile(GroundDesign& design, const std::string& path);
+void saveVHTFile(const GroundDesign& design, const std::string& path);
 /// Reads a project file into the design. Throws as readWholeFile and readProjectText.
 void readVHTFile(GroundDesign& design, const std::string& path);
+/// Whether a project file of that text can tell of a link at all, which old versions cannot.
+bool tellsOfLink(std::string_view bytes);
 
 /// Replaces the defaults file of the design's kind in the program's folder.
-void saveINIFile(GroundDesign& design);
+void saveINIFile(const GroundDesign& design);
 /// Overlays the built-in values with the defaults file of the kind; without one nothing changes.
 void readINIFile(GroundDesign& design);
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
+#include <type_traits>
 
 #include "basis/date.h"
 
@@ -11,21 +11,17 @@ namespace varnholt {
 // One line of a file for each value, the value's type telling the line's form. File is a
 // LineFileReader or a LineFileWriter.
 
-template <class File>
-void item(File& file, double& value) {
-    file.number(value);
-}
-template <class File>
-void item(File& file, std::int16_t& value) {
-    file.integer(value);
-}
-template <class File>
-void item(File& file, std::string& value) {
-    file.text(value);
-}
-template <class File>
-void item(File& file, Date& value) {
-    file.date(value);
+template <class File, class Value>
+void item(File& file, Value& value) {
+    using Stored = std::remove_const_t<Value>;
+    if constexpr (std::is_same_v<Stored, double>)
+        file.number(value);
+    else if constexpr (std::is_same_v<Stored, std::int16_t>)
+        file.integer(value);
+    else if constexpr (std::is_same_v<Stored, Date>)
+        file.date(value);
+    else
+        file.text(value);
 }
 
 /// Lines in the order of the arguments.

@@ -7,6 +7,7 @@
 
 #include "basis/file_system.h"
 #include "basis/line_file.h"
+#include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
 #include "design/ground_design.h"
 #include "frame/varnmain.h"
@@ -38,13 +39,19 @@ void readDefaults(GroundDesign& design) {
 /// Whatever goes wrong, the window keeps the values read so far.
 void readProject(GroundDesign& design) {
     design.setFile(design.main().commonDialogFile);
+    bool linkIsStored = true;
     try {
-        readVHTFile(design, design.filePath());
+        const std::string bytes = readWholeFile(design.filePath());
+        linkIsStored = tellsOfLink(bytes);
+        readProjectText(bytes, design);
     } catch (const RunTimeError& error) {
         warnOfReading(design.main(), error);
+        design.setHalfReadFile(design.FileName);
     }
-    design.workingFileCheck = !design.workingZoneFile.empty();
-    fileKindOf(design).findLoads(design);
+    ZoneFile zones = design.loads().file;
+    zones.exists = !zones.name.empty();
+    design.takeZoneFile(zones);
+    fileKindOf(design).findLoads(design, linkIsStored);
 }
 
 /// Opens a window of the kind in the next free slot; its set-up reads the project or the defaults.
@@ -57,6 +64,7 @@ GroundDesign* openDesign(Varnmain& main, const DesignFileKind& kind) {
     design.files.readINIFile = [&design] { readDefaults(design); };
     design.files.readProject = [&design] { readProject(design); };
     design.files.queryClose = [&design] { return saveBeforeClosing(design); };
+    design.files.findZoneFile = [&design] { findZoneFile(design); };
     main.open(std::move(made));
     return &design;
 }
@@ -122,9 +130,11 @@ void openProjectFile(Varnmain& main, const std::string& path) {
     if (kind == nullptr) return;
     main.commonDialogFile = whole;
     main.TempDirectory = folderOf(whole);
-    main.openCall = true;
-    const GroundDesign* design = openDesign(main, *kind);
-    main.openCall = false;
+    const GroundDesign* design = nullptr;
+    {
+        const RaisedFlag opening(main.openCall);
+        design = openDesign(main, *kind);
+    }
     if (design == nullptr) return;
     main.openWindowFiles(kind->kind, design->counter) = whole;
     main.fileUsed(whole);

@@ -6,15 +6,15 @@
 #include <string>
 #include <string_view>
 
-#include "frame/design_document.h"
+#include "frame/project_information.h"
 #include "persistence/file_items.h"
 
 namespace varnholt {
 
 /// The comments as so many lines: one more than they have line feeds, so that no comment at all is
 /// one empty line.
-template <class File>
-void describeComments(File& file, std::string& comments) {
+template <class File, class Text>
+void describeComments(File& file, Text& comments) {
     const auto feeds = static_cast<std::size_t>(std::count(comments.begin(), comments.end(), '\n'));
     const std::size_t lines = file.count(feeds + 1, 1);
     if constexpr (File::reading) {
@@ -37,8 +37,8 @@ void describeComments(File& file, std::string& comments) {
 }
 
 /// The head that project files of every kind share: version, kind, who and for whom, comments.
-template <class File>
-void describeHead(File& file, std::string_view kindTitle, ProjectInformation& about) {
+template <class File, class Information>
+void describeHead(File& file, std::string_view kindTitle, Information& about) {
     file.title("Varnholt Data File Version ");
     file.fixed(kindTitle);
     items(file, about.projectName, about.designerName, about.currentDate, about.projectStartDate);

@@ -18,7 +18,7 @@ namespace {
 /// Whether the loads have been seen to and the save may go on.
 bool zonesAreSettled(GroundDesign& design) {
     design.main().saveCancelled = false;
-    if (!design.linkType.empty()) checkZoneFile(design);
+    if (!design.loads().linkType.empty()) checkZoneFile(design);
     return !design.main().saveCancelled;
 }
 
@@ -38,6 +38,9 @@ bool write(GroundDesign& design, const std::string& path) {
     } catch (const RunTimeError& error) {
         warn(main, error.message());
     }
+    design.setHalfReadFile({});
+    design.saved();
+    design.refreshNotice();
     main.fileUsed(path);
     return true;
 }

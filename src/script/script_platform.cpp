@@ -129,12 +129,24 @@ void ScriptPlatform::opened(Form& form) {
 }
 
 void ScriptPlatform::closed(Form& form) {
+    if (active_ == &form) active_ = nullptr;
     forms_.remove(form);
     if (stage_ != nullptr) stage_->closed(form);
 }
 
 void ScriptPlatform::activated(Form& form) {
+    active_ = &form;
     if (stage_ != nullptr) stage_->activated(form);
+}
+
+/// The field in which the script has typed last has the focus, with its whole text selected.
+void ScriptPlatform::edit(EditCommand command) {
+    if (active_ == nullptr || active_->visitedField().empty()) return;
+    const std::string field = active_->visitedField();
+    if (command == EditCommand::cut || command == EditCommand::copy)
+        setClipboard(active_->control(field).text());
+    if (command == EditCommand::cut) active_->type(field, {});
+    if (command == EditCommand::paste) active_->key(field, "Ctrl+V");
 }
 
 void ScriptPlatform::runModal(Form& form) {

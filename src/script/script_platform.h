@@ -63,7 +63,7 @@ class ScriptPlatform : public Platform {
     std::string clipboard() override { return clipboard_; }
     void setClipboard(const std::string& text) override { clipboard_ = text; }
     Date today() override { return today_; }
-    void pause(int) override {}
+    void edit(EditCommand command) override;
     void progress(const std::string&, std::size_t, std::size_t) override {}
     void openOutside(const std::string&) override {}
     std::optional<std::string> GetKeyValue(const std::string&, const std::string&) override {
@@ -80,6 +80,7 @@ class ScriptPlatform : public Platform {
     Date today_;
     OpenForms forms_;
     ScriptHost* host_ = nullptr;
+    Form* active_ = nullptr;
     WindowStage* stage_ = nullptr;
     std::deque<Answer> answers_;
     std::deque<std::optional<std::string>> picks_;

@@ -65,13 +65,13 @@ class CatalogueFilesTest : public testing::Test {
         age(name);
     }
     PumpCatalogue window() {
-        return {folder_.path(), texts_, [this](const std::string& text) { shown_ += text + "\n"; },
-                files_};
+        return {folder_.path(), texts_, activeSeries_,
+                [this](const std::string& text) { shown_ += text + "\n"; }, files_};
     }
 
     TemporaryFolder folder_;
     FakeTexts texts_;
-    std::string shown_;
+    std::string shown_, activeSeries_;
     std::vector<PumpSeriesInfo> infos_;
     int reads_ = 0;
     std::shared_ptr<CatalogueFiles> files_ =

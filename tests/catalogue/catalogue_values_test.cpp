@@ -89,7 +89,8 @@ class CatalogueValues : public testing::Test {
 
     TemporaryFolder folder_;
     FakeTexts texts_;
-    PumpCatalogue catalogue_{folder_.path(), texts_, [](const std::string&) {}};
+    std::string activeSeries_;
+    PumpCatalogue catalogue_{folder_.path(), texts_, activeSeries_, [](const std::string&) {}};
     Values values_;
 };
 

@@ -8,6 +8,7 @@
 #include <variant>
 #include <vector>
 
+#include "design/change_project.h"
 #include "design/frmBHDesign.h"
 #include "design/install.h"
 #include "forms/fake_platform.h"
@@ -48,9 +49,11 @@ class BoreholeWindow : public testing::Test {
     void calculate() { design->click("CACalculateCommand"); }
     void slide(double percent) { design->slide("CAHybridSlider", percent); }
 
-    void takeZones(std::vector<Zone> zones) {
-        design->ZoneList = std::move(zones);
-        design->zoneNumber = static_cast<std::int16_t>(design->ZoneList.size());
+    void takeZones(const std::vector<Zone>& zones) {
+        change(*design, [&](BoreholeProject& project) {
+            project.loads.zones = zones;
+            project.loads.zoneNumber = static_cast<std::int16_t>(zones.size());
+        });
     }
 
     /// Captions of all labels that a run writes.

@@ -215,9 +215,9 @@ TEST_F(BoreholeFields, OfTheProjectAreKeptAsTyped) {
     type("INProjectNameText", " School, phase 2 ");
     EXPECT_EQ(std::get<std::string>(design->values().read("projectName")), " School, phase 2 ");
     type("INCommentsRichTextBox", "first\nsecond");
-    EXPECT_EQ(design->information.comments, "first\r\nsecond");
+    EXPECT_EQ(design->information().comments, "first\r\nsecond");
     design->pickDate("INStartDateDTPicker", {2026, 3, 1});
-    EXPECT_EQ(design->information.projectStartDate, (Date{2026, 3, 1}));
+    EXPECT_EQ(design->information().projectStartDate, (Date{2026, 3, 1}));
     EXPECT_EQ(design->control("INDateDTPicker").date(), (Date{2026, 1, 15}));
 }
 

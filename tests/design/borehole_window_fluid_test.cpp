@@ -45,9 +45,9 @@ TEST_F(FluidOfADesign, SwitchedFromGlycolToWaterTakesTheWatersProperties) {
 TEST_F(FluidOfADesign, CanBeTypedByName) {
     design->type("FLFluidTypeCombo", "Betaine");
     EXPECT_EQ(value("fluidTypeIndex"), 7);
-    EXPECT_EQ(design->fluid.fluidName, "Betaine");
+    EXPECT_EQ(design->project().fluid.fluidName, "Betaine");
     design->leave("FLFluidTypeCombo");
-    EXPECT_EQ(design->fluid.fluidName, "Betaine");
+    EXPECT_EQ(design->project().fluid.fluidName, "Betaine");
     EXPECT_EQ(textOf("FLFluidTypeCombo"), "Betaine");
 }
 
@@ -56,9 +56,9 @@ TEST_F(FluidOfADesign, TypedInFullIsTheListedOne) {
     EXPECT_EQ(value("fluidTypeIndex"), 7);
     design->type("FLFluidTypeCombo", "Methanol");
     EXPECT_EQ(value("fluidTypeIndex"), 3);
-    EXPECT_EQ(design->fluid.fluidName, "Metha");
+    EXPECT_EQ(design->project().fluid.fluidName, "Metha");
     design->leave("FLFluidTypeCombo");
-    EXPECT_EQ(design->fluid.fluidName, "");
+    EXPECT_EQ(design->project().fluid.fluidName, "");
 }
 
 TEST_F(FluidOfADesign, ComesBackWithItsTypedName) {
@@ -66,14 +66,14 @@ TEST_F(FluidOfADesign, ComesBackWithItsTypedName) {
     frmBHDesign* opened = newBorehole(main, [](frmBHDesign& window) {
         DesignFiles files;
         files.readProject = [&window] {
-            window.fluid.fluidTypeIndex = 7;
-            window.fluid.fluidName = "Betaine";
+            change(window, [&](BoreholeProject& of) { of.fluid.fluidTypeIndex = 7; });
+            change(window, [&](BoreholeProject& of) { of.fluid.fluidName = "Betaine"; });
         };
         return files;
     });
     EXPECT_EQ(opened->control("FLFluidTypeCombo").text(), "Betaine");
     EXPECT_EQ(opened->control("FLFluidTypeCombo").index(), -1);
-    EXPECT_EQ(opened->fluid.fluidTypeIndex, 7);
+    EXPECT_EQ(opened->project().fluid.fluidTypeIndex, 7);
 }
 
 TEST_F(FluidOfADesign, PercentageFollowsItsUpDown) {

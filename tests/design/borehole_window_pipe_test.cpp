@@ -220,11 +220,11 @@ TEST_F(PipeOfADesign, OfAnOddFileIsShownAsNone) {
     frmBHDesign* opened = newBorehole(main, [](frmBHDesign& window) {
         DesignFiles files;
         files.readProject = [&window] {
-            window.pipe.pipeSizeIndex = 1e300;
-            window.pipe.pipeSdrIndex = -4;
-            window.pipe.flowTypeIndex = 99;
-            window.bore.uTubeConfig = -17;
-            window.bore.pipePlacement = 2.5;
+            change(window, [&](BoreholeProject& of) { of.pipe.pipeSizeIndex = 1e300; });
+            change(window, [&](BoreholeProject& of) { of.pipe.pipeSdrIndex = -4; });
+            change(window, [&](BoreholeProject& of) { of.pipe.flowTypeIndex = 99; });
+            change(window, [&](BoreholeProject& of) { of.bore.uTubeConfig = -17; });
+            change(window, [&](BoreholeProject& of) { of.bore.pipePlacement = 2.5; });
         };
         return files;
     });
@@ -235,7 +235,7 @@ TEST_F(PipeOfADesign, OfAnOddFileIsShownAsNone) {
     opened->type("PIPipeDiameterText(0)", "1.2");
     opened->leave("PIBoreholeDiameterText");
     opened->choose("PIPipeResistanceCombo(0)", 0);
-    EXPECT_EQ(opened->pipe.pipeResistance, 0);
+    EXPECT_EQ(opened->project().pipe.pipeResistance, 0);
     opened->boreDrawing();
 }
 

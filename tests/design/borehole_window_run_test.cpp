@@ -197,7 +197,7 @@ TEST_F(BoreholeRuns, WithoutPositiveLoadsEndBeforeAnyLength) {
 
 TEST_F(BoreholeRuns, CountMoreZonesThanTheyHaveWithoutHarm) {
     // A project remembers the number of zones of a file that is missing now.
-    design->zoneNumber = 12;
+    change(*design, [&](BoreholeProject& of) { of.loads.zoneNumber = 12; });
     calculate();
     EXPECT_EQ(platform.messages.at(0).text, "[2814]");
 }
@@ -224,7 +224,9 @@ TEST_F(BoreholeRuns, DropOtherErrorsWithoutAWord) {
     enterHandCheck();
     calculate();
     const std::vector<std::string> before = resultCaptions();
-    design->soil.diffusivity = -1;  // as a file may hold it: no square root, error 5
+    change(*design, [&](BoreholeProject& of) {
+        of.soil.diffusivity = -1;
+    });  // as a file may hold it: no square root, error 5
     design->calculationNeeded();
     calculate();
     EXPECT_TRUE(platform.messages.empty());
@@ -263,7 +265,9 @@ TEST_F(BoreholeRuns, WithoutPumpsShowNoCopAndNoError) {
 
 TEST_F(BoreholeRuns, WithAGridOfNoBoresShowNoLengthOfEach) {
     enterHandCheck();
-    design->results.lengths.boreLength = {100, 100};
+    change(*design, [&](BoreholeProject& of) {
+        of.results.edit().lengths.boreLength = {100, 100};
+    });
     typeAndLeave("PAPatternRowsText(0)", "0");
     inMetric();
     expectPair("CABoreholeLengthLabel", "0.0", "0.0");

@@ -23,12 +23,12 @@ TEST_F(TowerPanelTest, TheLimitsOfTheUpDownsFollowTheUnits) {
 }
 
 TEST_F(TowerPanelTest, AValueBeyondTheLimitsWidensThem) {
-    design->tower.tower.range = 250;
+    change(*design, [&](BoreholeProject& of) { of.tower.tower.range = 250; });
     inMetric();
     inEnglish();
     EXPECT_EQ(range().max(), 250);
     EXPECT_EQ(range().value(), 250);
-    design->tower.tower.range = -4;
+    change(*design, [&](BoreholeProject& of) { of.tower.tower.range = -4; });
     inMetric();
     inEnglish();
     EXPECT_EQ(range().min(), -4);

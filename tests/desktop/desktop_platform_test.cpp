@@ -155,12 +155,5 @@ TEST_F(DesktopPlatformTest, KeepsTextOnTheClipboard) {
     EXPECT_EQ(platform.clipboard(), "1\t2\r\n3");
 }
 
-TEST_F(DesktopPlatformTest, PausesAboutAsLongAsAsked) {
-    QElapsedTimer clock;
-    clock.start();
-    platform.pause(20);
-    EXPECT_GE(clock.elapsed(), 19);
-}
-
 }  // namespace
 }  // namespace varnholt

@@ -63,10 +63,7 @@ class FakePlatform : public Platform {
     std::string clipboard() override { return clipboardText; }
     void setClipboard(const std::string& text) override { clipboardText = text; }
     Date today() override { return day; }
-    void pause(int milliseconds) override {
-        paused += milliseconds;
-        if (onPause) std::exchange(onPause, nullptr)();
-    }
+    void edit(EditCommand command) override { edits.push_back(command); }
     void progress(const std::string&, std::size_t done, std::size_t) override {
         progressSteps.push_back(done);
     }
@@ -86,10 +83,9 @@ class FakePlatform : public Platform {
     std::vector<std::string> openedForms, closedForms, outside;
     std::function<void(Form&)> onModal;
     /// What the user does while the program waits: once.
-    std::function<void()> onPause;
     std::string clipboardText;
     Date day{2026, 1, 15};
-    int paused = 0;
+    std::vector<EditCommand> edits;
     std::vector<std::size_t> progressSteps;
     std::map<std::string, std::string> registry;
     std::optional<bool> quitResult;

@@ -10,10 +10,14 @@
 namespace varnholt {
 namespace {
 
-class TestDesign : public DesignDocument {
+struct TestProject {
+    ProjectInformation held;
+};
+
+class TestDesign : public TestProject, public DesignDocument {
  public:
     TestDesign(Varnmain& main, std::int16_t slot)
-        : DesignDocument("frmBHDesign", DesignKind::borehole, main, slot) {
+        : DesignDocument("frmBHDesign", DesignKind::borehole, main, slot, held) {
         add("CACalculateCommand", ControlKind::button);
         add("MetricCheck", ControlKind::check).setChecked(main.units() == UnitSystem::metric);
         addInformationControls();
@@ -282,10 +286,10 @@ TEST_F(VarnmainTest, ProjectInformationIsStoredAsTyped) {
     project.type("INProjectNameText", "  Riverside School ");
     project.type("INCommentsRichTextBox", "one\ntwo");
     project.pickDate("INStartDateDTPicker", Date{2026, 3, 1});
-    EXPECT_EQ(project.information.projectName, "  Riverside School ");
-    EXPECT_EQ(project.information.comments, "one\r\ntwo");
-    EXPECT_EQ(project.information.projectStartDate, (Date{2026, 3, 1}));
-    EXPECT_EQ(project.information.currentDate, (Date{2026, 1, 15}));
+    EXPECT_EQ(project.information().projectName, "  Riverside School ");
+    EXPECT_EQ(project.information().comments, "one\r\ntwo");
+    EXPECT_EQ(project.information().projectStartDate, (Date{2026, 3, 1}));
+    EXPECT_EQ(project.information().currentDate, (Date{2026, 1, 15}));
 }
 
 TEST_F(VarnmainTest, TheStaleMarkIsTheColourOfTheButton) {

@@ -10,7 +10,7 @@ constexpr double close = 1e-12;
 /// The catalogue's models have a ratio of cooling to heating capacity of 1 / 0.9.
 class AverageBlockTest : public LoadsTest {
  protected:
-    const MiniPump& fitted() const { return window.ZoneList.at(0).pump; }
+    const MiniPump& fitted() const { return window.ZoneList().at(0).pump; }
     /// Selects the active series' model of that index by hand.
     void selectPump(int model) {
         window.click("LOSelectCommand");
@@ -43,14 +43,14 @@ TEST_F(AverageBlockTest, DiffersFromTheZoneManagerInItsCommands) {
 TEST_F(AverageBlockTest, HasOneZone) {
     window.click("LONewCommand");
     EXPECT_FALSE(enabled(window, "LONewCommand"));
-    EXPECT_EQ(window.ZoneList.size(), 1U);
-    EXPECT_EQ(window.zoneNumber, 1);
+    EXPECT_EQ(window.ZoneList().size(), 1U);
+    EXPECT_EQ(window.zoneNumber(), 1);
     EXPECT_EQ(window.control("LOZoneFrame").caption(), "[2932]");
     EXPECT_FALSE(window.control("LOZoneList").visible());
     platform.answers = {Answer::no};
     window.click("LOClearCommand");
     EXPECT_TRUE(enabled(window, "LONewCommand"));
-    EXPECT_TRUE(window.ZoneList.empty());
+    EXPECT_TRUE(window.ZoneList().empty());
 }
 
 TEST_F(AverageBlockTest, APumpIsSizedToTheHeatingLoadWhereThatDecides) {
@@ -136,25 +136,25 @@ TEST_F(AverageBlockTest, AnUpdateReadsTheZonesOwnSeries) {
 TEST_F(AverageBlockTest, AnUpdateTellsOfASeriesOrAModelThatTheCatalogueLost) {
     addZone(window, 200, 100);
     selectPump(1);
-    window.ZoneList[0].pump.name = "Gone";
-    Zone before = window.ZoneList[0];
+    window.change([&](LoadsDocument& of) { of.data.zones.edit(0).pump.name = "Gone"; });
+    Zone before = window.ZoneList()[0];
     window.click("LOUpdatePumpsCommand");
     EXPECT_EQ(lastMessage(), "Zone 1 [2875]");
-    EXPECT_EQ(window.ZoneList[0], before);
-    window.ZoneList[0].pump.seriesName = "Gone";
-    before = window.ZoneList[0];
+    EXPECT_EQ(window.ZoneList()[0], before);
+    window.change([&](LoadsDocument& of) { of.data.zones.edit(0).pump.seriesName = "Gone"; });
+    before = window.ZoneList()[0];
     window.click("LOUpdatePumpsCommand");
     EXPECT_EQ(platform.messages.size(), 2U);
-    EXPECT_EQ(window.ZoneList[0], before);
+    EXPECT_EQ(window.ZoneList()[0], before);
 }
 
 TEST_F(AverageBlockTest, AnUpdateLeavesACustomPump) {
     addZone(window, 200, 100);
     window.click("LOCustomPumpCheck");
     window.type("LOCapacityText(0)", "33");
-    const Zone before = window.ZoneList[0];
+    const Zone before = window.ZoneList()[0];
     window.click("LOUpdatePumpsCommand");
-    EXPECT_EQ(window.ZoneList[0], before);
+    EXPECT_EQ(window.ZoneList()[0], before);
     EXPECT_TRUE(platform.messages.empty());
 }
 
@@ -165,10 +165,10 @@ TEST_F(AverageBlockTest, AFailedFitLeavesTheZone) {
     window.InitializeHeatPumpLists();
     window.choose("HPManufacturerCombo", 2);
     addZone(window, 200, 100);
-    const Zone before = window.ZoneList[0];
+    const Zone before = window.ZoneList()[0];
     selectPump(0);
     EXPECT_EQ(lastMessage(), "11 - Division by zero");
-    EXPECT_EQ(window.ZoneList[0], before);
+    EXPECT_EQ(window.ZoneList()[0], before);
 }
 
 TEST_F(AverageBlockTest, LoadConditionsTypedInTheDetailsEnterTheFit) {
@@ -184,13 +184,13 @@ TEST_F(AverageBlockTest, LoadConditionsTypedInTheDetailsEnterTheFit) {
 
 TEST_F(AverageBlockTest, AFileWithSeveralZonesShowsItsFirstAndKeepsTheOthers) {
     LoadsData data;
-    data.zones.resize(2);
-    data.zones[0].title = "First";
+    data.zones = std::vector<Zone>(2);
+    data.zones.edit(0).title = "First";
     data.activeSeries = "FirstAir";
     writeFile(zoneFile("two.zon"), zonesText(data));
     ASSERT_TRUE(window.LOOpenZoneFile(zoneFile("two.zon")));
     EXPECT_EQ(shown(window, "LOZoneReferenceText"), "First");
-    EXPECT_EQ(window.zoneNumber, 2);
+    EXPECT_EQ(window.zoneNumber(), 2);
     EXPECT_TRUE(window.control("LOZoneList").visible());
     EXPECT_FALSE(enabled(window, "LONewCommand"));
     setSaved(window, "again.zon");
@@ -203,10 +203,10 @@ TEST_F(AverageBlockTest, IsSavedAndOpenedLikeAnyZones) {
     addZone(window, 200, 100);
     selectPump(1);
     setSaved(window, "block.zon");
-    const std::vector<Zone> zones = window.ZoneList;
+    const SharedZones zones = window.ZoneList();
     window.click("LOClearCommand");
     ASSERT_TRUE(window.LOOpenZoneFile(zoneFile("block.zon")));
-    EXPECT_EQ(window.ZoneList, zones);
+    EXPECT_EQ(window.ZoneList(), zones);
     EXPECT_FALSE(enabled(window, "LONewCommand"));
 }
 

@@ -7,13 +7,13 @@ namespace {
 class LinkEnd : public LinkTest {
  protected:
     void expectUnlinked(const LinkedDesign& design) {
-        EXPECT_EQ(design.linkType, "");
-        EXPECT_EQ(design.LoadsHome, nullptr);
+        EXPECT_EQ(design.loads().linkType, "");
+        EXPECT_EQ(design.LoadsHome(), nullptr);
         EXPECT_FALSE(design.control("imgLinkLight(0)").visible());
         EXPECT_TRUE(design.control("imgLinkLight(6)").visible());
     }
     void expectPlain(const PlainLoads& loads) {
-        EXPECT_EQ(loads.designLinkID, 0);
+        EXPECT_EQ(loads.links().designLinkID(), 0);
         EXPECT_EQ(loads.caption(), loads.plainTitle());
         EXPECT_FALSE(loads.control("imgLinkLight(0)").visible());
         EXPECT_TRUE(loads.control("imgLinkLight(6)").visible());
@@ -29,7 +29,7 @@ TEST_F(LinkEnd, FromTheDesign) {
     expectUnlinked(design);
     expectPlain(loads);
     // The design keeps its copy.
-    EXPECT_EQ(design.zoneCount(), 1);
+    EXPECT_EQ(design.loads().zoneNumber, 1);
 }
 
 TEST_F(LinkEnd, BringsBackWhatTheDesignsMethodHadNoUseFor) {
@@ -43,9 +43,9 @@ TEST_F(LinkEnd, BringsBackWhatTheDesignsMethodHadNoUseFor) {
     main.click("mnuUnlink");  // the first is still linked, and uses them
     EXPECT_TRUE(loads.hoursShown);
     link(second);
-    unlinkDesign(first);
+    first.leaveLoads();
     EXPECT_FALSE(loads.hoursShown);
-    unlinkDesign(second);
+    second.leaveLoads();
     EXPECT_TRUE(loads.hoursShown);
 }
 
@@ -68,7 +68,7 @@ TEST_F(LinkEnd, OfAnUnlinkedWindowDoesNothing) {
     link(linked);
     newDesign();
     main.click("mnuUnlink");
-    EXPECT_EQ(linked.LoadsHome, &loads);
+    EXPECT_EQ(linked.LoadsHome(), &loads);
 }
 
 TEST_F(LinkEnd, OfOneOfTwoDesignsLeavesTheOthersLinkLit) {
@@ -80,11 +80,11 @@ TEST_F(LinkEnd, OfOneOfTwoDesignsLeavesTheOthersLinkLit) {
     main.activate(second);
     main.click("mnuUnlink");
     expectUnlinked(second);
-    EXPECT_EQ(first.LoadsHome, &loads);
+    EXPECT_EQ(first.LoadsHome(), &loads);
     EXPECT_TRUE(loads.control("imgLinkLight(0)").visible());
     // The window serves the first design again, by name and number.
-    EXPECT_TRUE(namesDesign(loads, first));
-    EXPECT_EQ(loads.designLinkID, first.myID);
+    EXPECT_TRUE(first.link()->isNamed());
+    EXPECT_EQ(loads.links().designLinkID(), first.myID);
 }
 
 TEST_F(LinkEnd, ClosingTheLoadsWindowLeavesTheDesignsZonesAndResultsUntouched) {
@@ -93,12 +93,12 @@ TEST_F(LinkEnd, ClosingTheLoadsWindowLeavesTheDesignsZonesAndResultsUntouched) {
     PlainDesign& design = newDesign();
     link(design);
     design.calculationDone();
-    const std::vector<Zone> before = design.ZoneList;
+    const SharedZones before = design.ZoneList();
     const int changes = design.changes;
     ASSERT_TRUE(main.close(loads));
     expectUnlinked(design);
-    EXPECT_EQ(design.ZoneList, before);
-    EXPECT_EQ(design.zoneCount(), 2);
+    EXPECT_EQ(design.ZoneList(), before);
+    EXPECT_EQ(design.loads().zoneNumber, 2);
     EXPECT_EQ(design.changes, changes);
     EXPECT_FALSE(design.isStale());
     // Nothing that the design does later reaches for the window.
@@ -117,11 +117,11 @@ TEST_F(LinkEnd, ClosingTheLoadsWindowUnlinksAllItsDesignsAndNoOther) {
     PlainLoads& block = newLoads("frmAvgBlock");
     PlainDesign& third = newDesign();
     link(block);
-    ASSERT_EQ(third.LoadsHome, &block);
+    ASSERT_EQ(third.LoadsHome(), &block);
     main.close(zones);
     expectUnlinked(first);
     expectUnlinked(second);
-    EXPECT_EQ(third.LoadsHome, &block);
+    EXPECT_EQ(third.LoadsHome(), &block);
 }
 
 TEST_F(LinkEnd, ClosingTheDesignLeavesTheLoadsWindowPlain) {
@@ -131,11 +131,11 @@ TEST_F(LinkEnd, ClosingTheDesignLeavesTheLoadsWindowPlain) {
     link(design);
     ASSERT_TRUE(main.close(design));
     expectPlain(loads);
-    EXPECT_EQ(loads.zoneNumber, 1);
+    EXPECT_EQ(loads.zoneNumber(), 1);
     // The loads window can be linked anew.
     PlainDesign& next = newDesign();
     link(loads);
-    EXPECT_EQ(next.LoadsHome, &loads);
+    EXPECT_EQ(next.LoadsHome(), &loads);
 }
 
 class LinkUnits : public LinkTest {
@@ -148,7 +148,7 @@ class LinkUnits : public LinkTest {
 TEST_F(LinkUnits, FollowFromTheDesignToTheLoads) {
     first.switchUnits(UnitSystem::metric);
     EXPECT_EQ(loads.units(), UnitSystem::metric);
-    EXPECT_TRUE(namesDesign(loads, first));
+    EXPECT_TRUE(first.link()->isNamed());
 }
 
 TEST_F(LinkUnits, FollowFromTheLoadsToEveryDesignLinkedToThem) {
@@ -170,7 +170,7 @@ TEST_F(LinkUnits, GoBackInADesignThatTheLoadsTitleDoesNotName) {
 }
 
 TEST_F(LinkUnits, AreFreeAgainAfterTheLink) {
-    unlinkDesign(first);
+    first.leaveLoads();
     first.switchUnits(UnitSystem::metric);
     EXPECT_EQ(loads.units(), UnitSystem::english);
     loads.switchUnits(UnitSystem::metric);

@@ -35,7 +35,13 @@ class PlainLoads : public LoadsWindow {
     void SetFluidsTabbedPaneSwitchVariables() override { ++fluidsShown; }
     void LOUpdatePumpsCommand_Click() override { ++pumpsUpdated; }
     bool pumpsAreBeingSelected() const override { return selectingPump; }
-    void replaceLoads(const std::vector<Zone>& zones) override { setZones(zones); }
+    void replaceLoads(const DesignProject& project) override {
+        document_.data.zones = project.loads.zones;
+        document_.data.activeSeries = project.loads.activeSeries;
+        document_.data.conditions.flowRate = project.conditions.flowRate;
+        document_.data.conditions.inletTemp = project.conditions.inletTemp;
+        document_.file = project.loads.file;
+    }
     void showHoursAndDays(bool shown) override { hoursShown = shown; }
     std::string plainTitle() const override {
         return formName() == "frmAvgBlock" ? "Average Block Loads" : "Project Loads";
@@ -44,27 +50,24 @@ class PlainLoads : public LoadsWindow {
         element("imgLinkLight", 0).setVisible(on);
         element("imgLinkLight", 6).setVisible(!on);
     }
-    void MetricCheck_Click() override {
-        if (onUnitsSwitched) onUnitsSwitched();
-    }
-    void unloaded() override {
-        if (onClosed) onClosed();
-    }
+    void MetricCheck_Click() override { switchLinkedUnits(); }
 
-    void setZones(std::vector<Zone> zones) {
-        ZoneList = std::move(zones);
-        zoneNumber = static_cast<std::int16_t>(ZoneList.size());
-    }
+    void setZones(const SharedZones& zones) { document_.data.zones = zones; }
+    LoadsDocument& edit() { return document_; }
+    LoadsData& data() { return document_.data; }
 
     bool unsaved = false, selectingPump = false, hoursShown = true;
     int listsRead = 0, fluidsShown = 0, pumpsUpdated = 0;
 };
 
 /// A design with nothing but its loads.
-class PlainDesign : public LinkedDesign {
+struct PlainProject {
+    DesignProject held;
+};
+class PlainDesign : public PlainProject, public LinkedDesign {
  public:
     PlainDesign(Varnmain& main, std::int16_t slot)
-        : LinkedDesign("frmBHDesign", DesignKind::borehole, main, slot) {
+        : LinkedDesign("frmBHDesign", DesignKind::borehole, main, slot, held) {
         add("CACalculateCommand", ControlKind::button);
         add("MetricCheck", ControlKind::check);
         addLinkLights();

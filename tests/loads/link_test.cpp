@@ -9,28 +9,28 @@ using Link = LinkTest;
 TEST_F(Link, FromADesignTakesTheOnlyLoadsWindow) {
     PlainLoads& loads = newLoads();
     loads.setZones({zone(10), zone(20)});
-    loads.activeSeries = "AcmeA";
-    loads.flowRate = 2.5;
-    loads.inletTemp = {80, 45};
-    loads.workingZoneFile = "school.zon";
-    loads.workingZoneDirectory = "/zones";
-    loads.workingFileCheck = true;
+    loads.data().activeSeries = "AcmeA";
+    loads.data().conditions.flowRate = 2.5;
+    loads.data().conditions.inletTemp = {80, 45};
+    loads.edit().file.name = "school.zon";
+    loads.edit().file.folder = "/zones";
+    loads.edit().file.exists = true;
     PlainDesign& design = newDesign();
     link(design);
 
-    EXPECT_EQ(design.linkType, "frmZoneManage");
-    EXPECT_EQ(design.LoadsHome, &loads);
-    EXPECT_EQ(loads.designLinkID, design.myID);
-    ASSERT_EQ(design.ZoneList.size(), 2u);
-    EXPECT_EQ(design.ZoneList[1].gains[1][cooling], 20);
-    EXPECT_EQ(design.ZoneList[1].name, "Zone 2");
-    EXPECT_EQ(design.zoneCount(), 2);
-    EXPECT_EQ(design.activeSeries, "AcmeA");
-    EXPECT_EQ(design.flowRate, 2.5);
-    EXPECT_EQ(design.inletTemp, (ByMode<double>{80, 45}));
-    EXPECT_EQ(design.workingZoneFile, "school.zon");
-    EXPECT_EQ(design.workingZoneDirectory, "/zones");
-    EXPECT_TRUE(design.workingFileCheck);
+    EXPECT_EQ(design.loads().linkType, "frmZoneManage");
+    EXPECT_EQ(design.LoadsHome(), &loads);
+    EXPECT_EQ(loads.links().designLinkID(), design.myID);
+    ASSERT_EQ(design.ZoneList().size(), 2u);
+    EXPECT_EQ(design.ZoneList()[1].gains[1][cooling], 20);
+    EXPECT_EQ(design.ZoneList()[1].name, "Zone 2");
+    EXPECT_EQ(design.loads().zoneNumber, 2);
+    EXPECT_EQ(design.held.loads.activeSeries, "AcmeA");
+    EXPECT_EQ(design.held.conditions.flowRate, 2.5);
+    EXPECT_EQ(design.held.conditions.inletTemp, (ByMode<double>{80, 45}));
+    EXPECT_EQ(design.held.loads.file.name, "school.zon");
+    EXPECT_EQ(design.held.loads.file.folder, "/zones");
+    EXPECT_TRUE(design.held.loads.file.exists);
     EXPECT_EQ(design.changes, 1);
     EXPECT_TRUE(design.isStale());
     EXPECT_EQ(loads.listsRead, 1);
@@ -60,7 +60,7 @@ TEST_F(Link, FollowsTheDesignsNewFileName) {
     renameDesign(design, "/projects/school.vht");
     EXPECT_EQ(design.caption(), "Borehole Design Project - school.vht");
     EXPECT_EQ(loads.caption(), "Project Loads - Zone Manager of school.vht");
-    EXPECT_TRUE(namesDesign(loads, design));
+    EXPECT_TRUE(design.link()->isNamed());
 }
 
 TEST_F(Link, ShowsTheLightOfTheZoneManager) {
@@ -76,7 +76,6 @@ TEST_F(Link, ShowsTheLightOfTheZoneManager) {
     EXPECT_FALSE(design.control("imgLinkLight(6)").visible());
     EXPECT_TRUE(loads.control("imgLinkLight(0)").visible());
     EXPECT_FALSE(loads.control("imgLinkLight(6)").visible());
-    EXPECT_EQ(platform.paused, 250);
 }
 
 TEST_F(Link, ShowsTheLightOfTheAverageBlock) {
@@ -92,7 +91,7 @@ TEST_F(Link, ShowsTheLightOfTheAverageBlock) {
 TEST_F(Link, WithoutALoadsWindowDoesNothing) {
     PlainDesign& design = newDesign();
     link(design);
-    EXPECT_EQ(design.linkType, "");
+    EXPECT_EQ(design.loads().linkType, "");
     EXPECT_TRUE(platform.messages.empty());
 }
 
@@ -109,8 +108,8 @@ TEST_F(Link, AsksWhenBothLoadsWindowsAreOpen) {
     };
     link(design);
     EXPECT_EQ(main.LinkOption, 1);
-    EXPECT_EQ(design.LoadsHome, &block);
-    EXPECT_EQ(design.linkType, "frmAvgBlock");
+    EXPECT_EQ(design.LoadsHome(), &block);
+    EXPECT_EQ(design.loads().linkType, "frmAvgBlock");
 }
 
 TEST_F(Link, CancelInTheQuestionLeavesEverythingUnlinked) {
@@ -120,10 +119,10 @@ TEST_F(Link, CancelInTheQuestionLeavesEverythingUnlinked) {
     platform.onModal = [](Form& form) { form.click("cmdCancel"); };
     link(design);
     EXPECT_EQ(main.LinkOption, 100);
-    EXPECT_EQ(design.linkType, "");
-    EXPECT_EQ(design.LoadsHome, nullptr);
-    EXPECT_EQ(zones.designLinkID, 0);
-    EXPECT_EQ(block.designLinkID, 0);
+    EXPECT_EQ(design.loads().linkType, "");
+    EXPECT_EQ(design.LoadsHome(), nullptr);
+    EXPECT_EQ(zones.links().designLinkID(), 0);
+    EXPECT_EQ(block.links().designLinkID(), 0);
     EXPECT_EQ(zones.caption(), "Project Loads");
 }
 
@@ -137,20 +136,20 @@ TEST_F(Link, ClosingTheQuestionByItsBoxIsACancel) {
     };
     link(design);
     EXPECT_EQ(main.LinkOption, 100);
-    EXPECT_EQ(design.linkType, "");
+    EXPECT_EQ(design.loads().linkType, "");
 }
 
 TEST_F(Link, FromALoadsWindowTakesTheOneFreeDesign) {
     PlainDesign& design = newDesign();
-    design.activeSeries = "DesignSeries";
+    design.held.loads.activeSeries = "DesignSeries";
     PlainLoads& loads = newLoads();
-    loads.activeSeries = "LoadsSeries";
+    loads.data().activeSeries = "LoadsSeries";
     link(loads);
-    EXPECT_EQ(design.LoadsHome, &loads);
-    EXPECT_EQ(design.linkType, "frmZoneManage");
-    EXPECT_EQ(design.activeSeries, "LoadsSeries");
-    EXPECT_EQ(loads.activeSeries, "LoadsSeries");
-    EXPECT_EQ(loads.designLinkID, design.myID);
+    EXPECT_EQ(design.LoadsHome(), &loads);
+    EXPECT_EQ(design.loads().linkType, "frmZoneManage");
+    EXPECT_EQ(design.held.loads.activeSeries, "LoadsSeries");
+    EXPECT_EQ(loads.data().activeSeries, "LoadsSeries");
+    EXPECT_EQ(loads.links().designLinkID(), design.myID);
 }
 
 TEST_F(Link, FromALoadsWindowWithTwoFreeDesignsDoesNothing) {
@@ -158,9 +157,9 @@ TEST_F(Link, FromALoadsWindowWithTwoFreeDesignsDoesNothing) {
     PlainDesign& second = newDesign();
     PlainLoads& loads = newLoads();
     link(loads);
-    EXPECT_EQ(first.LoadsHome, nullptr);
-    EXPECT_EQ(second.LoadsHome, nullptr);
-    EXPECT_EQ(loads.designLinkID, 0);
+    EXPECT_EQ(first.LoadsHome(), nullptr);
+    EXPECT_EQ(second.LoadsHome(), nullptr);
+    EXPECT_EQ(loads.links().designLinkID(), 0);
     EXPECT_TRUE(platform.messages.empty());
 }
 
@@ -170,9 +169,9 @@ TEST_F(Link, FromALoadsWindowPassesOverDesignsThatAreLinked) {
     link(first);
     PlainDesign& second = newDesign();
     link(loads);
-    EXPECT_EQ(second.LoadsHome, &loads);
-    EXPECT_EQ(loads.designLinkID, second.myID);
-    EXPECT_EQ(first.LoadsHome, &loads);
+    EXPECT_EQ(second.LoadsHome(), &loads);
+    EXPECT_EQ(loads.links().designLinkID(), second.myID);
+    EXPECT_EQ(first.LoadsHome(), &loads);
 }
 
 TEST_F(Link, OfALinkedDesignDoesNothingAgain) {
@@ -181,41 +180,41 @@ TEST_F(Link, OfALinkedDesignDoesNothingAgain) {
     link(design);
     loads.setZones({zone(5)});
     link(design);
-    EXPECT_EQ(design.zoneCount(), 0);
+    EXPECT_EQ(design.loads().zoneNumber, 0);
 }
 
 TEST_F(Link, WithNoZonesEmptiesTheDesignsList) {
     newLoads();
     PlainDesign& design = newDesign();
-    design.ZoneList = {zone(1), zone(2)};
-    design.zoneNumber = 2;
+    design.held.loads.zones = {zone(1), zone(2)};
+    design.held.loads.zoneNumber = 2;
     link(design);
-    EXPECT_TRUE(design.ZoneList.empty());
-    EXPECT_EQ(design.zoneCount(), 0);
+    EXPECT_TRUE(design.ZoneList().empty());
+    EXPECT_EQ(design.loads().zoneNumber, 0);
     EXPECT_TRUE(design.isStale());
 }
 
 TEST_F(Link, WithTheSameZonesGivesTheDesignsSeriesToTheLoads) {
     PlainLoads& loads = newLoads();
     loads.setZones({zone(1)});
-    loads.activeSeries = "LoadsSeries";
+    loads.data().activeSeries = "LoadsSeries";
     PlainDesign& design = newDesign();
-    design.ZoneList = {zone(1)};
-    design.zoneNumber = 1;
-    design.activeSeries = "DesignSeries";
+    design.held.loads.zones = {zone(1)};
+    design.held.loads.zoneNumber = 1;
+    design.held.loads.activeSeries = "DesignSeries";
     link(design);
     EXPECT_EQ(design.changes, 0);
-    EXPECT_EQ(loads.activeSeries, "DesignSeries");
+    EXPECT_EQ(loads.data().activeSeries, "DesignSeries");
     EXPECT_EQ(loads.listsRead, 1);
 }
 
 TEST_F(Link, LetsADesignWithoutASeriesTakeTheLoads) {
     PlainLoads& loads = newLoads();
-    loads.activeSeries = "LoadsSeries";
+    loads.data().activeSeries = "LoadsSeries";
     PlainDesign& design = newDesign();
     link(design);
-    EXPECT_EQ(loads.activeSeries, "LoadsSeries");
-    EXPECT_EQ(design.activeSeries, "LoadsSeries");
+    EXPECT_EQ(loads.data().activeSeries, "LoadsSeries");
+    EXPECT_EQ(design.held.loads.activeSeries, "LoadsSeries");
 }
 
 TEST_F(Link, PutsBothWindowsIntoTheUnitsOfTheActiveOne) {
@@ -229,44 +228,57 @@ TEST_F(Link, PutsBothWindowsIntoTheUnitsOfTheActiveOne) {
 
 TEST_F(Link, ShowsTheProjectOnTheLoadsAndHidesWhatTheMethodDoesNotUse) {
     PlainLoads& loads = newLoads();
-    loads.information.comments = "of the zones";
+    loads.edit().information.comments = "of the zones";
     PlainDesign& design = newDesign();
     design.usesHours = false;
-    design.information.projectName = "School";
-    design.information.country = "US";
-    design.information.comments = "of the project";
-    design.information.currentDate = {2026, 2, 3};
+    design.held.information.projectName = "School";
+    design.held.information.country = "US";
+    design.held.information.comments = "of the project";
+    design.held.information.currentDate = {2026, 2, 3};
     link(design);
     EXPECT_FALSE(loads.hoursShown);
-    EXPECT_EQ(loads.information.projectName, "School");
-    EXPECT_EQ(loads.information.country, "US");
-    EXPECT_EQ(loads.information.currentDate, (Date{2026, 2, 3}));
-    EXPECT_EQ(loads.information.comments, "of the zones");
+    EXPECT_EQ(loads.edit().information.projectName, "School");
+    EXPECT_EQ(loads.edit().information.country, "US");
+    EXPECT_EQ(loads.edit().information.currentDate, (Date{2026, 2, 3}));
+    EXPECT_EQ(loads.edit().information.comments, "of the zones");
 }
 
-TEST_F(Link, EndsQuietlyWhenTheLoadsAreClosedWhileTheLightShines) {
+/// Counts the flashes of one lamp.
+class LampWatch : public FormObserver {
+ public:
+    void captionChanged(Form&) override {}
+    void settled(Form&) override {}
+    void propertyChanged(Control& control, Property property) override {
+        if (property == Property::flash && control.name() == "imgLinkLight(0)") ++flashes;
+    }
+    int flashes = 0;
+};
+
+TEST_F(Link, FlashesTheLightsOfBothSidesAndLeavesThemAsTheyAre) {
     PlainLoads& loads = newLoads();
     PlainDesign& design = newDesign();
-    platform.onPause = [&] {
-        main.close(loads);
-        newLoads("frmAvgBlock");  // a closed window is really gone once another one opens
-    };
+    LampWatch ofLoads, ofDesign;
+    loads.addObserver(&ofLoads);
+    design.addObserver(&ofDesign);
     link(design);
-    EXPECT_EQ(design.LoadsHome, nullptr);
-    EXPECT_EQ(design.linkType, "");
-    EXPECT_FALSE(design.control("imgLinkLight(0)").visible());
+    EXPECT_EQ(ofLoads.flashes, 1);
+    EXPECT_EQ(ofDesign.flashes, 1);
+    EXPECT_FALSE(design.control("imgLinkLight(0)").bold());
 }
 
-TEST_F(Link, EndsQuietlyWhenTheDesignIsClosedWhileTheLightShines) {
-    PlainLoads& loads = newLoads();
-    PlainDesign& design = newDesign();
-    platform.onPause = [&] {
-        main.close(design);
-        newLoads("frmAvgBlock");
-    };
-    link(design);
-    EXPECT_EQ(loads.designLinkID, 0);
-    EXPECT_EQ(loads.caption(), "Project Loads");
+TEST_F(Link, EndsWithWhicheverSideEndsFirstThoughNobodyIsTold) {
+    auto loads = std::make_unique<PlainLoads>("frmZoneManage", main);
+    auto design = std::make_unique<PlainDesign>(main, std::int16_t{1});
+    design->joinLoads(*loads);
+    loads.reset();
+    EXPECT_EQ(design->link(), nullptr);
+    EXPECT_EQ(design->LoadsHome(), nullptr);
+
+    auto others = std::make_unique<PlainLoads>("frmZoneManage", main);
+    design->joinLoads(*others);
+    design.reset();
+    EXPECT_TRUE(others->links().all().empty());
+    EXPECT_EQ(others->links().designLinkID(), 0);
 }
 
 }  // namespace

@@ -20,12 +20,12 @@ class LoadsTransfer : public LinkTest {
 
 TEST_F(LoadsTransfer, OfUnchangedLoadsChangesNothing) {
     // The name is only the place in the list.
-    loads.ZoneList[0].name = "another name";
-    loads.flowRate = 99;
+    loads.data().zones.edit(0).name = "another name";
+    loads.data().conditions.flowRate = 99;
     design->TransferLoadsVariablesIn();
     EXPECT_EQ(design->changes, 0);
     EXPECT_FALSE(design->isStale());
-    EXPECT_EQ(design->flowRate, 3);
+    EXPECT_EQ(design->held.conditions.flowRate, 3);
 }
 
 TEST_F(LoadsTransfer, SeesAChangeOfAnyOneValue) {
@@ -53,7 +53,7 @@ TEST_F(LoadsTransfer, SeesAChangeOfAnyOneValue) {
     int done = 0;
     for (const Change change : changes) {
         SCOPED_TRACE(done);
-        change(loads.ZoneList[1]);
+        change(loads.data().zones.edit(1));
         design->TransferLoadsVariablesIn();
         EXPECT_EQ(design->changes, ++done);
         EXPECT_TRUE(design->isStale());
@@ -65,22 +65,22 @@ TEST_F(LoadsTransfer, CountsADifferentNumberOfZonesAsChangedThoughTheOthersAgree
     loads.setZones({zone(10), zone(20), zone(0)});
     design->TransferLoadsVariablesIn();
     EXPECT_EQ(design->changes, 1);
-    EXPECT_EQ(design->zoneCount(), 3);
+    EXPECT_EQ(design->loads().zoneNumber, 3);
     loads.setZones({zone(10)});
     design->TransferLoadsVariablesIn();
     EXPECT_EQ(design->changes, 2);
-    EXPECT_EQ(design->zoneCount(), 1);
+    EXPECT_EQ(design->loads().zoneNumber, 1);
 }
 
 TEST_F(LoadsTransfer, CopiesByValue) {
-    loads.ZoneList[0].gains[0][cooling] = 77;
-    EXPECT_EQ(design->ZoneList[0].gains[0][cooling], 0);
+    loads.data().zones.edit(0).gains[0][cooling] = 77;
+    EXPECT_EQ(design->ZoneList()[0].gains[0][cooling], 0);
 }
 
 TEST_F(LoadsTransfer, KeepsTheLoadsSaveState) {
     for (const bool unsaved : {true, false}) {
         loads.unsaved = unsaved;
-        loads.ZoneList[0].days -= 1;
+        loads.data().zones.edit(0).days -= 1;
         design->TransferLoadsVariablesIn();
         EXPECT_EQ(loads.unsaved, unsaved);
     }
@@ -88,16 +88,16 @@ TEST_F(LoadsTransfer, KeepsTheLoadsSaveState) {
 
 TEST_F(LoadsTransfer, RunsWhenTheDesignComesToTheFrontAndTheLoadsHaveChanges) {
     main.activate(loads);
-    loads.ZoneList[0].days = 1;
+    loads.data().zones.edit(0).days = 1;
     loads.unsaved = true;
     main.activate(*design);
     EXPECT_EQ(design->changes, 1);
-    EXPECT_EQ(design->ZoneList[0].days, 1);
+    EXPECT_EQ(design->ZoneList()[0].days, 1);
 }
 
 TEST_F(LoadsTransfer, StaysAwayFromTheFrontWithoutUnsavedChanges) {
     main.activate(loads);
-    loads.ZoneList[0].days = 1;
+    loads.data().zones.edit(0).days = 1;
     main.activate(*design);
     EXPECT_EQ(design->changes, 0);
 }
@@ -105,52 +105,52 @@ TEST_F(LoadsTransfer, StaysAwayFromTheFrontWithoutUnsavedChanges) {
 TEST_F(LoadsTransfer, StaysAwayFromADesignThatTheLoadsTitleDoesNotName) {
     PlainDesign& second = newDesign();
     link(second);
-    loads.ZoneList[0].days = 1;
+    loads.data().zones.edit(0).days = 1;
     loads.unsaved = true;
     main.activate(*design);
     EXPECT_EQ(design->changes, 0);
     // A calculation takes the current loads all the same, and the window then belongs to it.
     design->TransferLoadsVariablesIn();
     EXPECT_EQ(design->changes, 1);
-    EXPECT_EQ(loads.designLinkID, design->myID);
+    EXPECT_EQ(loads.links().designLinkID(), design->myID);
 }
 
 TEST_F(LoadsTransfer, OutReplacesTheLoads) {
-    design->ZoneList = {zone(7)};
-    design->zoneNumber = 1;
-    design->activeSeries = "Mine";
-    design->flowRate = 2;
-    design->inletTemp = {90, 40};
-    design->workingZoneFile = "mine.zon";
-    design->workingZoneDirectory = "/mine";
-    design->workingFileCheck = true;
-    design->information.city = "Stillwater";
+    design->held.loads.zones = {zone(7)};
+    design->held.loads.zoneNumber = 1;
+    design->held.loads.activeSeries = "Mine";
+    design->held.conditions.flowRate = 2;
+    design->held.conditions.inletTemp = {90, 40};
+    design->held.loads.file.name = "mine.zon";
+    design->held.loads.file.folder = "/mine";
+    design->held.loads.file.exists = true;
+    design->held.information.city = "Stillwater";
     design->TransferLoadsVariablesOut();
-    ASSERT_EQ(loads.ZoneList.size(), 1u);
-    EXPECT_EQ(loads.ZoneList[0].gains[1][cooling], 7);
-    EXPECT_EQ(loads.activeSeries, "Mine");
-    EXPECT_EQ(loads.flowRate, 2);
-    EXPECT_EQ(loads.inletTemp, (ByMode<double>{90, 40}));
-    EXPECT_EQ(loads.workingZoneFile, "mine.zon");
-    EXPECT_EQ(loads.workingZoneDirectory, "/mine");
-    EXPECT_TRUE(loads.workingFileCheck);
-    EXPECT_EQ(loads.information.city, "Stillwater");
+    ASSERT_EQ(loads.ZoneList().size(), 1u);
+    EXPECT_EQ(loads.ZoneList()[0].gains[1][cooling], 7);
+    EXPECT_EQ(loads.data().activeSeries, "Mine");
+    EXPECT_EQ(loads.data().conditions.flowRate, 2);
+    EXPECT_EQ(loads.data().conditions.inletTemp, (ByMode<double>{90, 40}));
+    EXPECT_EQ(loads.edit().file.name, "mine.zon");
+    EXPECT_EQ(loads.edit().file.folder, "/mine");
+    EXPECT_TRUE(loads.edit().file.exists);
+    EXPECT_EQ(loads.edit().information.city, "Stillwater");
 }
 
 TEST_F(LoadsTransfer, OutFirstHandsPendingChangesToTheDesignThatReadLast) {
     PlainDesign& second = newDesign();
     link(second);
-    loads.ZoneList[0].days = 2;
+    loads.data().zones.edit(0).days = 2;
     loads.unsaved = true;
-    ASSERT_EQ(loads.designLinkID, second.myID);
+    ASSERT_EQ(loads.links().designLinkID(), second.myID);
     design->TransferLoadsVariablesOut();
-    EXPECT_EQ(second.ZoneList[0].days, 2);
-    EXPECT_EQ(loads.ZoneList[0].days, 7);
-    EXPECT_EQ(loads.designLinkID, design->myID);
+    EXPECT_EQ(second.ZoneList()[0].days, 2);
+    EXPECT_EQ(loads.ZoneList()[0].days, 7);
+    EXPECT_EQ(loads.links().designLinkID(), design->myID);
 }
 
 TEST_F(LoadsTransfer, CallReachesTheDesignWithTheNumber) {
-    loads.ZoneList[0].days = 2;
+    loads.data().zones.edit(0).days = 2;
     TransferCall(main, 0);
     EXPECT_EQ(design->changes, 0);
     TransferCall(main, design->myID);
@@ -158,9 +158,9 @@ TEST_F(LoadsTransfer, CallReachesTheDesignWithTheNumber) {
 }
 
 TEST_F(LoadsTransfer, PassesAChangedTemperatureAndSelectsPumpsAgainOnLeaving) {
-    design->inletTemp[heating] = 44;
+    design->held.conditions.inletTemp[heating] = 44;
     design->passTemperature(heating);
-    EXPECT_EQ(loads.inletTemp, (ByMode<double>{85, 44}));
+    EXPECT_EQ(loads.data().conditions.inletTemp, (ByMode<double>{85, 44}));
     EXPECT_EQ(loads.fluidsShown, 1);
     EXPECT_EQ(loads.pumpsUpdated, 0);
     design->refreshLoadsPumps();
@@ -168,10 +168,10 @@ TEST_F(LoadsTransfer, PassesAChangedTemperatureAndSelectsPumpsAgainOnLeaving) {
 }
 
 TEST_F(LoadsTransfer, PassesAChangedFlow) {
-    design->flowRate = 2.25;
+    design->held.conditions.flowRate = 2.25;
     design->passFlow();
     design->refreshLoadsPumps();
-    EXPECT_EQ(loads.flowRate, 2.25);
+    EXPECT_EQ(loads.data().conditions.flowRate, 2.25);
     EXPECT_EQ(loads.fluidsShown, 1);
     EXPECT_EQ(loads.pumpsUpdated, 1);
 }
@@ -181,23 +181,23 @@ TEST_F(LoadsTransfer, LeavesPumpsAloneThatAreBeingSelectedOrWhenNothingChanged) 
     design->refreshLoadsPumps();
     EXPECT_EQ(loads.pumpsUpdated, 0);
     loads.selectingPump = true;
-    design->flowRate = 2;
+    design->held.conditions.flowRate = 2;
     design->passFlow();
     design->refreshLoadsPumps();
     EXPECT_EQ(loads.pumpsUpdated, 0);
 }
 
 TEST_F(LoadsTransfer, WithoutALinkDoesNothing) {
-    unlinkDesign(*design);
-    loads.ZoneList[0].days = 2;
-    design->flowRate = 2;
+    design->leaveLoads();
+    loads.data().zones.edit(0).days = 2;
+    design->held.conditions.flowRate = 2;
     design->TransferLoadsVariablesIn();
     design->TransferLoadsVariablesOut();
     design->passFlow();
     design->passTemperature(cooling);
     design->refreshLoadsPumps();
     EXPECT_EQ(design->changes, 0);
-    EXPECT_EQ(loads.flowRate, 3);
+    EXPECT_EQ(loads.data().conditions.flowRate, 3);
 }
 
 }  // namespace

@@ -7,7 +7,7 @@ namespace {
 class LoadsFieldsTest : public LoadsTest {
  protected:
     LoadsFieldsTest() { window.click("LONewCommand"); }
-    Zone& zone() { return window.ZoneList[0]; }
+    const Zone& zone() const { return window.ZoneList()[0]; }
     void inMetric() { window.click("MetricCheck"); }
 
     frmZoneManage& window = manager();
@@ -115,9 +115,9 @@ TEST_F(LoadsFieldsTest, FiguresOfACustomPumpAreTyped) {
     EXPECT_EQ(shown(window, "LOCOPText(0)"), "5.0");
     EXPECT_EQ(shown(window, "LOFlowRateText(0)"), "28.4");  // 7.5 x 3.785412
     window.type("LOCOPText(0)", "4.5");
-    EXPECT_EQ(pump.efficiency[cooling], 4.5);
+    EXPECT_EQ(zone().pump.efficiency[cooling], 4.5);
     window.type("LOFlowRateText(0)", "3.785412");
-    EXPECT_NEAR(pump.flowRate[cooling], 1, 1e-12);
+    EXPECT_NEAR(zone().pump.flowRate[cooling], 1, 1e-12);
 }
 
 TEST_F(LoadsFieldsTest, FiguresHaveTheirLimits) {
@@ -142,7 +142,7 @@ TEST_F(LoadsFieldsTest, FiguresOfACataloguePumpAreLockedUntilItBecomesACustomOne
     EXPECT_EQ(shown(window, "LODetailsTextLabel(2)"), "[2865]");
     window.click("LOCustomPumpCheck");
     EXPECT_FALSE(window.control("LOCapacityText(1)").locked());
-    const MiniPump& pump = window.ZoneList[1].pump;
+    const MiniPump& pump = window.ZoneList()[1].pump;
     EXPECT_EQ(pump.customPump, 1);
     EXPECT_EQ(pump.mfgName, "");
     EXPECT_EQ(pump.seriesName, "");
@@ -192,8 +192,10 @@ TEST_F(LoadsFieldsTest, LoadSideConditionsHaveLimitsAndDefaults) {
 }
 
 TEST_F(LoadsFieldsTest, LoadFlowsAreInLitresASecondOfAirAndInLitresAMinuteOfWater) {
-    zone().pump.elf = {1000, 10};
-    zone().pump.nominalFlow = 1200;
+    window.change([](LoadsDocument& of) {
+        of.data.zones.edit(0).pump.elf = {1000, 10};
+        of.data.zones.edit(0).pump.nominalFlow = 1200;
+    });
     inMetric();
     EXPECT_EQ(shown(window, "LOInletLoadsFlowText(0)"), "472");   // 1000 x 0.4719474
     EXPECT_EQ(shown(window, "LOInletLoadsFlowText(3)"), "37.9");  // 10 x 3.785412
@@ -202,8 +204,10 @@ TEST_F(LoadsFieldsTest, LoadFlowsAreInLitresASecondOfAirAndInLitresAMinuteOfWate
     EXPECT_TRUE(window.control("LONominalFlowText").locked());
     window.type("LOInletLoadsFlowText(0)", "4.719474");
     EXPECT_NEAR(zone().pump.elf[cooling], 10, 1e-12);
-    zone().pump.pumpType = 1;
-    zone().pump.nominalFlow = 4;
+    window.change([](LoadsDocument& of) {
+        of.data.zones.edit(0).pump.pumpType = 1;
+        of.data.zones.edit(0).pump.nominalFlow = 4;
+    });
     window.choose("LOZoneList", 0);
     EXPECT_EQ(shown(window, "LONominalFlowText"), "15.1");  // 4 x 3.785412
     EXPECT_EQ(shown(window, "LONominalFlowUnitLabel"), "[2877]");
@@ -213,35 +217,35 @@ TEST_F(LoadsFieldsTest, LoadFlowsAreInLitresASecondOfAirAndInLitresAMinuteOfWate
 
 TEST_F(LoadsFieldsTest, DesignTemperaturesOutOfRangeGoBackToTheirDefaults) {
     window.type("LOInletTempText(0)", "90");
-    EXPECT_EQ(window.inletTemp[cooling], 90);
+    EXPECT_EQ(window.conditions().inletTemp[cooling], 90);
     window.type("LOInletTempText(0)", "212.1");
     window.type("LOInletTempText(1)", "-0.1");
-    EXPECT_EQ(window.inletTemp, (ByMode<double>{85, 50}));
+    EXPECT_EQ(window.conditions().inletTemp, (ByMode<double>{85, 50}));
     for (int i = 0; i < 4; ++i) window.type("HPLoadInletText(" + std::to_string(i) + ")", "300");
-    EXPECT_EQ(window.inletLoadAirTemp, (ByMode<double>{67, 70}));
-    EXPECT_EQ(window.inletLoadWaterTemp, (ByMode<double>{55, 100}));
+    EXPECT_EQ(window.conditions().inletLoadAirTemp, (ByMode<double>{67, 70}));
+    EXPECT_EQ(window.conditions().inletLoadWaterTemp, (ByMode<double>{55, 100}));
 }
 
 TEST_F(LoadsFieldsTest, LoadInletFieldsFollowTheModeCoolingFirst) {
     const char* values[] = {"60", "61", "62", "63"};
     for (int i = 0; i < 4; ++i)
         window.type("HPLoadInletText(" + std::to_string(i) + ")", values[i]);
-    EXPECT_EQ(window.inletLoadAirTemp, (ByMode<double>{60, 61}));
-    EXPECT_EQ(window.inletLoadWaterTemp, (ByMode<double>{62, 63}));
+    EXPECT_EQ(window.conditions().inletLoadAirTemp, (ByMode<double>{60, 61}));
+    EXPECT_EQ(window.conditions().inletLoadWaterTemp, (ByMode<double>{62, 63}));
     EXPECT_EQ(shown(window, "HPLoadInletLabel(0)"), "[2888]");  // Cooling (WB):
     EXPECT_EQ(shown(window, "HPLoadInletLabel(1)"), "[2887]");  // Heating (DB):
 }
 
 TEST_F(LoadsFieldsTest, AFlowMustBePositiveAndNotAbove212) {
     window.type("FLFlowRateText", "212");
-    EXPECT_EQ(window.flowRate, 212);
+    EXPECT_EQ(window.conditions().flowRate, 212);
     for (const char* refused : {"0", "-2", "212.5"}) {
         window.type("FLFlowRateText", refused);
-        EXPECT_EQ(window.flowRate, 3) << refused;
+        EXPECT_EQ(window.conditions().flowRate, 3) << refused;
     }
     inMetric();
     window.type("FLFlowRateText", "7.570824");
-    EXPECT_NEAR(window.flowRate, 2, 1e-12);
+    EXPECT_NEAR(window.conditions().flowRate, 2, 1e-12);
     EXPECT_EQ(shown(window, "FLFlowRateUnitLabel"), "[2872]");
 }
 
@@ -249,37 +253,37 @@ TEST_F(LoadsFieldsTest, ZeroDegreesCelsiusCanBeTyped) {
     inMetric();
     window.type("LOInletTempText(1)", "0");
     window.leave("LOInletTempText(1)");
-    EXPECT_EQ(window.inletTemp[heating], 32);
+    EXPECT_EQ(window.conditions().inletTemp[heating], 32);
     EXPECT_EQ(shown(window, "LOInletTempText(1)"), "0.0");
 }
 
 TEST_F(LoadsFieldsTest, AZeroInEnglishIsTheFreezingPointOnceTheFieldIsLeft) {
     window.type("LOInletTempText(1)", "0");
-    EXPECT_EQ(window.inletTemp[heating], 0);
+    EXPECT_EQ(window.conditions().inletTemp[heating], 0);
     window.key("LOInletTempText(1)", "Enter");
-    EXPECT_EQ(window.inletTemp[heating], 32);
+    EXPECT_EQ(window.conditions().inletTemp[heating], 32);
     EXPECT_EQ(shown(window, "LOInletTempText(1)"), "32.0");
 }
 
 TEST_F(LoadsFieldsTest, MinusSeventeenPointEightCelsiusStaysZeroFahrenheit) {
-    window.inletTemp[heating] = 0;
+    window.change([](LoadsDocument& of) { of.data.conditions.inletTemp[heating] = 0; });
     inMetric();
     window.leave("LOInletTempText(1)");
-    EXPECT_EQ(window.inletTemp[heating], 0);
+    EXPECT_EQ(window.conditions().inletTemp[heating], 0);
     EXPECT_EQ(shown(window, "LOInletTempText(1)"), "-17.8");
 }
 
 TEST_F(LoadsFieldsTest, AnEmptyTemperatureTakesItsDefaultOnLeaving) {
     window.type("LOInletTempText(0)", "");
-    EXPECT_EQ(window.inletTemp[cooling], 0);
+    EXPECT_EQ(window.conditions().inletTemp[cooling], 0);
     window.leave("LOInletTempText(0)");
-    EXPECT_EQ(window.inletTemp[cooling], 85);
+    EXPECT_EQ(window.conditions().inletTemp[cooling], 85);
 }
 
 TEST_F(LoadsFieldsTest, ATemperatureCanBePasted) {
     platform.clipboardText = "77";
     window.key("LOInletTempText(0)", "Ctrl+V");
-    EXPECT_EQ(window.inletTemp[cooling], 77);
+    EXPECT_EQ(window.conditions().inletTemp[cooling], 77);
 }
 
 TEST_F(LoadsFieldsTest, EveryFieldMarksTheChangesUnsaved) {
@@ -338,7 +342,7 @@ TEST_F(LoadsFieldsTest, WithoutAZoneTheyKeepNothing) {
     window.click("LOSelectCommand");
     window.click("LOSelectPumpCommand");
     window.click("LOAutoSelectCommand");
-    EXPECT_TRUE(window.ZoneList.empty());
+    EXPECT_TRUE(window.ZoneList().empty());
     EXPECT_TRUE(platform.messages.empty());
 }
 

@@ -12,16 +12,16 @@ class PumpByHandTest : public PumpChoiceTest {};
 TEST_F(PumpByHandTest, BrowsingChangesTheActiveSeriesAndNoZone) {
     addZone(window, 15, 10);
     setSaved(window, "a.zon");
-    const std::vector<Zone> before = window.ZoneList;
+    const SharedZones before = window.ZoneList();
     using Strings = std::vector<std::string>;
     EXPECT_EQ(window.control("HPManufacturerCombo").items(), (Strings{"First", "Second"}));
     EXPECT_EQ(window.control("HPSeriesCombo").items(), (Strings{"Air", "Water"}));
     EXPECT_EQ(window.control("HPPumpList").items(), (Strings{"Air-10", "Air-20", "Air-40"}));
     window.choose("HPManufacturerCombo", 1);
-    EXPECT_EQ(window.activeSeries, "SecondOther");
+    EXPECT_EQ(window.activeSeries(), "SecondOther");
     EXPECT_EQ(window.control("HPPumpList").items(), (Strings{"Other-50"}));
     EXPECT_EQ(window.catalogue.size(activeSlot), 1U);
-    EXPECT_EQ(window.ZoneList, before);
+    EXPECT_EQ(window.ZoneList(), before);
     EXPECT_TRUE(window.hasUnsavedChanges());
 }
 
@@ -29,7 +29,7 @@ TEST_F(PumpByHandTest, ASeriesThatCannotBeReadDoesNotBecomeActive) {
     std::filesystem::remove(pumps() + "/f_Water.hpd");
     window.choose("HPSeriesCombo", 1);
     EXPECT_EQ(lastMessage(), "[2455]\r\r" + pumps() + "/f_Water.hpd");
-    EXPECT_EQ(window.activeSeries, "FirstAir");
+    EXPECT_EQ(window.activeSeries(), "FirstAir");
     EXPECT_EQ(shown(window, "HPSeriesCombo"), "Air");
     EXPECT_FALSE(window.hasUnsavedChanges());
 }
@@ -47,7 +47,7 @@ TEST_F(PumpByHandTest, TheSelectionPanelStartsWithTheActiveSeries) {
     choose("LOMfgCombo", "Second");
     EXPECT_EQ(shown(window, "LOSeriesCombo"), "Other");
     EXPECT_EQ(shown(window, "LOPumpNameCombo"), "Other-50");
-    EXPECT_EQ(window.activeSeries, "FirstAir");
+    EXPECT_EQ(window.activeSeries(), "FirstAir");
     EXPECT_EQ(pumpOf(0).name, "No Pump");
     window.click("LOCancelCommand");
     EXPECT_FALSE(window.pumpsAreBeingSelected());
@@ -107,12 +107,12 @@ TEST_F(PumpByHandTest, UnitsToSelectAreAtLeastOneAndFitIntoSixteenBits) {
     window.type("LONumberOfUnitsText(0)", "-2");
     window.click("LOSelectPumpCommand");
     EXPECT_EQ(pumpOf(0).number, 1);
-    const Zone before = window.ZoneList[0];
+    const Zone before = window.ZoneList()[0];
     window.click("LOSelectCommand");
     window.type("LONumberOfUnitsText(0)", "40000");
     window.click("LOSelectPumpCommand");
     EXPECT_EQ(lastMessage(), "6 - Overflow");
-    EXPECT_EQ(window.ZoneList[0], before);
+    EXPECT_EQ(window.ZoneList()[0], before);
 }
 
 TEST_F(PumpByHandTest, AManufacturerThatIsListedTwiceStandsInTheListsOnce) {
@@ -122,7 +122,7 @@ TEST_F(PumpByHandTest, AManufacturerThatIsListedTwiceStandsInTheListsOnce) {
     EXPECT_EQ(window.control("HPManufacturerCombo").items(), (Strings{"First", "Second"}));
     EXPECT_EQ(window.control("HPSeriesCombo").items(), (Strings{"Air", "Water", "More"}));
     choose("HPSeriesCombo", "More");
-    EXPECT_EQ(window.activeSeries, "FirstMore");
+    EXPECT_EQ(window.activeSeries(), "FirstMore");
     window.InitializeHeatPumpLists();
     EXPECT_EQ(shown(window, "HPManufacturerCombo"), "First");
     EXPECT_EQ(shown(window, "HPSeriesCombo"), "More");
@@ -194,13 +194,13 @@ TEST_F(PumpByHandTest, AReturnFromTheDetailsOfAModelThatTheCatalogueLostChangesN
     addZone(window, 15, 10);
     window.click("LOAutoSelectCommand");
     for (std::string MiniPump::*lost : {&MiniPump::name, &MiniPump::seriesName}) {
-        window.ZoneList[0].pump.*lost = "Gone";
+        window.change([&](LoadsDocument& of) { of.data.zones.edit(0).pump.*lost = "Gone"; });
         window.choose("LOZoneList", 0);
         setSaved(window, "a.zon");
         window.click("LODetailsCommand");
-        const Zone before = window.ZoneList[0];
+        const Zone before = window.ZoneList()[0];
         window.click("LOReturnCommand");
-        EXPECT_EQ(window.ZoneList[0], before);
+        EXPECT_EQ(window.ZoneList()[0], before);
         EXPECT_FALSE(window.hasUnsavedChanges());
     }
     EXPECT_TRUE(platform.messages.empty());
@@ -267,7 +267,7 @@ TEST_F(PumpByHandTest, ClearTakesThePumpOutOfTheZone) {
         EXPECT_EQ(shown(window, field), "0.00") << field;
     EXPECT_FALSE(window.control("LOCustomPumpCheck").checked());
     EXPECT_TRUE(window.hasUnsavedChanges());
-    EXPECT_EQ(window.ZoneList[0].gains[1][cooling], 15);
+    EXPECT_EQ(window.ZoneList()[0].gains[1][cooling], 15);
 }
 
 TEST_F(PumpByHandTest, TheDetailsAndTheSelectionAreNotOpenTogether) {

@@ -12,7 +12,7 @@ namespace varnholt {
 /// A Zone Manager whose catalogue can be given further series.
 class PumpChoiceTest : public LoadsTest {
  protected:
-    const MiniPump& pumpOf(std::size_t zone) const { return window.ZoneList.at(zone).pump; }
+    const MiniPump& pumpOf(std::size_t zone) const { return window.ZoneList().at(zone).pump; }
     /// Chooses an entry by its text.
     void choose(const std::string& combo, const std::string& entry) {
         const auto& items = window.control(combo).items();

@@ -65,31 +65,31 @@ TEST_F(PumpSelectionTest, WithoutAFittingPumpTheZoneStaysAsItWas) {
     addZone(window, 15, 10);
     window.click("LOAutoSelectCommand");
     window.type("LOGainsText(1)", "4000");  // a hundred of the largest are exactly that
-    const Zone before = window.ZoneList[0];
+    const Zone before = window.ZoneList()[0];
     window.click("LOAutoSelectCommand");
     EXPECT_EQ(platform.messages.back().icon, MessageIcon::exclamation);
     EXPECT_EQ(lastMessage(), "[2940]\n\nZone 1");
-    EXPECT_EQ(window.ZoneList[0], before);
+    EXPECT_EQ(window.ZoneList()[0], before);
 }
 
 TEST_F(PumpSelectionTest, AnEmptySeriesFitsNoZone) {
     makeActive("Empty", std::vector<pump>{});
     addZone(window, 15, 10);
-    const Zone before = window.ZoneList[0];
+    const Zone before = window.ZoneList()[0];
     window.click("LOAutoSelectCommand");
     EXPECT_EQ(lastMessage(), "[2940]\n\nZone 1");
-    EXPECT_EQ(window.ZoneList[0], before);
+    EXPECT_EQ(window.ZoneList()[0], before);
 }
 
 TEST_F(PumpSelectionTest, ASeriesOfMoreThan101ModelsCannotBeSearched) {
     makeActive("Long", std::vector<pump>(102, plainModel("Same", 30, 30)));
     addZone(window, 15, 10);
-    const Zone before = window.ZoneList[0];
+    const Zone before = window.ZoneList()[0];
     window.click("LOAutoSelectCommand");
     EXPECT_EQ(lastMessage(), RunTimeError(9).message());
     window.click("LOAutoSelectAllCommand");
     EXPECT_EQ(platform.messages.size(), 2U);
-    EXPECT_EQ(window.ZoneList[0], before);
+    EXPECT_EQ(window.ZoneList()[0], before);
 }
 
 TEST_F(PumpSelectionTest, EqualCatalogueFlowsEndWithDivisionByZero) {
@@ -97,14 +97,14 @@ TEST_F(PumpSelectionTest, EqualCatalogueFlowsEndWithDivisionByZero) {
     model.ewt[3].flowRate[1].flowRate = 6;
     makeActive("Flows", {model});
     addZone(window, 15, 10);
-    const Zone before = window.ZoneList[0];
+    const Zone before = window.ZoneList()[0];
     window.click("LOAutoSelectCommand");
     EXPECT_EQ(lastMessage(), "11 - Division by zero");
-    EXPECT_EQ(window.ZoneList[0], before);
+    EXPECT_EQ(window.ZoneList()[0], before);
     window.click("LOSelectCommand");
     window.click("LOSelectPumpCommand");
     EXPECT_EQ(lastMessage(), "11 - Division by zero");
-    EXPECT_EQ(window.ZoneList[0], before);
+    EXPECT_EQ(window.ZoneList()[0], before);
     EXPECT_EQ(shown(window, "LOPumpNameText"), "No Pump");
     EXPECT_FALSE(window.selectingPump);
     EXPECT_EQ(window.catalogue.PumpList(browsedSlot, 0).name, "Equal");
@@ -146,7 +146,7 @@ TEST_F(PumpSelectionTest, AutoSelectAllNamesTheZonesWithoutAPumpInOneMessage) {
 TEST_F(PumpSelectionTest, AutoSelectionSearchesTheActiveSeriesAtTheNominalLoadFlow) {
     makeActive("First", "Water");
     addZone(window, 20, 10);
-    window.ZoneList[0].pump.elf = {500, 500};
+    window.change([&](LoadsDocument& of) { of.data.zones.edit(0).pump.elf = {500, 500}; });
     window.click("LOAutoSelectCommand");
     EXPECT_EQ(pumpOf(0).name, "Water-30");
     EXPECT_EQ(pumpOf(0).pumpType, 1);
@@ -181,7 +181,7 @@ TEST_F(PumpSelectionTest, AnUpdateKeepsEachZonesSeriesAndLoadTemperatures) {
     EXPECT_EQ(pumpOf(0).name, "Air-20");
     EXPECT_EQ(pumpOf(0).elt, (ByMode<double>{64, 70}));
     EXPECT_EQ(pumpOf(1).name, "Other-50");
-    EXPECT_EQ(window.activeSeries, "SecondOther");
+    EXPECT_EQ(window.activeSeries(), "SecondOther");
     EXPECT_EQ(window.catalogue.PumpList(activeSlot, 0).name, "Other-50");
     EXPECT_EQ(window.selectedZone(), 0);
 }
@@ -207,9 +207,9 @@ TEST_F(PumpSelectionTest, AnUpdateSkipsCustomPumps) {
     window.click("LOCustomPumpCheck");
     window.type("LOCapacityText(0)", "33");
     setSaved(window, "a.zon");
-    const std::vector<Zone> before = window.ZoneList;
+    const SharedZones before = window.ZoneList();
     window.click("LOUpdatePumpsCommand");
-    EXPECT_EQ(window.ZoneList, before);
+    EXPECT_EQ(window.ZoneList(), before);
     EXPECT_FALSE(window.hasUnsavedChanges());
     EXPECT_TRUE(platform.messages.empty());
 }
@@ -218,13 +218,13 @@ TEST_F(PumpSelectionTest, AnUpdateTellsOfASeriesThatTheCatalogueLost) {
     addZone(window, 15, 10);
     addZone(window, 15, 10);
     window.click("LOAutoSelectAllCommand");
-    window.ZoneList[0].pump.seriesName = "Gone";
-    const Zone before = window.ZoneList[0];
+    window.change([&](LoadsDocument& of) { of.data.zones.edit(0).pump.seriesName = "Gone"; });
+    const Zone before = window.ZoneList()[0];
     window.type("LOGainsText(1)", "25");
     window.click("LOUpdatePumpsCommand");
     ASSERT_EQ(platform.messages.size(), 1U);
     EXPECT_EQ(lastMessage(), "Zone 1 [2875]");
-    EXPECT_EQ(window.ZoneList[0], before);
+    EXPECT_EQ(window.ZoneList()[0], before);
     EXPECT_EQ(pumpOf(1).name, "Air-40");
 }
 
@@ -234,21 +234,21 @@ TEST_F(PumpSelectionTest, AnUpdateWithoutASeriesFileLeavesTheZone) {
     window.click("LOAutoSelectCommand");
     makeActive("First", "Air");
     std::filesystem::remove(pumps() + "/f_Other.hpd");
-    const Zone before = window.ZoneList[0];
+    const Zone before = window.ZoneList()[0];
     window.click("LOUpdatePumpsCommand");
     ASSERT_EQ(platform.messages.size(), 1U);
     EXPECT_EQ(lastMessage(), "[2455]\r\r" + pumps() + "/f_Other.hpd");
-    EXPECT_EQ(window.ZoneList[0], before);
+    EXPECT_EQ(window.ZoneList()[0], before);
 }
 
 TEST_F(PumpSelectionTest, AnUpdateWithoutAFittingPumpLeavesTheZone) {
     addZone(window, 15, 10);
     window.click("LOAutoSelectCommand");
     window.type("LOGainsText(1)", "9000");
-    const Zone before = window.ZoneList[0];
+    const Zone before = window.ZoneList()[0];
     window.click("LOUpdatePumpsCommand");
     EXPECT_EQ(lastMessage(), "[2941]\n\nZone 1");
-    EXPECT_EQ(window.ZoneList[0], before);
+    EXPECT_EQ(window.ZoneList()[0], before);
 }
 
 }  // namespace

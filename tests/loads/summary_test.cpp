@@ -136,7 +136,10 @@ TEST_F(SummaryTest, FollowsTheUnits) {
 }
 
 TEST_F(SummaryTest, WithoutPowerTheEfficiencyIsZero) {
-    for (Zone& zone : window.ZoneList) zone.pump.watts = {0, 0};
+    window.change([](LoadsDocument& of) {
+        for (std::size_t i = 0; i < of.data.zones.size(); ++i)
+            of.data.zones.edit(i).pump.watts = {0, 0};
+    });
     window.click("LOSummaryCommand");
     EXPECT_EQ(shown(window, "LOPumpCOPLabel(0)"), "0.0");
     EXPECT_EQ(shown(window, "LOPumpCOPLabel(1)"), "0.0");
@@ -154,7 +157,7 @@ TEST_F(SummaryTest, CountsTypedFiguresLikeEvaluatedOnes) {
 
 TEST_F(SummaryTest, IsRebuiltByASelectionForAllZonesWhichThenRests) {
     window.click("LOSummaryCommand");
-    window.ZoneList[0].gains[1][cooling] = 35;
+    window.change([&](LoadsDocument& of) { of.data.zones.edit(0).gains[1][cooling] = 35; });
     window.click("LOAutoSelectAllCommand");
     EXPECT_TRUE(window.control("LOSummaryPicture").visible());
     EXPECT_EQ(shown(window, "LOTotalCapacityLabel(0)"), "80.0");
@@ -168,7 +171,7 @@ TEST_F(SummaryTest, IsRebuiltByASelectionForAllZonesWhichThenRests) {
 
 TEST_F(SummaryTest, IsRebuiltByAnUpdateOfThePumps) {
     window.click("LOSummaryCommand");
-    window.ZoneList[0].gains[1][cooling] = 35;
+    window.change([&](LoadsDocument& of) { of.data.zones.edit(0).gains[1][cooling] = 35; });
     window.click("LOUpdatePumpsCommand");
     EXPECT_EQ(shown(window, "LOTotalCapacityLabel(0)"), "80.0");
 }

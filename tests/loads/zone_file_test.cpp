@@ -15,8 +15,8 @@ const std::vector<const char*> versions{"1.0", "1.1", "2.0", "2.1", "3.0"};
 /// What a window holds before it opens a file.
 LoadsData earlierData() {
     LoadsData data;
-    data.zones.resize(1);
-    data.zones[0].title = "earlier";
+    data.zones = std::vector<Zone>(1);
+    data.zones.edit(0).title = "earlier";
     data.conditions = {1, {2, 3}, {4, 5}, {6, 7}};
     data.activeSeries = "earlier";
     return data;
@@ -127,8 +127,8 @@ TEST(ZoneFile, OfEveryVersionIsTheSameDataAfterSaving) {
 
 TEST(ZoneFile, KeepsAnEmptyTitleAsALine) {
     LoadsData data;
-    data.zones.resize(2);
-    data.zones[1].title = "second";
+    data.zones = std::vector<Zone>(2);
+    data.zones.edit(1).title = "second";
     const LoadsData read = readBytes(zonesText(data));
     EXPECT_EQ(read.zones.at(0).title, "");
     EXPECT_EQ(read.zones.at(1).title, "second");
@@ -144,9 +144,9 @@ TEST(ZoneFile, KeepsTheTypedValuesOfACustomPump) {
 
 TEST(ZoneFile, NumbersTheZonesByTheirPositionAndStoresNoName) {
     LoadsData data;
-    data.zones.resize(2);
-    data.zones[0].name = "Zone 7";
-    data.zones[1].name = "Zone 3";
+    data.zones = std::vector<Zone>(2);
+    data.zones.edit(0).name = "Zone 7";
+    data.zones.edit(1).name = "Zone 3";
     const std::string text = zonesText(data);
     EXPECT_EQ(text.find("Zone 7"), std::string::npos);
     const LoadsData read = readBytes(text);

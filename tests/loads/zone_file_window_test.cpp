@@ -17,10 +17,10 @@ class ZoneFileWindowTest : public LoadsTest {
     /// A file with three zones of cooling loads 1, 2 and 3.
     void writeThreeZones(const std::string& name) {
         LoadsData data;
-        data.zones.resize(3);
+        data.zones = std::vector<Zone>(3);
         for (std::size_t i = 0; i < 3; ++i) {
-            data.zones[i].gains[0][cooling] = static_cast<double>(i + 1);
-            data.zones[i].title = "Room " + std::to_string(i + 1);
+            data.zones.edit(i).gains[0][cooling] = static_cast<double>(i + 1);
+            data.zones.edit(i).title = "Room " + std::to_string(i + 1);
         }
         data.conditions.flowRate = 2.5;
         data.conditions.inletTemp = {90, 40};
@@ -41,19 +41,19 @@ TEST_F(ZoneFileWindowTest, WhatIsSavedComesBack) {
     window.click("LOAutoSelectAllCommand");
     window.type("FLFlowRateText", "2.75");
     window.choose("HPSeriesCombo", 1);
-    const std::vector<Zone> zones = window.ZoneList;
+    const SharedZones zones = window.ZoneList();
     setSaved(window, "a.zon");
     EXPECT_FALSE(window.hasUnsavedChanges());
-    EXPECT_EQ(window.workingZoneFile, "a.zon");
-    EXPECT_EQ(window.workingZoneDirectory, folder.path() + "/zones");
-    EXPECT_TRUE(window.workingFileCheck);
+    EXPECT_EQ(window.file().name, "a.zon");
+    EXPECT_EQ(window.file().folder, folder.path() + "/zones");
+    EXPECT_TRUE(window.file().exists);
     EXPECT_EQ(shown(window, "LOWorkingZoneLabel"), "a.zon");
     main.close(window);
     frmZoneManage& other = manager();
     ASSERT_TRUE(other.LOOpenZoneFile(zoneFile("a.zon")));
-    EXPECT_EQ(other.ZoneList, zones);
-    EXPECT_EQ(other.flowRate, 2.75);
-    EXPECT_EQ(other.activeSeries, "FirstWater");
+    EXPECT_EQ(other.ZoneList(), zones);
+    EXPECT_EQ(other.conditions().flowRate, 2.75);
+    EXPECT_EQ(other.activeSeries(), "FirstWater");
     EXPECT_EQ(other.catalogue.PumpList(activeSlot, 0).name, "Water-15");
     EXPECT_FALSE(other.hasUnsavedChanges());
 }
@@ -63,8 +63,8 @@ TEST_F(ZoneFileWindowTest, OpeningShowsTheFirstZoneAndTheFilesConditions) {
     std::string used;
     main.fileUsed = [&](const std::string& path) { used = path; };
     open("three.zon");
-    EXPECT_EQ(window.zoneNumber, 3);
-    EXPECT_EQ(window.zoneCount, 3);
+    EXPECT_EQ(window.zoneNumber(), 3);
+    EXPECT_EQ(window.document().zoneCount, 3);
     EXPECT_EQ(window.selectedZone(), 0);
     EXPECT_EQ(shown(window, "LOZoneReferenceText"), "Room 1");
     EXPECT_EQ(shown(window, "LOInletTempText(1)"), "40.0");
@@ -76,30 +76,30 @@ TEST_F(ZoneFileWindowTest, OpeningShowsTheFirstZoneAndTheFilesConditions) {
     EXPECT_EQ(used, zoneFile("three.zon"));
     EXPECT_EQ(main.TempDirectory, folder.path() + "/zones");
     window.click("LONewCommand");
-    EXPECT_EQ(window.ZoneList[3].name, "Zone 4");
-    EXPECT_EQ(window.workingZoneFile, "three.zon");
+    EXPECT_EQ(window.ZoneList()[3].name, "Zone 4");
+    EXPECT_EQ(window.file().name, "three.zon");
 }
 
 TEST_F(ZoneFileWindowTest, AVersion10FileOpensWithTheConditionsOfItsTime) {
-    window.inletTemp = {99, 33};
+    window.change([](LoadsDocument& of) { of.data.conditions.inletTemp = {99, 33}; });
     ASSERT_TRUE(window.LOOpenZoneFile(sample("1.0")));
-    ASSERT_FALSE(window.ZoneList.empty());
-    for (const Zone& zone : window.ZoneList) {
+    ASSERT_FALSE(window.ZoneList().empty());
+    for (const Zone& zone : window.ZoneList()) {
         EXPECT_EQ(zone.pump.elf, (ByMode<double>{0, 0}));
         EXPECT_EQ(zone.pump.nominalFlow, 0);
     }
-    EXPECT_EQ(window.flowRate, 3);
-    EXPECT_EQ(window.inletTemp, (ByMode<double>{85, 50}));
+    EXPECT_EQ(window.conditions().flowRate, 3);
+    EXPECT_EQ(window.conditions().inletTemp, (ByMode<double>{85, 50}));
 }
 
 TEST_F(ZoneFileWindowTest, AVersion20FileGetsTheFirstSeriesOfTheCatalogue) {
     window.choose("HPManufacturerCombo", 1);
-    window.inletLoadAirTemp = {60, 60};
+    window.change([](LoadsDocument& of) { of.data.conditions.inletLoadAirTemp = {60, 60}; });
     platform.answers = {Answer::no};
     ASSERT_TRUE(window.LOOpenZoneFile(sample("2.0")));
-    EXPECT_EQ(window.activeSeries, "FirstAir");
-    EXPECT_EQ(window.inletLoadAirTemp, (ByMode<double>{67, 70}));
-    EXPECT_EQ(window.inletLoadWaterTemp, (ByMode<double>{55, 100}));
+    EXPECT_EQ(window.activeSeries(), "FirstAir");
+    EXPECT_EQ(window.conditions().inletLoadAirTemp, (ByMode<double>{67, 70}));
+    EXPECT_EQ(window.conditions().inletLoadWaterTemp, (ByMode<double>{55, 100}));
 }
 
 TEST_F(ZoneFileWindowTest, TypedFiguresOfAFileStayAsTheyStand) {
@@ -109,9 +109,9 @@ TEST_F(ZoneFileWindowTest, TypedFiguresOfAFileStayAsTheyStand) {
     window.type("LONumberOfUnitsText(1)", "3");
     setSaved(window, "custom.zon");
     ASSERT_TRUE(window.LOOpenZoneFile(zoneFile("custom.zon")));
-    EXPECT_EQ(window.ZoneList[0].pump.capacity[cooling], 77);
-    EXPECT_EQ(window.ZoneList[0].pump.number, 3);
-    EXPECT_EQ(window.ZoneList[0].pump.customPump, 1);
+    EXPECT_EQ(window.ZoneList()[0].pump.capacity[cooling], 77);
+    EXPECT_EQ(window.ZoneList()[0].pump.number, 3);
+    EXPECT_EQ(window.ZoneList()[0].pump.customPump, 1);
     EXPECT_TRUE(window.control("LOCustomPumpCheck").checked());
     EXPECT_FALSE(window.control("LOCapacityText(0)").locked());
     EXPECT_EQ(shown(window, "LONumberOfUnitsText(0)"), "3");
@@ -124,7 +124,7 @@ TEST_F(ZoneFileWindowTest, TheListsOrderAloneNumbersTheZones) {
     setSaved(window, "a.zon");
     ASSERT_TRUE(window.LOOpenZoneFile(zoneFile("a.zon")));
     EXPECT_EQ(window.control("LOZoneList").items(), (std::vector<std::string>{"Zone 1", "Zone 2"}));
-    EXPECT_EQ(window.ZoneList[0].gains[1][cooling], 2);
+    EXPECT_EQ(window.ZoneList()[0].gains[1][cooling], 2);
 }
 
 TEST_F(ZoneFileWindowTest, TheDialogStartsInTheZonesFolderWithTheZoneFiles) {
@@ -150,14 +150,14 @@ TEST_F(ZoneFileWindowTest, TheDialogStartsInTheZonesFolderWithTheZoneFiles) {
 
 TEST_F(ZoneFileWindowTest, ACancelledDialogLeavesAllAsItWas) {
     addZone(window, 15, 10);
-    const std::vector<Zone> zones = window.ZoneList;
+    const SharedZones zones = window.ZoneList();
     for (const char* command : {"LOSaveCommand", "LOOpenCommand"}) {
         platform.picks.emplace_back(std::nullopt);
         window.click(command);
-        EXPECT_EQ(window.ZoneList, zones);
+        EXPECT_EQ(window.ZoneList(), zones);
         EXPECT_TRUE(window.hasUnsavedChanges());
-        EXPECT_FALSE(window.workingFileCheck);
-        EXPECT_EQ(window.workingZoneFile, "Zone Loads.zon");
+        EXPECT_FALSE(window.file().exists);
+        EXPECT_EQ(window.file().name, "Zone Loads.zon");
     }
     EXPECT_TRUE(platform.questions.empty());
 }
@@ -167,20 +167,20 @@ TEST_F(ZoneFileWindowTest, OpeningOverUnsavedChangesAsksFirst) {
     addZone(window, 15, 10);
     platform.answers = {Answer::cancel};
     open("three.zon");
-    EXPECT_EQ(window.zoneNumber, 1);
+    EXPECT_EQ(window.zoneNumber(), 1);
     platform.answers = {Answer::no};
     open("three.zon");
-    EXPECT_EQ(window.zoneNumber, 3);
+    EXPECT_EQ(window.zoneNumber(), 3);
 }
 
 TEST_F(ZoneFileWindowTest, AMissingFileIsToldAndChangesNothing) {
     addZone(window, 15, 10);
-    const std::vector<Zone> zones = window.ZoneList;
+    const SharedZones zones = window.ZoneList();
     EXPECT_FALSE(window.LOOpenZoneFile(zoneFile("missing.zon")));
     EXPECT_EQ(platform.messages.back().icon, MessageIcon::exclamation);
     EXPECT_EQ(lastMessage(), RunTimeError(53).message());
-    EXPECT_EQ(window.ZoneList, zones);
-    EXPECT_EQ(window.workingZoneFile, "Zone Loads.zon");
+    EXPECT_EQ(window.ZoneList(), zones);
+    EXPECT_EQ(window.file().name, "Zone Loads.zon");
     EXPECT_TRUE(window.hasUnsavedChanges());
 }
 
@@ -198,9 +198,9 @@ TEST_F(ZoneFileWindowTest, ZonesThatCouldBeReadStayAndDoNotTakeTheFilesPlace) {
     writeFile(zoneFile("cut.zon"), whole.substr(0, whole.find("Room 3")));
     EXPECT_FALSE(window.LOOpenZoneFile(zoneFile("cut.zon")));
     EXPECT_EQ(lastMessage(), RunTimeError(62).message());
-    ASSERT_EQ(window.zoneNumber, 2);
+    ASSERT_EQ(window.zoneNumber(), 2);
     EXPECT_EQ(shown(window, "LOZoneReferenceText"), "Room 1");
-    EXPECT_FALSE(window.workingFileCheck);
+    EXPECT_FALSE(window.file().exists);
     EXPECT_TRUE(window.hasUnsavedChanges());
     EXPECT_TRUE(enabled(window, "LORemoveCommand"));
 }
@@ -212,9 +212,9 @@ TEST_F(ZoneFileWindowTest, EveryCutOfAFileLeavesAWindowThatWorks) {
         SCOPED_TRACE(length);
         writeFile(zoneFile("cut.zon"), whole.substr(0, length));
         window.LOOpenZoneFile(zoneFile("cut.zon"));
-        ASSERT_EQ(window.control("LOZoneList").items().size(), window.ZoneList.size());
-        ASSERT_EQ(static_cast<std::size_t>(window.zoneNumber), window.ZoneList.size());
-        ASSERT_EQ(window.control("LOZoneFrame").visible(), window.zoneNumber > 0);
+        ASSERT_EQ(window.control("LOZoneList").items().size(), window.ZoneList().size());
+        ASSERT_EQ(static_cast<std::size_t>(window.zoneNumber()), window.ZoneList().size());
+        ASSERT_EQ(window.control("LOZoneFrame").visible(), window.zoneNumber() > 0);
     }
 }
 
@@ -222,24 +222,24 @@ TEST_F(ZoneFileWindowTest, AFileWithoutZonesOpensToAnEmptyWindow) {
     writeFile(zoneFile("empty.zon"), zonesText(LoadsData{}));
     addZone(window, 15, 10);
     ASSERT_TRUE(window.LOOpenZoneFile(zoneFile("empty.zon")));
-    EXPECT_EQ(window.zoneNumber, 0);
+    EXPECT_EQ(window.zoneNumber(), 0);
     EXPECT_FALSE(window.control("LOZoneFrame").visible());
     EXPECT_FALSE(enabled(window, "LOAutoSelectAllCommand"));
-    EXPECT_EQ(window.workingZoneFile, "empty.zon");
+    EXPECT_EQ(window.file().name, "empty.zon");
 }
 
 TEST_F(ZoneFileWindowTest, AFailedSaveIsToldAndLosesNothing) {
     addZone(window, 15, 10);
-    const std::vector<Zone> zones = window.ZoneList;
+    const SharedZones zones = window.ZoneList();
     const std::string path = folder.path() + "/nowhere/a.zon";
     platform.picks.emplace_back(path);
     window.click("LOSaveCommand");
     EXPECT_EQ(platform.messages.back().icon, MessageIcon::exclamation);
     EXPECT_EQ(lastMessage(), "[2942]\n\n" + path + "\n\n" + RunTimeError(76).message());
-    EXPECT_EQ(window.ZoneList, zones);
+    EXPECT_EQ(window.ZoneList(), zones);
     EXPECT_TRUE(window.hasUnsavedChanges());
-    EXPECT_FALSE(window.workingFileCheck);
-    EXPECT_EQ(window.workingZoneFile, "Zone Loads.zon");
+    EXPECT_FALSE(window.file().exists);
+    EXPECT_EQ(window.file().name, "Zone Loads.zon");
 }
 
 TEST_F(ZoneFileWindowTest, ClosingAsksOnlyAboutUnsavedChanges) {
@@ -296,7 +296,7 @@ TEST_F(ZoneFileWindowTest, ClosingStopsWhenTheSaveFails) {
     EXPECT_FALSE(main.close(window));
     EXPECT_EQ(platform.messages.size(), 2U);
     EXPECT_EQ(lastMessage(), "[1207]");
-    EXPECT_EQ(window.ZoneList.size(), 1U);
+    EXPECT_EQ(window.ZoneList().size(), 1U);
 }
 
 TEST_F(ZoneFileWindowTest, TheFrameAsksInItsOwnWordsAndACancelKeepsItOpen) {

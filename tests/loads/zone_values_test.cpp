@@ -7,12 +7,13 @@ namespace varnholt {
 namespace {
 
 TEST(ZoneValues, ReadAsScriptsWriteThem) {
-    std::vector<Zone> zones(2);
-    zones[1].gains[3][heating] = 12.5;
-    zones[1].hours[cooling] = 900;
-    zones[1].title = "Gym";
-    zones[1].pump.plf[heating] = 0.75;
-    zones[1].pump.number = 3;
+    std::vector<Zone> list(2);
+    list[1].gains[3][heating] = 12.5;
+    list[1].hours[cooling] = 900;
+    list[1].title = "Gym";
+    list[1].pump.plf[heating] = 0.75;
+    list[1].pump.number = 3;
+    const SharedZones zones = list;
     Values values;
     addZoneValues(values, zones);
 
@@ -25,7 +26,7 @@ TEST(ZoneValues, ReadAsScriptsWriteThem) {
 }
 
 TEST(ZoneValues, OutsideTheListAreRunTimeErrorNine) {
-    const std::vector<Zone> zones(2);
+    const SharedZones zones = std::vector<Zone>(2);
     Values values;
     addZoneValues(values, zones);
     for (const char* path : {"ZoneList(2).days", "ZoneList(0).gains(4,0)", "ZoneList(0).gains(0,2)",

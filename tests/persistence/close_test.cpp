@@ -48,7 +48,7 @@ TEST_F(Closing, WithoutSavingFreesTheSlot) {
 TEST_F(Closing, WithSavingSavesThatWindowThoughAnotherIsActive) {
     frmBHDesign& first = newDesign();
     saveAs(first, "work files/first.vht");
-    first.information.city = "Stillwater";
+    change(first, [&](BoreholeProject& of) { of.information.city = "Stillwater"; });
     newDesign();
     answer(Answer::yes);
     EXPECT_TRUE(main.close(first));
@@ -79,7 +79,7 @@ TEST_F(Closing, StopsWhenTheZoneQuestionIsCancelled) {
     answer(Answer::cancel);
     EXPECT_FALSE(main.close(design()));
     EXPECT_TRUE(main.isOpen(&design()));
-    EXPECT_EQ(design().LoadsHome, &loads());
+    EXPECT_EQ(design().LoadsHome(), &loads());
 }
 
 TEST_F(Closing, ALinkedDesignTurnsTheLightOff) {
@@ -87,7 +87,7 @@ TEST_F(Closing, ALinkedDesignTurnsTheLightOff) {
     answer(Answer::no);
     ASSERT_TRUE(main.close(design()));
     EXPECT_FALSE(loads().control("imgLinkLight(0)").visible());
-    EXPECT_EQ(loads().designLinkID, 0);
+    EXPECT_EQ(loads().links().designLinkID(), 0);
     EXPECT_EQ(loads().caption(), "Project Loads");
 }
 

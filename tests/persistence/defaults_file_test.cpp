@@ -14,62 +14,62 @@ TEST_F(DefaultsFile, OverlaysTheBuiltInValuesOfANewDesign) {
     useSample();
     const frmBHDesign& d = newDesign();
     EXPECT_EQ(messages(), 0u);
-    EXPECT_EQ(d.inletTemp, (ByMode<double>{86.5, 48.5}));
-    EXPECT_EQ(d.results.outlet.outletTemp, (ByMode<double>{96.25, 43.75}));
-    EXPECT_EQ(d.inletLoadAirTemp, (ByMode<double>{66, 71}));
-    EXPECT_EQ(d.inletLoadWaterTemp, (ByMode<double>{54, 101}));
-    EXPECT_EQ(d.pipe.pipeDiameter, (std::array<double, 2>{1.66, 1.36}));
-    EXPECT_EQ(d.minflowRate, (ByMode<double>{2.7, 4.1}));
-    EXPECT_EQ(d.flowRate, 2.9);
-    EXPECT_EQ(d.fluid.percentAntifreeze, 20);
-    EXPECT_EQ(d.fluid.fluidTypeIndex, 4);
-    EXPECT_EQ(d.fluid.density, 61.5);
-    EXPECT_EQ(d.fluid.specificHeat, 0.98);
-    EXPECT_EQ(d.soil.groundTemp, 58.5);
-    EXPECT_EQ(d.soil.conductivity, 1.45);
-    EXPECT_EQ(d.soil.diffusivity, 0.9);
-    EXPECT_EQ(d.pipe.pipeSizeIndex, 2);
-    EXPECT_EQ(d.pipe.flowTypeIndex, 1);
-    EXPECT_EQ(d.bore.pipePlacement, 0);
-    EXPECT_EQ(d.bore.boreDiameter, 5.5);
-    EXPECT_EQ(d.bore.groutConductivity, 0.95);
-    EXPECT_EQ(d.pipe.pipeResistance, 0.0625);
-    EXPECT_EQ(d.bore.boreResistance, 0.1875);
-    EXPECT_EQ(d.arrangement.patternRows, (std::array<double, 2>{5, 8}));
-    EXPECT_EQ(d.arrangement.boreSeparation, 18.5);
-    EXPECT_EQ(d.arrangement.boresPerCircuit, 1);
-    EXPECT_EQ(d.arrangement.predictionTime, 12.5);
-    EXPECT_EQ(d.extraPower.motorEfficiency, (std::array<double, 3>{80, 85, 85}));
-    EXPECT_EQ(d.activeSeries, "BestSeries B");
+    EXPECT_EQ(d.conditions().inletTemp, (ByMode<double>{86.5, 48.5}));
+    EXPECT_EQ(d.results().outlet.outletTemp, (ByMode<double>{96.25, 43.75}));
+    EXPECT_EQ(d.conditions().inletLoadAirTemp, (ByMode<double>{66, 71}));
+    EXPECT_EQ(d.conditions().inletLoadWaterTemp, (ByMode<double>{54, 101}));
+    EXPECT_EQ(d.project().pipe.pipeDiameter, (std::array<double, 2>{1.66, 1.36}));
+    EXPECT_EQ(d.conditions().minflowRate, (ByMode<double>{2.7, 4.1}));
+    EXPECT_EQ(d.conditions().flowRate, 2.9);
+    EXPECT_EQ(d.project().fluid.percentAntifreeze, 20);
+    EXPECT_EQ(d.project().fluid.fluidTypeIndex, 4);
+    EXPECT_EQ(d.project().fluid.density, 61.5);
+    EXPECT_EQ(d.project().fluid.specificHeat, 0.98);
+    EXPECT_EQ(d.project().soil.groundTemp, 58.5);
+    EXPECT_EQ(d.project().soil.conductivity, 1.45);
+    EXPECT_EQ(d.project().soil.diffusivity, 0.9);
+    EXPECT_EQ(d.project().pipe.pipeSizeIndex, 2);
+    EXPECT_EQ(d.project().pipe.flowTypeIndex, 1);
+    EXPECT_EQ(d.project().bore.pipePlacement, 0);
+    EXPECT_EQ(d.project().bore.boreDiameter, 5.5);
+    EXPECT_EQ(d.project().bore.groutConductivity, 0.95);
+    EXPECT_EQ(d.project().pipe.pipeResistance, 0.0625);
+    EXPECT_EQ(d.project().bore.boreResistance, 0.1875);
+    EXPECT_EQ(d.project().arrangement.patternRows, (std::array<double, 2>{5, 8}));
+    EXPECT_EQ(d.project().arrangement.boreSeparation, 18.5);
+    EXPECT_EQ(d.project().arrangement.boresPerCircuit, 1);
+    EXPECT_EQ(d.project().arrangement.predictionTime, 12.5);
+    EXPECT_EQ(d.project().extraPower.motorEfficiency, (std::array<double, 3>{80, 85, 85}));
+    EXPECT_EQ(d.loads().activeSeries, "BestSeries B");
     // What the defaults do not hold is as built in.
-    EXPECT_EQ(d.extraPower.extraPower, (modCalculations::ExtraPower{}));
-    EXPECT_EQ(d.information.projectName, "");
-    EXPECT_EQ(d.information.currentDate, platform.day);
-    EXPECT_EQ(d.linkType, "");
+    EXPECT_EQ(d.project().extraPower.extraPower, (modCalculations::ExtraPower{}));
+    EXPECT_EQ(d.information().projectName, "");
+    EXPECT_EQ(d.information().currentDate, platform.day);
+    EXPECT_EQ(d.loads().linkType, "");
     EXPECT_TRUE(d.isStale());
     EXPECT_EQ(d.control("FLInletTempText(0)").text(), "86.5");
 }
 
 TEST_F(DefaultsFile, SetsTheCoolingRangeFromTheTemperatures) {
     useSample();
-    EXPECT_EQ(newDesign().tower.tower.range, 96.25 - 86.5);
+    EXPECT_EQ(newDesign().project().tower.tower.range, 96.25 - 86.5);
 }
 
 TEST_F(DefaultsFile, IsNoErrorWhenItIsAbsent) {
     const frmBHDesign& d = newDesign();
     EXPECT_EQ(messages(), 0u);
-    EXPECT_EQ(d.inletTemp, (ByMode<double>{85, 50}));
+    EXPECT_EQ(d.conditions().inletTemp, (ByMode<double>{85, 50}));
 }
 
 TEST_F(DefaultsFile, IsRewrittenByEverySaveOfAProject) {
     frmBHDesign& first = newDesign();
     first.type("SOGroundTempText", "55");
     saveAs(first, "work files/first.vht");
-    EXPECT_EQ(newDesign().soil.groundTemp, 55);
+    EXPECT_EQ(newDesign().project().soil.groundTemp, 55);
     main.activate(first);
     first.type("SOGroundTempText", "51");
     main.click("mnuFileSave");
-    EXPECT_EQ(newDesign().soil.groundTemp, 51);
+    EXPECT_EQ(newDesign().project().soil.groundTemp, 51);
 }
 
 TEST_F(DefaultsFile, BringsTheBuiltInValuesBackWhenItIsDeleted) {
@@ -77,7 +77,7 @@ TEST_F(DefaultsFile, BringsTheBuiltInValuesBackWhenItIsDeleted) {
     first.type("SOGroundTempText", "55");
     saveAs(first, "work files/first.vht");
     ASSERT_TRUE(std::filesystem::remove(ini()));
-    EXPECT_EQ(newDesign().soil.groundTemp, 62);
+    EXPECT_EQ(newDesign().project().soil.groundTemp, 62);
 }
 
 TEST_F(DefaultsFile, CarriesACustomFluidToTheNextNewDesign) {
@@ -87,7 +87,7 @@ TEST_F(DefaultsFile, CarriesACustomFluidToTheNextNewDesign) {
     saveAs(first, "work files/first.vht");
     EXPECT_NE(bytesOf(ini()).find("\r\nMy brine\r\n"), std::string::npos);
     const frmBHDesign& next = newDesign();
-    EXPECT_EQ(next.fluid.fluidName, "My brine");
+    EXPECT_EQ(next.project().fluid.fluidName, "My brine");
     EXPECT_EQ(next.control("FLFluidTypeCombo").text(), "My brine");
 }
 
@@ -101,7 +101,7 @@ TEST_F(DefaultsFile, OfAnyVersionIsReadByTheCurrentOrder) {
     std::string bytes = bytesOf(sampleProject("vhtbh_3.0.ini"));
     bytes.replace(bytes.find("3.0"), 3, "0.1");
     writeBytes(ini(), bytes);
-    EXPECT_EQ(newDesign().activeSeries, "BestSeries B");
+    EXPECT_EQ(newDesign().loads().activeSeries, "BestSeries B");
 }
 
 TEST_F(DefaultsFile, CutAtAnyLineKeepsTheValuesReadAndTellsTheEnd) {
@@ -116,7 +116,7 @@ TEST_F(DefaultsFile, CutAtAnyLineKeepsTheValuesReadAndTellsTheEnd) {
         EXPECT_EQ(platform.messages[0].icon, MessageIcon::exclamation);
         EXPECT_EQ(platform.messages[0].title, "Varnholt");
         EXPECT_EQ(lastMessage(), "Varnholt - Input past end of file");
-        EXPECT_EQ(d.activeSeries, "");
+        EXPECT_EQ(d.loads().activeSeries, "");
         answer(Answer::no);
         main.close(d);
     }

@@ -53,9 +53,9 @@ TEST_F(Opening, ShowsTheProjectWithItsResultsAsCurrent) {
     EXPECT_EQ(d.FileName, "old.vht");
     EXPECT_EQ(d.directoryName, folder / "work files");
     EXPECT_TRUE(d.currentFileCheck);
-    EXPECT_TRUE(d.workingFileCheck);
+    EXPECT_TRUE(d.loads().file.exists);
     EXPECT_FALSE(d.isStale());
-    EXPECT_EQ(d.information.projectName, "Müller School");
+    EXPECT_EQ(d.information().projectName, "Müller School");
     EXPECT_EQ(d.control("INProjectNameText").text(), "Müller School");
     EXPECT_EQ(d.control("CATotalLengthLabel(0)").caption(), "4321.5");
     EXPECT_EQ(main.openWindowFiles(DesignKind::borehole, 1), folder / "work files/old.vht");
@@ -104,7 +104,7 @@ TEST_F(Opening, TheSameFileTwiceIsRefusedAndTheOpenWindowLeftAsItIs) {
         EXPECT_EQ(lastMessage(), "[1201]");
         EXPECT_EQ(platform.messages.back().icon, MessageIcon::exclamation);
         EXPECT_EQ(main.windows().size(), 1u);
-        EXPECT_EQ(d.soil.groundTemp, 51);
+        EXPECT_EQ(d.project().soil.groundTemp, 51);
     }
     EXPECT_EQ(messages(), 3u);
 }
@@ -159,8 +159,8 @@ TEST_F(Opening, ACutFileShowsWhatCouldBeReadAndTheError) {
     ASSERT_EQ(messages(), 1u);
     EXPECT_EQ(platform.messages[0].title, "Varnholt");
     EXPECT_EQ(lastMessage(), "Varnholt - Input past end of file");
-    EXPECT_EQ(d.fluid.density, 61.5);
-    EXPECT_EQ(d.soil.groundTemp, 62);
+    EXPECT_EQ(d.project().fluid.density, 61.5);
+    EXPECT_EQ(d.project().soil.groundTemp, 62);
     EXPECT_EQ(d.FileName, "cut.vht");
 }
 
@@ -196,13 +196,13 @@ TEST_F(Opening, ByPathNeedsNoDialog) {
 TEST_F(Opening, AZoneFileByPathGoesToTheZoneManager) {
     writeZones(folder / "zones/school.ZON", 4);
     openFile(main, "zones/school.ZON");
-    EXPECT_EQ(loads().zoneNumber, 4);
+    EXPECT_EQ(loads().zoneNumber(), 4);
     EXPECT_EQ(main.activeWindow(), &loads());
     // The window's own question stands before its zones are replaced.
     loads().checkForSave = false;
     writeZones(folder / "zones/other.zon", 2);
     openFile(main, "zones/other.zon");
-    EXPECT_EQ(loads().zoneNumber, 4);
+    EXPECT_EQ(loads().zoneNumber(), 4);
 }
 
 TEST_F(Opening, TellsWhoeverKeepsTheRecentFiles) {

@@ -19,7 +19,7 @@ class ProjectFile : public ProjectTest {
 
     /// What every version holds, as it was written into the samples by hand.
     void expectCommon(const frmBHDesign& d) {
-        const ProjectInformation& about = d.information;
+        const ProjectInformation& about = d.information();
         EXPECT_EQ(about.projectName, "Müller School");
         EXPECT_EQ(about.designerName, "A. Designer");
         EXPECT_EQ(about.currentDate, (Date{2024, 3, 5}));
@@ -35,71 +35,71 @@ class ProjectFile : public ProjectTest {
         EXPECT_EQ(about.fax, "555-4321");
         EXPECT_EQ(about.email, "office@example.org");
         EXPECT_EQ(about.comments, "First line\r\n\r\nthird line, with a comma");
-        EXPECT_EQ(d.inletTemp, (ByMode<double>{86.5, 48.5}));
-        EXPECT_EQ(d.results.outlet.outletTemp, (ByMode<double>{96.25, 43.75}));
-        EXPECT_EQ(d.inletLoadAirTemp, (ByMode<double>{66, 71}));
-        EXPECT_EQ(d.inletLoadWaterTemp, (ByMode<double>{54, 101}));
-        EXPECT_EQ(d.pipe.pipeDiameter, (std::array<double, 2>{1.66, 1.36}));
-        EXPECT_EQ(d.minflowRate, (ByMode<double>{2.7, 4.1}));
-        EXPECT_EQ(d.remainder.inputFlag, (ByMode<std::int16_t>{1, 7}));
-        EXPECT_EQ(d.remainder.inputDouble, (ByMode<double>{0, 0.25}));
-        EXPECT_EQ(d.flowRate, 2.9);
-        EXPECT_EQ(d.fluid.percentAntifreeze, 20);
-        EXPECT_EQ(d.fluid.fluidTypeIndex, 4);
-        EXPECT_EQ(d.fluid.density, 61.5);
-        EXPECT_EQ(d.fluid.specificHeat, 0.98);
-        EXPECT_EQ(d.soil.groundTemp, 58.5);
-        EXPECT_EQ(d.soil.conductivity, 1.45);
-        EXPECT_EQ(d.soil.diffusivity, 0.9);
-        EXPECT_EQ(d.pipe.pipeSizeIndex, 2);
-        EXPECT_EQ(d.pipe.pipeSdrIndex, 1);
-        EXPECT_EQ(d.pipe.flowTypeIndex, 1);
-        EXPECT_EQ(d.bore.pipePlacement, 0);
-        EXPECT_EQ(d.bore.uTubeConfig, 0);
-        EXPECT_EQ(d.bore.boreDiameter, 5.5);
-        EXPECT_EQ(d.bore.groutConductivity, 0.95);
-        EXPECT_EQ(d.pipe.pipeResistance, 0.0625);
-        EXPECT_EQ(d.bore.boreResistance, 0.1875);
-        EXPECT_EQ(d.arrangement.patternRows, (std::array<double, 2>{5, 8}));
-        EXPECT_EQ(d.arrangement.boreSeparation, 18.5);
-        EXPECT_EQ(d.arrangement.boresPerCircuit, 1);
-        EXPECT_EQ(d.arrangement.predictionTime, 12.5);
-        EXPECT_EQ(d.remainder.numbers, (std::array<double, 3>{1.9, 100, 0}));
-        EXPECT_EQ(d.activeSeries, "AcmeSeries A");
-        EXPECT_EQ(d.workingZoneFile, "school.zon");
-        EXPECT_EQ(d.workingZoneDirectory, "/home/designer/zones");
-        EXPECT_EQ(d.zoneNumber, 12);
-        EXPECT_EQ(d.results.annualGroundLoad, 3.125);
-        EXPECT_EQ(d.results.loads.peakLoad, (ByMode<double>{120.5, 88.25}));
-        EXPECT_EQ(d.results.demand.peakDemand, (ByMode<double>{9.75, 8.5}));
-        EXPECT_EQ(d.results.cop.heatPumpCOP, (ByMode<double>{4.25, 3.5}));
-        EXPECT_EQ(d.results.cop.systemCOP, (ByMode<double>{3.75, 3.25}));
-        EXPECT_EQ(d.results.outlet.systemFlow, (ByMode<double>{30.125, 22.0625}));
-        EXPECT_EQ(d.results.lengths.boreLength, (ByMode<double>{4321.5, 3876.25}));
-        EXPECT_EQ(d.remainder.resultFlag, (ByMode<double>{1, 2}));
+        EXPECT_EQ(d.conditions().inletTemp, (ByMode<double>{86.5, 48.5}));
+        EXPECT_EQ(d.results().outlet.outletTemp, (ByMode<double>{96.25, 43.75}));
+        EXPECT_EQ(d.conditions().inletLoadAirTemp, (ByMode<double>{66, 71}));
+        EXPECT_EQ(d.conditions().inletLoadWaterTemp, (ByMode<double>{54, 101}));
+        EXPECT_EQ(d.project().pipe.pipeDiameter, (std::array<double, 2>{1.66, 1.36}));
+        EXPECT_EQ(d.conditions().minflowRate, (ByMode<double>{2.7, 4.1}));
+        EXPECT_EQ(d.project().remainder.inputFlag, (ByMode<std::int16_t>{1, 7}));
+        EXPECT_EQ(d.project().remainder.inputDouble, (ByMode<double>{0, 0.25}));
+        EXPECT_EQ(d.conditions().flowRate, 2.9);
+        EXPECT_EQ(d.project().fluid.percentAntifreeze, 20);
+        EXPECT_EQ(d.project().fluid.fluidTypeIndex, 4);
+        EXPECT_EQ(d.project().fluid.density, 61.5);
+        EXPECT_EQ(d.project().fluid.specificHeat, 0.98);
+        EXPECT_EQ(d.project().soil.groundTemp, 58.5);
+        EXPECT_EQ(d.project().soil.conductivity, 1.45);
+        EXPECT_EQ(d.project().soil.diffusivity, 0.9);
+        EXPECT_EQ(d.project().pipe.pipeSizeIndex, 2);
+        EXPECT_EQ(d.project().pipe.pipeSdrIndex, 1);
+        EXPECT_EQ(d.project().pipe.flowTypeIndex, 1);
+        EXPECT_EQ(d.project().bore.pipePlacement, 0);
+        EXPECT_EQ(d.project().bore.uTubeConfig, 0);
+        EXPECT_EQ(d.project().bore.boreDiameter, 5.5);
+        EXPECT_EQ(d.project().bore.groutConductivity, 0.95);
+        EXPECT_EQ(d.project().pipe.pipeResistance, 0.0625);
+        EXPECT_EQ(d.project().bore.boreResistance, 0.1875);
+        EXPECT_EQ(d.project().arrangement.patternRows, (std::array<double, 2>{5, 8}));
+        EXPECT_EQ(d.project().arrangement.boreSeparation, 18.5);
+        EXPECT_EQ(d.project().arrangement.boresPerCircuit, 1);
+        EXPECT_EQ(d.project().arrangement.predictionTime, 12.5);
+        EXPECT_EQ(d.project().remainder.numbers, (std::array<double, 3>{1.9, 100, 0}));
+        EXPECT_EQ(d.loads().activeSeries, "AcmeSeries A");
+        EXPECT_EQ(d.loads().file.name, "school.zon");
+        EXPECT_EQ(d.loads().file.folder, "/home/designer/zones");
+        EXPECT_EQ(d.loads().zoneNumber, 12);
+        EXPECT_EQ(d.results().annualGroundLoad, 3.125);
+        EXPECT_EQ(d.results().loads.peakLoad, (ByMode<double>{120.5, 88.25}));
+        EXPECT_EQ(d.results().demand.peakDemand, (ByMode<double>{9.75, 8.5}));
+        EXPECT_EQ(d.results().cop.heatPumpCOP, (ByMode<double>{4.25, 3.5}));
+        EXPECT_EQ(d.results().cop.systemCOP, (ByMode<double>{3.75, 3.25}));
+        EXPECT_EQ(d.results().outlet.systemFlow, (ByMode<double>{30.125, 22.0625}));
+        EXPECT_EQ(d.results().lengths.boreLength, (ByMode<double>{4321.5, 3876.25}));
+        EXPECT_EQ(d.project().remainder.resultFlag, (ByMode<double>{1, 2}));
     }
     void expectNoTower(const frmBHDesign& d) {
-        EXPECT_EQ(d.tower.hybridPercent, 0);
-        EXPECT_EQ(d.tower.tower.capacity, 0);
-        EXPECT_EQ(d.tower.tower.capacityMax, 0);
-        EXPECT_EQ(d.tower.tower.flow, 0);
-        EXPECT_EQ(d.tower.tower.hours, 0);
-        EXPECT_EQ(d.tower.tower.range, 96.25 - 86.5);
+        EXPECT_EQ(d.project().tower.hybridPercent, 0);
+        EXPECT_EQ(d.project().tower.tower.capacity, 0);
+        EXPECT_EQ(d.project().tower.tower.capacityMax, 0);
+        EXPECT_EQ(d.project().tower.tower.flow, 0);
+        EXPECT_EQ(d.project().tower.tower.hours, 0);
+        EXPECT_EQ(d.project().tower.tower.range, 96.25 - 86.5);
         EXPECT_FALSE(d.hybridOn);
-        EXPECT_EQ(d.extraPower.extraPower, (modCalculations::ExtraPower{}));
-        EXPECT_EQ(d.extraPower.motorEfficiency, (std::array<double, 3>{85, 85, 85}));
-        EXPECT_EQ(d.results.lengths.temperaturePenalty, (ByMode<double>{0, 0}));
+        EXPECT_EQ(d.project().extraPower.extraPower, (modCalculations::ExtraPower{}));
+        EXPECT_EQ(d.project().extraPower.motorEfficiency, (std::array<double, 3>{85, 85, 85}));
+        EXPECT_EQ(d.results().lengths.temperaturePenalty, (ByMode<double>{0, 0}));
     }
     void expectTower(const frmBHDesign& d) {
-        EXPECT_EQ(d.tower.hybridPercent, 35);
-        EXPECT_EQ(d.tower.tower.capacity, 64.5);
-        EXPECT_EQ(d.tower.tower.capacityMax, 66.75);
-        EXPECT_EQ(d.tower.tower.flow, 13.125);
-        EXPECT_EQ(d.tower.tower.range, 9.5);
-        EXPECT_EQ(d.tower.tower.hours, 812.5);
-        EXPECT_EQ(d.extraPower.motorEfficiency, (std::array<double, 3>{80, 88, 87}));
-        EXPECT_EQ(d.results.lengths.temperaturePenalty, (ByMode<double>{2.5, -1.25}));
-        EXPECT_EQ(d.extraPower.extraPower,
+        EXPECT_EQ(d.project().tower.hybridPercent, 35);
+        EXPECT_EQ(d.project().tower.tower.capacity, 64.5);
+        EXPECT_EQ(d.project().tower.tower.capacityMax, 66.75);
+        EXPECT_EQ(d.project().tower.tower.flow, 13.125);
+        EXPECT_EQ(d.project().tower.tower.range, 9.5);
+        EXPECT_EQ(d.project().tower.tower.hours, 812.5);
+        EXPECT_EQ(d.project().extraPower.motorEfficiency, (std::array<double, 3>{80, 88, 87}));
+        EXPECT_EQ(d.results().lengths.temperaturePenalty, (ByMode<double>{2.5, -1.25}));
+        EXPECT_EQ(d.project().extraPower.extraPower,
                   (modCalculations::ExtraPower{1.5, 1.25, 0.75, 0.3, 0.25, 0.6, 0.5}));
     }
 };
@@ -109,7 +109,7 @@ TEST_F(ProjectFile, OfVersionOneOpensWithoutLinkAndWithTowerValuesAtTheirDefault
         SCOPED_TRACE(name);
         const frmBHDesign& d = read(name);
         expectCommon(d);
-        EXPECT_EQ(d.linkType, "");
+        EXPECT_EQ(d.loads().linkType, "");
         expectNoTower(d);
     }
 }
@@ -117,7 +117,7 @@ TEST_F(ProjectFile, OfVersionOneOpensWithoutLinkAndWithTowerValuesAtTheirDefault
 TEST_F(ProjectFile, OfVersionTwoHasALinkAndNoTower) {
     const frmBHDesign& d = read("version_2.0.vht");
     expectCommon(d);
-    EXPECT_EQ(d.linkType, "frmZoneManage");
+    EXPECT_EQ(d.loads().linkType, "frmZoneManage");
     expectNoTower(d);
 }
 
@@ -126,7 +126,7 @@ TEST_F(ProjectFile, FromVersionTwoPointOneHoldsEverything) {
         SCOPED_TRACE(name);
         const frmBHDesign& d = read(name);
         expectCommon(d);
-        EXPECT_EQ(d.linkType, "frmZoneManage");
+        EXPECT_EQ(d.loads().linkType, "frmZoneManage");
         expectTower(d);
     }
 }
@@ -163,13 +163,13 @@ TEST_F(ProjectFile, VersionIsTheLastThreeCharactersOfTheFirstLine) {
     bytes.replace(bytes.find("3.0"), 3, "3.00");
     frmBHDesign& d = newDesign();
     readProjectText(bytes, d);
-    EXPECT_EQ(d.linkType, "");
+    EXPECT_EQ(d.loads().linkType, "");
     expectNoTower(d);
 }
 
 TEST_F(ProjectFile, HoldsACommentWithoutALineFeedAsOneLine) {
     frmBHDesign& d = newDesign();
-    d.information.comments = "one line";
+    change(d, [&](BoreholeProject& of) { of.information.comments = "one line"; });
     EXPECT_NE(projectText(d).find("\r\n1\r\none line\r\n85\r\n"), std::string::npos);
 }
 
@@ -178,18 +178,18 @@ TEST_F(ProjectFile, HoldsAnEmptyCommentAsOneEmptyLine) {
     // Behind the empty address lines and e-mail: the count, the empty line, the inlet temperature.
     EXPECT_NE(projectText(d).find("\r\n\r\n1\r\n\r\n85\r\n"), std::string::npos);
     readProjectText(projectText(d), d);
-    EXPECT_EQ(d.information.comments, "");
+    EXPECT_EQ(d.information().comments, "");
 }
 
 TEST_F(ProjectFile, HoldsTheCommentsLinesAsTheyAre) {
     for (const char* comments :
          {"\r\n", "a\r\n", "\r\nb", "a\r\n\r\n\r\nb", "3\r\n#2026-01-01#", " blanks  "}) {
         frmBHDesign& d = newDesign();
-        d.information.comments = comments;
+        change(d, [&](BoreholeProject& of) { of.information.comments = comments; });
         const std::string saved = projectText(d);
         frmBHDesign& again = newDesign();
         readProjectText(saved, again);
-        EXPECT_EQ(again.information.comments, comments);
+        EXPECT_EQ(again.information().comments, comments);
     }
 }
 
@@ -197,12 +197,12 @@ TEST_F(ProjectFile, HoldsACommentOfTenThousandLines) {
     std::string comments;
     for (int i = 0; i < 9999; ++i) comments += "line " + std::to_string(i) + "\r\n";
     frmBHDesign& d = newDesign();
-    d.information.comments = comments;
+    change(d, [&](BoreholeProject& of) { of.information.comments = comments; });
     const std::string saved = projectText(d);
     EXPECT_NE(saved.find("\r\n10000\r\nline 0\r\n"), std::string::npos);
     frmBHDesign& again = newDesign();
     readProjectText(saved, again);
-    EXPECT_EQ(again.information.comments, comments);
+    EXPECT_EQ(again.information().comments, comments);
     EXPECT_EQ(projectText(again), saved);
 }
 
@@ -222,9 +222,9 @@ TEST_F(ProjectFile, TakesAnEmptyOrUnreadableNumberAsZero) {
     bytes.replace(bytes.find("\r\n66\r\n"), 6, "\r\n66 degrees\r\n");
     frmBHDesign& d = newDesign();
     readProjectText(bytes, d);
-    EXPECT_EQ(d.inletTemp[cooling], 0);
-    EXPECT_EQ(d.results.outlet.outletTemp[cooling], 0);
-    EXPECT_EQ(d.inletLoadAirTemp[cooling], 66);
+    EXPECT_EQ(d.conditions().inletTemp[cooling], 0);
+    EXPECT_EQ(d.results().outlet.outletTemp[cooling], 0);
+    EXPECT_EQ(d.conditions().inletLoadAirTemp[cooling], 66);
 }
 
 TEST_F(ProjectFile, KeepsValuesThatTheFieldsWouldRefuse) {
@@ -232,17 +232,17 @@ TEST_F(ProjectFile, KeepsValuesThatTheFieldsWouldRefuse) {
     bytes.replace(bytes.find("\r\n86.5\r\n"), 8, "\r\n-500000\r\n");
     frmBHDesign& d = newDesign();
     readProjectText(bytes, d);
-    EXPECT_EQ(d.inletTemp[cooling], -500000);
+    EXPECT_EQ(d.conditions().inletTemp[cooling], -500000);
 }
 
 TEST_F(ProjectFile, KeepsNumbersToTheLastDigit) {
     frmBHDesign& d = newDesign();
-    d.soil.groundTemp = 0.1 + 0.2;
-    d.results.lengths.boreLength = {1e300, 5e-324};
+    change(d, [&](BoreholeProject& of) { of.soil.groundTemp = 0.1 + 0.2; });
+    change(d, [&](BoreholeProject& of) { of.results.edit().lengths.boreLength = {1e300, 5e-324}; });
     frmBHDesign& again = newDesign();
     readProjectText(projectText(d), again);
-    EXPECT_EQ(again.soil.groundTemp, 0.1 + 0.2);
-    EXPECT_EQ(again.results.lengths.boreLength, (ByMode<double>{1e300, 5e-324}));
+    EXPECT_EQ(again.project().soil.groundTemp, 0.1 + 0.2);
+    EXPECT_EQ(again.results().lengths.boreLength, (ByMode<double>{1e300, 5e-324}));
 }
 
 TEST_F(ProjectFile, CutAtAnyByteKeepsTheValuesReadSoFarAndTellsTheEnd) {
@@ -266,19 +266,19 @@ TEST_F(ProjectFile, CutAtAnyByteKeepsTheValuesReadSoFarAndTellsTheEnd) {
         EXPECT_EQ(error, lines < all ? 62 : 0);
         // In the sample line 4 is the designer, 21 the inlet temperature, 88 the bore length.
         if (complete >= 4) {
-            EXPECT_EQ(d.information.designerName, "A. Designer");
+            EXPECT_EQ(d.information().designerName, "A. Designer");
         }
         if (complete >= 21) {
-            EXPECT_EQ(d.inletTemp[cooling], 86.5);
+            EXPECT_EQ(d.conditions().inletTemp[cooling], 86.5);
         }
         if (lines < 21) {
-            EXPECT_EQ(d.inletTemp[cooling], 85);
+            EXPECT_EQ(d.conditions().inletTemp[cooling], 85);
         }
         if (lines < 88) {
-            EXPECT_EQ(d.results.lengths.boreLength[heating], 0);
+            EXPECT_EQ(d.results().lengths.boreLength[heating], 0);
         }
         if (complete >= 88) {
-            EXPECT_EQ(d.results.lengths.boreLength[heating], 3876.25);
+            EXPECT_EQ(d.results().lengths.boreLength[heating], 3876.25);
         }
     }
 }
@@ -311,8 +311,8 @@ TEST_F(ProjectFile, WithAWholeNumberBeyondSixteenBitsIsAnOverflow) {
     } catch (const RunTimeError& error) {
         EXPECT_EQ(error.number(), 6);
     }
-    EXPECT_EQ(d.workingZoneFile, "school.zon");
-    EXPECT_EQ(d.results.annualGroundLoad, 0);
+    EXPECT_EQ(d.loads().file.name, "school.zon");
+    EXPECT_EQ(d.results().annualGroundLoad, 0);
 }
 
 TEST_F(ProjectFile, WithAFalseCountOfCommentLinesEndsAtTheEndOfTheFile) {
@@ -322,13 +322,13 @@ TEST_F(ProjectFile, WithAFalseCountOfCommentLinesEndsAtTheEndOfTheFile) {
         bytes.replace(bytes.find("\r\n3\r\nFirst"), 3, std::string("\r\n") + count);
         frmBHDesign& d = newDesign();
         EXPECT_THROW(readProjectText(bytes, d), RunTimeError);
-        EXPECT_EQ(d.information.email, "office@example.org");
+        EXPECT_EQ(d.information().email, "office@example.org");
     }
     std::string bytes = bytesOf(sampleProject("version_3.0.vht"));
     bytes.replace(bytes.find("\r\n3\r\nFirst"), 3, "\r\n-1");
     frmBHDesign& d = newDesign();
     EXPECT_NO_THROW(readProjectText(bytes, d));
-    EXPECT_EQ(d.information.comments, "");
+    EXPECT_EQ(d.information().comments, "");
 }
 
 }  // namespace

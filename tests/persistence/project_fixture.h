@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "basis/file_system.h"
+#include "design/change_project.h"
 #include "design/frmBHDesign.h"
 #include "forms/fake_platform.h"
 #include "frame/varnmain.h"
@@ -35,16 +36,13 @@ class FileLoads : public PlainLoads {
         } catch (const RunTimeError&) {
             whole = false;
         }
-        setZones(data.zones);
-        flowRate = data.conditions.flowRate;
-        inletTemp = data.conditions.inletTemp;
-        activeSeries = data.activeSeries;
+        document_.data = data;
         takeFile(path);
         return whole;
     }
     void LOSaveCommand_Click() override {
         if (refuseSave) return;
-        saveZoneFile(savePath, {ZoneList, designConditions(), activeSeries});
+        saveZoneFile(savePath, document_.data);
         takeFile(savePath);
     }
     bool CheckForSave() override { return checkForSave; }
@@ -56,9 +54,7 @@ class FileLoads : public PlainLoads {
 
  private:
     void takeFile(const std::string& path) {
-        workingZoneFile = fileNameOf(path);
-        workingZoneDirectory = folderOf(path);
-        workingFileCheck = true;
+        document_.file = {fileNameOf(path), folderOf(path), true};
         unsaved = false;
     }
 };

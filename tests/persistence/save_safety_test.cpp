@@ -36,10 +36,10 @@ int saveElsewhere(const std::function<void()>& prepare, frmBHDesign& design,
 class SavingLosesNothing : public ProjectTest {
  protected:
     SavingLosesNothing() : path(folder / "work files/school.vht"), d(newDesign()) {
-        d.information.comments = std::string(20000, 'o');
+        change(d, [&](BoreholeProject& of) { of.information.comments = std::string(20000, 'o'); });
         saveVHTFile(d, path);
         old = bytesOf(path);
-        d.information.comments = std::string(30000, 'n');
+        change(d, [&](BoreholeProject& of) { of.information.comments = std::string(30000, 'n'); });
         fresh = projectText(d);
     }
     void expectOld() { EXPECT_TRUE(bytesOf(path) == old); }

@@ -62,7 +62,7 @@ TEST_F(Saving, UnderANameInUseSaysSoAndAsksAgain) {
     saveAs(newDesign(), "work files/first.vht");
     const std::string before = bytesOf(folder / "work files/first.vht");
     frmBHDesign& second = newDesign();
-    second.information.city = "Stillwater";
+    change(second, [&](BoreholeProject& of) { of.information.city = "Stillwater"; });
     pick("work files/first.vht");
     saveAs(second, "work files/second.vht");
     EXPECT_EQ(platform.dialogs.size(), 3u);
@@ -119,7 +119,7 @@ class ZoneQuestion : public ProjectTest {
         loads().savePath = folder / "zones/renamed.zon";
         main.activate(design());
         before = bytesOf(folder / "work files/school.vht");
-        design().information.city = "Stillwater";
+        change(design(), [&](BoreholeProject& of) { of.information.city = "Stillwater"; });
     }
     bool projectSaved() { return bytesOf(folder / "work files/school.vht") != before; }
     std::string before;
@@ -158,9 +158,9 @@ TEST_F(ZoneQuestion, YesSavesTheZonesFirstAndTakesTheirName) {
     answer(Answer::yes);
     main.click("mnuFileSave");
     EXPECT_FALSE(loads().hasUnsavedChanges());
-    EXPECT_EQ(design().workingZoneFile, "renamed.zon");
-    EXPECT_EQ(design().workingZoneDirectory, folder / "zones");
-    EXPECT_TRUE(design().workingFileCheck);
+    EXPECT_EQ(design().loads().file.name, "renamed.zon");
+    EXPECT_EQ(design().loads().file.folder, folder / "zones");
+    EXPECT_TRUE(design().loads().file.exists);
     EXPECT_NE(bytesOf(folder / "work files/school.vht").find("\r\nrenamed.zon\r\n"),
               std::string::npos);
 }
@@ -169,7 +169,7 @@ TEST_F(ZoneQuestion, IsNotNeededToNameTheFileThatTheZonesWereSavedInSince) {
     loads().LOSaveCommand_Click();
     main.click("mnuFileSave");
     EXPECT_TRUE(platform.questions.empty());
-    EXPECT_EQ(design().workingZoneFile, "renamed.zon");
+    EXPECT_EQ(design().loads().file.name, "renamed.zon");
     EXPECT_NE(bytesOf(folder / "work files/school.vht").find("\r\nrenamed.zon\r\n"),
               std::string::npos);
 }
@@ -202,7 +202,7 @@ TEST_F(ZoneQuestion, StandsBeforeTheDialogOfSaveAs) {
     main.click("mnuFileSaveAs");
     EXPECT_EQ(design().FileName, "copy.vht");
     // The loads' title follows the project's name.
-    EXPECT_TRUE(namesDesign(loads(), design()));
+    EXPECT_TRUE(design().link()->isNamed());
 }
 
 }  // namespace

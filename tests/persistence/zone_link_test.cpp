@@ -21,11 +21,11 @@ class ZoneLink : public ProjectTest {
         writeBytes(school(), bytes.replace(at, what.size(), with));
     }
     void expectForgotten(const frmBHDesign& d) {
-        EXPECT_EQ(d.linkType, "");
-        EXPECT_EQ(d.LoadsHome, nullptr);
-        EXPECT_EQ(d.workingZoneFile, "");
-        EXPECT_EQ(d.workingZoneDirectory, "");
-        EXPECT_FALSE(d.workingFileCheck);
+        EXPECT_EQ(d.loads().linkType, "");
+        EXPECT_EQ(d.LoadsHome(), nullptr);
+        EXPECT_EQ(d.loads().file.name, "");
+        EXPECT_EQ(d.loads().file.folder, "");
+        EXPECT_FALSE(d.loads().file.exists);
         EXPECT_FALSE(d.control("imgLinkLight(0)").visible());
         EXPECT_TRUE(d.control("imgLinkLight(6)").visible());
     }
@@ -35,14 +35,14 @@ class ZoneLink : public ProjectTest {
 TEST_F(ZoneLink, IsFoundAgainOnOpening) {
     const frmBHDesign& d = reopen();
     EXPECT_EQ(messages(), 0u);
-    EXPECT_EQ(loads().zoneNumber, 3);
-    EXPECT_EQ(loads().workingZoneFile, "school.zon");
-    EXPECT_EQ(d.linkType, "frmZoneManage");
-    EXPECT_EQ(d.LoadsHome, &loads());
-    EXPECT_EQ(loads().designLinkID, d.myID);
-    EXPECT_TRUE(namesDesign(loads(), d));
-    EXPECT_EQ(d.ZoneList.size(), 3u);
-    EXPECT_EQ(d.zoneNumber, 3);
+    EXPECT_EQ(loads().zoneNumber(), 3);
+    EXPECT_EQ(loads().file().name, "school.zon");
+    EXPECT_EQ(d.loads().linkType, "frmZoneManage");
+    EXPECT_EQ(d.LoadsHome(), &loads());
+    EXPECT_EQ(loads().links().designLinkID(), d.myID);
+    EXPECT_TRUE(d.link()->isNamed());
+    EXPECT_EQ(d.ZoneList().size(), 3u);
+    EXPECT_EQ(d.loads().zoneNumber, 3);
     EXPECT_TRUE(d.control("imgLinkLight(0)").visible());
     EXPECT_FALSE(d.control("imgLinkLight(6)").visible());
     EXPECT_TRUE(loads().control("imgLinkLight(0)").visible());
@@ -65,9 +65,9 @@ TEST_F(ZoneLink, LeavesTheResultsWithACoolingTowerByteForByteTheSame) {
     EXPECT_NE(withTower, saved);
     closeAll();
     frmBHDesign& again = reopen();
-    EXPECT_EQ(again.tower.hybridPercent, 40);
+    EXPECT_EQ(again.project().tower.hybridPercent, 40);
     EXPECT_EQ(again.control("CAHybridSlider").value(), 40);
-    EXPECT_GT(again.tower.tower.capacity, 0);
+    EXPECT_GT(again.project().tower.tower.capacity, 0);
     main.click("mnuFileSave");
     EXPECT_EQ(bytesOf(school()), withTower);
 }
@@ -75,15 +75,15 @@ TEST_F(ZoneLink, LeavesTheResultsWithACoolingTowerByteForByteTheSame) {
 TEST_F(ZoneLink, IsFoundInTheProgramsFolderOfZonesWhenItsOwnIsGone) {
     replaceInProject("\r\n" + (folder / "zones") + "\r\n", "\r\n/no/such/folder\r\n");
     const frmBHDesign& d = reopen();
-    EXPECT_EQ(d.LoadsHome, &loads());
-    EXPECT_EQ(d.workingZoneDirectory, folder / "zones");
+    EXPECT_EQ(d.LoadsHome(), &loads());
+    EXPECT_EQ(d.loads().file.folder, folder / "zones");
 }
 
 TEST_F(ZoneLink, IsLookedForInItsOwnFolderFirst) {
     std::filesystem::create_directory(folder / "own");
     writeZones(folder / "own/school.zon", 5);
     replaceInProject("\r\n" + (folder / "zones") + "\r\n", "\r\n" + (folder / "own") + "\r\n");
-    EXPECT_EQ(reopen().zoneNumber, 5);
+    EXPECT_EQ(reopen().loads().zoneNumber, 5);
 }
 
 TEST_F(ZoneLink, ThatIsMissingIsNamedAndForgotten) {
@@ -94,7 +94,7 @@ TEST_F(ZoneLink, ThatIsMissingIsNamedAndForgotten) {
     EXPECT_EQ(lastMessage(), "[8540]\n\nschool.zon");
     expectForgotten(d);
     EXPECT_EQ(main.find("frmZoneManage"), nullptr);
-    EXPECT_EQ(d.zoneNumber, 3);
+    EXPECT_EQ(d.loads().zoneNumber, 3);
 }
 
 TEST_F(ZoneLink, IsNotMadeWithADamagedZoneFile) {
@@ -105,7 +105,7 @@ TEST_F(ZoneLink, IsNotMadeWithADamagedZoneFile) {
     expectForgotten(d);
     EXPECT_FALSE(d.isStale());
     // What could be read stays in the loads window.
-    EXPECT_EQ(loads().zoneNumber, 1);
+    EXPECT_EQ(loads().zoneNumber(), 1);
 }
 
 TEST_F(ZoneLink, IsRefusedWhenTheLoadsWindowHoldsAnotherFile) {
@@ -115,8 +115,8 @@ TEST_F(ZoneLink, IsRefusedWhenTheLoadsWindowHoldsAnotherFile) {
     const frmBHDesign& d = reopen();
     EXPECT_EQ(lastMessage(), "[8539]");
     expectForgotten(d);
-    EXPECT_EQ(loads().zoneNumber, 2);
-    EXPECT_EQ(loads().designLinkID, 0);
+    EXPECT_EQ(loads().zoneNumber(), 2);
+    EXPECT_EQ(loads().links().designLinkID(), 0);
     EXPECT_EQ(loads().caption(), "Project Loads");
 }
 
@@ -126,8 +126,8 @@ TEST_F(ZoneLink, IsRefusedWhenTheLoadsWindowIsLinkedToAnotherDesign) {
     const frmBHDesign& second = open("work files/copy.vht");
     EXPECT_EQ(lastMessage(), "[8539]");
     expectForgotten(second);
-    EXPECT_EQ(first.LoadsHome, &loads());
-    EXPECT_EQ(loads().designLinkID, first.myID);
+    EXPECT_EQ(first.LoadsHome(), &loads());
+    EXPECT_EQ(loads().links().designLinkID(), first.myID);
 }
 
 TEST_F(ZoneLink, IsRefusedWhenTheLoadsWindowHoldsZonesOfItsOwn) {
@@ -135,46 +135,46 @@ TEST_F(ZoneLink, IsRefusedWhenTheLoadsWindowHoldsZonesOfItsOwn) {
     loads().setZones({loadedZone(1)});
     loads().unsaved = true;
     expectForgotten(reopen());
-    EXPECT_EQ(loads().zoneNumber, 1);
+    EXPECT_EQ(loads().zoneNumber(), 1);
 }
 
 TEST_F(ZoneLink, TakesALoadsWindowThatHoldsTheFileAsItIs) {
     main.click("mnuZoneManage");
     loads().LOOpenZoneFile(folder / "zones/school.zon");
-    loads().ZoneList[0].days = 3;
+    loads().data().zones.edit(0).days = 3;
     loads().unsaved = true;
     const frmBHDesign& d = reopen();
-    EXPECT_EQ(d.LoadsHome, &loads());
+    EXPECT_EQ(d.LoadsHome(), &loads());
     EXPECT_EQ(loads().filesRead, 1);
-    EXPECT_EQ(d.ZoneList.at(0).days, 3);
+    EXPECT_EQ(d.ZoneList().at(0).days, 3);
     EXPECT_TRUE(loads().hasUnsavedChanges());
 }
 
 TEST_F(ZoneLink, FillsAnEmptyLoadsWindow) {
     main.click("mnuZoneManage");
-    EXPECT_EQ(reopen().LoadsHome, &loads());
-    EXPECT_EQ(loads().zoneNumber, 3);
+    EXPECT_EQ(reopen().LoadsHome(), &loads());
+    EXPECT_EQ(loads().zoneNumber(), 3);
 }
 
 TEST_F(ZoneLink, OpensTheAverageBlockWhereTheProjectNamesIt) {
     replaceInProject("frmZoneManage", "frmAvgBlock");
     const frmBHDesign& d = reopen();
-    EXPECT_EQ(d.linkType, "frmAvgBlock");
-    EXPECT_EQ(d.LoadsHome, &loads("frmAvgBlock"));
+    EXPECT_EQ(d.loads().linkType, "frmAvgBlock");
+    EXPECT_EQ(d.LoadsHome(), &loads("frmAvgBlock"));
     EXPECT_EQ(main.find("frmZoneManage"), nullptr);
 }
 
 TEST_F(ZoneLink, OfAnUnknownKindIsTheZoneManagers) {
     replaceInProject("frmZoneManage", "frmSomething");
-    EXPECT_EQ(reopen().linkType, "frmZoneManage");
+    EXPECT_EQ(reopen().loads().linkType, "frmZoneManage");
 }
 
 TEST_F(ZoneLink, StaysAwayWithoutAZoneFileEvenWhenALinkTypeIsStored) {
     replaceInProject("\r\nschool.zon\r\n", "\r\n\r\n");
     const frmBHDesign& d = reopen();
-    EXPECT_EQ(d.linkType, "");
-    EXPECT_EQ(d.LoadsHome, nullptr);
-    EXPECT_FALSE(d.workingFileCheck);
+    EXPECT_EQ(d.loads().linkType, "");
+    EXPECT_EQ(d.LoadsHome(), nullptr);
+    EXPECT_FALSE(d.loads().file.exists);
     EXPECT_EQ(messages(), 0u);
     EXPECT_EQ(main.find("frmZoneManage"), nullptr);
 }
@@ -182,14 +182,14 @@ TEST_F(ZoneLink, StaysAwayWithoutAZoneFileEvenWhenALinkTypeIsStored) {
 TEST_F(ZoneLink, IsMadeAgainWhenTheLoadsWereClosedBeforeTheProjectWasSaved) {
     frmBHDesign& before = reopen();
     ASSERT_TRUE(main.close(loads()));
-    ASSERT_EQ(before.linkType, "");
+    ASSERT_EQ(before.loads().linkType, "");
     main.click("mnuFileSave");
     closeAll();
     const frmBHDesign& d = reopen();
     EXPECT_EQ(messages(), 0u);
-    EXPECT_EQ(d.linkType, "frmZoneManage");
-    EXPECT_EQ(d.LoadsHome, &loads());
-    EXPECT_EQ(d.ZoneList.size(), 3u);
+    EXPECT_EQ(d.loads().linkType, "frmZoneManage");
+    EXPECT_EQ(d.LoadsHome(), &loads());
+    EXPECT_EQ(d.ZoneList().size(), 3u);
 }
 
 TEST_F(ZoneLink, IsMadeWithAFluidWithWhichNoLoadsAddUp) {
@@ -198,8 +198,8 @@ TEST_F(ZoneLink, IsMadeWithAFluidWithWhichNoLoadsAddUp) {
     EXPECT_EQ(messages(), 0u);
     EXPECT_FALSE(main.openCall);
     EXPECT_FALSE(d.settingUnits);
-    EXPECT_EQ(d.LoadsHome, &loads());
-    EXPECT_EQ(d.ZoneList.size(), 3u);
+    EXPECT_EQ(d.LoadsHome(), &loads());
+    EXPECT_EQ(d.ZoneList().size(), 3u);
     EXPECT_EQ(main.activeWindow(), &d);
     d.click("CACalculateCommand");
     EXPECT_EQ(messages(), 1u);
@@ -208,10 +208,10 @@ TEST_F(ZoneLink, IsMadeWithAFluidWithWhichNoLoadsAddUp) {
 TEST_F(ZoneLink, OfAProjectBeforeVersionTwoStaysEmpty) {
     replaceInProject("Version 3.0", "Version 1.2");
     const frmBHDesign& d = reopen();
-    EXPECT_EQ(d.linkType, "");
-    EXPECT_EQ(d.LoadsHome, nullptr);
-    EXPECT_EQ(d.workingZoneFile, "school.zon");
-    EXPECT_TRUE(d.workingFileCheck);
+    EXPECT_EQ(d.loads().linkType, "");
+    EXPECT_EQ(d.LoadsHome(), nullptr);
+    EXPECT_EQ(d.loads().file.name, "school.zon");
+    EXPECT_TRUE(d.loads().file.exists);
 }
 
 TEST_F(ZoneLink, KeepsTheProjectsTemperaturesFlowAndSeriesAndGivesThemToTheLoads) {
@@ -222,40 +222,40 @@ TEST_F(ZoneLink, KeepsTheProjectsTemperaturesFlowAndSeriesAndGivesThemToTheLoads
     data.activeSeries = "OtherB";
     saveZoneFile(folder / "zones/school.zon", data);
     const frmBHDesign& d = reopen();
-    EXPECT_EQ(d.ZoneList.size(), 1u);
-    EXPECT_EQ(d.inletTemp, (ByMode<double>{85, 50}));
-    EXPECT_EQ(d.flowRate, 3);
-    EXPECT_EQ(d.activeSeries, "AcmeA");
-    EXPECT_EQ(loads().inletTemp, (ByMode<double>{85, 50}));
-    EXPECT_EQ(loads().flowRate, 3);
-    EXPECT_EQ(loads().activeSeries, "AcmeA");
-    EXPECT_EQ(loads().zoneNumber, 1);
+    EXPECT_EQ(d.ZoneList().size(), 1u);
+    EXPECT_EQ(d.conditions().inletTemp, (ByMode<double>{85, 50}));
+    EXPECT_EQ(d.conditions().flowRate, 3);
+    EXPECT_EQ(d.loads().activeSeries, "AcmeA");
+    EXPECT_EQ(loads().conditions().inletTemp, (ByMode<double>{85, 50}));
+    EXPECT_EQ(loads().conditions().flowRate, 3);
+    EXPECT_EQ(loads().activeSeries(), "AcmeA");
+    EXPECT_EQ(loads().zoneNumber(), 1);
 }
 
 TEST_F(ZoneLink, ShowsTheSavedResultsThoughTheZonesHaveChanged) {
-    const ByMode<double> before = reopen().results.loads.peakLoad;
+    const ByMode<double> before = reopen().results().loads.peakLoad;
     EXPECT_GT(before[cooling], 0);
     closeAll();
     writeZones(folder / "zones/school.zon", 1);
     frmBHDesign& d = reopen();
-    EXPECT_EQ(d.results.loads.peakLoad, before);
+    EXPECT_EQ(d.results().loads.peakLoad, before);
     EXPECT_FALSE(d.isStale());
     // The next run takes the zones as they are: one of 10 MBtu/hr.
     d.CACalculateCommand_Click();
-    EXPECT_EQ(d.results.loads.peakLoad[cooling], 10);
+    EXPECT_EQ(d.results().loads.peakLoad[cooling], 10);
 }
 
 TEST_F(ZoneLink, MakesAChangeInTheLoadsCountInTheNextCalculation) {
     frmBHDesign& d = reopen();
-    loads().ZoneList[0].gains[1][cooling] += 100;
-    const double before = d.results.loads.peakLoad[cooling];
+    loads().data().zones.edit(0).gains[1][cooling] += 100;
+    const double before = d.results().loads.peakLoad[cooling];
     d.click("CACalculateCommand");
-    EXPECT_EQ(d.results.loads.peakLoad[cooling], before + 100);
+    EXPECT_EQ(d.results().loads.peakLoad[cooling], before + 100);
 }
 
 TEST_F(ZoneLink, ShowsWhichModeGoverns) {
     const frmBHDesign& d = reopen();
-    const ByMode<double>& length = d.results.lengths.boreLength;
+    const ByMode<double>& length = d.results().lengths.boreLength;
     ASSERT_NE(length[cooling], length[heating]);
     const int greyed = length[cooling] > length[heating] ? 1 : 0;
     EXPECT_EQ(d.control("CATopLabel(" + std::to_string(greyed) + ")").forecolor(), colours::greyed);

@@ -178,7 +178,6 @@ class frmEveryKind : public ChildWindow {
     }
 
     void busy() {
-        platform().pause(60000);
         platform().progress("Working", 1, 2);
         note("today " + isoText(platform().today()));
     }

@@ -18,6 +18,8 @@ double peakGroundLoad(Mode mode, double load, double demand);
 struct LoadTonHours {
     ByMode<std::vector<double>> zonePeakTons;  ///< largest block load of each zone, tons
     ByMode<std::vector<double>> loadTonHours;  ///< peak times equivalent full-load hours, ton hr
+
+    friend bool operator==(const LoadTonHours&, const LoadTonHours&) = default;
 };
 
 LoadTonHours calculateLoadTonHours(Zones zones);

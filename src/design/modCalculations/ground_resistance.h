@@ -15,6 +15,8 @@ struct GroundResistances {
     double annual = 0;
     double monthly = 0;
     double shortTerm = 0;
+
+    friend bool operator==(const GroundResistances&, const GroundResistances&) = default;
 };
 
 /// Dimensionless time of heat flow around a cylinder: 4 alpha t / d^2.

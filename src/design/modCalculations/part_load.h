@@ -11,6 +11,8 @@ struct PartLoadFactors {
     BlockLoads weightedBlockLoad{};   ///< weighted by days of occupation a week, MBtu/hr
     ByMode<double> dailyLoad{};       ///< of a mean day, MBtu
     ByMode<double> partLoadFactor{};  ///< daily load over a day at peak load; 0 without peak load
+
+    friend bool operator==(const PartLoadFactors&, const PartLoadFactors&) = default;
 };
 
 /// With a tower the cooling factor is that of the load before the tower takes its share.

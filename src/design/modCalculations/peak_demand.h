@@ -14,6 +14,8 @@ struct PeakDemand {
     ByMode<std::vector<double>> zoneDemand;    ///< kW by zone
     ByMode<double> totalCapacity{};            ///< MBtu/hr
     ByMode<double> peakDemand{};               ///< kW
+
+    friend bool operator==(const PeakDemand&, const PeakDemand&) = default;
 };
 
 /// A zone without a pump has no capacity and counts 0.

@@ -3,15 +3,14 @@
 
 #include <array>
 #include <cstdint>
-#include <span>
 
 #include "basis/mode.h"
-#include "loads/zone.h"
+#include "loads/shared_zones.h"
 
 namespace varnholt::modCalculations {
 
 /// The zones in use.
-using Zones = std::span<const Zone>;
+using Zones = const SharedZones&;
 
 /// Loads of each mode by time block, MBtu/hr.
 using BlockLoads = ByMode<std::array<double, timeBlocks>>;
@@ -21,6 +20,8 @@ struct PeakLoads {
     BlockLoads blockLoad{};            ///< sum over the zones, MBtu/hr
     ByMode<double> peakLoad{};         ///< largest block load, 0 when none is positive, MBtu/hr
     ByMode<std::int16_t> peakBlock{};  ///< earliest block of that load, 0 when none is positive
+
+    friend bool operator==(const PeakLoads&, const PeakLoads&) = default;
 };
 
 PeakLoads calcPeakLoads(Zones zones);

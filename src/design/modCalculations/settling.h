@@ -16,6 +16,8 @@ struct SettledLengths {
     ByMode<bool> nonPositive{};           ///< a length of the mode was 1 ft or less in some pass
     std::int16_t iterations = 0;
     bool failed = false;  ///< neither mode has a solution, or the hundredth pass was the last
+
+    friend bool operator==(const SettledLengths&, const SettledLengths&) = default;
 };
 
 /// Repeats penalty and length, since each depends on the other, until both lengths change by no

@@ -11,6 +11,8 @@ struct SystemCOP {
     ByMode<double> totalPumpWatts{};  ///< kW at full capacity
     ByMode<double> heatPumpCOP{};     ///< capacity of all pumps over their power
     ByMode<double> systemCOP{};       ///< peak load over peak demand with extra power
+
+    friend bool operator==(const SystemCOP&, const SystemCOP&) = default;
 };
 
 /// @param peakLoad    MBtu/hr; with a tower's share the cooling figure is the load before it

@@ -12,12 +12,16 @@ struct Fluid {
 
     /// Heat carried by 1 gpm for each degF, Btu/hr.
     double heatPerGallonMinute() const;
+
+    friend bool operator==(const Fluid&, const Fluid&) = default;
 };
 
 /// What the loop carries.
 struct UnitOutlet {
     ByMode<double> systemFlow{};  ///< gpm
     ByMode<double> outletTemp{};  ///< of the heat pump units, degF
+
+    friend bool operator==(const UnitOutlet&, const UnitOutlet&) = default;
 };
 
 /// Flow of the loop and the temperature at which it leaves the units: above the inlet in cooling,

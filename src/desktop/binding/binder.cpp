@@ -236,22 +236,22 @@ FieldRow Binder::row(const std::string& field, std::initializer_list<QWidget*> m
 }
 
 FieldRow Binder::pair(const std::string& stem, std::initializer_list<QWidget*> more) {
-    FieldRow row = this->row(element(stem, 0), more);
-    row.fields.push_back(withUpDown(element(stem, 1)));
-    mark(element(stem, 0), cooling);
-    mark(element(stem, 1), heating);
+    FieldRow row = this->row(elementName(stem, 0), more);
+    row.fields.push_back(withUpDown(elementName(stem, 1)));
+    mark(elementName(stem, 0), cooling);
+    mark(elementName(stem, 1), heating);
     return row;
 }
 
 FieldRow Binder::results(const std::string& label) {
     FieldRow row;
-    row.caption = widget(element(label, 2));
+    row.caption = widget(elementName(label, 2));
     for (const std::size_t mode : {0U, 1U}) {
-        auto* figure = static_cast<QLabel*>(widget(element(label, mode)));
+        auto* figure = static_cast<QLabel*>(widget(elementName(label, mode)));
         figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         figure->setFont(figureFont(figure->font()));
         row.fields.push_back(figure);
-        nameFor(element(label, mode), element(label, 2));
+        nameFor(elementName(label, mode), elementName(label, 2));
     }
     return row;
 }
@@ -343,10 +343,6 @@ Drawing* Binder::drawing(Drawing* drawing) {
     connect(drawing, &QObject::destroyed, this,
             [this, drawing] { std::erase(drawings_, drawing); });
     return drawing;
-}
-
-std::string element(const std::string& array, std::size_t index) {
-    return array + "(" + std::to_string(index) + ")";
 }
 
 std::string companionName(const std::string& control, const std::string& suffix, bool indexed) {

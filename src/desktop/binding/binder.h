@@ -155,9 +155,6 @@ class Binder : public QObject, public FormObserver {
     int actions_ = 0;
 };
 
-/// "FLInletTempText(0)": the name of a control array's element.
-std::string element(const std::string& array, std::size_t index);
-
 /// "FLInletTempLabel(0)" of "FLInletTempText(0)": the control's name with another suffix before
 /// its index, and without the index when `indexed` is false.
 std::string companionName(const std::string& control, const std::string& suffix,

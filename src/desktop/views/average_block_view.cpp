@@ -10,7 +10,7 @@ namespace varnholt {
 
 QWidget* makeAverageBlockView(Binder& bind) {
     return roomy(
-        column(loadsBar(bind),
+        column(loadsBar(bind), noticeBar(bind),
                grow(bind.tabs(
                    "tabLoads",
                    {page(row_(zoneList(bind), grow(new ScrollPage(column(zonePanel(bind)))))),

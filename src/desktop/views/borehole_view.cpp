@@ -89,9 +89,9 @@ QWidget* makeBoreholeView(Binder& bind) {
                              page(pipePage(bind)), page(arrangementPage(bind)),
                              page(extraPowerPage(bind)), page(informationPage(bind))});
     // The results take more room than the zeros that they begin with.
-    return roomy(
-        column(bar(row_(bind.widget("MetricCheck"), stretch(), linkLights(bind))), grow(pages)),
-        {980, 640});
+    return roomy(column(bar(row_(bind.widget("MetricCheck"), stretch(), linkLights(bind))),
+                        noticeBar(bind), grow(pages)),
+                 {980, 640});
 }
 
 }  // namespace varnholt

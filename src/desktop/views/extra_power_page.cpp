@@ -8,9 +8,9 @@ namespace {
 
 /// A pump or fan: shaft power and motor efficiency, and the power that these need.
 QWidget* motor(Binder& bind, std::size_t shaft, std::size_t efficiency, std::size_t input) {
-    return grid(bind.row(element("EKWPumpPowerText", shaft)),
-                bind.row(element("EKWPumpEfficiencyText", efficiency)),
-                bind.row(element("EKWPumpPowerText", input)));
+    return grid(bind.row(elementName("EKWPumpPowerText", shaft)),
+                bind.row(elementName("EKWPumpEfficiencyText", efficiency)),
+                bind.row(elementName("EKWPumpPowerText", input)));
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ PumpPicture pumpPicture(const Binder& bind) {
     const bool metric = window->units() == UnitSystem::metric;
     for (const Mode mode : modes)
         picture.designWater[mode] =
-            quantities::temperature.shown(window->inletTemp[mode], window->units());
+            quantities::temperature.shown(window->conditions().inletTemp[mode], window->units());
     picture.temperatureUnit = metric ? bind.text(2879) : bind.text(2880);
     picture.capacityUnit = loadsCaptions(bind).unit;
     picture.powerUnit = withoutBrackets(bind.text(2823));

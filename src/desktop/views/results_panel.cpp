@@ -11,7 +11,7 @@ constexpr int noLoadsText = 2160;
 
 bool hasNoLoads(const Binder& bind) {
     const auto* design = static_cast<const LinkedDesign*>(bind.form());
-    return design != nullptr && design->zoneNumber == 0;
+    return design != nullptr && design->loads().zoneNumber == 0;
 }
 
 }  // namespace

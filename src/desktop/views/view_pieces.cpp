@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/views/view_pieces.h"
 
+#include <QFrame>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <utility>
 
@@ -42,6 +44,24 @@ QWidget* hint(Binder& bind, int text, std::function<bool()> condition) {
     refresh();
     bind.onSettled(refresh);
     return label;
+}
+
+QWidget* noticeBar(Binder& bind) {
+    auto* bar = new QFrame;
+    bar->setObjectName(QStringLiteral("noticeBar"));
+    bar->setFrameShape(QFrame::StyledPanel);
+    auto* row = new QHBoxLayout(bar);
+    row->addWidget(wrapped(bind.widget("NoticeLabel")), 1);
+    row->addWidget(bind.widget("NoticeCommand"));
+    const auto refresh = [bar, &bind] {
+        const Form* form = bind.form();
+        const bool shown = form != nullptr && !form->control("NoticeLabel").caption().empty();
+        // A bar without a parent would open as a window of its own.
+        if (!shown || bar->parentWidget() != nullptr) bar->setVisible(shown);
+    };
+    refresh();
+    bind.onSettled(refresh);
+    return bar;
 }
 
 QWidget* linkLights(Binder& bind) {

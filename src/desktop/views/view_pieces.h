@@ -21,6 +21,10 @@ QWidget* named(Binder& bind, const std::string& control, const std::string& capt
 /// A line that tells what to do first, shown while the condition holds.
 QWidget* hint(Binder& bind, int text, std::function<bool()> condition);
 
+/// What a person must know of the window, and what can be done about it; gone while there is
+/// nothing.
+QWidget* noticeBar(Binder& bind);
+
 /// The lights of a window's link, side by side; the form shows those that matter.
 QWidget* linkLights(Binder& bind);
 

@@ -97,7 +97,7 @@ QWidget* zonesPage(Binder& bind) {
 
 QWidget* makeZoneManagerView(Binder& bind) {
     return roomy(
-        column(loadsBar(bind),
+        column(loadsBar(bind), noticeBar(bind),
                grow(bind.tabs("tabLoads", {page(zonesPage(bind)), page(heatPumpPage(bind))}))),
         {1220, 700});
 }

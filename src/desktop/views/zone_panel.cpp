@@ -23,9 +23,9 @@ FieldRow unitRow(Binder& bind, const char* cooling, const char* heating) {
 
 FieldRow blockRow(Binder& bind, std::size_t block) {
     FieldRow row;
-    row.caption = bind.widget(element("LOTimeLabel", block));
+    row.caption = bind.widget(elementName("LOTimeLabel", block));
     for (const Mode mode : modes) {
-        const std::string field = element("LOGainsText", block + mode * timeBlocks);
+        const std::string field = elementName("LOGainsText", block + mode * timeBlocks);
         row.fields.push_back(bind.widget(field));
         bind.mark(field, mode);
     }
@@ -96,22 +96,23 @@ QWidget* selection(Binder& bind) {
 
 FieldRow detail(Binder& bind, std::size_t index) {
     FieldRow row;
-    row.caption = bind.widget(element("LODetailsLabel", index));
-    row.fields = {bind.widget(element("LODetailsTextLabel", index))};
+    row.caption = bind.widget(elementName("LODetailsLabel", index));
+    row.fields = {bind.widget(elementName("LODetailsTextLabel", index))};
     return row;
 }
 
 /// Temperature and flow of one kind of load side.
 QWidget* loadSide(Binder& bind, const char* frame, std::size_t first) {
     const auto row = [&](const char* field) {
-        FieldRow both = bind.row(element(field, first));
-        both.fields.push_back(bind.widget(element(field, first + 1)));
-        bind.mark(element(field, first), cooling).mark(element(field, first + 1), heating);
+        FieldRow both = bind.row(elementName(field, first));
+        both.fields.push_back(bind.widget(elementName(field, first + 1)));
+        bind.mark(elementName(field, first), cooling).mark(elementName(field, first + 1), heating);
         return both;
     };
-    return group(bind.frame(frame), grid(bind.heads(element("LOInletLoadsModeLabel", first),
-                                                    element("LOInletLoadsModeLabel", first + 1)),
-                                         row("LOInletLoadsTempText"), row("LOInletLoadsFlowText")));
+    return group(bind.frame(frame),
+                 grid(bind.heads(elementName("LOInletLoadsModeLabel", first),
+                                 elementName("LOInletLoadsModeLabel", first + 1)),
+                      row("LOInletLoadsTempText"), row("LOInletLoadsFlowText")));
 }
 
 QWidget* details(Binder& bind) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/windows/desktop_platform.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QEventLoop>
@@ -11,6 +12,7 @@
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
+#include <map>
 
 #include "basis/file_system.h"
 #include "desktop/widgets/qt_text.h"
@@ -121,11 +123,16 @@ void DesktopPlatform::setClipboard(const std::string& text) {
     QGuiApplication::clipboard()->setText(qt(text));
 }
 
-void DesktopPlatform::pause(int milliseconds) {
-    // A person's input waits, so that no command starts in the midst of another.
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
+void DesktopPlatform::edit(EditCommand command) {
+    QWidget* focused = QApplication::focusWidget();
+    const std::map<EditCommand, const char*> slotNames{{EditCommand::cut, "cut"},
+                                                       {EditCommand::copy, "copy"},
+                                                       {EditCommand::paste, "paste"},
+                                                       {EditCommand::selectAll, "selectAll"}};
+    const char* slotName = slotNames.at(command);
+    if (focused != nullptr &&
+        focused->metaObject()->indexOfSlot((std::string(slotName) + "()").c_str()) >= 0)
+        QMetaObject::invokeMethod(focused, slotName);
 }
 
 void DesktopPlatform::progress(const std::string& what, std::size_t done, std::size_t total) {

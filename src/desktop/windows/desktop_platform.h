@@ -28,7 +28,7 @@ class DesktopPlatform : public Platform {
     std::string clipboard() override;
     void setClipboard(const std::string& text) override;
     Date today() override { return dateOfToday(); }
-    void pause(int milliseconds) override;
+    void edit(EditCommand command) override;
     void progress(const std::string& what, std::size_t done, std::size_t total) override;
     void openOutside(const std::string& address) override;
     std::optional<std::string> GetKeyValue(const std::string&, const std::string&) override {

@@ -36,9 +36,8 @@ std::string fileOf(const Form& form) {
     if (const auto* design = dynamic_cast<const DesignDocument*>(&form))
         return design->currentFileCheck ? design->filePath() : std::string();
     if (const auto* loads = dynamic_cast<const LoadsWindow*>(&form))
-        return loads->workingFileCheck
-                   ? joinPath(loads->workingZoneDirectory, loads->workingZoneFile)
-                   : std::string();
+        return loads->file().exists ? joinPath(loads->file().folder, loads->file().name)
+                                    : std::string();
     return {};
 }
 

@@ -7,6 +7,7 @@
 
 #include "desktop/widgets/qt_text.h"
 #include "desktop/windows/main_window.h"
+#include "frame/design_document.h"
 #include "frame/varnmain.h"
 #include "loads/loads_window.h"
 
@@ -26,7 +27,9 @@ class Quiet {
 
 bool isModified(const Form& form) {
     const auto* loads = dynamic_cast<const LoadsWindow*>(&form);
-    return loads != nullptr && loads->hasUnsavedChanges();
+    const auto* design = dynamic_cast<const DesignDocument*>(&form);
+    return (loads != nullptr && loads->hasUnsavedChanges()) ||
+           (design != nullptr && design->isChanged());
 }
 
 }  // namespace

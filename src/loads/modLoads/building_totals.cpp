@@ -6,7 +6,7 @@
 namespace varnholt {
 namespace {
 
-void sumLoads(BuildingTotals& totals, const std::vector<Zone>& zones, Mode m) {
+void sumLoads(BuildingTotals& totals, const SharedZones& zones, Mode m) {
     for (const Zone& zone : zones)
         for (std::size_t block = 0; block < timeBlocks; ++block)
             totals.gains[block][m] += zone.gains[block][m];
@@ -17,7 +17,7 @@ void sumLoads(BuildingTotals& totals, const std::vector<Zone>& zones, Mode m) {
         }
 }
 
-void sumPumps(BuildingTotals& totals, const std::vector<Zone>& zones, Mode m) {
+void sumPumps(BuildingTotals& totals, const SharedZones& zones, Mode m) {
     double totalWatts = 0;
     for (const Zone& zone : zones) {
         const double capacity = zone.pump.capacity[m];
@@ -34,7 +34,7 @@ void sumPumps(BuildingTotals& totals, const std::vector<Zone>& zones, Mode m) {
 
 }  // namespace
 
-BuildingTotals totalsOf(const std::vector<Zone>& zones) {
+BuildingTotals totalsOf(const SharedZones& zones) {
     BuildingTotals totals;
     for (const Mode m : modes) {
         sumLoads(totals, zones, m);

@@ -3,10 +3,9 @@
 
 #include <array>
 #include <cstddef>
-#include <vector>
 
 #include "basis/mode.h"
-#include "loads/zone.h"
+#include "loads/shared_zones.h"
 
 namespace varnholt {
 
@@ -27,6 +26,6 @@ struct BuildingTotals {
     friend bool operator==(const BuildingTotals&, const BuildingTotals&) = default;
 };
 
-BuildingTotals totalsOf(const std::vector<Zone>& zones);
+BuildingTotals totalsOf(const SharedZones& zones);
 
 }  // namespace varnholt

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The tables of the fields of the loads windows.
+// The fields of the loads windows: each row declares all that there is to a field.
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -18,27 +19,30 @@ constexpr double mostLoadFlow = 1000000;                // cfm or gpm
 constexpr ByMode<double> defaultInletTemp{85, 50};
 constexpr ByMode<double> defaultAirTemp{67, 70};
 constexpr ByMode<double> defaultWaterTemp{55, 100};
+constexpr ByMode<int> modeTexts{2839, 2840};
+constexpr std::array<int, timeBlocks> timeTexts{2824, 2825, 2826, 2827};
+constexpr UnitTexts degrees{2880, 2879};
 
 /// Cooling's COP is shown as an EER in English units.
 const Quantity energyEfficiency{
     {[](double cop) { return cop * mbtuPerKilowatt; }, [](double cop) { return cop; }},
     {[](double eer) { return eer / mbtuPerKilowatt; }, [](double cop) { return cop; }}};
 
-std::string numbered(const std::string& name, std::size_t index) {
-    return name + "(" + std::to_string(index) + ")";
-}
+/// The zone on display by then, to read and to write to; null while there is none.
+struct ZoneOnDisplay {
+    std::function<const Zone*()> shown;
+    std::function<Zone*()> edited;
+};
 
-using ZoneOnDisplay = std::function<Zone*()>;
-
-/// A number of the zone that is on display by then; nothing while there is none.
+/// A number of that zone; 0 while there is none.
 StoredNumber ofZone(const ZoneOnDisplay& zone, const std::function<double(const Zone&)>& get,
                     const std::function<void(Zone&, double)>& set) {
     return {[zone, get] {
-                const Zone* shown = zone();
+                const Zone* shown = zone.shown();
                 return shown == nullptr ? 0 : get(*shown);
             },
             [zone, set](double value) {
-                if (Zone* shown = zone()) set(*shown, value);
+                if (Zone* edited = zone.edited()) set(*edited, value);
             }};
 }
 
@@ -51,136 +55,268 @@ StoredNumber ofPump(const ZoneOnDisplay& zone, ByMode<double> MiniPump::*member,
 
 }  // namespace
 
-void ZoneWindow::addFields() {
+void ZoneWindow::setFieldManner() {
     fields().setManner({.codeIsWriting = [this] { return settingUnits; },
                         .units = [this] { return units(); },
                         .changed = [this] { markChanged(); },
                         .anyErrorStoresZero = false});
-    addLoadsFields();
-    addPumpFields();
-    addDetailsFields();
-    addConditionFields();
 }
 
-void ZoneWindow::addLoadsFields() {
-    const auto zone = [this] { return shownZone(); };
-    for (const Mode m : modes)
-        for (std::size_t block = 0; block < timeBlocks; ++block)
-            fields().add({.control = numbered("LOGainsText", m * timeBlocks + block),
-                          .stored = ofZone(
-                              zone, [m, block](const Zone& of) { return of.gains[block][m]; },
-                              [m, block](Zone& of, double x) { of.gains[block][m] = x; }),
-                          .quantity = &quantities::load});
-    for (const Mode m : modes)
-        fields().add({.control = numbered("LOHoursText", m),
+void ZoneWindow::addLoadsFrame() {
+    const std::string frame = "LODesignLoadsFrame";
+    add(frame, ControlKind::frame, 2832).in("LOZoneFrame");
+    add("LOZoneReferenceLabel", ControlKind::label, 2850).in(frame);
+    add("LOZoneReferenceText", ControlKind::text)
+        .in(frame)
+        .captionedBy("LOZoneReferenceLabel")
+        .helpedBy("loads#zone");
+    add("LOLoadsLabel(0)", ControlKind::label, 2818).in(frame);
+    add("LOTimeOfDayLabel", ControlKind::label, 2819).in(frame);
+    addGainsFields();
+    add("LOLoadsChart", ControlKind::image, 2945).in(frame);
+    addHoursFields();
+    add("LOEqvHoursCommand", ControlKind::button, 2831).in(frame);
+}
+
+/// Heat gains in the fields 0 to 3, heat losses in 4 to 7.
+void ZoneWindow::addGainsFields() {
+    const ZoneOnDisplay zone{[this] { return shownZone(); }, [this] { return editShownZone(); }};
+    const std::string frame = "LODesignLoadsFrame";
+    const ByMode<std::string> labels{"LOHeatGainsLabel", "LOHeatLossesLabel"};
+    const ByMode<std::string> units{"LOHeatGainsUnitLabel", "LOHeatLossesUnitLabel"};
+    const ByMode<int> captions{2820, 2821};
+    for (const Mode m : modes) {
+        add(labels[m], ControlKind::label, captions[m]).in(frame);
+        add(units[m], ControlKind::label).in(frame);
+    }
+    for (std::size_t block = 0; block < timeBlocks; ++block) {
+        add(elementName("LOTimeLabel", block), ControlKind::label, timeTexts[block]).in(frame);
+        for (const Mode m : modes)
+            addField({.control = elementName("LOGainsText", m * timeBlocks + block),
                       .stored = ofZone(
-                          zone, [m](const Zone& of) { return of.hours[m]; },
-                          [m](Zone& of, double x) { of.hours[m] = toInteger(x); }),
-                      .format = "###0"});
-    fields().add(
+                          zone, [m, block](const Zone& of) { return of.gains[block][m]; },
+                          [m, block](Zone& of, double x) { of.gains[block][m] = x; }),
+                      .quantity = &quantities::load,
+                      .beside = {.frame = frame,
+                                 .label = labels[m],
+                                 .unitLabel = units[m],
+                                 .unit = {2822, 2823},
+                                 .help = "loads#zone",
+                                 .distinction = timeTexts[block]}});
+    }
+}
+
+void ZoneWindow::addHoursFields() {
+    const ZoneOnDisplay zone{[this] { return shownZone(); }, [this] { return editShownZone(); }};
+    for (const Mode m : modes)
+        addField({.control = elementName("LOHoursText", m),
+                  .stored = ofZone(
+                      zone, [m](const Zone& of) { return of.hours[m]; },
+                      [m](Zone& of, double x) { of.hours[m] = toInteger(x); }),
+                  .format = "###0",
+                  .beside = {.frame = "LODesignLoadsFrame",
+                             .label = "LOLoadsLabel(1)",
+                             .caption = {kind_.hoursText, kind_.hoursText},
+                             .help = "loads#zone",
+                             .distinction = modeTexts[m]}});
+    addField(
         {.control = "LODaysperWeekText",
          .stored = ofZone(
              zone, [](const Zone& of) { return of.days; }, [](Zone& of, double x) { of.days = x; }),
          .highest = 7,
          .fallback = 7,
+         .beside = {.frame = "LODesignLoadsFrame",
+                    .label = "LODaysperWeekLabel",
+                    .caption = {2830, 2830},
+                    .help = "loads#zone"},
          .unparsable = -1});
 }
 
-void ZoneWindow::addPumpFields() {
-    const auto zone = [this] { return shownZone(); };
-    const auto typed = [this] { figureTyped(); };
-    fields().add({.control = "LONumberOfUnitsText(1)",
-                  .stored = ofZone(
-                      zone, [](const Zone& of) { return of.pump.number; },
-                      [](Zone& of, double x) { of.pump.number = toInteger(x); }),
-                  .lowest = 1,
-                  .fallback = 1,
-                  .format = "###0",
-                  .changed = [this] { showUnitsToSelect(); }});
-    for (const Mode m : modes) {
-        fields().add({.control = numbered("LOCapacityText", m),
-                      .stored = ofPump(zone, &MiniPump::capacity, m),
-                      .quantity = &quantities::load,
-                      .changed = typed});
-        fields().add({.control = numbered("LOPowerText", m),
-                      .stored = ofPump(zone, &MiniPump::watts, m),
-                      .format = "###0.00",
-                      .changed = typed});
-        fields().add({.control = numbered("LOCOPText", m),
-                      .stored = ofPump(zone, &MiniPump::efficiency, m),
-                      .quantity = m == cooling ? &energyEfficiency : &quantities::plain,
-                      .changed = typed});
-        fields().add({.control = numbered("LOFlowRateText", m),
-                      .stored = ofPump(zone, &MiniPump::flowRate, m),
-                      .quantity = &quantities::waterFlow,
-                      .changed = typed});
-        fields().add({.control = numbered("LOPLFText", m),
-                      .stored = ofPump(zone, &MiniPump::plf, m),
-                      .highest = 1,
-                      .format = "###0.00",
-                      .ifAbove = 1,
-                      .changed = typed});
-    }
+void ZoneWindow::addSpecificationsFrame() {
+    const std::string frame = "LOSpecificationsFrame";
+    add(frame, ControlKind::frame, 2849).in("LOZoneFrame");
+    add("LOPumpNameLabel", ControlKind::label, kind_.pumpNameText).in(frame);
+    add("LOPumpNameText", ControlKind::text)
+        .in(frame)
+        .captionedBy("LOPumpNameLabel")
+        .helpedBy("loads#pump");
+    addUnitsField();
+    add("LOCoolingLabel", ControlKind::label, 2839).in(frame);
+    add("LOHeatingLabel", ControlKind::label, 2840).in(frame);
+    addFigureFields();
+}
+
+void ZoneWindow::addUnitsField() {
+    const ZoneOnDisplay zone{[this] { return shownZone(); }, [this] { return editShownZone(); }};
+    addField({.control = "LONumberOfUnitsText(1)",
+              .stored = ofZone(
+                  zone, [](const Zone& of) { return of.pump.number; },
+                  [](Zone& of, double x) { of.pump.number = toInteger(x); }),
+              .lowest = 1,
+              .fallback = 1,
+              .format = "###0",
+              .beside = {.frame = "LOSpecificationsFrame",
+                         .label = "LONumberOfUnitsLabel(1)",
+                         .caption = {2838, 2838},
+                         .help = "loads#pump",
+                         .accessible = 2852},
+              .changed = [this] { showUnitsToSelect(); }});
+}
+
+/// What a pump does, in cooling and in heating.
+void ZoneWindow::addFigureFields() {
+    struct Figure {
+        const char* name;
+        UnitTexts caption;
+        ByMode<double> MiniPump::*member;
+        ByMode<const Quantity*> quantity;
+        const char* format;
+        std::optional<double> highest;
+    };
+    const Quantity* load = &quantities::load;
+    const Quantity* plain = &quantities::plain;
+    const Quantity* flow = &quantities::waterFlow;
+    const Figure figures[] = {
+        {"LOCapacity", {2842, 2841}, &MiniPump::capacity, {load, load}, "###0.0", {}},
+        {"LOPower", {2843, 2843}, &MiniPump::watts, {plain, plain}, "###0.00", {}},
+        {"LOCOP", {2845, 2844}, &MiniPump::efficiency, {&energyEfficiency, plain}, "###0.0", {}},
+        {"LOFlowRate", {2847, 2846}, &MiniPump::flowRate, {flow, flow}, "###0.0", {}},
+        {"LOPLF", {2848, 2848}, &MiniPump::plf, {plain, plain}, "###0.00", 1},
+    };
+    const ZoneOnDisplay zone{[this] { return shownZone(); }, [this] { return editShownZone(); }};
+    for (const Figure& figure : figures)
+        for (const Mode m : modes)
+            addField({.control = elementName(figure.name + std::string("Text"), m),
+                      .stored = ofPump(zone, figure.member, m),
+                      .quantity = figure.quantity[m],
+                      .highest = figure.highest.value_or(1e308),
+                      .format = figure.format,
+                      .beside = {.frame = "LOSpecificationsFrame",
+                                 .label = figure.name + std::string("Label"),
+                                 .caption = figure.caption,
+                                 .help = "loads#pump",
+                                 .distinction = modeTexts[m]},
+                      .ifAbove = figure.highest,
+                      .changed = [this] { figureTyped(); }});
+}
+
+/// @param first index of the frame's cooling fields; its heating fields follow
+void ZoneWindow::addLoadSideFrame(const std::string& frame, int captionText, int first) {
+    add(frame, ControlKind::frame, captionText).in("LODetailsFrame");
+    for (const Mode m : modes)
+        add(elementName("LOInletLoadsModeLabel", static_cast<std::size_t>(first) + m),
+            ControlKind::label, modeTexts[m])
+            .in(frame);
+    addLoadSideFields(frame, static_cast<std::size_t>(first));
 }
 
 /// Two fields for each value: one in the frame for air, one in the frame for water.
-void ZoneWindow::addDetailsFields() {
-    const auto zone = [this] { return shownZone(); };
-    for (std::size_t i = 0; i < 4; ++i) {
-        const bool air = i < 2;
-        const std::size_t m = i % 2;
-        fields().add({.control = numbered("LOInletLoadsTempText", i),
-                      .stored = ofPump(zone, &MiniPump::elt, m),
-                      .quantity = &quantities::temperature,
-                      .lowest = coldestWater,
-                      .highest = hottestWater,
-                      .fallback = air ? defaultAirTemp[m] : defaultWaterTemp[m]});
-        fields().add({.control = numbered("LOInletLoadsFlowText", i),
-                      .stored = ofPump(zone, &MiniPump::elf, m),
-                      .quantity = air ? &quantities::airFlow : &quantities::waterFlow,
-                      .highest = mostLoadFlow,
-                      .format = air ? "###0" : "###0.0"});
-    }
+void ZoneWindow::addLoadSideFields(const std::string& frame, std::size_t first) {
+    const ZoneOnDisplay zone{[this] { return shownZone(); }, [this] { return editShownZone(); }};
+    const bool air = first == 0;
+    const auto beside = [&](const char* name, int caption, const UnitTexts& unit, Mode m) {
+        return FieldCompanions{.frame = frame,
+                               .label = elementName(name + std::string("Label"), first),
+                               .caption = {caption, caption},
+                               .unitLabel = elementName(name + std::string("UnitLabel"), first),
+                               .unit = unit,
+                               .help = "loads#details",
+                               .distinction = modeTexts[m]};
+    };
+    for (const Mode m : modes)
+        addField({.control = elementName("LOInletLoadsTempText", first + m),
+                  .stored = ofPump(zone, &MiniPump::elt, m),
+                  .quantity = &quantities::temperature,
+                  .lowest = coldestWater,
+                  .highest = hottestWater,
+                  .fallback = air ? defaultAirTemp[m] : defaultWaterTemp[m],
+                  .beside = beside("LOInletLoadsTemp", 2889, degrees, m)});
+    for (const Mode m : modes)
+        addField({.control = elementName("LOInletLoadsFlowText", first + m),
+                  .stored = ofPump(zone, &MiniPump::elf, m),
+                  .quantity = air ? &quantities::airFlow : &quantities::waterFlow,
+                  .highest = mostLoadFlow,
+                  .format = air ? "###0" : "###0.0",
+                  .beside = beside("LOInletLoadsFlow", 2890,
+                                   air ? UnitTexts{2874, 2873} : UnitTexts{2878, 2877}, m)});
 }
 
-void ZoneWindow::addConditionFields() {
+void ZoneWindow::addConditionsFrame() {
+    const std::string frame = "HPDesignFrame";
+    add(frame, ControlKind::frame, 2891);
+    add("HPCoolingLabel", ControlKind::label, 2839).in(frame);
+    add("HPHeatingLabel", ControlKind::label, 2840).in(frame);
+    addTemperatureFields();
+    addFlowField();
+    add("HPInletAirFrame", ControlKind::frame, 2885).in(frame);
+    add("HPInletWaterFrame", ControlKind::frame, 2886).in(frame);
+    for (std::size_t i = 0; i < 4; ++i)
+        addLoadTempField(i < 2 ? "HPInletAirFrame" : "HPInletWaterFrame", i);
+}
+
+void ZoneWindow::addTemperatureFields() {
     for (const Mode m : modes)
-        fields().add({.control = numbered("LOInletTempText", m),
-                      .stored = &inletTemp[m],
-                      .quantity = &quantities::temperature,
-                      .lowest = coldestWater,
-                      .highest = hottestWater,
-                      .fallback = defaultInletTemp[m],
-                      .left = [this, m] { takeFreezingPoint(m); }});
-    fields().add({.control = "FLFlowRateText",
-                  .stored = &flowRate,
-                  .quantity = &quantities::waterFlow,
-                  .highest = 212,
-                  .fallback = 3,
-                  .lowestIsRefused = true});
-    for (std::size_t i = 0; i < 4; ++i) {
-        const bool air = i < 2;
-        const std::size_t m = i % 2;
-        fields().add({.control = numbered("HPLoadInletText", i),
-                      .stored = air ? &inletLoadAirTemp[m] : &inletLoadWaterTemp[m],
-                      .quantity = &quantities::temperature,
-                      .lowest = coldestWater,
-                      .highest = hottestWater,
-                      .fallback = air ? defaultAirTemp[m] : defaultWaterTemp[m]});
-    }
+        addField({.control = elementName("LOInletTempText", m),
+                  .stored = &designConditions().inletTemp[m],
+                  .quantity = &quantities::temperature,
+                  .lowest = coldestWater,
+                  .highest = hottestWater,
+                  .fallback = defaultInletTemp[m],
+                  .beside = {.frame = "HPDesignFrame",
+                             .label = "LOInletTempLabel",
+                             .caption = {2870, 2869},
+                             .help = "loads#conditions",
+                             .distinction = modeTexts[m]},
+                  .left = [this, m] { takeFreezingPoint(m); }});
+}
+
+void ZoneWindow::addFlowField() {
+    addField({.control = "FLFlowRateText",
+              .stored = &designConditions().flowRate,
+              .quantity = &quantities::waterFlow,
+              .highest = 212,
+              .fallback = 3,
+              .beside = {.frame = "HPDesignFrame",
+                         .label = "FLFlowRateLabel",
+                         .caption = {2871, 2871},
+                         .unitLabel = "FLFlowRateUnitLabel",
+                         .unit = {2876, 2872},
+                         .help = "loads#conditions"},
+              .lowestIsRefused = true});
+}
+
+/// Cooling and heating with air in the fields 0 and 1, with water in 2 and 3.
+void ZoneWindow::addLoadTempField(const std::string& frame, std::size_t index) {
+    constexpr int captions[] = {2888, 2887, 2839, 2840};
+    DesignConditions& conditions = designConditions();
+    const bool air = index < 2;
+    const std::size_t m = index % 2;
+    addField({.control = elementName("HPLoadInletText", index),
+              .stored = air ? &conditions.inletLoadAirTemp[m] : &conditions.inletLoadWaterTemp[m],
+              .quantity = &quantities::temperature,
+              .lowest = coldestWater,
+              .highest = hottestWater,
+              .fallback = air ? defaultAirTemp[m] : defaultWaterTemp[m],
+              .beside = {.frame = frame,
+                         .label = elementName("HPLoadInletLabel", index),
+                         .caption = {captions[index], captions[index]},
+                         .unitLabel = elementName("HPLoadInletUnitLabel", index),
+                         .unit = degrees,
+                         .help = "loads#conditions"}});
 }
 
 void ZoneWindow::SetFluidsTabbedPaneSwitchVariables() {
-    showUnitCaptions();
+    fields().showCaptions();
     for (const char* prefix : {"LOInletTemp", "FLFlowRate", "HPLoadInlet"})
         fields().showAll(prefix);
 }
 
 /// A 0 that is still shown as 0 means the freezing point, which is 0 degC.
 void ZoneWindow::takeFreezingPoint(std::size_t mode) {
-    const std::string name = numbered("LOInletTempText", mode);
-    if (inletTemp[mode] != 0 || leadingNumber(control(name).text()) != 0) return;
-    inletTemp[mode] = freezing;
+    const std::string name = elementName("LOInletTempText", mode);
+    double& temperature = designConditions().inletTemp[mode];
+    if (temperature != 0 || leadingNumber(control(name).text()) != 0) return;
+    temperature = freezing;
     fields().show(name);
     markChanged();
 }
@@ -188,9 +324,8 @@ void ZoneWindow::takeFreezingPoint(std::size_t mode) {
 void ZoneWindow::hookTexts() {
     const auto text = [this](const std::string& name, const std::function<void(Zone&)>& take) {
         onChange(name, [this, take] {
-            Zone* zone = shownZone();
-            if (settingUnits || zone == nullptr) return;
-            take(*zone);
+            if (settingUnits || shownZone() == nullptr) return;
+            take(*editShownZone());
             markChanged();
         });
     };
@@ -199,7 +334,7 @@ void ZoneWindow::hookTexts() {
     text("LOPumpNameText",
          [this](Zone& zone) { zone.pump.name = control("LOPumpNameText").text(); });
     for (const Mode m : modes) {
-        const std::string name = numbered("LOInletTempText", m);
+        const std::string name = elementName("LOInletTempText", m);
         onKey(name, [this, name](const std::string& key) {
             if (key == "Enter") fields().left(name);
             if (key == "Ctrl+V") type(name, platform().clipboard());

@@ -2,7 +2,7 @@
 // Browsing the catalogue: in the selection panel for one zone, on the heat pump tab for all.
 #include <algorithm>
 
-#include "loads/modLoads/raised_flag.h"
+#include "basis/raised_flag.h"
 #include "loads/modLoads/zone_window.h"
 
 namespace varnholt {
@@ -65,7 +65,7 @@ void ZoneWindow::LOSelectCommand_Click() {
     SeriesPlace place;
     if (beenHere && zone->pump.customPump != 1)
         place = placeOf(zone->pump.mfgName + zone->pump.seriesName);
-    if (place.series < 0) place = placeOf(activeSeries);
+    if (place.series < 0) place = placeOf(activeSeries());
     showPlace("LOMfgCombo", "LOSeriesCombo", place);
     browseSeries();
 }
@@ -129,7 +129,7 @@ void ZoneWindow::selectPump(const Zone& zone) {
     const RaisedFlag selecting(selectingPump);
     temporaryInletTemp = zone.pump.pumpType == model.pumpType
                              ? zone.pump.elt
-                             : designLoadTemps(designConditions(), model.pumpType);
+                             : designLoadTemps(conditions(), model.pumpType);
     attempt([&] { SetPumpValues(model, typedUnits(), static_cast<std::size_t>(selectedZone())); });
 }
 
@@ -144,7 +144,7 @@ void ZoneWindow::InitializeHeatPumpLists() {
 }
 
 void ZoneWindow::showActiveSeries() {
-    showPlace("HPManufacturerCombo", "HPSeriesCombo", placeOf(activeSeries));
+    showPlace("HPManufacturerCombo", "HPSeriesCombo", placeOf(activeSeries()));
     showActiveModels();
 }
 

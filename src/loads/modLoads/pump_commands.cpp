@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "basis/number_text.h"
+#include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
-#include "loads/modLoads/raised_flag.h"
 #include "loads/modLoads/zone_window.h"
 
 namespace varnholt {
@@ -43,11 +43,12 @@ void ZoneWindow::hookPumpCommands() {
 }
 
 void ZoneWindow::SetPumpValues(const pump& model, std::int16_t units, std::size_t zoneIndex) {
-    Zone& zone = at(ZoneList, static_cast<std::ptrdiff_t>(zoneIndex));
-    zone.pump = evaluated(model, units, zone);
+    const Zone& zone = at(ZoneList(), static_cast<std::ptrdiff_t>(zoneIndex));
+    MiniPump pump = evaluated(model, units, zone);
+    zones().edit(zoneIndex).pump = std::move(pump);
     insideChange = false;
     markChanged();
-    if (shownZone() == &zone) displayZone();
+    if (selectedZone() == static_cast<int>(zoneIndex)) displayZone();
 }
 
 void ZoneWindow::displayPump() {
@@ -73,7 +74,7 @@ void ZoneWindow::freeFields(const MiniPump& shown) {
 
 /// A figure that was typed makes the pump a custom one.
 void ZoneWindow::figureTyped() {
-    Zone* zone = shownZone();
+    Zone* zone = editShownZone();
     if (zone == nullptr) return;
     zone->pump.customPump = 1;
     control("LOCustomPumpCheck").setChecked(true);
@@ -148,7 +149,7 @@ std::optional<std::size_t> ZoneWindow::modelNamed(const std::string& name, Serie
 }
 
 void ZoneWindow::LOClearPumpsCommand_Click() {
-    Zone* zone = shownZone();
+    Zone* zone = editShownZone();
     if (zone == nullptr) return;
     // The nominal flow belonged to the model that goes.
     zone->pump = MiniPump{};
@@ -158,9 +159,9 @@ void ZoneWindow::LOClearPumpsCommand_Click() {
 }
 
 void ZoneWindow::LOCustomPumpCheck_Click() {
-    Zone* zone = shownZone();
-    if (settingUnits || zone == nullptr) return;
-    if (!control("LOCustomPumpCheck").checked()) return freeFields(zone->pump);
+    if (settingUnits || shownZone() == nullptr) return;
+    if (!control("LOCustomPumpCheck").checked()) return freeFields(shownZone()->pump);
+    Zone* zone = editShownZone();
     zone->pump.customPump = 1;
     zone->pump.mfgName.clear();
     zone->pump.seriesName.clear();
@@ -185,7 +186,7 @@ bool ZoneWindow::loadSeries(const std::string& mfgName, const PumpSeriesInfo& se
 bool ZoneWindow::holdsActiveSeries(SeriesSlot slot) const {
     const auto models = catalogue.models(slot);
     return !models.empty() &&
-           models[0].mfgInfo.mfgName + models[0].seriesInfo.seriesName == activeSeries;
+           models[0].mfgInfo.mfgName + models[0].seriesInfo.seriesName == activeSeries();
 }
 
 void ZoneWindow::restoreActiveSeries(SeriesSlot slot) {

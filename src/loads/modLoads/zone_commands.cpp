@@ -3,9 +3,9 @@
 #include <utility>
 
 #include "basis/number_text.h"
+#include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
 #include "frame/varnmain.h"
-#include "loads/modLoads/raised_flag.h"
 #include "loads/modLoads/zone_window.h"
 
 namespace varnholt {
@@ -13,8 +13,9 @@ namespace {
 
 /// Commands that need a zone.
 constexpr const char* zoneCommands[] = {
-    "LOCopyCommand",        "LORemoveCommand",  "LORenumberCommand", "LOAutoSelectAllCommand",
-    "LOUpdatePumpsCommand", "LOSummaryCommand", "LOClearCommand"};
+    "LOCopyCommand",          "LORemoveCommand",      "LORenumberCommand",
+    "LOAutoSelectAllCommand", "LOUpdatePumpsCommand", "LOSummaryCommand",
+    "LOClearCommand",         "LOPrintCommand",       "LOImportCommand"};
 
 /// Those of them, and the one for a new zone, that the summary suspends.
 constexpr const char* suspendedCommands[] = {"LONewCommand", "LOCopyCommand", "LORemoveCommand",
@@ -38,13 +39,16 @@ int ZoneWindow::selectedZone() const {
     return rows.empty() ? -1 : rows.front();
 }
 
-Zone* ZoneWindow::shownZone() {
+const Zone* ZoneWindow::shownZone() const {
     const int position = selectedZone();
-    const bool exists = position >= 0 && static_cast<std::size_t>(position) < ZoneList.size();
-    return exists ? &ZoneList[static_cast<std::size_t>(position)] : nullptr;
+    const bool exists = position >= 0 && static_cast<std::size_t>(position) < ZoneList().size();
+    return exists ? &ZoneList()[static_cast<std::size_t>(position)] : nullptr;
 }
 
-const Zone* ZoneWindow::shownZone() const { return const_cast<ZoneWindow*>(this)->shownZone(); }
+Zone* ZoneWindow::editShownZone() {
+    if (shownZone() == nullptr) return nullptr;
+    return &zones().edit(static_cast<std::size_t>(selectedZone()));
+}
 
 std::string ZoneWindow::nameOfZone(std::size_t number) const {
     return text(2815) + " " + std::to_string(number);
@@ -66,71 +70,82 @@ void ZoneWindow::LONewCommand_Click() {
         zone.pump.seriesName = first.seriesInfo.seriesName;
         zone.pump.pumpType = first.pumpType;
     }
-    zone.pump.elt = designLoadTemps(designConditions(), zone.pump.pumpType);
-    zone.name = nameOfZone(static_cast<std::size_t>(zoneCount) + 1);
+    zone.pump.elt = designLoadTemps(conditions(), zone.pump.pumpType);
+    zone.name = nameOfZone(static_cast<std::size_t>(document_.zoneCount) + 1);
     addZone(std::move(zone));
 }
 
 void ZoneWindow::addZone(Zone zone) {
-    if (ZoneList.size() >= mostZones || static_cast<std::size_t>(zoneCount) >= mostZones)
+    if (ZoneList().size() >= mostZones ||
+        static_cast<std::size_t>(document_.zoneCount) >= mostZones)
         throw RunTimeError(6);
-    if (ZoneList.empty() && !workingFileCheck) {
-        workingZoneFile = newFile();
+    if (ZoneList().empty() && !file().exists) {
+        document_.file.name = newFile();
         showFile();
     }
-    ZoneList.push_back(std::move(zone));
-    ++zoneCount;
-    showZones(static_cast<int>(ZoneList.size()) - 1);
+    zones().push_back(std::move(zone));
+    ++document_.zoneCount;
+    showZones(static_cast<int>(ZoneList().size()) - 1);
     markChanged();
 }
 
 void ZoneWindow::LOClearCommand_Click() {
     if (!CheckForSave()) return;
-    ZoneList.clear();
-    zoneCount = 0;
+    zones().clear();
+    document_.zoneCount = 0;
     forgetZoneFile();
     showZones(-1);
     SetFluidsTabbedPaneSwitchVariables();
 }
 
-void ZoneWindow::replaceLoads(const std::vector<Zone>& zones) {
-    ZoneList = zones;
-    if (ZoneList.size() > mostZones) ZoneList.resize(mostZones);
-    zoneCount = static_cast<std::int16_t>(ZoneList.size());
-    for (std::size_t i = 0; i < ZoneList.size(); ++i) ZoneList[i].name = nameOfZone(i + 1);
-    const bool unsaved = hasUnsavedChanges();
+void ZoneWindow::replaceLoads(const DesignProject& project) {
+    const bool wasChanged = changed_;
+    takeZones(project.loads.zones);
+    for (std::size_t i = 0; i < ZoneList().size(); ++i)
+        if (ZoneList()[i].name != nameOfZone(i + 1)) zones().edit(i).name = nameOfZone(i + 1);
+    document_.data.activeSeries = project.loads.activeSeries;
+    document_.file = project.loads.file;
+    designConditions().flowRate = project.conditions.flowRate;
+    designConditions().inletTemp = project.conditions.inletTemp;
     InitializeHeatPumpLists();
     SetFluidsTabbedPaneSwitchVariables();
     showZones(0);
-    control("LOSaveCommand").setEnabled(unsaved);
+    setChanged(wasChanged);
     showFile();
     rebuildSummary();
 }
 
+/// Zones are counted in 16 bits.
+void ZoneWindow::takeZones(const SharedZones& taken) {
+    zones() = taken;
+    zones().cutTo(mostZones);
+    document_.zoneCount = zoneNumber();
+}
+
 void ZoneWindow::showZones(int selected) {
     std::vector<std::string> names;
-    for (const Zone& zone : ZoneList) names.push_back(zone.name);
-    zoneNumber = static_cast<std::int16_t>(ZoneList.size());
+    for (const Zone& zone : ZoneList()) names.push_back(zone.name);
     // One block needs no list; a file with several zones does.
-    control("LOZoneList").setItems(std::move(names)).setVisible(kind_.listsZones || zoneNumber > 1);
+    control("LOZoneList")
+        .setItems(std::move(names))
+        .setVisible(kind_.listsZones || zoneNumber() > 1);
     enableZoneCommands();
     selectZone(selected);
 }
 
 void ZoneWindow::enableZoneCommands() {
-    const bool any = !ZoneList.empty();
+    const bool any = !ZoneList().empty();
     for (const char* name : zoneCommands)
         if (has(name)) control(name).setEnabled(any);
-    control("LOPrintCommand").setEnabled(any && main().hasCommand("mnuFilePrint"));
     control("LOEqvHoursCommand").setEnabled(any && main().hasCommand("mnuEqvHours"));
-    if (!any) control("LOSaveCommand").setEnabled(false);
+    if (!any) setChanged(false);
     control("LONewCommand").setEnabled(kind_.listsZones || !any);
     if (has("LOSummaryPicture") && control("LOSummaryPicture").visible())
         for (const char* name : suspendedCommands) control(name).setEnabled(false);
 }
 
 void ZoneWindow::selectZone(int position) {
-    const bool exists = position >= 0 && static_cast<std::size_t>(position) < ZoneList.size();
+    const bool exists = position >= 0 && static_cast<std::size_t>(position) < ZoneList().size();
     control("LOZoneList").setSelected(exists ? std::vector<int>{position} : std::vector<int>{});
     displayZone();
 }

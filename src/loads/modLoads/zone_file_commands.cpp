@@ -16,34 +16,29 @@ constexpr int zoneFilesFilter = 3;
 
 }  // namespace
 
-LoadsData ZoneWindow::loadsData() const { return {ZoneList, designConditions(), activeSeries}; }
-
 /// The project's name serves a new list of zones.
 std::string ZoneWindow::proposedFile() const {
-    if (workingFileCheck) return workingZoneFile;
+    if (file().exists) return file().name;
     for (const LinkedDesign* design : linkableDesigns(main()))
-        if (design->myID == designLinkID && !design->FileName.empty())
+        if (design->myID == links().designLinkID() && !design->FileName.empty())
             return baseNameOf(design->FileName) + ".zon";
     return newFile();
 }
 
 std::string ZoneWindow::newFile() const { return text(1204) + ".zon"; }
 
-std::string ZoneWindow::fileOnShow() const {
-    return workingZoneFile.empty() ? newFile() : workingZoneFile;
-}
+std::string ZoneWindow::fileOnShow() const { return file().name.empty() ? newFile() : file().name; }
 
 void ZoneWindow::showFile() { control("LOWorkingZoneLabel").setCaption(fileOnShow()); }
 
 FileDialog ZoneWindow::zoneDialog(bool saving) const {
-    return {
-        .saving = saving,
-        .title = text(saving ? 2964 : 2963),
-        .folder = workingFileCheck ? workingZoneDirectory : joinPath(main().MainDirectory, "zones"),
-        .proposedName = proposedFile(),
-        .filter = text(2962),
-        .filterIndex = zoneFilesFilter,
-        .overwritePrompt = saving};
+    return {.saving = saving,
+            .title = text(saving ? 2964 : 2963),
+            .folder = file().exists ? file().folder : joinPath(main().MainDirectory, "zones"),
+            .proposedName = proposedFile(),
+            .filter = text(2962),
+            .filterIndex = zoneFilesFilter,
+            .overwritePrompt = saving};
 }
 
 void ZoneWindow::LOOpenCommand_Click() {
@@ -55,7 +50,7 @@ void ZoneWindow::LOOpenCommand_Click() {
 }
 
 bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
-    const LoadsData before = loadsData();
+    const LoadsData& before = document_.data;
     LoadsData data = before;
     bool whole = true;
     try {
@@ -71,20 +66,18 @@ bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
     takeLoads(std::move(data));
     forgetZoneFile();
     if (whole) takeFile(path);
+    startHistory();
     // What is left of a damaged file must not take the file's place without a question.
-    control("LOSaveCommand").setEnabled(!whole && !ZoneList.empty());
+    setChanged(!whole && !ZoneList().empty());
+    halfReadFile_ = whole ? std::string() : fileNameOf(path);
+    refreshNotice();
     return whole;
 }
 
 void ZoneWindow::takeLoads(LoadsData data) {
-    ZoneList = std::move(data.zones);
-    if (ZoneList.size() > mostZones) ZoneList.resize(mostZones);
-    zoneCount = static_cast<std::int16_t>(ZoneList.size());
-    flowRate = data.conditions.flowRate;
-    inletTemp = data.conditions.inletTemp;
-    inletLoadAirTemp = data.conditions.inletLoadAirTemp;
-    inletLoadWaterTemp = data.conditions.inletLoadWaterTemp;
-    activeSeries = std::move(data.activeSeries);
+    takeZones(data.zones);
+    designConditions() = data.conditions;
+    document_.data.activeSeries = std::move(data.activeSeries);
     InitializeHeatPumpLists();
     SetFluidsTabbedPaneSwitchVariables();
     showZones(0);
@@ -92,15 +85,13 @@ void ZoneWindow::takeLoads(LoadsData data) {
 }
 
 void ZoneWindow::takeFile(const std::string& path) {
-    workingZoneFile = fileNameOf(path);
-    workingZoneDirectory = folderOf(path);
-    workingFileCheck = true;
+    document_.file = {fileNameOf(path), folderOf(path), true};
     showFile();
 }
 
 void ZoneWindow::forgetZoneFile() {
-    workingFileCheck = false;
-    workingZoneFile.clear();
+    document_.file.exists = false;
+    document_.file.name.clear();
     showFile();
 }
 
@@ -110,13 +101,15 @@ void ZoneWindow::LOSaveCommand_Click() {
     main().TempDirectory = folderOf(*path);
     if (!saveZonesTo(*path)) return;
     takeFile(*path);
-    control("LOSaveCommand").setEnabled(false);
+    halfReadFile_.clear();
+    markSaved();
+    setChanged(false);
     main().fileUsed(*path);
 }
 
 bool ZoneWindow::saveZonesTo(const std::string& path) {
     try {
-        saveZoneFile(path, loadsData());
+        saveZoneFile(path, document_.data);
     } catch (const RunTimeError& error) {
         show(MessageIcon::exclamation, text(2942) + "\n\n" + path + "\n\n" + error.message());
         return false;

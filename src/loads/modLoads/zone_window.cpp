@@ -4,10 +4,11 @@
 #include <utility>
 
 #include "basis/file_system.h"
+#include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
+#include "catalogue/catalogue_values.h"
 #include "frame/varnmain.h"
 #include "loads/links.h"
-#include "loads/modLoads/raised_flag.h"
 #include "loads/zone_values.h"
 
 namespace varnholt {
@@ -18,29 +19,33 @@ ZoneWindow::ZoneWindow(const ZoneWindowKind& kind, Varnmain& main)
     setCaption(text(kind_.titleText));
     InitializeVariables();
     registerValues();
+    setFieldManner();
     addControls();
-    addFields();
     hookTexts();
     hookCommands();
     hookPumpCommands();
 }
 
 void ZoneWindow::InitializeVariables() {
-    workingZoneDirectory = joinPath(main().MainDirectory, "zones");
-    information.currentDate = information.projectStartDate = platform().today();
+    document_.file.folder = joinPath(main().MainDirectory, "zones");
+    document_.information.currentDate = document_.information.projectStartDate = platform().today();
 }
 
 void ZoneWindow::registerValues() {
     Values& values = publicValues();
-    addZoneValues(values, ZoneList);
+    addZoneValues(values, document_.data.zones);
     registerConditions();
-    values.add("designLinkID", &designLinkID);
-    values.add("zoneCount", &zoneCount);
-    values.add("zoneNumber", &zoneNumber);
+    values.add("designLinkID", 0, [this](const Values::Indices&) {
+        return PublicValue(static_cast<double>(links().designLinkID()));
+    });
+    values.add("zoneCount", &document_.zoneCount);
+    values.add("zoneNumber", 0, [this](const Values::Indices&) {
+        return PublicValue(static_cast<double>(zoneNumber()));
+    });
     values.add("style", &style);
-    values.add("workingFileCheck", &workingFileCheck);
-    values.add("workingZoneFile", &workingZoneFile);
-    values.add("workingZoneDirectory", &workingZoneDirectory);
+    values.add("workingFileCheck", &document_.file.exists);
+    values.add("workingZoneFile", &document_.file.name);
+    values.add("workingZoneDirectory", &document_.file.folder);
     values.add("zoneSaveCancelled", &zoneSaveCancelled);
     values.add("settingUnits", &settingUnits);
     values.add("settingItems", &settingItems);
@@ -55,7 +60,7 @@ void ZoneWindow::registerValues() {
     values.add("FileName", &FileName);
     values.add("directoryName", &directoryName);
     values.add("currentFileCheck", &currentFileCheck);
-    const ProjectInformation& project = information;
+    const ProjectInformation& project = document_.information;
     values.add("projectName", &project.projectName);
     values.add("designerName", &project.designerName);
     values.add("clientName", &project.clientName);
@@ -75,24 +80,15 @@ void ZoneWindow::registerValues() {
 
 void ZoneWindow::registerConditions() {
     Values& values = publicValues();
-    values.add("activeSeries", &activeSeries);
-    values.add("flowRate", &flowRate);
-    values.addArray("inletTemp", &inletTemp);
+    const DesignConditions& conditions = document_.data.conditions;
+    values.add("flowRate", &conditions.flowRate);
+    values.addArray("inletTemp", &conditions.inletTemp);
     values.addArray("minflowRate", &minflowRate);
-    values.addArray("inletLoadAirTemp", &inletLoadAirTemp);
-    values.addArray("inletLoadWaterTemp", &inletLoadWaterTemp);
+    values.addArray("inletLoadAirTemp", &conditions.inletLoadAirTemp);
+    values.addArray("inletLoadWaterTemp", &conditions.inletLoadWaterTemp);
     values.addArray("temporaryInletTemp", &temporaryInletTemp);
     values.addArray("temporaryInletFlow", &temporaryInletFlow);
-    values.add("vhtMfgCount", 0, [this](const Values::Indices&) {
-        return PublicValue(static_cast<double>(catalogue.vhtMfgCount()));
-    });
-    values.add("vhtTotalSeriesCount", 0, [this](const Values::Indices&) {
-        return PublicValue(static_cast<double>(catalogue.vhtTotalSeriesCount()));
-    });
-    values.add("size", 1, [this](const Values::Indices& i) {
-        checkIndex(i[0], 2);
-        return PublicValue(static_cast<double>(catalogue.size(static_cast<std::size_t>(i[0]))));
-    });
+    addCatalogueValues(values, catalogue);
 }
 
 void ZoneWindow::load() {
@@ -108,7 +104,7 @@ void ZoneWindow::load() {
 void ZoneWindow::MetricCheck_Click() {
     const RaisedFlag writing(settingUnits);
     main().unitsSwitched(*this);
-    if (onUnitsSwitched) onUnitsSwitched();
+    switchLinkedUnits();
     SetFluidsTabbedPaneSwitchVariables();
     displayZone();
     rebuildSummary();
@@ -117,13 +113,14 @@ void ZoneWindow::MetricCheck_Click() {
 bool ZoneWindow::queryClose() { return CheckForSave(); }
 
 void ZoneWindow::unloaded() {
-    if (onClosed) onClosed();
+    LoadsWindow::unloaded();
     main().*kind_.windowExists = false;
 }
 
-bool ZoneWindow::hasUnsavedChanges() const { return control("LOSaveCommand").enabled(); }
-
-void ZoneWindow::markChanged() { control("LOSaveCommand").setEnabled(true); }
+void ZoneWindow::setChanged(bool changed) {
+    changed_ = changed;
+    control("LOSaveCommand").setEnabled(changed);
+}
 
 std::string ZoneWindow::plainTitle() const { return text(kind_.titleText); }
 
@@ -138,9 +135,9 @@ void ZoneWindow::showHoursAndDays(bool shown) {
         control(name).setVisible(shown);
 }
 
-EvaluationConditions ZoneWindow::conditions() const {
-    return {designConditions(), temporaryInletTemp,   temporaryInletFlow, updating,
-            selectingPump,      returningFromDetails, samePumpUpdated};
+EvaluationConditions ZoneWindow::evaluationConditions() const {
+    return {conditions(),  temporaryInletTemp,   temporaryInletFlow, updating,
+            selectingPump, returningFromDetails, samePumpUpdated};
 }
 
 void ZoneWindow::attempt(const std::function<void()>& command) {

@@ -32,7 +32,8 @@ struct ZoneWindowKind {
 /// What the two loads windows share: their fields, panels and commands. One file of this folder
 /// for each of these.
 ///
-/// `LOSaveCommand` is enabled while there are unsaved changes; there is no other mark of them.
+/// The window is changed from the moment that a rule of its events says so until it is saved;
+/// `LOSaveCommand` is enabled as long.
 class ZoneWindow : public LoadsWindow {
  public:
     void load() override;
@@ -40,15 +41,14 @@ class ZoneWindow : public LoadsWindow {
     void unloaded() override;
     void MetricCheck_Click() override;
 
-    /// Zones loaded or added; a new zone's name carries the next number.
-    std::int16_t zoneCount = 0;
     /// A copy of the zone on display, as it was when it was chosen.
     Zone zoneTemp;
     /// Position of the first selected zone, -1 for none.
     int selectedZone() const;
-    void replaceLoads(const std::vector<Zone>& zones) override;
+    void replaceLoads(const DesignProject& project) override;
 
-    bool hasUnsavedChanges() const override;
+    bool hasUnsavedChanges() const override { return changed_; }
+    StatePointer state() const override;
     bool CheckForSave() override;
     void LOSaveCommand_Click() override;
     void LOOpenCommand_Click();
@@ -64,6 +64,10 @@ class ZoneWindow : public LoadsWindow {
     std::string plainTitle() const override;
     void setLight(bool on) override;
     void showHoursAndDays(bool shown) override;
+
+    /// A command of another window changes the document: the window shows it and counts as
+    /// changed.
+    void change(const std::function<void(LoadsDocument&)>& change);
 
     LoadsChart loadsChart() const;
     PumpChart pumpChart() const;
@@ -96,13 +100,22 @@ class ZoneWindow : public LoadsWindow {
     /// The totals are on show and may have changed.
     virtual void rebuildSummary() {}
 
-    EvaluationConditions conditions() const;
+    EvaluationConditions evaluationConditions() const;
     /// Runs a part of a command, whose run-time error ends in a message and not the command.
     void attempt(const std::function<void()>& command);
-    void markChanged();
+    void markChanged() { setChanged(true); }
+    void setChanged(bool changed);
 
-    Zone* shownZone();
+    void restore(const DocumentState& earlier) override;
+    void savedStateReached(bool atSaved) override;
+    std::vector<Notice> notices() const override;
+    std::string stepName(const UserAction& action) const override;
+
+    /// The zone on display, null for none; and the same to write to.
     const Zone* shownZone() const;
+    Zone* editShownZone();
+    SharedZones& zones() { return document_.data.zones; }
+    DesignConditions& designConditions() { return document_.data.conditions; }
     void selectZone(int position);
     void displayZone();
     void displayPump();
@@ -149,14 +162,17 @@ class ZoneWindow : public LoadsWindow {
     void addHeatPumpTab();
     void addConditionsFrame();
     void addCatalogueFrame();
-    void showUnitCaptions();
 
-    // The tables of the fields.
-    void addFields();
-    void addLoadsFields();
-    void addPumpFields();
-    void addDetailsFields();
-    void addConditionFields();
+    // The tables of the fields, each in the file of its frame.
+    void setFieldManner();
+    void addGainsFields();
+    void addHoursFields();
+    void addUnitsField();
+    void addFigureFields();
+    void addLoadSideFields(const std::string& frame, std::size_t first);
+    void addTemperatureFields();
+    void addFlowField();
+    void addLoadTempField(const std::string& frame, std::size_t index);
     void takeFreezingPoint(std::size_t mode);
     void hookTexts();
     void hookCommands();
@@ -173,8 +189,8 @@ class ZoneWindow : public LoadsWindow {
     std::string proposedFile() const;
     std::string newFile() const;
     FileDialog zoneDialog(bool saving) const;
-    LoadsData loadsData() const;
     void takeLoads(LoadsData data);
+    void takeZones(const SharedZones& taken);
 
     void LOSelectCommand_Click();
     void LOMfgCombo_Click();
@@ -212,6 +228,9 @@ class ZoneWindow : public LoadsWindow {
     std::int16_t typedUnits() const;
 
     const ZoneWindowKind& kind_;
+    bool changed_ = false;
+    /// Name of the file that was opened last and not read to its end; empty for none.
+    std::string halfReadFile_;
 };
 
 }  // namespace varnholt
