@@ -109,7 +109,7 @@ Notice ChildWindow::refusedNotice(const RefusedValue& refused) const {
 }
 
 void ChildWindow::addNotice() {
-    add("NoticeLabel", ControlKind::label);
+    add("NoticeLabel", ControlKind::label).setVisible(false);
     add("NoticeCommand", ControlKind::button).setVisible(false);
     onClick("NoticeCommand", [this] {
         // The action may change what the notice says, and with it the action.
@@ -125,7 +125,7 @@ void ChildWindow::refreshNotice() {
     for (const Notice& notice : holding) text += (text.empty() ? "" : " ") + notice.text;
     const bool acts = !holding.empty() && !holding.front().action.empty();
     noticeAction_ = acts ? holding.front().act : nullptr;
-    control("NoticeLabel").setCaption(std::move(text));
+    control("NoticeLabel").setVisible(!text.empty()).setCaption(std::move(text));
     control("NoticeCommand")
         .setCaption(acts ? holding.front().action : std::string())
         .setVisible(acts);

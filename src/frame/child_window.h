@@ -72,7 +72,7 @@ class ChildWindow : public Form {
     virtual void savedStateReached(bool /*atSaved*/) {}
     /// What holds now, the most pressing first.
     virtual std::vector<Notice> notices() const { return {}; }
-    /// Adds `NoticeLabel` and `NoticeCommand`.
+    /// Adds `NoticeLabel` and `NoticeCommand`, which show while there is something to tell.
     void addNotice();
     /// The document has been saved as it stands.
     void markSaved();

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "basis/file_system.h"
+#include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
 #include "frame/design_document.h"
 #include "frame/frmAbout.h"
@@ -330,9 +331,8 @@ ChildWindow& Varnmain::nextToClose() const {
 
 bool Varnmain::queryClose() {
     saveCancelled = false;
-    closing = true;
+    const RaisedFlag asking(closing);
     while (!windows_.empty() && close(nextToClose())) continue;
-    closing = false;
     return windows_.empty();
 }
 

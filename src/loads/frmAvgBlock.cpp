@@ -19,7 +19,9 @@ constexpr ZoneWindowKind averageBlock{.formName = "frmAvgBlock",
 
 }  // namespace
 
-frmAvgBlock::frmAvgBlock(Varnmain& main) : ZoneWindow(averageBlock, main) {}
+frmAvgBlock::frmAvgBlock(Varnmain& main) : ZoneWindow(averageBlock, main) {
+    control("LOZoneFrame").setCaption(plainTitle());
+}
 
 std::string frmAvgBlock::zoneFrameCaption(const Zone&) const { return plainTitle(); }
 

@@ -55,7 +55,7 @@ QWidget* noticeBar(Binder& bind) {
     row->addWidget(bind.widget("NoticeCommand"));
     const auto refresh = [bar, &bind] {
         const Form* form = bind.form();
-        const bool shown = form != nullptr && !form->control("NoticeLabel").caption().empty();
+        const bool shown = form != nullptr && form->control("NoticeLabel").visible();
         // A bar without a parent would open as a window of its own.
         if (!shown || bar->parentWidget() != nullptr) bar->setVisible(shown);
     };
