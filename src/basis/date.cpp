@@ -24,6 +24,11 @@ std::string isoText(const Date& date) {
     return fmt::format("{:04}-{:02}-{:02}", date.year, date.month, date.day);
 }
 
+std::optional<Date> readIsoDate(std::string_view text) {
+    const std::optional<Date> date = readDate(text);
+    return date && isoText(*date) == text ? date : std::nullopt;
+}
+
 std::optional<Date> readDate(std::string_view text) {
     while (!text.empty() && (text.front() == '#' || text.front() == ' ')) text.remove_prefix(1);
     while (!text.empty() && (text.back() == '#' || text.back() == ' ')) text.remove_suffix(1);
@@ -37,7 +42,8 @@ std::optional<Date> readDate(std::string_view text) {
         if (!part) return std::nullopt;
         parts[i] = *part;
     }
-    if (!text.empty() || parts[0] > 9999 || parts[1] > 12 || parts[2] > 31) return std::nullopt;
+    if (!text.empty() || parts[0] < 1 || parts[0] > 9999 || parts[1] > 12 || parts[2] > 31)
+        return std::nullopt;
     const std::chrono::year_month_day day{std::chrono::year{parts[0]},
                                           std::chrono::month{static_cast<unsigned>(parts[1])},
                                           std::chrono::day{static_cast<unsigned>(parts[2])}};

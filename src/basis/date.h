@@ -17,11 +17,18 @@ struct Date {
     friend bool operator==(const Date&, const Date&) = default;
 };
 
+// Days are those of the Gregorian calendar, which is carried back to the years before it was
+// introduced: 0001-01-01 to 9999-12-31. There is no year 0.
+
 /// "2026-01-15"
 std::string isoText(const Date& date);
 
-/// Reads "2026-01-15", also between number signs as files hold it ("#2026-01-15#"). Nothing when
-/// the text is no day of the calendar.
+/// Reads "2026-01-15" and no other form: ten characters. Nothing when the text is no day of the
+/// calendar.
+std::optional<Date> readIsoDate(std::string_view text);
+
+/// Reads a date as files hold it: "#2026-01-15#", also with blanks around it, without the number
+/// signs, and with fewer digits. Nothing when the text is no day of the calendar.
 std::optional<Date> readDate(std::string_view text);
 
 /// The day by the computer's clock.

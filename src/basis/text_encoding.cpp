@@ -56,9 +56,7 @@ bool isValidUtf8(std::string_view bytes) {
     return true;
 }
 
-std::string decodeText(std::string_view bytes) {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (bytes.substr(0, 3) == byteOrderMark) bytes.remove_prefix(3);
+std::string utf8Text(std::string_view bytes) {
     if (isValidUtf8(bytes)) return std::string(bytes);
     std::string text;
     for (const char c : bytes) {
@@ -67,5 +65,13 @@ std::string decodeText(std::string_view bytes) {
     }
     return text;
 }
+
+std::string_view withoutByteOrderMark(std::string_view bytes) {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    if (bytes.starts_with(mark)) bytes.remove_prefix(mark.size());
+    return bytes;
+}
+
+std::string decodeText(std::string_view bytes) { return utf8Text(withoutByteOrderMark(bytes)); }
 
 }  // namespace varnholt

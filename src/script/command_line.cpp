@@ -31,9 +31,8 @@ unsigned readLocale(const std::string& text) {
 }
 
 Date readToday(const std::string& text) {
-    const std::optional<Date> date = readDate(text);
-    if (!date || text.front() == '#')
-        throw UsageError(fmt::format("{} is not a date of the form YYYY-MM-DD", text));
+    const std::optional<Date> date = readIsoDate(text);
+    if (!date) throw UsageError(fmt::format("{} is not a date of the form YYYY-MM-DD", text));
     return *date;
 }
 

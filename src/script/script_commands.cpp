@@ -150,7 +150,7 @@ void ScriptCommands::slide(std::string& rest) {
 
 void ScriptCommands::date(std::string& rest) {
     const Target target = unlocked(rest, {Kind::date});
-    driver_.pickDate(target.form, target.control, readIsoDate(onlyWord(rest)));
+    driver_.pickDate(target.form, target.control, readDay(onlyWord(rest)));
 }
 
 void ScriptCommands::activate(std::string& rest) {

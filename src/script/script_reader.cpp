@@ -35,7 +35,7 @@ std::optional<ScriptLine> ScriptReader::next() {
     for (std::string text; std::getline(input_, text);) {
         ++line_;
         if (!text.empty() && text.back() == '\r') text.pop_back();
-        text = decodeText(text);
+        text = line_ == 1 ? decodeText(text) : utf8Text(text);
         text.erase(0, std::min(text.find_first_not_of(blanks), text.size()));
         if (text.empty() || text.front() == '#') continue;
         ScriptLine line;
@@ -117,10 +117,9 @@ double readNumber(std::string_view text) {
     return *number;
 }
 
-Date readIsoDate(std::string_view text) {
-    const std::optional<Date> date = readDate(text);
-    if (!date || !isDigit(text.front()))
-        throw ScriptFault(fmt::format("{} is not a date of the form YYYY-MM-DD", text));
+Date readDay(std::string_view text) {
+    const std::optional<Date> date = readIsoDate(text);
+    if (!date) throw ScriptFault(fmt::format("{} is not a date of the form YYYY-MM-DD", text));
     return *date;
 }
 

@@ -19,8 +19,9 @@ struct ScriptLine {
 };
 
 /// Reads a script line by line, so that another program may write it while it runs. Comments and
-/// empty lines are passed over; LF and CR LF end a line; a line that is not valid UTF-8 is read as
-/// Windows-1252.
+/// empty lines are passed over; LF and CR LF end a line and nothing else does; a line that is not
+/// valid UTF-8 is read as Windows-1252; a byte order mark before the first line is dropped. Blanks
+/// and tabs divide words and nothing else does.
 class ScriptReader {
  public:
     /// @param name how faults call the script
@@ -53,8 +54,8 @@ std::string unescaped(std::string_view text);
 int readCount(std::string_view text);
 /// A decimal number, the whole text.
 double readNumber(std::string_view text);
-/// "2026-01-15"
-Date readIsoDate(std::string_view text);
+/// "2026-01-15", a day from 0001-01-01 to 9999-12-31
+Date readDay(std::string_view text);
 /// "#3": an index from 0.
 int readIndex(std::string_view text);
 /// Whether the text is an index: a number sign and nothing but digits.

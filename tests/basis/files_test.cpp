@@ -23,6 +23,7 @@ TEST(TextEncoding, WhatIsNotUtf8IsReadAsWindows1252) {
     EXPECT_EQ(decodeText("caf\xE9 \x80"), "caf\xC3\xA9 \xE2\x82\xAC");
     EXPECT_EQ(decodeText("caf\xC3\xA9"), "caf\xC3\xA9");
     EXPECT_EQ(decodeText("\xEF\xBB\xBFplain"), "plain");
+    EXPECT_EQ(utf8Text("\xEF\xBB\xBF\xE2\x80\xA8"), "\xEF\xBB\xBF\xE2\x80\xA8");
     EXPECT_FALSE(isValidUtf8("\xC0\x80"));
     EXPECT_FALSE(isValidUtf8("\xED\xA0\x80"));
     EXPECT_FALSE(isValidUtf8("\xE2\x82"));
@@ -35,6 +36,26 @@ TEST(Dates, AreReadWithAndWithoutNumberSigns) {
     EXPECT_FALSE(readDate("#yesterday#"));
     EXPECT_FALSE(readDate(""));
     EXPECT_EQ(isoText(Date{2026, 1, 5}), "2026-01-05");
+}
+
+TEST(Dates, AreDaysOfTheGregorianCalendarFromTheYear1To9999) {
+    // 1900 and 100 are no leap years, 2000 and 400 are; the calendar knows no gap in 1582 or 1752.
+    for (const char* day :
+         {"0001-01-01", "0400-02-29", "1582-10-10", "1752-09-03", "2000-02-29", "9999-12-31"}) {
+        EXPECT_EQ(isoText(readIsoDate(day).value()), day);
+        EXPECT_EQ(isoText(readDate(day).value()), day);
+    }
+    for (const char* none : {"0000-01-01", "0000-12-31", "0100-02-29", "1900-02-29", "2026-00-10",
+                             "2026-01-00", "2026-13-01", "2026-04-31", "10000-01-01"}) {
+        EXPECT_FALSE(readIsoDate(none)) << none;
+        EXPECT_FALSE(readDate(none)) << none;
+    }
+}
+
+TEST(Dates, OfPeopleAreReadInOneFormAlone) {
+    for (const char* other : {"#2026-01-15#", " 2026-01-15", "2026-01-15 ", "2026-1-15", "26-01-15",
+                              "2026-001-15", "02026-01-15", "2026/01/15", "+026-01-15", ""})
+        EXPECT_FALSE(readIsoDate(other)) << other;
 }
 
 TEST(LineFile, IsReadWithEitherLineEnd) {

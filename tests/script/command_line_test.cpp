@@ -77,6 +77,10 @@ TEST(CommandLine, WhatItCannotReadIsAnError) {
               "15.1.2026 is not a date of the form YYYY-MM-DD");
     EXPECT_EQ(script({"--today", "#2026-01-15#"}).error,
               "#2026-01-15# is not a date of the form YYYY-MM-DD");
+    EXPECT_EQ(script({"--today", "0000-01-01"}).error,
+              "0000-01-01 is not a date of the form YYYY-MM-DD");
+    EXPECT_EQ(script({"--today", "2026-1-5"}).error,
+              "2026-1-5 is not a date of the form YYYY-MM-DD");
     EXPECT_EQ(script({"--program-folder", ""}).error, "--program-folder needs a folder");
 }
 

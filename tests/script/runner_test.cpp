@@ -26,6 +26,40 @@ TEST_F(Runner, ReadsUtf8WithAByteOrderMarkAndOldFilesInWindows1252) {
               "frmEveryKind#1.PlainText(0) = \"\xC3\xA4\"\n");
 }
 
+TEST_F(Runner, PassesTypedTextOnUnchanged) {
+    // Blanks at the ends, a no-break space, a zero-width no-break space, the separators of lines
+    // and paragraphs, a next line, a vertical tab.
+    std::string script, expected;
+    for (const std::string text :
+         {"  two blanks at both ends  ", "\xC2\xA0no-break\xC2\xA0", "\xEF\xBB\xBFzero-width",
+          "line\xE2\x80\xA8paragraph\xE2\x80\xA9", "next\xC2\x85line", "vertical\vtab"}) {
+        for (const std::string field : {"PlainText(0)", "NotesRichText"}) {
+            script += "type frmEveryKind." + field + " " + text + "\n";
+            script += "print frmEveryKind." + field + "\n";
+            expected += "frmEveryKind#1." + field + " = \"" + text + "\"\n";
+        }
+        script += "clipboard " + text + "\nkey frmEveryKind.PlainText(1) Ctrl+V\n";
+        script += "print frmEveryKind.PlainText(1)\n";
+        expected += "frmEveryKind#1.PlainText(1) = \"" + text + "\"\n";
+    }
+    EXPECT_EQ(transcriptOf(script), expected);
+}
+
+TEST_F(Runner, DividesWordsAtBlanksAndTabsAlone) {
+    EXPECT_EQ(run("forms\xC2\xA0\n").faults, "test.vscript:1: forms\xC2\xA0 is no command\n");
+    EXPECT_EQ(run("\xC2\xA0# no comment\n").status, 2);
+    EXPECT_EQ(run("# a comment\xE2\x80\xA8"
+                  "forms\n")
+                  .out,
+              "");
+}
+
+TEST_F(Runner, DropsAByteOrderMarkBeforeTheFirstLineAlone) {
+    EXPECT_EQ(run("\xEF\xBB\xBF# a comment\n").status, 0);
+    EXPECT_EQ(run("# first\n\xEF\xBB\xBF# second\n").faults,
+              "test.vscript:2: \xEF\xBB\xBF# is no command\n");
+}
+
 TEST_F(Runner, WindowsThatAreOpenBeforeTheFirstLineAreNotTold) {
     EXPECT_EQ(run("# nothing\n").out, "");
 }

@@ -137,6 +137,15 @@ TEST_F(Verbs, DateSetsADatePicker) {
     EXPECT_EQ(window().log, "click StartDate;");
 }
 
+TEST_F(Verbs, DateTakesDaysBeforeTheCalendarWasIntroduced) {
+    std::string script, expected;
+    for (const std::string day : {"1752-09-13", "1582-10-10", "0001-01-01", "9999-12-31"}) {
+        script += "date frmEveryKind.StartDate " + day + "\nprint frmEveryKind.StartDate\n";
+        expected += "frmEveryKind#1.StartDate = " + day + "\n";
+    }
+    EXPECT_EQ(transcriptOf(script), expected);
+}
+
 TEST_F(Verbs, AnElementOfAControlArrayCarriesItsIndicesWithoutABlank) {
     transcriptOf("type frmEveryKind.gains(2,0) 1\n");
     EXPECT_EQ(window().log, "change gains(2,0);");
@@ -221,6 +230,10 @@ INSTANTIATE_TEST_SUITE_P(
                 "2026-02-29 is not a date of the form YYYY-MM-DD"},
         BadLine{"date frmEveryKind.StartDate #2026-01-15#",
                 "#2026-01-15# is not a date of the form YYYY-MM-DD"},
+        BadLine{"date frmEveryKind.StartDate 0000-01-01",
+                "0000-01-01 is not a date of the form YYYY-MM-DD"},
+        BadLine{"date frmEveryKind.StartDate 26-1-15",
+                "26-1-15 is not a date of the form YYYY-MM-DD"},
         BadLine{"activate frmNone", "no window frmNone is open"},
         BadLine{"activate", "the line ends too early"},
         BadLine{"close frmEveryKind#2", "no window frmEveryKind#2 is open"},
