@@ -183,6 +183,8 @@ void ScriptCommands::clipboard(std::string& rest) { platform_.setClipboard(unesc
 void ScriptCommands::print(std::string& rest) {
     const std::string word = onlyWord(rest);
     if (word == "report") return printReport();
+    if (word == "clipboard")
+        return transcript_.line("clipboard = " + quotedText(platform_.clipboard()));
     TargetName name = readTarget(word);
     std::optional<Property> property;
     if (const std::size_t dot = name.member.rfind('.'); dot != std::string::npos) {

@@ -67,6 +67,11 @@ TEST_F(Reading, MenuEntriesShowTheirCaptionAndTheMainWindowHasNoNumber) {
               "Varnmain.NewBorehole = \"[1015]\"\nVarnmain.tbrMain(11).tooltip = \"[1061]\"\n");
 }
 
+TEST_F(Reading, PrintWritesTheTextOfTheClipboard) {
+    EXPECT_EQ(transcriptOf("print clipboard\nclipboard 1\\t2\\n\"3\"\nprint clipboard\n"),
+              "clipboard = \"\"\nclipboard = \"1\\t2\\n\\\"3\\\"\"\n");
+}
+
 TEST_F(Reading, ValueWritesNumbersTextsFlagsAndDates) {
     EXPECT_EQ(transcriptOf("value frmEveryKind.boreLength(0)\nvalue frmEveryKind#1.boreLength(1)\n"
                            "value frmEveryKind.count\nvalue frmEveryKind.flag\n"
