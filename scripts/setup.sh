@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash
-# Shared by run, test and check: what has to be installed, and how the program is built.
+# Shared by run, test and check: what has to be installed, and how the program is built and tested.
 # Sourced by them with the root of the tree as the working directory.
 
 # shellcheck disable=SC2034  # Read by the scripts that source this file.
@@ -38,4 +38,40 @@ build_preset() {
     say "Building ($preset)"
     cmake --preset "$preset" >/dev/null
     cmake --build --preset "$preset" ${1:+--target "$@"}
+}
+
+# Runs the tests of a preset that has been built, windows unseen, and tells the results. Its status
+# is that of the tests.
+run_tests() {
+    local preset=$1 status=0
+    rm -f "build/$preset/test-results.xml"
+    QT_QPA_PLATFORM=offscreen ctest --preset "$preset" --parallel "$(nproc)" \
+        --output-junit "$PWD/build/$preset/test-results.xml" || status=$?
+    test_results "$preset" || status=1
+    return "$status"
+}
+
+# The results of a preset's last run in one line: "1129 passed, 0 failed".
+test_results() {
+    [ -f "build/$1/test-results.xml" ] || {
+        echo "no tests were run"
+        return 1
+    }
+    awk '
+        function count(name) {
+            match($0, name "=\"[0-9]+\"")
+            return substr($0, RSTART + length(name) + 2, RLENGTH - length(name) - 3)
+        }
+        /tests="/ { tests = count("tests") }
+        /failures="/ { failed = count("failures") }
+        /skipped="/ { skipped = count("skipped") }
+        /<testcase / { exit }
+        END {
+            if (tests == 0) {
+                print "no tests were run"
+                exit 1
+            }
+            more = skipped > 0 ? ", " skipped " skipped" : ""
+            printf "%d passed, %d failed%s\n", tests - failed - skipped, failed, more
+        }' "build/$1/test-results.xml"
 }
