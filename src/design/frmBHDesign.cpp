@@ -4,30 +4,15 @@
 #include "basis/number_text.h"
 #include "design/arrangement_tab.h"
 #include "design/bore_tab.h"
-#include "design/borehole_run.h"
 #include "design/extra_power_tab.h"
 #include "design/fluid_tab.h"
 #include "design/shared_values.h"
 #include "design/soil_tab.h"
 
 namespace varnholt {
-namespace {
-
-/// What undo brings back of a borehole design.
-struct BoreholeState {
-    BoreholeProject project;
-    std::optional<BoreholeInputs> lastRun;
-    int droppedError;
-    bool stale;
-
-    friend bool operator==(const BoreholeState&, const BoreholeState&) = default;
-};
-
-}  // namespace
-
 frmBHDesign::frmBHDesign(Varnmain& main, std::int16_t slot)
-    : GroundDesign("frmBHDesign", DesignKind::borehole, main, slot, project_,
-                   {project_.fluid, project_.extraPower, &project_.tower}) {
+    : ProjectDesign("frmBHDesign", DesignKind::borehole, main, slot, project_,
+                    {project_.fluid, project_.extraPower, &project_.tower}) {
     addWindowControls();
     resultsTab_ = std::make_unique<ResultsTab>(*this, resultRows(), 2101);
     // The number of bores stands once, though there is a label for each mode.
@@ -107,20 +92,10 @@ void frmBHDesign::fillDefaults() {
     project_.tower.tower.range = results().outlet.outletTemp[cooling] - inlet[cooling];
 }
 
-/// The figures that a file holds came from what else it holds.
-void frmBHDesign::projectRead() {
-    lastRun_ = inputsOf(project_, towerIsOn());
-    project_.results.edit().inputs = lastRun_;
-}
-
-void frmBHDesign::calculate() {
-    lastRun_ = inputsOf(project_, hybridOn);
-    std::optional<BoreholeResults> found = runBorehole(*lastRun_);
-    if (!found) return show(MessageIcon::information, text(2814));
-    if (found->lengths.failed)
-        show(MessageIcon::plain, text(2151) + std::to_string(found->lengths.iterations));
-    project_.tower.tower = found->tower;
-    project_.results = std::move(*found);
+void frmBHDesign::resultsFound() {
+    const modCalculations::SettledLengths& lengths = results().lengths;
+    if (lengths.failed) show(MessageIcon::plain, text(2151) + std::to_string(lengths.iterations));
+    project_.tower.tower = results().tower;
     showGoverningMode();
     resultsTab_->setUnitLabels();
     towerPanel_->setUnitLabels();
@@ -131,46 +106,12 @@ bool frmBHDesign::tellsError(int number) const {
     return number == divisionByZero;
 }
 
-/// What a run would take now, with the loads that it would transfer first.
-BoreholeInputs frmBHDesign::presentInputs() const {
-    BoreholeInputs now = inputsOf(project_, hybridOn);
-    if (link() != nullptr) now.loads.zones = presentZones();
-    return now;
-}
-
-/// What the figures on show came from. Before a first run they are those of the design itself.
-BoreholeInputs frmBHDesign::inputsOnShow() const {
-    return results().inputs ? *results().inputs : inputsOf(project_, towerIsOn());
-}
-
-bool frmBHDesign::resultsAreOlder() const {
-    return results().inputs && lastRun_ && differ(*lastRun_, presentInputs());
-}
-
 void frmBHDesign::showGoverningMode(Mode greyed) {
     resultsTab_->paintGoverning(greyed);
     if (greyed == heating)
         towerPanel_->wake();
     else if (!towerIsOn())
         towerPanel_->rest();
-}
-
-void frmBHDesign::rollUp() {
-    const LoadsRollUp rolledUp = rollUpLoads(inputsOf(project_, hybridOn).loads);
-    static_cast<LoadsRollUp&>(project_.results.edit()) = rolledUp;
-}
-
-StatePointer frmBHDesign::state() const {
-    return std::make_shared<StateOf<BoreholeState>>(
-        BoreholeState{project_, lastRun_, droppedError_, isStale()});
-}
-
-void frmBHDesign::restore(const DocumentState& earlier) {
-    const BoreholeState& wanted = static_cast<const StateOf<BoreholeState>&>(earlier).value;
-    project_ = wanted.project;
-    lastRun_ = wanted.lastRun;
-    droppedError_ = wanted.droppedError;
-    showRestored(wanted.stale);
 }
 
 std::string frmBHDesign::shownWithUnit(const Quantity& quantity, double value, UnitTexts unit,

@@ -7,33 +7,37 @@
 #include <vector>
 
 #include "design/bore_drawing.h"
-#include "design/borehole_project.h"
+#include "design/borehole_run.h"
 #include "design/field_plan.h"
-#include "design/ground_design.h"
+#include "design/project_design.h"
 #include "design/results_tab.h"
 #include "design/tower_panel.h"
 
 namespace varnholt {
 
-/// Holds a window's project, so that it is there before the window that edits it.
-template <class Project>
-struct HoldsProject {
-    Project project_;
+/// The values and the run of a field of vertical bores.
+struct BoreholeKind {
+    using Project = BoreholeProject;
+    using Inputs = BoreholeInputs;
+    using Results = BoreholeResults;
+
+    static Inputs inputsOf(const Project& project, bool hybridOn) {
+        return varnholt::inputsOf(project, hybridOn);
+    }
+    static std::optional<Results> run(const Inputs& inputs) { return runBorehole(inputs); }
+    static bool differ(const Inputs& then, const Inputs& now) {
+        return varnholt::differ(then, now);
+    }
 };
 
 /// The design of a field of vertical bores.
-class frmBHDesign : private HoldsProject<BoreholeProject>, public GroundDesign {
+class frmBHDesign : public ProjectDesign<BoreholeKind> {
  public:
     /// @param slot  its place among the borehole designs, taken by the caller
     frmBHDesign(Varnmain& main, std::int16_t slot);
     ~frmBHDesign() override;
 
     std::string baseCaption() const override;
-
-    const BoreholeProject& project() const { return project_; }
-    /// Takes another project, as a file holds it. It is shown when the window is set up.
-    void setProject(BoreholeProject project) { project_ = std::move(project); }
-    const BoreholeResults& results() const { return *project_.results; }
 
     /// Total required length of bore, ft.
     double GetL(Mode mode) const { return results().lengths.boreLength[mode]; }
@@ -52,33 +56,23 @@ class frmBHDesign : private HoldsProject<BoreholeProject>, public GroundDesign {
     /// What `imgField` shows.
     FieldPlan fieldPlan() const;
 
-    StatePointer state() const override;
-
  protected:
-    void calculate() override;
-    void rollUp() override;
+    void resultsFound() override;
     ByMode<double> lengths() const override { return results().lengths.boreLength; }
     bool tellsError(int number) const override;
-    bool resultsAreOlder() const override;
     std::vector<DesignTab*> tabs() override;
     std::vector<int> pageCaptions() const override;
     std::string pagesName() const override { return "BHTabs"; }
     void fillDefaults() override;
-    void projectRead() override;
     void dropTower() override { towerPanel_->drop(); }
     void showTower() override { towerPanel_->setUnitLabels(); }
-    void restore(const DocumentState& earlier) override;
 
  private:
     std::vector<ResultRow> resultRows() const;
     void registerBoreholeValues();
-    BoreholeInputs presentInputs() const;
-    BoreholeInputs inputsOnShow() const;
     std::string shownWithUnit(const Quantity& quantity, double value, UnitTexts unit,
                               const char* format) const;
 
-    /// What the last run started from, whether it came to an end or not.
-    std::optional<BoreholeInputs> lastRun_;
     std::unique_ptr<ResultsTab> resultsTab_;
     std::unique_ptr<TowerPanel> towerPanel_;
     std::vector<std::unique_ptr<DesignTab>> inputTabs_;

@@ -101,8 +101,10 @@ void GroundDesign::run() {
     calculate();
 }
 
+void GroundDesign::tellNothingToCalculate() { show(MessageIcon::information, text(2814)); }
+
 void GroundDesign::tellNoLoads() {
-    show(MessageIcon::information, text(2814));
+    tellNothingToCalculate();
     if (parts_.tower == nullptr) return;
     parts_.tower->tower.capacity = 0;
     dropTower();

@@ -113,14 +113,15 @@ class GroundDesign : public LinkedDesign {
     /// Shows the document after another state of it has been put back.
     void showRestored(bool stale);
     std::vector<Notice> notices() const override;
-    /// There is nothing to calculate with.
-    void tellNoLoads();
+    /// No mode has a load: there is nothing to calculate with.
+    void tellNothingToCalculate();
     /// Number of the error that ended the last run without a box; 0 for none.
     int droppedError_ = 0;
 
  private:
     void enableMenuButtons();
     void run();
+    void tellNoLoads();
 
     GroundParts parts_;
     std::string halfReadFile_;
