@@ -6,12 +6,10 @@
 
 #include "basis/run_time_error.h"
 #include "catalogue/makers.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
-
-constexpr int makerAddressText = 108;
-constexpr int missingFileText = 2455;
 
 std::string joined(const PumpList& manufacturer, const PumpSeriesInfo& series) {
     return manufacturer.mfgInfo.mfgName + series.seriesName;
@@ -134,7 +132,7 @@ std::string PumpCatalogue::firstSeries() const {
 
 /// The edition of one of the known makers starts with a series of that maker.
 std::string PumpCatalogue::preferredSeries() const {
-    const std::string address = texts_.text(makerAddressText);
+    const std::string address = texts_.text(Text::makerAddress);
     for (const Maker& maker : makers)
         if (address == maker.webAddress && find(maker.mfgName, maker.preferredSeries) != nullptr)
             return std::string(maker.mfgName) + maker.preferredSeries;
@@ -142,7 +140,7 @@ std::string PumpCatalogue::preferredSeries() const {
 }
 
 void PumpCatalogue::tellMissing(const std::string& path) const {
-    exclaim_(texts_.text(missingFileText) + "\r\r" + path);
+    exclaim_(texts_.text(Text::pumpDataMissing) + "\r\r" + path);
 }
 
 /// Only a missing file and a file that ends too early are worth a message.

@@ -4,14 +4,15 @@
 #include <array>
 
 #include "design/ground_design.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 ArrangementTab::ArrangementTab(GroundDesign& design, ArrangementValues& arrangement)
     : DesignTab(design) {
-    addFrame("PAFieldFrame", 2501);
+    addFrame("PAFieldFrame", Text::groundFieldArrangement);
     addRows(arrangement);
     addSeparation(arrangement);
-    addFrame("PABoresPerParallelLoopFrame", 2508, "PAFieldFrame");
+    addFrame("PABoresPerParallelLoopFrame", Text::parallelCircuits, "PAFieldFrame");
     addField({.control = "PABoresPerParallelLoopText",
               .stored = &arrangement.boresPerCircuit,
               .highest = 3,
@@ -19,26 +20,26 @@ ArrangementTab::ArrangementTab(GroundDesign& design, ArrangementValues& arrangem
               .format = "###0",
               .beside = {.frame = "PABoresPerParallelLoopFrame",
                          .label = "PABoresPerParallelLoopLabel",
-                         .caption = {2507, 2507},
+                         .caption = {Text::boresPerParallelCircuit, Text::boresPerParallelCircuit},
                          .help = "borehole#pattern"}});
-    addFrame("PATimeFrame", 2509, "PAFieldFrame");
+    addFrame("PATimeFrame", Text::modelingTimePeriod, "PAFieldFrame");
     addField({.control = "PATimeText",
               .stored = &arrangement.predictionTime,
               .highest = 100,
               .fallback = 10,
               .beside = {.frame = "PATimeFrame",
                          .label = "PATimeLabel",
-                         .caption = {2510, 2510},
+                         .caption = {Text::predictionTime, Text::predictionTime},
                          .unitLabel = "PATimeUnitsLabel",
-                         .unit = {2513, 2513},
+                         .unit = {Text::predictionTimeUnits, Text::predictionTimeUnits},
                          .help = "borehole#pattern"}});
     add("imgField", ControlKind::image, "PAFieldFrame");
 }
 
 /// Counts have no upper limit of their own, for any grid can be computed.
 void ArrangementTab::addRows(ArrangementValues& arrangement) {
-    addFrame("PAPatternFrame", 2502, "PAFieldFrame");
-    const std::array<int, 2> captions{2503, 2504};
+    addFrame("PAPatternFrame", Text::verticalGridArrangement, "PAFieldFrame");
+    const std::array<int, 2> captions{Text::rowsAcross, Text::rowsDown};
     for (std::size_t i = 0; i < captions.size(); ++i)
         addField({.control = elementName("PAPatternRowsText", i),
                   .stored = &arrangement.patternRows[i],
@@ -51,7 +52,7 @@ void ArrangementTab::addRows(ArrangementValues& arrangement) {
 }
 
 void ArrangementTab::addSeparation(ArrangementValues& arrangement) {
-    addFrame("PASeparationFrame", 2505, "PAFieldFrame");
+    addFrame("PASeparationFrame", Text::separationBetweenBores, "PAFieldFrame");
     addField({.control = "PASeparationText",
               .stored = &arrangement.boreSeparation,
               .quantity = &quantities::length,
@@ -59,9 +60,9 @@ void ArrangementTab::addSeparation(ArrangementValues& arrangement) {
               .fallback = 20,
               .beside = {.frame = "PASeparationFrame",
                          .label = "PASeparationLabel",
-                         .caption = {2506, 2506},
+                         .caption = {Text::boreholeSeparation, Text::boreholeSeparation},
                          .unitLabel = "PASeparationUnitsLabel",
-                         .unit = {2512, 2511},
+                         .unit = {Text::lengthUnitsEnglish, Text::lengthUnitsMetric},
                          .help = "borehole#pattern"}});
 }
 

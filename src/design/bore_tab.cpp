@@ -7,14 +7,17 @@
 #include "basis/run_time_error.h"
 #include "design/ground_design.h"
 #include "design/modCalculations/bore_resistance.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
 
 constexpr int configurations = 2;
 constexpr int placements = 3;
-constexpr std::array<int, configurations> configurationCaptions{2430, 2431};
-constexpr std::array<int, placements> placementCaptions{2433, 2434, 2435};
+constexpr std::array<int, configurations> configurationCaptions{Text::singleUTube,
+                                                                Text::doubleUTube};
+constexpr std::array<int, placements> placementCaptions{
+    Text::placementAlongOuterWall, Text::placementAverage, Text::placementCloseTogether};
 constexpr int single = 0;
 constexpr int average = 1;
 
@@ -22,7 +25,7 @@ constexpr int average = 1;
 
 BoreTab::BoreTab(GroundDesign& design, PipeValues& pipe, BoreValues& bore)
     : PipeTab(design, pipe), bore_(bore) {
-    addFrame("PIPipeFrame", 2401);
+    addFrame("PIPipeFrame", Text::pipeSizeAndResistance);
     addPipeControls("PIPipeFrame");
     addConfiguration();
     addPlacement();
@@ -33,7 +36,7 @@ BoreTab::BoreTab(GroundDesign& design, PipeValues& pipe, BoreValues& bore)
 }
 
 void BoreTab::addConfiguration() {
-    addFrame("PIConfigurationFrame", 2429, "PIPipeFrame");
+    addFrame("PIConfigurationFrame", Text::uTubeConfiguration, "PIPipeFrame");
     for (int i = 0; i < configurations; ++i) {
         const std::string name = elementName("PIConfigurationOption", static_cast<std::size_t>(i));
         add(name, ControlKind::option, "PIConfigurationFrame",
@@ -44,7 +47,7 @@ void BoreTab::addConfiguration() {
 }
 
 void BoreTab::addPlacement() {
-    addFrame("PIPlacementFrame", 2432, "PIPipeFrame");
+    addFrame("PIPlacementFrame", Text::pipeRadialPlacement, "PIPipeFrame");
     for (int i = 0; i < placements; ++i) {
         const std::string name = elementName("PIPlacementOption", static_cast<std::size_t>(i));
         add(name, ControlKind::option, "PIPlacementFrame",
@@ -55,7 +58,7 @@ void BoreTab::addPlacement() {
 }
 
 void BoreTab::addBore() {
-    addFrame("PIBoreholeDiameterFrame", 2423, "PIPipeFrame");
+    addFrame("PIBoreholeDiameterFrame", Text::boreholeDiameterHeading, "PIPipeFrame");
     addField({.control = "PIBoreholeDiameterText",
               .stored = &bore_.boreDiameter,
               .quantity = &quantities::diameter,
@@ -63,15 +66,15 @@ void BoreTab::addBore() {
               .format = "###0.00",
               .beside = {.frame = "PIBoreholeDiameterFrame",
                          .label = "PIBoreholeDiameterLabel",
-                         .caption = {2424, 2424},
+                         .caption = {Text::boreholeDiameter, Text::boreholeDiameter},
                          .unitLabel = "PIBoreholeDiameterUnitsLabel",
-                         .unit = {2449, 2448},
+                         .unit = {Text::diameterUnitsEnglish, Text::diameterUnitsMetric},
                          .help = "borehole#piping"},
               .left = [this] { PIBoreholeDiameterText_Leave(); }});
 }
 
 void BoreTab::addGrout() {
-    addFrame("PIGroutFrame", 2422, "PIPipeFrame");
+    addFrame("PIGroutFrame", Text::groutInformation, "PIPipeFrame");
     addField({.control = "PIGroutConductivityText",
               .stored = &bore_.groutConductivity,
               .quantity = &quantities::conductivity,
@@ -79,26 +82,28 @@ void BoreTab::addGrout() {
               .format = "###0.00",
               .beside = {.frame = "PIGroutFrame",
                          .label = "PIGroutConductivityLabel",
-                         .caption = {2426, 2426},
+                         .caption = {Text::groutConductivity, Text::groutConductivity},
                          .unitLabel = "PIGroutThermalConductivityUnitsLabel",
-                         .unit = {2447, 2446},
+                         .unit = {Text::thermalConductivityUnitsEnglish,
+                                  Text::thermalConductivityUnitsMetric},
                          .help = "borehole#piping"},
               .changed = [this] { calculateResistance(); }});
 }
 
 void BoreTab::addResistance() {
-    addFrame("PIThermalResistanceFrame", 2402, "PIPipeFrame");
+    addFrame("PIThermalResistanceFrame", Text::boreholeEquivalentResistance, "PIPipeFrame");
     addField({.control = "PIThermalResistanceText",
               .stored = &bore_.boreResistance,
               .quantity = &quantities::resistance,
               .fallback = BoreValues().boreResistance,
               .format = "###0.000",
-              .beside = {.frame = "PIThermalResistanceFrame",
-                         .label = "PIThermalResistanceLabel",
-                         .caption = {2403, 2403},
-                         .unitLabel = "PIThermalResistanceUnitsLabel",
-                         .unit = {2405, 2404},
-                         .help = "borehole#resistance"}});
+              .beside = {
+                  .frame = "PIThermalResistanceFrame",
+                  .label = "PIThermalResistanceLabel",
+                  .caption = {Text::boreholeResistance, Text::boreholeResistance},
+                  .unitLabel = "PIThermalResistanceUnitsLabel",
+                  .unit = {Text::thermalResistanceUnitsEnglish, Text::thermalResistanceUnitsMetric},
+                  .help = "borehole#resistance"}});
 }
 
 void BoreTab::setUnitLabels() {
@@ -121,11 +126,11 @@ bool BoreTab::checkPipeFit() {
 std::string BoreTab::misfitMessage() const {
     const auto shown = [this](double inches) {
         return formatNumber(quantities::diameter.shown(inches, design().units()), "###0.00") + " " +
-               text(metric() ? 2448 : 2449);
+               text(metric() ? Text::diameterUnitsMetric : Text::diameterUnitsEnglish);
     };
     const double span = modCalculations::pipeSpan(outsideDiameter(), configuration());
-    return text(2453) + "\n\n" + text(2423) + ": " + shown(bore_.boreDiameter) + "\n" + text(2454) +
-           ": " + shown(span);
+    return text(Text::pipesDoNotFit) + "\n\n" + text(Text::boreholeDiameterHeading) + ": " +
+           shown(bore_.boreDiameter) + "\n" + text(Text::widthOfPipes) + ": " + shown(span);
 }
 
 void BoreTab::calculateResistance() {

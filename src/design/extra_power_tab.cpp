@@ -5,6 +5,7 @@
 
 #include "basis/number_text.h"
 #include "design/ground_design.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -18,21 +19,25 @@ std::string powerUnits(std::size_t index) { return elementName("EKWPumpPowerUnit
 using namespace modCalculations;
 
 const ExtraPowerTab::Motor ExtraPowerTab::motors[3] = {
-    {circulationPumpInput, circulationPumpShaft, 0, "EKWCirculationFrame", 2605, 2606},
-    {towerFanInput, towerFanShaft, 1, "EKWTowerFanFrame", 2608, 2609},
-    {towerPumpInput, towerPumpShaft, 2, "EKWTowerPumpFrame", 2605, 2609},
+    {circulationPumpInput, circulationPumpShaft, 0, "EKWCirculationFrame", Text::pumpShaftPower,
+     Text::circulationMotorEfficiency},
+    {towerFanInput, towerFanShaft, 1, "EKWTowerFanFrame", Text::fanShaftPower,
+     Text::towerMotorEfficiency},
+    {towerPumpInput, towerPumpShaft, 2, "EKWTowerPumpFrame", Text::pumpShaftPower,
+     Text::towerMotorEfficiency},
 };
 
 ExtraPowerTab::ExtraPowerTab(GroundDesign& design, ExtraPowerValues& power)
     : DesignTab(design), power_(power) {
-    addFrame("EKWCirculationFrame", 2601);
+    addFrame("EKWCirculationFrame", Text::circulationPumps);
     addMotor(motors[0]);
-    addMenuButton("EKWPumpPowerCommand", "EKWCirculationFrame", 2614, "mnuPumpPowerCalc");
+    addMenuButton("EKWPumpPowerCommand", "EKWCirculationFrame", Text::pumpPowerButton,
+                  "mnuPumpPowerCalc");
     addAdditional();
-    addFrame("EKWCoolingTowerFrame", 2603);
-    addFrame("EKWTowerFanFrame", 2623, "EKWCoolingTowerFrame");
+    addFrame("EKWCoolingTowerFrame", Text::coolingTowerPower);
+    addFrame("EKWTowerFanFrame", Text::coolingTowerFan, "EKWCoolingTowerFrame");
     addMotor(motors[1]);
-    addFrame("EKWTowerPumpFrame", 2622, "EKWCoolingTowerFrame");
+    addFrame("EKWTowerPumpFrame", Text::coolingTowerPump, "EKWCoolingTowerFrame");
     addMotor(motors[2]);
 }
 
@@ -47,7 +52,7 @@ void ExtraPowerTab::addMotor(const Motor& motor) {
                          .label = powerLabel(motor.shaft),
                          .caption = {motor.powerCaption, motor.powerCaption},
                          .unitLabel = powerUnits(motor.shaft),
-                         .unit = {2612, 2611},
+                         .unit = {Text::powerUnitsEnglish, Text::powerUnitsMetric},
                          .help = "borehole#power"},
               .changed = follow});
     addField({.control = elementName("EKWPumpEfficiencyText", motor.efficiency),
@@ -59,31 +64,31 @@ void ExtraPowerTab::addMotor(const Motor& motor) {
                          .label = elementName("EKWPumpEfficiencyLabel", motor.efficiency),
                          .caption = {motor.efficiencyCaption, motor.efficiencyCaption},
                          .unitLabel = elementName("EKWPumpEfficiencyUnitLabel", motor.efficiency),
-                         .unit = {2613, 2613},
+                         .unit = {Text::motorEfficiencyUnits, Text::motorEfficiencyUnits},
                          .help = "borehole#power"},
               .whileEmpty = 100,
               .changed = follow});
 
     const std::string input = powerField(motor.input);
-    add(powerLabel(motor.input), ControlKind::label, frame, 2607);
+    add(powerLabel(motor.input), ControlKind::label, frame, Text::requiredInputPower);
     add(input, ControlKind::text, frame)
         .captionedBy(powerLabel(motor.input))
         .unitsIn(powerUnits(motor.input))
         .helpedBy("borehole#power")
         .setLocked(true);
-    addUnitLabel(powerUnits(motor.input), frame, {2611, 2611});
+    addUnitLabel(powerUnits(motor.input), frame, {Text::powerUnitsMetric, Text::powerUnitsMetric});
 }
 
 void ExtraPowerTab::addAdditional() {
-    addFrame("EKWAdditionalFrame", 2602);
+    addFrame("EKWAdditionalFrame", Text::additionalPowerRequirements);
     addField({.control = powerField(additionalPower),
               .stored = &power_.extraPower[additionalPower],
               .highest = 10000,
               .beside = {.frame = "EKWAdditionalFrame",
                          .label = powerLabel(additionalPower),
-                         .caption = {2604, 2604},
+                         .caption = {Text::additionalPower, Text::additionalPower},
                          .unitLabel = powerUnits(additionalPower),
-                         .unit = {2611, 2611},
+                         .unit = {Text::powerUnitsMetric, Text::powerUnitsMetric},
                          .help = "borehole#power"}});
 }
 

@@ -6,6 +6,7 @@
 #include "basis/number_text.h"
 #include "basis/raised_flag.h"
 #include "design/ground_design.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -16,7 +17,7 @@ constexpr int water = 0;  // first of the list
 
 FluidTab::FluidTab(GroundDesign& design, FluidValues& fluid, ProjectConditions& conditions)
     : DesignTab(design), fluid_(fluid), conditions_(conditions) {
-    addFrame("FLFluidFrame", 2201);
+    addFrame("FLFluidFrame", Text::fluidTemperaturesAndFlow);
     addTemperatures();
     addFlow();
     addSolution();
@@ -24,9 +25,9 @@ FluidTab::FluidTab(GroundDesign& design, FluidValues& fluid, ProjectConditions& 
 }
 
 void FluidTab::addTemperatures() {
-    addFrame("FLInletTempFrame", 2202, "FLFluidFrame");
+    addFrame("FLInletTempFrame", Text::designInletTemperatures, "FLFluidFrame");
     const ByMode<double> fallbacks{85, 55};
-    const ByMode<int> captions{2203, 2204};
+    const ByMode<int> captions{Text::inletTemperatureCooling, Text::inletTemperatureHeating};
     for (const Mode mode : modes)
         addField({.control = elementName("FLInletTempText", mode),
                   .stored = &conditions_.inletTemp[mode],
@@ -37,34 +38,37 @@ void FluidTab::addTemperatures() {
                              .label = elementName("FLInletTempLabel", mode),
                              .caption = {captions[mode], captions[mode]},
                              .unitLabel = elementName("FLInletTempUnitLabel", mode),
-                             .unit = {2206, 2205},
+                             .unit = {Text::inletTemperatureUnitsEnglish,
+                                      Text::inletTemperatureUnitsMetric},
                              .help = "borehole#fluid",
-                             .accessible = 2202,
+                             .accessible = Text::designInletTemperatures,
                              .distinction = captions[mode]},
                   .changed = [this, mode] { design().passTemperature(mode); },
                   .left = [this] { design().refreshLoadsPumps(); }});
 }
 
 void FluidTab::addFlow() {
-    addFrame("FLFlowRateFrame", 2207, "FLFluidFrame");
-    addField({.control = "FLFlowRateText",
-              .stored = &conditions_.flowRate,
-              .quantity = &quantities::waterFlow,
-              .highest = 212,
-              .fallback = 3,
-              .beside = {.frame = "FLFlowRateFrame",
-                         .label = "FLFlowRateLabel",
-                         .caption = {2208, 2208},
-                         .unitLabel = "FLFlowRateUnitsLabel",
-                         .unit = {2210, 2209},
-                         .help = "borehole#fluid"},
-              .changed = [this] { design().passFlow(); },
-              .left = [this] { design().refreshLoadsPumps(); }});
+    addFrame("FLFlowRateFrame", Text::designSystemFlowRate, "FLFluidFrame");
+    addField(
+        {.control = "FLFlowRateText",
+         .stored = &conditions_.flowRate,
+         .quantity = &quantities::waterFlow,
+         .highest = 212,
+         .fallback = 3,
+         .beside = {.frame = "FLFlowRateFrame",
+                    .label = "FLFlowRateLabel",
+                    .caption = {Text::designFlowRate, Text::designFlowRate},
+                    .unitLabel = "FLFlowRateUnitsLabel",
+                    .unit = {Text::designFlowRateUnitsEnglish, Text::designFlowRateUnitsMetric},
+                    .help = "borehole#fluid"},
+         .changed = [this] { design().passFlow(); },
+         .left = [this] { design().refreshLoadsPumps(); }});
 }
 
 void FluidTab::addSolution() {
-    addFrame("FLSolutionFrame", 2211, "FLFluidFrame");
-    addCombo("FLFluidTypeCombo", "FLSolutionFrame", "FLFluidTypeLabel", 2212, 2224, 2230)
+    addFrame("FLSolutionFrame", Text::solutionProperties, "FLFluidFrame");
+    addCombo("FLFluidTypeCombo", "FLSolutionFrame", "FLFluidTypeLabel", Text::fluidType,
+             Text::water, Text::calciumChloride)
         .editableText();
     onClick("FLFluidTypeCombo", [this] { FLFluidTypeCombo_Change(); });
     onChange("FLFluidTypeCombo", [this] { FLFluidTypeCombo_Change(); });
@@ -75,10 +79,10 @@ void FluidTab::addSolution() {
               .format = "###0",
               .beside = {.frame = "FLSolutionFrame",
                          .label = "FLPercentAntifreezeLabel",
-                         .caption = {2213, 2213},
+                         .caption = {Text::percentAntifreeze, Text::percentAntifreeze},
                          .help = "borehole#fluid",
-                         .accessible = 2211,
-                         .distinction = 2213},
+                         .accessible = Text::solutionProperties,
+                         .distinction = Text::percentAntifreeze},
               .changed = [this] { showPercent(); }});
     add("FLPercentAntifreezeUpDown", ControlKind::upDown, "FLSolutionFrame").setRange(0, 100);
     onSlide("FLPercentAntifreezeUpDown", [this] { FLPercentAntifreezeUpDown_Change(); });
@@ -94,9 +98,9 @@ void FluidTab::addProperties() {
               .metricFormat = "###0.000",
               .beside = {.frame = "FLSolutionFrame",
                          .label = "FLSpecificHeatLabel",
-                         .caption = {2216, 2216},
+                         .caption = {Text::specificHeat, Text::specificHeat},
                          .unitLabel = "FLSpecificHeatUnitsLabel",
-                         .unit = {2218, 2217},
+                         .unit = {Text::specificHeatUnitsEnglish, Text::specificHeatUnitsMetric},
                          .help = "borehole#fluid"}});
     addField({.control = "FLFluidDensityText",
               .stored = &fluid_.density,
@@ -105,11 +109,11 @@ void FluidTab::addProperties() {
               .fallback = 62.4,
               .beside = {.frame = "FLSolutionFrame",
                          .label = "FLFluidDensityLabel",
-                         .caption = {2219, 2219},
+                         .caption = {Text::density, Text::density},
                          .unitLabel = "FLDensityUnitsLabel",
-                         .unit = {2221, 2220},
+                         .unit = {Text::densityUnitsEnglish, Text::densityUnitsMetric},
                          .help = "borehole#fluid"}});
-    addMenuButton("FLTablesButton", "FLSolutionFrame", 2222, "FluidProperties");
+    addMenuButton("FLTablesButton", "FLSolutionFrame", Text::fluidTablesButton, "FluidProperties");
 }
 
 void FluidTab::setUnitLabels() {

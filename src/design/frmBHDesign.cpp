@@ -8,13 +8,14 @@
 #include "design/fluid_tab.h"
 #include "design/shared_values.h"
 #include "design/soil_tab.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 frmBHDesign::frmBHDesign(Varnmain& main, std::int16_t slot)
     : ProjectDesign("frmBHDesign", DesignKind::borehole, main, slot, project_,
                     {project_.fluid, project_.extraPower, &project_.tower}) {
     addWindowControls();
-    resultsTab_ = std::make_unique<ResultsTab>(*this, resultRows(), 2101);
+    resultsTab_ = std::make_unique<ResultsTab>(*this, resultRows(), Text::requiredBoreLengths);
     // The number of bores stands once, though there is a label for each mode.
     element("CABoreholeNumberLabel", heating).setVisible(false);
     towerPanel_ = std::make_unique<TowerPanel>(*this, project_.tower, [this] {
@@ -33,10 +34,11 @@ frmBHDesign::frmBHDesign(Varnmain& main, std::int16_t slot)
 
 frmBHDesign::~frmBHDesign() = default;
 
-std::string frmBHDesign::baseCaption() const { return text(2001); }
+std::string frmBHDesign::baseCaption() const { return text(Text::boreholeDesignTitle); }
 
 std::vector<int> frmBHDesign::pageCaptions() const {
-    return {2002, 2003, 2004, 2005, 2006, 2007, 2010};
+    return {Text::resultsPage, Text::fluidPage,      Text::soilPage,       Text::pipingPage,
+            Text::patternPage, Text::extraPowerPage, Text::informationPage};
 }
 
 std::vector<DesignTab*> frmBHDesign::tabs() {
@@ -56,9 +58,12 @@ std::vector<ResultRow> frmBHDesign::resultRows() const {
         return shownAs(quantities::length, *this, bores() == 0 ? 0 : GetL(mode) / bores());
     };
     std::vector<ResultRow> rows{
-        {"CATotalLengthLabel", {2105, 2104}, total, true},
-        {"CABoreholeNumberLabel", {2106, 2106}, number},
-        {"CABoreholeLengthLabel", {2108, 2107}, each, true},
+        {"CATotalLengthLabel", {Text::totalLengthEnglish, Text::totalLengthMetric}, total, true},
+        {"CABoreholeNumberLabel", {Text::boreholeNumber, Text::boreholeNumber}, number},
+        {"CABoreholeLengthLabel",
+         {Text::boreholeLengthEnglish, Text::boreholeLengthMetric},
+         each,
+         true},
     };
     const auto rollUp = [this]() -> const LoadsRollUp& { return results(); };
     const auto inputs = [this] { return inputsOnShow().loads; };
@@ -94,7 +99,9 @@ void frmBHDesign::fillDefaults() {
 
 void frmBHDesign::resultsFound() {
     const modCalculations::SettledLengths& lengths = results().lengths;
-    if (lengths.failed) show(MessageIcon::plain, text(2151) + std::to_string(lengths.iterations));
+    if (lengths.failed)
+        show(MessageIcon::plain,
+             text(Text::calculationFailed) + std::to_string(lengths.iterations));
     project_.tower.tower = results().tower;
     showGoverningMode();
     resultsTab_->setUnitLabels();
@@ -122,7 +129,8 @@ std::string frmBHDesign::shownWithUnit(const Quantity& quantity, double value, U
 BoreDrawing frmBHDesign::boreDrawing() const {
     BoreDrawing drawing = drawBore(project_.bore, project_.pipe);
     const auto label = [this](double inches) {
-        return shownWithUnit(quantities::diameter, inches, {2449, 2448}, "###0.00");
+        return shownWithUnit(quantities::diameter, inches,
+                             {Text::diameterUnitsEnglish, Text::diameterUnitsMetric}, "###0.00");
     };
     drawing.boreLabel = label(project_.bore.boreDiameter);
     drawing.pipeLabel = label(project_.pipe.pipeDiameter[0]);
@@ -132,7 +140,8 @@ BoreDrawing frmBHDesign::boreDrawing() const {
 FieldPlan frmBHDesign::fieldPlan() const {
     FieldPlan plan = drawField(project_.arrangement);
     const auto label = [this](double feet) {
-        return shownWithUnit(quantities::length, feet, {2512, 2511}, "###0.0");
+        return shownWithUnit(quantities::length, feet,
+                             {Text::lengthUnitsEnglish, Text::lengthUnitsMetric}, "###0.0");
     };
     plan.separationLabel = label(plan.separation);
     plan.acrossLabel = label(fieldExtent(plan.across, plan.separation));

@@ -5,6 +5,7 @@
 #include "basis/run_time_error.h"
 #include "design/design_tab.h"
 #include "design/shared_values.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -32,7 +33,7 @@ bool GroundDesign::towerIsOn() const {
 }
 
 void GroundDesign::addWindowControls() {
-    add("MetricCheck", ControlKind::check, 2011);
+    add("MetricCheck", ControlKind::check, Text::designMetricSwitch);
     onClick("MetricCheck", [this] { MetricCheck_Click(); });
     addLinkLights();
     addNotice();
@@ -101,7 +102,7 @@ void GroundDesign::run() {
     calculate();
 }
 
-void GroundDesign::tellNothingToCalculate() { show(MessageIcon::information, text(2814)); }
+void GroundDesign::tellNothingToCalculate() { show(MessageIcon::information, text(Text::noLoads)); }
 
 void GroundDesign::tellNoLoads() {
     tellNothingToCalculate();
@@ -137,16 +138,18 @@ void GroundDesign::showRestored(bool stale) {
 
 std::vector<Notice> GroundDesign::notices() const {
     std::vector<Notice> holding;
-    if (!halfReadFile_.empty()) holding.push_back({filledIn(text(1236), {halfReadFile_})});
+    if (!halfReadFile_.empty())
+        holding.push_back({filledIn(text(Text::noticeFileIncomplete), {halfReadFile_})});
     if (!missingZoneFile().empty())
-        holding.push_back(
-            {filledIn(text(1234), {missingZoneFile()}), text(1235), files.findZoneFile});
-    if (droppedError_ == overflow) holding.push_back({text(1232)});
+        holding.push_back({filledIn(text(Text::noticeZoneFileMissing), {missingZoneFile()}),
+                           text(Text::noticeFindZoneFile), files.findZoneFile});
+    if (droppedError_ == overflow) holding.push_back({text(Text::noticeOverflow)});
     if (droppedError_ != 0 && droppedError_ != overflow)
-        holding.push_back({filledIn(text(1233), {RunTimeError(droppedError_).message()})});
+        holding.push_back(
+            {filledIn(text(Text::noticeRunTimeError), {RunTimeError(droppedError_).message()})});
     if (const auto refused = fields().refused()) holding.push_back(refusedNotice(*refused));
     if (resultsAreOlder())
-        holding.push_back({text(1230), text(1231), [this] {
+        holding.push_back({text(Text::noticeOutOfDate), text(Text::noticeCalculate), [this] {
                                const_cast<GroundDesign*>(this)->CACalculateCommand_Click();
                            }});
     return holding;

@@ -5,6 +5,7 @@
 #include "design/ground_design.h"
 #include "design/modCalculations/bore_resistance.h"
 #include "design/modCalculations/pipe_resistance.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -20,17 +21,18 @@ constexpr int flowTypes = 3;
 PipeTab::PipeTab(GroundDesign& design, PipeValues& pipe) : DesignTab(design), pipe_(pipe) {}
 
 void PipeTab::addPipeControls(const std::string& frame) {
-    addFrame("PIParametersFrame", 2406, frame);
-    addCombo("PIPipeDiameterCombo", "PIParametersFrame", "PIPipeDiameterLabel", 2436, 2418, 2421);
+    addFrame("PIParametersFrame", Text::pipeParameters, frame);
+    addCombo("PIPipeDiameterCombo", "PIParametersFrame", "PIPipeDiameterLabel", Text::pipeSize,
+             Text::threeQuarterInchPipe, Text::oneAndAHalfInchPipe);
     onClick("PIPipeDiameterCombo", [this] { PIPipeDiameterCombo_Click(); });
-    addCombo("PIPipeResistanceCombo(0)", "PIParametersFrame", "PIPipeResistanceLabel(0)", 2439,
-             2409, 2413);
+    addCombo("PIPipeResistanceCombo(0)", "PIParametersFrame", "PIPipeResistanceLabel(0)",
+             Text::pipeType, Text::sdr9, Text::schedule80);
     onClick("PIPipeResistanceCombo(0)", [this] { PIPipeResistanceCombo_Click(0); });
-    addCombo("PIPipeResistanceCombo(1)", "PIParametersFrame", "PIPipeResistanceLabel(1)", 2437,
-             2414, 2416);
+    addCombo("PIPipeResistanceCombo(1)", "PIParametersFrame", "PIPipeResistanceLabel(1)",
+             Text::flowType, Text::turbulentFlow, Text::laminarFlow);
     onClick("PIPipeResistanceCombo(1)", [this] { PIPipeResistanceCombo_Click(1); });
-    addDiameter(outside, 2440);
-    addDiameter(inside, 2441);
+    addDiameter(outside, Text::outerDiameter);
+    addDiameter(inside, Text::innerDiameter);
     addField({.control = "PIPipeResistanceText",
               .stored = &pipe_.pipeResistance,
               .quantity = &quantities::resistance,
@@ -38,12 +40,14 @@ void PipeTab::addPipeControls(const std::string& frame) {
               .format = "###0.000",
               .beside = {.frame = "PIParametersFrame",
                          .label = "PIPipeResistanceLabel",
-                         .caption = {2408, 2408},
+                         .caption = {Text::pipeResistance, Text::pipeResistance},
                          .unitLabel = "PIPipeResistanceUnitsLabel",
-                         .unit = {2405, 2404},
+                         .unit = {Text::thermalResistanceUnitsEnglish,
+                                  Text::thermalResistanceUnitsMetric},
                          .help = "borehole#piping"},
               .changed = [this] { calculateResistance(); }});
-    addMenuButton("PIPipeTablesCommand", "PIParametersFrame", 2417, "PipeProperties");
+    addMenuButton("PIPipeTablesCommand", "PIParametersFrame", Text::pipeTablesButton,
+                  "PipeProperties");
 }
 
 void PipeTab::addDiameter(int side, int caption) {
@@ -61,7 +65,7 @@ void PipeTab::addDiameter(int side, int caption) {
                          .label = elementName("PIPipeDiameterLabel", index),
                          .caption = {caption, caption},
                          .unitLabel = elementName("PIPipeDiameterUnitLabel", index),
-                         .unit = {2449, 2448},
+                         .unit = {Text::diameterUnitsEnglish, Text::diameterUnitsMetric},
                          .help = "borehole#piping"},
               .fallbackNow = [this, side] { return tableDiameter(side); },
               .changed = [this] { PIPipeDiameterText_Change(); },

@@ -7,6 +7,7 @@
 #include "basis/units.h"
 #include "design/ground_design.h"
 #include "design/modCalculations/extra_power.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -24,13 +25,13 @@ ResultsTab::ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int fr
     : DesignTab(design), rows_(std::move(rows)) {
     const std::string frame = "CACalculationFrame";
     addFrame(frame, frameCaption);
-    add("CATopLabel(0)", ControlKind::label, frame, 2102);
-    add("CATopLabel(1)", ControlKind::label, frame, 2103);
+    add("CATopLabel(0)", ControlKind::label, frame, Text::resultsCooling);
+    add("CATopLabel(1)", ControlKind::label, frame, Text::resultsHeating);
     for (const ResultRow& row : rows_) {
         addUnitLabel(elementName(row.label, captionElement), frame, row.caption);
         for (const Mode mode : modes) add(elementName(row.label, mode), ControlKind::label, frame);
     }
-    add("CACalculateCommand", ControlKind::button, frame, 2130);
+    add("CACalculateCommand", ControlKind::button, frame, Text::calculate);
     onClick("CACalculateCommand", [this] { this->design().CACalculateCommand_Click(); });
 }
 
@@ -78,26 +79,28 @@ std::vector<ResultRow> unitRows(const GroundDesign& design,
     };
     using namespace quantities;
     return {
-        row("CAUnitInletLabel", {2110, 2109}, temperature,
+        row("CAUnitInletLabel", {Text::unitInletEnglish, Text::unitInletMetric}, temperature,
             [inputs](Mode m) { return inputs().inletTemp[m]; }),
-        row("CAUnitOutletLabel", {2112, 2111}, temperature,
+        row("CAUnitOutletLabel", {Text::unitOutletEnglish, Text::unitOutletMetric}, temperature,
             [rollUp](Mode m) { return rollUp().outlet.outletTemp[m]; }),
-        row("CATotalCapacityLabel", {2114, 2113}, load,
+        row("CATotalCapacityLabel", {Text::totalCapacityEnglish, Text::totalCapacityMetric}, load,
             [rollUp](Mode m) { return rollUp().demand.totalCapacity[m]; }),
-        row("CAPeakLoadLabel", {2117, 2115}, load,
+        row("CAPeakLoadLabel", {Text::peakLoadEnglish, Text::peakLoadMetric}, load,
             [rollUp](Mode m) { return rollUp().loads.peakLoad[m]; }),
-        {"CAPeakDemandLabel", {2119, 2119}, demand},
-        cop("CAPumpCOPLabel", {2120, 2116},
+        {"CAPeakDemandLabel", {Text::peakDemand, Text::peakDemand}, demand},
+        cop("CAPumpCOPLabel", {Text::heatPumpCopEnglish, Text::heatPumpCopMetric},
             [rollUp](Mode m) { return rollUp().cop.heatPumpCOP[m]; }),
-        cop("CASystemCOPLabel", {2121, 2118},
+        cop("CASystemCOPLabel", {Text::systemCopEnglish, Text::systemCopMetric},
             [rollUp](Mode m) { return rollUp().cop.systemCOP[m]; }),
-        row("CAFlowRateLabel", {2123, 2122}, waterFlow,
+        row("CAFlowRateLabel", {Text::systemFlowRateEnglish, Text::systemFlowRateMetric}, waterFlow,
             [rollUp](Mode m) { return rollUp().outlet.systemFlow[m]; }),
     };
 }
 
 ResultRow soilChangeRow(const GroundDesign& design, const std::function<double(Mode)>& penalty) {
-    return {"CASoilTempChangeLabel", {2125, 2124}, [&design, penalty](Mode mode) {
+    return {"CASoilTempChangeLabel",
+            {Text::groundTemperatureChangeEnglish, Text::groundTemperatureChangeMetric},
+            [&design, penalty](Mode mode) {
                 const std::string change =
                     shownAs(quantities::temperatureDifference, design, -penalty(mode));
                 return penalty(mode) < 0 ? "+" + change : change;

@@ -2,27 +2,30 @@
 #include "design/soil_tab.h"
 
 #include "design/ground_design.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 
 SoilTab::SoilTab(GroundDesign& design, SoilValues& soil) : DesignTab(design) {
-    addFrame("SOSoilFrame", 2301);
-    addFrame("SOGroundTempFrame", 2302, "SOSoilFrame");
+    addFrame("SOSoilFrame", Text::soilTemperaturesAndProperties);
+    addFrame("SOGroundTempFrame", Text::undisturbedGroundTemperature, "SOSoilFrame");
     addField({.control = "SOGroundTempText",
               .stored = &soil.groundTemp,
               .quantity = &quantities::temperature,
               .highest = 212,
               .fallback = 62,
-              .beside = {.frame = "SOGroundTempFrame",
-                         .label = "SOGroundTempLabel",
-                         .caption = {2303, 2303},
-                         .unitLabel = "SOGroundTempUnitsLabel",
-                         .unit = {2305, 2304},
-                         .help = "borehole#soil"}});
-    addFrame("SOPropertiesFrame", 2306, "SOSoilFrame");
+              .beside = {
+                  .frame = "SOGroundTempFrame",
+                  .label = "SOGroundTempLabel",
+                  .caption = {Text::groundTemperature, Text::groundTemperature},
+                  .unitLabel = "SOGroundTempUnitsLabel",
+                  .unit = {Text::groundTemperatureUnitsEnglish, Text::groundTemperatureUnitsMetric},
+                  .help = "borehole#soil"}});
+    addFrame("SOPropertiesFrame", Text::soilThermalProperties, "SOSoilFrame");
     addProperties(soil);
-    addMenuButton("SOSoilCommand(0)", "SOPropertiesFrame", 2310, "mnuDiffCalc");
-    addMenuButton("SOSoilCommand(1)", "SOPropertiesFrame", 2312, "SoilProperties");
+    addMenuButton("SOSoilCommand(0)", "SOPropertiesFrame", Text::diffusivityButton, "mnuDiffCalc");
+    addMenuButton("SOSoilCommand(1)", "SOPropertiesFrame", Text::soilTablesButton,
+                  "SoilProperties");
 }
 
 void SoilTab::addProperties(SoilValues& soil) {
@@ -34,9 +37,10 @@ void SoilTab::addProperties(SoilValues& soil) {
               .format = "###0.00",
               .beside = {.frame = "SOPropertiesFrame",
                          .label = "SOThermalConductivityLabel",
-                         .caption = {2445, 2445},
+                         .caption = {Text::thermalConductivity, Text::thermalConductivity},
                          .unitLabel = "SOThermalConductivityUnitsLabel",
-                         .unit = {2447, 2446},
+                         .unit = {Text::thermalConductivityUnitsEnglish,
+                                  Text::thermalConductivityUnitsMetric},
                          .help = "borehole#soil"}});
     addField({.control = "SOThermalDiffusivityText",
               .stored = &soil.diffusivity,
@@ -47,9 +51,10 @@ void SoilTab::addProperties(SoilValues& soil) {
               .metricFormat = "###0.000",
               .beside = {.frame = "SOPropertiesFrame",
                          .label = "SOThermalDiffusivityLabel",
-                         .caption = {2307, 2307},
+                         .caption = {Text::thermalDiffusivity, Text::thermalDiffusivity},
                          .unitLabel = "SOThermalDiffusivityUnitsLabel",
-                         .unit = {2309, 2308},
+                         .unit = {Text::thermalDiffusivityUnitsEnglish,
+                                  Text::thermalDiffusivityUnitsMetric},
                          .help = "borehole#soil"}});
 }
 

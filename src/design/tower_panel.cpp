@@ -11,6 +11,7 @@
 #include "basis/run_time_error.h"
 #include "design/ground_design.h"
 #include "design/modCalculations/cooling_tower.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 
@@ -31,25 +32,25 @@ constexpr double largestRange = 100;
 const TowerPanel::Figure TowerPanel::figures[4] = {
     {"CACondenserCapacityLabel",
      "CACondenserCapacityUpDown",
-     {2144, 2143},
+     {Text::condenserCapacityEnglish, Text::condenserCapacityMetric},
      &quantities::load,
      &CoolingTower::capacity,
      "###0.0"},
     {"CACoolingTowerFlowRateLabel",
      "CACoolingTowerFlowRateUpDown",
-     {2146, 2145},
+     {Text::towerFlowRateEnglish, Text::towerFlowRateMetric},
      &quantities::waterFlow,
      &CoolingTower::flow,
      "###0.0"},
     {"CACoolingTowerRangeLabel",
      "CACoolingRangeUpDown",
-     {2148, 2147},
+     {Text::coolingRangeEnglish, Text::coolingRangeMetric},
      &quantities::temperatureDifference,
      &CoolingTower::range,
      "###0.0"},
     {"CACoolingTowerHoursLabel",
      nullptr,
-     {2149, 2149},
+     {Text::towerOperatingHours, Text::towerOperatingHours},
      &quantities::plain,
      &CoolingTower::hours,
      "####0"},
@@ -59,8 +60,8 @@ TowerPanel::TowerPanel(GroundDesign& design, TowerValues& values,
                        std::function<modCalculations::TowerYear()> year)
     : DesignTab(design), values_(values), year_(std::move(year)) {
     const std::string frame = "CAHybridFrame";
-    addFrame(frame, 2142);
-    add("CAPercentHybridLabel(1)", ControlKind::label, frame, 2141);
+    addFrame(frame, Text::optionalCoolingTower);
+    add("CAPercentHybridLabel(1)", ControlKind::label, frame, Text::loadBalance);
     add("CAHybridSlider", ControlKind::slider, frame)
         .captionedBy("CAPercentHybridLabel(1)")
         .helpedBy("tower")
@@ -138,7 +139,8 @@ void TowerPanel::CACoolingRangeUpDown_Change() {
 void TowerPanel::showPercent() {
     control("CAHybridSlider").setValue(values_.hybridPercent);
     control("CAPercentHybridLabel(0)")
-        .setCaption(formatNumber(values_.hybridPercent, "###0") + " " + text(2150));
+        .setCaption(formatNumber(values_.hybridPercent, "###0") + " " +
+                    text(Text::loadBalanceUnits));
 }
 
 void TowerPanel::showTower() {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "basis/run_time_error.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -263,7 +264,7 @@ void Form::onSlide(const std::string& control, Handler handler) {
 }
 
 void Form::show(MessageIcon icon, const std::string& message) {
-    platform_.message(icon, text(1001), message);
+    platform_.message(icon, text(Text::programTitle), message);
 }
 
 }  // namespace varnholt

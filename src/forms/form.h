@@ -143,7 +143,7 @@ class Form {
 
     Values& publicValues() { return values_; }
 
-    /// A message box under the program's title (text 1001).
+    /// A message box under the program's title (Text::programTitle).
     void show(MessageIcon icon, const std::string& text);
 
  private:

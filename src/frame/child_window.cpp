@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {
@@ -103,7 +104,8 @@ void ChildWindow::goTo(const DocumentState& state) {
 }
 
 Notice ChildWindow::refusedNotice(const RefusedValue& refused) const {
-    const int words = refused.highest.empty() ? 1238 : 1237;
+    const int words =
+        refused.highest.empty() ? Text::noticeValueTooSmall : Text::noticeValueOutsideRange;
     return {filledIn(text(words), {control(refused.control).accessibleName(), refused.typed,
                                    refused.lowest, refused.highest, refused.taken})};
 }

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "basis/file_system.h"
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {
@@ -19,21 +20,22 @@ struct InformationRow {
 };
 
 constexpr std::array<InformationRow, 11> informationRows{{
-    {"INProjectNameText", "INProjectNameLabel", 2701, "projectName",
+    {"INProjectNameText", "INProjectNameLabel", Text::projectName, "projectName",
      &ProjectInformation::projectName},
-    {"INDesignerNameText", "INDesignerNameLabel", 2702, "designerName",
+    {"INDesignerNameText", "INDesignerNameLabel", Text::designerName, "designerName",
      &ProjectInformation::designerName},
-    {"INClientNameText", "INClientNameLabel", 2703, "clientName", &ProjectInformation::clientName},
-    {"INAddressLine1Text", "INAddressLine1Label", 2704, "addressLine1",
+    {"INClientNameText", "INClientNameLabel", Text::clientName, "clientName",
+     &ProjectInformation::clientName},
+    {"INAddressLine1Text", "INAddressLine1Label", Text::addressLine1, "addressLine1",
      &ProjectInformation::addressLine1},
-    {"INAddressLine2Text", "INAddressLine2Label", 2705, "addressLine2",
+    {"INAddressLine2Text", "INAddressLine2Label", Text::addressLine2, "addressLine2",
      &ProjectInformation::addressLine2},
-    {"INCityText", "INCityLabel", 2706, "city", &ProjectInformation::city},
-    {"INStateText", "INStateLabel", 2707, "state", &ProjectInformation::state},
-    {"INZipText", "INZipLabel", 2708, "zip", &ProjectInformation::zip},
-    {"INPhoneText", "INPhoneLabel", 2709, "phone", &ProjectInformation::phone},
-    {"INFaxText", "INFaxLabel", 2710, "fax", &ProjectInformation::fax},
-    {"INEmailText", "INEmailLabel", 2711, "email", &ProjectInformation::email},
+    {"INCityText", "INCityLabel", Text::city, "city", &ProjectInformation::city},
+    {"INStateText", "INStateLabel", Text::state, "state", &ProjectInformation::state},
+    {"INZipText", "INZipLabel", Text::zip, "zip", &ProjectInformation::zip},
+    {"INPhoneText", "INPhoneLabel", Text::phone, "phone", &ProjectInformation::phone},
+    {"INFaxText", "INFaxLabel", Text::fax, "fax", &ProjectInformation::fax},
+    {"INEmailText", "INEmailLabel", Text::email, "email", &ProjectInformation::email},
 }};
 
 }  // namespace
@@ -100,7 +102,7 @@ void DesignDocument::setFile(const std::string& path) {
 }
 
 void DesignDocument::addInformationControls() {
-    add("INProjectFrame", ControlKind::frame, 2700);
+    add("INProjectFrame", ControlKind::frame, Text::projectInformation);
     for (const InformationRow& row : informationRows) {
         addLabel(row.label, row.captionText);
         add(row.control, ControlKind::text)
@@ -111,9 +113,10 @@ void DesignDocument::addInformationControls() {
             information_.*member = control(name).text();
         });
     }
-    addDate("INDateDTPicker", "INDateLabel", 2712, &ProjectInformation::currentDate);
-    addDate("INStartDateDTPicker", "INStartDateLabel", 2713, &ProjectInformation::projectStartDate);
-    addLabel("INCommentsLabel", 2714);
+    addDate("INDateDTPicker", "INDateLabel", Text::projectDate, &ProjectInformation::currentDate);
+    addDate("INStartDateDTPicker", "INStartDateLabel", Text::projectStartDate,
+            &ProjectInformation::projectStartDate);
+    addLabel("INCommentsLabel", Text::projectComments);
     add("INCommentsRichTextBox", ControlKind::richText)
         .in("INProjectFrame")
         .captionedBy("INCommentsLabel");

@@ -4,17 +4,18 @@
 #include <string>
 
 #include "basis/file_system.h"
+#include "forms/text_numbers.h"
 #include "frame/program_version.h"
 
 namespace varnholt {
 
 frmAbout::frmAbout(Platform& platform, const Texts& texts) : Form("frmAbout", platform, texts) {
-    setCaption(text(1070));
-    add("lblTitle", ControlKind::label, 1001).setBold(true);
-    add("lblVersion", ControlKind::label).setCaption(text(1073) + " " + programVersion);
-    add("lblDescription", ControlKind::label, 1075);
-    add("cmdOK", ControlKind::button, 1071);
-    add("cmdSysInfo", ControlKind::button, 1072);
+    setCaption(text(Text::aboutTitle));
+    add("lblTitle", ControlKind::label, Text::programTitle).setBold(true);
+    add("lblVersion", ControlKind::label).setCaption(text(Text::version) + " " + programVersion);
+    add("lblDescription", ControlKind::label, Text::programDescription);
+    add("cmdOK", ControlKind::button, Text::ok);
+    add("cmdSysInfo", ControlKind::button, Text::systemInformation);
     onClick("cmdOK", [this] { cmdOK_Click(); });
     onClick("cmdSysInfo", [this] { cmdSysInfo_Click(); });
 }
@@ -31,7 +32,7 @@ void frmAbout::StartSysInfo() {
     if (tool)
         platform().openOutside(*tool);
     else
-        show(MessageIcon::plain, text(8541));
+        show(MessageIcon::plain, text(Text::systemInformationUnavailable));
 }
 
 }  // namespace varnholt

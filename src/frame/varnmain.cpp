@@ -7,6 +7,7 @@
 #include "basis/file_system.h"
 #include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
+#include "forms/text_numbers.h"
 #include "frame/design_document.h"
 #include "frame/frmAbout.h"
 #include "frame/frmSplash.h"
@@ -51,8 +52,8 @@ Varnmain::~Varnmain() = default;
 
 void Varnmain::start() {
     helpFile = joinPath(MainDirectory, "OnlineHelp/vht.chm");
-    setCaption(text(1001));
-    FontFaceName = text(1101);
+    setCaption(text(Text::programTitle));
+    FontFaceName = text(Text::languageFont);
     control("Metric").setChecked(!FontFaceName.empty());
     control("English").setChecked(FontFaceName.empty());
     openCall = false;
@@ -274,7 +275,7 @@ std::int16_t Varnmain::takeSlot(DesignKind kind) {
     DesignSlots& places = slots(kind);
     const std::size_t next = places.highestUsed() + 1;
     if (next > slotsPerKind) {
-        show(MessageIcon::exclamation, text(1208));
+        show(MessageIcon::exclamation, text(Text::tooManyDesigns));
         return 0;
     }
     places.marker = static_cast<std::int16_t>(next);
@@ -378,8 +379,8 @@ void Varnmain::refreshUndo() {
     };
     const DocumentHistory none;
     const DocumentHistory& history = active_ == nullptr ? none : active_->history();
-    show("mnuUndo", 1081, history.canUndo(), history.undoName());
-    show("mnuRedo", 1082, history.canRedo(), history.redoName());
+    show("mnuUndo", Text::undo, history.canUndo(), history.undoName());
+    show("mnuRedo", Text::redo, history.canRedo(), history.redoName());
 }
 
 void Varnmain::unitsSwitched(ChildWindow& window) {

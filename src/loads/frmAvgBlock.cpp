@@ -2,6 +2,7 @@
 #include "loads/frmAvgBlock.h"
 
 #include "basis/raised_flag.h"
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 #include "loads/representative_pump.h"
 
@@ -10,9 +11,9 @@ namespace {
 
 constexpr ZoneWindowKind averageBlock{.formName = "frmAvgBlock",
                                       .windowExists = &Varnmain::frmAvgBlockWindowExists,
-                                      .titleText = 2932,
-                                      .pumpNameText = 2933,
-                                      .hoursText = 2934,
+                                      .titleText = Text::averageBlockTitle,
+                                      .pumpNameText = Text::representativePumpName,
+                                      .hoursText = Text::fullLoadHours,
                                       .listsZones = false,
                                       .linkLight = 8,
                                       .firstUnits = "1.0"};

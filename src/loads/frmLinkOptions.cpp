@@ -1,22 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "loads/frmLinkOptions.h"
 
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {
 
 frmLinkOptions::frmLinkOptions(Varnmain& main)
     : Form("frmLinkOptions", main.platform(), main.texts()), main_(main) {
-    setCaption(text(1210));
-    add("LinkFrame", ControlKind::frame, 1211);
-    add("LinkLabel", ControlKind::label, 1212).in("LinkFrame");
-    add("optLink(0)", ControlKind::option, 1213)
+    setCaption(text(Text::linkTitle));
+    add("LinkFrame", ControlKind::frame, Text::linkModuleSelection);
+    add("LinkLabel", ControlKind::label, Text::linkModuleQuestion).in("LinkFrame");
+    add("optLink(0)", ControlKind::option, Text::linkZoneManager)
         .grouped("optLink")
         .in("LinkFrame")
         .setChecked(true);
-    add("optLink(1)", ControlKind::option, 1214).grouped("optLink").in("LinkFrame");
-    add("cmdSelect", ControlKind::button, 1215);
-    add("cmdCancel", ControlKind::button, 1216);
+    add("optLink(1)", ControlKind::option, Text::linkAverageBlock)
+        .grouped("optLink")
+        .in("LinkFrame");
+    add("cmdSelect", ControlKind::button, Text::linkSelect);
+    add("cmdCancel", ControlKind::button, Text::linkCancel);
     onClick("cmdSelect", [this] { cmdSelect_Click(); });
     onClick("cmdCancel", [this] { cmdCancel_Click(); });
     main_.LinkOption = cancelled;

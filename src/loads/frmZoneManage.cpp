@@ -7,6 +7,7 @@
 #include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
 #include "catalogue/pump_selection.h"
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 #include "loads/modLoads/progress.h"
 
@@ -15,9 +16,9 @@ namespace {
 
 constexpr ZoneWindowKind zoneManager{.formName = "frmZoneManage",
                                      .windowExists = &Varnmain::frmZoneManageWindowExists,
-                                     .titleText = 2930,
-                                     .pumpNameText = 2836,
-                                     .hoursText = 2828,
+                                     .titleText = Text::zoneManagerTitle,
+                                     .pumpNameText = Text::pumpName,
+                                     .hoursText = Text::annualFullLoadHours,
                                      .listsZones = true,
                                      .linkLight = 0,
                                      .firstUnits = "1"};
@@ -45,7 +46,7 @@ void frmZoneManage::hookListCommands() {
 }
 
 std::string frmZoneManage::zoneFrameCaption(const Zone& zone) const {
-    return text(2816) + " " + zone.name;
+    return text(Text::loadsAndHeatPumpOf) + " " + zone.name;
 }
 
 MiniPump frmZoneManage::evaluated(const pump& model, std::int16_t units, const Zone& zone) const {
@@ -64,7 +65,7 @@ void frmZoneManage::LOCopyCommand_Click() {
 void frmZoneManage::LORemoveCommand_Click() {
     const int position = selectedZone();
     if (shownZone() == nullptr) return;
-    nameStep(text(2952) + " " + shownZone()->name);
+    nameStep(text(Text::removeZone) + " " + shownZone()->name);
     zones().erase(static_cast<std::size_t>(position));
     if (ZoneList().empty()) {
         document_.zoneCount = 0;
@@ -103,13 +104,13 @@ void frmZoneManage::LOAutoSelectCommand_Click() {
     if (autoSelect(static_cast<std::size_t>(selectedZone())))
         displayZone();
     else
-        show(MessageIcon::exclamation, text(2940) + "\n\n" + zone->name);
+        show(MessageIcon::exclamation, text(Text::noPumpForZone) + "\n\n" + zone->name);
 }
 
 void frmZoneManage::LOAutoSelectAllCommand_Click() {
     std::string without;
     attempt([&] {
-        Progress progress(platform(), text(2943), ZoneList().size());
+        Progress progress(platform(), text(Text::selectingPumps), ZoneList().size());
         for (std::size_t i = 0; i < ZoneList().size(); ++i) {
             if (!autoSelect(i)) append(without, ZoneList()[i].name);
             progress.tell(i + 1);
@@ -121,7 +122,7 @@ void frmZoneManage::LOAutoSelectAllCommand_Click() {
 }
 
 void frmZoneManage::tellZonesWithoutPump(const std::string& zones) {
-    show(MessageIcon::exclamation, text(2941) + "\n\n" + zones);
+    show(MessageIcon::exclamation, text(Text::noPumpForZones) + "\n\n" + zones);
 }
 
 /// After pumps of many zones have changed: the zone on display and the totals.
@@ -134,7 +135,7 @@ void frmZoneManage::showSelectedPumps() {
 void frmZoneManage::LOUpdatePumpsCommand_Click() {
     std::string without;
     attempt([&] {
-        Progress progress(platform(), text(2944), ZoneList().size());
+        Progress progress(platform(), text(Text::updatingPumps), ZoneList().size());
         for (std::size_t i = 0; i < ZoneList().size(); ++i) {
             if (ZoneList()[i].pump.customPump != 1) updatePump(i, without);
             progress.tell(i + 1);

@@ -6,6 +6,7 @@
 #include "basis/raised_flag.h"
 #include "basis/units.h"
 #include "forms/quantity.h"
+#include "forms/text_numbers.h"
 #include "loads/frmZoneManage.h"
 #include "loads/modLoads/building_totals.h"
 #include "loads/modLoads/summary_lines.h"
@@ -13,7 +14,8 @@
 namespace varnholt {
 namespace {
 
-constexpr int blockTexts[] = {2881, 2882, 2883, 2884};
+constexpr int blockTexts[] = {Text::summaryEightToNoon, Text::summaryNoonToFour,
+                              Text::summaryFourToEight, Text::summaryEightToEight};
 
 /// Captions over the list, with their texts in metric units where they differ.
 struct Heading {
@@ -21,9 +23,20 @@ struct Heading {
 };
 
 constexpr Heading headings[] = {
-    {2815, 2815}, {2895, 2895}, {2896, 2897}, {2881, 2881}, {2882, 2882},
-    {2883, 2883}, {2884, 2884}, {2898, 2898}, {2899, 2823}, {2901, 2901},
-    {2823, 2823}, {2915, 2918}, {2916, 2916}, {2917, 2917},
+    {Text::zone, Text::zone},
+    {Text::summaryPump, Text::summaryPump},
+    {Text::summaryDayLoadsEnglish, Text::summaryDayLoadsMetric},
+    {Text::summaryEightToNoon, Text::summaryEightToNoon},
+    {Text::summaryNoonToFour, Text::summaryNoonToFour},
+    {Text::summaryFourToEight, Text::summaryFourToEight},
+    {Text::summaryEightToEight, Text::summaryEightToEight},
+    {Text::summaryCapacity, Text::summaryCapacity},
+    {Text::summaryCapacityUnitsEnglish, Text::loadUnitsMetric},
+    {Text::summaryPower, Text::summaryPower},
+    {Text::loadUnitsMetric, Text::loadUnitsMetric},
+    {Text::summaryCopEnglish, Text::summaryCopMetric},
+    {Text::summaryEer, Text::summaryEer},
+    {Text::summaryPartialLoadFactor, Text::summaryPartialLoadFactor},
 };
 constexpr int headingOfEer = 12;
 
@@ -33,31 +46,34 @@ struct TotalRow {
 };
 
 constexpr TotalRow totalRows[] = {
-    {"LOTotalCapacity", 2921, 2922}, {"LOPeakLoad", 2923, 2924},       {"LOPeakDemand", 2925, 2925},
-    {"LOPumpCOP", 2926, 2926},       {"LOPeakLoadPeriod", 2928, 2928},
+    {"LOTotalCapacity", Text::summaryTotalCapacityEnglish, Text::summaryTotalCapacityMetric},
+    {"LOPeakLoad", Text::summaryPeakLoadEnglish, Text::summaryPeakLoadMetric},
+    {"LOPeakDemand", Text::summaryPeakDemand, Text::summaryPeakDemand},
+    {"LOPumpCOP", Text::summaryHeatPumpCop, Text::summaryHeatPumpCop},
+    {"LOPeakLoadPeriod", Text::summaryPeakLoadPeriod, Text::summaryPeakLoadPeriod},
 };
 
 }  // namespace
 
 void frmZoneManage::addSummary() {
     const std::string frame = "LOSummaryPicture";
-    add(frame, ControlKind::frame, 2894).setVisible(false);
+    add(frame, ControlKind::frame, Text::buildingSummary).setVisible(false);
     int index = 0;
     for (const Heading& heading : headings)
         add("LOSummaryLabel(" + std::to_string(index++) + ")", ControlKind::label,
             heading.englishText)
             .in(frame);
     add("LOZoneSummaryList", ControlKind::list).in(frame);
-    add("LOSummaryModeLabel(0)", ControlKind::label, 2920).in(frame);
-    add("LOSummaryModeLabel(1)", ControlKind::label, 2919).in(frame);
+    add("LOSummaryModeLabel(0)", ControlKind::label, Text::summaryCooling).in(frame);
+    add("LOSummaryModeLabel(1)", ControlKind::label, Text::summaryHeating).in(frame);
     for (const TotalRow& row : totalRows) {
         add(std::string(row.name) + "TitleLabel", ControlKind::label, row.englishText).in(frame);
         for (int m = 0; m < 2; ++m)
             add(std::string(row.name) + "Label(" + std::to_string(m) + ")", ControlKind::label)
                 .in(frame);
     }
-    add("LOBuildingDayChart", ControlKind::image, 2946).in(frame);
-    add("LOReturnFromSummaryCommand", ControlKind::button, 2854).in(frame);
+    add("LOBuildingDayChart", ControlKind::image, Text::buildingDayChart).in(frame);
+    add("LOReturnFromSummaryCommand", ControlKind::button, Text::returnToZone).in(frame);
 }
 
 void frmZoneManage::LOSummaryCommand_Click() {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 #include "loads/links.h"
 #include "loads/loads_window.h"
@@ -145,7 +146,7 @@ bool LinkedDesign::transferZones() {
     if (own.zoneNumber == count && sameLoads(own.zones, from.data.zones)) return false;
     own.zones = from.data.zones;
     for (std::size_t i = 0; i < own.zones.size(); ++i) {
-        const std::string name = text(2815) + " " + std::to_string(i + 1);
+        const std::string name = text(Text::zone) + " " + std::to_string(i + 1);
         if (own.zones[i].name != name) own.zones.edit(i).name = name;
     }
     own.zoneNumber = count;

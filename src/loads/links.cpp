@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 #include "loads/frmLinkOptions.h"
 #include "loads/linked_design.h"
@@ -48,7 +49,7 @@ void linkDesign(LinkedDesign& design) {
     Varnmain& main = design.main();
     LoadsWindow* loads = chooseLoadsWindow(main);
     if (loads == nullptr || !main.isOpen(&design)) return;
-    const DocumentStep step(design, design.text(1029));
+    const DocumentStep step(design, design.text(Text::linkLoads));
     loads->switchUnits(design.units());
     linkWithTransfer(design, *loads);
     shareSeries(design, *loads);
@@ -64,7 +65,7 @@ void linkLoadsWindow(LoadsWindow& loads) {
         partner = design;
     }
     if (freeDesigns != 1) return;
-    const DocumentStep step(loads, loads.text(1029));
+    const DocumentStep step(loads, loads.text(Text::linkLoads));
     partner->switchUnits(loads.units());
     linkWithTransfer(*partner, loads);
     partner->takeSeries(loads.activeSeries());
@@ -108,7 +109,7 @@ void mnuLink_Click(Varnmain& main) {
 void mnuUnlink_Click(Varnmain& main) {
     ChildWindow* active = main.activeWindow();
     if (active == nullptr) return;
-    const DocumentStep step(*active, main.text(1032));
+    const DocumentStep step(*active, main.text(Text::unlinkLoads));
     cleanupLinks(*active);
 }
 
@@ -145,7 +146,8 @@ void TransferCall(Varnmain& main, std::int16_t designLinkID) {
 }
 
 std::string linkedCaption(const LoadsWindow& loads, const LinkedDesign& design) {
-    const int relation = loads.formName() == "frmAvgBlock" ? 1030 : 1031;
+    const int relation =
+        loads.formName() == "frmAvgBlock" ? Text::averageBlockOf : Text::zoneManagerOf;
     return loads.plainTitle() + " - " + loads.text(relation) + " " + design.projectCaption();
 }
 

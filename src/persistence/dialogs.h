@@ -6,6 +6,7 @@
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
 #include "forms/platform.h"
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {
@@ -13,12 +14,12 @@ namespace varnholt {
 // What the file commands show alike.
 
 inline void warn(const Varnmain& main, const std::string& message) {
-    main.platform().message(MessageIcon::exclamation, main.text(1001), message);
+    main.platform().message(MessageIcon::exclamation, main.text(Text::programTitle), message);
 }
 
 /// A file could not be read, or not to its end.
 inline void warnOfReading(const Varnmain& main, const RunTimeError& error) {
-    warn(main, main.text(1001) + " - " + error.description());
+    warn(main, main.text(Text::programTitle) + " - " + error.description());
 }
 
 /// The dialog for a project's file: in the folder of projects, with the filter of projects.
@@ -27,7 +28,7 @@ inline FileDialog projectDialog(const Varnmain& main, int titleText) {
     FileDialog dialog;
     dialog.title = main.text(titleText);
     dialog.folder = joinPath(main.MainDirectory, "work files");
-    dialog.filter = main.text(1220);
+    dialog.filter = main.text(Text::projectFileFilter);
     dialog.filterIndex = projectsInFilter;
     return dialog;
 }

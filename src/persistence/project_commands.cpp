@@ -10,6 +10,7 @@
 #include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
 #include "design/ground_design.h"
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 #include "loads/links.h"
 #include "loads/loads_window.h"
@@ -24,7 +25,7 @@ namespace {
 /// Whether some open design has the file; says so.
 bool isOpenAlready(Varnmain& main, const std::string& path) {
     if (!isFileInUse(main, path, nullptr)) return false;
-    warn(main, main.text(1201));
+    warn(main, main.text(Text::fileInUse));
     return true;
 }
 
@@ -75,7 +76,7 @@ const DesignFileKind* kindOfFile(Varnmain& main, const std::string& path) {
         LineFileReader file = LineFileReader::open(path);
         file.line();
         if (const DesignFileKind* kind = fileKindOfTitle(file.line())) return kind;
-        warn(main, main.text(8542));
+        warn(main, main.text(Text::designKindNotOpened));
     } catch (const RunTimeError& error) {
         warnOfReading(main, error);
     }
@@ -83,7 +84,7 @@ const DesignFileKind* kindOfFile(Varnmain& main, const std::string& path) {
 }
 
 FileDialog openDialog(const Varnmain& main) {
-    FileDialog dialog = projectDialog(main, 1018);
+    FileDialog dialog = projectDialog(main, Text::open);
     if (const auto* design = dynamic_cast<DesignDocument*>(main.activeWindow())) {
         if (!design->directoryName.empty()) dialog.folder = design->directoryName;
         dialog.proposedName = design->FileName;

@@ -6,6 +6,7 @@
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
 #include "design/ground_design.h"
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 #include "loads/links.h"
 #include "persistence/design_files.h"
@@ -56,7 +57,7 @@ std::string captionLessPrefix(const GroundDesign& design) {
 
 FileDialog saveDialog(const GroundDesign& design) {
     const Varnmain& main = design.main();
-    FileDialog dialog = projectDialog(main, 1021);
+    FileDialog dialog = projectDialog(main, Text::saveAs);
     dialog.saving = true;
     dialog.overwritePrompt = true;
     if (design.currentFileCheck) dialog.folder = design.directoryName;
@@ -73,7 +74,7 @@ std::optional<std::string> chooseName(GroundDesign& design) {
         const std::string path = absolutePath(main, *chosen);
         main.TempDirectory = folderOf(path);
         if (!isFileInUse(main, path, &design)) return path;
-        warn(main, main.text(1201));
+        warn(main, main.text(Text::fileInUse));
     }
 }
 
@@ -101,8 +102,10 @@ void saveDesignAs(GroundDesign& design) {
 bool saveBeforeClosing(GroundDesign& design) {
     Varnmain& main = design.main();
     const std::string& name = design.FileName.empty() ? design.caption() : design.FileName;
-    const std::string text = main.text(1202) + "\n\n" + name + "\n\n" + main.text(1203);
-    const Answer answer = main.platform().question(Buttons::yesNoCancel, main.text(1205), text);
+    const std::string text =
+        main.text(Text::aboutToClose) + "\n\n" + name + "\n\n" + main.text(Text::saveFileNow);
+    const Answer answer =
+        main.platform().question(Buttons::yesNoCancel, main.text(Text::saveChangesTitle), text);
     if (answer == Answer::cancel) return false;
     if (answer == Answer::no) return true;
     main.saveCancelled = false;

@@ -6,6 +6,7 @@
 
 #include "basis/file_system.h"
 #include "design/ground_design.h"
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 #include "loads/linked_design.h"
 #include "loads/links.h"
@@ -50,10 +51,10 @@ LoadsWindow* loadsWindowFor(LinkedDesign& design, const std::string& path) {
 
 Answer askAboutZones(LinkedDesign& design) {
     Varnmain& main = design.main();
-    const Answer answer =
-        main.platform().question(Buttons::yesNoCancel, main.text(1205), main.text(1206));
+    const Answer answer = main.platform().question(
+        Buttons::yesNoCancel, main.text(Text::saveChangesTitle), main.text(Text::saveLoadsToo));
     if (answer == Answer::cancel) {
-        warn(main, main.text(1207));
+        warn(main, main.text(Text::saveCancelled));
         main.saveCancelled = true;
     }
     return answer;
@@ -63,7 +64,7 @@ void saveZones(LinkedDesign& design, LoadsWindow& loads) {
     loads.zoneSaveCancelled = design.zoneSaveCancelled = false;
     loads.LOSaveCommand_Click();
     if (!loads.hasUnsavedChanges()) return;
-    warn(design.main(), design.text(1207));
+    warn(design.main(), design.text(Text::saveCancelled));
     loads.zoneSaveCancelled = design.zoneSaveCancelled = true;
     design.main().saveCancelled = true;
 }
@@ -73,11 +74,11 @@ void saveZones(LinkedDesign& design, LoadsWindow& loads) {
 bool linkWithFile(LinkedDesign& design, const std::string& path) {
     LoadsWindow* loads = loadsWindowFor(design, path);
     if (loads == nullptr) {
-        warn(design.main(), design.text(8539));
+        warn(design.main(), design.text(Text::loadsWindowInUse));
         return false;
     }
     if (!holdsFile(*loads, path) && !loads->LOOpenZoneFile(path)) {
-        warn(design.main(), design.text(8543) + "\n\n" + path);
+        warn(design.main(), design.text(Text::zoneFileDamaged) + "\n\n" + path);
         return false;
     }
     // The design is about to be shown in the main window's units.
@@ -89,10 +90,10 @@ bool linkWithFile(LinkedDesign& design, const std::string& path) {
 FileDialog zoneFileDialog(const LinkedDesign& design) {
     constexpr int zoneFilesInFilter = 3;
     FileDialog dialog;
-    dialog.title = design.text(2963);
+    dialog.title = design.text(Text::openZoneFileTitle);
     dialog.folder = joinPath(design.main().MainDirectory, "zones");
     dialog.proposedName = design.missingZoneFile();
-    dialog.filter = design.text(2962);
+    dialog.filter = design.text(Text::zoneFileFilter);
     dialog.filterIndex = zoneFilesInFilter;
     return dialog;
 }
@@ -108,7 +109,7 @@ void resolveZoneLink(LinkedDesign& design, bool linkIsStored) {
     if (file.empty() || !linkIsStored) return;
     const std::string path = placeOfZoneFile(design);
     if (path.empty()) {
-        warn(design.main(), design.text(8540) + "\n\n" + file);
+        warn(design.main(), design.text(Text::zoneFileNotFound) + "\n\n" + file);
         design.forgetZoneFile();
         design.setMissingZoneFile(file);
     } else if (!linkWithFile(design, path)) {

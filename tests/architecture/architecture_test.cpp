@@ -16,7 +16,7 @@ namespace {
 const std::map<std::string, int> floors = floorsOfTheHouse();
 
 /// Files that may be longer than the limit, each with its reason.
-const std::set<std::string> longFiles{};
+const std::set<std::string> longFiles{"src/forms/text_numbers.h"};  // one line a text
 constexpr std::size_t longestFile = 500;
 
 /// A file on no floor is not to be included at all.

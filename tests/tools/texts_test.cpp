@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The numbers of display texts in the sources against the English table.
+// The display texts of the English table, their names in the header and the sources that use them.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,6 +12,7 @@
 
 #include "basis/file_system.h"
 #include "basis/text_encoding.h"
+#include "forms/text_numbers.h"
 #include "tools/text_table.h"
 
 namespace varnholt {
@@ -20,17 +21,20 @@ namespace {
 namespace fs = std::filesystem;
 const fs::path sourceFolder = VARNHOLT_SOURCE_DIR "/src";
 const fs::path tableFolder = VARNHOLT_SOURCE_DIR "/resources/language/english";
+const std::string header = "forms/text_numbers.h";
+const std::string windowsHeader = "desktop/widgets/desktop_texts.h";
 
 /// The ranges of texts by subject; 100 to 199 are too small to be told from other numbers.
 constexpr std::pair<int, int> ranges[] = {{1000, 1399}, {1500, 1599},  {2000, 2999}, {3000, 3599},
                                           {4100, 4299}, {4500, 4599},  {5000, 5199}, {8500, 8599},
                                           {9100, 9399}, {32000, 32767}};
 
-/// Whole numbers of the sources that lie in those ranges and mean something else.
-const std::set<std::pair<std::string, int>> otherNumbers{
-    {"design/pipe_tab.cpp", 1000}};  // widest pipe, in
+/// Texts that nothing shows, each with its reason.
+const std::set<int> shownNowhere{
+    // A dropped file that is neither a project nor a zone file is passed over without a word.
+    Text::cannotOpenFile};
 
-bool isTextNumber(int number) {
+bool isInRanges(int number) {
     return std::any_of(std::begin(ranges), std::end(ranges), [&](const auto& range) {
         return range.first <= number && number <= range.second;
     });
@@ -42,55 +46,109 @@ std::string codeOf(const fs::path& file) {
     return std::regex_replace(readWholeFile(file), notCode, "");
 }
 
-std::vector<int> numbersIn(const std::string& code, const std::regex& pattern) {
-    std::vector<int> numbers;
+/// The code of every source but the header of the names, by its path below the folder of sources.
+const std::map<std::string, std::string>& sources() {
+    static const std::map<std::string, std::string> codes = [] {
+        std::map<std::string, std::string> read;
+        for (const auto& entry : fs::recursive_directory_iterator(sourceFolder)) {
+            const fs::path& file = entry.path();
+            const std::string path = fs::relative(file, sourceFolder);
+            if ((file.extension() == ".cpp" || file.extension() == ".h") && path != header)
+                read.emplace(path, codeOf(file));
+        }
+        return read;
+    }();
+    return codes;
+}
+
+/// A number of three to five digits that is no part of a word or of a longer number.
+const std::regex wholeNumber(R"((?:^|[^\w.'])(\d{3,5})(?![\w.']))");
+
+/// What the groups of a pattern match, in the order of the code.
+std::vector<std::string> matchesIn(const std::string& code, const std::regex& pattern) {
+    std::vector<std::string> found;
     for (auto i = std::sregex_iterator(code.begin(), code.end(), pattern);
          i != std::sregex_iterator(); ++i)
         for (std::size_t group = 1; group < i->size(); ++group)
-            if ((*i)[group].matched) numbers.push_back(std::stoi((*i)[group]));
+            if ((*i)[group].matched) found.push_back((*i)[group]);
+    return found;
+}
+
+using Names = std::map<std::string, int>;
+
+/// The names that a header gives to numbers.
+Names namesIn(const std::string& code) {
+    static const std::regex line(R"(constexpr int (\w+) = (\d+);)");
+    const std::vector<std::string> parts = matchesIn(code, line);
+    Names names;
+    for (std::size_t i = 0; i + 1 < parts.size(); i += 2)
+        names.emplace(parts[i], std::stoi(parts[i + 1]));
+    return names;
+}
+
+const Names& names() {
+    static const Names all = namesIn(codeOf(sourceFolder / header));
+    return all;
+}
+
+const Names& namesOfWindows() {
+    static const Names all = namesIn(sources().at(windowsHeader));
+    return all;
+}
+
+/// The numbers of the texts whose names stand in the code. addCombo(..., first, last) takes its
+/// entries from the first text to the last one.
+std::set<int> numbersNamedIn(const std::string& code, const Names& known) {
+    static const std::regex name(R"(\bText::(\w+))");
+    static const std::regex combo(R"(addCombo\([^;]*?Text::(\w+),\s*Text::(\w+)\))");
+    std::set<int> numbers;
+    for (const std::string& used : matchesIn(code, name))
+        if (known.count(used) > 0) numbers.insert(known.at(used));
+    const std::vector<std::string> ends = matchesIn(code, combo);
+    for (std::size_t i = 0; i + 1 < ends.size(); i += 2)
+        for (int number = known.at(ends[i]); number <= known.at(ends[i + 1]); ++number)
+            numbers.insert(number);
     return numbers;
 }
 
-/// addCombo(..., first, last) fetches its entries by two numbers and all between them.
-std::vector<int> textsOfCombos(const std::string& code) {
-    static const std::regex combo(R"(addCombo\([^;]*?(\d{4}),\s*(\d{4})\))");
-    const std::vector<int> ends = numbersIn(code, combo);
-    std::vector<int> between;
-    for (std::size_t i = 0; i + 1 < ends.size(); i += 2)
-        for (int number = ends[i]; number <= ends[i + 1]; ++number) between.push_back(number);
-    return between;
-}
+/// The windows fetch texts by number, or by the names of a header of their own.
+bool callsTextsByNumber(const std::string& path) { return path.starts_with("desktop/"); }
 
-/// Texts are fetched by text(N), or by a constant that is named for its text. Forms also hold
-/// their numbers in tables and calls of their own, so there every whole number in the ranges is
-/// taken for a text.
-std::vector<int> textsUsedIn(const std::string& path, const std::string& code) {
+/// The numbers that the code fetches or holds by a constant that is named for its text.
+std::set<int> numbersFetchedIn(const std::string& code) {
     static const std::regex fetched(
-        R"(\b(?:text|picture|GetResourceText|GetResourceImage)\((\d+)|Text = (\d+);)");
-    static const std::regex whole(R"((?:^|[^\w.'])(\d{4,5})(?![\w.']))");
-    const bool knowsTexts = (!path.starts_with("desktop/") || path.ends_with("_texts.h")) &&
-                            !path.starts_with("design/modCalculations/") &&
-                            !path.starts_with("basis/") && path != "tools/locales.cpp";
-    std::vector<int> used = numbersIn(code, fetched);
-    if (!knowsTexts) return used;
-    const std::vector<int> entries = textsOfCombos(code);
-    used.insert(used.end(), entries.begin(), entries.end());
-    for (const int number : numbersIn(code, whole))
-        if (isTextNumber(number) && otherNumbers.count({path, number}) == 0) used.push_back(number);
-    return used;
+        R"(\b(?:text|picture|GetResourceText|GetResourceImage)(\((?:[^()]|\([^()]*\))*\)))");
+    static const std::regex constant(R"([tT]ext = (\d{3,5})\b)");
+    std::set<int> numbers;
+    for (const std::string& arguments : matchesIn(code, fetched))
+        for (const std::string& number : matchesIn(arguments, wholeNumber))
+            numbers.insert(std::stoi(number));
+    for (const std::string& number : matchesIn(code, constant)) numbers.insert(std::stoi(number));
+    return numbers;
 }
 
-/// Where each number is used.
-std::map<int, std::string> usedTexts() {
-    static std::map<int, std::string> used;
-    if (!used.empty()) return used;
-    for (const auto& entry : fs::recursive_directory_iterator(sourceFolder)) {
-        const fs::path& file = entry.path();
-        if (file.extension() != ".cpp" && file.extension() != ".h") continue;
-        const std::string path = fs::relative(file, sourceFolder);
-        for (const int number : textsUsedIn(path, codeOf(file))) used.emplace(number, path);
-    }
-    return used;
+/// The texts of a window's code, by number or by a name of the windows' header.
+std::set<int> numbersOfWindow(const std::string& code, const Names& known) {
+    static const std::regex name(R"(\bdesktop_texts::(\w+))");
+    std::set<int> numbers = numbersFetchedIn(code);
+    for (const std::string& used : matchesIn(code, name))
+        if (known.count(used) > 0) numbers.insert(known.at(used));
+    return numbers;
+}
+
+/// Forms hold the texts of their controls in tables and calls of their own: there every whole
+/// number in the ranges is taken for one.
+bool holdsTables(const std::string& path) {
+    return !path.starts_with("design/modCalculations/") && !path.starts_with("basis/");
+}
+
+/// Numbers of texts that stand in the code as numbers: fetched, kept or in a table.
+std::vector<int> rawTextsIn(const std::string& path, const std::string& code) {
+    std::set<int> raw = numbersFetchedIn(code);
+    if (holdsTables(path))
+        for (const std::string& number : matchesIn(code, wholeNumber))
+            if (isInRanges(std::stoi(number))) raw.insert(std::stoi(number));
+    return {raw.begin(), raw.end()};
 }
 
 std::map<std::string, TextTable> tables() {
@@ -110,31 +168,83 @@ std::map<int, std::string> tableNumbers() {
     return numbers;
 }
 
-TEST(Texts, TheScanFindsTheIdiomsOfTheSources) {
-    const auto used = [](const std::string& path, const std::string& code) {
-        return textsUsedIn(path, code);
+TEST(Texts, TheScanFindsNumbersThatStandForTexts) {
+    const auto raw = [](const std::string& path, const std::string& code) {
+        return rawTextsIn(path, code);
     };
     using Numbers = std::vector<int>;
-    EXPECT_EQ(used("frame/a.cpp", "show(icon, text(1001) + x);"), (Numbers{1001, 1001}));
-    EXPECT_EQ(used("frame/a.cpp", "{, , 2701, , &p},"), Numbers{2701});
-    EXPECT_EQ(used("frame/a.cpp", "add(, label,\n 1012);"), Numbers{1012});
-    EXPECT_EQ(used("frame/a.cpp", "x = 1012.5; y = a1012; z = 0x1012; w = 14281207;"), Numbers{});
-    EXPECT_EQ(used("desktop/a.cpp", "resize(1200, 800); text(1020);"), Numbers{1020});
-    EXPECT_EQ(used("catalogue/a.cpp", "constexpr int addressText = 108;"), Numbers{108});
-    EXPECT_EQ(used("design/a.cpp", "addCombo(, ,\n , 2210, 2224, 2226);"),
-              (Numbers{2224, 2225, 2226, 2210, 2224, 2226}));
+    EXPECT_EQ(raw("frame/a.cpp", "show(icon, text(1001) + x);"), Numbers{1001});
+    EXPECT_EQ(raw("frame/a.cpp", "main.text(isNew(a) ? 1020 : 1021);"), (Numbers{1020, 1021}));
+    EXPECT_EQ(raw("frame/a.cpp", "{, , 2701, , &p},"), Numbers{2701});
+    EXPECT_EQ(raw("frame/a.cpp", "add(, label,\n 1012);"), Numbers{1012});
+    EXPECT_EQ(raw("frame/a.cpp", "x = 1012.5; y = a1012; z = 0x1012; w = 14281207;"), Numbers{});
+    EXPECT_EQ(raw("frame/a.cpp", "text(Text::save); setRange(0, 100); f(10000);"), Numbers{});
+    EXPECT_EQ(raw("catalogue/a.cpp", "constexpr int addressText = 108;"), Numbers{108});
+    EXPECT_EQ(raw("design/modCalculations/a.cpp", "return 3150;"), Numbers{});
+    EXPECT_EQ(raw("design/modCalculations/a.cpp", "return text(3150);"), Numbers{3150});
 }
 
-TEST(Texts, EveryNumberUsedExists) {
-    const std::map<int, std::string> table = tableNumbers();
-    for (const auto& [number, path] : usedTexts())
-        EXPECT_EQ(table.count(number), 1u) << "text " << number << ", used in " << path;
+TEST(Texts, TheScanFindsTheNamesOfTexts) {
+    const Names known = namesIn(
+        "constexpr int water = 2224;\nconstexpr int glycol = 2225;\n"
+        "constexpr int methanol = 2226;\nconstexpr int fluid = 2210;\n");
+    ASSERT_EQ(known.size(), 4u);
+    EXPECT_EQ(numbersNamedIn("text(Text::water) + text(MyText::glycol)", known),
+              (std::set<int>{2224}));
+    EXPECT_EQ(
+        numbersNamedIn("addCombo(, ,\n , Text::fluid, Text::water,\n Text::methanol);", known),
+        (std::set<int>{2210, 2224, 2225, 2226}));
 }
 
-TEST(Texts, EveryTextIsUsed) {
-    const std::map<int, std::string> used = usedTexts();
+TEST(Texts, TheScanFindsTheTextsOfAWindow) {
+    const Names known = namesIn("constexpr int tile = 1354;\nconstexpr int cascade = 1355;\n");
+    EXPECT_EQ(numbersOfWindow("resize(1200, 800); text(isMetric ? 2879 : 2880);", known),
+              (std::set<int>{2879, 2880}));
+    EXPECT_EQ(numbersOfWindow("text(desktop_texts::tile); int cascade;", known),
+              std::set<int>{1354});
+}
+
+TEST(Texts, EveryTextHasAName) {
+    std::set<int> named;
+    for (const auto& [name, number] : names())
+        EXPECT_TRUE(named.insert(number).second) << name << " is a second name of " << number;
     for (const auto& [number, file] : tableNumbers())
-        EXPECT_EQ(used.count(number), 1u) << "text " << number << " of " << file;
+        EXPECT_EQ(named.count(number), 1u) << "text " << number << " of " << file;
+}
+
+TEST(Texts, EveryNameHasAText) {
+    ASSERT_FALSE(names().empty());
+    const std::map<int, std::string> table = tableNumbers();
+    for (const auto& [name, number] : names())
+        EXPECT_EQ(table.count(number), 1u) << "Text::" << name << ", text " << number;
+}
+
+TEST(Texts, EveryTextOfAWindowExists) {
+    const std::map<int, std::string> table = tableNumbers();
+    for (const auto& [path, code] : sources()) {
+        if (!callsTextsByNumber(path)) continue;
+        for (const int number : numbersOfWindow(code, namesOfWindows()))
+            EXPECT_EQ(table.count(number), 1u) << "text " << number << ", used in " << path;
+    }
+}
+
+TEST(Texts, EveryNameIsUsed) {
+    std::set<int> used;
+    for (const auto& [path, code] : sources()) {
+        used.merge(numbersNamedIn(code, names()));
+        if (callsTextsByNumber(path)) used.merge(numbersOfWindow(code, namesOfWindows()));
+    }
+    for (const auto& [name, number] : names())
+        EXPECT_NE(used.count(number), shownNowhere.count(number)) << "Text::" << name;
+}
+
+TEST(Texts, NoFormHoldsATextByItsNumber) {
+    ASSERT_FALSE(sources().empty());
+    for (const auto& [path, code] : sources()) {
+        if (callsTextsByNumber(path)) continue;
+        for (const int number : rawTextsIn(path, code))
+            ADD_FAILURE() << "text " << number << " in " << path;
+    }
 }
 
 TEST(Texts, StandInOneFileEach) {
@@ -147,7 +257,7 @@ TEST(Texts, StandInOneFileEach) {
 
 TEST(Texts, HaveNumbersOfTheRanges) {
     for (const auto& [number, file] : tableNumbers())
-        EXPECT_TRUE(isTextNumber(number) || (100 <= number && number <= 199))
+        EXPECT_TRUE(isInRanges(number) || (100 <= number && number <= 199))
             << number << " in " << file;
 }
 
@@ -162,7 +272,7 @@ TEST(Texts, AreUtf8WithoutBlanksAtTheirEnds) {
 TEST(Texts, TheFontOfTheLanguageAloneIsEmpty) {
     for (const auto& [file, table] : tables())
         for (const auto& [number, text] : table.texts())
-            EXPECT_EQ(text.empty(), number == 1101) << number << " in " << file;
+            EXPECT_EQ(text.empty(), number == Text::languageFont) << number << " in " << file;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // The controls of the loads windows, in their reading order; fields stand with their frames.
 #include <string>
 
+#include "forms/text_numbers.h"
 #include "loads/modLoads/zone_window.h"
 
 namespace varnholt {
@@ -15,12 +16,18 @@ struct CommandRow {
 };
 
 constexpr CommandRow commandBar[] = {
-    {"LONewCommand", 2950, 2801, false},          {"LOCopyCommand", 2951, 2802, true},
-    {"LORemoveCommand", 2952, 2803, true},        {"LORenumberCommand", 2953, 2804, true},
-    {"LOClearCommand", 2954, 2805, false},        {"LOSummaryCommand", 2955, 2806, true},
-    {"LOOpenCommand", 2956, 2807, false},         {"LOSaveCommand", 2957, 2808, false},
-    {"LOPrintCommand", 2958, 1010, false},        {"LOImportCommand", 2959, 1501, false},
-    {"LOAutoSelectAllCommand", 2960, 2809, true}, {"LOUpdatePumpsCommand", 2961, 2810, false},
+    {"LONewCommand", Text::newZone, Text::newZoneTip, false},
+    {"LOCopyCommand", Text::copyZone, Text::copyZoneTip, true},
+    {"LORemoveCommand", Text::removeZone, Text::removeZoneTip, true},
+    {"LORenumberCommand", Text::renumberZones, Text::renumberZonesTip, true},
+    {"LOClearCommand", Text::clearZones, Text::clearZonesTip, false},
+    {"LOSummaryCommand", Text::showSummary, Text::showSummaryTip, true},
+    {"LOOpenCommand", Text::openZones, Text::openZonesTip, false},
+    {"LOSaveCommand", Text::saveZones, Text::saveZonesTip, false},
+    {"LOPrintCommand", Text::printZones, Text::printTip, false},
+    {"LOImportCommand", Text::importLoads, Text::importLoadsTip, false},
+    {"LOAutoSelectAllCommand", Text::autoSelectAll, Text::autoSelectAllTip, true},
+    {"LOUpdatePumpsCommand", Text::updatePumps, Text::updatePumpsTip, false},
 };
 
 }  // namespace
@@ -28,7 +35,9 @@ constexpr CommandRow commandBar[] = {
 void ZoneWindow::addControls() {
     addCommandBar();
     addNotice();
-    add("tabLoads", ControlKind::tabs).setItems({text(2811), text(1012)}).setIndex(0);
+    add("tabLoads", ControlKind::tabs)
+        .setItems({text(Text::zonesPage), text(Text::pumpsHeading)})
+        .setIndex(0);
     addZonePanel();
     addHeatPumpTab();
 }
@@ -41,7 +50,7 @@ void ZoneWindow::addCommandBar() {
                 .setEnabled(false);
     control("LONewCommand").setEnabled(true);
     control("LOOpenCommand").setEnabled(true);
-    add("MetricCheck", ControlKind::check, 2813);
+    add("MetricCheck", ControlKind::check, Text::loadsMetricSwitch);
     for (const std::size_t light : {0, 8, 6})
         add(elementName("imgLinkLight", light), ControlKind::image).setVisible(light == 6);
     add("LOWorkingZoneLabel", ControlKind::label);
@@ -52,44 +61,47 @@ void ZoneWindow::addZonePanel() {
     add("LOZoneFrame", ControlKind::frame).setVisible(false);
     addLoadsFrame();
     addSpecificationsFrame();
-    add("LOSelectCommand", ControlKind::button, 2835).in("LOZoneFrame");
-    if (kind_.listsZones) add("LOAutoSelectCommand", ControlKind::button, 2834).in("LOZoneFrame");
-    add("LODetailsCommand", ControlKind::button, 2851).in("LOZoneFrame");
-    add("LOClearPumpsCommand", ControlKind::button, 2833).in("LOZoneFrame");
-    add("LOCustomPumpCheck", ControlKind::check, 2864).in("LOZoneFrame");
+    add("LOSelectCommand", ControlKind::button, Text::selectPump).in("LOZoneFrame");
+    if (kind_.listsZones)
+        add("LOAutoSelectCommand", ControlKind::button, Text::autoSelectPump).in("LOZoneFrame");
+    add("LODetailsCommand", ControlKind::button, Text::pumpDetails).in("LOZoneFrame");
+    add("LOClearPumpsCommand", ControlKind::button, Text::clearPump).in("LOZoneFrame");
+    add("LOCustomPumpCheck", ControlKind::check, Text::customPump).in("LOZoneFrame");
     addSelectFrame();
     addDetailsFrame();
 }
 
 void ZoneWindow::addSelectFrame() {
     const std::string frame = "LOSelectFrame";
-    add(frame, ControlKind::frame, 2849).in("LOZoneFrame").setVisible(false);
-    add("LOMfgLabel", ControlKind::label, 2858).in(frame);
+    add(frame, ControlKind::frame, Text::heatPumpSpecifications)
+        .in("LOZoneFrame")
+        .setVisible(false);
+    add("LOMfgLabel", ControlKind::label, Text::manufacturer).in(frame);
     add("LOMfgCombo", ControlKind::combo).in(frame);
-    add("LOSeriesLabel", ControlKind::label, 2859).in(frame);
+    add("LOSeriesLabel", ControlKind::label, Text::series).in(frame);
     add("LOSeriesCombo", ControlKind::combo).in(frame);
-    add("LOPumpNameComboLabel", ControlKind::label, 2868).in(frame);
+    add("LOPumpNameComboLabel", ControlKind::label, Text::model).in(frame);
     add("LOPumpNameCombo", ControlKind::combo).in(frame);
-    add("LONumberOfUnitsLabel(0)", ControlKind::label, 2852).in(frame);
+    add("LONumberOfUnitsLabel(0)", ControlKind::label, Text::numberOfUnits).in(frame);
     add("LONumberOfUnitsText(0)", ControlKind::text).in(frame).setText(kind_.firstUnits);
-    add("LOSelectPumpCommand", ControlKind::button, 2853).in(frame);
-    add("LOCancelCommand", ControlKind::button, 2861).in(frame);
+    add("LOSelectPumpCommand", ControlKind::button, Text::takeSelectedPump).in(frame);
+    add("LOCancelCommand", ControlKind::button, Text::cancelSelection).in(frame);
 }
 
 void ZoneWindow::addDetailsFrame() {
     const std::string frame = "LODetailsFrame";
-    add(frame, ControlKind::frame, 2867).in("LOZoneFrame").setVisible(false);
-    constexpr int captionTexts[] = {2858, 2859, 2860};
+    add(frame, ControlKind::frame, Text::heatPumpDetails).in("LOZoneFrame").setVisible(false);
+    constexpr int captionTexts[] = {Text::manufacturer, Text::series, Text::pumpType};
     for (std::size_t i = 0; i < 3; ++i) {
         add(elementName("LODetailsLabel", i), ControlKind::label, captionTexts[i]).in(frame);
         add(elementName("LODetailsTextLabel", i), ControlKind::label).in(frame);
     }
-    addLoadSideFrame("LOInletAirFrame", 2855, 0);
-    addLoadSideFrame("LOInletWaterFrame", 2856, 2);
-    add("LONominalFlowLabel", ControlKind::label, 2857).in(frame);
+    addLoadSideFrame("LOInletAirFrame", Text::loadSideAir, 0);
+    addLoadSideFrame("LOInletWaterFrame", Text::loadSideWater, 2);
+    add("LONominalFlowLabel", ControlKind::label, Text::nominalFlow).in(frame);
     add("LONominalFlowText", ControlKind::text).in(frame).setLocked(true);
     add("LONominalFlowUnitLabel", ControlKind::label).in(frame);
-    add("LOReturnCommand", ControlKind::button, 2854).in(frame);
+    add("LOReturnCommand", ControlKind::button, Text::returnToZone).in(frame);
 }
 
 void ZoneWindow::addHeatPumpTab() {
@@ -99,14 +111,14 @@ void ZoneWindow::addHeatPumpTab() {
 
 void ZoneWindow::addCatalogueFrame() {
     const std::string frame = "HPCatalogueFrame";
-    add(frame, ControlKind::frame, 2893);
-    add("HPManufacturerLabel", ControlKind::label, 2858).in(frame);
+    add(frame, ControlKind::frame, Text::heatPumpCatalogue);
+    add("HPManufacturerLabel", ControlKind::label, Text::manufacturer).in(frame);
     add("HPManufacturerCombo", ControlKind::combo).in(frame);
-    add("HPSeriesLabel", ControlKind::label, 2859).in(frame);
+    add("HPSeriesLabel", ControlKind::label, Text::series).in(frame);
     add("HPSeriesCombo", ControlKind::combo).in(frame);
-    add("HPPumpListLabel", ControlKind::label, 2892).in(frame);
+    add("HPPumpListLabel", ControlKind::label, Text::pumpsOfSeries).in(frame);
     add("HPPumpList", ControlKind::list).in(frame);
-    add("LOPumpChart", ControlKind::image, 2947).in(frame);
+    add("LOPumpChart", ControlKind::image, Text::pumpChart).in(frame);
 }
 
 }  // namespace varnholt

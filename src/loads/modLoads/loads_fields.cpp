@@ -8,6 +8,7 @@
 #include "basis/number_text.h"
 #include "basis/run_time_error.h"
 #include "basis/units.h"
+#include "forms/text_numbers.h"
 #include "loads/modLoads/zone_window.h"
 
 namespace varnholt {
@@ -19,9 +20,10 @@ constexpr double mostLoadFlow = 1000000;                // cfm or gpm
 constexpr ByMode<double> defaultInletTemp{85, 50};
 constexpr ByMode<double> defaultAirTemp{67, 70};
 constexpr ByMode<double> defaultWaterTemp{55, 100};
-constexpr ByMode<int> modeTexts{2839, 2840};
-constexpr std::array<int, timeBlocks> timeTexts{2824, 2825, 2826, 2827};
-constexpr UnitTexts degrees{2880, 2879};
+constexpr ByMode<int> modeTexts{Text::cooling, Text::heating};
+constexpr std::array<int, timeBlocks> timeTexts{Text::blockEightToNoon, Text::blockNoonToFour,
+                                                Text::blockFourToEight, Text::blockEightToEight};
+constexpr UnitTexts degrees{Text::temperatureUnitsEnglish, Text::temperatureUnitsMetric};
 
 /// Cooling's COP is shown as an EER in English units.
 const Quantity energyEfficiency{
@@ -64,18 +66,18 @@ void ZoneWindow::setFieldManner() {
 
 void ZoneWindow::addLoadsFrame() {
     const std::string frame = "LODesignLoadsFrame";
-    add(frame, ControlKind::frame, 2832).in("LOZoneFrame");
-    add("LOZoneReferenceLabel", ControlKind::label, 2850).in(frame);
+    add(frame, ControlKind::frame, Text::loadingInformation).in("LOZoneFrame");
+    add("LOZoneReferenceLabel", ControlKind::label, Text::referenceLabel).in(frame);
     add("LOZoneReferenceText", ControlKind::text)
         .in(frame)
         .captionedBy("LOZoneReferenceLabel")
         .helpedBy("loads#zone");
-    add("LOLoadsLabel(0)", ControlKind::label, 2818).in(frame);
-    add("LOTimeOfDayLabel", ControlKind::label, 2819).in(frame);
+    add("LOLoadsLabel(0)", ControlKind::label, Text::designDayLoads).in(frame);
+    add("LOTimeOfDayLabel", ControlKind::label, Text::timeOfDay).in(frame);
     addGainsFields();
-    add("LOLoadsChart", ControlKind::image, 2945).in(frame);
+    add("LOLoadsChart", ControlKind::image, Text::zoneDayChart).in(frame);
     addHoursFields();
-    add("LOEqvHoursCommand", ControlKind::button, 2831).in(frame);
+    add("LOEqvHoursCommand", ControlKind::button, Text::calculateHours).in(frame);
 }
 
 /// Heat gains in the fields 0 to 3, heat losses in 4 to 7.
@@ -84,7 +86,7 @@ void ZoneWindow::addGainsFields() {
     const std::string frame = "LODesignLoadsFrame";
     const ByMode<std::string> labels{"LOHeatGainsLabel", "LOHeatLossesLabel"};
     const ByMode<std::string> units{"LOHeatGainsUnitLabel", "LOHeatLossesUnitLabel"};
-    const ByMode<int> captions{2820, 2821};
+    const ByMode<int> captions{Text::heatGains, Text::heatLosses};
     for (const Mode m : modes) {
         add(labels[m], ControlKind::label, captions[m]).in(frame);
         add(units[m], ControlKind::label).in(frame);
@@ -100,7 +102,7 @@ void ZoneWindow::addGainsFields() {
                       .beside = {.frame = frame,
                                  .label = labels[m],
                                  .unitLabel = units[m],
-                                 .unit = {2822, 2823},
+                                 .unit = {Text::loadUnitsEnglish, Text::loadUnitsMetric},
                                  .help = "loads#zone",
                                  .distinction = timeTexts[block]}});
     }
@@ -127,22 +129,22 @@ void ZoneWindow::addHoursFields() {
          .fallback = 7,
          .beside = {.frame = "LODesignLoadsFrame",
                     .label = "LODaysperWeekLabel",
-                    .caption = {2830, 2830},
+                    .caption = {Text::daysOccupiedPerWeek, Text::daysOccupiedPerWeek},
                     .help = "loads#zone"},
          .unparsable = -1});
 }
 
 void ZoneWindow::addSpecificationsFrame() {
     const std::string frame = "LOSpecificationsFrame";
-    add(frame, ControlKind::frame, 2849).in("LOZoneFrame");
+    add(frame, ControlKind::frame, Text::heatPumpSpecifications).in("LOZoneFrame");
     add("LOPumpNameLabel", ControlKind::label, kind_.pumpNameText).in(frame);
     add("LOPumpNameText", ControlKind::text)
         .in(frame)
         .captionedBy("LOPumpNameLabel")
         .helpedBy("loads#pump");
     addUnitsField();
-    add("LOCoolingLabel", ControlKind::label, 2839).in(frame);
-    add("LOHeatingLabel", ControlKind::label, 2840).in(frame);
+    add("LOCoolingLabel", ControlKind::label, Text::cooling).in(frame);
+    add("LOHeatingLabel", ControlKind::label, Text::heating).in(frame);
     addFigureFields();
 }
 
@@ -157,9 +159,9 @@ void ZoneWindow::addUnitsField() {
               .format = "###0",
               .beside = {.frame = "LOSpecificationsFrame",
                          .label = "LONumberOfUnitsLabel(1)",
-                         .caption = {2838, 2838},
+                         .caption = {Text::numberOfUnitsSign, Text::numberOfUnitsSign},
                          .help = "loads#pump",
-                         .accessible = 2852},
+                         .accessible = Text::numberOfUnits},
               .changed = [this] { showUnitsToSelect(); }});
 }
 
@@ -177,11 +179,36 @@ void ZoneWindow::addFigureFields() {
     const Quantity* plain = &quantities::plain;
     const Quantity* flow = &quantities::waterFlow;
     const Figure figures[] = {
-        {"LOCapacity", {2842, 2841}, &MiniPump::capacity, {load, load}, "###0.0", {}},
-        {"LOPower", {2843, 2843}, &MiniPump::watts, {plain, plain}, "###0.00", {}},
-        {"LOCOP", {2845, 2844}, &MiniPump::efficiency, {&energyEfficiency, plain}, "###0.0", {}},
-        {"LOFlowRate", {2847, 2846}, &MiniPump::flowRate, {flow, flow}, "###0.0", {}},
-        {"LOPLF", {2848, 2848}, &MiniPump::plf, {plain, plain}, "###0.00", 1},
+        {"LOCapacity",
+         {Text::zonePumpCapacityEnglish, Text::zonePumpCapacityMetric},
+         &MiniPump::capacity,
+         {load, load},
+         "###0.0",
+         {}},
+        {"LOPower",
+         {Text::zonePumpPower, Text::zonePumpPower},
+         &MiniPump::watts,
+         {plain, plain},
+         "###0.00",
+         {}},
+        {"LOCOP",
+         {Text::zonePumpCopEnglish, Text::zonePumpCopMetric},
+         &MiniPump::efficiency,
+         {&energyEfficiency, plain},
+         "###0.0",
+         {}},
+        {"LOFlowRate",
+         {Text::zonePumpFlowRateEnglish, Text::zonePumpFlowRateMetric},
+         &MiniPump::flowRate,
+         {flow, flow},
+         "###0.0",
+         {}},
+        {"LOPLF",
+         {Text::partialLoadFactor, Text::partialLoadFactor},
+         &MiniPump::plf,
+         {plain, plain},
+         "###0.00",
+         1},
     };
     const ZoneOnDisplay zone{[this] { return shownZone(); }, [this] { return editShownZone(); }};
     for (const Figure& figure : figures)
@@ -230,26 +257,29 @@ void ZoneWindow::addLoadSideFields(const std::string& frame, std::size_t first) 
                   .lowest = coldestWater,
                   .highest = hottestWater,
                   .fallback = air ? defaultAirTemp[m] : defaultWaterTemp[m],
-                  .beside = beside("LOInletLoadsTemp", 2889, degrees, m)});
+                  .beside = beside("LOInletLoadsTemp", Text::loadSideTemperature, degrees, m)});
     for (const Mode m : modes)
         addField({.control = elementName("LOInletLoadsFlowText", first + m),
                   .stored = ofPump(zone, &MiniPump::elf, m),
                   .quantity = air ? &quantities::airFlow : &quantities::waterFlow,
                   .highest = mostLoadFlow,
                   .format = air ? "###0" : "###0.0",
-                  .beside = beside("LOInletLoadsFlow", 2890,
-                                   air ? UnitTexts{2874, 2873} : UnitTexts{2878, 2877}, m)});
+                  .beside = beside(
+                      "LOInletLoadsFlow", Text::loadSideFlow,
+                      air ? UnitTexts{Text::airFlowUnitsEnglish, Text::airFlowUnitsMetric}
+                          : UnitTexts{Text::waterFlowUnitsEnglish, Text::waterFlowUnitsMetric},
+                      m)});
 }
 
 void ZoneWindow::addConditionsFrame() {
     const std::string frame = "HPDesignFrame";
-    add(frame, ControlKind::frame, 2891);
-    add("HPCoolingLabel", ControlKind::label, 2839).in(frame);
-    add("HPHeatingLabel", ControlKind::label, 2840).in(frame);
+    add(frame, ControlKind::frame, Text::designConditions);
+    add("HPCoolingLabel", ControlKind::label, Text::cooling).in(frame);
+    add("HPHeatingLabel", ControlKind::label, Text::heating).in(frame);
     addTemperatureFields();
     addFlowField();
-    add("HPInletAirFrame", ControlKind::frame, 2885).in(frame);
-    add("HPInletWaterFrame", ControlKind::frame, 2886).in(frame);
+    add("HPInletAirFrame", ControlKind::frame, Text::inletAirTemperatures).in(frame);
+    add("HPInletWaterFrame", ControlKind::frame, Text::enteringWaterTemperatures).in(frame);
     for (std::size_t i = 0; i < 4; ++i)
         addLoadTempField(i < 2 ? "HPInletAirFrame" : "HPInletWaterFrame", i);
 }
@@ -264,30 +294,33 @@ void ZoneWindow::addTemperatureFields() {
                   .fallback = defaultInletTemp[m],
                   .beside = {.frame = "HPDesignFrame",
                              .label = "LOInletTempLabel",
-                             .caption = {2870, 2869},
+                             .caption = {Text::sourceInletTemperatureEnglish,
+                                         Text::sourceInletTemperatureMetric},
                              .help = "loads#conditions",
                              .distinction = modeTexts[m]},
                   .left = [this, m] { takeFreezingPoint(m); }});
 }
 
 void ZoneWindow::addFlowField() {
-    addField({.control = "FLFlowRateText",
-              .stored = &designConditions().flowRate,
-              .quantity = &quantities::waterFlow,
-              .highest = 212,
-              .fallback = 3,
-              .beside = {.frame = "HPDesignFrame",
-                         .label = "FLFlowRateLabel",
-                         .caption = {2871, 2871},
-                         .unitLabel = "FLFlowRateUnitLabel",
-                         .unit = {2876, 2872},
-                         .help = "loads#conditions"},
-              .lowestIsRefused = true});
+    addField(
+        {.control = "FLFlowRateText",
+         .stored = &designConditions().flowRate,
+         .quantity = &quantities::waterFlow,
+         .highest = 212,
+         .fallback = 3,
+         .beside = {.frame = "HPDesignFrame",
+                    .label = "FLFlowRateLabel",
+                    .caption = {Text::sourceFlowRate, Text::sourceFlowRate},
+                    .unitLabel = "FLFlowRateUnitLabel",
+                    .unit = {Text::sourceFlowRateUnitsEnglish, Text::sourceFlowRateUnitsMetric},
+                    .help = "loads#conditions"},
+         .lowestIsRefused = true});
 }
 
 /// Cooling and heating with air in the fields 0 and 1, with water in 2 and 3.
 void ZoneWindow::addLoadTempField(const std::string& frame, std::size_t index) {
-    constexpr int captions[] = {2888, 2887, 2839, 2840};
+    constexpr int captions[] = {Text::coolingWetBulb, Text::heatingDryBulb, Text::cooling,
+                                Text::heating};
     DesignConditions& conditions = designConditions();
     const bool air = index < 2;
     const std::size_t m = index % 2;

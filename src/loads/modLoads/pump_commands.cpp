@@ -6,6 +6,7 @@
 #include "basis/number_text.h"
 #include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
+#include "forms/text_numbers.h"
 #include "loads/modLoads/zone_window.h"
 
 namespace varnholt {
@@ -96,14 +97,18 @@ void ZoneWindow::showDetails(const MiniPump& shown) {
     const bool metric = units() == UnitSystem::metric;
     element("LODetailsTextLabel", 0).setCaption(shown.mfgName);
     element("LODetailsTextLabel", 1).setCaption(shown.seriesName);
-    element("LODetailsTextLabel", 2).setCaption(text(custom ? 2864 : air ? 2865 : 2866));
+    element("LODetailsTextLabel", 2)
+        .setCaption(text(custom ? Text::customPump
+                         : air  ? Text::waterToAir
+                                : Text::waterToWater));
     control("LOInletAirFrame").setVisible(air);
     control("LOInletWaterFrame").setVisible(!air);
     for (const char* field : detailFields) fields().showAll(field);
     const Quantity& flow = air ? quantities::airFlow : quantities::waterFlow;
     control("LONominalFlowText")
         .setText(formatNumber(flow.shown(shown.nominalFlow, units()), air ? "###0" : "###0.0"));
-    const int unitText = air ? (metric ? 2873 : 2874) : (metric ? 2877 : 2878);
+    const int unitText = air ? (metric ? Text::airFlowUnitsMetric : Text::airFlowUnitsEnglish)
+                             : (metric ? Text::waterFlowUnitsMetric : Text::waterFlowUnitsEnglish);
     control("LONominalFlowUnitLabel").setCaption(text(unitText));
 }
 
@@ -194,7 +199,8 @@ void ZoneWindow::restoreActiveSeries(SeriesSlot slot) {
 }
 
 void ZoneWindow::tellSeriesMissing(const Zone& zone) {
-    show(MessageIcon::exclamation, text(2815) + " " + numberOfZone(zone) + " " + text(2875));
+    show(MessageIcon::exclamation,
+         text(Text::zone) + " " + numberOfZone(zone) + " " + text(Text::pumpNoLongerListed));
 }
 
 }  // namespace varnholt

@@ -5,6 +5,7 @@
 #include "basis/number_text.h"
 #include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 #include "loads/modLoads/zone_window.h"
 
@@ -51,17 +52,17 @@ Zone* ZoneWindow::editShownZone() {
 }
 
 std::string ZoneWindow::nameOfZone(std::size_t number) const {
-    return text(2815) + " " + std::to_string(number);
+    return text(Text::zone) + " " + std::to_string(number);
 }
 
 std::string ZoneWindow::numberOfZone(const Zone& zone) const {
-    const std::string word = text(2815) + " ";
+    const std::string word = text(Text::zone) + " ";
     return zone.name.starts_with(word) ? zone.name.substr(word.size()) : zone.name;
 }
 
 void ZoneWindow::LONewCommand_Click() {
     Zone zone;
-    zone.pump.name = text(2837);
+    zone.pump.name = text(Text::noPumpSelected);
     // The slot may still hold another series that was browsed.
     const bool read = catalogue.readActiveSeries(browsedSlot) || holdsActiveSeries(browsedSlot);
     if (read && catalogue.size(browsedSlot) > 0) {

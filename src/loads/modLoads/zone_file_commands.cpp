@@ -4,6 +4,7 @@
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 #include "loads/linked_design.h"
 #include "loads/links.h"
@@ -25,7 +26,7 @@ std::string ZoneWindow::proposedFile() const {
     return newFile();
 }
 
-std::string ZoneWindow::newFile() const { return text(1204) + ".zon"; }
+std::string ZoneWindow::newFile() const { return text(Text::zoneLoads) + ".zon"; }
 
 std::string ZoneWindow::fileOnShow() const { return file().name.empty() ? newFile() : file().name; }
 
@@ -33,10 +34,10 @@ void ZoneWindow::showFile() { control("LOWorkingZoneLabel").setCaption(fileOnSho
 
 FileDialog ZoneWindow::zoneDialog(bool saving) const {
     return {.saving = saving,
-            .title = text(saving ? 2964 : 2963),
+            .title = text(saving ? Text::saveZoneFileTitle : Text::openZoneFileTitle),
             .folder = file().exists ? file().folder : joinPath(main().MainDirectory, "zones"),
             .proposedName = proposedFile(),
-            .filter = text(2962),
+            .filter = text(Text::zoneFileFilter),
             .filterIndex = zoneFilesFilter,
             .overwritePrompt = saving};
 }
@@ -54,7 +55,7 @@ bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
     LoadsData data = before;
     bool whole = true;
     try {
-        readZoneFile(path, {text(2815), catalogue.firstSeries()}, data);
+        readZoneFile(path, {text(Text::zone), catalogue.firstSeries()}, data);
         if (data.zones.size() > mostZones) throw RunTimeError(6);
     } catch (const RunTimeError& error) {
         // Only a missing file and a file that ends too early are worth a message.
@@ -111,7 +112,8 @@ bool ZoneWindow::saveZonesTo(const std::string& path) {
     try {
         saveZoneFile(path, document_.data);
     } catch (const RunTimeError& error) {
-        show(MessageIcon::exclamation, text(2942) + "\n\n" + path + "\n\n" + error.message());
+        show(MessageIcon::exclamation,
+             text(Text::zonesNotSaved) + "\n\n" + path + "\n\n" + error.message());
         return false;
     }
     return true;
@@ -119,9 +121,10 @@ bool ZoneWindow::saveZonesTo(const std::string& path) {
 
 /// The frame asks more briefly when it closes all of its windows.
 Answer ZoneWindow::askForSave() {
-    return platform().question(
-        Buttons::yesNoCancel, text(1205),
-        main().closing ? text(1206) : text(1204) + "\n\n" + fileOnShow() + "\n\n" + text(1203));
+    return platform().question(Buttons::yesNoCancel, text(Text::saveChangesTitle),
+                               main().closing ? text(Text::saveLoadsToo)
+                                              : text(Text::zoneLoads) + "\n\n" + fileOnShow() +
+                                                    "\n\n" + text(Text::saveFileNow));
 }
 
 bool ZoneWindow::CheckForSave() {
@@ -134,7 +137,7 @@ bool ZoneWindow::CheckForSave() {
         if (!hasUnsavedChanges()) return true;
         zoneSaveCancelled = true;
     }
-    show(MessageIcon::exclamation, text(1207));
+    show(MessageIcon::exclamation, text(Text::saveCancelled));
     main().saveCancelled = true;
     return false;
 }

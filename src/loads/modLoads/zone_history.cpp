@@ -2,6 +2,7 @@
 // Undo and redo in the loads windows, and what their notice tells.
 #include <algorithm>
 
+#include "forms/text_numbers.h"
 #include "loads/linked_design.h"
 #include "loads/links.h"
 #include "loads/modLoads/zone_window.h"
@@ -93,7 +94,8 @@ std::string ZoneWindow::stepName(const UserAction& action) const {
 
 std::vector<Notice> ZoneWindow::notices() const {
     std::vector<Notice> holding;
-    if (!halfReadFile_.empty()) holding.push_back({filledIn(text(1236), {halfReadFile_})});
+    if (!halfReadFile_.empty())
+        holding.push_back({filledIn(text(Text::noticeFileIncomplete), {halfReadFile_})});
     if (const auto refused = fields().refused()) holding.push_back(refusedNotice(*refused));
     return holding;
 }

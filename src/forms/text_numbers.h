@@ -1,0 +1,577 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+/// The numbers of the display texts, by name.
+///
+/// What a user reads is no part of the code: it stands in the language resource, in the files of
+/// resources/language, one text a number, and is fetched by Texts::text(number). A language may
+/// replace any of them, so a name tells what a text is for and not how it reads. Every text of the
+/// English table has its name here, grouped as it stands there.
+///
+/// Of a caption that depends on the units there are two texts, whose names end in Metric and
+/// English. A caption that keeps its unit in both systems has one. A name in Tip is a tool tip, a
+/// name in Hint a line of the status bar.
+namespace varnholt::Text {
+
+// The whole program.
+constexpr int makerAddress = 108;
+
+// The main window: its title and its menus.
+constexpr int programTitle = 1001;
+constexpr int fileMenu = 1002;
+constexpr int viewMenu = 1003;
+constexpr int loadsMenu = 1004;
+constexpr int heatPumpsMenu = 1005;
+constexpr int toolsMenu = 1006;
+constexpr int unitsMenu = 1007;
+constexpr int tablesMenu = 1008;
+constexpr int windowMenu = 1009;
+constexpr int helpMenu = 1011;
+constexpr int printTip = 1010;
+constexpr int pumpsHeading = 1012;
+
+// The entries of the menus.
+constexpr int newBorehole = 1015;
+constexpr int newHorizontal = 1016;
+constexpr int newSurfaceWater = 1017;
+constexpr int open = 1018;
+constexpr int openProject = 1019;
+constexpr int save = 1020;
+constexpr int saveAs = 1021;
+constexpr int saveProject = 1022;
+constexpr int printPreview = 1023;
+constexpr int printSetup = 1024;
+constexpr int exitProgram = 1025;
+constexpr int showToolbar = 1026;
+constexpr int averageBlock = 1027;
+constexpr int zoneManager = 1028;
+constexpr int linkLoads = 1029;
+constexpr int unlinkLoads = 1032;
+constexpr int monthlyImporter = 1033;
+constexpr int editPumps = 1034;
+constexpr int diffusivityTool = 1035;
+constexpr int equivalentHoursTool = 1036;
+constexpr int pumpPowerTool = 1037;
+constexpr int metricUnits = 1038;
+constexpr int englishUnits = 1039;
+constexpr int fluidProperties = 1040;
+constexpr int soilProperties = 1041;
+constexpr int pipeProperties = 1042;
+constexpr int conversionTables = 1043;
+constexpr int helpContents = 1044;
+constexpr int about = 1045;
+
+// In the caption of a linked loads window.
+constexpr int averageBlockOf = 1030;
+constexpr int zoneManagerOf = 1031;
+
+// The toolbar.
+constexpr int newBoreholeTip = 1050;
+constexpr int newHorizontalTip = 1051;
+constexpr int newSurfaceWaterTip = 1052;
+constexpr int openProjectTip = 1053;
+constexpr int saveProjectTip = 1054;
+constexpr int printProjectTip = 1055;
+constexpr int editPumpsTip = 1056;
+constexpr int switchUnitsTip = 1057;
+constexpr int averageBlockTip = 1058;
+constexpr int zoneManagerTip = 1059;
+constexpr int linkLoadsTip = 1060;
+constexpr int unlinkLoadsTip = 1061;
+
+// The start picture and the About window.
+constexpr int aboutTitle = 1070;
+constexpr int ok = 1071;
+constexpr int systemInformation = 1072;
+constexpr int version = 1073;
+constexpr int trainedUsersNote = 1074;
+constexpr int programDescription = 1075;
+
+// The Edit menu.
+constexpr int editMenu = 1080;
+constexpr int undo = 1081;
+constexpr int redo = 1082;
+constexpr int cut = 1083;
+constexpr int copy = 1084;
+constexpr int paste = 1085;
+constexpr int selectAll = 1086;
+
+// The language itself.
+constexpr int languageFont = 1101;
+
+// Commands of the main window and their messages.
+constexpr int fileInUse = 1201;
+constexpr int aboutToClose = 1202;
+constexpr int saveFileNow = 1203;
+constexpr int zoneLoads = 1204;
+constexpr int saveChangesTitle = 1205;
+constexpr int saveLoadsToo = 1206;
+constexpr int saveCancelled = 1207;
+constexpr int tooManyDesigns = 1208;
+constexpr int linkTitle = 1210;
+constexpr int linkModuleSelection = 1211;
+constexpr int linkModuleQuestion = 1212;
+constexpr int linkZoneManager = 1213;
+constexpr int linkAverageBlock = 1214;
+constexpr int linkSelect = 1215;
+constexpr int linkCancel = 1216;
+constexpr int projectFileFilter = 1220;
+
+// Notices at the top of a window.
+constexpr int noticeOutOfDate = 1230;
+constexpr int noticeCalculate = 1231;
+constexpr int noticeOverflow = 1232;
+constexpr int noticeRunTimeError = 1233;
+constexpr int noticeZoneFileMissing = 1234;
+constexpr int noticeFindZoneFile = 1235;
+constexpr int noticeFileIncomplete = 1236;
+constexpr int noticeValueOutsideRange = 1237;
+constexpr int noticeValueTooSmall = 1238;
+
+// Lines of the status bar for the entries of the menus.
+constexpr int newBoreholeHint = 1300;
+constexpr int newHorizontalHint = 1301;
+constexpr int newSurfaceWaterHint = 1302;
+constexpr int openHint = 1303;
+constexpr int openProjectHint = 1304;
+constexpr int saveHint = 1305;
+constexpr int saveAsHint = 1306;
+constexpr int saveProjectHint = 1307;
+constexpr int printPreviewHint = 1308;
+constexpr int printSetupHint = 1309;
+constexpr int exitProgramHint = 1310;
+constexpr int showToolbarHint = 1311;
+constexpr int averageBlockHint = 1312;
+constexpr int zoneManagerHint = 1313;
+constexpr int linkLoadsHint = 1314;
+constexpr int unlinkLoadsHint = 1315;
+constexpr int monthlyImporterHint = 1316;
+constexpr int editPumpsHint = 1317;
+constexpr int diffusivityToolHint = 1318;
+constexpr int equivalentHoursToolHint = 1319;
+constexpr int pumpPowerToolHint = 1320;
+constexpr int metricUnitsHint = 1321;
+constexpr int englishUnitsHint = 1322;
+constexpr int fluidPropertiesHint = 1323;
+constexpr int soilPropertiesHint = 1324;
+constexpr int pipePropertiesHint = 1325;
+constexpr int conversionTablesHint = 1326;
+constexpr int helpContentsHint = 1327;
+constexpr int aboutHint = 1328;
+constexpr int undoHint = 1330;
+constexpr int redoHint = 1331;
+constexpr int cutHint = 1332;
+constexpr int copyHint = 1333;
+constexpr int pasteHint = 1334;
+constexpr int selectAllHint = 1335;
+
+// The windows themselves.
+constexpr int staleResults = 1350;
+constexpr int refusedValue = 1351;
+constexpr int recentFiles = 1352;
+constexpr int noRecentFiles = 1353;
+constexpr int tileWindows = 1354;
+constexpr int cascadeWindows = 1355;
+constexpr int nextWindow = 1356;
+constexpr int noWindows = 1357;
+constexpr int startPageTitle = 1358;
+constexpr int startPageBorehole = 1359;
+constexpr int startPageZones = 1360;
+constexpr int startPageOpen = 1361;
+constexpr int startPageDrop = 1362;
+constexpr int cannotOpenFile = 1363;
+constexpr int tileWindowsHint = 1364;
+constexpr int cascadeWindowsHint = 1365;
+constexpr int nextWindowHint = 1366;
+constexpr int programFault = 1367;
+constexpr int toolbarName = 1368;
+constexpr int chartPartMissing = 1369;
+
+// Importing loads.
+constexpr int importLoadsTip = 1501;
+
+// The borehole design: its title and its pages.
+constexpr int boreholeDesignTitle = 2001;
+constexpr int resultsPage = 2002;
+constexpr int fluidPage = 2003;
+constexpr int soilPage = 2004;
+constexpr int pipingPage = 2005;
+constexpr int patternPage = 2006;
+constexpr int extraPowerPage = 2007;
+constexpr int informationPage = 2010;
+constexpr int designMetricSwitch = 2011;
+
+// Results.
+constexpr int requiredBoreLengths = 2101;
+constexpr int resultsCooling = 2102;
+constexpr int resultsHeating = 2103;
+constexpr int totalLengthMetric = 2104;
+constexpr int totalLengthEnglish = 2105;
+constexpr int boreholeNumber = 2106;
+constexpr int boreholeLengthMetric = 2107;
+constexpr int boreholeLengthEnglish = 2108;
+constexpr int unitInletMetric = 2109;
+constexpr int unitInletEnglish = 2110;
+constexpr int unitOutletMetric = 2111;
+constexpr int unitOutletEnglish = 2112;
+constexpr int totalCapacityMetric = 2113;
+constexpr int totalCapacityEnglish = 2114;
+constexpr int peakLoadMetric = 2115;
+constexpr int heatPumpCopMetric = 2116;
+constexpr int peakLoadEnglish = 2117;
+constexpr int systemCopMetric = 2118;
+constexpr int peakDemand = 2119;
+constexpr int heatPumpCopEnglish = 2120;
+constexpr int systemCopEnglish = 2121;
+constexpr int systemFlowRateMetric = 2122;
+constexpr int systemFlowRateEnglish = 2123;
+constexpr int groundTemperatureChangeMetric = 2124;
+constexpr int groundTemperatureChangeEnglish = 2125;
+constexpr int calculate = 2130;
+
+// The cooling tower.
+constexpr int loadBalance = 2141;
+constexpr int optionalCoolingTower = 2142;
+constexpr int condenserCapacityMetric = 2143;
+constexpr int condenserCapacityEnglish = 2144;
+constexpr int towerFlowRateMetric = 2145;
+constexpr int towerFlowRateEnglish = 2146;
+constexpr int coolingRangeMetric = 2147;
+constexpr int coolingRangeEnglish = 2148;
+constexpr int towerOperatingHours = 2149;
+constexpr int loadBalanceUnits = 2150;
+constexpr int calculationFailed = 2151;
+
+// Fluid.
+constexpr int fluidTemperaturesAndFlow = 2201;
+constexpr int designInletTemperatures = 2202;
+constexpr int inletTemperatureCooling = 2203;
+constexpr int inletTemperatureHeating = 2204;
+constexpr int inletTemperatureUnitsMetric = 2205;
+constexpr int inletTemperatureUnitsEnglish = 2206;
+constexpr int designSystemFlowRate = 2207;
+constexpr int designFlowRate = 2208;
+constexpr int designFlowRateUnitsMetric = 2209;
+constexpr int designFlowRateUnitsEnglish = 2210;
+constexpr int solutionProperties = 2211;
+constexpr int fluidType = 2212;
+constexpr int percentAntifreeze = 2213;
+constexpr int specificHeat = 2216;
+constexpr int specificHeatUnitsMetric = 2217;
+constexpr int specificHeatUnitsEnglish = 2218;
+constexpr int density = 2219;
+constexpr int densityUnitsMetric = 2220;
+constexpr int densityUnitsEnglish = 2221;
+constexpr int fluidTablesButton = 2222;
+constexpr int water = 2224;
+constexpr int propyleneGlycol = 2225;
+constexpr int ethyleneGlycol = 2226;
+constexpr int methanol = 2227;
+constexpr int ethanol = 2228;
+constexpr int potassiumAcetate = 2229;
+constexpr int calciumChloride = 2230;
+
+// Soil.
+constexpr int soilTemperaturesAndProperties = 2301;
+constexpr int undisturbedGroundTemperature = 2302;
+constexpr int groundTemperature = 2303;
+constexpr int groundTemperatureUnitsMetric = 2304;
+constexpr int groundTemperatureUnitsEnglish = 2305;
+constexpr int soilThermalProperties = 2306;
+constexpr int thermalDiffusivity = 2307;
+constexpr int thermalDiffusivityUnitsMetric = 2308;
+constexpr int thermalDiffusivityUnitsEnglish = 2309;
+constexpr int diffusivityButton = 2310;
+constexpr int soilTablesButton = 2312;
+
+// Pipe and bore.
+constexpr int pipeSizeAndResistance = 2401;
+constexpr int boreholeEquivalentResistance = 2402;
+constexpr int boreholeResistance = 2403;
+constexpr int thermalResistanceUnitsMetric = 2404;
+constexpr int thermalResistanceUnitsEnglish = 2405;
+constexpr int pipeParameters = 2406;
+constexpr int pipeResistance = 2408;
+constexpr int sdr9 = 2409;
+constexpr int sdr11 = 2410;
+constexpr int sdr17 = 2411;
+constexpr int schedule40 = 2412;
+constexpr int schedule80 = 2413;
+constexpr int turbulentFlow = 2414;
+constexpr int transitionFlow = 2415;
+constexpr int laminarFlow = 2416;
+constexpr int pipeTablesButton = 2417;
+constexpr int threeQuarterInchPipe = 2418;
+constexpr int oneInchPipe = 2419;
+constexpr int oneAndAQuarterInchPipe = 2420;
+constexpr int oneAndAHalfInchPipe = 2421;
+constexpr int groutInformation = 2422;
+constexpr int boreholeDiameterHeading = 2423;
+constexpr int boreholeDiameter = 2424;
+constexpr int groutConductivity = 2426;
+constexpr int uTubeConfiguration = 2429;
+constexpr int singleUTube = 2430;
+constexpr int doubleUTube = 2431;
+constexpr int pipeRadialPlacement = 2432;
+constexpr int placementAlongOuterWall = 2433;
+constexpr int placementAverage = 2434;
+constexpr int placementCloseTogether = 2435;
+constexpr int pipeSize = 2436;
+constexpr int flowType = 2437;
+constexpr int pipeType = 2439;
+constexpr int outerDiameter = 2440;
+constexpr int innerDiameter = 2441;
+constexpr int thermalConductivity = 2445;
+constexpr int thermalConductivityUnitsMetric = 2446;
+constexpr int thermalConductivityUnitsEnglish = 2447;
+constexpr int diameterUnitsMetric = 2448;
+constexpr int diameterUnitsEnglish = 2449;
+constexpr int pipesDoNotFit = 2453;
+constexpr int widthOfPipes = 2454;
+constexpr int pumpDataMissing = 2455;
+
+// Arrangement of the bores.
+constexpr int groundFieldArrangement = 2501;
+constexpr int verticalGridArrangement = 2502;
+constexpr int rowsAcross = 2503;
+constexpr int rowsDown = 2504;
+constexpr int separationBetweenBores = 2505;
+constexpr int boreholeSeparation = 2506;
+constexpr int boresPerParallelCircuit = 2507;
+constexpr int parallelCircuits = 2508;
+constexpr int modelingTimePeriod = 2509;
+constexpr int predictionTime = 2510;
+constexpr int lengthUnitsMetric = 2511;
+constexpr int lengthUnitsEnglish = 2512;
+constexpr int predictionTimeUnits = 2513;
+
+// Extra power.
+constexpr int circulationPumps = 2601;
+constexpr int additionalPowerRequirements = 2602;
+constexpr int coolingTowerPower = 2603;
+constexpr int additionalPower = 2604;
+constexpr int pumpShaftPower = 2605;
+constexpr int circulationMotorEfficiency = 2606;
+constexpr int requiredInputPower = 2607;
+constexpr int fanShaftPower = 2608;
+constexpr int towerMotorEfficiency = 2609;
+constexpr int powerUnitsMetric = 2611;
+constexpr int powerUnitsEnglish = 2612;
+constexpr int motorEfficiencyUnits = 2613;
+constexpr int pumpPowerButton = 2614;
+constexpr int coolingTowerPump = 2622;
+constexpr int coolingTowerFan = 2623;
+
+// Project information.
+constexpr int projectInformation = 2700;
+constexpr int projectName = 2701;
+constexpr int designerName = 2702;
+constexpr int clientName = 2703;
+constexpr int addressLine1 = 2704;
+constexpr int addressLine2 = 2705;
+constexpr int city = 2706;
+constexpr int state = 2707;
+constexpr int zip = 2708;
+constexpr int phone = 2709;
+constexpr int fax = 2710;
+constexpr int email = 2711;
+constexpr int projectDate = 2712;
+constexpr int projectStartDate = 2713;
+constexpr int projectComments = 2714;
+
+// What stands in the pictures, and what a screen reader says of them.
+constexpr int singleUTubePicture = 2461;
+constexpr int doubleUTubePicture = 2462;
+constexpr int pipesDoNotFitPicture = 2463;
+constexpr int boresWithoutNeighbour = 2531;
+constexpr int boresAtEnd = 2532;
+constexpr int boresAtCorner = 2533;
+constexpr int boresAtEdge = 2534;
+constexpr int boresInside = 2535;
+constexpr int boresInLine = 2536;
+constexpr int fieldPictureEmpty = 2541;
+constexpr int fieldPicture = 2542;
+constexpr int linkedWithZoneManager = 2980;
+constexpr int linkedWithAverageBlock = 2981;
+constexpr int notLinked = 2982;
+constexpr int chartCooling = 2983;
+constexpr int chartHeating = 2984;
+constexpr int dayChartEmpty = 2985;
+constexpr int dayChartLargestLoad = 2986;
+constexpr int pumpCurvesEmpty = 2990;
+constexpr int pumpCurves = 2991;
+constexpr int pumpCurvesAtDesign = 2992;
+constexpr int pumpCurvesCapacity = 2993;
+constexpr int pumpCurvesPower = 2994;
+constexpr int pumpCurvesEnteringWater = 2995;
+constexpr int pumpCurvesCatalogue = 2996;
+constexpr int pumpCurvesDesign = 2997;
+constexpr int enterLoadsFirst = 2160;
+
+// Commands of the loads windows.
+constexpr int newZoneTip = 2801;
+constexpr int copyZoneTip = 2802;
+constexpr int removeZoneTip = 2803;
+constexpr int renumberZonesTip = 2804;
+constexpr int clearZonesTip = 2805;
+constexpr int showSummaryTip = 2806;
+constexpr int openZonesTip = 2807;
+constexpr int saveZonesTip = 2808;
+constexpr int autoSelectAllTip = 2809;
+constexpr int updatePumpsTip = 2810;
+constexpr int newZone = 2950;
+constexpr int copyZone = 2951;
+constexpr int removeZone = 2952;
+constexpr int renumberZones = 2953;
+constexpr int clearZones = 2954;
+constexpr int showSummary = 2955;
+constexpr int openZones = 2956;
+constexpr int saveZones = 2957;
+constexpr int printZones = 2958;
+constexpr int importLoads = 2959;
+constexpr int autoSelectAll = 2960;
+constexpr int updatePumps = 2961;
+
+// The loads windows and their pages.
+constexpr int zoneManagerTitle = 2930;
+constexpr int averageBlockTitle = 2932;
+constexpr int zonesPage = 2811;
+constexpr int loadsMetricSwitch = 2813;
+constexpr int noLoads = 2814;
+constexpr int zone = 2815;
+constexpr int loadsAndHeatPumpOf = 2816;
+
+// The loads of a zone.
+constexpr int loadingInformation = 2832;
+constexpr int referenceLabel = 2850;
+constexpr int designDayLoads = 2818;
+constexpr int timeOfDay = 2819;
+constexpr int heatGains = 2820;
+constexpr int heatLosses = 2821;
+constexpr int loadUnitsEnglish = 2822;
+constexpr int loadUnitsMetric = 2823;
+constexpr int blockEightToNoon = 2824;
+constexpr int blockNoonToFour = 2825;
+constexpr int blockFourToEight = 2826;
+constexpr int blockEightToEight = 2827;
+constexpr int annualFullLoadHours = 2828;
+constexpr int daysOccupiedPerWeek = 2830;
+constexpr int calculateHours = 2831;
+constexpr int fullLoadHours = 2934;
+
+// The heat pump of a zone.
+constexpr int heatPumpSpecifications = 2849;
+constexpr int pumpName = 2836;
+constexpr int representativePumpName = 2933;
+constexpr int noPumpSelected = 2837;
+constexpr int numberOfUnitsSign = 2838;
+constexpr int cooling = 2839;
+constexpr int heating = 2840;
+constexpr int zonePumpCapacityMetric = 2841;
+constexpr int zonePumpCapacityEnglish = 2842;
+constexpr int zonePumpPower = 2843;
+constexpr int zonePumpCopMetric = 2844;
+constexpr int zonePumpCopEnglish = 2845;
+constexpr int zonePumpFlowRateMetric = 2846;
+constexpr int zonePumpFlowRateEnglish = 2847;
+constexpr int partialLoadFactor = 2848;
+constexpr int clearPump = 2833;
+constexpr int autoSelectPump = 2834;
+constexpr int selectPump = 2835;
+constexpr int pumpDetails = 2851;
+constexpr int customPump = 2864;
+
+// Selecting a pump by hand.
+constexpr int numberOfUnits = 2852;
+constexpr int takeSelectedPump = 2853;
+constexpr int manufacturer = 2858;
+constexpr int series = 2859;
+constexpr int cancelSelection = 2861;
+constexpr int model = 2868;
+
+// The load side of a pump.
+constexpr int heatPumpDetails = 2867;
+constexpr int returnToZone = 2854;
+constexpr int loadSideAir = 2855;
+constexpr int loadSideWater = 2856;
+constexpr int nominalFlow = 2857;
+constexpr int pumpType = 2860;
+constexpr int waterToAir = 2865;
+constexpr int waterToWater = 2866;
+constexpr int loadSideTemperature = 2889;
+constexpr int loadSideFlow = 2890;
+
+// The heat pump tab.
+constexpr int designConditions = 2891;
+constexpr int sourceInletTemperatureMetric = 2869;
+constexpr int sourceInletTemperatureEnglish = 2870;
+constexpr int sourceFlowRate = 2871;
+constexpr int sourceFlowRateUnitsMetric = 2872;
+constexpr int sourceFlowRateUnitsEnglish = 2876;
+constexpr int inletAirTemperatures = 2885;
+constexpr int enteringWaterTemperatures = 2886;
+constexpr int heatingDryBulb = 2887;
+constexpr int coolingWetBulb = 2888;
+constexpr int heatPumpCatalogue = 2893;
+constexpr int pumpsOfSeries = 2892;
+
+// Units.
+constexpr int airFlowUnitsMetric = 2873;
+constexpr int airFlowUnitsEnglish = 2874;
+constexpr int waterFlowUnitsMetric = 2877;
+constexpr int waterFlowUnitsEnglish = 2878;
+constexpr int temperatureUnitsMetric = 2879;
+constexpr int temperatureUnitsEnglish = 2880;
+
+// The summary of the building.
+constexpr int buildingSummary = 2894;
+constexpr int summaryEightToNoon = 2881;
+constexpr int summaryNoonToFour = 2882;
+constexpr int summaryFourToEight = 2883;
+constexpr int summaryEightToEight = 2884;
+constexpr int summaryPump = 2895;
+constexpr int summaryDayLoadsEnglish = 2896;
+constexpr int summaryDayLoadsMetric = 2897;
+constexpr int summaryCapacity = 2898;
+constexpr int summaryCapacityUnitsEnglish = 2899;
+constexpr int summaryPower = 2901;
+constexpr int summaryCopEnglish = 2915;
+constexpr int summaryEer = 2916;
+constexpr int summaryPartialLoadFactor = 2917;
+constexpr int summaryCopMetric = 2918;
+constexpr int summaryHeating = 2919;
+constexpr int summaryCooling = 2920;
+constexpr int summaryTotalCapacityEnglish = 2921;
+constexpr int summaryTotalCapacityMetric = 2922;
+constexpr int summaryPeakLoadEnglish = 2923;
+constexpr int summaryPeakLoadMetric = 2924;
+constexpr int summaryPeakDemand = 2925;
+constexpr int summaryHeatPumpCop = 2926;
+constexpr int summaryPeakLoadPeriod = 2928;
+
+// What the charts of the loads windows show.
+constexpr int zoneDayChart = 2945;
+constexpr int buildingDayChart = 2946;
+constexpr int pumpChart = 2947;
+
+// Messages about pumps.
+constexpr int pumpNoLongerListed = 2875;
+constexpr int noPumpForZone = 2940;
+constexpr int noPumpForZones = 2941;
+constexpr int selectingPumps = 2943;
+constexpr int updatingPumps = 2944;
+
+// Zone files.
+constexpr int zoneFileFilter = 2962;
+constexpr int openZoneFileTitle = 2963;
+constexpr int saveZoneFileTitle = 2964;
+constexpr int zonesNotSaved = 2942;
+
+// Starting and files.
+constexpr int loadsWindowInUse = 8539;
+constexpr int zoneFileNotFound = 8540;
+constexpr int systemInformationUnavailable = 8541;
+constexpr int designKindNotOpened = 8542;
+constexpr int zoneFileDamaged = 8543;
+
+}  // namespace varnholt::Text
