@@ -9,6 +9,16 @@
 #include "forms/text_numbers.h"
 
 namespace varnholt {
+
+template <class Tell>
+void Form::tellObservers(const Tell& tell) {
+    ++telling_;
+    for (std::size_t i = 0; i < observers_.size(); ++i)
+        if (observers_[i] != nullptr) tell(*observers_[i]);
+    if (--telling_ > 0) return;
+    observers_.erase(std::remove(observers_.begin(), observers_.end(), nullptr), observers_.end());
+}
+
 namespace {
 
 /// The lines of a rich text end in CR LF, whatever they are pasted with.
@@ -31,9 +41,8 @@ class Form::Relay : public ControlObserver {
  public:
     explicit Relay(Form& form) : form_(form) {}
     void propertyChanged(Control& control, Property property) override {
-        // By index, since an observer may go away while it is told.
-        for (std::size_t i = 0; i < form_.observers_.size(); ++i)
-            form_.observers_[i]->propertyChanged(control, property);
+        form_.tellObservers(
+            [&](FormObserver& observer) { observer.propertyChanged(control, property); });
     }
 
  private:
@@ -51,8 +60,7 @@ class Form::Settling {
     ~Settling() {
         if (--form_.depth_ > 0) return;
         form_.actionEnds(action_);
-        for (std::size_t i = 0; i < form_.observers_.size(); ++i)
-            form_.observers_[i]->settled(form_);
+        form_.tellObservers([this](FormObserver& observer) { observer.settled(form_); });
     }
 
  private:
@@ -73,13 +81,14 @@ Form::Form(std::string formName, Platform& platform, const Texts& texts)
 
 Form::~Form() {
     const std::vector<FormObserver*> observers = observers_;
-    for (FormObserver* observer : observers) removeObserver(observer);
+    for (FormObserver* observer : observers)
+        if (observer != nullptr) removeObserver(observer);
 }
 
 void Form::setCaption(std::string caption) {
     if (caption_ == caption) return;
     caption_ = std::move(caption);
-    for (std::size_t i = 0; i < observers_.size(); ++i) observers_[i]->captionChanged(*this);
+    tellObservers([this](FormObserver& observer) { observer.captionChanged(*this); });
 }
 
 Control& Form::control(const std::string& name) {
@@ -212,7 +221,11 @@ void Form::addObserver(FormObserver* observer) {
 }
 
 void Form::removeObserver(FormObserver* observer) {
-    observers_.erase(std::remove(observers_.begin(), observers_.end(), observer), observers_.end());
+    const auto at = std::find(observers_.begin(), observers_.end(), observer);
+    if (at != observers_.end() && telling_ > 0)
+        *at = nullptr;  // the others keep their places until all have been told
+    else if (at != observers_.end())
+        observers_.erase(at);
     std::vector<Form*>& forms = observer->observed_;
     forms.erase(std::remove(forms.begin(), forms.end(), this), forms.end());
 }

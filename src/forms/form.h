@@ -157,6 +157,9 @@ class Form {
     Handlers& handlersOf(const std::string& control);
     void perform(Verb verb, const std::string& control, const Handler& action);
     void raise(const Handler& handler) const;
+    /// Calls the function with every observer, also when observers end while they are told.
+    template <class Tell>
+    void tellObservers(const Tell& tell);
     void chooseOption(Control& control);
 
     std::string formName_;
@@ -168,7 +171,9 @@ class Form {
     std::map<std::string, Handlers, std::less<>> handlers_;
     Values values_;
     NumericFields fields_{*this};
+    /// Null for one that has ended while observers are being told.
     std::vector<FormObserver*> observers_;
+    int telling_ = 0;
     std::unique_ptr<Relay> relay_;
     std::string visited_, gesture_;
     int depth_ = 0;
