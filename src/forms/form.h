@@ -81,10 +81,15 @@ class Form {
     void slide(const std::string& control, double value);
     void pickDate(const std::string& control, const Date& date);
     /// A drag of a slider begins or ends: its many moves are one change.
-    void beginGesture(const std::string& control) { gesture_ = control; }
+    void beginGesture(const std::string& control) {
+        gesture_ = control;
+        ++gestures_;
+    }
     void endGesture() { gesture_.clear(); }
     /// The slider that is being dragged, empty for none.
     const std::string& gesture() const { return gesture_; }
+    /// Drags that have begun so far: the number of the one at hand.
+    int gestureNumber() const { return gestures_; }
     /// The field in which something has been typed and which has not been left since; empty for
     /// none.
     const std::string& visitedField() const { return visited_; }
@@ -176,6 +181,7 @@ class Form {
     int telling_ = 0;
     std::unique_ptr<Relay> relay_;
     std::string visited_, gesture_;
+    int gestures_ = 0;
     int depth_ = 0;
     bool modalEnded_ = false;
 };

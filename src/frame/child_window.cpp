@@ -21,8 +21,8 @@ void ChildWindow::switchUnits(UnitSystem wanted) {
     MetricCheck_Click();
 }
 
-void ChildWindow::startHistory() {
-    if (StatePointer now = state()) history_.start(std::move(now));
+void ChildWindow::startHistory(bool saved) {
+    if (StatePointer now = state()) history_.start(std::move(now), saved);
 }
 
 void ChildWindow::actionBegins() {
@@ -47,7 +47,7 @@ void ChildWindow::actionEnds(const UserAction& action) {
 /// Typing in a field up to its leaving is one change, and so is a slider's drag.
 std::string ChildWindow::visitOf(const UserAction& action) const {
     if (action.verb == Verb::leave || visitedField() == action.control) return action.control;
-    return gesture();
+    return gesture().empty() ? gesture() : gesture() + " " + std::to_string(gestureNumber());
 }
 
 std::string ChildWindow::stepName(const UserAction& action) const {
@@ -60,7 +60,7 @@ std::string ChildWindow::stepName(const UserAction& action) const {
 }
 
 void ChildWindow::beginStep() {
-    if (history_.hasStarted()) history_.absorb(state());
+    if (history_.hasStarted()) history_.absorb(state(), staysSaved());
 }
 
 void ChildWindow::endStep(const std::string& name, const std::string& visit) {
@@ -116,6 +116,7 @@ void ChildWindow::addNotice() {
     onClick("NoticeCommand", [this] {
         // The action may change what the notice says, and with it the action.
         const std::function<void()> action = noticeAction_;
+        nameStep(control("NoticeCommand").caption());
         if (action) action();
     });
 }

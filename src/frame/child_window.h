@@ -47,7 +47,8 @@ class ChildWindow : public Form {
     virtual StatePointer state() const { return nullptr; }
     const DocumentHistory& history() const { return history_; }
     /// The document is new, or another one has been opened: nothing can be undone.
-    void startHistory();
+    /// @param saved  it counts as saved
+    void startHistory(bool saved = true);
     void undo();
     void redo();
     /// Before another window's action changes this document: what it changes is a step here too.
@@ -68,6 +69,8 @@ class ChildWindow : public Form {
 
     /// Puts an earlier state back and shows it.
     virtual void restore(const DocumentState&) {}
+    /// Whether what other windows have changed leaves a saved document saved.
+    virtual bool staysSaved() const { return false; }
     /// After undo and redo: whether the document counts as changed.
     virtual void savedStateReached(bool /*atSaved*/) {}
     /// What holds now, the most pressing first.

@@ -37,14 +37,15 @@ class DocumentHistory {
  public:
     static constexpr std::size_t mostSteps = 200;
 
-    /// The document begins, or begins anew, with this state; nothing can be undone. It counts as
-    /// saved.
-    void start(StatePointer now);
+    /// The document begins, or begins anew, with this state; nothing can be undone.
+    /// @param saved  it counts as saved: it is new, or as its file holds it
+    void start(StatePointer now, bool saved = true);
     bool hasStarted() const { return !states_.empty(); }
 
     /// The document has changed by something that is no step of its user: what follows starts from
-    /// here. Does nothing when the state is the present one.
-    void absorb(StatePointer now);
+    /// here. Of a state equal to the present one it only keeps from where the next step begins.
+    /// @param stillSaved  where the document stood as it was saved, it still does
+    void absorb(StatePointer now, bool stillSaved = false);
     /// The user has brought the document into this state.
     /// @param name  what was done: "Remove Zone 3"
     /// @param visit changes in a row with the same visit that is not empty are one step
@@ -62,16 +63,20 @@ class DocumentHistory {
     /// Name of the step that would be undone, or redone; empty for none.
     std::string undoName() const { return canUndo() ? steps_[at_ - 1] : std::string(); }
     std::string redoName() const { return canRedo() ? steps_[at_] : std::string(); }
-    /// Goes one step back or on, and gives the state to bring back. Only where there is one.
+    /// Goes one step back or on, and gives the state to bring back: as it was when the step began,
+    /// or when it had been done. Only where there is one.
     const DocumentState& undo();
     const DocumentState& redo();
 
  private:
+    /// Equal states may still differ in what was on show.
     struct Moment {
-        StatePointer state;
+        StatePointer reached;  ///< as the step to it ended
+        StatePointer left;     ///< as the step from it began
         int revision;
     };
 
+    Moment moment(StatePointer now) { return {now, now, ++lastRevision_}; }
     void forgetOldest();
 
     /// Step i leads from moment i to moment i + 1.

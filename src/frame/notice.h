@@ -9,7 +9,7 @@ namespace varnholt {
 /// One thing that a person must know of a window and that no box may say.
 struct Notice {
     std::string text;
-    std::string action{};           ///< caption of what can be done about it; empty for nothing
+    std::string action{};  ///< caption of what can be done about it; empty for nothing
     std::function<void()> act{};
 };
 
