@@ -6,6 +6,7 @@
 #include "design/bore_tab.h"
 #include "design/extra_power_tab.h"
 #include "design/fluid_tab.h"
+#include "design/modCalculations/bore_resistance.h"
 #include "design/shared_values.h"
 #include "design/soil_tab.h"
 #include "forms/text_numbers.h"
@@ -84,11 +85,32 @@ void frmBHDesign::registerBoreholeValues() {
     values.add("boreDiameter", &bore.boreDiameter);
     values.add("groutConductivity", &bore.groutConductivity);
     values.add("boreResistance", &bore.boreResistance);
+    addAccessors(values);
     const ArrangementValues& arrangement = project_.arrangement;
     values.addArray("patternRows", &arrangement.patternRows);
     values.add("boreSeparation", &arrangement.boreSeparation);
     values.add("boresPerCircuit", &arrangement.boresPerCircuit);
     values.add("predictionTime", &arrangement.predictionTime);
+}
+
+/// What the report layer asks for by functions.
+void frmBHDesign::addAccessors(Values& values) {
+    const auto modeOf = [](const Values::Indices& i) {
+        checkIndex(i[0], modes.size());
+        return i[0] == 0 ? cooling : heating;
+    };
+    values.add("GetL", 1, [this, modeOf](const Values::Indices& i) { return GetL(modeOf(i)); });
+    values.add("GetTemperaturePenalty", 1, [this, modeOf](const Values::Indices& i) {
+        return GetTemperaturePenalty(modeOf(i));
+    });
+    values.add("GetGroundTemp", 0, [this](const Values::Indices&) { return GetGroundTemp(); });
+    values.add("shapeFit", 1, [this](const Values::Indices& i) {
+        constexpr int average = 1;
+        const int placement = entryOf(project_.bore.pipePlacement, 3);
+        const auto& fit = modCalculations::shapeFit(placement < 0 ? average : placement);
+        checkIndex(i[0], 2);
+        return i[0] == 0 ? fit.constant : fit.exponent;
+    });
 }
 
 void frmBHDesign::fillDefaults() {
@@ -111,6 +133,11 @@ void frmBHDesign::resultsFound() {
 bool frmBHDesign::tellsError(int number) const {
     constexpr int divisionByZero = 11;
     return number == divisionByZero;
+}
+
+void frmBHDesign::showNoGoverningMode() {
+    resultsTab_->paintPlain();
+    towerPanel_->rest();
 }
 
 void frmBHDesign::showGoverningMode(Mode greyed) {

@@ -66,10 +66,13 @@ class frmBHDesign : public ProjectDesign<BoreholeKind> {
     void fillDefaults() override;
     void dropTower() override { towerPanel_->drop(); }
     void showTower() override { towerPanel_->setUnitLabels(); }
+    void wakeTower() override { towerPanel_->wake(); }
+    void showNoGoverningMode() override;
 
  private:
     std::vector<ResultRow> resultRows() const;
     void registerBoreholeValues();
+    void addAccessors(Values& values);
     std::string shownWithUnit(const Quantity& quantity, double value, UnitTexts unit,
                               const char* format) const;
 

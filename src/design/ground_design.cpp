@@ -61,6 +61,11 @@ void GroundDesign::load() {
     enableMenuButtons();
 }
 
+void GroundDesign::loadsFound(bool stale) {
+    projectRead();
+    setStale(stale);
+}
+
 void GroundDesign::setLabels() {
     for (DesignTab* tab : tabs()) tab->setLabels();
     showInformation();
@@ -90,9 +95,15 @@ void GroundDesign::CACalculateCommand_Click() {
         if (tellsError(error.number()))
             show(MessageIcon::exclamation, error.message());
         else
-            droppedError_ = error.number();
+            dropRun(error.number());
     }
     calculationDone();
+}
+
+/// No box tells the error: the notice does, and the inputs that led to it count as calculated.
+void GroundDesign::dropRun(int errorNumber) {
+    droppedError_ = errorNumber;
+    runDropped();
 }
 
 void GroundDesign::run() {
@@ -129,14 +140,17 @@ void GroundDesign::loadsChanged() {
 
 void GroundDesign::showRestored(bool stale) {
     const RaisedFlag setting(settingUnits);
-    restoreLink();
     setLabels();
     setUnitLabels();
-    showGoverningMode();
+    if (!hasResults())
+        showNoGoverningMode();
+    else
+        showGoverningMode();
+    if (towerIsOn()) wakeTower();
     setStale(stale);
 }
 
-std::vector<Notice> GroundDesign::notices() const {
+std::vector<Notice> GroundDesign::notices() {
     std::vector<Notice> holding;
     if (!halfReadFile_.empty())
         holding.push_back({filledIn(text(Text::noticeFileIncomplete), {halfReadFile_})});
@@ -149,9 +163,8 @@ std::vector<Notice> GroundDesign::notices() const {
             {filledIn(text(Text::noticeRunTimeError), {RunTimeError(droppedError_).message()})});
     if (const auto refused = fields().refused()) holding.push_back(refusedNotice(*refused));
     if (resultsAreOlder())
-        holding.push_back({text(Text::noticeOutOfDate), text(Text::noticeCalculate), [this] {
-                               const_cast<GroundDesign*>(this)->CACalculateCommand_Click();
-                           }});
+        holding.push_back({text(Text::noticeOutOfDate), text(Text::noticeCalculate),
+                           [this] { CACalculateCommand_Click(); }});
     return holding;
 }
 

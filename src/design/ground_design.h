@@ -73,6 +73,8 @@ class GroundDesign : public LinkedDesign {
     void showGoverningMode();
 
     void loadsChanged() override;
+    /// The project's own zone file has been found after all: its results came from these loads.
+    void loadsFound(bool stale);
     /// The name of the project's file, of which not everything could be read.
     void setHalfReadFile(const std::string& name) { halfReadFile_ = name; }
 
@@ -106,13 +108,20 @@ class GroundDesign : public LinkedDesign {
     /// Takes the tower out of the design, as a plain Calculate does before it runs.
     virtual void dropTower() {}
     virtual void showTower() {}
+    virtual void wakeTower() {}
 
     /// Controls that stand above the pages: the unit switch, the light of the link, the notice,
     /// the pane.
     void addWindowControls();
     /// Shows the document after another state of it has been put back.
     void showRestored(bool stale);
-    std::vector<Notice> notices() const override;
+    /// The run has ended in an error that no box tells.
+    virtual void runDropped() = 0;
+    /// The results come from a run, and not from the beginning of the design.
+    virtual bool hasResults() const = 0;
+    /// Before a first run no mode governs.
+    virtual void showNoGoverningMode() = 0;
+    std::vector<Notice> notices() override;
     /// No mode has a load: there is nothing to calculate with.
     void tellNothingToCalculate();
     /// Number of the error that ended the last run without a box; 0 for none.
@@ -121,6 +130,7 @@ class GroundDesign : public LinkedDesign {
  private:
     void enableMenuButtons();
     void run();
+    void dropRun(int errorNumber);
     void tellNoLoads();
 
     GroundParts parts_;

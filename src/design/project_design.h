@@ -37,8 +37,8 @@ class ProjectDesign : protected HoldsProject<typename Kind::Project>, public Gro
     const Results& results() const { return *project().results; }
 
     StatePointer state() const override {
-        return std::make_shared<StateOf<State>>(
-            State{project(), lastRun_, droppedError_, isStale()});
+        return moment(
+            {project(), lastRun_, droppedError_, isStale(), linkedWindow(), missingZoneFile()});
     }
 
  protected:
@@ -48,34 +48,65 @@ class ProjectDesign : protected HoldsProject<typename Kind::Project>, public Gro
     virtual void resultsFound() = 0;
 
     void calculate() override {
-        lastRun_ = Kind::inputsOf(project(), hybridOn);
-        std::optional<Results> found = Kind::run(*lastRun_);
+        attempted_ = Kind::inputsOf(project(), hybridOn);
+        std::optional<Results> found = Kind::run(*attempted_);
         if (!found) return tellNothingToCalculate();
         this->project_.results = std::move(*found);
         resultsFound();
+        // What the run itself has settled among its inputs is no later change.
+        lastRun_ = results().inputs;
     }
 
+    void runDropped() override { lastRun_ = attempted_; }
+
+    /// The figures on show come along with what they are rolled up from.
     void rollUp() override {
-        const LoadsRollUp rolledUp = rollUpLoads(Kind::inputsOf(project(), hybridOn).loads);
-        static_cast<LoadsRollUp&>(this->project_.results.edit()) = rolledUp;
+        const Inputs now = Kind::inputsOf(project(), hybridOn);
+        const LoadsRollUp rolledUp = rollUpLoads(now.loads);
+        Results& shown = this->project_.results.edit();
+        static_cast<LoadsRollUp&>(shown) = rolledUp;
+        if (shown.inputs) shown.inputs->loads = now.loads;
     }
 
     /// The figures that a file holds came from what else it holds.
     void projectRead() override {
+        const ByMode<double> found = lengths();
+        if (found[cooling] == 0 && found[heating] == 0) return;
         lastRun_ = Kind::inputsOf(project(), towerIsOn());
         this->project_.results.edit().inputs = lastRun_;
     }
 
+    bool hasResults() const override { return results().inputs.has_value(); }
+
     bool resultsAreOlder() const override {
-        return results().inputs && lastRun_ && Kind::differ(*lastRun_, presentInputs());
+        return hasResults() && (isStale() || !lastRun_ || Kind::differ(*lastRun_, presentInputs()));
     }
 
     void restore(const DocumentState& earlier) override {
-        const State& wanted = static_cast<const StateOf<State>&>(earlier).value;
+        const State& wanted = valueOf(earlier);
+        const ProjectConditions before = conditions();
         this->project_ = wanted.project;
         lastRun_ = wanted.lastRun;
         droppedError_ = wanted.droppedError;
+        restoreLink(wanted.linkedWindow, before);
+        setMissingZoneFile(wanted.missingZoneFile);
         showRestored(wanted.stale);
+    }
+
+    /// A link that the other side has made or ended is there, or gone, whatever is undone here;
+    /// and while it stands, so is the name of its zone file.
+    void takeForeignChanges() override {
+        const State& known = valueOf(history().present());
+        const ProjectLoads& now = loads();
+        if (known.linkedWindow == linkedWindow() && known.project.loads.file == now.file) return;
+        rewriteHistory([this, &now](const DocumentState& state) {
+            State rewritten = valueOf(state);
+            const bool linked = rewritten.linkedWindow != 0 && linkedWindow() != 0;
+            rewritten.linkedWindow = linkedWindow();
+            rewritten.project.loads.linkType = now.linkType;
+            if (linked) rewritten.project.loads.file = now.file;
+            return moment(std::move(rewritten));
+        });
     }
 
     /// What the figures on show came from. Before a first run they are those of the design itself.
@@ -90,9 +121,18 @@ class ProjectDesign : protected HoldsProject<typename Kind::Project>, public Gro
         std::optional<Inputs> lastRun;
         int droppedError;
         bool stale;
+        int linkedWindow;  ///< its number, 0 without a link
+        std::string missingZoneFile;
 
         friend bool operator==(const State&, const State&) = default;
     };
+
+    static const State& valueOf(const DocumentState& state) {
+        return static_cast<const StateOf<State>&>(state).value;
+    }
+    static StatePointer moment(State value) {
+        return std::make_shared<StateOf<State>>(std::move(value));
+    }
 
     /// What a run would take now, with the loads that it would transfer first.
     Inputs presentInputs() const {
@@ -101,8 +141,10 @@ class ProjectDesign : protected HoldsProject<typename Kind::Project>, public Gro
         return now;
     }
 
-    /// What the last run started from, whether it came to an end or not.
+    /// What the results answer: the inputs of the last run, unless a box has told why it failed.
     std::optional<Inputs> lastRun_;
+    /// The inputs of the run at hand.
+    std::optional<Inputs> attempted_;
 };
 
 }  // namespace varnholt

@@ -53,6 +53,15 @@ void ResultsTab::paintGoverning(Mode greyed) {
     for (const ResultRow& row : rows_) paint(row.label, row.isLength ? colours::black : colour);
 }
 
+void ResultsTab::paintPlain() {
+    const auto paint = [this](const std::string& label) {
+        for (const Mode mode : modes)
+            control(elementName(label, mode)).setForecolor(colours::black).setBold(false);
+    };
+    paint("CATopLabel");
+    for (const ResultRow& row : rows_) paint(row.label);
+}
+
 std::vector<ResultRow> unitRows(const GroundDesign& design,
                                 const std::function<const LoadsRollUp&()>& rollUp,
                                 const std::function<LoadsInputs()>& inputs) {

@@ -28,6 +28,8 @@ class ResultsTab : public DesignTab {
     void setUnitLabels() override;
     /// Greys one mode's figures and paints the other's in its colour.
     void paintGoverning(Mode greyed);
+    /// As before the first run.
+    void paintPlain();
 
  private:
     std::vector<ResultRow> rows_;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "forms/numeric_field.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <utility>
 
 #include "basis/number_text.h"
@@ -15,10 +17,12 @@ StoredNumber::StoredNumber(double* value)
 
 StoredNumber::StoredNumber(std::int16_t* value)
     : get_([value] { return static_cast<double>(*value); }),
-      set_([value](double x) { *value = toInteger(x); }) {}
+      set_([value](double x) { *value = toInteger(x); }),
+      largest_(std::numeric_limits<std::int16_t>::max()) {}
 
-StoredNumber::StoredNumber(std::function<double()> get, std::function<void(double)> set)
-    : get_(std::move(get)), set_(std::move(set)) {}
+StoredNumber::StoredNumber(std::function<double()> get, std::function<void(double)> set,
+                           double largest)
+    : get_(std::move(get)), set_(std::move(set)), largest_(largest) {}
 
 void NumericFields::add(NumericFieldRow row) {
     const std::string name = row.control;
@@ -37,7 +41,7 @@ void NumericFields::textChanged(const std::string& control) {
         store(row);
         const bool refused = applyRange(row);
         if (refused)
-            refuse(row, typed);
+            refuse(row, typed, false);
         else
             form_.control(control).setRefused(false);
         if (row.changed) row.changed();
@@ -45,28 +49,30 @@ void NumericFields::textChanged(const std::string& control) {
     } catch (const RunTimeError&) {
         // A number that the field cannot hold: the field says so.
         if (manner_.anyErrorStoresZero) row.stored.set(0);
-        refuse(row, typed);
+        refuse(row, typed, true);
     }
 }
 
-void NumericFields::refuse(const NumericFieldRow& row, const std::string& typed) {
-    const auto limit = [&](double value, double none) {
-        return value == none ? std::string() : shownAs(row, value);
-    };
+void NumericFields::refuse(const NumericFieldRow& row, const std::string& typed, bool tooLarge) {
     constexpr double unlimited = 1e308;
-    refused_ = {row.control, typed, limit(row.lowest, -unlimited), limit(row.highest, unlimited),
-                shownAs(row, row.stored.get())};
+    const double highest = std::min(row.highest, row.stored.largest());
+    std::erase_if(refused_, [&](const RefusedValue& old) { return old.control == row.control; });
+    refused_.push_back({row.control, typed, shownAs(row, row.lowest),
+                        highest < unlimited ? shownAs(row, highest) : std::string(),
+                        shownAs(row, row.stored.get()), row.lowestIsRefused,
+                        tooLarge && highest >= unlimited});
     form_.control(row.control).setRefused(true);
 }
 
 std::optional<RefusedValue> NumericFields::refused() const {
-    if (!refused_ || !form_.control(refused_->control).refused()) return std::nullopt;
-    return refused_;
+    for (auto last = refused_.rbegin(); last != refused_.rend(); ++last)
+        if (form_.control(last->control).refused()) return *last;
+    return std::nullopt;
 }
 
 void NumericFields::forgetRefused() {
     for (const std::string& name : order_) form_.control(name).setRefused(false);
-    refused_.reset();
+    refused_.clear();
 }
 
 void NumericFields::store(const NumericFieldRow& row) {

@@ -21,14 +21,18 @@ class StoredNumber {
  public:
     StoredNumber(double* value);        // NOLINT(google-explicit-constructor)
     StoredNumber(std::int16_t* value);  // NOLINT(google-explicit-constructor)
-    StoredNumber(std::function<double()> get, std::function<void(double)> set);
+    StoredNumber(std::function<double()> get, std::function<void(double)> set,
+                 double largest = 1e308);
 
+    /// What it can hold: a 16-bit number ends at 32767.
+    double largest() const { return largest_; }
     double get() const { return get_(); }
     void set(double value) const { set_(value); }
 
  private:
     std::function<double()> get_;
     std::function<void(double)> set_;
+    double largest_ = 1e308;
 };
 
 /// A text in each system of units; often the same one.
@@ -84,6 +88,8 @@ struct RefusedValue {
     std::string typed;
     std::string lowest, highest;  ///< what it would have taken; empty for no limit
     std::string taken;            ///< what stands in its place
+    bool lowestIsRefused = false;
+    bool tooLarge = false;  ///< for the field to hold at all, whatever its limits
 };
 
 /// What the fields of one form have in common.
@@ -125,14 +131,15 @@ class NumericFields {
     void store(const NumericFieldRow& row);
     static double fallbackOf(const NumericFieldRow& row);
     bool applyRange(const NumericFieldRow& row);
-    void refuse(const NumericFieldRow& row, const std::string& typed);
+    void refuse(const NumericFieldRow& row, const std::string& typed, bool tooLarge);
     std::string shownAs(const NumericFieldRow& row, double value) const;
     UnitSystem units() const;
     std::string_view formatOf(const NumericFieldRow& row) const;
 
     Form& form_;
     NumericFieldManner manner_;
-    std::optional<RefusedValue> refused_;
+    /// By the fields that carry the mark, the last one last.
+    std::vector<RefusedValue> refused_;
     std::map<std::string, NumericFieldRow> rows_;
     std::vector<std::string> order_;
 };

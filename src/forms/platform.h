@@ -48,7 +48,7 @@ class Platform {
     virtual void closed(Form& form) = 0;
     /// The form's window came to the front.
     virtual void activated(Form& form) = 0;
-    /// Shows the form and returns when it has closed itself (Form::closing()).
+    /// Shows the form and returns when it has closed itself.
     virtual void runModal(Form& form) = 0;
 
     virtual std::string clipboard() = 0;

@@ -127,6 +127,8 @@ constexpr int noticeFindZoneFile = 1235;
 constexpr int noticeFileIncomplete = 1236;
 constexpr int noticeValueOutsideRange = 1237;
 constexpr int noticeValueTooSmall = 1238;
+constexpr int noticeValueNotAbove = 1239;
+constexpr int noticeValueTooLarge = 1240;
 
 // Lines of the status bar for the entries of the menus.
 constexpr int newBoreholeHint = 1300;

@@ -8,7 +8,9 @@
 
 namespace varnholt {
 ChildWindow::ChildWindow(std::string formName, Varnmain& main)
-    : Form(std::move(formName), main.platform(), main.texts()), main_(main) {}
+    : Form(std::move(formName), main.platform(), main.texts()),
+      main_(main),
+      serial_(main.nextSerial()) {}
 
 UnitSystem ChildWindow::units() const {
     return hasUnitSwitch() && control("MetricCheck").checked() ? UnitSystem::metric
@@ -35,18 +37,21 @@ void ChildWindow::actionEnds(const UserAction& action) {
     const bool open = main_.isOpen(this);
     const std::string name = open ? stepName(action) : std::string();
     const std::string visit = open ? visitOf(action) : std::string();
+    const std::string visitOfAll = visit.empty() ? visit : std::to_string(serial_) + "." + visit;
+    const int number = main_.actionNumber(visitOfAll);
     if (open) {
-        endStep(name, visit);
+        endStep(name, visit, number);
         if (action.verb == Verb::leave) history_.endVisit();
         refreshNotice();
     }
-    main_.endAction(name, visit.empty() ? visit : formName() + "." + visit,
-                    action.verb == Verb::leave);
+    main_.endAction(name, visitOfAll, action.verb == Verb::leave, number);
 }
 
 /// Typing in a field up to its leaving is one change, and so is a slider's drag.
 std::string ChildWindow::visitOf(const UserAction& action) const {
-    if (action.verb == Verb::leave || visitedField() == action.control) return action.control;
+    const Control& acted = control(action.control);
+    if (action.verb == Verb::leave || visitedField() == action.control || acted.editable())
+        return action.control;
     return gesture().empty() ? gesture() : gesture() + " " + std::to_string(gestureNumber());
 }
 
@@ -60,21 +65,25 @@ std::string ChildWindow::stepName(const UserAction& action) const {
 }
 
 void ChildWindow::beginStep() {
-    if (history_.hasStarted()) history_.absorb(state(), staysSaved());
+    if (!history_.hasStarted()) return;
+    takeForeignChanges();
+    history_.absorb(state(), staysSaved());
 }
 
-void ChildWindow::endStep(const std::string& name, const std::string& visit) {
-    if (history_.hasStarted()) history_.record(state(), name, visit);
+void ChildWindow::endStep(const std::string& name, const std::string& visit, int action) {
+    if (!history_.hasStarted()) return;
+    history_.record(state(), name, visit, action);
+    stepRecorded();
 }
 
 void ChildWindow::touch() { main_.touch(*this); }
 
 void ChildWindow::changedByAnother(const std::string& step, const std::string& visit,
-                                   bool visitEnds) {
+                                   bool visitEnds, int action) {
     if (step.empty())
         beginStep();
     else
-        endStep(step, visit);
+        endStep(step, visit, action);
     if (visitEnds) history_.endVisit();
     refreshNotice();
 }
@@ -83,16 +92,27 @@ void ChildWindow::markSaved() {
     if (history_.hasStarted()) history_.markSaved(state());
 }
 
+/// This window last, since it is the one that the user looks at.
+std::vector<ChildWindow*> ChildWindow::withStep(int action, int (DocumentHistory::*of)() const) {
+    std::vector<ChildWindow*> found;
+    for (ChildWindow* other : main_.windows())
+        if (other != this && action != 0 && (other->history_.*of)() == action)
+            found.push_back(other);
+    found.push_back(this);
+    for (ChildWindow* window : found) window->beginStep();
+    return found;
+}
+
 void ChildWindow::undo() {
     if (!history_.canUndo()) return;
-    beginStep();
-    goTo(history_.undo());
+    for (ChildWindow* window : withStep(history_.undoAction(), &DocumentHistory::undoAction))
+        window->goTo(window->history_.undo());
 }
 
 void ChildWindow::redo() {
     if (!history_.canRedo()) return;
-    beginStep();
-    goTo(history_.redo());
+    for (ChildWindow* window : withStep(history_.redoAction(), &DocumentHistory::redoAction))
+        window->goTo(window->history_.redo());
 }
 
 void ChildWindow::goTo(const DocumentState& state) {
@@ -104,8 +124,10 @@ void ChildWindow::goTo(const DocumentState& state) {
 }
 
 Notice ChildWindow::refusedNotice(const RefusedValue& refused) const {
-    const int words =
-        refused.highest.empty() ? Text::noticeValueTooSmall : Text::noticeValueOutsideRange;
+    const int words = refused.tooLarge          ? Text::noticeValueTooLarge
+                      : refused.lowestIsRefused ? Text::noticeValueNotAbove
+                      : refused.highest.empty() ? Text::noticeValueTooSmall
+                                                : Text::noticeValueOutsideRange;
     return {filledIn(text(words), {control(refused.control).accessibleName(), refused.typed,
                                    refused.lowest, refused.highest, refused.taken})};
 }
@@ -134,15 +156,18 @@ void ChildWindow::refreshNotice() {
         .setVisible(acts);
 }
 
-DocumentStep::DocumentStep(ChildWindow& window, std::string name)
-    : main_(window.main()), window_(&window), name_(std::move(name)) {
-    window.beginStep();
+DocumentStep::DocumentStep(std::vector<ChildWindow*> windows, std::string name)
+    : windows_(std::move(windows)), main_(windows_.front()->main()), name_(std::move(name)) {
+    for (ChildWindow* window : windows_) window->beginStep();
 }
 
 DocumentStep::~DocumentStep() {
-    if (!main_.isOpen(window_)) return;
-    window_->endStep(name_);
-    window_->refreshNotice();
+    const int number = main_.actionNumber({});
+    for (ChildWindow* window : windows_) {
+        if (!main_.isOpen(window)) continue;
+        window->endStep(name_, {}, number);
+        window->refreshNotice();
+    }
 }
 
 }  // namespace varnholt

@@ -49,14 +49,25 @@ class ChildWindow : public Form {
     /// The document is new, or another one has been opened: nothing can be undone.
     /// @param saved  it counts as saved
     void startHistory(bool saved = true);
+    /// Takes the last step back, or does it again, here and in the other windows that it has
+    /// changed.
     void undo();
     void redo();
+    /// No other window of the program has or had this number.
+    int serial() const { return serial_; }
     /// Before another window's action changes this document: what it changes is a step here too.
     void touch();
     /// The action that touched this document has ended; without a name it makes no step.
-    void changedByAnother(const std::string& step, const std::string& visit, bool visitEnds);
+    void changedByAnother(const std::string& step, const std::string& visit, bool visitEnds,
+                          int action);
+    /// The windows whose last step, or next to be redone, is of the action.
+    std::vector<ChildWindow*> withStep(int action, int (DocumentHistory::*of)() const);
     /// What comes is changed from the document as it stands now.
     void beginStep();
+    /// Gives every state of the history what is no matter of steps.
+    void rewriteHistory(const std::function<StatePointer(const DocumentState&)>& rewritten) {
+        history_.rewrite(rewritten);
+    }
 
     /// Shows the notices that hold now.
     void refreshNotice();
@@ -74,7 +85,12 @@ class ChildWindow : public Form {
     /// After undo and redo: whether the document counts as changed.
     virtual void savedStateReached(bool /*atSaved*/) {}
     /// What holds now, the most pressing first.
-    virtual std::vector<Notice> notices() const { return {}; }
+    virtual std::vector<Notice> notices() { return {}; }
+    /// Before a step begins: what others have changed that is no matter of steps, such as the link,
+    /// goes into every state of the history.
+    virtual void takeForeignChanges() {}
+    /// A step has been recorded, by whatever window's action.
+    virtual void stepRecorded() {}
     /// Adds `NoticeLabel` and `NoticeCommand`, which show while there is something to tell.
     void addNotice();
     /// The document has been saved as it stands.
@@ -87,28 +103,29 @@ class ChildWindow : public Form {
     Notice refusedNotice(const RefusedValue& refused) const;
 
  private:
-    void endStep(const std::string& name, const std::string& visit = {});
+    void endStep(const std::string& name, const std::string& visit, int action);
     std::string visitOf(const UserAction& action) const;
     void goTo(const DocumentState& state);
 
     Varnmain& main_;
+    int serial_;
     DocumentHistory history_;
     std::string stepName_;
     std::function<void()> noticeAction_;
 };
 
-/// A command that changes a window's document from outside the window's own actions, as one step
-/// of its history from here to the end of the scope.
+/// A command that changes documents from outside their windows' own actions, as one step of their
+/// histories from here to the end of the scope.
 class DocumentStep {
  public:
-    DocumentStep(ChildWindow& window, std::string name);
+    DocumentStep(std::vector<ChildWindow*> windows, std::string name);
     ~DocumentStep();
     DocumentStep(const DocumentStep&) = delete;
     DocumentStep& operator=(const DocumentStep&) = delete;
 
  private:
+    std::vector<ChildWindow*> windows_;
     Varnmain& main_;
-    ChildWindow* window_;
     std::string name_;
 };
 

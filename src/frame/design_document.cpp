@@ -84,10 +84,9 @@ void DesignDocument::saved() {
     changed_ = false;
 }
 
-/// Every action that has brought the document into another state counts as a change.
-void DesignDocument::actionEnds(const UserAction& action) {
-    ChildWindow::actionEnds(action);
-    if (history().hasStarted() && !history().isAtSaved()) changed_ = true;
+/// Every step that has brought the document into another state counts as a change.
+void DesignDocument::stepRecorded() {
+    if (!history().isAtSaved()) changed_ = true;
 }
 
 std::string DesignDocument::filePath() const {

@@ -57,8 +57,10 @@ class DesignDocument : public ChildWindow {
     /// Writes the project information into its fields.
     void showInformation();
     void setStale(bool stale);
-    void actionEnds(const UserAction& action) override;
     void savedStateReached(bool atSaved) override { changed_ = !atSaved; }
+    void stepRecorded() override;
+    /// By something else than a step.
+    void documentChanged() { changed_ = true; }
 
  private:
     void registerValues();

@@ -21,19 +21,21 @@ void DocumentHistory::absorb(StatePointer now, bool stillSaved) {
     if (saved) savedRevision_ = lastRevision_;
 }
 
-void DocumentHistory::record(StatePointer now, const std::string& name, const std::string& visit) {
+void DocumentHistory::record(StatePointer now, const std::string& name, const std::string& visit,
+                             int action) {
     if (states_[at_].reached->equals(*now)) return;
-    states_.resize(at_ + 1);
-    steps_.resize(at_);
+    states_.erase(states_.begin() + static_cast<std::ptrdiff_t>(at_) + 1, states_.end());
+    steps_.erase(steps_.begin() + static_cast<std::ptrdiff_t>(at_), steps_.end());
     const bool same = !visit.empty() && visit == visit_ && at_ > 0;
     visit_ = visit;
     if (!same) {
+        steps_.push_back({name, action, now->weightBeside(*states_[at_].reached)});
         states_.push_back(moment(std::move(now)));
-        steps_.push_back(name);
         ++at_;
         return forgetOldest();
     }
     if (!states_[at_ - 1].reached->equals(*now)) {
+        steps_.back().weight = now->weightBeside(*states_[at_ - 1].reached);
         states_[at_] = moment(std::move(now));
         return;
     }
@@ -45,10 +47,25 @@ void DocumentHistory::record(StatePointer now, const std::string& name, const st
 }
 
 void DocumentHistory::forgetOldest() {
-    if (steps_.size() <= mostSteps) return;
-    states_.erase(states_.begin());
-    steps_.erase(steps_.begin());
-    --at_;
+    std::size_t bytes = 0;
+    std::size_t kept = 0;
+    while (kept < steps_.size() && kept < mostSteps) {
+        bytes += steps_[steps_.size() - 1 - kept].weight;
+        if (bytes > mostBytes && kept > 0) break;
+        ++kept;
+    }
+    const auto forgotten = static_cast<std::ptrdiff_t>(steps_.size() - kept);
+    states_.erase(states_.begin(), states_.begin() + forgotten);
+    steps_.erase(steps_.begin(), steps_.begin() + forgotten);
+    at_ -= static_cast<std::size_t>(forgotten);
+}
+
+void DocumentHistory::rewrite(const std::function<StatePointer(const DocumentState&)>& rewritten) {
+    for (Moment& moment : states_) {
+        const bool alike = moment.reached == moment.left;
+        moment.reached = rewritten(*moment.reached);
+        moment.left = alike ? moment.reached : rewritten(*moment.left);
+    }
 }
 
 void DocumentHistory::markSaved(StatePointer now) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -15,6 +16,8 @@ class DocumentState {
     virtual ~DocumentState() = default;
     /// The other is a state of the same document.
     virtual bool equals(const DocumentState& other) const = 0;
+    /// About how many bytes it takes beyond what it shares with the other, an earlier one.
+    virtual std::size_t weightBeside(const DocumentState& /*earlier*/) const { return 0; }
 };
 
 /// The state of a document as a plain value.
@@ -36,6 +39,8 @@ using StatePointer = std::shared_ptr<const DocumentState>;
 class DocumentHistory {
  public:
     static constexpr std::size_t mostSteps = 200;
+    /// Where steps change nearly everything, fewer of them are kept.
+    static constexpr std::size_t mostBytes = 16'000'000;
 
     /// The document begins, or begins anew, with this state; nothing can be undone.
     /// @param saved  it counts as saved: it is new, or as its file holds it
@@ -49,7 +54,9 @@ class DocumentHistory {
     /// The user has brought the document into this state.
     /// @param name  what was done: "Remove Zone 3"
     /// @param visit changes in a row with the same visit that is not empty are one step
-    void record(StatePointer now, const std::string& name, const std::string& visit = {});
+    /// @param action number of the action that did it, the same in every document that it changed
+    void record(StatePointer now, const std::string& name, const std::string& visit = {},
+                int action = 0);
     /// The next change is a step of its own, whatever its visit.
     void endVisit() { visit_.clear(); }
 
@@ -61,12 +68,21 @@ class DocumentHistory {
     bool canUndo() const { return at_ > 0; }
     bool canRedo() const { return at_ + 1 < states_.size(); }
     /// Name of the step that would be undone, or redone; empty for none.
-    std::string undoName() const { return canUndo() ? steps_[at_ - 1] : std::string(); }
-    std::string redoName() const { return canRedo() ? steps_[at_] : std::string(); }
+    std::string undoName() const { return canUndo() ? steps_[at_ - 1].name : std::string(); }
+    std::string redoName() const { return canRedo() ? steps_[at_].name : std::string(); }
+    /// Number of the action that made that step; 0 for none.
+    int undoAction() const { return canUndo() ? steps_[at_ - 1].action : 0; }
+    int redoAction() const { return canRedo() ? steps_[at_].action : 0; }
     /// Goes one step back or on, and gives the state to bring back: as it was when the step began,
     /// or when it had been done. Only where there is one.
     const DocumentState& undo();
     const DocumentState& redo();
+
+    /// As the document stands, as far as it is known here.
+    const DocumentState& present() const { return *states_[at_].left; }
+    /// What is no matter of steps has changed, such as the name of the file: every state has it.
+    /// @param rewritten  gives a state as it is from now on
+    void rewrite(const std::function<StatePointer(const DocumentState&)>& rewritten);
 
  private:
     /// Equal states may still differ in what was on show.
@@ -76,12 +92,18 @@ class DocumentHistory {
         int revision;
     };
 
+    struct Step {
+        std::string name;
+        int action;
+        std::size_t weight;
+    };
+
     Moment moment(StatePointer now) { return {now, now, ++lastRevision_}; }
     void forgetOldest();
 
     /// Step i leads from moment i to moment i + 1.
     std::vector<Moment> states_;
-    std::vector<std::string> steps_;
+    std::vector<Step> steps_;
     std::size_t at_ = 0;
     int lastRevision_ = 0;
     int savedRevision_ = 0;

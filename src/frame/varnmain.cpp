@@ -214,15 +214,23 @@ void Varnmain::touch(ChildWindow& window) {
     touched_.push_back(&window);
 }
 
-void Varnmain::endAction(const std::string& name, const std::string& visit, bool visitEnds) {
+int Varnmain::actionNumber(const std::string& visit) {
+    if (visit.empty() || visit != lastVisit_) ++actionNumber_;
+    lastVisit_ = visit;
+    return actionNumber_;
+}
+
+void Varnmain::endAction(const std::string& name, const std::string& visit, bool visitEnds,
+                         int number) {
+    if (visitEnds) lastVisit_.clear();
     if (--actions_ > 0) return;
     for (ChildWindow* window : std::exchange(touched_, {}))
-        window->changedByAnother(name, visit, visitEnds);
+        window->changedByAnother(name, visit, visitEnds, number);
     refreshUndo();
 }
 
 /// What a command of the menu changes is no step of its own unless the command says so.
-void Varnmain::actionEnds(const UserAction&) { endAction({}, {}, false); }
+void Varnmain::actionEnds(const UserAction&) { endAction({}, {}, false, 0); }
 
 std::vector<ChildWindow*> Varnmain::windows() const {
     std::vector<ChildWindow*> open;

@@ -69,7 +69,11 @@ class Varnmain : public Form {
     /// @param name, visit how the action calls its step, for the documents of other windows that
     ///                    it has changed too
     /// @param visitEnds   the visit ends with it
-    void endAction(const std::string& name, const std::string& visit, bool visitEnds);
+    /// @param number      of actionNumber
+    void endAction(const std::string& name, const std::string& visit, bool visitEnds, int number);
+    /// The number by which all documents call the action at hand; actions of one visit share it.
+    int actionNumber(const std::string& visit);
+    int nextSerial() { return ++lastSerial_; }
     /// An action is about to change the document of another window.
     void touch(ChildWindow& window);
     void actionBegins() override { beginAction(); }
@@ -149,6 +153,9 @@ class Varnmain : public Form {
     std::vector<Form*> modal_;
     std::vector<ChildWindow*> touched_;
     int actions_ = 0;
+    int lastSerial_ = 0;
+    int actionNumber_ = 0;
+    std::string lastVisit_;
     ChildWindow* active_ = nullptr;
     std::array<DesignSlots, 3> slots_;
     std::unique_ptr<Form> splash_;

@@ -88,7 +88,7 @@ bool frmZoneManage::autoSelect(std::size_t position) {
     const auto models = catalogue.models(activeSlot);
     try {
         MiniPump pump = autoSelectPump(models, zone.gains, zone.pump, evaluationConditions());
-        zones().edit(position).pump = std::move(pump);
+        if (!(pump == zone.pump)) zones().edit(position).pump = std::move(pump);
     } catch (const RunTimeError& error) {
         // The subscript of no model, unless the series is too long to be searched at all.
         if (error.number() != 9 || models.size() > selectableModels) throw;

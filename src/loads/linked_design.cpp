@@ -82,6 +82,9 @@ void LinkedDesign::joinLoads(LoadsWindow& loads) {
     common_.loads.linkType = loads.formName();
     missingZoneFile_.clear();
     loads.setCaption(linkedCaption(loads, *this));
+    loads.setLight(true);
+    showLinkLight();
+    passProjectData();
 }
 
 void LinkedDesign::leaveLoads() {
@@ -128,6 +131,7 @@ void LinkedDesign::TransferLoadsVariablesIn() {
     flashLights();
     if (transferZones()) {
         calculationNeeded();
+        documentChanged();
         loadsChanged();
     }
     passProjectData();
@@ -183,8 +187,6 @@ void LinkedDesign::takeZonesOf(LoadsWindow& loads) {
     else
         loads.takeSeries(series);
     TransferLoadsVariablesIn();
-    showLinkLight();
-    loads.setLight(true);
     // Also a series that the catalogue at hand does not have.
     if (!series.empty()) common_.loads.activeSeries = series;
     if (loads.conditions().inletTemp == stored.inletTemp &&
@@ -236,23 +238,26 @@ const SharedZones& LinkedDesign::presentZones() const {
     return link_ ? LoadsHome()->ZoneList() : common_.loads.zones;
 }
 
-void LinkedDesign::restoreLink() {
-    const std::string wanted = common_.loads.linkType;
-    auto* loads = dynamic_cast<LoadsWindow*>(wanted.empty() ? nullptr : main().find(wanted));
-    if (LoadsHome() != loads) {
+int LinkedDesign::linkedWindow() const { return link_ ? LoadsHome()->serial() : 0; }
+
+void LinkedDesign::restoreLink(int windowNumber, const ProjectConditions& before) {
+    LoadsWindow* wanted = nullptr;
+    for (ChildWindow* window : main().windows())
+        if (windowNumber != 0 && window->serial() == windowNumber)
+            wanted = dynamic_cast<LoadsWindow*>(window);
+    if (LoadsHome() != wanted) {
         if (link_) leaveLoads();
-        common_.loads.linkType.clear();
-        if (loads != nullptr) {
-            joinLoads(*loads);
-            loads->setLight(true);
-            passProjectData();
+        if (wanted != nullptr) {
+            wanted->switchUnits(units());
+            joinLoads(*wanted);
         }
     }
-    common_.loads.linkType = loads == nullptr ? std::string() : wanted;
+    common_.loads.linkType = wanted == nullptr ? std::string() : wanted->formName();
     showLinkLight();
-    for (const Mode mode : modes) passTemperature(mode);
-    passFlow();
-    refreshLoadsPumps();
+    for (const Mode mode : modes)
+        if (before.inletTemp[mode] != common_.conditions.inletTemp[mode]) passTemperature(mode);
+    if (before.flowRate != common_.conditions.flowRate) passFlow();
+    valuePassed_ = false;
 }
 
 void LinkedDesign::activated() {

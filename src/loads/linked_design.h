@@ -32,8 +32,7 @@ class LinkedDesign : public DesignDocument {
     /// The last save of the zone file was cancelled.
     bool zoneSaveCancelled = false;
 
-    /// Makes the design take its loads from the window: the window's title, and that its later
-    /// unit switches and its end reach the design. No lights, no transfer.
+    /// Makes the design take its loads from the window, and shows it on both sides. No transfer.
     void joinLoads(LoadsWindow& loads);
     /// Ends the link, on both sides; the design keeps its copy of the zones.
     void leaveLoads();
@@ -95,9 +94,11 @@ class LinkedDesign : public DesignDocument {
     void addLinkLights();
     /// The zones that a run would take: while linked the window's, else the design's own.
     const SharedZones& presentZones() const;
-    /// After undo and redo: the link follows `linkType`, and the linked window takes temperatures
-    /// and flow.
-    void restoreLink();
+    /// Number of the linked loads window, 0 without a link.
+    int linkedWindow() const;
+    /// After undo and redo: links with the window of that number again, or ends the link, and
+    /// hands on those temperatures and that flow which have come back.
+    void restoreLink(int windowNumber, const ProjectConditions& before);
 
  private:
     void registerLoadsValues();

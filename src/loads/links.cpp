@@ -31,11 +31,7 @@ LoadsWindow* chooseLoadsWindow(Varnmain& main) {
 /// Shows the design's link on both windows and, for the first time, brings its loads over.
 void linkWithTransfer(LinkedDesign& design, LoadsWindow& loads) {
     design.joinLoads(loads);
-    design.element("imgLinkLight", 6).setVisible(false);
     design.TransferLoadsVariablesIn();
-    design.showLinkLight();
-    loads.setLight(true);
-    design.refreshNotice();
 }
 
 /// A design without a series takes the loads window's: no series is no choice.
@@ -49,7 +45,7 @@ void linkDesign(LinkedDesign& design) {
     Varnmain& main = design.main();
     LoadsWindow* loads = chooseLoadsWindow(main);
     if (loads == nullptr || !main.isOpen(&design)) return;
-    const DocumentStep step(design, design.text(Text::linkLoads));
+    const DocumentStep step({&design, loads}, design.text(Text::linkLoads));
     loads->switchUnits(design.units());
     linkWithTransfer(design, *loads);
     shareSeries(design, *loads);
@@ -65,7 +61,7 @@ void linkLoadsWindow(LoadsWindow& loads) {
         partner = design;
     }
     if (freeDesigns != 1) return;
-    const DocumentStep step(loads, loads.text(Text::linkLoads));
+    const DocumentStep step({&loads, partner}, loads.text(Text::linkLoads));
     partner->switchUnits(loads.units());
     linkWithTransfer(*partner, loads);
     partner->takeSeries(loads.activeSeries());
@@ -109,7 +105,14 @@ void mnuLink_Click(Varnmain& main) {
 void mnuUnlink_Click(Varnmain& main) {
     ChildWindow* active = main.activeWindow();
     if (active == nullptr) return;
-    const DocumentStep step(*active, main.text(Text::unlinkLoads));
+    std::vector<ChildWindow*> changed{active};
+    for (LinkedDesign* design : designsLinkedBy(*active)) {
+        changed.push_back(design);
+        changed.push_back(design->LoadsHome());
+    }
+    std::sort(changed.begin(), changed.end());
+    changed.erase(std::unique(changed.begin(), changed.end()), changed.end());
+    const DocumentStep step(changed, main.text(Text::unlinkLoads));
     cleanupLinks(*active);
 }
 

@@ -48,15 +48,16 @@ void LoadsWindow::switchLinkedUnits() {
     for (const Link* link : std::vector<Link*>(links_.all())) link->design().switchUnits(units());
 }
 
-/// The designs tell at once that their results are older than the loads.
 void LoadsWindow::actionEnds(const UserAction& action) {
     ChildWindow::actionEnds(action);
+    refreshLinkedNotices();
+}
+
+void LoadsWindow::refreshLinkedNotices() {
     for (const Link* link : links_.all()) link->design().refreshNotice();
 }
 
-void LoadsWindow::savedStateReached(bool) {
-    for (const Link* link : links_.all()) link->design().refreshNotice();
-}
+void LoadsWindow::savedStateReached(bool) { refreshLinkedNotices(); }
 
 void LoadsWindow::unloaded() { cleanupLinks(*this); }
 

@@ -73,6 +73,9 @@ class LoadsWindow : public ChildWindow {
     virtual void showHoursAndDays(bool shown) = 0;
 
     void actionEnds(const UserAction& action) override;
+    void stepRecorded() override { refreshLinkedNotices(); }
+    /// The designs tell at once that their results are older than the loads.
+    void refreshLinkedNotices();
     /// The window goes: its links end.
     void unloaded() override;
 

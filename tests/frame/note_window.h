@@ -81,7 +81,7 @@ class NoteWindow : public ChildWindow {
         show();
     }
     void savedStateReached(bool atSaved) override { changed = !atSaved; }
-    std::vector<Notice> notices() const override {
+    std::vector<Notice> notices() override {
         std::vector<Notice> all = holding;
         if (const auto refused = fields().refused()) all.push_back(refusedNotice(*refused));
         return all;

@@ -264,14 +264,29 @@ TEST_F(UndoTest, EndsWithItsWindowThatAnActionOfItsOwnCloses) {
 
 // One window's action may change another window's document.
 
-TEST_F(UndoTest, OfAnotherDocumentThatAnActionHasChangedIsAStepOfTheSameName) {
+TEST_F(UndoTest, OfAnActionThatHasChangedTwoDocumentsIsOneStepOfBoth) {
     NoteWindow& other = newNote("frmOther");
     window.whenLineAdded = [&] { other.takeLines(window.note.lines); };
     window.click("AddCommand");
     EXPECT_EQ(undoCaption(), "Undo Add Line");  // of the other one, which is in front
     undo();
     EXPECT_EQ(other.note.lines, 0);
+    EXPECT_EQ(window.note.lines, 0);
+    redo();
+    EXPECT_EQ(other.note.lines, 1);
     EXPECT_EQ(window.note.lines, 1);
+}
+
+TEST_F(UndoTest, OfAnActionOnTwoDocumentsLeavesTheOneAloneThatHasMovedOn) {
+    NoteWindow& other = newNote("frmOther");
+    window.whenLineAdded = [&] { other.takeLines(window.note.lines); };
+    window.click("AddCommand");
+    window.whenLineAdded = {};
+    window.click("AddCommand");
+    main.activate(other);
+    undo();
+    EXPECT_EQ(other.note.lines, 0);
+    EXPECT_EQ(window.note.lines, 2);
 }
 
 TEST_F(UndoTest, OfAnotherDocumentHasNoStepForWhatItWasToldWithoutAnAction) {
@@ -293,7 +308,7 @@ TEST_F(UndoTest, OfAnActionInsideAnotherIsOneStep) {
 
 TEST_F(UndoTest, OfAMenuCommandIsAStepWhereTheCommandSaysSo) {
     main.setCommand("mnuLink", CommandNeeds::anyWindow, [this] {
-        const DocumentStep step(window, "Link");
+        const DocumentStep step({&window}, "Link");
         window.note.lines = 9;
     });
     main.setCommand("mnuUnlink", CommandNeeds::anyWindow, [this] { window.note.lines = 4; });
@@ -310,7 +325,7 @@ TEST_F(UndoTest, OfAMenuCommandIsAStepWhereTheCommandSaysSo) {
 
 TEST_F(UndoTest, OfAMenuCommandThatClosesTheWindowIsNone) {
     main.setCommand("mnuLink", CommandNeeds::anyWindow, [this] {
-        const DocumentStep step(window, "Link");
+        const DocumentStep step({&window}, "Link");
         window.note.lines = 9;
         main.close(window);
     });

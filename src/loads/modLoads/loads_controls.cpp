@@ -77,11 +77,11 @@ void ZoneWindow::addSelectFrame() {
         .in("LOZoneFrame")
         .setVisible(false);
     add("LOMfgLabel", ControlKind::label, Text::manufacturer).in(frame);
-    add("LOMfgCombo", ControlKind::combo).in(frame);
+    add("LOMfgCombo", ControlKind::combo).captionedBy("LOMfgLabel").in(frame);
     add("LOSeriesLabel", ControlKind::label, Text::series).in(frame);
-    add("LOSeriesCombo", ControlKind::combo).in(frame);
+    add("LOSeriesCombo", ControlKind::combo).captionedBy("LOSeriesLabel").in(frame);
     add("LOPumpNameComboLabel", ControlKind::label, Text::model).in(frame);
-    add("LOPumpNameCombo", ControlKind::combo).in(frame);
+    add("LOPumpNameCombo", ControlKind::combo).captionedBy("LOPumpNameComboLabel").in(frame);
     add("LONumberOfUnitsLabel(0)", ControlKind::label, Text::numberOfUnits).in(frame);
     add("LONumberOfUnitsText(0)", ControlKind::text).in(frame).setText(kind_.firstUnits);
     add("LOSelectPumpCommand", ControlKind::button, Text::takeSelectedPump).in(frame);
@@ -113,11 +113,11 @@ void ZoneWindow::addCatalogueFrame() {
     const std::string frame = "HPCatalogueFrame";
     add(frame, ControlKind::frame, Text::heatPumpCatalogue);
     add("HPManufacturerLabel", ControlKind::label, Text::manufacturer).in(frame);
-    add("HPManufacturerCombo", ControlKind::combo).in(frame);
+    add("HPManufacturerCombo", ControlKind::combo).captionedBy("HPManufacturerLabel").in(frame);
     add("HPSeriesLabel", ControlKind::label, Text::series).in(frame);
-    add("HPSeriesCombo", ControlKind::combo).in(frame);
+    add("HPSeriesCombo", ControlKind::combo).captionedBy("HPSeriesLabel").in(frame);
     add("HPPumpListLabel", ControlKind::label, Text::pumpsOfSeries).in(frame);
-    add("HPPumpList", ControlKind::list).in(frame);
+    add("HPPumpList", ControlKind::list).captionedBy("HPPumpListLabel").in(frame);
     add("LOPumpChart", ControlKind::image, Text::pumpChart).in(frame);
 }
 

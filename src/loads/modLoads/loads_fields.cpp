@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <string>
 
 #include "basis/number_text.h"
@@ -15,8 +16,9 @@ namespace varnholt {
 namespace {
 
 constexpr double coldestWater = 0, hottestWater = 212;  // degF
-constexpr double freezing = 32;                         // degF
-constexpr double mostLoadFlow = 1000000;                // cfm or gpm
+constexpr double largestInteger = std::numeric_limits<std::int16_t>::max();
+constexpr double freezing = 32;           // degF
+constexpr double mostLoadFlow = 1000000;  // cfm or gpm
 constexpr ByMode<double> defaultInletTemp{85, 50};
 constexpr ByMode<double> defaultAirTemp{67, 70};
 constexpr ByMode<double> defaultWaterTemp{55, 100};
@@ -38,14 +40,15 @@ struct ZoneOnDisplay {
 
 /// A number of that zone; 0 while there is none.
 StoredNumber ofZone(const ZoneOnDisplay& zone, const std::function<double(const Zone&)>& get,
-                    const std::function<void(Zone&, double)>& set) {
+                    const std::function<void(Zone&, double)>& set, double largest = 1e308) {
     return {[zone, get] {
                 const Zone* shown = zone.shown();
                 return shown == nullptr ? 0 : get(*shown);
             },
             [zone, set](double value) {
                 if (Zone* edited = zone.edited()) set(*edited, value);
-            }};
+            },
+            largest};
 }
 
 /// The same for a pump's value by mode.
@@ -114,7 +117,7 @@ void ZoneWindow::addHoursFields() {
         addField({.control = elementName("LOHoursText", m),
                   .stored = ofZone(
                       zone, [m](const Zone& of) { return of.hours[m]; },
-                      [m](Zone& of, double x) { of.hours[m] = toInteger(x); }),
+                      [m](Zone& of, double x) { of.hours[m] = toInteger(x); }, largestInteger),
                   .format = "###0",
                   .beside = {.frame = "LODesignLoadsFrame",
                              .label = "LOLoadsLabel(1)",
@@ -153,7 +156,7 @@ void ZoneWindow::addUnitsField() {
     addField({.control = "LONumberOfUnitsText(1)",
               .stored = ofZone(
                   zone, [](const Zone& of) { return of.pump.number; },
-                  [](Zone& of, double x) { of.pump.number = toInteger(x); }),
+                  [](Zone& of, double x) { of.pump.number = toInteger(x); }, largestInteger),
               .lowest = 1,
               .fallback = 1,
               .format = "###0",

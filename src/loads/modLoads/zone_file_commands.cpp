@@ -72,6 +72,7 @@ bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
     setChanged(!whole && !ZoneList().empty());
     halfReadFile_ = whole ? std::string() : fileNameOf(path);
     refreshNotice();
+    refreshLinkedNotices();
     return whole;
 }
 
@@ -103,6 +104,7 @@ void ZoneWindow::LOSaveCommand_Click() {
     if (!saveZonesTo(*path)) return;
     takeFile(*path);
     halfReadFile_.clear();
+    keepFileInHistory();
     markSaved();
     setChanged(false);
     main().fileUsed(*path);

@@ -11,10 +11,10 @@ namespace varnholt {
 namespace {
 
 /// What undo brings back of a loads window. Which zone was on display comes along and makes no
-/// difference.
+/// difference. Whose building it is belongs to the linked design.
 struct LoadsState {
     LoadsDocument document;
-    std::vector<std::int16_t> linkedDesigns;  ///< their own numbers
+    std::vector<int> linkedDesigns;  ///< numbers of their windows
     int shownZone = -1;
 
     friend bool operator==(const LoadsState& a, const LoadsState& b) {
@@ -22,22 +22,41 @@ struct LoadsState {
     }
 };
 
-std::vector<std::int16_t> designsLinkedTo(const LoadsWindow& loads) {
-    std::vector<std::int16_t> numbers;
-    for (const Link* link : loads.links().all()) numbers.push_back(link->design().myID);
+class LoadsMoment : public StateOf<LoadsState> {
+ public:
+    using StateOf::StateOf;
+    std::size_t weightBeside(const DocumentState& earlier) const override {
+        constexpr std::size_t zoneInList = 32, wholeZone = 560;  // bytes, with what allocates them
+        const SharedZones& own = value.document.data.zones;
+        const SharedZones& others =
+            static_cast<const LoadsMoment&>(earlier).value.document.data.zones;
+        if (own.isSameAs(others)) return 0;
+        std::size_t bytes = own.size() * zoneInList;
+        for (std::size_t i = 0; i < own.size(); ++i)
+            if (i >= others.size() || !own.sharesZone(i, others)) bytes += wholeZone;
+        return bytes;
+    }
+};
+
+const LoadsState& valueOf(const DocumentState& state) {
+    return static_cast<const LoadsMoment&>(state).value;
+}
+
+std::vector<int> designsLinkedTo(const LoadsWindow& loads) {
+    std::vector<int> numbers;
+    for (const Link* link : loads.links().all()) numbers.push_back(link->design().serial());
     return numbers;
 }
 
 /// Ends and makes links until they are the wanted ones. The designs keep the zones that they have.
-void restoreLinks(LoadsWindow& loads, const std::vector<std::int16_t>& wanted) {
+void restoreLinks(LoadsWindow& loads, const std::vector<int>& wanted) {
     for (LinkedDesign* design : linkableDesigns(loads.main())) {
         const bool linked = design->LoadsHome() == &loads;
-        const bool toLink = std::count(wanted.begin(), wanted.end(), design->myID) > 0;
+        const bool toLink = std::count(wanted.begin(), wanted.end(), design->serial()) > 0;
         if (linked && !toLink) design->leaveLoads();
         if (toLink && design->link() == nullptr) {
+            design->switchUnits(loads.units());
             design->joinLoads(loads);
-            design->showLinkLight();
-            loads.setLight(true);
         }
         design->refreshNotice();
     }
@@ -46,34 +65,65 @@ void restoreLinks(LoadsWindow& loads, const std::vector<std::int16_t>& wanted) {
 }  // namespace
 
 StatePointer ZoneWindow::state() const {
-    return std::make_shared<StateOf<LoadsState>>(
-        LoadsState{document_, designsLinkedTo(*this), selectedZone()});
+    LoadsState now{document_, designsLinkedTo(*this), selectedZone()};
+    now.document.information = {};
+    return std::make_shared<LoadsMoment>(std::move(now));
+}
+
+/// A link that the other side has made or ended is there, or gone, whatever is undone here.
+void ZoneWindow::takeForeignChanges() {
+    const std::vector<int> linked = designsLinkedTo(*this);
+    if (valueOf(history().present()).linkedDesigns == linked) return;
+    rewriteHistory([&](const DocumentState& state) {
+        LoadsState rewritten = valueOf(state);
+        rewritten.linkedDesigns = linked;
+        return std::make_shared<LoadsMoment>(std::move(rewritten));
+    });
+}
+
+/// The zones have another file from now on, also those that undo brings back.
+void ZoneWindow::keepFileInHistory() {
+    rewriteHistory([&](const DocumentState& state) {
+        LoadsState rewritten = valueOf(state);
+        if (!rewritten.document.data.zones.empty()) rewritten.document.file = document_.file;
+        return std::make_shared<LoadsMoment>(std::move(rewritten));
+    });
 }
 
 void ZoneWindow::restore(const DocumentState& earlier) {
-    const LoadsState& wanted = static_cast<const StateOf<LoadsState>&>(earlier).value;
+    const LoadsState& wanted = valueOf(earlier);
+    replaceDocument(
+        [&](LoadsDocument& document) {
+            ProjectInformation information = std::move(document.information);
+            document = wanted.document;
+            document.information = std::move(information);
+        },
+        wanted.shownZone);
+    restoreLinks(*this, wanted.linkedDesigns);
+}
+
+/// Puts other values into the document and shows all of it.
+void ZoneWindow::replaceDocument(const std::function<void(LoadsDocument&)>& replace, int shown) {
     const std::string series = activeSeries();
-    const int shown = std::max(wanted.shownZone, 0);
-    document_ = wanted.document;
+    const Control* selectAll =
+        has("LOAutoSelectAllCommand") ? &control("LOAutoSelectAllCommand") : nullptr;
+    const bool selectable = selectAll == nullptr || selectAll->enabled();
+    replace(document_);
     if (activeSeries() != series) InitializeHeatPumpLists();
     SetFluidsTabbedPaneSwitchVariables();
-    showZones(std::min(shown, static_cast<int>(ZoneList().size()) - 1));
+    showZones(std::min(std::max(shown, 0), static_cast<int>(ZoneList().size()) - 1));
     showFile();
+    // A selection for all zones that rests goes on resting.
+    if (!selectable && control("LOSummaryPicture").visible())
+        control("LOAutoSelectAllCommand").setEnabled(false);
     rebuildSummary();
-    restoreLinks(*this, wanted.linkedDesigns);
 }
 
 void ZoneWindow::change(const std::function<void(LoadsDocument&)>& change) {
     touch();
-    const std::string series = activeSeries();
-    const int shown = std::max(selectedZone(), 0);
-    change(document_);
-    if (activeSeries() != series) InitializeHeatPumpLists();
-    SetFluidsTabbedPaneSwitchVariables();
-    showZones(std::min(shown, static_cast<int>(ZoneList().size()) - 1));
-    showFile();
+    replaceDocument(change, selectedZone());
     markChanged();
-    rebuildSummary();
+    refreshLinkedNotices();
 }
 
 void ZoneWindow::savedStateReached(bool atSaved) {
@@ -92,7 +142,7 @@ std::string ZoneWindow::stepName(const UserAction& action) const {
     return ofZone ? name + " " + shown->name : name;
 }
 
-std::vector<Notice> ZoneWindow::notices() const {
+std::vector<Notice> ZoneWindow::notices() {
     std::vector<Notice> holding;
     if (!halfReadFile_.empty())
         holding.push_back({filledIn(text(Text::noticeFileIncomplete), {halfReadFile_})});

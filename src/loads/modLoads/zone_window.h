@@ -108,7 +108,8 @@ class ZoneWindow : public LoadsWindow {
 
     void restore(const DocumentState& earlier) override;
     void savedStateReached(bool atSaved) override;
-    std::vector<Notice> notices() const override;
+    std::vector<Notice> notices() override;
+    void takeForeignChanges() override;
     std::string stepName(const UserAction& action) const override;
 
     /// The zone on display, null for none; and the same to write to.
@@ -191,6 +192,8 @@ class ZoneWindow : public LoadsWindow {
     FileDialog zoneDialog(bool saving) const;
     void takeLoads(LoadsData data);
     void takeZones(const SharedZones& taken);
+    void replaceDocument(const std::function<void(LoadsDocument&)>& replace, int shown);
+    void keepFileInHistory();
 
     void LOSelectCommand_Click();
     void LOMfgCombo_Click();
