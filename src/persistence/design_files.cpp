@@ -11,7 +11,6 @@
 #include "frame/varnmain.h"
 #include "persistence/borehole_body.h"
 #include "persistence/project_head.h"
-#include "persistence/zone_link.h"
 
 namespace varnholt {
 namespace {
@@ -65,11 +64,11 @@ void writeBoreholeDefaults(LineFileWriter& file, const GroundDesign& design) {
     describeBoreholeDefaults(file, projectOf<frmBHDesign>(design));
 }
 
-/// The zones have come from their file, and what they amount to with them. The results on show are
-/// the project's own, tower included, as they were saved.
-void findBoreholeLoads(GroundDesign& design, bool linkIsStored) {
+/// The zones come from their file, and what they amount to with them. The results on show are the
+/// project's own, tower included, as they were saved.
+void linkBoreholeLoads(GroundDesign& design, const std::function<void()>& link) {
     const BoreholeResults saved = *projectOf<frmBHDesign>(design).results;
-    resolveZoneLink(design, linkIsStored);
+    link();
     readInto<frmBHDesign>(design, [&](BoreholeProject& project) {
         BoreholeResults& results = project.results.edit();
         results.loads.peakLoad = saved.loads.peakLoad;
@@ -86,7 +85,7 @@ void findBoreholeLoads(GroundDesign& design, bool linkIsStored) {
 constexpr std::array kinds{
     DesignFileKind{DesignKind::borehole, "NewBorehole", "Borehole Design", "vhtbh.ini",
                    makeBorehole, readBoreholeProject, writeBoreholeProject, readBoreholeDefaults,
-                   writeBoreholeDefaults, findBoreholeLoads},
+                   writeBoreholeDefaults, linkBoreholeLoads},
 };
 
 std::string defaultsPath(const GroundDesign& design) {
@@ -113,6 +112,17 @@ const DesignFileKind* fileKindOfTitle(std::string_view line) {
     for (const DesignFileKind& row : kinds)
         if (row.kind == kind) return &row;
     return nullptr;
+}
+
+std::string projectText(const BoreholeProject& project) {
+    LineFileWriter file;
+    describeBoreholeFile(file, project);
+    return file.bytes();
+}
+
+void readProjectText(std::string_view bytes, BoreholeProject& project) {
+    LineFileReader file(bytes);
+    describeBoreholeFile(file, project);
 }
 
 std::string projectText(const GroundDesign& design) {

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
 #include <string_view>
 
 #include "basis/line_file.h"
+#include "design/borehole_project.h"
 #include "design/ground_design.h"
 #include "frame/design_slots.h"
 
@@ -26,8 +28,9 @@ struct DesignFileKind {
     void (*writeProject)(LineFileWriter& file, const GroundDesign& design);
     void (*readDefaults)(LineFileReader& file, GroundDesign& design);
     void (*writeDefaults)(LineFileWriter& file, const GroundDesign& design);
-    /// After a project has been read: links it with its loads again and shows which mode governs.
-    void (*findLoads)(GroundDesign& design, bool linkIsStored);
+    /// Links a project with its loads, as the caller does it, and shows which mode governs. The
+    /// results on show stay the project's own, as they were saved.
+    void (*linkKeepingResults)(GroundDesign& design, const std::function<void()>& link);
 };
 
 std::span<const DesignFileKind> designFileKinds();
@@ -36,9 +39,11 @@ const DesignFileKind& fileKindOf(const GroundDesign& design);
 const DesignFileKind* fileKindOfTitle(std::string_view line);
 
 /// The project as the bytes of a file of the newest version.
+std::string projectText(const BoreholeProject& project);
 std::string projectText(const GroundDesign& design);
 /// Reads a project of any version. Throws RunTimeError 62 or 6 when the file ends early or holds
 /// a whole number beyond 16 bits; the values read so far then stay.
+void readProjectText(std::string_view bytes, BoreholeProject& project);
 void readProjectText(std::string_view bytes, GroundDesign& design);
 
 /// Replaces the project file whole. Throws as replaceWholeFile.

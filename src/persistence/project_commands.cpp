@@ -52,7 +52,8 @@ void readProject(GroundDesign& design) {
     ZoneFile zones = design.loads().file;
     zones.exists = !zones.name.empty();
     design.takeZoneFile(zones);
-    fileKindOf(design).findLoads(design, linkIsStored);
+    fileKindOf(design).linkKeepingResults(
+        design, [&design, linkIsStored] { resolveZoneLink(design, linkIsStored); });
 }
 
 /// Opens a window of the kind in the next free slot; its set-up reads the project or the defaults.

@@ -11,6 +11,7 @@
 #include "loads/linked_design.h"
 #include "loads/links.h"
 #include "loads/loads_window.h"
+#include "persistence/design_files.h"
 #include "persistence/dialogs.h"
 #include "persistence/saving.h"
 
@@ -35,18 +36,31 @@ bool isEmpty(const LoadsWindow& loads) {
     return loads.zoneNumber() == 0 && !loads.file().exists && !loads.hasUnsavedChanges();
 }
 
+/// Whatever else the file names, the Zone Manager is meant.
+const char* wantedWindow(const LinkedDesign& design) {
+    return design.loads().linkType == "frmAvgBlock" ? "frmAvgBlock" : "frmZoneManage";
+}
+
+/// What becomes of zones that stand in the wanted window without a link.
+enum class OtherZones { stay, giveWay };
+
 /// The loads window that the project wants, which holds the zone file or can take it; null when it
 /// is in use.
-LoadsWindow* loadsWindowFor(LinkedDesign& design, const std::string& path) {
+LoadsWindow* loadsWindowFor(LinkedDesign& design, const std::string& path, OtherZones others) {
     Varnmain& main = design.main();
-    // Whatever else the file names, the Zone Manager is meant.
-    const char* formName =
-        design.loads().linkType == "frmAvgBlock" ? "frmAvgBlock" : "frmZoneManage";
-    auto* loads = dynamic_cast<LoadsWindow*>(main.find(formName));
-    if (loads != nullptr && !loads->links().all().empty()) return nullptr;
-    if (loads != nullptr && holdsFile(*loads, path)) return loads;
-    if (loads != nullptr && !isEmpty(*loads)) return nullptr;
-    return loads != nullptr ? loads : openLoadsWindow(main, formName);
+    auto* loads = dynamic_cast<LoadsWindow*>(main.find(wantedWindow(design)));
+    if (loads == nullptr) return openLoadsWindow(main, wantedWindow(design));
+    if (!loads->links().all().empty()) return nullptr;
+    if (holdsFile(*loads, path) || isEmpty(*loads)) return loads;
+    return others == OtherZones::giveWay ? loads : nullptr;
+}
+
+/// Zones without a link give way to the file that the person has chosen, after the question about
+/// unsaved changes. False when that was cancelled.
+bool mayReplaceZones(LinkedDesign& design, const std::string& path) {
+    auto* loads = dynamic_cast<LoadsWindow*>(design.main().find(wantedWindow(design)));
+    if (loads == nullptr || !loads->links().all().empty() || holdsFile(*loads, path)) return true;
+    return loads->CheckForSave();
 }
 
 Answer askAboutZones(LinkedDesign& design) {
@@ -71,8 +85,8 @@ void saveZones(LinkedDesign& design, LoadsWindow& loads) {
 
 /// Opens the file in the loads window and takes its zones. False, after a message, where that
 /// cannot be.
-bool linkWithFile(LinkedDesign& design, const std::string& path) {
-    LoadsWindow* loads = loadsWindowFor(design, path);
+bool linkWithFile(LinkedDesign& design, const std::string& path, OtherZones others) {
+    LoadsWindow* loads = loadsWindowFor(design, path, others);
     if (loads == nullptr) {
         warn(design.main(), design.text(Text::loadsWindowInUse));
         return false;
@@ -112,7 +126,7 @@ void resolveZoneLink(LinkedDesign& design, bool linkIsStored) {
         warn(design.main(), design.text(Text::zoneFileNotFound) + "\n\n" + file);
         design.forgetZoneFile();
         design.setMissingZoneFile(file);
-    } else if (!linkWithFile(design, path)) {
+    } else if (!linkWithFile(design, path, OtherZones::stay)) {
         design.forgetZoneFile();
     }
 }
@@ -123,11 +137,21 @@ void findZoneFile(GroundDesign& design) {
     if (!chosen) return;
     const std::string path = absolutePath(main, *chosen);
     main.TempDirectory = folderOf(path);
+    if (!mayReplaceZones(design, path)) return;
+    // The saved results were computed with the project's own file, wherever it is found.
+    const bool ownFile = fileNameOf(path) == design.missingZoneFile();
+    const bool stale = design.isStale();
+    bool linked = false;
+    const auto link = [&] { linked = linkWithFile(design, path, OtherZones::giveWay); };
+    if (ownFile)
+        fileKindOf(design).linkKeepingResults(design, link);
+    else
+        link();
+    if (!linked) return design.refreshNotice();
+    if (ownFile) design.loadsFound(stale);
+    design.setUnitLabels();
     // The loads window that may open comes to the front; the design is what the person works with.
-    if (linkWithFile(design, path)) {
-        design.setUnitLabels();
-        main.activate(design);
-    }
+    main.activate(design);
     design.refreshNotice();
 }
 
