@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <string>
+
 #include "forms/values.h"
 #include "loads/shared_zones.h"
 
@@ -11,5 +13,8 @@ namespace varnholt {
 /// must outlive the values.
 void addZoneValues(Values& values, const SharedZones& zones);
 void addZoneValues(Values& values, SharedZones&& zones) = delete;
+/// The same of one zone under a name of its own: "zoneTemp.gains(0,1)".
+void addZoneValues(Values& values, const std::string& name, const Zone& zone);
+void addZoneValues(Values& values, const std::string& name, Zone&& zone) = delete;
 
 }  // namespace varnholt

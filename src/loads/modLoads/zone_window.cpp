@@ -34,6 +34,7 @@ void ZoneWindow::InitializeVariables() {
 void ZoneWindow::registerValues() {
     Values& values = publicValues();
     addZoneValues(values, document_.data.zones);
+    addZoneValues(values, "zoneTemp", zoneTemp);
     registerConditions();
     values.add("designLinkID", 0, [this](const Values::Indices&) {
         return PublicValue(static_cast<double>(links().designLinkID()));
