@@ -82,6 +82,8 @@ class LoadsWindow : public ChildWindow {
  protected:
     /// To be called by MetricCheck_Click: the linked designs go over to the window's units.
     void switchLinkedUnits();
+    /// What designs hand over is no change by the window's user.
+    bool staysSaved() const override { return !hasUnsavedChanges(); }
     void savedStateReached(bool atSaved) override;
 
     LoadsDocument document_;

@@ -83,7 +83,10 @@ void ZoneWindow::addSelectFrame() {
     add("LOPumpNameComboLabel", ControlKind::label, Text::model).in(frame);
     add("LOPumpNameCombo", ControlKind::combo).captionedBy("LOPumpNameComboLabel").in(frame);
     add("LONumberOfUnitsLabel(0)", ControlKind::label, Text::numberOfUnits).in(frame);
-    add("LONumberOfUnitsText(0)", ControlKind::text).in(frame).setText(kind_.firstUnits);
+    add("LONumberOfUnitsText(0)", ControlKind::text)
+        .captionedBy("LONumberOfUnitsLabel(0)")
+        .in(frame)
+        .setText(kind_.firstUnits);
     add("LOSelectPumpCommand", ControlKind::button, Text::takeSelectedPump).in(frame);
     add("LOCancelCommand", ControlKind::button, Text::cancelSelection).in(frame);
 }
@@ -99,7 +102,10 @@ void ZoneWindow::addDetailsFrame() {
     addLoadSideFrame("LOInletAirFrame", Text::loadSideAir, 0);
     addLoadSideFrame("LOInletWaterFrame", Text::loadSideWater, 2);
     add("LONominalFlowLabel", ControlKind::label, Text::nominalFlow).in(frame);
-    add("LONominalFlowText", ControlKind::text).in(frame).setLocked(true);
+    add("LONominalFlowText", ControlKind::text)
+        .captionedBy("LONominalFlowLabel")
+        .in(frame)
+        .setLocked(true);
     add("LONominalFlowUnitLabel", ControlKind::label).in(frame);
     add("LOReturnCommand", ControlKind::button, Text::returnToZone).in(frame);
 }

@@ -66,11 +66,13 @@ bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
     if (!whole && data == before) return false;
     takeLoads(std::move(data));
     forgetZoneFile();
-    if (whole) takeFile(path);
-    startHistory();
+    if (whole)
+        takeFile(path);
+    else
+        halfReadFile_ = fileNameOf(path);
+    startHistory(whole);
     // What is left of a damaged file must not take the file's place without a question.
     setChanged(!whole && !ZoneList().empty());
-    halfReadFile_ = whole ? std::string() : fileNameOf(path);
     refreshNotice();
     refreshLinkedNotices();
     return whole;
@@ -94,6 +96,7 @@ void ZoneWindow::takeFile(const std::string& path) {
 void ZoneWindow::forgetZoneFile() {
     document_.file.exists = false;
     document_.file.name.clear();
+    halfReadFile_.clear();
     showFile();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Undo and redo in the loads windows, and what their notice tells.
 #include <algorithm>
+#include <string>
+#include <vector>
 
 #include "forms/text_numbers.h"
 #include "loads/linked_design.h"
@@ -15,10 +17,13 @@ namespace {
 struct LoadsState {
     LoadsDocument document;
     std::vector<int> linkedDesigns;  ///< numbers of their windows
+    std::string halfReadFile;
     int shownZone = -1;
 
     friend bool operator==(const LoadsState& a, const LoadsState& b) {
-        return a.document == b.document && a.linkedDesigns == b.linkedDesigns;
+        return a.document == b.document && a.halfReadFile == b.halfReadFile &&
+               std::is_permutation(a.linkedDesigns.begin(), a.linkedDesigns.end(),
+                                   b.linkedDesigns.begin(), b.linkedDesigns.end());
     }
 };
 
@@ -65,7 +70,7 @@ void restoreLinks(LoadsWindow& loads, const std::vector<int>& wanted) {
 }  // namespace
 
 StatePointer ZoneWindow::state() const {
-    LoadsState now{document_, designsLinkedTo(*this), selectedZone()};
+    LoadsState now{document_, designsLinkedTo(*this), halfReadFile_, selectedZone()};
     now.document.information = {};
     return std::make_shared<LoadsMoment>(std::move(now));
 }
@@ -86,6 +91,7 @@ void ZoneWindow::keepFileInHistory() {
     rewriteHistory([&](const DocumentState& state) {
         LoadsState rewritten = valueOf(state);
         if (!rewritten.document.data.zones.empty()) rewritten.document.file = document_.file;
+        rewritten.halfReadFile.clear();
         return std::make_shared<LoadsMoment>(std::move(rewritten));
     });
 }
@@ -99,6 +105,7 @@ void ZoneWindow::restore(const DocumentState& earlier) {
             document.information = std::move(information);
         },
         wanted.shownZone);
+    halfReadFile_ = wanted.halfReadFile;
     restoreLinks(*this, wanted.linkedDesigns);
 }
 
