@@ -201,7 +201,7 @@ TEST_F(SavedZones, ANumberThatOverflowsItsFieldIsExplained) {
     typeAndLeave("LOHoursText(1)", "900");
     window.type("LOHoursText(1)", "99999");
     EXPECT_TRUE(window.control("LOHoursText(1)").refused());
-    EXPECT_EQ(notice(), "[2828], [2840]: 99999 is refused, no less than 0, now 900.");
+    EXPECT_EQ(notice(), "[2828], [2840]: 99999 is refused, 0 to 32767, now 900.");
     undo();  // the visit has changed nothing: it is the 900 hours that go
     EXPECT_EQ(notice(), "");
     EXPECT_FALSE(window.control("LOHoursText(1)").refused());
