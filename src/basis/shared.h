@@ -27,9 +27,7 @@ class Shared {
 
     /// Whether both are one value in memory, which is more than being equal.
     bool isSameAs(const Shared& other) const { return value_ == other.value_; }
-    friend bool operator==(const Shared& a, const Shared& b) {
-        return a.isSameAs(b) || *a == *b;
-    }
+    friend bool operator==(const Shared& a, const Shared& b) { return a.isSameAs(b) || *a == *b; }
 
  private:
     std::shared_ptr<T> value_;

@@ -11,7 +11,7 @@ namespace varnholt {
 
 /// The zone file that loads come from and go to.
 struct ZoneFile {
-    std::string name;     ///< empty for a list without a name yet
+    std::string name;  ///< empty for a list without a name yet
     std::string folder;
     bool exists = false;  ///< the zones have a file on disk
 
