@@ -150,7 +150,7 @@ void ChildWindow::refreshNotice() {
     for (const Notice& notice : holding) text += (text.empty() ? "" : " ") + notice.text;
     const bool acts = !holding.empty() && !holding.front().action.empty();
     noticeAction_ = acts ? holding.front().act : nullptr;
-    control("NoticeLabel").setVisible(!text.empty()).setCaption(std::move(text));
+    control("NoticeLabel").setCaption(text).setVisible(!text.empty());
     control("NoticeCommand")
         .setCaption(acts ? holding.front().action : std::string())
         .setVisible(acts);

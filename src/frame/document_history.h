@@ -98,7 +98,7 @@ class DocumentHistory {
         std::size_t weight;
     };
 
-    Moment moment(StatePointer now) { return {now, now, ++lastRevision_}; }
+    Moment moment(const StatePointer& now) { return {now, now, ++lastRevision_}; }
     void forgetOldest();
 
     /// Step i leads from moment i to moment i + 1.
