@@ -4,6 +4,8 @@
 #include <array>
 #include <string>
 
+#include "design/modCalculations/bore_resistance.h"
+
 namespace varnholt {
 namespace {
 
@@ -67,6 +69,13 @@ void addPipeValues(Values& values, const PipeValues& pipe) {
     values.add("flowTypeIndex", &pipe.flowTypeIndex);
     values.addArray("pipeDiameter", &pipe.pipeDiameter);
     values.add("pipeResistance", &pipe.pipeResistance);
+    // Size, wall, and outside (0) or inside diameter (1).
+    values.add("pipeTable", 3, [](const Values::Indices& i) {
+        checkIndex(i[2], 2);
+        const auto& pair =
+            modCalculations::pipeTable(static_cast<int>(i[0]), static_cast<int>(i[1]));
+        return i[2] == 0 ? pair.outside : pair.inside;
+    });
 }
 
 void addExtraPowerValues(Values& values, const ExtraPowerValues& power) {

@@ -12,8 +12,10 @@ namespace varnholt {
 /// An empty folder of a test's own, which is gone after the test.
 class TemporaryFolder {
  public:
-    TemporaryFolder() {
-        path_ = (std::filesystem::temp_directory_path() / "varnholt-test-XXXXXX").string();
+    TemporaryFolder() : TemporaryFolder(std::filesystem::temp_directory_path()) {}
+    /// @param parent where it is made
+    explicit TemporaryFolder(const std::filesystem::path& parent)
+        : path_((parent / "varnholt-test-XXXXXX").string()) {
         if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no temporary folder");
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
@@ -25,6 +27,7 @@ class TemporaryFolder {
 
     const std::string& path() const { return path_; }
     std::string path(const std::string& name) const { return path_ + "/" + name; }
+    std::string operator/(const std::string& name) const { return path(name); }
 
  private:
     std::string path_;

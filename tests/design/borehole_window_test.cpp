@@ -3,6 +3,7 @@
 
 #include "basis/file_system.h"
 #include "borehole_window.h"
+#include "expect_error.h"
 #include "tools/text_table.h"
 
 namespace varnholt {
@@ -157,6 +158,15 @@ TEST_F(BoreholeDesign, HasTheDefaultsThatNoFieldShows) {
     EXPECT_EQ(value("outletTemp(0)"), 85);
     EXPECT_EQ(value("outletTemp(1)"), 50);
     EXPECT_EQ(value("coolingRange"), 0);
+}
+
+TEST_F(BoreholeDesign, PublishesTheTablesOfPipesAndShapes) {
+    EXPECT_EQ(value("pipeTable(0,1,0)"), 1.05);
+    EXPECT_EQ(value("pipeTable(0,1,1)"), 0.86);  // SDR 11: less two walls of 1.05 / 11 in
+    expectError(9, [this] { value("pipeTable(0,5,0)"); });
+    expectError(9, [this] { value("pipeTable(0,1,2)"); });
+    EXPECT_EQ(value("shapeFit(0)"), 17.44268);  // legs at average distance
+    EXPECT_EQ(value("shapeFit(1)"), -0.605154);
 }
 
 TEST_F(BoreholeDesign, PublishesEveryValueThatAProjectStores) {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "app/application.h"
+#include "desktop/binding/typing.h"
 #include "desktop/widgets/theme.h"
 #include "desktop/windows/main_window.h"
 #include "desktop/windows/window_shelf.h"
@@ -30,6 +31,7 @@ class DeskPlatform : public FakePlatform {
         shelf_.closed(form);
     }
     void activated(Form& form) override { shelf_.activated(form); }
+    void edit(EditCommand command) override { editFocusedField(command); }
     std::optional<std::string> chooseFile(const FileDialog& dialog) override {
         if (picks.empty()) return std::nullopt;
         return FakePlatform::chooseFile(dialog);

@@ -9,6 +9,7 @@
 #include <QTabWidget>
 #include <stdexcept>
 
+#include "desktop/binding/typing.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
@@ -141,6 +142,9 @@ void Binder::act(BoundControl& bound, const Verb& verb) {
 
 void Binder::leave(BoundControl& bound) {
     act(bound, [](Form& form, const std::string& name) { form.leave(name); });
+    if (form_ == nullptr) return;
+    const Writing writing(writing_);
+    forgetTyping(*bound.widget());
 }
 
 void Binder::propertyChanged(Control& control, Property property) {

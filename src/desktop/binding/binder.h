@@ -114,6 +114,8 @@ class Binder : public QObject, public FormObserver {
     void watchKeys(BoundControl& bound, QWidget* keyboard);
     /// The widget loses the focus for good: the control is left.
     void leave(BoundControl& bound);
+    /// A command begins: the control whose widget has the focus is left, though the focus stays.
+    void endVisit(const QWidget* focused);
     /// Options of one group exclude each other.
     QButtonGroup* optionGroup(const std::string& group);
     std::string text(int number) const;

@@ -5,6 +5,7 @@
 #include <QLabel>
 
 #include "desktop/binding/binder.h"
+#include "desktop/binding/typing.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
 
@@ -57,11 +58,22 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusOut && leavesByFocus_ &&
         !comesBack(static_cast<QFocusEvent*>(event)->reason())) {
         leave(bound);
+    } else if (event->type() == QEvent::ShortcutOverride) {
+        // The menu has the key where there is no typing to take back.
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (!isUndoKey(*key) || undoesTyping(*bound.widget(), *key)) return false;
+        event->ignore();
+        return true;
     } else if (event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
         return keyPressed(bound, key->key(), key->modifiers());
     }
     return false;
+}
+
+void Binder::endVisit(const QWidget* focused) {
+    const auto found = keyboards_.find(focused);
+    if (found != keyboards_.end() && form_ != nullptr && leavesByFocus_) leave(*found->second);
 }
 
 /// Shows the controls' own colours in the scheme that has come.

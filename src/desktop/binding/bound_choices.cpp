@@ -166,7 +166,15 @@ std::unique_ptr<BoundControl> bindList(Binder& binder, Control& control) {
     return std::make_unique<BoundList>(binder, control);
 }
 std::unique_ptr<BoundControl> bindSlider(Binder& binder, Control& control) {
-    return std::make_unique<BoundNumber<NumberSlider>>(binder, control);
+    auto bound = std::make_unique<BoundNumber<NumberSlider>>(binder, control);
+    const auto* slider = static_cast<NumberSlider*>(bound->widget());
+    QObject::connect(slider, &QSlider::sliderPressed, &binder, [&binder, name = control.name()] {
+        if (Form* form = binder.form()) form->beginGesture(name);
+    });
+    QObject::connect(slider, &QSlider::sliderReleased, &binder, [&binder] {
+        if (Form* form = binder.form()) form->endGesture();
+    });
+    return bound;
 }
 std::unique_ptr<BoundControl> bindUpDown(Binder& binder, Control& control) {
     return std::make_unique<BoundNumber<UpDownButtons>>(binder, control);

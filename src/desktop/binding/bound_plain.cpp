@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Labels, buttons, frames, pictures and tabs.
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
@@ -58,6 +59,8 @@ class BoundButton : public BoundControl {
         button_->setAutoDefault(false);
         button_->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
         QObject::connect(button_, &QPushButton::clicked, &binder, [this] {
+            // By its key the button is pressed without taking the focus.
+            this->binder().endVisit(QApplication::focusWidget());
             this->binder().act(*this, [](Form& f, const std::string& name) { f.click(name); });
         });
         showAll();
@@ -168,6 +171,8 @@ class BoundImage : public BoundControl {
             widget()->setProperty("forecolor", control().forecolor());
         else if (property == Property::caption)
             widget()->setAccessibleName(qt(control().caption()));
+        else if (property == Property::flash)
+            flash();
         else
             BoundControl::show(property);
         if (property == Property::tooltip && control().caption().empty())
@@ -176,6 +181,11 @@ class BoundImage : public BoundControl {
     Shown shown(Property property) const override {
         if (property == Property::caption) return control().caption();
         return BoundControl::shown(property);
+    }
+
+ private:
+    void flash() {
+        if (auto* drawing = dynamic_cast<Drawing*>(widget())) drawing->flash();
     }
 };
 

@@ -15,6 +15,8 @@ class Drawing : public QWidget {
     virtual void refresh() = 0;
     /// What the picture shows, for a screen reader.
     virtual QString description() const = 0;
+    /// Draws a moment's attention, as a lamp that blinks.
+    virtual void flash() {}
 };
 
 }  // namespace varnholt

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/drawings/drawings.h"
 
+#include <QTimer>
 #include <utility>
 
 #include "desktop/drawings/bore_picture.h"
@@ -24,14 +25,26 @@ class LinkLamp : public Drawing {
 
     void refresh() override {}
     QString description() const override { return describeLinkLight(partner_, texts_); }
+    /// Goes out for a moment while loads pass.
+    void flash() override {
+        constexpr int milliseconds = 250;
+        dark_ = true;
+        update();
+        QTimer::singleShot(milliseconds, this, [this] {
+            dark_ = false;
+            update();
+        });
+    }
 
  protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        paintLinkLight(canvasFor(painter, rect(), palette(), font()), partner_, isEnabled());
+        paintLinkLight(canvasFor(painter, rect(), palette(), font()), partner_,
+                       isEnabled() && !dark_);
     }
 
  private:
+    bool dark_ = false;
     LinkPartner partner_;
     const Texts& texts_;
 };

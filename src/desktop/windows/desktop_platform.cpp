@@ -12,9 +12,9 @@
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
-#include <map>
 
 #include "basis/file_system.h"
+#include "desktop/binding/typing.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/windows/main_window.h"
 
@@ -123,17 +123,7 @@ void DesktopPlatform::setClipboard(const std::string& text) {
     QGuiApplication::clipboard()->setText(qt(text));
 }
 
-void DesktopPlatform::edit(EditCommand command) {
-    QWidget* focused = QApplication::focusWidget();
-    const std::map<EditCommand, const char*> slotNames{{EditCommand::cut, "cut"},
-                                                       {EditCommand::copy, "copy"},
-                                                       {EditCommand::paste, "paste"},
-                                                       {EditCommand::selectAll, "selectAll"}};
-    const char* slotName = slotNames.at(command);
-    if (focused != nullptr &&
-        focused->metaObject()->indexOfSlot((std::string(slotName) + "()").c_str()) >= 0)
-        QMetaObject::invokeMethod(focused, slotName);
-}
+void DesktopPlatform::edit(EditCommand command) { editFocusedField(command); }
 
 void DesktopPlatform::progress(const std::string& what, std::size_t done, std::size_t total) {
     if (done >= total) {

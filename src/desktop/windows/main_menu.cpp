@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
+#include <algorithm>
 #include <vector>
 
 #include "desktop/binding/mnemonics.h"
@@ -71,6 +72,14 @@ QString toolIcon(const std::string& command) {
     return QString::fromLatin1(commandLooks.at(command).icon);
 }
 
+/// They work on what is being typed, and leave it unfinished.
+bool isEditCommand(const std::string& name) {
+    const auto rows = menuTable();
+    return std::any_of(rows.begin(), rows.end(), [&](const MenuRow& row) {
+        return row.menu != nullptr && name == row.control && row.menu == std::string("mnuEdit");
+    });
+}
+
 std::string toolName(std::size_t index) { return "tbrMain(" + std::to_string(index) + ")"; }
 
 }  // namespace
@@ -128,7 +137,10 @@ void MainMenu::addTools(QToolBar& toolbar) {
 void MainMenu::connectAction(QAction* action, const std::string& name) {
     connect(action, &QAction::triggered, this, [this, name] {
         ++commands_;
-        guard_([&] { main_.click(name); });
+        guard_([&] {
+            if (beforeCommand && !isEditCommand(name)) beforeCommand();
+            main_.click(name);
+        });
         // Whatever the toolkit has toggled, the control decides.
         show(main_.control(name));
     });

@@ -41,6 +41,8 @@ class MainMenu : public QObject, public FormObserver {
     void captionChanged(Form& form) override;
     void settled(Form&) override {}
 
+    /// A command that is none of the Edit menu's is about to run.
+    std::function<void()> beforeCommand;
     /// The main window's caption has changed, or its units.
     std::function<void()> onChange;
 

@@ -23,23 +23,11 @@
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/theme.h"
 #include "desktop/windows/start_page.h"
-#include "frame/design_document.h"
 #include "frame/varnmain.h"
-#include "loads/loads_window.h"
 #include "persistence/project_commands.h"
 
 namespace varnholt {
 namespace {
-
-/// The file that a window shows; empty for none.
-std::string fileOf(const Form& form) {
-    if (const auto* design = dynamic_cast<const DesignDocument*>(&form))
-        return design->currentFileCheck ? design->filePath() : std::string();
-    if (const auto* loads = dynamic_cast<const LoadsWindow*>(&form))
-        return loads->file().exists ? joinPath(loads->file().folder, loads->file().name)
-                                    : std::string();
-    return {};
-}
 
 bool isOurs(const QUrl& url) {
     const QString name = url.fileName().toLower();
@@ -80,6 +68,7 @@ MainWindow::MainWindow(Varnmain& main, FaultTaker faults, const std::string& rec
         [this](const std::function<void()>& command) { guarded(command); });
     menu_->onChange = [this] { refresh(); };
     addRecentMenu();
+    main.fileUsed = [this](const std::string& file) { recent_.add(file); };
     addWindowMenu();
     statusBar()->setSizeGripEnabled(true);
     statusBar()->addPermanentWidget(units_);
@@ -90,7 +79,9 @@ MainWindow::MainWindow(Varnmain& main, FaultTaker faults, const std::string& rec
     dress(*this);
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+    main_.fileUsed = [](const std::string&) {};
+}
 
 void MainWindow::guarded(const std::function<void()>& action) {
     try {
@@ -116,11 +107,6 @@ void MainWindow::refresh() {
     setWindowTitle(qt(main_.caption()));
     const char* units = main_.control("Metric").checked() ? "Metric" : "English";
     units_->setText(qt(main_.control(units).caption()));
-}
-
-void MainWindow::noteFile(const Form& form) {
-    const std::string file = fileOf(form);
-    if (!file.empty()) recent_.add(file);
 }
 
 void MainWindow::openFiles(const std::vector<std::string>& paths) {

@@ -35,8 +35,6 @@ class MainWindow : public QMainWindow {
     void showArea(bool area);
     /// The start picture; null takes it away.
     void showStartPicture(QWidget* picture);
-    /// Notes the file of a window among the recent files.
-    void noteFile(const Form& form);
     /// Opens project and zone files, as named on the command line or dropped on the window.
     void openFiles(const std::vector<std::string>& paths);
     /// Runs something of the forms; what it throws goes to the taker of faults.

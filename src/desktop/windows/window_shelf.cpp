@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/windows/window_shelf.h"
 
+#include <QApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <algorithm>
@@ -43,6 +44,14 @@ void WindowShelf::setMain(MainWindow& window, Varnmain& main) {
     main_ = &main;
     QObject::connect(&window.area(), &QMdiArea::subWindowActivated, &window,
                      [this](QMdiSubWindow* frame) { userActivated(frame); });
+    window.menu().beforeCommand = [this] { endVisit(); };
+}
+
+/// A half-typed field is part of what the command works with.
+void WindowShelf::endVisit() {
+    const QWidget* focused = QApplication::focusWidget();
+    for (const auto& [form, place] : places_)
+        if (place.content->isAncestorOf(focused)) return place.content->binder().endVisit(focused);
 }
 
 FormWindow* WindowShelf::makeContent(Form& form) {
@@ -68,14 +77,10 @@ void WindowShelf::openChild(ChildWindow& form) {
     frame->setContent(makeContent(form));
     places_[&form].child = frame;
     frame->onCloseBox = [this, &form] { closeByBox(&form); };
-    frame->content().binder().onSettled([this, &form] {
-        refreshTitle(form);
-        window_->noteFile(form);
-    });
+    frame->content().binder().onSettled([this, &form] { refreshTitle(form); });
     place(*frame);
     refreshTitle(form);
     frame->show();
-    window_->noteFile(form);
 }
 
 /// As large as what it shows, within the area: beside the windows that are open where there is

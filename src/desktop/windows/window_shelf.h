@@ -58,6 +58,7 @@ class WindowShelf : public WindowStage, public OpenWindows {
     void openChild(ChildWindow& form);
     void place(ChildFrame& frame);
     void closeByBox(Form* form);
+    void endVisit();
     void userActivated(QMdiSubWindow* frame);
     void refreshTitle(const Form& form);
     Form* formOf(const QMdiSubWindow* frame) const;
