@@ -84,7 +84,9 @@ void FluidTab::addSolution() {
                          .accessible = Text::solutionProperties,
                          .distinction = Text::percentAntifreeze},
               .changed = [this] { showPercent(); }});
-    add("FLPercentAntifreezeUpDown", ControlKind::upDown, "FLSolutionFrame").setRange(0, 100);
+    add("FLPercentAntifreezeUpDown", ControlKind::upDown, "FLSolutionFrame")
+        .captionedBy("FLPercentAntifreezeLabel")
+        .setRange(0, 100);
     onSlide("FLPercentAntifreezeUpDown", [this] { FLPercentAntifreezeUpDown_Change(); });
 }
 

@@ -140,11 +140,12 @@ void frmBHDesign::showNoGoverningMode() {
     towerPanel_->rest();
 }
 
+/// A tower that is on can be taken away again, though it has made the heating govern.
 void frmBHDesign::showGoverningMode(Mode greyed) {
     resultsTab_->paintGoverning(greyed);
-    if (greyed == heating)
+    if (greyed == heating || towerIsOn())
         towerPanel_->wake();
-    else if (!towerIsOn())
+    else
         towerPanel_->rest();
 }
 
