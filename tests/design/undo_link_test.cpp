@@ -64,6 +64,36 @@ TEST_F(UndoOfALink, EndedFromTheLoads) {
     expectLoadsNameTheDesign(false);
 }
 
+TEST_F(UndoOfALink, IsAStepOfBothSides) {
+    linkFrom(design);
+    front(zones);
+    EXPECT_EQ(undoCaption(), "Undo Link");
+    undo();
+    expectLinked(design, false);
+    EXPECT_EQ(design.ZoneList().size(), 0U);
+    front(design);
+    EXPECT_EQ(main.control("mnuRedo").caption(), "Redo Link");
+    redo();
+    expectLinked(design, true);
+    EXPECT_EQ(design.ZoneList().size(), 2U);
+    unlinkFrom(design);
+    undoIn(zones);
+    expectLinked(design, true);
+}
+
+TEST_F(UndoOfALink, TakesTheStepsBeforeItOneByOne) {
+    linkFrom(design);
+    zones.type("LOGainsText(1)", "44");
+    zones.leave("LOGainsText(1)");
+    front(zones);
+    undo();
+    expectLinked(design, true);
+    undo();  // of the link
+    undo();  // of the pumps that were selected before it
+    EXPECT_EQ(undoCaption(), "Undo [2821], [2827]");
+    expectLinked(design, false);
+}
+
 TEST_F(UndoOfALink, OfSeveralDesignsMakesThemAllAgain) {
     frmBHDesign& other = newDesign();
     linkFrom(design);
@@ -151,7 +181,8 @@ TEST_F(UndoOfALink, OfATemperatureInTheDesignIsAStepOfTheLoadsToo) {
     EXPECT_EQ(undoCaption(), "Undo [2202], [2203]");
     undo();
     EXPECT_EQ(zones.conditions().inletTemp[cooling], 85);
-    EXPECT_EQ(undoCaption(), "Undo [2960]");
+    EXPECT_EQ(design.conditions().inletTemp[cooling], 85);
+    EXPECT_EQ(undoCaption(), "Undo Link");
 }
 
 TEST_F(UndoOfALink, OfALoadInTheLoadsIsNoStepOfTheDesign) {
