@@ -88,6 +88,8 @@ int runReading(QApplication& application, const CommandLine& line, std::istream&
     // Pictures are the same whatever screen there is, and none at all.
     window.resize(MainWindow::usualSize());
     window.show();
+    // A script finds the window as a person does, painted.
+    QCoreApplication::processEvents();
 
     ScriptReader reader(input, *line.script);
     ScriptRunner runner(main, platform, driver, transcript, reader, std::cerr);
