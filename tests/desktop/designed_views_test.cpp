@@ -35,6 +35,7 @@ class DesignedViews : public testing::Test {
     void expectReadingOrder(const char* command) {
         ChildWindow& form = opened(command);
         FormWindow window(form, views.maker(), {});
+        window.binder().buildAll();
         std::vector<std::string> walked = walkedByTab(form, window);
         // The summary stands above the zone, where it is seen as soon as it opens.
         std::erase_if(walked, [&](const std::string& name) {

@@ -242,10 +242,11 @@ TEST_F(MainWindowTest, PassesOverDroppedFilesOfOtherKinds) {
 
 TEST_F(MainWindowTest, ChangesItsSchemeWhileWindowsAreOpen) {
     ChildWindow& design = open("NewBorehole");
+    FormWindow& content = *desk.shelf.windowOf(design);
+    content.binder().buildAll();
     Desk::settle();
     applyTheme(*qApp, Scheme::dark);
     Desk::settle();
-    FormWindow& content = *desk.shelf.windowOf(design);
     for (const auto& control : design.controls()) {
         const BoundControl* bound = content.binder().find(control->name());
         ASSERT_NE(bound, nullptr);

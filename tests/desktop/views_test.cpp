@@ -112,6 +112,7 @@ class Views : public testing::TestWithParam<Case> {
     void inspect(Form& form) const {
         for (const auto& control : form.controls()) lengthen(*control);
         FormWindow window(form, views_.maker(), {});
+        window.binder().buildAll();
         dress(window);
         window.resize(window.sizeHint());
         window.show();
@@ -191,6 +192,7 @@ TEST(Keyboard, ReachesEveryControlByTab) {
     ViewRegistry views;
     forEveryForm(desk, [&](Form& form) {
         FormWindow window(form, views.maker(), {});
+        window.binder().buildAll();
         dress(window);
         window.show();
         for (const auto& control : form.controls()) {
@@ -209,6 +211,7 @@ TEST(Keyboard, GoesThroughTheFieldsOfAGroupFromTopToBottomAndLeftToRight) {
     ViewRegistry views;
     forEveryForm(desk, [&](Form& form) {
         FormWindow window(form, views.maker(), {});
+        window.binder().buildAll();
         dress(window);
         window.resize(window.sizeHint());
         window.show();
@@ -232,6 +235,7 @@ TEST(Accessibility, GivesEveryFieldAName) {
     ViewRegistry views;
     forEveryForm(desk, [&](Form& form) {
         FormWindow window(form, views.maker(), {});
+        window.binder().buildAll();
         dress(window);
         window.show();
         for (const auto& control : form.controls()) {

@@ -9,8 +9,10 @@
 #include <QTabWidget>
 #include <stdexcept>
 
+#include "desktop/binding/bound_button.h"
+#include "desktop/binding/bound_frame.h"
+#include "desktop/binding/bound_tabs.h"
 #include "desktop/binding/typing.h"
-#include "desktop/widgets/icons.h"
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
 
@@ -18,12 +20,12 @@ namespace varnholt {
 namespace {
 
 /// Counts the calls under way, so that what code writes is not taken for a person's action.
-class Writing {
+class Counting {
  public:
-    explicit Writing(int& depth) : depth_(depth) { ++depth_; }
-    ~Writing() { --depth_; }
-    Writing(const Writing&) = delete;
-    Writing& operator=(const Writing&) = delete;
+    explicit Counting(int& depth) : depth_(depth) { ++depth_; }
+    ~Counting() { --depth_; }
+    Counting(const Counting&) = delete;
+    Counting& operator=(const Counting&) = delete;
 
  private:
     int& depth_;
@@ -46,9 +48,11 @@ void Binder::detach() {
 bool Binder::has(const std::string& name) const { return form_ != nullptr && form_->has(name); }
 
 QWidget* Binder::widget(const std::string& name) {
-    if (BoundControl* known = find(name)) return known->widget();
+    // What is being built asks for widgets in order to create them.
+    BoundControl* known = building_ > 0 ? find(name) : require(name);
+    if (known != nullptr) return known->widget();
     if (form_ == nullptr) throw std::logic_error("the form of the control " + name + " has ended");
-    const Writing writing(writing_);
+    const Counting writing(writing_);
     return keep(bindControl(*this, form_->control(name)));
 }
 
@@ -67,6 +71,39 @@ QWidget* Binder::keep(std::unique_ptr<BoundControl> bound) {
 BoundControl* Binder::find(const std::string& name) const {
     const auto found = bound_.find(name);
     return found == bound_.end() ? nullptr : found->second.get();
+}
+
+BoundControl* Binder::require(const std::string& name) {
+    BoundControl* bound = find(name);
+    while (bound == nullptr && buildNext()) bound = find(name);
+    return bound;
+}
+
+void Binder::build(const std::function<void()>& view) {
+    const Counting building(building_);
+    view();
+}
+
+void Binder::buildLate(const std::function<void()>& part) {
+    if (form_ == nullptr) return;
+    const bool late = building_ == 0;
+    {
+        const Counting writing(writing_);
+        build(part);
+    }
+    if (late && onBuilt) onBuilt();
+}
+
+bool Binder::buildNext() {
+    if (form_ == nullptr) return false;
+    // A part that is built may hold others.
+    for (std::size_t i = 0; i < late_.size(); ++i)
+        if (late_[i]->buildNext()) return true;
+    return false;
+}
+
+void Binder::buildAll() {
+    while (buildNext()) continue;
 }
 
 /// A screen reader calls the field by its caption.
@@ -95,7 +132,8 @@ void Binder::nameTheNameless() {
     }
 }
 
-std::vector<std::string> Binder::unshown() const {
+std::vector<std::string> Binder::unshown() {
+    buildAll();
     std::vector<std::string> names;
     if (form_ == nullptr) return names;
     for (const auto& control : form_->controls())
@@ -136,7 +174,7 @@ void Binder::act(BoundControl& bound, const Verb& verb) {
         faults_(std::current_exception());
     }
     if (form_ == nullptr) return;
-    const Writing writing(writing_);
+    const Counting writing(writing_);
     bound.showAll();
 }
 
@@ -148,7 +186,7 @@ void Binder::leave(BoundControl& bound) {
 }
 
 void Binder::propertyChanged(Control& control, Property property) {
-    const Writing writing(writing_);
+    const Counting writing(writing_);
     if (BoundControl* bound = find(control.name())) bound->show(property);
     refreshLater();
     if (property != Property::caption) return;
@@ -191,16 +229,21 @@ void Binder::refreshDrawings() {
 
 GroupBox* Binder::frame(const std::string& name) { return static_cast<GroupBox*>(widget(name)); }
 
-QTabWidget* Binder::tabs(const std::string& name, std::initializer_list<QWidget*> pages) {
-    return tabs(name, std::vector<QWidget*>(pages));
+QTabWidget* Binder::tabs(const std::string& name, std::vector<PartMaker> pages) {
+    auto* widget = static_cast<QTabWidget*>(this->widget(name));
+    auto* tabs = static_cast<BoundTabs*>(find(name));
+    late_.push_back(tabs);
+    const Counting writing(writing_);
+    tabs->addPages(std::move(pages));
+    return widget;
 }
 
-QTabWidget* Binder::tabs(const std::string& name, const std::vector<QWidget*>& pages) {
-    auto* tabs = static_cast<QTabWidget*>(widget(name));
-    const Writing writing(writing_);
-    for (QWidget* page : pages) tabs->addTab(new ScrollPage(page), QString());
-    find(name)->showAll();
-    return tabs;
+GroupBox* Binder::panel(const std::string& name, PartMaker content) {
+    GroupBox* box = frame(name);
+    auto* bound = static_cast<BoundFrame*>(find(name));
+    late_.push_back(bound);
+    bound->setContent(std::move(content));
+    return box;
 }
 
 QWidget* Binder::firstOf(const std::vector<std::string>& names) {
@@ -296,27 +339,20 @@ FieldRow Binder::wide(QWidget* widget) const {
 }
 
 Binder& Binder::mark(const std::string& name, Mode mode) {
-    QWidget* marked = widget(name);
-    marked->setProperty("mode",
-                        mode == cooling ? QStringLiteral("cooling") : QStringLiteral("heating"));
-    const Writing writing(writing_);
-    find(name)->show(Property::forecolor);
+    widget(name);
+    find(name)->mark(mode);
     return *this;
 }
 
 QWidget* Binder::primary(const std::string& button) {
     QWidget* widget = this->widget(button);
-    widget->setProperty("usualTone", QStringLiteral("primary"));
-    const Writing writing(writing_);
-    find(button)->show(Property::backcolor);
+    static_cast<BoundButton*>(find(button))->makePrimary();
     return widget;
 }
 
 QWidget* Binder::iconButton(const std::string& button, const QString& icon) {
     QWidget* widget = this->widget(button);
-    widget->setProperty("usualIcon", icon);
-    const Writing writing(writing_);
-    find(button)->show(Property::backcolor);
+    static_cast<BoundButton*>(find(button))->setIcon(icon);
     return widget;
 }
 
@@ -326,17 +362,9 @@ QWidget* Binder::fixedPitch(const std::string& list) {
     return view;
 }
 
-QWidget* Binder::picture(const std::string& image, const QString& icon, int size) {
-    auto* label = static_cast<QLabel*>(widget(image));
-    label->setPixmap(houseIcon(icon).pixmap(QSize(size, size), label->devicePixelRatioF()));
-    label->setProperty("houseIcon", icon);
-    label->setProperty("houseIconSize", size);
-    return label;
-}
-
 QWidget* Binder::drawing(const std::string& image, Drawing* drawing) {
     if (form_ == nullptr) throw std::logic_error("the form of the drawing " + image + " has ended");
-    const Writing writing(writing_);
+    const Counting writing(writing_);
     keep(bindImage(*this, form_->control(image), drawing));
     return this->drawing(drawing);
 }

@@ -13,6 +13,7 @@
 
 #include "basis/mode.h"
 #include "desktop/binding/bound_control.h"
+#include "desktop/binding/late_parts.h"
 #include "desktop/drawings/drawing.h"
 #include "desktop/widgets/field_row.h"
 #include "desktop/widgets/house_widgets.h"
@@ -44,13 +45,17 @@ class Binder : public QObject, public FormObserver {
     /// The form, for drawings that read its model. Null when the window has been taken away.
     Form* form() const { return form_; }
     bool has(const std::string& name) const;
-    /// The widget of a control, whatever its kind. Throws std::out_of_range for an unknown name.
+    /// The widget of a control, whatever its kind; the part of the view that holds it is built
+    /// first. Throws std::out_of_range for an unknown name.
     QWidget* widget(const std::string& name);
     /// The group box of a control of kind frame, to be filled by group().
     GroupBox* frame(const std::string& name);
-    /// The tabbed pane with its pages in the order of its captions. Each page scrolls by itself.
-    QTabWidget* tabs(const std::string& name, std::initializer_list<QWidget*> pages);
-    QTabWidget* tabs(const std::string& name, const std::vector<QWidget*>& pages);
+    /// The tabbed pane with its pages in the order of its captions. Each page scrolls by itself and
+    /// is built when it comes to the front for the first time.
+    QTabWidget* tabs(const std::string& name, std::vector<PartMaker> pages);
+    /// The group box of a frame that is hidden most of the time; what it holds is built when it is
+    /// shown for the first time.
+    GroupBox* panel(const std::string& name, PartMaker content);
 
     /// Caption, field with its spin buttons, unit; then whatever else is named.
     FieldRow row(const std::string& field, std::initializer_list<QWidget*> more = {});
@@ -74,8 +79,6 @@ class Binder : public QObject, public FormObserver {
     QWidget* iconButton(const std::string& button, const QString& icon);
     /// A list whose columns are made of blanks: its figures stand in a fixed pitch.
     QWidget* fixedPitch(const std::string& list);
-    /// Shows a control of kind image by one of the drawn icons, of that size.
-    QWidget* picture(const std::string& image, const QString& icon, int size = 20);
     /// Shows a control of kind image by a drawing, which is refreshed after every action.
     QWidget* drawing(const std::string& image, Drawing* drawing);
     /// A drawing that no control stands for.
@@ -97,12 +100,20 @@ class Binder : public QObject, public FormObserver {
     }
     /// Whether a field that loses the focus is left; else only by Binder::leave.
     void setLeavesByFocus(bool leaves) { leavesByFocus_ = leaves; }
+    /// Lays out the view; parts that nobody looks at yet follow later.
+    void build(const std::function<void()>& view);
+    /// Called when a part has been built after the view.
+    std::function<void()> onBuilt;
+    /// Builds the parts that are still missing.
+    void buildAll();
     /// Names of the form's controls that no widget shows.
-    std::vector<std::string> unshown() const;
+    std::vector<std::string> unshown();
     /// Gives what has no caption the name of the group or page that it stands in.
     void nameTheNameless();
-    /// The bound control, null as long as no widget was asked for.
+    /// The bound control, null as long as no widget was asked for or its part has not been built.
     BoundControl* find(const std::string& name) const;
+    /// The bound control; its part is built when need be. Null for one that stands nowhere.
+    BoundControl* require(const std::string& name);
 
     // For the bound controls.
 
@@ -112,6 +123,7 @@ class Binder : public QObject, public FormObserver {
     /// How many verbs have been passed on.
     int actions() const { return actions_; }
     void watchKeys(BoundControl& bound, QWidget* keyboard);
+    void buildLate(const std::function<void()>& part);
     /// The widget loses the focus for good: the control is left.
     void leave(BoundControl& bound);
     /// A command begins: the control whose widget has the focus is left, though the focus stays.
@@ -140,12 +152,14 @@ class Binder : public QObject, public FormObserver {
     void refreshDrawings();
     void recolour();
     void refreshLater();
+    bool buildNext();
 
     Form* form_;
     QWidget* window_ = nullptr;
     std::map<std::string, std::unique_ptr<BoundControl>> bound_;
     std::map<const QObject*, BoundControl*> keyboards_;
     std::map<std::string, QButtonGroup*> groups_;
+    std::vector<LateParts*> late_;
     /// Fields by the caption that names them to screen readers.
     std::multimap<std::string, std::string> named_;
     std::vector<Drawing*> drawings_;
@@ -154,6 +168,7 @@ class Binder : public QObject, public FormObserver {
     bool leavesByFocus_ = true;
     bool refreshDue_ = false;
     int writing_ = 0;
+    int building_ = 0;
     int actions_ = 0;
 };
 

@@ -6,7 +6,6 @@
 
 #include "desktop/binding/binder.h"
 #include "desktop/binding/typing.h"
-#include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
@@ -82,9 +81,6 @@ void Binder::recolour() {
     for (const auto& [name, bound] : bound_) {
         bound->show(Property::forecolor);
         bound->show(Property::backcolor);
-        const QString icon = bound->widget()->property("houseIcon").toString();
-        if (!icon.isEmpty())
-            picture(name, icon, bound->widget()->property("houseIconSize").toInt());
     }
 }
 

@@ -13,13 +13,6 @@
 namespace varnholt {
 namespace {
 
-// What the control asked for, beside which a view may have a look of its own: themed colours,
-// headings in bold, the tool tip of a drawing.
-constexpr const char* backcolorProperty = "backcolor";
-constexpr const char* forecolorProperty = "forecolor";
-constexpr const char* boldProperty = "bold";
-constexpr const char* tooltipProperty = "tooltip";
-
 /// Whether the widget would be seen if the pages of tabs around it were in front.
 bool isShownIn(const QWidget* widget) {
     for (; widget != nullptr && !widget->isWindow(); widget = widget->parentWidget()) {
@@ -50,6 +43,16 @@ void BoundControl::setStyleProperty(const char* name, const QVariant& value) {
     widget_->update();
 }
 
+void BoundControl::colourText() {
+    coloured_ = true;
+    showForecolor();
+}
+
+void BoundControl::mark(Mode mode) {
+    setStyleProperty("mode",
+                     mode == cooling ? QStringLiteral("cooling") : QStringLiteral("heating"));
+}
+
 void BoundControl::show(Property property) {
     switch (property) {
         case Property::enabled:
@@ -61,22 +64,24 @@ void BoundControl::show(Property property) {
                 widget_->setVisible(control_.visible());
             break;
         case Property::tooltip:
-            widget_->setProperty(tooltipProperty, qt(control_.tooltip()));
+            if (asked_.tooltip == control_.tooltip()) break;
+            asked_.tooltip = control_.tooltip();
             widget_->setToolTip(qt(control_.tooltip()));
             break;
         case Property::backcolor:
+            asked_.backcolor = control_.backcolor();
             showBackcolor();
             break;
         case Property::forecolor:
-            showForecolor();
+            asked_.forecolor = control_.forecolor();
+            coloured_ = coloured_ || asked_.forecolor != colours::black;
+            if (coloured_) showForecolor();
             break;
-        case Property::bold: {
-            widget_->setProperty(boldProperty, control_.bold());
-            QFont font = widget_->font();
-            font.setBold(control_.bold());
-            widget_->setFont(font);
+        case Property::bold:
+            if (asked_.bold == control_.bold()) break;
+            asked_.bold = control_.bold();
+            showBold();
             break;
-        }
         default:
             break;
     }
@@ -93,7 +98,6 @@ void BoundControl::showAll() {
 }
 
 void BoundControl::showBackcolor() {
-    widget_->setProperty(backcolorProperty, control_.backcolor());
     const bool plain =
         control_.backcolor() == colours::buttonFace || control_.backcolor() == colours::window;
     if (plain && !widget_->autoFillBackground()) return;
@@ -104,7 +108,6 @@ void BoundControl::showBackcolor() {
 }
 
 void BoundControl::showForecolor() {
-    widget_->setProperty(forecolorProperty, control_.forecolor());
     QPalette palette = widget_->palette();
     const QColor colour = textColour(control_.forecolor(), look());
     for (const QPalette::ColorRole role :
@@ -116,6 +119,12 @@ void BoundControl::showForecolor() {
     widget_->setPalette(palette);
 }
 
+void BoundControl::showBold() {
+    QFont font = widget_->font();
+    font.setBold(control_.bold());
+    widget_->setFont(font);
+}
+
 Shown BoundControl::shown(Property property) const {
     switch (property) {
         case Property::enabled:
@@ -123,13 +132,13 @@ Shown BoundControl::shown(Property property) const {
         case Property::visible:
             return isShownIn(widget_);
         case Property::tooltip:
-            return plain(widget_->property(tooltipProperty).toString());
+            return asked_.tooltip;
         case Property::backcolor:
-            return widget_->property(backcolorProperty).toInt();
+            return asked_.backcolor;
         case Property::forecolor:
-            return widget_->property(forecolorProperty).toInt();
+            return asked_.forecolor;
         case Property::bold:
-            return widget_->property(boldProperty).toBool();
+            return asked_.bold;
         case Property::locked:
         case Property::checked:
             return false;

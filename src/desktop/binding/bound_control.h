@@ -3,7 +3,9 @@
 
 #include <QIcon>
 #include <memory>
+#include <string>
 
+#include "basis/mode.h"
 #include "forms/control.h"
 #include "script/transcript.h"
 
@@ -30,21 +32,37 @@ class BoundControl {
     /// Repaints one property of the control.
     virtual void show(Property property);
     void showAll();
+    /// Marks the widget as one of cooling or heating, by colour.
+    virtual void mark(Mode mode);
     /// What the widget shows of a property at this moment.
     virtual Shown shown(Property property) const;
 
  protected:
     Binder& binder() const { return binder_; }
     const Look& look() const;
+    /// Gives the text a colour of its own, now and in every scheme.
+    void colourText();
     /// Puts a style sheet's property on the widget and has it take effect.
     void setStyleProperty(const char* name, const QVariant& value);
     virtual void showBackcolor();
     virtual void showForecolor();
+    virtual void showBold();
 
  private:
+    /// What the control asked for last, beside which a view may have a look of its own: themed
+    /// colours, headings in bold, the tool tip of a drawing.
+    struct Asked {
+        int backcolor = colours::buttonFace, forecolor = colours::black;
+        bool bold = false;
+        std::string tooltip;
+    };
+
     Binder& binder_;
     Control& control_;
     QWidget* widget_;
+    Asked asked_;
+    /// The widget has once had a text colour of its own.
+    bool coloured_ = false;
 };
 
 /// Creates the widget that suits the control's kind, connected both ways.

@@ -150,7 +150,6 @@ class BoundCombo : public BoundControl {
                 showText();
                 break;
             case Property::locked:
-                combo_->setProperty("locked", control().locked());
                 combo_->setAttribute(Qt::WA_TransparentForMouseEvents, control().locked());
                 break;
             default:
@@ -173,7 +172,7 @@ class BoundCombo : public BoundControl {
                 return items;
             }
             case Property::locked:
-                return combo_->property("locked").toBool();
+                return combo_->testAttribute(Qt::WA_TransparentForMouseEvents);
             default:
                 return BoundControl::shown(property);
         }

@@ -26,12 +26,17 @@ FormWindow::FormWindow(Form& form, const ViewMaker& makeView, const FaultTaker& 
     : binder_(form) {
     binder_.setWindow(this);
     binder_.setFaultTaker(faults);
-    view_ = makeView(binder_);
+    binder_.build([&] { view_ = makeView(binder_); });
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(view_);
-    setWindowTitle(qt(form.caption()));
     setWindowIcon(iconOf(form.formName()));
+    finish();
+    binder_.onBuilt = [this] { finish(); };
+}
+
+/// What can only be told once the widgets stand in their places.
+void FormWindow::finish() {
     setReadingOrder(view_);
     binder_.nameTheNameless();
 }

@@ -25,8 +25,10 @@ class FormWindow : public QWidget {
     QWidget* view() const { return view_; }
 
  private:
+    void finish();
+
     Binder binder_;
-    QWidget* view_;
+    QWidget* view_ = nullptr;
 };
 
 }  // namespace varnholt

@@ -114,7 +114,7 @@ bool WidgetDriver::isMain(const Form& form) const {
 
 BoundControl& WidgetDriver::boundOf(const Form& form, const Control& control) const {
     FormWindow* window = windows_.windowOf(form);
-    BoundControl* bound = window == nullptr ? nullptr : window->binder().find(control.name());
+    BoundControl* bound = window == nullptr ? nullptr : window->binder().require(control.name());
     if (bound == nullptr) throw ScriptFault(control.name() + " stands in no window");
     return *bound;
 }

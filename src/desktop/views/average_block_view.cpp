@@ -7,14 +7,19 @@
 #include "desktop/views/views.h"
 
 namespace varnholt {
+namespace {
+
+QWidget* blockPage(Binder& bind) {
+    return row_(zoneList(bind), grow(new ScrollPage(column(zonePanel(bind)))));
+}
+
+}  // namespace
 
 QWidget* makeAverageBlockView(Binder& bind) {
     return roomy(
         column(loadsBar(bind), noticeBar(bind),
-               grow(bind.tabs(
-                   "tabLoads",
-                   {page(row_(zoneList(bind), grow(new ScrollPage(column(zonePanel(bind)))))),
-                    page(heatPumpPage(bind))}))),
+               grow(bind.tabs("tabLoads", {[&bind] { return page(blockPage(bind)); },
+                                           [&bind] { return page(heatPumpPage(bind)); }}))),
         {1220, 700});
 }
 

@@ -84,10 +84,13 @@ QWidget* arrangementPage(Binder& bind) {
 }  // namespace
 
 QWidget* makeBoreholeView(Binder& bind) {
-    QWidget* pages =
-        bind.tabs("BHTabs", {page(resultsPage(bind)), page(fluidPage(bind)), page(soilPage(bind)),
-                             page(pipePage(bind)), page(arrangementPage(bind)),
-                             page(extraPowerPage(bind)), page(informationPage(bind))});
+    QWidget* pages = bind.tabs(
+        "BHTabs",
+        {[&bind] { return page(resultsPage(bind)); }, [&bind] { return page(fluidPage(bind)); },
+         [&bind] { return page(soilPage(bind)); }, [&bind] { return page(pipePage(bind)); },
+         [&bind] { return page(arrangementPage(bind)); },
+         [&bind] { return page(extraPowerPage(bind)); },
+         [&bind] { return page(informationPage(bind)); }});
     // The results take more room than the zeros that they begin with.
     return roomy(column(bar(row_(bind.widget("MetricCheck"), stretch(), linkLights(bind))),
                         noticeBar(bind), grow(pages)),

@@ -5,6 +5,7 @@
 #include "desktop/views/view_registry.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/layout.h"
+#include "desktop/widgets/text_label.h"
 
 namespace varnholt {
 namespace {
@@ -25,7 +26,7 @@ QWidget* large(QWidget* label) {
 }
 
 QWidget* muted(QWidget* label) {
-    label->setProperty("unit", true);
+    mute(label);
     return label;
 }
 

@@ -3,6 +3,7 @@
 #include <QTabWidget>
 #include <algorithm>
 #include <cctype>
+#include <memory>
 #include <set>
 
 #include "desktop/binding/binder.h"
@@ -36,7 +37,7 @@ std::string prefixOf(const std::string& name) {
     return capitals < 2 ? std::string() : name.substr(0, capitals - 1);
 }
 
-class GenericView {
+class GenericView : public std::enable_shared_from_this<GenericView> {
  public:
     explicit GenericView(Binder& bind) : bind_(bind), form_(*bind.form()) {
         for (const auto& control : form_.controls())
@@ -108,13 +109,19 @@ class GenericView {
             else
                 pages[static_cast<std::size_t>(page - prefixes.begin())].push_back(control);
         }
-        std::vector<QWidget*> made;
-        made.reserve(pages.size());
-        for (const Controls& page : pages) made.push_back(padded(contentOf(page)));
         std::vector<Piece> pieces;
         if (!above.empty()) pieces.push_back(padded(contentOf(above)));
-        pieces.push_back(grow(bind_.tabs(tabs.name(), made)));
+        pieces.push_back(grow(bind_.tabs(tabs.name(), makersOf(pages))));
         return columnOf(pieces);
+    }
+
+    /// Pages are built when they are looked at: until then this object is kept.
+    std::vector<PartMaker> makersOf(const std::vector<Controls>& pages) {
+        std::vector<PartMaker> makers;
+        for (const Controls& page : pages)
+            makers.emplace_back(
+                [self = shared_from_this(), page] { return padded(self->contentOf(page)); });
+        return makers;
     }
 
     /// The pages' contents cannot be told from the names: everything stands on one page.
@@ -122,7 +129,7 @@ class GenericView {
         Controls others;
         for (const Control* control : top())
             if (control != &tabs) others.push_back(control);
-        bind_.tabs(tabs.name(), std::vector<QWidget*>{});
+        bind_.tabs(tabs.name(), {});
         return column(bind_.widget(tabs.name()), grow(new ScrollPage(padded(contentOf(others)))));
     }
 
@@ -191,6 +198,6 @@ class GenericView {
 
 }  // namespace
 
-QWidget* makeGenericView(Binder& bind) { return GenericView(bind).make(); }
+QWidget* makeGenericView(Binder& bind) { return std::make_shared<GenericView>(bind)->make(); }
 
 }  // namespace varnholt

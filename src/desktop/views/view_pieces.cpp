@@ -8,6 +8,7 @@
 
 #include "desktop/drawings/drawings.h"
 #include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/text_label.h"
 
 namespace varnholt {
 namespace {
@@ -33,8 +34,8 @@ QWidget* named(Binder& bind, const std::string& control, const std::string& capt
 }
 
 QWidget* hint(Binder& bind, int text, std::function<bool()> condition) {
-    auto* label = new QLabel(qt(bind.text(text)));
-    label->setProperty("unit", true);
+    auto* label = new TextLabel(qt(bind.text(text)));
+    label->setMuted();
     label->setWordWrap(true);
     const auto refresh = [label, condition = std::move(condition)] {
         // A label without a parent would open as a window of its own.

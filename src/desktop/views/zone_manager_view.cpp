@@ -70,7 +70,7 @@ QWidget* totals(Binder& bind) {
                        total(bind, "LOPeakLoadPeriod")));
 }
 
-QWidget* summary(Binder& bind) {
+QWidget* summaryFields(Binder& bind) {
     Drawing* day = newDayChart(
         [&bind] {
             const auto* window = static_cast<const frmZoneManage*>(bind.form());
@@ -79,18 +79,21 @@ QWidget* summary(Binder& bind) {
         [&bind] { return loadsCaptions(bind); }, bind.form()->texts());
     bind.widget("LOZoneSummaryList")->setMinimumWidth(summaryWidth);
     colourModes(bind.fixedPitch("LOZoneSummaryList"));
-    revealWhenOpened(bind.frame("LOSummaryPicture"));
-    return group(
-        bind.frame("LOSummaryPicture"),
+    return column(
         grow(row_(
             column(summaryHeads(bind), grow(named(bind, "LOZoneSummaryList", "LOSummaryPicture"))),
             gap(), grow(column(totals(bind), grow(bind.drawing("LOBuildingDayChart", day)))))),
         buttons(bind.widget("LOReturnFromSummaryCommand")));
 }
 
+QWidget* summary(Binder& bind) {
+    revealWhenOpened(bind.frame("LOSummaryPicture"));
+    return bind.panel("LOSummaryPicture", [&bind] { return summaryFields(bind); });
+}
+
 /// The summary above the zone, where it is seen as soon as it opens.
 QWidget* zonesPage(Binder& bind) {
-    return row_(zoneList(bind), grow(new ScrollPage(column(summary(bind), zonePanel(bind)))));
+    return row_(zoneList(bind), grow(new ScrollPage(column(grow(summary(bind)), zonePanel(bind)))));
 }
 
 }  // namespace
@@ -98,7 +101,8 @@ QWidget* zonesPage(Binder& bind) {
 QWidget* makeZoneManagerView(Binder& bind) {
     return roomy(
         column(loadsBar(bind), noticeBar(bind),
-               grow(bind.tabs("tabLoads", {page(zonesPage(bind)), page(heatPumpPage(bind))}))),
+               grow(bind.tabs("tabLoads", {[&bind] { return page(zonesPage(bind)); },
+                                           [&bind] { return page(heatPumpPage(bind)); }}))),
         {1220, 700});
 }
 

@@ -5,6 +5,7 @@
 #include "desktop/drawings/drawings.h"
 #include "desktop/views/loads_pieces.h"
 #include "desktop/views/view_pieces.h"
+#include "desktop/widgets/text_label.h"
 #include "loads/modLoads/zone_window.h"
 
 namespace varnholt {
@@ -14,7 +15,7 @@ FieldRow unitRow(Binder& bind, const char* cooling, const char* heating) {
     FieldRow row;
     for (const char* name : {cooling, heating}) {
         auto* unit = static_cast<QLabel*>(bind.widget(name));
-        unit->setProperty("unit", true);
+        mute(unit);
         unit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         row.fields.push_back(unit);
     }
@@ -83,15 +84,18 @@ void narrow(QWidget* field) {
     static_cast<FieldEdit*>(field)->setFigures(figures);
 }
 
-QWidget* selection(Binder& bind) {
+QWidget* selectionFields(Binder& bind) {
     narrow(bind.widget("LONumberOfUnitsText(0)"));
     FieldRow model = bind.row("LOPumpNameCombo");
     model.caption = bind.widget("LOPumpNameComboLabel");
+    return column(row_(grid(bind.row("LOMfgCombo"), bind.row("LOSeriesCombo")), gap(),
+                       grid(model, bind.row("LONumberOfUnitsText(0)")), stretch()),
+                  buttons(bind.primary("LOSelectPumpCommand"), bind.widget("LOCancelCommand")));
+}
+
+QWidget* selection(Binder& bind) {
     revealWhenOpened(bind.frame("LOSelectFrame"));
-    return group(bind.frame("LOSelectFrame"),
-                 row_(grid(bind.row("LOMfgCombo"), bind.row("LOSeriesCombo")), gap(),
-                      grid(model, bind.row("LONumberOfUnitsText(0)")), stretch()),
-                 buttons(bind.primary("LOSelectPumpCommand"), bind.widget("LOCancelCommand")));
+    return bind.panel("LOSelectFrame", [&bind] { return selectionFields(bind); });
 }
 
 FieldRow detail(Binder& bind, std::size_t index) {
@@ -115,14 +119,17 @@ QWidget* loadSide(Binder& bind, const char* frame, std::size_t first) {
                       row("LOInletLoadsTempText"), row("LOInletLoadsFlowText")));
 }
 
-QWidget* details(Binder& bind) {
-    revealWhenOpened(bind.frame("LODetailsFrame"));
-    return group(
-        bind.frame("LODetailsFrame"),
+QWidget* detailsFields(Binder& bind) {
+    return column(
         row_(grid(detail(bind, 0), detail(bind, 1), detail(bind, 2)), gap(),
              column(loadSide(bind, "LOInletAirFrame", 0), loadSide(bind, "LOInletWaterFrame", 2)),
              gap(), grid(bind.row("LONominalFlowText")), stretch()),
         buttons(bind.widget("LOReturnCommand")));
+}
+
+QWidget* details(Binder& bind) {
+    revealWhenOpened(bind.frame("LODetailsFrame"));
+    return bind.panel("LODetailsFrame", [&bind] { return detailsFields(bind); });
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/widgets/column_heads.h"
+#include "desktop/widgets/text_label.h"
 
 #include <QEvent>
 #include <QFontMetricsF>
@@ -20,7 +21,7 @@ ColumnHeads::ColumnHeads(QWidget* list, std::vector<Head> heads)
     : list_(list), heads_(std::move(heads)) {
     for (const Head& head : heads_) {
         head.label->setParent(this);
-        head.label->setProperty("unit", true);
+        mute(head.label);
         QFont small = head.label->font();
         small.setPointSizeF(small.pointSizeF() * headScale);
         head.label->setFont(small);

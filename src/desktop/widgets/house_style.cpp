@@ -2,6 +2,7 @@
 #include "desktop/widgets/house_style.h"
 
 #include <QApplication>
+#include <QMdiSubWindow>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -68,8 +69,18 @@ int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
     return QProxyStyle::styleHint(hint, option, widget, result);
 }
 
+QIcon HouseStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                               const QWidget* widget) const {
+    // The entries of a child window's own menu go without pictures, which every new window would
+    // read from the disk.
+    if (qobject_cast<const QMdiSubWindow*>(widget) != nullptr) return {};
+    return QProxyStyle::standardIcon(icon, option, widget);
+}
+
 void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
+    // The widgets show the focus by their edges.
+    if (element == PE_FrameFocusRect) return;
     if (element != PE_FrameWindow) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;

@@ -10,6 +10,7 @@
 
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/text_label.h"
 
 namespace varnholt {
 
@@ -152,11 +153,10 @@ void UpDownButtons::wheelEvent(QWheelEvent* event) {
 }
 
 GroupBox::GroupBox(QWidget* parent)
-    : QWidget(parent), title_(new QLabel(this)), layout_(new QVBoxLayout(this)) {
+    : QWidget(parent), title_(new TextLabel(this)), layout_(new QVBoxLayout(this)) {
     QFont font = title_->font();
     font.setWeight(QFont::DemiBold);
     title_->setFont(font);
-    title_->setTextFormat(Qt::PlainText);
     title_->hide();
     layout_->setContentsMargins(2 * gridStep, gridStep + gridStep / 2, 2 * gridStep,
                                 gridStep + gridStep / 2);
@@ -203,12 +203,14 @@ void GroupBox::paintEvent(QPaintEvent*) {
 }
 
 ScrollPage::ScrollPage(QWidget* page) {
-    page->setObjectName(QStringLiteral("page"));
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
+    // Its size is settled with the window's.
+    page->setAttribute(Qt::WA_Resized);
     setWidget(page);
     viewport()->setAutoFillBackground(false);
+    page->setAutoFillBackground(false);
 }
 
 QSize ScrollPage::sizeHint() const { return widget()->sizeHint() + QSize(2, 2); }

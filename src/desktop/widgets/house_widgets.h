@@ -111,6 +111,7 @@ class GroupBox : public QWidget {
 class ScrollPage : public QScrollArea {
  public:
     explicit ScrollPage(QWidget* page);
+
     /// The whole page; whoever places it keeps it within the screen.
     QSize sizeHint() const override;
 };

@@ -33,46 +33,60 @@ QByteArray inColours(QByteArray svg, const Look& look, bool disabled) {
     return svg;
 }
 
+/// Draws a picture once for every size, resolution and scheme in which it is shown.
 class HouseIcon : public QIconEngine {
  public:
-    explicit HouseIcon(QString name) : name_(std::move(name)) {}
+    enum class Colours { scheme, own };
+
+    HouseIcon(QString name, Colours colours) : name_(std::move(name)), colours_(colours) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-        QSvgRenderer drawing(inColours(pictureFile(name_), lookOf(QApplication::palette()),
-                                       mode == QIcon::Disabled));
-        painter->setOpacity(mode == QIcon::Disabled ? 0.55 : 1);
-        drawing.render(painter, QRectF(rect));
+        const double ratio = painter->device()->devicePixelRatioF();
+        painter->drawPixmap(rect, drawn(rect.size() * ratio, mode));
     }
 
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        const bool dark = lookOf(QApplication::palette()).dark;
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+        return drawn(size, mode);
+    }
+
+    QIconEngine* clone() const override { return new HouseIcon(name_, colours_); }
+
+ private:
+    QPixmap drawn(const QSize& size, QIcon::Mode mode) const {
+        const Look& look = lookOf(QApplication::palette());
+        const bool disabled = mode == QIcon::Disabled;
         const QString key = QStringLiteral("varnholt-%1-%2x%3-%4-%5")
                                 .arg(name_)
                                 .arg(size.width())
                                 .arg(size.height())
-                                .arg(mode)
-                                .arg(dark);
-        QPixmap drawn;
-        if (QPixmapCache::find(key, &drawn)) return drawn;
-        drawn = QPixmap(size);
-        drawn.fill(Qt::transparent);
-        QPainter painter(&drawn);
-        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+                                .arg(disabled)
+                                .arg(look.dark);
+        QPixmap picture;
+        if (QPixmapCache::find(key, &picture)) return picture;
+        picture = QPixmap(size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        painter.setOpacity(disabled ? 0.55 : 1);
+        const QByteArray file = pictureFile(name_);
+        QSvgRenderer(colours_ == Colours::own ? file : inColours(file, look, disabled))
+            .render(&painter, QRectF(QPointF(0, 0), size));
         painter.end();
-        QPixmapCache::insert(key, drawn);
-        return drawn;
+        QPixmapCache::insert(key, picture);
+        return picture;
     }
 
-    QIconEngine* clone() const override { return new HouseIcon(name_); }
-
- private:
     QString name_;
+    Colours colours_;
 };
 
 }  // namespace
 
-QIcon houseIcon(const QString& name) { return QIcon(new HouseIcon(name)); }
+QIcon houseIcon(const QString& name) {
+    return QIcon(new HouseIcon(name, HouseIcon::Colours::scheme));
+}
 
-QIcon applicationIcon() { return QIcon(QStringLiteral(":/pictures/varnholt.svg")); }
+QIcon applicationIcon() {
+    return QIcon(new HouseIcon(QStringLiteral("varnholt"), HouseIcon::Colours::own));
+}
 
 }  // namespace varnholt

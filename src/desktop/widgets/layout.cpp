@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "desktop/widgets/flow_layout.h"
+#include "desktop/widgets/text_label.h"
 
 namespace varnholt {
 namespace {
@@ -108,7 +109,7 @@ void FieldGrid::addRow(int line, const FieldRow& row, int fieldColumns) {
         ++column;
     }
     if (row.unit != nullptr) {
-        row.unit->setProperty("unit", true);
+        mute(row.unit);
         layout_->addWidget(row.unit, line, unitColumn, Qt::AlignLeft | Qt::AlignVCenter);
     }
     if (row.more.empty()) return;

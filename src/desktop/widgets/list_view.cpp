@@ -152,9 +152,20 @@ void ListView::selectionChanged(const QItemSelection& selected, const QItemSelec
     onPicked();
 }
 
+int ListView::longestEntry() const {
+    // The entry of the most characters stands for the widest: to measure all of a thousand takes
+    // longer than to draw the window.
+    const std::vector<std::string>& items = model_->items();
+    const auto longest = std::max_element(
+        items.begin(), items.end(),
+        [](const std::string& a, const std::string& b) { return a.size() < b.size(); });
+    return longest == items.end() ? 0 : fontMetrics().horizontalAdvance(qt(*longest));
+}
+
 QSize ListView::sizeHint() const {
     // As wide as its longest entry and eight rows high; whoever places it may stretch it.
-    const int wide = std::max(160, sizeHintForColumn(0) + 40);
+    constexpr int edges = 48;
+    const int wide = std::max(160, longestEntry() + edges);
     return {std::min(wide, 520), 8 * std::max(18, sizeHintForRow(0)) + 8};
 }
 

@@ -57,6 +57,7 @@ class ListView : public QTreeView {
 
  private:
     void fitColumns();
+    int longestEntry() const;
     void select(const std::vector<int>& rows);
 
     ListModel* model_;

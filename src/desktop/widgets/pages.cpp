@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/widgets/look.h"
 
@@ -34,7 +35,11 @@ class Roomy : public QWidget {
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(view);
     }
-    QSize sizeHint() const override { return QWidget::sizeHint().expandedTo(least_); }
+    QSize sizeHint() const override {
+        constexpr double usualPoints = 9;
+        const double scale = std::max(1.0, font().pointSizeF() / usualPoints);
+        return QWidget::sizeHint().expandedTo(least_ * scale);
+    }
     /// Else its height would follow from its width alone.
     bool hasHeightForWidth() const override { return false; }
 

@@ -17,8 +17,8 @@ QWidget* gap();
 /// A hairline between parts of a table.
 QWidget* rule();
 
-/// A view that opens no smaller than so much, though it may be made smaller: what it shows later
-/// finds its place.
+/// A view that opens no smaller than so much in the usual size of type, and larger with larger
+/// type, though it may be made smaller: what it shows later finds its place.
 QWidget* roomy(QWidget* view, const QSize& least);
 
 /// Scrolls a panel into sight when it opens.

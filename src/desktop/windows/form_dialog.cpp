@@ -5,11 +5,13 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "desktop/widgets/qt_text.h"
+
 namespace varnholt {
 
 FormDialog::FormDialog(FormWindow* content, QWidget* parent) : QDialog(parent), content_(content) {
     setModal(true);
-    setWindowTitle(content->windowTitle());
+    setWindowTitle(qt(content->binder().form()->caption()));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(content);

@@ -10,6 +10,7 @@
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/text_label.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {
@@ -79,7 +80,7 @@ StartPage::StartPage(const Varnmain& main, std::function<void(const std::string&
     auto* card = new QWidget;
     card_ = new QVBoxLayout(card);
     card_->setSpacing(gridStep);
-    auto* title = new QLabel(qt(main.text(desktop_texts::emptyTitle)));
+    auto* title = new TextLabel(qt(main.text(desktop_texts::emptyTitle)));
     QFont font = title->font();
     font.setPointSizeF(font.pointSizeF() * 1.3);
     font.setWeight(QFont::DemiBold);
@@ -88,8 +89,8 @@ StartPage::StartPage(const Varnmain& main, std::function<void(const std::string&
     card_->addWidget(line(main, "NewBorehole", "new-borehole", desktop_texts::emptyBorehole));
     card_->addWidget(line(main, "mnuZoneManage", "zones", desktop_texts::emptyZones));
     card_->addWidget(line(main, "mnuFileOpen", "open", desktop_texts::emptyOpen));
-    auto* drop = new QLabel(qt(main.text(desktop_texts::emptyDrop)));
-    drop->setProperty("unit", true);
+    auto* drop = new TextLabel(qt(main.text(desktop_texts::emptyDrop)));
+    drop->setMuted();
     card_->addWidget(drop);
     across->addStretch(1);
     across->addWidget(card, 0, Qt::AlignCenter);

@@ -63,10 +63,11 @@ FormWindow* WindowShelf::makeContent(Form& form) {
 }
 
 void WindowShelf::opened(Form& form) {
-    if (auto* child = dynamic_cast<ChildWindow*>(&form))
-        openChild(*child);
-    else if (!isMain(form))
-        window_->showStartPicture(makeContent(form));
+    if (auto* child = dynamic_cast<ChildWindow*>(&form)) return openChild(*child);
+    if (isMain(form)) return;
+    FormWindow* picture = makeContent(form);
+    picture->setWindowTitle(qt(form.caption()));
+    window_->showStartPicture(picture);
 }
 
 void WindowShelf::openChild(ChildWindow& form) {
@@ -79,8 +80,9 @@ void WindowShelf::openChild(ChildWindow& form) {
     frame->onCloseBox = [this, &form] { closeByBox(&form); };
     frame->content().binder().onSettled([this, &form] { refreshTitle(form); });
     place(*frame);
-    refreshTitle(form);
     frame->show();
+    // The frame measures its title with every change of its shape.
+    refreshTitle(form);
 }
 
 /// As large as what it shows, within the area: beside the windows that are open where there is
@@ -225,7 +227,9 @@ void WindowShelf::refreshTitle(const Form& form) {
     if (frame == nullptr) return;
     const QString title = qt(form.caption()) + QStringLiteral("[*]");
     if (frame->windowTitle() != title) frame->setWindowTitle(title);
-    frame->setWindowModified(isModified(form));
+    // Told again, the frame would draw its title again.
+    if (const bool modified = isModified(form); frame->isWindowModified() != modified)
+        frame->setWindowModified(modified);
 }
 
 }  // namespace varnholt
