@@ -5,6 +5,7 @@
 
 #include <QTest>
 #include <QWindow>
+#include <vector>
 
 #include "desktop/desk.h"
 #include "loads/ModLoadsIO.h"
@@ -18,16 +19,17 @@ namespace {
 class LinkedProject {
  public:
     explicit LinkedProject(std::int64_t zones) {
-        LoadsData data;
-        data.zones.resize(static_cast<std::size_t>(zones));
+        std::vector<Zone> rooms(static_cast<std::size_t>(zones));
         double load = 0;
-        for (Zone& zone : data.zones) {
+        for (Zone& zone : rooms) {
             zone.gains[1][cooling] = load += 1.5;
             zone.gains[3][heating] = load / 2;
             zone.title = "A room with a name";
             zone.pump.capacity = {load, load};
             zone.pump.watts = {load / 12, load / 14};
         }
+        LoadsData data;
+        data.zones = rooms;
         saveZoneFile(desk.folder() + "/work files/zones.zon", data);
         makeProject();
     }

@@ -181,7 +181,7 @@ void Binder::act(BoundControl& bound, const Verb& verb) {
 void Binder::leave(BoundControl& bound) {
     act(bound, [](Form& form, const std::string& name) { form.leave(name); });
     if (form_ == nullptr) return;
-    const Writing writing(writing_);
+    const Counting writing(writing_);
     forgetTyping(*bound.widget());
 }
 
