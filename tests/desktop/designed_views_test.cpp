@@ -3,6 +3,7 @@
 // follow.
 #include <gtest/gtest.h>
 
+#include <QTabWidget>
 #include <algorithm>
 
 #include "desk.h"
@@ -71,6 +72,63 @@ TEST_F(DesignedViews, LeaveNoControlOut) {
         FormWindow window(form, views.maker(), {});
         EXPECT_EQ(window.binder().unshown(), std::vector<std::string>{}) << form.formName();
     }
+}
+
+TEST_F(DesignedViews, BuildAPageWhenItIsTurnedTo) {
+    ChildWindow& form = opened("NewBorehole");
+    FormWindow window(form, views.maker(), {});
+    window.show();
+    Binder& binder = window.binder();
+    EXPECT_NE(binder.find("CACalculateCommand"), nullptr);
+    EXPECT_EQ(binder.find("FLInletTempText(0)"), nullptr);
+    EXPECT_EQ(binder.find("SOGroundTempText"), nullptr);
+    static_cast<QTabWidget*>(binder.widget("BHTabs"))->setCurrentIndex(1);
+    ASSERT_NE(binder.find("FLInletTempText(0)"), nullptr);
+    EXPECT_TRUE(binder.find("FLInletTempText(0)")->widget()->isVisible());
+    EXPECT_EQ(binder.find("SOGroundTempText"), nullptr);
+}
+
+TEST_F(DesignedViews, BuildAPanelWhenItIsShown) {
+    ChildWindow& form = opened("mnuZoneManage");
+    form.click("LONewCommand");
+    FormWindow window(form, views.maker(), {});
+    window.show();
+    EXPECT_EQ(window.binder().find("LOReturnFromSummaryCommand"), nullptr);
+    form.click("LOSummaryCommand");
+    ASSERT_NE(window.binder().find("LOReturnFromSummaryCommand"), nullptr);
+    Desk::settle();
+    EXPECT_TRUE(window.binder().find("LOReturnFromSummaryCommand")->widget()->isVisible());
+}
+
+TEST_F(DesignedViews, ShowOnALatePageWhatHasChangedBefore) {
+    ChildWindow& form = opened("NewBorehole");
+    FormWindow window(form, views.maker(), {});
+    form.type("SOGroundTempText", "57.5");
+    form.control("SOGroundTempText").setEnabled(false);
+    const BoundControl* field = window.binder().require("SOGroundTempText");
+    ASSERT_NE(field, nullptr);
+    EXPECT_EQ(std::get<std::string>(field->shown(Property::text)), "57.5");
+    EXPECT_FALSE(std::get<bool>(field->shown(Property::enabled)));
+}
+
+TEST_F(DesignedViews, BuildALatePageWithoutTurningToIt) {
+    ChildWindow& form = opened("NewBorehole");
+    FormWindow window(form, views.maker(), {});
+    window.show();
+    const QWidget* field = window.binder().require("INCommentsRichTextBox")->widget();
+    EXPECT_EQ(form.control("BHTabs").index(), 0);
+    EXPECT_FALSE(field->isVisible());
+    EXPECT_EQ(window.binder().require("NoSuchControl"), nullptr);
+}
+
+TEST_F(DesignedViews, KeepTheReadingOrderWhateverPageIsBuiltFirst) {
+    ChildWindow& form = opened("NewBorehole");
+    FormWindow inOrder(form, views.maker(), {});
+    inOrder.binder().buildAll();
+    FormWindow backwards(form, views.maker(), {});
+    for (const int page : {6, 3, 1, 5, 2, 4})
+        static_cast<QTabWidget*>(backwards.binder().widget("BHTabs"))->setCurrentIndex(page);
+    EXPECT_EQ(walkedByTab(form, backwards), walkedByTab(form, inOrder));
 }
 
 TEST_F(DesignedViews, DrawTheBoreAsItIsTyped) {

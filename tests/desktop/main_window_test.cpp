@@ -177,6 +177,24 @@ TEST_F(MainWindowTest, MarksAWindowWithUnsavedLoads) {
     EXPECT_EQ(plain(frameOf(loads)->windowTitle()), loads.caption() + "[*]");
 }
 
+TEST_F(MainWindowTest, SetsTheMarkOfUnsavedWorkOnlyWhenItChanges) {
+    class Marks : public QObject {
+     public:
+        bool eventFilter(QObject*, QEvent* event) override {
+            if (event->type() == QEvent::ModifiedChange) ++set;
+            return false;
+        }
+        int set = 0;
+    } marks;
+    ChildWindow& loads = open("mnuZoneManage");
+    frameOf(loads)->installEventFilter(&marks);
+    loads.click("LONewCommand");
+    loads.type("LOGainsText(0)", "1");
+    loads.type("LOGainsText(0)", "12");
+    EXPECT_TRUE(frameOf(loads)->isWindowModified());
+    EXPECT_EQ(marks.set, 1);
+}
+
 TEST_F(MainWindowTest, TurnsThePagesOfAWindowByKeys) {
     ChildWindow& design = open("NewBorehole");
     QWidget* pages = desk.shelf.windowOf(design)->binder().widget("BHTabs");
