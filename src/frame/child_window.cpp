@@ -72,7 +72,7 @@ void ChildWindow::beginStep() {
 
 void ChildWindow::endStep(const std::string& name, const std::string& visit, int action) {
     if (!history_.hasStarted()) return;
-    history_.record(state(), name, visit, action);
+    history_.record(state(), name, visit, action, staysSaved());
     stepRecorded();
 }
 

@@ -4,7 +4,7 @@
 namespace varnholt {
 
 void DocumentHistory::start(StatePointer now, bool saved) {
-    states_ = {moment(std::move(now))};
+    states_ = {{now, std::move(now), ++lastRevision_}};
     steps_.clear();
     at_ = 0;
     savedRevision_ = saved ? lastRevision_ : 0;
@@ -16,13 +16,16 @@ void DocumentHistory::absorb(StatePointer now, bool stillSaved) {
         states_[at_].left = std::move(now);
         return;
     }
-    const bool saved = stillSaved && isAtSaved();
-    states_[at_] = moment(std::move(now));
-    if (saved) savedRevision_ = lastRevision_;
+    states_[at_] = moment(std::move(now), stillSaved);
+}
+
+DocumentHistory::Moment DocumentHistory::moment(StatePointer now, bool stillSaved) {
+    const int revision = stillSaved && isAtSaved() ? savedRevision_ : ++lastRevision_;
+    return {now, std::move(now), revision};
 }
 
 void DocumentHistory::record(StatePointer now, const std::string& name, const std::string& visit,
-                             int action) {
+                             int action, bool stillSaved) {
     if (states_[at_].reached->equals(*now)) return;
     states_.erase(states_.begin() + static_cast<std::ptrdiff_t>(at_) + 1, states_.end());
     steps_.erase(steps_.begin() + static_cast<std::ptrdiff_t>(at_), steps_.end());
@@ -30,13 +33,13 @@ void DocumentHistory::record(StatePointer now, const std::string& name, const st
     visit_ = visit;
     if (!same) {
         steps_.push_back({name, action, now->weightBeside(*states_[at_].reached)});
-        states_.push_back(moment(std::move(now)));
+        states_.push_back(moment(std::move(now), stillSaved));
         ++at_;
         return forgetOldest();
     }
     if (!states_[at_ - 1].reached->equals(*now)) {
         steps_.back().weight = now->weightBeside(*states_[at_ - 1].reached);
-        states_[at_] = moment(std::move(now));
+        states_[at_] = moment(std::move(now), stillSaved);
         return;
     }
     // The visit has brought the document back to where it began: there is no step.

@@ -55,8 +55,9 @@ class DocumentHistory {
     /// @param name  what was done: "Remove Zone 3"
     /// @param visit changes in a row with the same visit that is not empty are one step
     /// @param action number of the action that did it, the same in every document that it changed
+    /// @param stillSaved  as in absorb
     void record(StatePointer now, const std::string& name, const std::string& visit = {},
-                int action = 0);
+                int action = 0, bool stillSaved = false);
     /// The next change is a step of its own, whatever its visit.
     void endVisit() { visit_.clear(); }
 
@@ -89,7 +90,7 @@ class DocumentHistory {
     struct Moment {
         StatePointer reached;  ///< as the step to it ended
         StatePointer left;     ///< as the step from it began
-        int revision;
+        int revision;          ///< the same for states that are one on the disk
     };
 
     struct Step {
@@ -98,7 +99,8 @@ class DocumentHistory {
         std::size_t weight;
     };
 
-    Moment moment(const StatePointer& now) { return {now, now, ++lastRevision_}; }
+    /// The moment that takes the place of the present one or follows it.
+    Moment moment(StatePointer now, bool stillSaved);
     void forgetOldest();
 
     /// Step i leads from moment i to moment i + 1.

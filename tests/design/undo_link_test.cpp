@@ -173,6 +173,23 @@ TEST_F(UndoOfALink, OfATemperatureGivesItBackToTheLoads) {
     EXPECT_EQ(shown(zones, "LOInletTempText(0)"), "92.0");
 }
 
+TEST_F(UndoOfALink, OfATemperatureLeavesSavedLoadsSavedThoughTheLinkIsYounger) {
+    setSaved(zones, "two.zon");
+    linkFrom(design);
+    EXPECT_FALSE(zones.hasUnsavedChanges());
+    design.type("FLInletTempText(0)", "92");
+    design.leave("FLInletTempText(0)");
+    undo();
+    EXPECT_FALSE(zones.hasUnsavedChanges());
+    EXPECT_FALSE(enabled(zones, "LOSaveCommand"));
+    redo();
+    undo();
+    undo();  // of the link
+    EXPECT_FALSE(zones.hasUnsavedChanges());
+    EXPECT_TRUE(main.close(zones));
+    EXPECT_TRUE(platform.questions.empty());
+}
+
 TEST_F(UndoOfALink, OfATemperatureInTheDesignIsAStepOfTheLoadsToo) {
     linkFrom(design);
     for (const char* typed : {"9", "92"}) design.type("FLInletTempText(0)", typed);

@@ -173,6 +173,29 @@ TEST_F(DocumentHistoryTest, WhatIsAbsorbedMayLeaveASavedDocumentSaved) {
     EXPECT_TRUE(history.isAtSaved());
 }
 
+TEST_F(DocumentHistoryTest, AStepMayLeaveASavedDocumentSavedTooOnEitherSideOfIt) {
+    history.record(state(1), "Link", "", 0, true);
+    EXPECT_TRUE(history.isAtSaved());
+    record(2);
+    EXPECT_FALSE(history.isAtSaved());
+    history.record(state(3), "Link", "", 0, true);  // what was not saved stays so
+    EXPECT_FALSE(history.isAtSaved());
+    undo();
+    undo();
+    EXPECT_TRUE(history.isAtSaved());
+    undo();
+    EXPECT_TRUE(history.isAtSaved());
+}
+
+TEST_F(DocumentHistoryTest, AVisitLeavesTheSavedStateWithItsFirstChangeThatIsOne) {
+    history.record(state(1), "Field", "Field", 0, true);
+    EXPECT_TRUE(history.isAtSaved());
+    history.record(state(2), "Field", "Field", 0, false);
+    EXPECT_FALSE(history.isAtSaved());
+    undo();
+    EXPECT_TRUE(history.isAtSaved());
+}
+
 TEST_F(DocumentHistoryTest, AbsorbingTheSameStateChangesNothing) {
     record(1);
     undo();
