@@ -41,5 +41,24 @@ TEST(StartedProgram, DoesWithoutTheChartsWhereTheyAreMissing) {
     EXPECT_EQ(program.end(), 0);
 }
 
+/// Opens so many designs and closes them again.
+std::string openAndClose(int designs) {
+    std::string script = "click Varnmain.NewBorehole";
+    for (int i = 1; i < designs; ++i) script += "\nclick Varnmain.NewBorehole";
+    for (int i = 0; i < designs; ++i) script += "\nanswer no\nclose frmBHDesign";
+    return script;
+}
+
+TEST(StartedProgram, KeepsNothingOfTheWindowsThatAScriptHasClosed) {
+    StartedProgram program(windows);
+    program.run(openAndClose(50));
+    const double before = program.megabytes();
+    for (int round = 0; round < 3; ++round) program.run(openAndClose(50));
+    EXPECT_GT(before, 20);
+    // A window takes about half a megabyte: three rounds that kept theirs would take 75.
+    EXPECT_LT(program.megabytes() - before, 8);
+    EXPECT_EQ(program.end(), 0);
+}
+
 }  // namespace
 }  // namespace varnholt

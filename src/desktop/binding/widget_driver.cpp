@@ -104,8 +104,11 @@ FaultTaker WidgetDriver::faultTaker() {
     };
 }
 
-void WidgetDriver::rethrow() {
+void WidgetDriver::finish() {
     if (fault_) std::rethrow_exception(std::exchange(fault_, nullptr));
+    // Windows that have been closed go once nothing of theirs is under way.
+    if (main_.modalForms().empty())
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 bool WidgetDriver::isMain(const Form& form) const {
@@ -131,10 +134,7 @@ void WidgetDriver::work(Form& form, const Control& control,
         hand(bound.widget());
         if (binder != nullptr && binder->actions() == before) binder->act(bound, verb);
     }
-    rethrow();
-    // Windows that have been closed go once nothing of theirs is under way.
-    if (main_.modalForms().empty())
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    finish();
 }
 
 void WidgetDriver::type(Form& form, const Control& control, const std::string& text) {
@@ -175,7 +175,7 @@ void WidgetDriver::click(Form& form, const Control& control) {
         QAction* action = windows_.command(control.name());
         if (action == nullptr) throw ScriptFault(control.name() + " stands in no menu");
         if (action->menu() == nullptr) action->trigger();
-        return rethrow();
+        return finish();
     }
     work(
         form, control,
@@ -233,15 +233,14 @@ void WidgetDriver::activate(Form& form) {
     for (ChildWindow* child : main_.windows()) {
         if (child != &form) continue;
         windows_.bringToFront(form);
-        rethrow();
         main_.activate(*child);  // in front already as far as the toolkit knows
-        return;
+        return finish();
     }
 }
 
 void WidgetDriver::close(Form& form) {
     windows_.pressCloseBox(form);
-    rethrow();
+    finish();
 }
 
 std::string WidgetDriver::caption(const Form& form) {

@@ -48,7 +48,8 @@ class WidgetDriver : public Driver {
     /// (the same text again), the person has acted all the same, and the verb is passed on.
     void work(Form& form, const Control& control, const std::function<void(QWidget*)>& hand,
               const Verb& verb);
-    void rethrow();
+    /// The end of a line: a failure leaves, and what has been closed goes.
+    void finish();
 
     Varnmain& main_;
     OpenWindows& windows_;
