@@ -164,6 +164,13 @@ TEST_F(BinderTest, AComboShowsATextThatIsNoEntry) {
     EXPECT_EQ(text("KindCombo"), "Brine");
 }
 
+TEST_F(BinderTest, AComboWhoseChoiceIsTakenAwayShowsNone) {
+    control("KindCombo").setIndex(0);
+    control("KindCombo").setItems({"Water", "Methanol", "Glycol"}).setText({});
+    EXPECT_EQ(find<QComboBox>("KindCombo")->currentIndex(), -1);
+    EXPECT_EQ(text("KindCombo"), "");
+}
+
 TEST_F(BinderTest, AnEditableComboIsTypedIn) {
     auto* combo = find<QComboBox>("SizeCombo");
     press(combo, Qt::Key_3, QStringLiteral("3"));
@@ -260,6 +267,20 @@ TEST_F(BinderTest, ADateGoesBothWays) {
     control("StartDTPicker").setDate({1899, 12, 30});
     EXPECT_EQ(edit->date(), QDate(1899, 12, 30));
     EXPECT_EQ(form.events, (Events{"click StartDTPicker"}));
+}
+
+TEST_F(BinderTest, ADateBeforeThoseOfTheWidgetIsShownAsText) {
+    auto* edit = find<QDateEdit>("StartDTPicker");
+    const BoundControl* bound = window->binder().find("StartDTPicker");
+    control("StartDTPicker").setDate({99, 12, 31});
+    EXPECT_EQ(plain(edit->text()), "0099-12-31");
+    EXPECT_EQ(std::get<Date>(bound->shown(Property::value)), (Date{99, 12, 31}));
+    control("StartDTPicker").setDate({100, 1, 1});
+    EXPECT_EQ(plain(edit->text()), "0100-01-01");
+    EXPECT_EQ(std::get<Date>(bound->shown(Property::value)), (Date{100, 1, 1}));
+    EXPECT_TRUE(form.events.empty());
+    edit->setDate(QDate(1500, 2, 28));
+    EXPECT_EQ(control("StartDTPicker").date(), (Date{1500, 2, 28}));
 }
 
 TEST_F(BinderTest, StateOfAControlIsStateOfItsWidget) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "scripts/random_session.h"
 #include "scripts/script_run.h"
 
@@ -29,6 +31,37 @@ std::string firstDifference(const std::string& windows, const std::string& forms
         if (!more) return {};
         if (a != b) return "windows: " + a + "\nforms:   " + b;
     }
+}
+
+/// The script's transcripts: by the windows, by the forms.
+std::pair<std::string, std::string> transcriptsOf(const std::string& script) {
+    const TemporaryFolder folder;
+    const std::string file = (folder.path() / "long.vscript").string();
+    std::ofstream(file) << script;
+    std::string transcripts[2];
+    const std::string programs[2] = {"env QT_QPA_PLATFORM=offscreen " VARNHOLT_BIN_DIR
+                                     "/varnholt --script",
+                                     VARNHOLT_BIN_DIR "/varnholt-script"};
+    for (int i = 0; i < 2; ++i) {
+        const std::string out = (folder.path() / std::to_string(i)).string();
+        const std::string command = programs[i] + " '" + file + "' --program-folder '" +
+                                    folder.path().string() + "' --locale 409 >'" + out + "'";
+        EXPECT_EQ(std::system(command.c_str()), 0);
+        transcripts[i] = wholeFile(out);
+    }
+    return {transcripts[0], transcripts[1]};
+}
+
+TEST(ScriptsInWindows, KeepATextLongerThanAFieldOfTheToolkitTakes) {
+    // The toolkit's own limit is 32,767 characters.
+    const std::string text(40000, 'x');
+    std::string script = "click Varnmain.NewBorehole\n";
+    for (const char* field : {"INProjectNameText", "FLFluidTypeCombo", "INCommentsRichTextBox"})
+        script += "type frmBHDesign." + std::string(field) + " " + text + "\nprint frmBHDesign." +
+                  field + "\n";
+    const auto [windows, forms] = transcriptsOf(script);
+    EXPECT_EQ(windows, forms);
+    EXPECT_GT(forms.size(), 3 * text.size());
 }
 
 class RandomSessionsInWindows : public testing::TestWithParam<int> {};

@@ -5,6 +5,7 @@
 #include <QDateEdit>
 #include <QPlainTextEdit>
 #include <QWheelEvent>
+#include <limits>
 
 #include "desktop/binding/binder.h"
 #include "desktop/binding/bound_control.h"
@@ -85,7 +86,7 @@ class BoundRichText : public BoundControl {
 
     void show(Property property) override {
         if (property == Property::text) {
-            if (written() != control().text()) edit_->setPlainText(qt(control().text()));
+            if (written() != control().text()) edit_->setPlainText(documentText(control().text()));
         } else if (property == Property::locked) {
             edit_->setReadOnly(control().locked());
         } else {
@@ -99,10 +100,7 @@ class BoundRichText : public BoundControl {
     }
 
  private:
-    /// The lines of a form's text end in CR LF.
-    std::string written() const {
-        return plain(edit_->toPlainText().replace(QLatin1Char('\n'), QLatin1String("\r\n")));
-    }
+    std::string written() const { return textOfDocument(edit_->document()->toRawText()); }
 
     QPlainTextEdit* edit_;
 };
@@ -183,6 +181,7 @@ class BoundCombo : public BoundControl {
         combo_->setEditable(true);
         combo_->setInsertPolicy(QComboBox::NoInsert);
         combo_->setCompleter(nullptr);
+        combo_->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
         QObject::connect(
             combo_->lineEdit(), &QLineEdit::textEdited, &binder(), [this](const QString& text) {
                 binder().act(
@@ -192,10 +191,13 @@ class BoundCombo : public BoundControl {
 
     void showText() {
         const QString text = qt(control().text());
-        if (!control().editable())
-            combo_->setPlaceholderText(text);  // stands there while no entry is chosen
-        else if (combo_->currentText() != text)
-            combo_->setEditText(text);
+        if (control().editable()) {
+            if (combo_->currentText() != text) combo_->setEditText(text);
+            return;
+        }
+        // It stands there while no entry is chosen. Without it the toolkit chooses the first.
+        combo_->setPlaceholderText(text);
+        combo_->setCurrentIndex(control().index());
     }
 
     void showItems() {
@@ -236,6 +238,8 @@ class BoundDate : public BoundControl {
         : BoundControl(binder, control, new CalmDateEdit),
           edit_(static_cast<QDateEdit*>(widget())) {
         edit_->setCalendarPopup(true);
+        // The toolkit begins with the Gregorian calendar's first day in Britain.
+        edit_->setMinimumDate(QDate(100, 1, 1));
         edit_->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
         edit_->setFont(figureFont(edit_->font()));
         edit_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -249,20 +253,33 @@ class BoundDate : public BoundControl {
 
     void show(Property property) override {
         if (property == Property::date)
-            edit_->setDate(qt(control().date()));
+            showDate();
         else if (property == Property::locked)
             edit_->setReadOnly(control().locked());
         else
             BoundControl::show(property);
     }
     Shown shown(Property property) const override {
-        if (property == Property::value || property == Property::date) return plain(edit_->date());
-        if (property == Property::text) return isoText(plain(edit_->date()));
+        if (property == Property::value || property == Property::date) return shownDate();
+        if (property == Property::text) return isoText(shownDate());
         if (property == Property::locked) return edit_->isReadOnly();
         return BoundControl::shown(property);
     }
 
  private:
+    /// A day before the first that the widget can hold stands in its place as a text.
+    void showDate() {
+        const QDate date = qt(control().date());
+        const bool fits = date >= edit_->minimumDate() && date <= edit_->maximumDate();
+        edit_->setSpecialValueText(fits ? QString() : qt(isoText(control().date())));
+        edit_->setDate(fits ? date : edit_->minimumDate());
+    }
+    Date shownDate() const {
+        const bool asText = edit_->date() == edit_->minimumDate();
+        const auto early = readIsoDate(plain(edit_->specialValueText()));
+        return asText && early ? *early : plain(edit_->date());
+    }
+
     QDateEdit* edit_;
 };
 

@@ -70,18 +70,20 @@ QLineEdit* lineOf(QWidget* widget) {
 /// Puts the text in place of the whole text, as one change.
 void replaceText(QWidget* widget, const std::string& text) {
     QWidget* target = widget;
+    QString typed = qt(text);
     if (QLineEdit* line = lineOf(widget)) {
         line->selectAll();
         target = line;
     } else if (auto* edit = qobject_cast<QPlainTextEdit*>(widget)) {
         edit->selectAll();
+        typed = documentText(text);
     }
     if (text.empty()) {
         QKeyEvent press(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier);
         QCoreApplication::sendEvent(target, &press);
     } else {
         QInputMethodEvent input;
-        input.setCommitString(qt(text));
+        input.setCommitString(typed);
         QCoreApplication::sendEvent(target, &input);
     }
 }
@@ -224,7 +226,10 @@ void WidgetDriver::pickDate(Form& form, const Control& control, const Date& date
     work(
         form, control,
         [&](QWidget* widget) {
-            if (auto* edit = qobject_cast<QDateEdit*>(widget)) edit->setDate(qt(date));
+            auto* edit = qobject_cast<QDateEdit*>(widget);
+            const QDate day = qt(date);
+            if (edit != nullptr && day >= edit->minimumDate() && day <= edit->maximumDate())
+                edit->setDate(day);
         },
         [&](Form& f, const std::string& name) { f.pickDate(name, date); });
 }

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
@@ -15,6 +16,7 @@
 namespace varnholt {
 
 FieldEdit::FieldEdit(int characters, QWidget* parent) : QLineEdit(parent), characters_(0) {
+    setMaxLength(std::numeric_limits<int>::max());
     if (characters > 0) setFigures(characters);
 }
 
