@@ -118,6 +118,7 @@ class GenericView : public std::enable_shared_from_this<GenericView> {
     /// Pages are built when they are looked at: until then this object is kept.
     std::vector<PartMaker> makersOf(const std::vector<Controls>& pages) {
         std::vector<PartMaker> makers;
+        makers.reserve(pages.size());
         for (const Controls& page : pages)
             makers.emplace_back(
                 [self = shared_from_this(), page] { return padded(self->contentOf(page)); });
