@@ -126,7 +126,8 @@ class Binder : public QObject, public FormObserver {
     void buildLate(const std::function<void()>& part);
     /// The widget loses the focus for good: the control is left.
     void leave(BoundControl& bound);
-    /// A command begins: the control whose widget has the focus is left, though the focus stays.
+    /// A command begins: the control whose widget has the focus is left if something has been typed
+    /// in it, though the focus stays.
     void endVisit(const QWidget* focused);
     /// Options of one group exclude each other.
     QButtonGroup* optionGroup(const std::string& group);

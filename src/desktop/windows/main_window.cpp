@@ -109,11 +109,17 @@ void MainWindow::refresh() {
     units_->setText(qt(main_.control(units).caption()));
 }
 
+void MainWindow::commandBegins() {
+    if (menu_->beforeCommand) guarded(menu_->beforeCommand);
+}
+
 void MainWindow::openFiles(const std::vector<std::string>& paths) {
+    commandBegins();
     for (const std::string& path : paths) guarded([&] { openFile(main_, path); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    commandBegins();
     bool closes = false;
     guarded([&] {
         closes = main_.queryClose();

@@ -54,6 +54,8 @@ class MainWindow : public QMainWindow {
     void addRecentMenu();
     void fillRecentMenu();
     void refresh();
+    /// A person has called a command that stands in no menu.
+    void commandBegins();
 
     Varnmain& main_;
     FaultTaker faults_;

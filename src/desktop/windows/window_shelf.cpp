@@ -148,7 +148,9 @@ Form* WindowShelf::formOf(const QMdiSubWindow* frame) const {
 
 void WindowShelf::closeByBox(Form* form) {
     auto* child = dynamic_cast<ChildWindow*>(form);
-    if (child != nullptr) window_->guarded([&] { main_->close(*child); });
+    if (child == nullptr) return;
+    endVisit();
+    window_->guarded([&] { main_->close(*child); });
 }
 
 bool WindowShelf::isMain(const Form& form) const {
