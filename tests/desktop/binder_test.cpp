@@ -110,7 +110,7 @@ TEST_F(BinderTest, AFieldIsLeftWhenTheFocusGoesForGood) {
 }
 
 TEST_F(BinderTest, AScriptedFieldIsNotLeftByTheFocus) {
-    window->binder().setLeavesByFocus(false);
+    window->binder().setScripted();
     loseFocus(find<QWidget>("DepthText"));
     EXPECT_TRUE(form.events.empty());
 }

@@ -166,5 +166,22 @@ TEST_F(DesignedViews, LightTheLampOfTheLinkedWindow) {
     EXPECT_FALSE(window.binder().widget("imgLinkLight(6)")->isVisible());
 }
 
+TEST_F(DesignedViews, LetTheLampBlinkForAPersonAndNotInTheMidstOfAScriptsPictures) {
+    ChildWindow& form = opened("NewBorehole");
+    opened("mnuAvgBlock");
+    desk.main().activate(form);
+    desk.main().click("mnuLink");
+    FormWindow window(form, views.maker(), {});
+    window.show();
+    const std::string lamp = "imgLinkLight(8)";
+    const QImage lit = window.binder().widget(lamp)->grab().toImage();
+    FormWindow scripted(form, views.maker(), {});
+    scripted.binder().setScripted();
+    scripted.show();
+    form.control(lamp).flash();
+    EXPECT_NE(window.binder().widget(lamp)->grab().toImage(), lit);
+    EXPECT_EQ(scripted.binder().widget(lamp)->grab().toImage(), lit);
+}
+
 }  // namespace
 }  // namespace varnholt

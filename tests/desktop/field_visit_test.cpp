@@ -151,7 +151,7 @@ TEST_F(FieldVisit, IsOverOnceTheFieldHasBeenLeft) {
 }
 
 TEST_F(FieldVisit, IsTheScriptsAffairWhereAScriptWorksTheWindows) {
-    content().binder().setLeavesByFocus(false);
+    content().binder().setScripted();
     keys(QStringLiteral("91"));
     desk.platform.picks = {desk.folder() + "/work files/visit.vht"};
     QTest::keyClick(screen(), Qt::Key_S, Qt::ControlModifier);

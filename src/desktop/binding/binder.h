@@ -100,6 +100,10 @@ class Binder : public QObject, public FormObserver {
     }
     /// Whether a field that loses the focus is left; else only by Binder::leave.
     void setLeavesByFocus(bool leaves) { leavesByFocus_ = leaves; }
+    /// A script works the widgets: it leaves fields by itself, and its pictures show no moment that
+    /// passes.
+    void setScripted() { scripted_ = true, leavesByFocus_ = false; }
+    bool isScripted() const { return scripted_; }
     /// Lays out the view; parts that nobody looks at yet follow later.
     void build(const std::function<void()>& view);
     /// Called when a part has been built after the view.
@@ -166,6 +170,7 @@ class Binder : public QObject, public FormObserver {
     std::vector<Drawing*> drawings_;
     std::vector<std::function<void()>> refreshers_;
     std::function<void(std::exception_ptr)> faults_;
+    bool scripted_ = false;
     bool leavesByFocus_ = true;
     bool refreshDue_ = false;
     int writing_ = 0;

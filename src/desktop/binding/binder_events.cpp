@@ -72,7 +72,7 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
 
 void Binder::endVisit(const QWidget* focused) {
     const auto found = keyboards_.find(focused);
-    if (found == keyboards_.end() || form_ == nullptr || !leavesByFocus_) return;
+    if (found == keyboards_.end() || form_ == nullptr || scripted_) return;
     // A field in which nothing has been typed since it was left last is left already.
     if (found->second->control().name() == form_->visitedField()) leave(*found->second);
 }

@@ -78,6 +78,7 @@ class BoundImage : public BoundControl {
 
  private:
     void flash() {
+        if (binder().isScripted()) return;
         if (auto* drawing = dynamic_cast<Drawing*>(widget())) drawing->flash();
     }
 };

@@ -56,7 +56,7 @@ void WindowShelf::endVisit() {
 
 FormWindow* WindowShelf::makeContent(Form& form) {
     auto* content = new FormWindow(form, views_.maker(), faults_);
-    content->binder().setLeavesByFocus(!scripted_);
+    if (scripted_) content->binder().setScripted();
     content->binder().onCaption = [this, &form] { refreshTitle(form); };
     places_[&form].content = content;
     return content;
