@@ -62,7 +62,9 @@ void LinkedDesign::registerLoadsValues() {
     values.add("LoadsHome", 0, [this](const Values::Indices&) {
         return LoadsHome() == nullptr ? std::string() : LoadsHome()->formName();
     });
+    values.add("style", &style);
     addZoneValues(values, loads.zones);
+    addZoneValues(values, "zoneTemp", zoneTemp);
 }
 
 void LinkedDesign::registerConditions() {

@@ -31,6 +31,10 @@ class LinkedDesign : public DesignDocument {
     const Link* link() const { return link_.get(); }
     /// The last save of the zone file was cancelled.
     bool zoneSaveCancelled = false;
+    /// What a design shares with the loads windows under their names; it has no zone on display and
+    /// one style of loads alone.
+    Zone zoneTemp;
+    std::int16_t style = 0;
 
     /// Makes the design take its loads from the window, and shows it on both sides. No transfer.
     void joinLoads(LoadsWindow& loads);
