@@ -122,12 +122,12 @@ class BoundList : public BoundControl {
     ListView* list_;
 };
 
-/// Sliders and spin buttons have the same members.
-template <class Widget>
+/// A slider, or spin buttons.
 class BoundNumber : public BoundControl {
  public:
-    BoundNumber(Binder& binder, Control& control)
-        : BoundControl(binder, control, new Widget), number_(static_cast<Widget*>(widget())) {
+    template <class Widget>
+    BoundNumber(Binder& binder, Control& control, Widget* widget)
+        : BoundControl(binder, control, widget), number_(widget) {
         number_->onMoved = [this](double value) {
             this->binder().act(*this,
                                [value](Form& f, const std::string& name) { f.slide(name, value); });
@@ -151,7 +151,7 @@ class BoundNumber : public BoundControl {
     }
 
  private:
-    Widget* number_;
+    MovedNumber* number_;
 };
 
 }  // namespace
@@ -166,8 +166,8 @@ std::unique_ptr<BoundControl> bindList(Binder& binder, Control& control) {
     return std::make_unique<BoundList>(binder, control);
 }
 std::unique_ptr<BoundControl> bindSlider(Binder& binder, Control& control) {
-    auto bound = std::make_unique<BoundNumber<NumberSlider>>(binder, control);
-    const auto* slider = static_cast<NumberSlider*>(bound->widget());
+    auto* slider = new NumberSlider;
+    auto bound = std::make_unique<BoundNumber>(binder, control, slider);
     QObject::connect(slider, &QSlider::sliderPressed, &binder, [&binder, name = control.name()] {
         if (Form* form = binder.form()) form->beginGesture(name);
     });
@@ -177,7 +177,7 @@ std::unique_ptr<BoundControl> bindSlider(Binder& binder, Control& control) {
     return bound;
 }
 std::unique_ptr<BoundControl> bindUpDown(Binder& binder, Control& control) {
-    return std::make_unique<BoundNumber<UpDownButtons>>(binder, control);
+    return std::make_unique<BoundNumber>(binder, control, new UpDownButtons);
 }
 
 }  // namespace varnholt
