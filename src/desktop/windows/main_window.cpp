@@ -72,8 +72,9 @@ MainWindow::MainWindow(Varnmain& main, FaultTaker faults, const std::string& rec
     addWindowMenu();
     statusBar()->setSizeGripEnabled(true);
     statusBar()->addPermanentWidget(units_);
-    const QSize room = screen()->availableSize();
-    resize(usualSize().boundedTo(room));
+    // What the desktop will put around the window, its title above all, is on the screen too.
+    constexpr QSize frame(2 * gridStep, 6 * gridStep);
+    resize(usualSize().boundedTo(screen()->availableSize() - frame));
     refresh();
     area_->setBackground(QApplication::palette().brush(QPalette::Window));
     dress(*this);
