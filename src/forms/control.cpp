@@ -112,6 +112,10 @@ Control& Control::unitsIn(std::string unitLabel) {
     unitLabel_ = std::move(unitLabel);
     return *this;
 }
+Control& Control::steppedBy(std::string upDown) {
+    upDown_ = std::move(upDown);
+    return *this;
+}
 Control& Control::helpedBy(std::string topic) {
     helpTopic_ = std::move(topic);
     return *this;

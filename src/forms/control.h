@@ -122,6 +122,8 @@ class Control {
     const std::string& label() const { return label_; }
     /// Name of the label that tells its unit, empty for none.
     const std::string& unitLabel() const { return unitLabel_; }
+    /// Name of the up-down that steps its number, empty for none.
+    const std::string& upDown() const { return upDown_; }
     /// What a screen reader calls the control, where that is not its label's or its own caption.
     const std::string& accessibleName() const { return accessibleName_; }
     /// Page of the help that explains it, with its section: "soil#temperature". Empty for none.
@@ -157,6 +159,7 @@ class Control {
     Control& multipleRows();
     Control& captionedBy(std::string label);
     Control& unitsIn(std::string unitLabel);
+    Control& steppedBy(std::string upDown);
     Control& helpedBy(std::string topic);
 
     void setObserver(ControlObserver* observer) { observer_ = observer; }
@@ -170,7 +173,7 @@ class Control {
     ControlKind kind_;
     ControlObserver* observer_ = nullptr;
     std::string text_, caption_, tooltip_, container_, group_;
-    std::string label_, unitLabel_, accessibleName_, helpTopic_;
+    std::string label_, unitLabel_, upDown_, accessibleName_, helpTopic_;
     std::vector<std::string> items_;
     std::vector<int> selected_;
     Date date_;

@@ -9,6 +9,7 @@
 #include "desk.h"
 #include "desktop/binding/form_window.h"
 #include "desktop/widgets/house_widgets.h"
+#include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
 namespace {
@@ -72,6 +73,16 @@ TEST_F(DesignedViews, LeaveNoControlOut) {
         FormWindow window(form, views.maker(), {});
         EXPECT_EQ(window.binder().unshown(), std::vector<std::string>{}) << form.formName();
     }
+}
+
+TEST_F(DesignedViews, TellAScreenReaderEachFigureWithItsLabel) {
+    ChildWindow& form = opened("NewBorehole");
+    FormWindow window(form, views.maker(), {});
+    const QWidget* figure = window.binder().widget("CATotalLengthLabel(0)");
+    form.control("CATotalLengthLabel(0)").setCaption("812.5");
+    EXPECT_EQ(plain(figure->accessibleName()), "Total Length (ft), 812.5");
+    form.control("CATotalLengthLabel(2)").setCaption("Total Length (m):");
+    EXPECT_EQ(plain(figure->accessibleName()), "Total Length (m), 812.5");
 }
 
 TEST_F(DesignedViews, BuildAPageWhenItIsTurnedTo) {
