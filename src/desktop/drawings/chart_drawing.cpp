@@ -6,8 +6,8 @@
 #include <QLabel>
 #include <utility>
 
-#include "desktop/widgets/desktop_texts.h"
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 
@@ -53,7 +53,7 @@ void ChartDrawing::refresh() {
         if (!created_) create();
         const std::vector<ChartPicture> pictures = this->pictures();
         for (std::size_t i = 0; i < charts_.size(); ++i) charts_[i]->draw(pictures[i]);
-        if (charts_.empty()) hint = qt(texts_.text(desktop_texts::noCharts));
+        if (charts_.empty()) hint = qt(texts_.text(Text::chartPartMissing));
     }
     hint_->setText(hint);
     hint_->setVisible(!hint.isEmpty());
