@@ -109,6 +109,21 @@ TEST_F(UndoOfALink, OfSeveralDesignsMakesThemAllAgain) {
     expectLinked(other, false);
 }
 
+TEST_F(UndoOfALink, OfSeveralDesignsIsRedoneInWhateverOrderTheyWereLinked) {
+    frmBHDesign& other = newDesign();
+    linkFrom(other);
+    linkFrom(design);
+    unlinkFrom(zones);
+    zones.click("LONewCommand");
+    undo();
+    undo();  // both are linked again, the first one first
+    redo();
+    redo();
+    expectLinked(design, false);
+    expectLinked(other, false);
+    EXPECT_EQ(zones.zoneNumber(), 3);
+}
+
 TEST_F(UndoOfALink, ThatWasNotMadeIsNoStep) {
     unlinkFrom(design);
     EXPECT_EQ(undoCaption(), "Undo");
@@ -132,6 +147,23 @@ TEST_F(UndoOfALink, WithAWindowThatHasClosedSinceLeavesTheDesignByItself) {
     undo();
     redo();
     EXPECT_EQ(design.LoadsHome(), nullptr);
+}
+
+TEST_F(UndoOfALink, WithAWindowThatHasClosedSinceLeavesLaterLinksAsTheyAre) {
+    linkFrom(design);
+    unlinkFrom(design);
+    platform.answers = {Answer::no};
+    main.close(zones);
+    frmAvgBlock& single = block();
+    linkFrom(design);
+    ASSERT_EQ(design.LoadsHome(), &single);
+    undo();  // the link with the block
+    undo();  // the end of the link with the window that is gone
+    EXPECT_EQ(design.LoadsHome(), nullptr);
+    undo();  // the link with it
+    for (int i = 0; i < 3; ++i) redo();
+    EXPECT_EQ(design.LoadsHome(), &single);
+    EXPECT_EQ(design.loads().linkType, "frmAvgBlock");
 }
 
 TEST_F(UndoOfALink, WithADesignThatHasClosedSinceLeavesTheLoadsByThemselves) {
