@@ -36,11 +36,11 @@ class DesignUndo : public BoreholeWindow {
     void expectOneStep(const std::string& name, const std::function<void()>& action) {
         SCOPED_TRACE(name);
         const BoreholeProject before = design->project();
-        const Shown shownBefore = shownBy(*design);
+        const ShownControls shownBefore = shownBy(*design);
         const std::string earlier = undoCaption();
         action();
         const BoreholeProject after = design->project();
-        const Shown shownAfter = shownBy(*design);
+        const ShownControls shownAfter = shownBy(*design);
         EXPECT_EQ(undoCaption(), "Undo " + name);
         undo();
         EXPECT_TRUE(design->project() == before);
