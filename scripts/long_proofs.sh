@@ -12,8 +12,9 @@ random_users=${VARNHOLT_RANDOM_USERS:-40}
 
 monkey_at_length() {
     build_preset asan varnholt-monkey
-    say "A random user presses 100,000 times under the sanitizers, seed $seed"
-    build/asan/bin/varnholt-monkey --seed "$seed" --presses 100000 --trace build/long/monkey.vscript
+    say "A random user presses 100,000 times and undoes and redoes 100,000 steps under the sanitizers, seed $seed"
+    build/asan/bin/varnholt-monkey --seed "$seed" --presses 100000 --undone 100000 \
+        --trace build/long/monkey.vscript
 }
 
 kills_at_length() {
