@@ -126,8 +126,8 @@ void frmBHDesign::resultsFound() {
              text(Text::calculationFailed) + std::to_string(lengths.iterations));
     project_.tower.tower = results().tower;
     showGoverningMode();
-    resultsTab_->setUnitLabels();
-    towerPanel_->setUnitLabels();
+    resultsTab_->showFigures();
+    towerPanel_->showFigures();
 }
 
 bool frmBHDesign::tellsError(int number) const {

@@ -65,7 +65,7 @@ class frmBHDesign : public ProjectDesign<BoreholeKind> {
     std::string pagesName() const override { return "BHTabs"; }
     void fillDefaults() override;
     void dropTower() override { towerPanel_->drop(); }
-    void showTower() override { towerPanel_->setUnitLabels(); }
+    void showTower() override { towerPanel_->showFigures(); }
     void wakeTower() override { towerPanel_->wake(); }
     void showNoGoverningMode() override;
 

@@ -37,6 +37,10 @@ ResultsTab::ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int fr
 
 void ResultsTab::setUnitLabels() {
     DesignTab::setUnitLabels();
+    showFigures();
+}
+
+void ResultsTab::showFigures() {
     for (const ResultRow& row : rows_)
         for (const Mode mode : modes)
             control(elementName(row.label, mode)).setCaption(row.value(mode));

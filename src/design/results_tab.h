@@ -26,6 +26,8 @@ class ResultsTab : public DesignTab {
     ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int frameCaption);
 
     void setUnitLabels() override;
+    /// Shows the figures of the last run. Their labels follow the units alone.
+    void showFigures();
     /// Greys one mode's figures and paints the other's in its colour.
     void paintGoverning(Mode greyed);
     /// As before the first run.
