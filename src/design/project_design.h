@@ -84,11 +84,10 @@ class ProjectDesign : protected HoldsProject<typename Kind::Project>, public Gro
 
     void restore(const DocumentState& earlier) override {
         const State& wanted = valueOf(earlier);
-        const ProjectConditions before = conditions();
         this->project_ = wanted.project;
         lastRun_ = wanted.lastRun;
         droppedError_ = wanted.droppedError;
-        restoreLink(wanted.linkedWindow, before);
+        restoreLink(wanted.linkedWindow);
         setMissingZoneFile(wanted.missingZoneFile);
         showRestored(wanted.stale);
     }

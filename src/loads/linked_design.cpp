@@ -242,7 +242,7 @@ const SharedZones& LinkedDesign::presentZones() const {
 
 int LinkedDesign::linkedWindow() const { return link_ ? LoadsHome()->serial() : 0; }
 
-void LinkedDesign::restoreLink(int windowNumber, const ProjectConditions& before) {
+void LinkedDesign::restoreLink(int windowNumber) {
     LoadsWindow* wanted = nullptr;
     for (ChildWindow* window : main().windows())
         if (windowNumber != 0 && window->serial() == windowNumber)
@@ -256,9 +256,6 @@ void LinkedDesign::restoreLink(int windowNumber, const ProjectConditions& before
     }
     common_.loads.linkType = wanted == nullptr ? std::string() : wanted->formName();
     showLinkLight();
-    for (const Mode mode : modes)
-        if (before.inletTemp[mode] != common_.conditions.inletTemp[mode]) passTemperature(mode);
-    if (before.flowRate != common_.conditions.flowRate) passFlow();
     valuePassed_ = false;
 }
 

@@ -100,9 +100,9 @@ class LinkedDesign : public DesignDocument {
     const SharedZones& presentZones() const;
     /// Number of the linked loads window, 0 without a link.
     int linkedWindow() const;
-    /// After undo and redo: links with the window of that number again, or ends the link, and
-    /// hands on those temperatures and that flow which have come back.
-    void restoreLink(int windowNumber, const ProjectConditions& before);
+    /// After undo and redo: links with the window of that number again, or ends the link. The
+    /// window's own values come back by steps of its own, where the step was one of both.
+    void restoreLink(int windowNumber);
 
  private:
     void registerLoadsValues();

@@ -234,6 +234,32 @@ TEST_F(UndoOfALink, OfATemperatureInTheDesignIsAStepOfTheLoadsToo) {
     EXPECT_EQ(undoCaption(), "Undo Link");
 }
 
+TEST_F(UndoOfALink, GivesEachSideBackTheTemperatureThatItHad) {
+    setSaved(zones, "two.zon");
+    linkFrom(design);
+    design.type("FLInletTempText(0)", "92");
+    design.leave("FLInletTempText(0)");
+    // The file brings its own temperature, and the design keeps what was typed there.
+    platform.answers.push_back(Answer::no);
+    platform.picks.emplace_back(zoneFile("two.zon"));
+    zones.click("LOOpenCommand");
+    front(design);
+    ASSERT_EQ(zones.conditions().inletTemp[cooling], 85);
+    ASSERT_EQ(design.conditions().inletTemp[cooling], 92);
+    undo();
+    EXPECT_EQ(design.conditions().inletTemp[cooling], 85);
+    redo();
+    EXPECT_EQ(design.conditions().inletTemp[cooling], 92);
+    EXPECT_EQ(zones.conditions().inletTemp[cooling], 85);
+    design.type("FLInletTempText(0)", "70");
+    design.leave("FLInletTempText(0)");
+    EXPECT_EQ(zones.conditions().inletTemp[cooling], 70);
+    undo();
+    EXPECT_EQ(design.conditions().inletTemp[cooling], 92);
+    EXPECT_EQ(zones.conditions().inletTemp[cooling], 85);
+    EXPECT_FALSE(zones.hasUnsavedChanges());
+}
+
 TEST_F(UndoOfALink, OfALoadInTheLoadsIsNoStepOfTheDesign) {
     linkFrom(design);
     front(zones);
