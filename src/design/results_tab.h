@@ -34,7 +34,17 @@ class ResultsTab : public DesignTab {
     void paintPlain();
 
  private:
-    std::vector<ResultRow> rows_;
+    /// A row and the labels of its values, which a run writes to without looking them up.
+    struct ShownRow {
+        ResultRow row;
+        ByMode<Control*> labels;
+    };
+
+    Control& addValue(const std::string& label, Mode mode);
+    void paint(const ByMode<Control*>& labels, Mode greyed, int governingColour);
+
+    ByMode<Control*> top_{};
+    std::vector<ShownRow> rows_;
 };
 
 /// The rows that every kind of design has below its lengths.
