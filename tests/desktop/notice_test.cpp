@@ -23,7 +23,7 @@ namespace {
 class NoticeLine : public testing::Test {
  protected:
     NoticeLine() {
-        desk.platform.picks.push_back(VARNHOLT_SOURCE_DIR "/examples/office.vht");
+        desk.platform.picks = {VARNHOLT_SOURCE_DIR "/examples/office.vht"};
         desk.main().click("mnuFileOpen");
         design = desk.main().find("frmBHDesign");
         desk.main().activate(*design);
