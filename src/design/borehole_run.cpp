@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/borehole_run.h"
 
-#include <algorithm>
-
 #include "design/modCalculations/heat_pulses.h"
 #include "design/modCalculations/short_circuit.h"
 #include "design/modCalculations/temperature_penalty.h"
@@ -16,13 +14,6 @@ using namespace modCalculations;
 constexpr double inchesPerFoot = 12;
 
 Soil soilOf(const SoilValues& soil) { return {soil.conductivity, soil.diffusivity}; }
-
-/// A project whose zone file is missing counts more zones than it has.
-SharedZones zonesInUse(const ProjectLoads& loads) {
-    SharedZones zones = loads.zones;
-    zones.cutTo(static_cast<std::size_t>(std::max<std::int16_t>(loads.zoneNumber, 0)));
-    return zones;
-}
 
 GroundResistances groundResistancesOf(const BoreholeInputs& inputs, const PeakLoads& loads) {
     const PulseTimes pulses = calcPulseTimes(loads.peakBlock, inputs.arrangement.predictionTime);
