@@ -2,52 +2,11 @@
 #include "design/shared_values.h"
 
 #include <array>
-#include <string>
 
 #include "design/modCalculations/bore_resistance.h"
+#include "design/result_values.h"
 
 namespace varnholt {
-namespace {
-
-template <class Container>
-const auto& elementOf(const Container& container, int index) {
-    return container.at(static_cast<std::size_t>(index));
-}
-
-/// Registers values that one function finds in the results of the moment.
-template <class Results>
-class ResultValues {
- public:
-    ResultValues(Values& values, std::function<const Results&()> results)
-        : values_(values), results_(std::move(results)) {}
-
-    template <class Get>
-    void number(const std::string& name, Get get) {
-        values_.add(name, 0, [results = results_, get](const Values::Indices&) {
-            return static_cast<double>(get(results()));
-        });
-    }
-    /// Elements outside are run-time error 9.
-    template <class Get>
-    void array(const std::string& name, Get get) {
-        values_.add(name, 1, [results = results_, get](const Values::Indices& i) {
-            return static_cast<double>(elementOf(get(results()), i[0]));
-        });
-    }
-    /// An array of arrays: two indices.
-    template <class Get>
-    void table(const std::string& name, Get get) {
-        values_.add(name, 2, [results = results_, get](const Values::Indices& i) {
-            return static_cast<double>(elementOf(elementOf(get(results()), i[0]), i[1]));
-        });
-    }
-
- private:
-    Values& values_;
-    std::function<const Results&()> results_;
-};
-
-}  // namespace
 
 void addFluidValues(Values& values, const FluidValues& fluid) {
     values.add("fluidTypeIndex", &fluid.fluidTypeIndex);
