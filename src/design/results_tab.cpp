@@ -50,7 +50,8 @@ void ResultsTab::paintGoverning(Mode greyed) {
         control(elementName(label, governing)).setForecolor(governingColour).setBold(true);
     };
     paint("CATopLabel", colour);
-    for (const ResultRow& row : rows_) paint(row.label, row.isLength ? colours::black : colour);
+    for (const ResultRow& row : rows_)
+        if (row.painted) paint(row.label, row.isLength ? colours::black : colour);
 }
 
 void ResultsTab::paintPlain() {

@@ -18,6 +18,7 @@ struct ResultRow {
     UnitTexts caption;
     std::function<std::string(Mode)> value;
     bool isLength = false;  ///< black in the governing mode
+    bool painted = true;    ///< follows the governing mode at all
 };
 
 /// The results by mode, and the Calculate button.
