@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "design/surface_water_project.h"
+
+#include "loads/linked_design.h"
+
+namespace varnholt {
+
+SurfaceWaterInputs inputsOf(const SurfaceWaterProject& project) {
+    return {{zonesInUse(project.loads), project.extraPower.extraPower, project.conditions.inletTemp,
+             project.conditions.flowRate, project.fluid.fluid(), false, 0},
+            project.conditions.minflowRate,
+            project.soil,
+            project.loop,
+            project.header,
+            project.water};
+}
+
+bool differ(const SurfaceWaterInputs& then, const SurfaceWaterInputs& now) {
+    if (!sameLoads(then.loads.zones, now.loads.zones)) return true;
+    SurfaceWaterInputs same = now;
+    same.loads.zones = then.loads.zones;
+    return !(same == then);
+}
+
+}  // namespace varnholt
