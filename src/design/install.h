@@ -8,9 +8,10 @@
 namespace varnholt {
 
 class frmBHDesign;
+class frmSWDesign;
 
-/// Registers the command NewBorehole, for designs that know no files. Whoever knows files registers
-/// the command again, with newBorehole and what he gives each new window.
+/// Registers the commands NewBorehole and NewSurfaceWater, for designs that know no files. Whoever
+/// knows files registers the commands again, and gives each new window what it knows.
 void installDesign(Varnmain& main);
 
 /// Takes a slot and opens a borehole design in it, a new one or, while `openCall` is set, the one
@@ -18,5 +19,8 @@ void installDesign(Varnmain& main);
 /// @param filesOf  called before the window is set up
 frmBHDesign* newBorehole(Varnmain& main,
                          const std::function<DesignFiles(frmBHDesign&)>& filesOf = {});
+
+/// The same for a surface water design, a new one.
+frmSWDesign* newSurfaceWater(Varnmain& main);
 
 }  // namespace varnholt
