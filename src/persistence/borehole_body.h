@@ -13,15 +13,6 @@ namespace varnholt {
 // that stand in the project file and in the defaults file are described by the same function.
 // A writer takes a project that is const.
 
-/// The results to read into, or to write from.
-template <class File, class Project>
-auto& resultsFor(Project& project) {
-    if constexpr (File::reading)
-        return project.results.edit();
-    else
-        return *project.results;
-}
-
 template <class File, class Project>
 void describeConditions(File& file, Project& project) {
     auto& conditions = project.conditions;

@@ -142,7 +142,7 @@ TEST_F(Opening, AFolderOpensNoWindow) {
 }
 
 TEST_F(Opening, ADesignOfAnotherKindSaysSo) {
-    for (const char* kind : {"Horizontal Design", "Surface Water Design", "anything else"}) {
+    for (const char* kind : {"Horizontal Design", "anything else"}) {
         writeBytes(folder / "other.vht",
                    std::string("Varnholt Data File Version 3.0\r\n") + kind + "\r\n");
         pick("other.vht");
