@@ -149,15 +149,10 @@ void frmBHDesign::showGoverningMode(Mode greyed) {
         towerPanel_->rest();
 }
 
-std::string frmBHDesign::shownWithUnit(const Quantity& quantity, double value, UnitTexts unit,
-                                       const char* format) const {
-    return formatNumber(quantity.shown(value, units()), format) + " " + text(unit.in(units()));
-}
-
 BoreDrawing frmBHDesign::boreDrawing() const {
     BoreDrawing drawing = drawBore(project_.bore, project_.pipe);
     const auto label = [this](double inches) {
-        return shownWithUnit(quantities::diameter, inches,
+        return shownWithUnit(quantities::diameter, *this, inches,
                              {Text::diameterUnitsEnglish, Text::diameterUnitsMetric}, "###0.00");
     };
     drawing.boreLabel = label(project_.bore.boreDiameter);
@@ -168,8 +163,8 @@ BoreDrawing frmBHDesign::boreDrawing() const {
 FieldPlan frmBHDesign::fieldPlan() const {
     FieldPlan plan = drawField(project_.arrangement);
     const auto label = [this](double feet) {
-        return shownWithUnit(quantities::length, feet,
-                             {Text::lengthUnitsEnglish, Text::lengthUnitsMetric}, "###0.0");
+        return shownWithUnit(quantities::length, *this, feet,
+                             {Text::lengthUnitsEnglish, Text::lengthUnitsMetric});
     };
     plan.separationLabel = label(plan.separation);
     plan.acrossLabel = label(fieldExtent(plan.across, plan.separation));

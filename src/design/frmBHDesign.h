@@ -73,8 +73,6 @@ class frmBHDesign : public ProjectDesign<BoreholeKind> {
     std::vector<ResultRow> resultRows() const;
     void registerBoreholeValues();
     void addAccessors(Values& values);
-    std::string shownWithUnit(const Quantity& quantity, double value, UnitTexts unit,
-                              const char* format) const;
 
     std::unique_ptr<ResultsTab> resultsTab_;
     std::unique_ptr<TowerPanel> towerPanel_;

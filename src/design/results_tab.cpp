@@ -21,6 +21,11 @@ std::string shownAs(const Quantity& quantity, const GroundDesign& design, double
     return formatNumber(quantity.shown(value, design.units()), format);
 }
 
+std::string shownWithUnit(const Quantity& quantity, const GroundDesign& design, double value,
+                          UnitTexts unit, std::string_view format) {
+    return shownAs(quantity, design, value, format) + " " + design.text(unit.in(design.units()));
+}
+
 ResultsTab::ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int frameCaption)
     : DesignTab(design), rows_(std::move(rows)) {
     const std::string frame = "CACalculationFrame";

@@ -48,5 +48,8 @@ ResultRow soilChangeRow(const GroundDesign& design, const std::function<double(M
 /// A figure as the results show it.
 std::string shownAs(const Quantity& quantity, const GroundDesign& design, double value,
                     std::string_view format = "###0.0");
+/// The same with the word of the unit behind it.
+std::string shownWithUnit(const Quantity& quantity, const GroundDesign& design, double value,
+                          UnitTexts unit, std::string_view format = "###0.0");
 
 }  // namespace varnholt

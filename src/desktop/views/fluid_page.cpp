@@ -18,6 +18,14 @@ FieldRow density(Binder& bind) {
     return row;
 }
 
+/// The least flow of a loop, where the kind has loops that share the flow.
+QWidget* minimumFlow(Binder& bind) {
+    if (!bind.has("FLMinFlowFrame")) return nullptr;
+    bind.mark("FLMinFlowText(0)", cooling).mark("FLMinFlowText(1)", heating);
+    return group(bind.frame("FLMinFlowFrame"),
+                 grid(bind.row("FLMinFlowText(0)"), bind.row("FLMinFlowText(1)")));
+}
+
 }  // namespace
 
 QWidget* fluidPage(Binder& bind) {
@@ -28,7 +36,8 @@ QWidget* fluidPage(Binder& bind) {
                         group(bind.frame("FLFlowRateFrame"), grid(bind.row("FLFlowRateText"))),
                         group(bind.frame("FLSolutionFrame"),
                               grid(fluidType(bind), bind.row("FLSpecificHeatText"), density(bind)),
-                              buttons(bind.widget("FLTablesButton")))));
+                              buttons(bind.widget("FLTablesButton"))),
+                        minimumFlow(bind)));
 }
 
 }  // namespace varnholt

@@ -6,12 +6,18 @@
 namespace varnholt {
 
 QWidget* soilPage(Binder& bind) {
-    return column(group(
-        bind.frame("SOSoilFrame"),
-        group(bind.frame("SOGroundTempFrame"), grid(bind.row("SOGroundTempText"))),
-        group(bind.frame("SOPropertiesFrame"),
-              grid(bind.row("SOThermalConductivityText"), bind.row("SOThermalDiffusivityText")),
-              buttons(bind.widget("SOSoilCommand(0)"), bind.widget("SOSoilCommand(1)")))));
+    return column(
+        group(bind.frame("SOSoilFrame"), groundTempPanel(bind), soilPropertiesPanel(bind)));
+}
+
+QWidget* groundTempPanel(Binder& bind) {
+    return group(bind.frame("SOGroundTempFrame"), grid(bind.row("SOGroundTempText")));
+}
+
+QWidget* soilPropertiesPanel(Binder& bind) {
+    return group(bind.frame("SOPropertiesFrame"),
+                 grid(bind.row("SOThermalConductivityText"), bind.row("SOThermalDiffusivityText")),
+                 buttons(bind.widget("SOSoilCommand(0)"), bind.widget("SOSoilCommand(1)")));
 }
 
 }  // namespace varnholt
