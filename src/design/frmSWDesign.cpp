@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/frmSWDesign.h"
 
+#include <array>
+
 #include "basis/number_text.h"
 #include "design/extra_power_tab.h"
 #include "design/fluid_tab.h"
@@ -125,6 +127,8 @@ void frmSWDesign::registerInputs() {
     values.add("surfaceWaterType", &project_.details.surfaceWaterType);
     values.add("surfaceArea", &project_.details.surfaceArea);
     values.add("loopPipeDepth", &project_.details.loopPipeDepth);
+    values.addArray("minimumLoopFlow", &project_.conditions.minflowRate);
+    values.add("fluidSpecificHeat", &project_.fluid.specificHeat);
     values.add("annualGroundLoad", &project_.annualGroundLoad);
 }
 
@@ -137,6 +141,10 @@ void frmSWDesign::registerResults() {
         "loopLength", [](R r) -> auto& { return r.loopLength; });
     of.array(
         "maxParallelLoops", [](R r) -> auto& { return r.loops.maxParallelLoops; });
+    of.array("headerHeatPickup", [](R r) {
+        const auto& [submerged, buried] = r.approach.headerHeatPickup[heating];
+        return std::array<double, 2>{submerged, buried};
+    });
     of.array(
         "approachTemp", [](R r) -> auto& { return r.approach.approachTemp; });
     of.array(

@@ -70,8 +70,7 @@ void LoopTab::addLoops() {
                              .caption = {modeTexts[mode], modeTexts[mode]},
                              .help = "surface_water#loops",
                              .accessible = Text::numberOfLoops,
-                             .distinction = modeTexts[mode]},
-                  .left = [this, mode] { PIParallelLoopsText_Leave(mode); }});
+                             .distinction = modeTexts[mode]}});
 }
 
 void LoopTab::addLoopLosses() {
@@ -117,6 +116,11 @@ void LoopTab::addHeaderCount(std::size_t kind, const std::string& frame) {
                          .help = "surface_water#headers",
                          .accessible = headerTexts[kind],
                          .distinction = Text::numberOfHeaders},
+              // Branches can be described as soon as there are any, and are cleared on leaving.
+              .changed =
+                  [this] {
+                      if (header_.headerCount[branches] >= 1) enableBranches();
+                  },
               .left = [this, kind] { PIHeaderNumberText_Leave(kind); }});
 }
 
@@ -179,14 +183,6 @@ void LoopTab::PILoopPipeSizeCombo_Click() {
 
 void LoopTab::PIHeaderPipeSizeCombo_Click(std::size_t kind) {
     chooseHeaderPipe(header_, kind, control(of("PIHeaderPipeSizeCombo", kind)).index());
-    design().calculationNeeded();
-}
-
-/// No loops at all carry no flow: there is at least one.
-void LoopTab::PIParallelLoopsText_Leave(Mode mode) {
-    if (loop_.parallelLoops[mode] != 0) return;
-    loop_.parallelLoops[mode] = 1;
-    design().fields().show(of("PIParallelLoopsText", mode));
     design().calculationNeeded();
 }
 

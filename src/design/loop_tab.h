@@ -24,7 +24,6 @@ class LoopTab : public DesignTab {
     void chooseStyle(int style);
     void PILoopPipeSizeCombo_Click();
     void PIHeaderPipeSizeCombo_Click(std::size_t kind);
-    void PIParallelLoopsText_Leave(Mode mode);
     void PIHeaderNumberText_Leave(std::size_t kind);
     void showChoices();
     /// Without branches nothing of theirs can be typed but their number.

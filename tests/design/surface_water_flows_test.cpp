@@ -40,10 +40,10 @@ TEST(ParallelLoops, StayAsTheyAreWithoutALeastFlow) {
     EXPECT_EQ(loops.parallelLoops, (Counts{120, 6}));
 }
 
-TEST(ParallelLoops, OfNoneStayNoneSinceTheyAreNeverRaised) {
-    const ParallelLoops loops = calculateMaxParallelLoops({27.2, 23.8}, {2.8, 4.2}, {0, 0});
-    EXPECT_EQ(loops.maxParallelLoops, (ByMode<double>{9, 5}));
-    EXPECT_EQ(loops.parallelLoops, (Counts{0, 0}));
+TEST(ParallelLoops, OfNoneAreOneWhereThereIsALeastFlowAndStayNoneElse) {
+    const ParallelLoops loops = calculateMaxParallelLoops({27.2, 23.8}, {2.8, 0}, {0, 0});
+    EXPECT_EQ(loops.maxParallelLoops, (ByMode<double>{9, 0}));
+    EXPECT_EQ(loops.parallelLoops, (Counts{1, 0}));
 }
 
 TEST(ParallelLoops, OfOneOrMoreAreNeverLoweredToNone) {

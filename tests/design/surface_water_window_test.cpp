@@ -147,11 +147,33 @@ TEST_F(SurfaceWaterDesign, WithoutBranchesClearsAndGreysWhatIsTheirs) {
     EXPECT_TRUE(isEnabled("PIHeaderNumberText(1)"));
 }
 
-TEST_F(SurfaceWaterDesign, IsLeftWithOneLoopAtLeast) {
-    type("PIParallelLoopsText(0)", "0");
+TEST_F(SurfaceWaterDesign, LetsBranchesBeDescribedAsSoonAsTheirNumberIsTyped) {
+    EXPECT_FALSE(isEnabled("PIHeaderLengthText(2)"));
+    type("PIHeaderNumberText(1)", "2");
+    EXPECT_TRUE(isEnabled("PIHeaderLengthText(2)"));
+    // What is only being typed anew clears nothing yet.
+    type("PIHeaderNumberText(1)", "");
+    EXPECT_TRUE(isEnabled("PIHeaderLengthText(2)"));
+    design->leave("PIHeaderNumberText(1)");
+    EXPECT_FALSE(isEnabled("PIHeaderLengthText(2)"));
+}
+
+TEST_F(SurfaceWaterDesign, TakesNoLoopsAsTypedAndOneLoopForAnEmptyField) {
+    typeAndLeave("PIParallelLoopsText(0)", "0");
     EXPECT_EQ(value("parallelLoops(0)"), 0);
-    design->leave("PIParallelLoopsText(0)");
+    EXPECT_EQ(textOf("PIParallelLoopsText(0)"), "0");
+    typeAndLeave("PIParallelLoopsText(0)", "");
     EXPECT_EQ(textOf("PIParallelLoopsText(0)"), "1");
+}
+
+TEST_F(SurfaceWaterDesign, TellsWhatTheHeadersTookUpInTheLastPass) {
+    take(coilPond());
+    calculate();
+    // The passes of heating are the last ones.
+    EXPECT_NEAR(value("inletTemp(1)") - value("loopWaterTemp(1)") - value("headerHeatPickup(0)") -
+                    value("headerHeatPickup(1)"),
+                value("approachTemp(1)"), 1e-12);
+    EXPECT_EQ(value("minimumLoopFlow(0)"), 2.8);
 }
 
 TEST_F(SurfaceWaterDesign, ShowsLossesWithTwoPlacesInMetric) {

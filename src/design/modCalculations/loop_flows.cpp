@@ -15,6 +15,12 @@ double mostLoops(double systemFlow, double minimumLoopFlow, std::int16_t paralle
     return toInteger(std::floor(systemFlow / minimumLoopFlow));
 }
 
+/// Where a least flow tells how many loops there may be, there is one at least.
+std::int16_t allowedLoops(double most, double minimumLoopFlow, std::int16_t parallelLoops) {
+    if (parallelLoops >= most) return toInteger(most);
+    return parallelLoops == 0 && minimumLoopFlow > 0 ? std::int16_t{1} : parallelLoops;
+}
+
 double sharedBy(double flow, double pipes) { return pipes == 0 ? 0 : flow / pipes; }
 
 }  // namespace
@@ -26,7 +32,7 @@ ParallelLoops calculateMaxParallelLoops(const ByMode<double>& systemFlow,
     for (Mode m : modes) {
         const double most = mostLoops(systemFlow[m], minimumLoopFlow[m], parallelLoops[m]);
         result.maxParallelLoops[m] = most;
-        result.parallelLoops[m] = parallelLoops[m] < most ? parallelLoops[m] : toInteger(most);
+        result.parallelLoops[m] = allowedLoops(most, minimumLoopFlow[m], parallelLoops[m]);
     }
     return result;
 }

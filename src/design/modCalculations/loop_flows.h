@@ -16,7 +16,7 @@ struct ParallelLoops {
 };
 
 /// The most loops that each keep their least flow, and the designer's number of loops lowered to
-/// that; it is never raised.
+/// that; it is never raised, save that no loops are one where there is a least flow.
 ///
 ///     most = whole part of system flow / least flow; 1 where the system has no more than that flow
 ///
