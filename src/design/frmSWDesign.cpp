@@ -172,6 +172,67 @@ void frmSWDesign::resultsFound() {
     for (DesignTab* tab : tabs()) tab->setUnitLabels();
 }
 
+std::string frmSWDesign::shownLength(double feet) const {
+    return shownWithUnit(quantities::length, *this, feet,
+                         {Text::lengthUnitsEnglish, Text::lengthUnitsMetric});
+}
+
+ByMode<std::string> frmSWDesign::shownFlows(const ByMode<double>& flow) const {
+    ByMode<std::string> shown;
+    if (!resultsArePresent()) return shown;
+    for (const Mode mode : modes)
+        shown[mode] = shownWithUnit(quantities::waterFlow, *this, flow[mode],
+                                    {Text::minimumFlowUnitsEnglish, Text::minimumFlowUnitsMetric});
+    return shown;
+}
+
+CircuitPlan frmSWDesign::circuitPlan() const {
+    CircuitPlan plan = drawCircuit(project_.loop, project_.header);
+    const modCalculations::PipeFlows& flows = results().flows;
+    plan.systemFlow = shownFlows(results().outlet.systemFlow);
+    plan.loopFlow = shownFlows(flows.circuitFlow);
+    plan.primary.flow = shownFlows(flows.primaryHeaderFlow);
+    plan.branch.flow = shownFlows(flows.branchHeaderFlow);
+    const std::array<double, 4>& lengths = project_.header.headerLength;
+    std::size_t next = 0;
+    for (CircuitHeaders* header : {&plan.primary, &plan.branch})
+        for (std::string* label : {&header->inWater, &header->inSoil}) {
+            const double feet = lengths[next++];
+            if (feet > 0) *label = shownLength(feet);
+        }
+    return plan;
+}
+
+GroundTempCurves frmSWDesign::groundTempCurves() const {
+    const HeaderSoilValues& soil = project_.soil;
+    GroundTempCurves curves =
+        drawGroundTemp(soil.headerDepth, soil.soilDiffusivity,
+                       {soil.groundTemp, soil.airTempSwing, soil.extremeDay}, units());
+    const UnitTexts degrees{Text::groundTemperatureUnitsEnglish,
+                            Text::groundTemperatureUnitsMetric};
+    curves.depthUnit =
+        text(UnitTexts{Text::lengthUnitsEnglish, Text::lengthUnitsMetric}.in(units()));
+    curves.temperatureUnit = text(degrees.in(units()));
+    curves.depthLabel = shownLength(soil.headerDepth);
+    for (const Mode mode : modes)
+        curves.temperatureLabels[mode] =
+            shownWithUnit(quantities::temperature, *this, soil.groundTempAtDepth[mode], degrees);
+    return curves;
+}
+
+LoopCurves frmSWDesign::loopCurves() const {
+    const UnitTexts degrees{Text::groundTemperatureUnitsEnglish,
+                            Text::groundTemperatureUnitsMetric};
+    const UnitTexts length{Text::lengthUnitsEnglish, Text::lengthUnitsMetric};
+    const bool found = resultsArePresent();
+    const ByMode<double> approach = found ? results().approach.approachTemp : ByMode<double>{};
+    LoopCurves curves =
+        drawLoopCurves({project_.loop.loopStyle, project_.loop.loopPipeSize}, approach, units());
+    curves.lengthUnit = text(length.in(units()));
+    curves.differenceUnit = text(degrees.in(units()));
+    return curves;
+}
+
 void frmSWDesign::showNoGoverningMode() { resultsTab_->paintPlain(); }
 
 void frmSWDesign::showGoverningMode(Mode greyed) {

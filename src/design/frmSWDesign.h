@@ -6,6 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "design/circuit_plan.h"
+#include "design/ground_temp_curves.h"
+#include "design/loop_curves.h"
 #include "design/project_design.h"
 #include "design/results_tab.h"
 #include "design/surface_water_project.h"
@@ -42,6 +45,14 @@ class frmSWDesign : public ProjectDesign<SurfaceWaterKind> {
     using GroundDesign::showGoverningMode;
     void showGoverningMode(Mode greyed) override;
 
+    /// What `imgCircuit` shows. It follows what is typed; flows are those of results that are not
+    /// older than it.
+    CircuitPlan circuitPlan() const;
+    /// What `imgGroundTemp` shows.
+    GroundTempCurves groundTempCurves() const;
+    /// What `imgLoopCurves` shows.
+    LoopCurves loopCurves() const;
+
  protected:
     void resultsFound() override;
     ByMode<double> lengths() const override { return results().loopLength; }
@@ -58,6 +69,9 @@ class frmSWDesign : public ProjectDesign<SurfaceWaterKind> {
     void registerResults();
     /// An approach that did not settle carries a colour of its own.
     void paintApproach();
+    bool resultsArePresent() const { return hasResults() && !resultsAreOlder(); }
+    std::string shownLength(double feet) const;
+    ByMode<std::string> shownFlows(const ByMode<double>& flow) const;
 
     std::unique_ptr<ResultsTab> resultsTab_;
     std::vector<std::unique_ptr<DesignTab>> inputTabs_;
