@@ -29,6 +29,7 @@ HeaderSoilTab::HeaderSoilTab(GroundDesign& design, HeaderSoilValues& soil)
             .unitsIn("SOSwingdegCLabel")
             .helpedBy("surface_water#soil")
             .setLocked(true);
+    add("imgGroundTemp", ControlKind::image, "SOCorrectionFrame");
 }
 
 void HeaderSoilTab::addHeaders() {

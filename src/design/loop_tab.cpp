@@ -36,6 +36,9 @@ LoopTab::LoopTab(GroundDesign& design, LoopValues& loop, HeaderValues& header)
     addHeaderLosses();
     addMenuButton("PIPipeTablesCommand", "PIPipeParametersSSTab", Text::pipeTablesButton,
                   "PipeProperties");
+    addFrame("CACircuitFrame", Text::circuit);
+    add("imgCircuit", ControlKind::image, "CACircuitFrame");
+    add("imgLoopCurves", ControlKind::image, "PIPipeParametersSSTab");
 }
 
 void LoopTab::addLoops() {

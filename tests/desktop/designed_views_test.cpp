@@ -58,6 +58,10 @@ TEST_F(DesignedViews, OfABoreholeDesignIsWalkedInTheOrderOfItsForm) {
     expectReadingOrder("NewBorehole");
 }
 
+TEST_F(DesignedViews, OfASurfaceWaterDesignIsWalkedInTheOrderOfItsForm) {
+    expectReadingOrder("NewSurfaceWater");
+}
+
 TEST_F(DesignedViews, OfTheZoneManagerIsWalkedInTheOrderOfItsForm) {
     expectReadingOrder("mnuZoneManage");
 }
@@ -67,7 +71,7 @@ TEST_F(DesignedViews, OfTheAverageBlockIsWalkedInTheOrderOfItsForm) {
 }
 
 TEST_F(DesignedViews, LeaveNoControlOut) {
-    for (const char* command : {"NewBorehole", "mnuZoneManage", "mnuAvgBlock"}) {
+    for (const char* command : {"NewBorehole", "NewSurfaceWater", "mnuZoneManage", "mnuAvgBlock"}) {
         ChildWindow& form = opened(command);
         FormWindow window(form, views.maker(), {});
         EXPECT_EQ(window.binder().unshown(), std::vector<std::string>{}) << form.formName();
@@ -139,6 +143,32 @@ TEST_F(DesignedViews, DrawTheBoreAsItIsTyped) {
     form.type("PIBoreholeDiameterText", "6.5");
     const auto* bore = static_cast<Drawing*>(window.binder().widget("imgBore"));
     EXPECT_TRUE(bore->description().contains(QStringLiteral("6.50 in")));
+}
+
+TEST_F(DesignedViews, DrawThePondsCircuitAsItIsTyped) {
+    ChildWindow& form = opened("NewSurfaceWater");
+    FormWindow window(form, views.maker(), {});
+    window.show();
+    form.type("PIHeaderNumberText(1)", "4");
+    form.type("PIHeaderLengthText(1)", "160");
+    const auto* circuit = static_cast<Drawing*>(window.binder().widget("imgCircuit"));
+    EXPECT_TRUE(circuit->description().contains(QStringLiteral("branches of each: 4")));
+    EXPECT_TRUE(circuit->description().contains(QStringLiteral("160.0 ft in soil")));
+}
+
+TEST_F(DesignedViews, TellTheGroundsTemperatureAsItsDepthIsTyped) {
+    ChildWindow& form = opened("NewSurfaceWater");
+    form.choose("SWTabs", 2);
+    FormWindow window(form, views.maker(), {});
+    window.show();
+    form.type("SOHeaderDepthText", "0");
+    form.type("SOGroundTempText", "50");
+    form.type("SOAirTempSwingText", "20");
+    Desk::settle();
+    // At the surface the coldest day has 50 - 20, and the warmest is the same day in a new design.
+    const auto* ground = static_cast<Drawing*>(window.binder().widget("imgGroundTemp"));
+    EXPECT_TRUE(ground->description().contains(QStringLiteral("30.0 deg F")))
+        << ground->description().toStdString();
 }
 
 TEST_F(DesignedViews, DrawAnewWhatAnotherWindowsActionHasChanged) {

@@ -9,6 +9,7 @@
 
 #include "basis/file_system.h"
 #include "desktop/drawings/bore_picture.h"
+#include "desktop/drawings/circuit_picture.h"
 #include "desktop/drawings/field_picture.h"
 #include "desktop/drawings/link_light.h"
 #include "desktop/drawings/loads_picture.h"
@@ -64,6 +65,23 @@ inline FieldPlan sampleField(double across, double down) {
     return plan;
 }
 
+/// A pond as it stands after a run.
+inline CircuitPlan samplePond(int headers, int branches, int loops, bool slinky) {
+    CircuitPlan plan;
+    plan.slinky = slinky;
+    plan.primary.count = headers;
+    plan.primary.flow = {"66.6 gal/min", "58.0 gal/min"};
+    plan.primary.inSoil = "160.0 ft";
+    plan.primary.inWater = "40.0 ft";
+    plan.branch.count = branches;
+    plan.branch.flow = {"22.2 gal/min", "19.3 gal/min"};
+    plan.branch.inWater = "90.0 ft";
+    plan.loops = {loops, loops / 2};
+    plan.systemFlow = {"133.2 gal/min", "116.0 gal/min"};
+    plan.loopFlow = {"3.0 gal/min", "3.6 gal/min"};
+    return plan;
+}
+
 inline LoadsChart sampleLoads() {
     LoadsChart chart;
     chart.loads[cooling] = {24.0, 42.5, 38.2, 6.0};
@@ -109,6 +127,16 @@ inline std::vector<DrawingSample> drawingSamples() {
     field("field_20_by_15", 20, 15);
     field("field_100_by_100", 100, 100);
     field("field_none", 0, 4);
+    const auto pond = [&](const char* name, const CircuitPlan& plan) {
+        samples.push_back({name, {440, 320}, [=, &texts](const Canvas& canvas) {
+                               paintCircuit(canvas, plan, texts);
+                           }});
+    };
+    pond("pond_coils", samplePond(2, 3, 44, false));
+    pond("pond_slinkies", samplePond(1, 0, 6, true));
+    pond("pond_one_loop", samplePond(1, 0, 1, false));
+    pond("pond_many", samplePond(40, 30, 9000, true));
+    pond("pond_none", {});
     samples.push_back({"loads", {300, 150}, [&texts](const Canvas& canvas) {
                            paintLoads(canvas, sampleLoads(), sampleCaptions(), texts);
                        }});

@@ -288,7 +288,8 @@ class BoundDate : public BoundControl {
 std::unique_ptr<BoundControl> bindText(Binder& binder, Control& control) {
     const bool typed = binder.form() != nullptr && binder.form()->fields().has(control.name());
     // A text with a unit behind it is a figure too, though nobody types it.
-    const bool shown = binder.has(companionName(control.name(), "UnitLabel")) ||
+    const bool shown = !control.unitLabel().empty() ||
+                       binder.has(companionName(control.name(), "UnitLabel")) ||
                        binder.has(companionName(control.name(), "UnitsLabel"));
     return std::make_unique<BoundText>(binder, control, typed || shown);
 }

@@ -5,8 +5,11 @@
 #include <utility>
 
 #include "desktop/drawings/bore_picture.h"
+#include "desktop/drawings/circuit_picture.h"
 #include "desktop/drawings/day_chart.h"
 #include "desktop/drawings/field_picture.h"
+#include "desktop/drawings/ground_temp_chart.h"
+#include "desktop/drawings/loop_chart.h"
 #include "desktop/drawings/painted_drawing.h"
 
 namespace varnholt {
@@ -65,6 +68,25 @@ Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts) 
             paintField(canvas, field, texts);
         },
         [&texts](const FieldPlan& field) { return describeField(field, texts); }, {380, 320});
+}
+
+Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts) {
+    return new PaintedDrawing<CircuitPlan>(
+        std::move(source),
+        [&texts](const Canvas& canvas, const CircuitPlan& plan) {
+            paintCircuit(canvas, plan, texts);
+        },
+        [&texts](const CircuitPlan& plan) { return describeCircuit(plan, texts); }, {440, 320});
+}
+
+Drawing* newGroundTempChart(std::function<GroundTempCurves()> source, const Texts& texts,
+                            ChartModuleFinder charts) {
+    return new GroundTempChart(std::move(source), texts, std::move(charts));
+}
+
+Drawing* newLoopChart(std::function<LoopCurves()> source, const Texts& texts,
+                      ChartModuleFinder charts) {
+    return new LoopChart(std::move(source), texts, std::move(charts));
 }
 
 Drawing* newLinkLight(LinkPartner partner, const Texts& texts) {

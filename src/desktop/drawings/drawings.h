@@ -4,7 +4,10 @@
 #include <functional>
 
 #include "design/bore_drawing.h"
+#include "design/circuit_plan.h"
 #include "design/field_plan.h"
+#include "design/ground_temp_curves.h"
+#include "design/loop_curves.h"
 #include "desktop/drawings/chart_module.h"
 #include "desktop/drawings/drawing.h"
 #include "desktop/drawings/link_light.h"
@@ -18,6 +21,11 @@ namespace varnholt {
 
 Drawing* newBoreDrawing(std::function<BoreDrawing()> source, const Texts& texts);
 Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts);
+Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts);
+Drawing* newGroundTempChart(std::function<GroundTempCurves()> source, const Texts& texts,
+                            ChartModuleFinder charts = findChartModule);
+Drawing* newLoopChart(std::function<LoopCurves()> source, const Texts& texts,
+                      ChartModuleFinder charts = findChartModule);
 /// A light that stands for one partner; it is lit while it is enabled.
 Drawing* newLinkLight(LinkPartner partner, const Texts& texts);
 /// Small bars beside the numbers of a zone.

@@ -31,10 +31,6 @@ struct Extent {
     }
 };
 
-QString titleOf(const std::string& name, const std::string& unit) {
-    return qt(name) + (unit.empty() ? QString() : QStringLiteral(" (%1)").arg(qt(unit)));
-}
-
 }  // namespace
 
 std::optional<double> valueAt(const PumpCurve& curve, double enteringWater) {
@@ -75,8 +71,9 @@ bool PumpCurves::take() {
 }
 
 std::vector<ChartPicture> PumpCurves::pictures() const {
-    return {chartOf(picture_.pump.capacity, titleOf(texts().text(2993), picture_.capacityUnit)),
-            chartOf(picture_.pump.power, titleOf(texts().text(2994), picture_.powerUnit))};
+    return {
+        chartOf(picture_.pump.capacity, titleWithUnit(texts().text(2993), picture_.capacityUnit)),
+        chartOf(picture_.pump.power, titleWithUnit(texts().text(2994), picture_.powerUnit))};
 }
 
 ChartPicture PumpCurves::chartOf(const ByMode<PumpCurve>& curves, const QString& title) const {
@@ -93,7 +90,7 @@ ChartPicture PumpCurves::chartOf(const ByMode<PumpCurve>& curves, const QString&
                                 value ? QList<QPointF>{{water, *value}} : QList<QPointF>()});
     }
     chart.across = axisAround(extent.coldest, extent.warmest);
-    chart.across.title = titleOf(texts().text(2995), picture_.temperatureUnit);
+    chart.across.title = titleWithUnit(texts().text(2995), picture_.temperatureUnit);
     chart.up = axisFromZero(extent.highest);
     chart.up.title = title;
     return chart;

@@ -34,6 +34,8 @@ QWidget* soilPage(Binder& bind);
 /// Panels of that page.
 QWidget* groundTempPanel(Binder& bind);
 QWidget* soilPropertiesPanel(Binder& bind);
+/// Swing and extreme days of a ground whose temperature follows the year, and what comes of them.
+QWidget* groundSwingPanel(Binder& bind, const FieldRows& results = {});
 /// Size and thermal resistance of the pipe.
 QWidget* pipePanel(Binder& bind);
 /// Circulation pump, additional power, and the fan and pump of a cooling tower where the kind has
