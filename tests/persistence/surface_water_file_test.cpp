@@ -163,6 +163,18 @@ TEST_F(SurfaceWaterFile, OfVersionOneHasNoLink) {
     EXPECT_EQ(linked.loads.linkType, "");
 }
 
+TEST_F(SurfaceWaterFile, OfAnOldVersionIsReadByItsEncodingAndSavedAsTheNewest) {
+    SurfaceWaterProject old = projectIn(bytesOf(sampleProject("surface_water_1.2.vht")));
+    EXPECT_EQ(old.information.projectName, "M\u00FChlteich");
+    EXPECT_EQ(old.information.comments, "Measured in August:\r\n77 degrees at 8 feet");
+    EXPECT_EQ(old.loads.linkType, "");
+    const std::string newest = bytesOf(sampleProject("surface_water_3.0.vht"));
+    EXPECT_EQ(projectText(projectIn(newest)), newest);
+    // They differ in encoding, version and the line of the link.
+    old.loads.linkType = "frmZoneManage";
+    EXPECT_EQ(projectText(old), newest);
+}
+
 TEST_F(SurfaceWaterFile, CutAtAnyLineKeepsTheValuesReadAndTellsTheEnd) {
     const std::string whole = newFile();
     for (std::size_t end = whole.find('\n', whole.find("#2024-09-01#")); end + 1 < whole.size();
