@@ -66,6 +66,7 @@ TEST(CircuitPlan, TakesAnyCountThatAFileMayHold) {
 }
 
 TEST_F(PondPictures, TheGroundsCurvesMeetTheCorrectedTemperatures) {
+    calculate();
     const GroundTempCurves curves = design->groundTempCurves();
     for (const Mode mode : modes) {
         ASSERT_EQ(curves.atDepth[mode].size(), 1u);

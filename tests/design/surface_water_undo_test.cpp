@@ -15,6 +15,7 @@ class UndoInAPond : public SurfaceWaterWindow {
     UndoInAPond() {
         texts.known.insert({{1081, "Undo"}, {1082, "Redo"}});
         take(coilPond());
+        typeAndLeave("INProjectNameText", "Mill pond");
         // Before a first run the figures are those of the design, and the unit switch shows them.
         design->switchUnits(UnitSystem::metric);
         design->switchUnits(UnitSystem::english);

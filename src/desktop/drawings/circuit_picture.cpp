@@ -15,6 +15,7 @@ constexpr double leastDistance = 15;  // between two loops
 constexpr double largestLoop = 22;
 constexpr double houseSize = 34;
 constexpr double captionLines = 5;
+constexpr double leastHeightToTell = 230;  // below it the pipes take the captions' room
 
 /// The parts of the picture.
 struct Scene {
@@ -30,10 +31,11 @@ struct Scene {
 
 Scene sceneIn(const Canvas& canvas, const CircuitPlan& plan) {
     Scene scene;
-    const double captionHeight = captionLines * canvas.textHeight() + gridStep;
+    const bool told = canvas.area.height() >= leastHeightToTell;
+    const double captionHeight = told ? captionLines * canvas.textHeight() + gridStep : 0;
     scene.captions = QRectF(canvas.area.left(), canvas.area.bottom() - captionHeight,
                             canvas.area.width(), captionHeight);
-    scene.section = canvas.area.adjusted(0, 0, 0, -captionHeight - gridStep);
+    scene.section = canvas.area.adjusted(0, 0, 0, told ? -captionHeight - gridStep : 0);
     scene.columns = plan.branch.count > 0 ? 4 : 3;
     scene.surface = scene.section.top() + houseSize + gridStep;
     const int shoreColumn = plan.shoreAtBranches ? 2 : 1;
@@ -211,6 +213,7 @@ void paintCircuit(const Canvas& canvas, const CircuitPlan& plan, const Texts& te
     std::vector<Pipe> pipes{trunkOf(scene, house, tree.trunk.level)};
     layPipes(canvas, scene, tree.trunk, 1, plan, pipes);
     strokePipes(canvas, pipes);
+    if (scene.captions.isEmpty()) return;
     int column = 0;
     for (const Caption& caption : captionsOf(plan, texts)) {
         const QRectF place(scene.columnStart(column++), scene.captions.top(), scene.columnWidth(),

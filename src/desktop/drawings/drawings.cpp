@@ -70,13 +70,14 @@ Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts) 
         [&texts](const FieldPlan& field) { return describeField(field, texts); }, {380, 320});
 }
 
-Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts) {
+Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts,
+                           const QSize& usual) {
     return new PaintedDrawing<CircuitPlan>(
         std::move(source),
         [&texts](const Canvas& canvas, const CircuitPlan& plan) {
             paintCircuit(canvas, plan, texts);
         },
-        [&texts](const CircuitPlan& plan) { return describeCircuit(plan, texts); }, {440, 320});
+        [&texts](const CircuitPlan& plan) { return describeCircuit(plan, texts); }, usual);
 }
 
 Drawing* newGroundTempChart(std::function<GroundTempCurves()> source, const Texts& texts,

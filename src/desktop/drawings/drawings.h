@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QSize>
 #include <functional>
 
 #include "design/bore_drawing.h"
@@ -21,7 +22,9 @@ namespace varnholt {
 
 Drawing* newBoreDrawing(std::function<BoreDrawing()> source, const Texts& texts);
 Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts);
-Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts);
+/// @param usual  its size where nothing else decides
+Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts,
+                           const QSize& usual);
 Drawing* newGroundTempChart(std::function<GroundTempCurves()> source, const Texts& texts,
                             ChartModuleFinder charts = findChartModule);
 Drawing* newLoopChart(std::function<LoopCurves()> source, const Texts& texts,

@@ -24,7 +24,7 @@ ChartAxis daysOfTheYear() {
 }  // namespace
 
 GroundTempChart::GroundTempChart(Source curves, const Texts& texts, ChartModuleFinder charts)
-    : ChartDrawing(texts, std::move(charts)), source_(std::move(curves)) {}
+    : ChartDrawing(texts, std::move(charts), QBoxLayout::TopToBottom), source_(std::move(curves)) {}
 
 QString GroundTempChart::description() const {
     if (curves_.empty()) return emptyHint();

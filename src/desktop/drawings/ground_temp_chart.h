@@ -18,7 +18,8 @@ class GroundTempChart : public ChartDrawing {
     GroundTempChart(Source curves, const Texts& texts, ChartModuleFinder charts);
 
     QString description() const override;
-    QSize sizeHint() const override { return {560, 220}; }
+    QSize sizeHint() const override { return {420, 400}; }
+    QSize minimumSizeHint() const override { return {280, 320}; }
 
  protected:
     bool take() override;

@@ -20,8 +20,9 @@ std::function<Model()> sourceOf(Binder& bind, Model (frmSWDesign::*model)() cons
     };
 }
 
-Drawing* circuit(Binder& bind) {
-    return newCircuitDrawing(sourceOf(bind, &frmSWDesign::circuitPlan), bind.form()->texts());
+Drawing* circuit(Binder& bind, const QSize& usual) {
+    return newCircuitDrawing(sourceOf(bind, &frmSWDesign::circuitPlan), bind.form()->texts(),
+                             usual);
 }
 
 QWidget* resultsPage(Binder& bind) {
@@ -35,10 +36,10 @@ QWidget* resultsPage(Binder& bind) {
         unitTemperatures(bind),
         systemPerformance(bind),
         {bind.results("CAFlowRateLabel")}};
-    return row_(
-        grow(resultsPanel(bind, parts), 4),
-        grow(group(bind.frame("CACircuitFrame"), grow(bind.drawing("imgCircuit", circuit(bind)))),
-             5));
+    return row_(grow(resultsPanel(bind, parts), 4),
+                grow(group(bind.frame("CACircuitFrame"),
+                           grow(bind.drawing("imgCircuit", circuit(bind, {440, 320})))),
+                     5));
 }
 
 QWidget* headersInSoil(Binder& bind) {
@@ -49,10 +50,10 @@ QWidget* headersInSoil(Binder& bind) {
 QWidget* waterSoilPage(Binder& bind) {
     Drawing* chart =
         newGroundTempChart(sourceOf(bind, &frmSWDesign::groundTempCurves), bind.form()->texts());
+    QWidget* fields = column(groundTempPanel(bind), headersInSoil(bind),
+                             groundSwingPanel(bind, {bind.pair("SOCorrectedTempText")}));
     return column(group(bind.frame("SOSoilFrame"),
-                        column(groundTempPanel(bind), headersInSoil(bind),
-                               groundSwingPanel(bind, {bind.pair("SOCorrectedTempText")})),
-                        grow(bind.drawing("imgGroundTemp", chart))));
+                        grow(row_(fields, gap(), grow(bind.drawing("imgGroundTemp", chart))))));
 }
 
 QWidget* loopFields(Binder& bind) {
@@ -96,14 +97,16 @@ QWidget* headersPanel(Binder& bind) {
                  row_(grow(headerFields(bind, "PIPrimaryHeaderFrame", 0)), gap(),
                       grow(headerFields(bind, "PIBranchHeaderFrame", 1))),
                  group(bind.frame("PIHeaderHeadLossFrame"),
-                       row_(grow(headerLosses(bind, 0)), gap(), grow(headerLosses(bind, 1)))),
-                 grow(bind.drawing(circuit(bind))));
+                       row_(grow(headerLosses(bind, 0)), gap(), grow(headerLosses(bind, 1)))));
 }
 
 QWidget* pipingPage(Binder& bind) {
-    return column(group(bind.frame("PIPipeParametersSSTab"),
-                        grow(row_(grow(loopFields(bind), 2), gap(), grow(headersPanel(bind), 3))),
-                        buttons(bind.widget("PIPipeTablesCommand"))));
+    return column(
+        group(bind.frame("PIPipeParametersSSTab"),
+              grow(row_(grow(loopFields(bind), 2), gap(),
+                        grow(column(headersPanel(bind), buttons(bind.widget("PIPipeTablesCommand")),
+                                    grow(bind.drawing(circuit(bind, {440, 170})))),
+                             3)))));
 }
 
 QWidget* temperatures(Binder& bind, const char* frame, const char* array, std::size_t first) {
