@@ -2,6 +2,7 @@
 #include "design/frmSWDesign.h"
 
 #include <array>
+#include <utility>
 
 #include "basis/number_text.h"
 #include "design/extra_power_tab.h"
@@ -29,7 +30,9 @@ frmSWDesign::frmSWDesign(Varnmain& main, std::int16_t slot)
     resultsTab_ = std::make_unique<ResultsTab>(*this, resultRows(), Text::requiredLoopLengths);
     inputTabs_.push_back(std::make_unique<FluidTab>(*this, project_.fluid, project_.conditions));
     inputTabs_.push_back(std::make_unique<MinimumFlowTab>(*this, project_.conditions));
-    inputTabs_.push_back(std::make_unique<HeaderSoilTab>(*this, project_.soil));
+    auto soilTab = std::make_unique<HeaderSoilTab>(*this, project_.soil);
+    soilTab_ = soilTab.get();
+    inputTabs_.push_back(std::move(soilTab));
     inputTabs_.push_back(std::make_unique<LoopTab>(*this, project_.loop, project_.header));
     inputTabs_.push_back(std::make_unique<WaterTab>(*this, project_.water, project_.details));
     inputTabs_.push_back(std::make_unique<ExtraPowerTab>(*this, project_.extraPower,
@@ -169,7 +172,10 @@ void frmSWDesign::resultsFound() {
     project_.loop.parallelLoops = settled.loop.parallelLoops;
     project_.soil.groundTempAtDepth = settled.soil.groundTempAtDepth;
     showGoverningMode();
-    for (DesignTab* tab : tabs()) tab->setUnitLabels();
+    resultsTab_->setUnitLabels();
+    // What the run has settled among the inputs.
+    soilTab_->showCorrected();
+    for (const Mode mode : modes) fields().show(elementName("PIParallelLoopsText", mode));
 }
 
 std::string frmSWDesign::shownLength(double feet) const {

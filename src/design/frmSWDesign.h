@@ -16,6 +16,8 @@
 
 namespace varnholt {
 
+class HeaderSoilTab;
+
 /// The values and the run of pipe in surface water.
 struct SurfaceWaterKind {
     using Project = SurfaceWaterProject;
@@ -74,6 +76,7 @@ class frmSWDesign : public ProjectDesign<SurfaceWaterKind> {
     ByMode<std::string> shownFlows(const ByMode<double>& flow) const;
 
     std::unique_ptr<ResultsTab> resultsTab_;
+    HeaderSoilTab* soilTab_ = nullptr;  ///< one of the following
     std::vector<std::unique_ptr<DesignTab>> inputTabs_;
 };
 

@@ -12,13 +12,13 @@ class HeaderSoilTab : public SoilTab {
     HeaderSoilTab(GroundDesign& design, HeaderSoilValues& soil);
 
     void setUnitLabels() override;
+    void showCorrected();
 
  private:
     void addHeaders();
     void SOSoilTypeCombo_Click();
     /// The temperature at the headers' depth follows everything else on the page.
     void correct();
-    void showCorrected();
 
     HeaderSoilValues& soil_;
 };

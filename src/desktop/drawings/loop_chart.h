@@ -19,6 +19,7 @@ class LoopChart : public ChartDrawing {
 
     QString description() const override;
     QSize sizeHint() const override { return {320, 200}; }
+    QSize minimumSizeHint() const override { return {240, 140}; }
 
  protected:
     bool take() override;

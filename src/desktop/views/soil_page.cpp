@@ -23,10 +23,10 @@ QWidget* soilPropertiesPanel(Binder& bind) {
 QWidget* groundSwingPanel(Binder& bind, const FieldRows& results) {
     FieldRow swing = bind.row("SOAirTempSwingText");
     swing.unit = bind.widget("SOSwingdegCLabel");
-    return group(
-        bind.frame("SOCorrectionFrame"),
-        grid(swing, bind.heads("SOSeasonLabel(0)", "SOSeasonLabel(1)"), bind.pair("SODayText")),
-        buttons(bind.widget("SOSwingTableCommand")), results.empty() ? nullptr : gridOf(results));
+    return group(bind.frame("SOCorrectionFrame"), grid(swing),
+                 grid(bind.heads("SOSeasonLabel(0)", "SOSeasonLabel(1)"), bind.pair("SODayText")),
+                 buttons(bind.widget("SOSwingTableCommand")),
+                 results.empty() ? nullptr : gridOf(results));
 }
 
 }  // namespace varnholt

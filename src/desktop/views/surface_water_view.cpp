@@ -105,7 +105,7 @@ QWidget* pipingPage(Binder& bind) {
         group(bind.frame("PIPipeParametersSSTab"),
               grow(row_(grow(loopFields(bind), 2), gap(),
                         grow(column(headersPanel(bind), buttons(bind.widget("PIPipeTablesCommand")),
-                                    grow(bind.drawing(circuit(bind, {440, 170})))),
+                                    grow(bind.drawing(circuit(bind, {440, 140})))),
                              3)))));
 }
 
