@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A surface water run, from zones to head losses, without a window: budget 5 microseconds with 100
-// zones. The same by a click of Calculate in its form: budget 15 microseconds.
+// zones. The same by a click of Calculate in its form, without widgets.
 #include <benchmark/benchmark.h>
 
 #include "../tests/forms/fake_platform.h"
