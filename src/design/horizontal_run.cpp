@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "design/modCalculations/coil_length.h"
-#include "design/modCalculations/ground_temperature.h"
+#include "design/modCalculations/ground_temp_at_depth.h"
 #include "design/modCalculations/heat_pulses.h"
 #include "design/modCalculations/pipe_resistance.h"
 #include "design/modCalculations/temperature_penalty.h"

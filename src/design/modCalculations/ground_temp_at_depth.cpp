@@ -29,4 +29,11 @@ ByMode<double> groundTempAtDepth(double depth, double diffusivity, const GroundS
     return temperature;
 }
 
+ByMode<double> groundTempOfKnownDays(double depth, double diffusivity, const GroundSwing& swing) {
+    ByMode<double> temperature = groundTempAtDepth(depth, diffusivity, swing);
+    for (Mode m : modes)
+        if (swing.extremeDay[m] == 0) temperature[m] = swing.meanTemp;
+    return temperature;
+}
+
 }  // namespace varnholt::modCalculations

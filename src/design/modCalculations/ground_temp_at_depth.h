@@ -30,4 +30,7 @@ struct GroundSwing {
 /// Throws RunTimeError 5 with a negative diffusivity, 6 with a depth at which the figures overflow.
 ByMode<double> groundTempAtDepth(double depth, double diffusivity, const GroundSwing& swing);
 
+/// The same while the year is still being entered: a mode whose day is 0 keeps the mean.
+ByMode<double> groundTempOfKnownDays(double depth, double diffusivity, const GroundSwing& swing);
+
 }  // namespace varnholt::modCalculations
