@@ -28,9 +28,6 @@ struct SurfaceWaterKind {
         return varnholt::inputsOf(project);
     }
     static std::optional<Results> run(const Inputs& inputs) { return runSurfaceWater(inputs); }
-    static bool differ(const Inputs& then, const Inputs& now) {
-        return varnholt::differ(then, now);
-    }
 };
 
 /// The design of coils or slinkies in a pond or lake.

@@ -26,4 +26,12 @@ struct GroundRollUp : LoadsRollUp {
 void rollUpYear(const LoadsInputs& loads, double coolingRange,
                 const modCalculations::Hybrid& hybrid, GroundRollUp& rollUp);
 
+/// What a project's cooling tower starts from where nothing tells it: its range is what the units
+/// add to the loop.
+template <class Project>
+void resetCoolingRange(Project& project) {
+    project.tower.tower.range =
+        project.results->outlet.outletTemp[cooling] - project.conditions.inletTemp[cooling];
+}
+
 }  // namespace varnholt

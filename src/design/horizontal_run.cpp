@@ -10,7 +10,6 @@
 #include "design/modCalculations/temperature_penalty.h"
 #include "design/modCalculations/trench_resistance.h"
 #include "design/trench_rules.h"
-#include "loads/linked_design.h"
 
 namespace varnholt {
 namespace {
@@ -18,8 +17,6 @@ namespace {
 using namespace modCalculations;
 
 constexpr int singlePipe = 2;  // configuration of the pipe's resistance
-
-Soil soilOf(const SoilValues& soil) { return {soil.conductivity, soil.diffusivity}; }
 
 /// The two runs of a coil's loop lie so close that they count as one pipe of their equivalent
 /// diameter.
@@ -37,7 +34,7 @@ void findGround(const HorizontalInputs& inputs, const PipeValues& pipe,
     const PulseTimes pulses =
         calcPulseTimes(results.loads.peakBlock, inputs.arrangement.predictionYears);
     results.groundResistance = averageGroundResistance(
-        buildPipePositions(layout), pipe.pipeDiameter[0], pulses, soilOf(inputs.soil));
+        buildPipePositions(layout), pipe.pipeDiameter[0], pulses, inputs.soil.soil());
     const GroundTemperatureValues& year = inputs.groundTemperature;
     results.groundTempAtDepth =
         groundTempAtDepth(meanPipeDepth(layout), inputs.soil.diffusivity,
@@ -63,7 +60,7 @@ PenaltySite siteOf(const HorizontalInputs& inputs) {
     const double rows = inputs.trench.trenchCount;
     return {{rows, 1, inputs.trench.trenchGeometry[0]},
             countNeighbours(rows, 1),
-            soilOf(inputs.soil),
+            inputs.soil.soil(),
             inputs.arrangement.predictionYears};
 }
 
@@ -112,15 +109,6 @@ std::optional<HorizontalResults> runHorizontal(const HorizontalInputs& inputs) {
     results.inputs = inputs;
     results.inputs->pipe.pipeResistance = results.pipeResistance;
     return results;
-}
-
-bool differ(const HorizontalInputs& then, const HorizontalInputs& now) {
-    if (!sameLoads(then.loads.zones, now.loads.zones)) return true;
-    HorizontalInputs same = now;
-    same.loads.zones = then.loads.zones;
-    same.loads.hybridOn = then.loads.hybridOn;
-    same.coolingRange = then.coolingRange;
-    return !(same == then);
 }
 
 }  // namespace varnholt

@@ -58,8 +58,4 @@ struct HorizontalResults : GroundRollUp {
 ///         whatever else the arithmetic ends in (6 for an overflow, 9 for no arrangement)
 std::optional<HorizontalResults> runHorizontal(const HorizontalInputs& inputs);
 
-/// Whether a run from `now` would find other lengths, loads or powers than one from `then`. How the
-/// tower's figures were trimmed, and that its share was set by the slider, makes no difference.
-bool differ(const HorizontalInputs& then, const HorizontalInputs& now);
-
 }  // namespace varnholt

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/shared_values.h"
 
-#include <array>
-
 #include "design/modCalculations/bore_resistance.h"
 #include "design/result_values.h"
 
@@ -87,9 +85,10 @@ void addRollUpValues(Values& values, const std::function<const LoadsRollUp&()>& 
         "outletTemp", [](R r) -> auto& { return r.outlet.outletTemp; });
 }
 
-void addBoreholeResults(Values& values, const std::function<const BoreholeResults&()>& results) {
-    using R = const BoreholeResults&;
-    ResultValues<BoreholeResults> of(values, results);
+void addGroundValues(Values& values, const std::function<const GroundRollUp&()>& rollUp) {
+    using R = const GroundRollUp&;
+    addRollUpValues(values, [rollUp]() -> const LoadsRollUp& { return rollUp(); });
+    ResultValues<GroundRollUp> of(values, rollUp);
     of.table(
         "zonePeakTons", [](R r) -> auto& { return r.tonHours.zonePeakTons; });
     of.table(
@@ -97,19 +96,11 @@ void addBoreholeResults(Values& values, const std::function<const BoreholeResult
     of.array(
         "annualTonHours", [](R r) -> auto& { return r.annualTonHours; });
     of.number("annualGroundLoad", [](R r) { return r.annualGroundLoad; });
-    of.array("groundResistance", [](R r) {
-        const modCalculations::GroundResistances& ground = r.groundResistance;
-        return std::array<double, 3>{ground.annual, ground.monthly, ground.shortTerm};
-    });
-    of.array(
-        "neighbourCount", [](R r) -> auto& { return r.neighbourCount; });
-    of.array(
-        "temperaturePenalty", [](R r) -> auto& { return r.lengths.temperaturePenalty; });
-    of.array(
-        "boreLength", [](R r) -> auto& { return r.lengths.boreLength; });
-    of.array(
-        "previousBoreLength", [](R r) -> auto& { return r.lengths.previousBoreLength; });
     of.number("coolingPeakBeforeHybrid", [](R r) { return r.coolingPeakBeforeHybrid; });
+}
+
+std::array<double, 3> elementsOf(const modCalculations::GroundResistances& resistances) {
+    return {resistances.annual, resistances.monthly, resistances.shortTerm};
 }
 
 }  // namespace varnholt

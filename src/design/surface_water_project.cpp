@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/surface_water_project.h"
 
-#include "loads/linked_design.h"
-
 namespace varnholt {
 
 SurfaceWaterInputs inputsOf(const SurfaceWaterProject& project) {
@@ -13,13 +11,6 @@ SurfaceWaterInputs inputsOf(const SurfaceWaterProject& project) {
             project.loop,
             project.header,
             project.water};
-}
-
-bool differ(const SurfaceWaterInputs& then, const SurfaceWaterInputs& now) {
-    if (!sameLoads(then.loads.zones, now.loads.zones)) return true;
-    SurfaceWaterInputs same = now;
-    same.loads.zones = then.loads.zones;
-    return !(same == then);
 }
 
 }  // namespace varnholt

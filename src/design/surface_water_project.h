@@ -28,7 +28,4 @@ struct SurfaceWaterProject : DesignProject {
 /// What a run takes from a project.
 SurfaceWaterInputs inputsOf(const SurfaceWaterProject& project);
 
-/// Whether a run from `now` would find other figures than one from `then`.
-bool differ(const SurfaceWaterInputs& then, const SurfaceWaterInputs& now);
-
 }  // namespace varnholt

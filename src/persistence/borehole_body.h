@@ -59,13 +59,6 @@ void describeResults(File& file, Project& project) {
     }
 }
 
-/// What the cooling tower starts from where no file tells it: its range is what the units add to
-/// the loop.
-inline void resetCoolingRange(BoreholeProject& project) {
-    project.tower.tower.range =
-        project.results->outlet.outletTemp[cooling] - project.conditions.inletTemp[cooling];
-}
-
 template <class File, class Project>
 void describeTower(File& file, Project& project) {
     auto& power = project.extraPower;

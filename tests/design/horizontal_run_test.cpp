@@ -2,6 +2,7 @@
 // Whole runs of the horizontal design. The figures were worked by a second route,
 // tests/independent/horizontal_road.py, which fills the whole table of pipes and images.
 #include "design/horizontal_run.h"
+#include "design/differ.h"
 
 #include <gtest/gtest.h>
 
