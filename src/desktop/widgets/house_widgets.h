@@ -66,7 +66,8 @@ class UpDownButtons : public QWidget {
     double highest() const { return highest_; }
     /// Moves to the number as a person would.
     void moveTo(double number);
-    void step(int steps) { moveTo(number_ + steps); }
+    void setStep(double step) { step_ = step; }
+    void step(int steps) { moveTo(number_ + steps * step_); }
 
     /// A person has stepped it.
     std::function<void(double)> onMoved;
@@ -80,7 +81,7 @@ class UpDownButtons : public QWidget {
 
     QToolButton* up_;
     QToolButton* down_;
-    double lowest_ = 0, highest_ = 100, number_ = 0;
+    double lowest_ = 0, highest_ = 100, number_ = 0, step_ = 1;
 };
 
 /// A titled group of controls: a flat card, or inside another group a plain section.
