@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "design/frmBHDesign.h"
+#include "design/frmHZDesign.h"
 #include "design/frmSWDesign.h"
 
 namespace varnholt {
@@ -29,12 +30,17 @@ frmBHDesign* newBorehole(Varnmain& main, const std::function<DesignFiles(frmBHDe
     return openNew(main, DesignKind::borehole, filesOf);
 }
 
+frmHZDesign* newHorizontal(Varnmain& main) {
+    return openNew<frmHZDesign>(main, DesignKind::horizontal);
+}
+
 frmSWDesign* newSurfaceWater(Varnmain& main) {
     return openNew<frmSWDesign>(main, DesignKind::surfaceWater);
 }
 
 void installDesign(Varnmain& main) {
     main.setCommand("NewBorehole", CommandNeeds::nothing, [&main] { newBorehole(main); });
+    main.setCommand("NewHorizontal", CommandNeeds::nothing, [&main] { newHorizontal(main); });
     main.setCommand("NewSurfaceWater", CommandNeeds::nothing, [&main] { newSurfaceWater(main); });
 }
 
