@@ -9,9 +9,11 @@
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
 #include "design/frmBHDesign.h"
+#include "design/frmHZDesign.h"
 #include "design/frmSWDesign.h"
 #include "frame/varnmain.h"
 #include "persistence/borehole_body.h"
+#include "persistence/horizontal_body.h"
 #include "persistence/project_head.h"
 #include "persistence/surface_water_body.h"
 
@@ -43,6 +45,7 @@ void readInto(GroundDesign& design, const Read& read) {
 }
 
 constexpr std::string_view boreholeTitle = "Borehole Design";
+constexpr std::string_view horizontalTitle = "Horizontal Design";
 constexpr std::string_view surfaceWaterTitle = "Surface Water Design";
 
 // Head and body of each kind's project file, and the body of its defaults file.
@@ -52,6 +55,9 @@ void describeFile(File& file, Project& project) {
     if constexpr (std::is_same_v<std::remove_const_t<Project>, BoreholeProject>) {
         describeHead(file, boreholeTitle, project.information);
         describeBoreholeProject(file, project);
+    } else if constexpr (std::is_same_v<std::remove_const_t<Project>, HorizontalProject>) {
+        describeHead(file, horizontalTitle, project.information);
+        describeHorizontalProject(file, project);
     } else {
         describeHead(file, surfaceWaterTitle, project.information);
         describeSurfaceWaterProject(file, project);
@@ -62,6 +68,9 @@ template <class File, class Project>
 void describeDefaults(File& file, Project& project) {
     if constexpr (std::is_same_v<std::remove_const_t<Project>, BoreholeProject>) {
         describeBoreholeDefaults(file, project);
+        if constexpr (File::reading) resetCoolingRange(project);
+    } else if constexpr (std::is_same_v<std::remove_const_t<Project>, HorizontalProject>) {
+        describeHorizontalDefaults(file, project);
         if constexpr (File::reading) resetCoolingRange(project);
     } else {
         describeSurfaceWaterDefaults(file, project);
@@ -120,10 +129,9 @@ constexpr DesignFileKind kindOf(DesignKind kind, const char* newCommand, std::st
             linkKeepingResults<Window>};
 }
 
-/// The row of the horizontal design ("Horizontal Design", vhthz.ini) stands here beside them once
-/// there is such a window.
 constexpr std::array kinds{
     kindOf<frmBHDesign>(DesignKind::borehole, "NewBorehole", boreholeTitle, "vhtbh.ini"),
+    kindOf<frmHZDesign>(DesignKind::horizontal, "NewHorizontal", horizontalTitle, "vhthz.ini"),
     kindOf<frmSWDesign>(DesignKind::surfaceWater, "NewSurfaceWater", surfaceWaterTitle,
                         "vhtsw.ini"),
 };
@@ -172,9 +180,13 @@ void readText(std::string_view bytes, Project& project) {
 }  // namespace
 
 std::string projectText(const BoreholeProject& project) { return textOf(project); }
+std::string projectText(const HorizontalProject& project) { return textOf(project); }
 std::string projectText(const SurfaceWaterProject& project) { return textOf(project); }
 
 void readProjectText(std::string_view bytes, BoreholeProject& project) { readText(bytes, project); }
+void readProjectText(std::string_view bytes, HorizontalProject& project) {
+    readText(bytes, project);
+}
 void readProjectText(std::string_view bytes, SurfaceWaterProject& project) {
     readText(bytes, project);
 }
@@ -191,9 +203,12 @@ void readProjectText(std::string_view bytes, GroundDesign& design) {
 }
 
 bool tellsOfLink(std::string_view bytes) {
-    LineFileReader file(bytes.substr(0, bytes.find('\n')));
+    LineFileReader file(bytes);
     file.title({});
-    return file.since(2.0);
+    if (file.since(2.0)) return true;
+    // Horizontal files have always told of it.
+    const DesignFileKind* kind = fileKindOfTitle(file.line());
+    return kind != nullptr && kind->kind == DesignKind::horizontal;
 }
 
 void saveVHTFile(const GroundDesign& design, const std::string& path) {
