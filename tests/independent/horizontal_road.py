@@ -3,12 +3,15 @@
 """Horizontal designs from loads to trenches, worked a second time, apart from the program.
 
     python3 tests/independent/horizontal_road.py [--show]
+    python3 tests/independent/horizontal_road.py --check TRANSCRIPT
 
 Two zones in fields of every arrangement: one pipe, columns with and without an offset, coils, a
 tower, loads in one mode only, a mode without a solution.  The whole table of pipes and images is
 filled, node by node, and summed by rows.  It shares no line with the program; the tests
-tests/design/horizontal_*_test.cpp hold the program to these figures.  --show prints the steps.
+tests/design/horizontal_*_test.cpp hold the program to these figures.  --show prints the steps, --check compares
+the values of the transcript of tests/scripts/horizontal.vscript, one run after the other.
 """
+import math
 import sys
 from math import cos, exp, log, sqrt
 
@@ -228,7 +231,7 @@ def roll_up(zones, percent):
               for m, s in ((COOL, -1), (HEAT, 1))]
     condenser = reject * (whole - whole * left)
     tower = [condenser, reject * 12 * tons[COOL] * (1 - left) / condenser if condenser else 0]
-    return {"peak": [whole * left, peak[HEAT]], "evening": 3 in at, "demand": demand, "plf": plf,
+    return {"whole": whole, "peak": [whole * left, peak[HEAT]], "evening": 3 in at, "demand": demand, "plf": plf,
             "q": q, "outlet": outlet, "tower": tower}
 
 
@@ -302,6 +305,12 @@ def calculate(title, zones=(OFFICES, SHOP), **changes):
     if d["percent"]:
         print("  annual load %.7f MBtu/hr, tower %.6f MBtu/hr for %.6f hours" % (
             loads["q"], *loads["tower"]))
+    return {"peakLoad": [loads["whole"], loads["peak"][HEAT]], "peakDemand": loads["demand"],
+            "partLoadFactor": loads["plf"], "outletTemp": loads["outlet"],
+            "annualGroundLoad": [loads["q"]], "pipeResistance": [resistance],
+            "groundResistance": [rga, rgm, rgs], "groundTempAtDepth": ground,
+            "temperaturePenalty": tp, "requiredLength": length, "totalPipeLength": pipe,
+            "condenserCapacity": [loads["tower"][0]], "coolingTowerHours": [loads["tower"][1]]}
 
 
 def only(mode, zones=(OFFICES, SHOP)):
@@ -324,7 +333,49 @@ def pieces():
     print("  " + "  ".join("(%g, %g)" % point for point in zip(*pipe_positions(d))))
 
 
+def script():
+    """The runs of the script, in its order."""
+    columns = dict(arrangement=1, pipes=4, trenches=5, separation=10.0, mean=70.0)
+    return [
+        calculate("One pipe"),
+        calculate("Staggered column", pipes=4, Y=9.0, X=10.0, offset=True, trenches=3,
+                  separation=8.0),
+        calculate("Two columns with offset", arrangement=1, pipes=6, Y=9.0, X=15.0, offset=True,
+                  trenches=5, separation=10.0),
+        calculate("Three columns", arrangement=2, pipes=24, Y=8.0, X=16.0, depth=8.0, trenches=2,
+                  separation=15.0),
+        calculate("Lying coil", arrangement=3, pitch=18.0, trenches=6, separation=12.0),
+        calculate("Standing coil", arrangement=4, pitch=30.0, trenches=6, separation=12.0),
+        calculate("Warm ground", **columns),
+        calculate("Warm ground with a tower", percent=30, **columns),
+    ]
+
+
+def check(transcript, runs):
+    """Every figure of the transcript against this working; says how many agree. A run begins with
+    its first peak load."""
+    run_number = -1
+    agreed = 0
+    for line in open(transcript, encoding="utf-8"):
+        if not line.startswith("value frmHZDesign") or '"' in line:
+            continue
+        name, value = line.strip().split(".", 1)[1].split(" = ")
+        run_number += name == "peakLoad(0)"
+        stem, _, index = name.rstrip(")").partition("(")
+        if stem not in runs[0]:
+            continue  # an input
+        want = runs[run_number][stem][int(index or 0)]
+        if not math.isclose(float(value), want, rel_tol=1e-9, abs_tol=1e-9):
+            raise SystemExit("run %d: %s is %s, worked here as %r" % (run_number, name, value, want))
+        agreed += 1
+    if run_number + 1 != len(runs):
+        raise SystemExit("%d runs in %s, %d here" % (run_number + 1, transcript, len(runs)))
+    print("%d figures agree" % agreed)
+
+
 def main():
+    if "--check" in sys.argv:
+        return check(sys.argv[-1], script())
     pieces()
     calculate("One pipe in one trench")
     calculate("One pipe in each of 12 trenches 8 ft apart", trenches=12, separation=8.0)
