@@ -743,7 +743,6 @@ constexpr int zonesNotSaved = 2942;
 constexpr int loadsWindowInUse = 8539;
 constexpr int zoneFileNotFound = 8540;
 constexpr int systemInformationUnavailable = 8541;
-constexpr int designKindNotOpened = 8542;
 constexpr int zoneFileDamaged = 8543;
 
 }  // namespace varnholt::Text

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <stdexcept>
 #include <type_traits>
 
 #include "basis/file_system.h"
@@ -136,6 +135,11 @@ constexpr std::array kinds{
                         "vhtsw.ini"),
 };
 
+const DesignFileKind& rowOf(DesignKind kind) {
+    return *std::find_if(kinds.begin(), kinds.end(),
+                         [kind](const DesignFileKind& row) { return row.kind == kind; });
+}
+
 std::string defaultsPath(const GroundDesign& design) {
     return joinPath(design.main().MainDirectory, std::string(fileKindOf(design).defaultsFile));
 }
@@ -144,22 +148,12 @@ std::string defaultsPath(const GroundDesign& design) {
 
 std::span<const DesignFileKind> designFileKinds() { return kinds; }
 
-const DesignFileKind& fileKindOf(const GroundDesign& design) {
-    const auto found = std::find_if(kinds.begin(), kinds.end(), [&](const DesignFileKind& row) {
-        return row.kind == design.kind();
-    });
-    if (found == kinds.end()) throw std::logic_error("no file kind for " + design.formName());
-    return *found;
-}
+const DesignFileKind& fileKindOf(const GroundDesign& design) { return rowOf(design.kind()); }
 
-const DesignFileKind* fileKindOfTitle(std::string_view line) {
-    // Every other line means a horizontal design.
-    DesignKind kind = DesignKind::horizontal;
-    if (line == boreholeTitle) kind = DesignKind::borehole;
-    if (line == surfaceWaterTitle) kind = DesignKind::surfaceWater;
-    for (const DesignFileKind& row : kinds)
-        if (row.kind == kind) return &row;
-    return nullptr;
+const DesignFileKind& fileKindOfTitle(std::string_view line) {
+    if (line == boreholeTitle) return rowOf(DesignKind::borehole);
+    if (line == surfaceWaterTitle) return rowOf(DesignKind::surfaceWater);
+    return rowOf(DesignKind::horizontal);
 }
 
 namespace {
@@ -207,8 +201,7 @@ bool tellsOfLink(std::string_view bytes) {
     file.title({});
     if (file.since(2.0)) return true;
     // Horizontal files have always told of it.
-    const DesignFileKind* kind = fileKindOfTitle(file.line());
-    return kind != nullptr && kind->kind == DesignKind::horizontal;
+    return fileKindOfTitle(file.line()).kind == DesignKind::horizontal;
 }
 
 void saveVHTFile(const GroundDesign& design, const std::string& path) {

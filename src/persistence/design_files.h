@@ -37,8 +37,9 @@ struct DesignFileKind {
 
 std::span<const DesignFileKind> designFileKinds();
 const DesignFileKind& fileKindOf(const GroundDesign& design);
-/// The kind that a project file's second line names; null when this program has no such design.
-const DesignFileKind* fileKindOfTitle(std::string_view line);
+/// The kind that a project file's second line names. Every line that is no other's title means a
+/// horizontal design.
+const DesignFileKind& fileKindOfTitle(std::string_view line);
 
 /// The project as the bytes of a file of the newest version.
 std::string projectText(const BoreholeProject& project);

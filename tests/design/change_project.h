@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "design/frmBHDesign.h"
+#include "design/frmHZDesign.h"
 #include "design/frmSWDesign.h"
 
 namespace varnholt {

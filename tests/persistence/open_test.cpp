@@ -141,15 +141,17 @@ TEST_F(Opening, AFolderOpensNoWindow) {
     EXPECT_TRUE(main.windows().empty());
 }
 
-TEST_F(Opening, ADesignOfAnotherKindSaysSo) {
+TEST_F(Opening, AFileOfNoKnownKindOpensAsAHorizontalDesign) {
     for (const char* kind : {"Horizontal Design", "anything else"}) {
         writeBytes(folder / "other.vht",
-                   std::string("Varnholt Data File Version 3.0\r\n") + kind + "\r\n");
+                   std::string("Varnholt Data File Version 3.0\r\n") + kind + "\r\nMill\r\n");
         pick("other.vht");
         main.click("mnuFileOpen");
-        EXPECT_EQ(lastMessage(), "[8542]");
+        EXPECT_EQ(lastMessage(), "Varnholt - Input past end of file");
+        ASSERT_EQ(main.windows().size(), 1u);
+        EXPECT_EQ(main.windows().front()->formName(), "frmHZDesign");
+        closeAll();
     }
-    EXPECT_TRUE(main.windows().empty());
 }
 
 TEST_F(Opening, ACutFileShowsWhatCouldBeReadAndTheError) {
