@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/frmHZDesign.h"
 
+#include <array>
+#include <cmath>
+
 #include "basis/number_text.h"
+#include "basis/run_time_error.h"
 #include "design/extra_power_tab.h"
 #include "design/fluid_tab.h"
+#include "design/labelled_ground_temp.h"
 #include "design/modCalculations/trench_lengths.h"
 #include "design/result_values.h"
 #include "design/shared_values.h"
 #include "design/trench_pipe_tab.h"
+#include "design/trench_rules.h"
 #include "design/trench_soil_tab.h"
 #include "design/trench_tab.h"
 #include "forms/text_numbers.h"
@@ -28,6 +34,7 @@ frmHZDesign::frmHZDesign(Varnmain& main, std::int16_t slot)
     addInformationControls();
     registerInputs();
     registerResults();
+    registerPairTable();
 }
 
 std::string frmHZDesign::baseCaption() const { return text(Text::horizontalDesignTitle); }
@@ -111,12 +118,38 @@ void frmHZDesign::registerResults() {
         "temperaturePenalty", [](R r) -> auto& { return r.lengths.temperaturePenalty; });
     of.array(
         "previousLength", [](R r) -> auto& { return r.lengths.previousBoreLength; });
+    of.array("lengthChange", [](R r) {
+        ByMode<double> change{};
+        for (const Mode m : modes)
+            change[m] = std::abs(r.lengths.boreLength[m] - r.lengths.previousBoreLength[m]);
+        return change;
+    });
     of.array(
         "coilLengthPer250", [](R r) -> auto& { return r.coilLengthPer250; });
     of.array(
         "requiredLength", [](R r) -> auto& { return r.requiredLength; });
     of.array(
         "totalPipeLength", [](R r) -> auto& { return r.totalPipeLength; });
+}
+
+/// Pipes and images of the last run, one by one. By period: annual, monthly, short term.
+void frmHZDesign::registerPairTable() {
+    Values& values = publicValues();
+    const auto ground = [this]() -> const modCalculations::TrenchGround& {
+        return results().trenchGround;
+    };
+    values.add("pipePositions", 2, [ground](const Values::Indices& i) {
+        const modCalculations::PipePosition& node = publicElement(ground().nodes, i[1]);
+        return publicElement(std::array<double, 2>{node.x, node.y}, i[0]);
+    });
+    values.add("pipeDistances", 2,
+               [ground](const Values::Indices& i) { return pipeDistance(ground(), i[0], i[1]); });
+    values.add("pairResistance", 3, [ground](const Values::Indices& i) {
+        return publicElement(elementsOf(pairResistance(ground(), i[1], i[2])), i[0]);
+    });
+    values.add("pipeResistanceSum", 2, [ground](const Values::Indices& i) {
+        return publicElement(elementsOf(pipeResistanceSum(ground(), i[1])), i[0]);
+    });
 }
 
 void frmHZDesign::followGroundTemp() { project_.groundTempAtDepth = groundTempAtTrench(project_); }
@@ -176,6 +209,22 @@ TrenchPlan frmHZDesign::trenchPlan() const {
     plan.pitchLabel = shownWidth(project_.arrangement.coilGeometry[0]);
     plan.coilLabel = shownWidth(project_.arrangement.coilGeometry[1]);
     return plan;
+}
+
+GroundTempCurves frmHZDesign::groundTempCurves() const {
+    const SoilValues& soil = project_.soil;
+    const GroundTemperatureValues& year = project_.groundTemperature;
+    const modCalculations::GroundSwing swing{soil.groundTemp, year.airTempSwing, year.extremeDay};
+    try {
+        const double depth =
+            modCalculations::meanPipeDepth(layoutOf(project_.trench, project_.arrangement));
+        return labelledGroundTemp(
+            *this, depth, soil.diffusivity, swing,
+            modCalculations::groundTempAtDepth(depth, soil.diffusivity, swing));
+    } catch (const RunTimeError&) {
+        // A file may hold an arrangement that is none, or a soil beyond all figures.
+        return {};
+    }
 }
 
 }  // namespace varnholt

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "design/ground_temp_curves.h"
 #include "design/horizontal_project.h"
 #include "design/tower_design.h"
 #include "design/trench_drawing.h"
@@ -36,6 +37,8 @@ class frmHZDesign : public TowerDesign<HorizontalKind> {
     TrenchDrawing trenchDrawing() const;
     /// What `imgConfiguration` shows.
     TrenchPlan trenchPlan() const;
+    /// What `imgGroundTemp` shows, at the mean depth of the pipes.
+    GroundTempCurves groundTempCurves() const;
 
  protected:
     void resultsFound() override;
@@ -53,6 +56,7 @@ class frmHZDesign : public TowerDesign<HorizontalKind> {
     std::vector<ResultRow> resultRows() const;
     void registerInputs();
     void registerResults();
+    void registerPairTable();
     /// Soil, year or depth have changed.
     void followGroundTemp();
     std::string shownLength(double feet) const;

@@ -8,6 +8,7 @@
 #include "design/extra_power_tab.h"
 #include "design/fluid_tab.h"
 #include "design/header_soil_tab.h"
+#include "design/labelled_ground_temp.h"
 #include "design/loop_tab.h"
 #include "design/minimum_flow_tab.h"
 #include "design/result_values.h"
@@ -211,19 +212,9 @@ CircuitPlan frmSWDesign::circuitPlan() const {
 
 GroundTempCurves frmSWDesign::groundTempCurves() const {
     const HeaderSoilValues& soil = project_.soil;
-    GroundTempCurves curves =
-        drawGroundTemp(soil.headerDepth, soil.soilDiffusivity,
-                       {soil.groundTemp, soil.airTempSwing, soil.extremeDay}, units());
-    const UnitTexts degrees{Text::groundTemperatureUnitsEnglish,
-                            Text::groundTemperatureUnitsMetric};
-    curves.depthUnit =
-        text(UnitTexts{Text::lengthUnitsEnglish, Text::lengthUnitsMetric}.in(units()));
-    curves.temperatureUnit = text(degrees.in(units()));
-    curves.depthLabel = shownLength(soil.headerDepth);
-    for (const Mode mode : modes)
-        curves.temperatureLabels[mode] =
-            shownWithUnit(quantities::temperature, *this, soil.groundTempAtDepth[mode], degrees);
-    return curves;
+    return labelledGroundTemp(*this, soil.headerDepth, soil.soilDiffusivity,
+                              {soil.groundTemp, soil.airTempSwing, soil.extremeDay},
+                              soil.groundTempAtDepth);
 }
 
 LoopCurves frmSWDesign::loopCurves() const {

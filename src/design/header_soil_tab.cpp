@@ -20,7 +20,7 @@ HeaderSoilTab::HeaderSoilTab(GroundDesign& design, HeaderSoilValues& soil)
     const auto follow = [this] { correct(); };
     addGroundTemp(soil.groundTemp, follow);
     addHeaders();
-    addSwing(soil.airTempSwing, soil.extremeDay, follow);
+    addSwing(soil.airTempSwing, soil.extremeDay, follow, "surface_water#swing");
     addUnitLabel("SOCorrectedTempLabel", "SOCorrectionFrame",
                  {Text::correctedTemperatureEnglish, Text::correctedTemperatureMetric});
     for (const Mode mode : modes)

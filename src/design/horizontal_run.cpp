@@ -33,8 +33,9 @@ void findGround(const HorizontalInputs& inputs, const PipeValues& pipe,
     const TrenchLayout layout = layoutOf(inputs.trench, inputs.arrangement);
     const PulseTimes pulses =
         calcPulseTimes(results.loads.peakBlock, inputs.arrangement.predictionYears);
-    results.groundResistance = averageGroundResistance(
-        buildPipePositions(layout), pipe.pipeDiameter[0], pulses, inputs.soil.soil());
+    results.trenchGround = {buildPipePositions(layout), pipe.pipeDiameter[0], pulses,
+                            inputs.soil.soil()};
+    results.groundResistance = averageGroundResistance(results.trenchGround);
     const GroundTemperatureValues& year = inputs.groundTemperature;
     results.groundTempAtDepth =
         groundTempAtDepth(meanPipeDepth(layout), inputs.soil.diffusivity,

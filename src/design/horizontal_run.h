@@ -9,6 +9,7 @@
 #include "design/modCalculations/bore_grid.h"
 #include "design/modCalculations/ground_resistance.h"
 #include "design/modCalculations/settling.h"
+#include "design/modCalculations/trench_resistance.h"
 
 namespace varnholt {
 
@@ -33,6 +34,7 @@ struct HorizontalResults : GroundRollUp {
     /// The resistance that was computed with. The design keeps it: a coil's is that of its
     /// equivalent pipe, also when straight pipes are chosen next.
     double pipeResistance = 0;  ///< hr ft degF/Btu
+    modCalculations::TrenchGround trenchGround;
     modCalculations::GroundResistances groundResistance;
     ByMode<double> groundTempAtDepth{};  ///< at the mean depth of the pipes, degF
     modCalculations::NeighbourCount neighbourCount{};

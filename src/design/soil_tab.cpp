@@ -66,7 +66,7 @@ void SoilTab::addProperties(SoilValues& soil, const Changed& changed) {
 }
 
 void SoilTab::addSwing(double& airTempSwing, ByMode<std::int16_t>& extremeDay,
-                       const Changed& changed) {
+                       const Changed& changed, const std::string& help) {
     const std::string frame = "SOCorrectionFrame";
     addFrame(frame, Text::groundTemperatureCorrections, "SOSoilFrame");
     addField({.control = "SOAirTempSwingText",
@@ -80,16 +80,16 @@ void SoilTab::addSwing(double& airTempSwing, ByMode<std::int16_t>& extremeDay,
                          .unitLabel = "SOSwingdegCLabel",
                          .unit = {Text::groundTemperatureUnitsEnglish,
                                   Text::groundTemperatureUnitsMetric},
-                         .help = "surface_water#swing"},
+                         .help = help},
               .changed = changed});
     add("SODayLabel", ControlKind::label, frame, Text::extremeDays);
-    for (const Mode mode : modes) addExtremeDay(mode, extremeDay[mode], frame, changed);
+    for (const Mode mode : modes) addExtremeDay(mode, extremeDay[mode], frame, changed, help);
     addMenuButton("SOSwingTableCommand", frame, Text::swingTableButton, "SoilProperties");
 }
 
 /// No day is day 0: a field left at it takes the day that stands for none entered.
 void SoilTab::addExtremeDay(Mode mode, std::int16_t& day, const std::string& frame,
-                            const Changed& changed) {
+                            const Changed& changed, const std::string& help) {
     constexpr std::int16_t unknownDay = 34;
     const ByMode<int> seasons{Text::summer, Text::winter};
     const std::string field = elementName("SODayText", mode);
@@ -101,7 +101,7 @@ void SoilTab::addExtremeDay(Mode mode, std::int16_t& day, const std::string& fra
               .beside = {.frame = frame,
                          .label = elementName("SOSeasonLabel", mode),
                          .caption = {seasons[mode], seasons[mode]},
-                         .help = "surface_water#swing",
+                         .help = help,
                          .accessible = Text::extremeDays,
                          .distinction = seasons[mode]},
               .changed = changed,

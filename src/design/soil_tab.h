@@ -26,11 +26,13 @@ class SoilTab : public DesignTab {
     void addGroundTemp(double& groundTemp, const Changed& changed = {});
     void addProperties(SoilValues& soil, const Changed& changed = {});
     /// The yearly swing of the temperature near the surface, and the days of its extremes.
-    void addSwing(double& airTempSwing, ByMode<std::int16_t>& extremeDay, const Changed& changed);
+    /// @param help  topic of the kind's own page
+    void addSwing(double& airTempSwing, ByMode<std::int16_t>& extremeDay, const Changed& changed,
+                  const std::string& help);
 
  private:
     void addExtremeDay(Mode mode, std::int16_t& day, const std::string& frame,
-                       const Changed& changed);
+                       const Changed& changed, const std::string& help);
 };
 
 }  // namespace varnholt

@@ -12,7 +12,8 @@ TrenchSoilTab::TrenchSoilTab(GroundDesign& design, SoilValues& soil, GroundTempe
     addFrame("SOSoilFrame", Text::soilTemperaturesAndProperties);
     addGroundTemp(soil.groundTemp, changed);
     addProperties(soil, changed);
-    addSwing(year.airTempSwing, year.extremeDay, changed);
+    addSwing(year.airTempSwing, year.extremeDay, changed, "horizontal#swing");
+    add("imgGroundTemp", ControlKind::image, "SOSoilFrame");
 }
 
 }  // namespace varnholt

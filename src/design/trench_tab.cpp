@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/trench_tab.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -114,9 +115,9 @@ void TrenchTab::addArrangements() {
 }
 
 void TrenchTab::addPipes() {
-    addPipeCount();
     addPipeField(pitchField, &arrangement_.coilGeometry[0], enteredPitch,
                  [this] { applyLimits(); });
+    addPipeCount();
     addPipeField(
         verticalField,
         {[this] {
@@ -325,13 +326,15 @@ void TrenchTab::showFields() {
 }
 
 void TrenchTab::showCounts() {
-    control("PAConfigurationUpDown(0)").setValue(trench_.trenchCount);
+    // A file may hold counts that no up-down reaches.
+    const double trenches = std::clamp(trench_.trenchCount, 1.0, mostTrenches);
+    control("PAConfigurationUpDown(0)").setValue(trenches);
     const bool coil = coilIsChosen();
     const int columns = isKnown() ? columnsOf(arrangement_.trenchConfiguration) : 1;
     control("PAConfigurationUpDown(1)")
         .setRange(columns, mostPipesPerTrench)
         .setStep(columns)
-        .setValue(arrangement_.pipesPerTrench)
+        .setValue(std::clamp(arrangement_.pipesPerTrench, double(columns), mostPipesPerTrench))
         .setEnabled(isKnown() && !coil);
     control("PAInTrenchConfigurationLabel(3)")
         .setCaption(formatNumber(arrangement_.pipesPerTrench, "###0"))

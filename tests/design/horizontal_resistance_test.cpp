@@ -13,7 +13,7 @@ const PulseTimes evening = calcPulseTimes({1, 3}, 10);
 const PulseTimes day = calcPulseTimes({1, 2}, 10);
 
 GroundResistances resistanceOf(const TrenchLayout& layout, const PulseTimes& pulses = evening) {
-    return averageGroundResistance(buildPipePositions(layout), outside, pulses, soil);
+    return averageGroundResistance({buildPipePositions(layout), outside, pulses, soil});
 }
 
 TEST(TrenchResistance, OfOnePipeAgreesWithAHandCalculation) {
@@ -77,13 +77,14 @@ TEST(TrenchResistance, OfTheFourHourPulseDiffersInEveryPulse) {
 
 TEST(TrenchResistance, WithoutDiffusivityIsThatOfTheShortPulseAlone) {
     // Fo 0: G = 0.13 everywhere, and the image takes away what the pipe adds.
-    const GroundResistances r = averageGroundResistance({{0, 0}, {0, 12}}, outside, day, {1.3, 0});
+    const GroundResistances r =
+        averageGroundResistance({{{0, 0}, {0, 12}}, outside, day, {1.3, 0}});
     EXPECT_EQ(r, (GroundResistances{0, 0, 0}));
 }
 
 TEST(TrenchResistance, WithoutConductivityOrPipesIsADivisionByZero) {
-    expectError(11, [] { averageGroundResistance({{0, 0}, {0, 12}}, outside, day, {0, 0.75}); });
-    expectError(11, [] { averageGroundResistance({}, outside, day, soil); });
+    expectError(11, [] { averageGroundResistance({{{0, 0}, {0, 12}}, outside, day, {0, 0.75}}); });
+    expectError(11, [] { averageGroundResistance({{}, outside, day, soil}); });
 }
 
 }  // namespace

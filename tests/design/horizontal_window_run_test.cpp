@@ -84,7 +84,7 @@ TEST_F(HorizontalRuns, WithoutLoadsSaySoAndDropTheTower) {
     EXPECT_EQ(messages(), std::vector<std::string>{"[2814]"});
     EXPECT_EQ(platform.messages[0].icon, MessageIcon::information);
     EXPECT_EQ(value("hybridPercent"), 0);
-    EXPECT_EQ(captionOf("CAPercentHybridLabel(0)"), "0 %");
+    EXPECT_EQ(captionOf("CAPercentHybridLabel(0)"), "0 [2150]");
     EXPECT_EQ(value("requiredLength(0)"), 0);
 }
 

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/named_controls.h"
+
 namespace varnholt {
 namespace {
 
@@ -27,6 +29,11 @@ TEST_F(HorizontalDesign, TakesASlotOfItsOwnKindAndGivesItBack) {
     EXPECT_TRUE(main.slots(DesignKind::horizontal).exists[1]);
     main.close(*design);
     EXPECT_FALSE(main.slots(DesignKind::horizontal).exists[1]);
+}
+
+TEST_F(HorizontalDesign, HasANameForWhateverAPersonChanges) {
+    texts.known[1101] = "";
+    EXPECT_EQ(namelessControls(*design), "NoticeCommand\n");  // named while there is work for it
 }
 
 TEST_F(HorizontalDesign, StartsStaleWithItsBuiltInValues) {
@@ -62,12 +69,13 @@ TEST_F(HorizontalDesign, RestartsTheCountAtOneRowWithAnotherArrangement) {
     choose(2);
     EXPECT_EQ(value("pipesPerTrench"), 3);
     EXPECT_EQ(captionOf("PAInTrenchConfigurationLabel(3)"), "3");
+    EXPECT_TRUE(messages().empty());  // though three columns are wider than the trench
     setPipes(9);
+    EXPECT_EQ(messages(), widened);
     choose(2);
     EXPECT_EQ(value("pipesPerTrench"), 9);  // the same one does not
     choose(4);
     EXPECT_EQ(value("pipesPerTrench"), 1);
-    EXPECT_TRUE(messages().empty());
 }
 
 TEST_F(HorizontalDesign, CountsPipesByWholeRowsUpToTwentyFour) {

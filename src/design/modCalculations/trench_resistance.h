@@ -4,9 +4,30 @@
 #include <vector>
 
 #include "design/modCalculations/ground_resistance.h"
+#include "design/modCalculations/heat_pulses.h"
 #include "design/modCalculations/trench_layout.h"
 
 namespace varnholt::modCalculations {
+
+/// What the resistances of the ground around the pipes of a trench come from.
+struct TrenchGround {
+    std::vector<PipePosition> nodes;  ///< pipes and images by turns, as buildPipePositions gives
+    double outside = 0;               ///< diameter of the pipe, in
+    PulseTimes pulses{};
+    Soil soil;
+
+    friend bool operator==(const TrenchGround&, const TrenchGround&) = default;
+};
+
+/// From node to node, ft; a node lies at the pipe's radius from itself.
+/// Throws RunTimeError 9 for no node, as do the next two.
+double pipeDistance(const TrenchGround& ground, int from, int to);
+
+/// What one node feels of another, whatever its sign in the sum, hr ft degF/Btu.
+GroundResistances pairResistance(const TrenchGround& ground, int from, int to);
+
+/// What a node feels of all pipes, less what it feels of all images, hr ft degF/Btu.
+GroundResistances pipeResistanceSum(const TrenchGround& ground, int node);
 
 /// Effective thermal resistances of the ground around the pipes of a trench, for the three heat
 /// pulses: the mean over the pipes of what each feels of itself and of all others, less what it
@@ -18,11 +39,8 @@ namespace varnholt::modCalculations {
 /// its own radius from itself; pipes in one place, at a distance of 0, have a Fourier number
 /// of 1.0E+9.
 ///
-/// @param nodes    pipes and images by turns, as buildPipePositions gives them
-/// @param outside  outside diameter of the pipe, in
 /// @return hr ft degF/Btu; a shallow pipe's may be negative
 /// Throws RunTimeError 11 with a conductivity of 0 or without pipes.
-GroundResistances averageGroundResistance(const std::vector<PipePosition>& nodes, double outside,
-                                          const PulseTimes& pulses, const Soil& soil);
+GroundResistances averageGroundResistance(const TrenchGround& ground);
 
 }  // namespace varnholt::modCalculations
