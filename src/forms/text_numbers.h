@@ -178,6 +178,7 @@ constexpr int nextWindow = 1356;
 constexpr int noWindows = 1357;
 constexpr int startPageTitle = 1358;
 constexpr int startPageBorehole = 1359;
+constexpr int startPageHorizontal = 1370;
 constexpr int startPageSurfaceWater = 1371;
 constexpr int startPageZones = 1360;
 constexpr int startPageOpen = 1361;

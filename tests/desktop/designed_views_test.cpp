@@ -58,6 +58,10 @@ TEST_F(DesignedViews, OfABoreholeDesignIsWalkedInTheOrderOfItsForm) {
     expectReadingOrder("NewBorehole");
 }
 
+TEST_F(DesignedViews, OfAHorizontalDesignIsWalkedInTheOrderOfItsForm) {
+    expectReadingOrder("NewHorizontal");
+}
+
 TEST_F(DesignedViews, OfASurfaceWaterDesignIsWalkedInTheOrderOfItsForm) {
     expectReadingOrder("NewSurfaceWater");
 }
@@ -71,7 +75,8 @@ TEST_F(DesignedViews, OfTheAverageBlockIsWalkedInTheOrderOfItsForm) {
 }
 
 TEST_F(DesignedViews, LeaveNoControlOut) {
-    for (const char* command : {"NewBorehole", "NewSurfaceWater", "mnuZoneManage", "mnuAvgBlock"}) {
+    for (const char* command :
+         {"NewBorehole", "NewHorizontal", "NewSurfaceWater", "mnuZoneManage", "mnuAvgBlock"}) {
         ChildWindow& form = opened(command);
         FormWindow window(form, views.maker(), {});
         EXPECT_EQ(window.binder().unshown(), std::vector<std::string>{}) << form.formName();
@@ -143,6 +148,24 @@ TEST_F(DesignedViews, DrawTheBoreAsItIsTyped) {
     form.type("PIBoreholeDiameterText", "6.5");
     const auto* bore = static_cast<Drawing*>(window.binder().widget("imgBore"));
     EXPECT_TRUE(bore->description().contains(QStringLiteral("6.50 in")));
+}
+
+TEST_F(DesignedViews, DrawTheTrenchesAsTheyAreTyped) {
+    ChildWindow& form = opened("NewHorizontal");
+    form.choose("HZTabs", 4);
+    FormWindow window(form, views.maker(), {});
+    window.show();
+    form.type("PASeparationText(1)", "7");
+    const auto* section = static_cast<Drawing*>(window.binder().widget("PADiagramPicture(1)"));
+    EXPECT_TRUE(section->isVisible());
+    EXPECT_TRUE(section->description().contains(QStringLiteral("7.0 ft")));
+    form.click("PAConfigurationOption(4)");
+    EXPECT_FALSE(section->isVisible());
+    EXPECT_TRUE(window.binder().widget("PADiagramPicture(0)")->isVisible());
+    const auto* plan = static_cast<Drawing*>(window.binder().widget("imgConfiguration(4)"));
+    EXPECT_TRUE(plan->isVisible());
+    form.slide("PAConfigurationUpDown(0)", 9);
+    EXPECT_TRUE(plan->description().contains(QStringLiteral("Plan of 9 trenches")));
 }
 
 TEST_F(DesignedViews, DrawThePondsCircuitAsItIsTyped) {

@@ -11,6 +11,8 @@
 #include "desktop/drawings/ground_temp_chart.h"
 #include "desktop/drawings/loop_chart.h"
 #include "desktop/drawings/painted_drawing.h"
+#include "desktop/drawings/trench_picture.h"
+#include "desktop/drawings/trench_plan_picture.h"
 
 namespace varnholt {
 namespace {
@@ -68,6 +70,25 @@ Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts) 
             paintField(canvas, field, texts);
         },
         [&texts](const FieldPlan& field) { return describeField(field, texts); }, {380, 320});
+}
+
+Drawing* newTrenchDrawing(std::function<TrenchDrawing()> source, const Texts& texts) {
+    return new PaintedDrawing<TrenchDrawing>(
+        std::move(source),
+        [&texts](const Canvas& canvas, const TrenchDrawing& trench) {
+            paintTrench(canvas, trench, texts);
+        },
+        [&texts](const TrenchDrawing& trench) { return describeTrench(trench, texts); },
+        {380, 300});
+}
+
+Drawing* newTrenchPlanDrawing(std::function<TrenchPlan()> source, const Texts& texts) {
+    return new PaintedDrawing<TrenchPlan>(
+        std::move(source),
+        [&texts](const Canvas& canvas, const TrenchPlan& plan) {
+            paintTrenches(canvas, plan, texts);
+        },
+        [&texts](const TrenchPlan& plan) { return describeTrenches(plan, texts); }, {380, 190});
 }
 
 Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts,

@@ -9,6 +9,8 @@
 #include "design/field_plan.h"
 #include "design/ground_temp_curves.h"
 #include "design/loop_curves.h"
+#include "design/trench_drawing.h"
+#include "design/trench_plan.h"
 #include "desktop/drawings/chart_module.h"
 #include "desktop/drawings/drawing.h"
 #include "desktop/drawings/link_light.h"
@@ -22,6 +24,8 @@ namespace varnholt {
 
 Drawing* newBoreDrawing(std::function<BoreDrawing()> source, const Texts& texts);
 Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts);
+Drawing* newTrenchDrawing(std::function<TrenchDrawing()> source, const Texts& texts);
+Drawing* newTrenchPlanDrawing(std::function<TrenchPlan()> source, const Texts& texts);
 /// @param usual  its size where nothing else decides
 Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts,
                            const QSize& usual);

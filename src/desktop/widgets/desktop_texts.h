@@ -24,6 +24,7 @@ constexpr int nextWindowHint = 1366;
 constexpr int programFault = 1367;
 constexpr int toolbar = 1368;
 constexpr int noCharts = 1369;
+constexpr int emptyHorizontal = 1370;
 constexpr int emptySurfaceWater = 1371;
 
 }  // namespace varnholt::desktop_texts

@@ -87,6 +87,7 @@ StartPage::StartPage(const Varnmain& main, std::function<void(const std::string&
     title->setFont(font);
     card_->addWidget(title);
     card_->addWidget(line(main, "NewBorehole", "new-borehole", desktop_texts::emptyBorehole));
+    card_->addWidget(line(main, "NewHorizontal", "new-horizontal", desktop_texts::emptyHorizontal));
     card_->addWidget(
         line(main, "NewSurfaceWater", "new-surface-water", desktop_texts::emptySurfaceWater));
     card_->addWidget(line(main, "mnuZoneManage", "zones", desktop_texts::emptyZones));
