@@ -22,6 +22,8 @@ USES = {
     "gym": (42, 40, (0.65, 0.92, 1.00, 0.12), (1.00, 0.70, 0.60, 0.90), 6),
     "cafeteria": (60, 46, (0.86, 1.00, 0.35, 0.08), (1.00, 0.66, 0.52, 0.84), 5),
     "corridor": (16, 26, (0.80, 1.00, 0.70, 0.20), (1.00, 0.68, 0.66, 0.96), 5),
+    "living": (17, 20, (0.55, 0.90, 1.00, 0.45), (1.00, 0.70, 0.80, 0.95), 7),
+    "sleeping": (11, 17, (0.40, 0.70, 1.00, 0.60), (0.90, 0.60, 0.70, 1.00), 7),
     "entrance": (46, 52, (0.78, 1.00, 0.74, 0.15), (1.00, 0.70, 0.72, 0.92), 6),
 }
 
@@ -29,6 +31,12 @@ OFFICE = [
     ("Reception", "entrance", 420), ("Open office south", "office", 1150),
     ("Open office north", "office", 980), ("Meeting rooms", "meeting", 480),
     ("Directors", "office", 520), ("Staff room", "meeting", 360),
+]
+
+
+HOUSE = [
+    ("Living room", "living", 520), ("Kitchen", "living", 260), ("Study", "living", 180),
+    ("Bedrooms", "sleeping", 640), ("Hall and bath", "living", 300),
 ]
 
 
@@ -60,6 +68,8 @@ BUILDINGS = {
     "office": ("office.zon", 0, OFFICE, (1.00, 0.80), (1050, 620)),
     "school-south": ("school-south.zon", 0, school(), (1.12, 0.62), (1150, 380)),
     "school-north": ("school-north.zon", 0, school(), (0.74, 1.30), (420, 1350)),
+    "house": ("house.zon", 0, HOUSE, (1.00, 1.10), (700, 1500)),
+    "trench-office": ("trench-office.zon", 0, OFFICE, (0.95, 0.90), (900, 800)),
     "school-pond": ("school-pond.zon", 0, COUNTRY_SCHOOL, (0.90, 0.95), (700, 900)),
 }
 
@@ -68,6 +78,8 @@ BUILDINGS = {
 KINDS = {
     "borehole": ("frmBHDesign", "NewBorehole",
                  ("CATotalLengthLabel", "CABoreholeLengthLabel", "CASoilTempChangeLabel")),
+    "horizontal": ("frmHZDesign", "NewHorizontal",
+                   ("CATotalPipeLengthLabel", "CATrenchLengthLabel", "CASoilTempChangeLabel")),
     "surface water": ("frmSWDesign", "NewSurfaceWater",
                       ("CALoopLengthLabel", "CALoopNumberLabel", "CAApproachTempLabel",
                        "CATotalLossLabel")),
@@ -94,6 +106,27 @@ DESIGNS = {
         "PIBoreholeDiameterText": "140", "PIGroutConductivityText": "1.6", "PATimeText": "25",
         "FLFluidDensityText": "1020", "FLSpecificHeatText": "3.95",
         "EKWPumpPowerText(1)": "7.5"}, 0, "Metric"),
+    "house": ("horizontal", "Orchard house", "Columbus", {
+        "FLInletTempText(0)": "85", "FLInletTempText(1)": "30",
+        "FLFluidTypeCombo": "#1", "FLPercentAntifreezeText": "20",
+        "FLSpecificHeatText": "0.95", "FLFluidDensityText": "63.8",
+        "SOGroundTempText": "54", "SOThermalConductivityText": "0.9",
+        "SOThermalDiffusivityText": "0.6", "SOAirTempSwingText": "23",
+        "SODayText(0)": "205", "SODayText(1)": "25",
+        "PIPipeDiameterCombo": "#0", "PAConfigurationOption(3)": None,
+        "PASeparationText(3)": "4", "PASeparationText(0)": "12", "PASeparationText(1)": "5",
+        "PAInTrenchConfigurationText(0)": "18", "PASeparationText(2)": "36",
+        "PATimeText": "20", "EKWPumpPowerText(1)": "0.25"}, 0, "English"),
+    "trench-office": ("horizontal", "Mill Lane offices", "Richmond", {
+        "FLInletTempText(0)": "88", "FLInletTempText(1)": "40",
+        "SOGroundTempText": "59", "SOThermalConductivityText": "1.1",
+        "SOThermalDiffusivityText": "0.7", "SOAirTempSwingText": "20",
+        "SODayText(0)": "204", "SODayText(1)": "24",
+        "PIPipeDiameterCombo": "#1", "PAConfigurationOption(1)": None,
+        "PASeparationText(2)": "24", "PAConfigurationUpDown(1)": 4, "PAInTrenchConfigurationText(1)": "24",
+        "PAInTrenchConfigurationText(2)": "24",
+        "PASeparationText(3)": "8", "PASeparationText(0)": "14", "PASeparationText(1)": "6",
+        "PATimeText": "15", "EKWPumpPowerText(1)": "0.75"}, 0, "English"),
     "school-pond": ("surface water", "Millpond school", "Madison", {
         "FLInletTempText(0)": "86", "FLInletTempText(1)": "32",
         "FLFluidTypeCombo": "#1", "FLPercentAntifreezeText": "20",
@@ -119,9 +152,11 @@ DESIGNS = {
 
 
 def action_lines(control, what):
-    """A button is pressed, an entry chosen, anything else typed."""
+    """A button is pressed, an entry chosen, an up-down moved, anything else typed."""
     if what is None:
         return ["click " + control]
+    if "UpDown" in control:
+        return ["slide %s %d" % (control, what)]
     if "Combo" in control:
         return ["choose %s %s" % (control, what)]
     return ["type %s %s" % (control, what), "leave " + control]

@@ -78,7 +78,7 @@ Madison
 85
 Northfield Heat PumpsMeadow Single Stage
 school-pond.zon
-/tmp/waterout/pf/zones
+/srv/varnholt/zones
 16
 0
 630.9000000000001
