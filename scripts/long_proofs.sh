@@ -28,7 +28,7 @@ fuzz_examples() {
     case $1 in
         pump_list | series_file) echo resources/pumps tests/files ;;
         zone_file) echo tests/files examples ;;
-        project_file | surface_water_file) echo tests/files/projects examples ;;
+        project_file | horizontal_file | surface_water_file) echo tests/files/projects examples ;;
         script) echo tests/scripts -dict=fuzz/fuzz_script.dict ;;
     esac
 }
