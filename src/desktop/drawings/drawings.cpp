@@ -79,7 +79,7 @@ Drawing* newTrenchDrawing(std::function<TrenchDrawing()> source, const Texts& te
             paintTrench(canvas, trench, texts);
         },
         [&texts](const TrenchDrawing& trench) { return describeTrench(trench, texts); },
-        {380, 300});
+        {380, 260});
 }
 
 Drawing* newTrenchPlanDrawing(std::function<TrenchPlan()> source, const Texts& texts) {
@@ -88,7 +88,7 @@ Drawing* newTrenchPlanDrawing(std::function<TrenchPlan()> source, const Texts& t
         [&texts](const Canvas& canvas, const TrenchPlan& plan) {
             paintTrenches(canvas, plan, texts);
         },
-        [&texts](const TrenchPlan& plan) { return describeTrenches(plan, texts); }, {380, 190});
+        [&texts](const TrenchPlan& plan) { return describeTrenches(plan, texts); }, {380, 160});
 }
 
 Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts,

@@ -34,10 +34,10 @@ QWidget* resultsPage(Binder& bind) {
 QWidget* trenchSoilPage(Binder& bind) {
     Drawing* chart =
         newGroundTempChart(sourceOf(bind, &frmHZDesign::groundTempCurves), bind.form()->texts());
-    return column(
-        group(bind.frame("SOSoilFrame"),
-              column(groundTempPanel(bind), soilPropertiesPanel(bind), groundSwingPanel(bind)),
-              grow(bind.drawing("imgGroundTemp", chart))));
+    QWidget* fields =
+        column(groundTempPanel(bind), soilPropertiesPanel(bind), groundSwingPanel(bind));
+    return column(group(bind.frame("SOSoilFrame"),
+                        grow(row_(fields, gap(), grow(bind.drawing("imgGroundTemp", chart))))));
 }
 
 QWidget* trenchPipePage(Binder& bind) {
