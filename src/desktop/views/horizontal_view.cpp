@@ -52,6 +52,13 @@ QWidget* trenchFields(Binder& bind) {
                       bind.row("PASeparationText(2)")));
 }
 
+/// As wide as any number of pipes, so that the page does not move when it changes.
+QWidget* pipeCount(Binder& bind) {
+    QWidget* count = bind.widget("PAInTrenchConfigurationLabel(3)");
+    count->setMinimumWidth(count->fontMetrics().horizontalAdvance(QStringLiteral("000")));
+    return count;
+}
+
 /// The number of pipes stands where a slinky has its pitch.
 QWidget* pipeFields(Binder& bind) {
     return group(
@@ -60,8 +67,7 @@ QWidget* pipeFields(Binder& bind) {
                bind.widget("PAConfigurationOption(2)"), bind.widget("PAConfigurationOption(3)"),
                bind.widget("PAConfigurationOption(4)")),
         grid(bind.row("PAInTrenchConfigurationText(0)",
-                      {bind.widget("PAInTrenchConfigurationLabel(3)"),
-                       bind.widget("PAConfigurationUpDown(1)")}),
+                      {pipeCount(bind), bind.widget("PAConfigurationUpDown(1)")}),
              bind.row("PAInTrenchConfigurationText(1)"),
              bind.row("PAInTrenchConfigurationText(2)")),
         bind.widget("PAOffsetCheck"));
