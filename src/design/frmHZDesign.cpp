@@ -44,7 +44,7 @@ std::vector<int> frmHZDesign::pageCaptions() const {
             Text::configurationPage, Text::extraPowerPage, Text::informationPage};
 }
 
-std::vector<ResultRow> frmHZDesign::resultRows() const {
+std::vector<ResultRow> frmHZDesign::lengthRows() const {
     using Get = std::function<double(Mode)>;
     const auto length = [this](const char* label, UnitTexts caption, const Get& feet,
                                std::string_view format = "###0.0") {
@@ -59,7 +59,7 @@ std::vector<ResultRow> frmHZDesign::resultRows() const {
     const auto required = [this](Mode mode) { return results().requiredLength[mode]; };
     const auto pipe = [this](Mode mode) { return results().totalPipeLength[mode]; };
     using namespace modCalculations;
-    std::vector<ResultRow> rows{
+    return {
         length("CATotalPipeLengthLabel",
                {Text::totalPipeLengthEnglish, Text::totalPipeLengthMetric}, pipe, "####0.0"),
         length("CATotalLengthLabel",
@@ -74,6 +74,10 @@ std::vector<ResultRow> frmHZDesign::resultRows() const {
         length("CAPipeLengthPerTrenchLabel",
                {Text::pipeLengthPerTrenchEnglish, Text::pipeLengthPerTrenchMetric},
                [=](Mode mode) { return pipeLengthPerTrench(pipe(mode), trenches()); })};
+}
+
+std::vector<ResultRow> frmHZDesign::resultRows() const {
+    std::vector<ResultRow> rows = lengthRows();
     const auto rollUp = [this]() -> const LoadsRollUp& { return results(); };
     const auto inputs = [this] { return inputsOnShow().loads; };
     for (ResultRow& row : unitRows(*this, rollUp, inputs)) rows.push_back(std::move(row));

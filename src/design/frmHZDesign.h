@@ -53,6 +53,7 @@ class frmHZDesign : public TowerDesign<HorizontalKind> {
     std::vector<Notice> notices() override;
 
  private:
+    std::vector<ResultRow> lengthRows() const;
     std::vector<ResultRow> resultRows() const;
     void registerInputs();
     void registerResults();
