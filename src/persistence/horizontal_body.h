@@ -39,6 +39,7 @@ template <class File, class Project>
 void describeTrenchSite(File& file, Project& project) {
     auto& fluid = project.fluid;
     lineEach(file, project.conditions.flowRate, fluid.percentAntifreeze, fluid.fluidTypeIndex);
+    // Read as a whole line: a name that is typed may hold a comma.
     file.text(fluid.fluidName);
     lineEach(file, fluid.density, fluid.specificHeat);
     auto& soil = project.soil;

@@ -31,6 +31,25 @@ TEST_F(HorizontalDesign, TakesASlotOfItsOwnKindAndGivesItBack) {
     EXPECT_FALSE(main.slots(DesignKind::horizontal).exists[1]);
 }
 
+TEST_F(HorizontalDesign, SharesTheRunningNumberWithDesignsOfOtherKinds) {
+    main.click("NewBorehole");
+    EXPECT_EQ(main.activeWindow()->caption(), "[2001] #2");
+    main.click("NewSurfaceWater");
+    main.click("NewHorizontal");
+    EXPECT_EQ(main.activeWindow()->caption(), "[5001] #4");
+    EXPECT_TRUE(main.slots(DesignKind::horizontal).exists[2]);
+}
+
+TEST_F(HorizontalDesign, FollowsTheMainWindowsUnits) {
+    main.click("Metric");
+    EXPECT_TRUE(control("MetricCheck").checked());
+    EXPECT_EQ(textOf("PASeparationText(1)"), "1.8");
+    EXPECT_EQ(captionOf("CATotalPipeLengthLabel(2)"), "[5042]");
+    main.click("English");
+    EXPECT_EQ(textOf("PASeparationText(1)"), "6.0");
+    EXPECT_EQ(value("trenchGeometry(1)"), 6);
+}
+
 TEST_F(HorizontalDesign, HasANameForWhateverAPersonChanges) {
     texts.known[1101] = "";
     EXPECT_EQ(namelessControls(*design), "NoticeCommand\n");  // named while there is work for it
@@ -387,45 +406,6 @@ TEST_F(HorizontalDesign, TakesStepsBack) {
     EXPECT_EQ(value("trenchGeometry(2)"), 8);
     main.click("mnuRedo");
     EXPECT_TRUE(control("PAConfigurationOption(1)").checked());
-}
-
-TEST_F(HorizontalDesign, DrawsPipesWhereTheArithmeticHasThem) {
-    choose(1);
-    setPipes(4);
-    const TrenchDrawing drawing = design->trenchDrawing();
-    ASSERT_EQ(drawing.pipes.size(), 4u);
-    // Two columns 12 in apart around the middle; the lower row on the ground of 6 ft.
-    EXPECT_EQ(drawing.pipes[0].x, -6);
-    EXPECT_EQ(drawing.pipes[0].y, -72);
-    EXPECT_EQ(drawing.pipes[1].y, -60);
-    EXPECT_EQ(drawing.pipes[2].x, 6);
-    EXPECT_EQ(drawing.besideFirst, 2u);
-    EXPECT_EQ(drawing.widthLabel, "12.0 [5010]");
-    type("PASeparationText(1)", "5");
-    EXPECT_EQ(design->trenchDrawing().pipes[0].y, -60);
-}
-
-TEST_F(HorizontalDesign, DrawsACoilOnEdgeBelowTheDepth) {
-    choose(4);
-    const TrenchDrawing drawing = design->trenchDrawing();
-    EXPECT_EQ(drawing.coilMiddle, 90);  // 72 + 36/2 in
-    EXPECT_EQ(drawing.bottom, 108);
-    EXPECT_TRUE(drawing.fits);
-    choose(3);
-    EXPECT_FALSE(design->trenchDrawing().fits);  // 36 in over a trench of 8
-    EXPECT_EQ(design->trenchDrawing().coilMiddle, 72);
-}
-
-TEST_F(HorizontalDesign, DrawsAFewTrenchesOfMany) {
-    setTrenches(12);
-    choose(3);
-    const TrenchPlan plan = design->trenchPlan();
-    EXPECT_EQ(plan.drawn, largestTrenchPlan);
-    EXPECT_EQ(plan.trenches, 12);
-    EXPECT_TRUE(plan.isCoil());
-    EXPECT_EQ(plan.coilDiameter, 3);
-    choose(2);
-    EXPECT_EQ(design->trenchPlan().columns, 3);
 }
 
 }  // namespace
