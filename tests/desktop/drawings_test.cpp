@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "design/modCalculations/trench_layout.h"
 #include "drawing_samples.h"
 
 namespace varnholt {
