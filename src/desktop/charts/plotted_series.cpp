@@ -36,6 +36,7 @@ QAbstractSeries* newSeries(Sign sign, Mode mode) {
             return newMarks(QScatterSeries::MarkerShapeRotatedRectangle, 12);
         case Sign::line:
         case Sign::steps:
+        case Sign::neutral:
             break;
     }
     return new QLineSeries;
@@ -75,6 +76,9 @@ void PlottedSeries::dress(const Look& look) {
             break;
         case Sign::steps:
             points->setPen(QPen(colour, 2, style, Qt::FlatCap, Qt::MiterJoin));
+            break;
+        case Sign::neutral:
+            points->setPen(QPen(look.muted, 2));
             break;
         case Sign::measured:
             points->setBrush(look.surface);

@@ -2,7 +2,6 @@
 #include "desktop/drawings/chart_drawing.h"
 
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <utility>
 
@@ -11,7 +10,8 @@
 
 namespace varnholt {
 
-ChartDrawing::ChartDrawing(const Texts& texts, ChartModuleFinder charts)
+ChartDrawing::ChartDrawing(const Texts& texts, ChartModuleFinder charts,
+                           QBoxLayout::Direction direction)
     : texts_(texts),
       module_(std::move(charts)),
       legend_(new LegendRow(this)),
@@ -26,7 +26,7 @@ ChartDrawing::ChartDrawing(const Texts& texts, ChartModuleFinder charts)
     hint_->setAlignment(Qt::AlignCenter);
     hint_->setWordWrap(true);
     hint_->setTextFormat(Qt::PlainText);
-    auto* row = new QHBoxLayout(plots_);
+    auto* row = new QBoxLayout(direction, plots_);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(gridStep);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -40,7 +40,7 @@ void ChartDrawing::create() {
     if (module == nullptr) return;
     for (std::size_t i = 0; i < pictures().size(); ++i) {
         charts_.push_back(module->newChart(plots_));
-        static_cast<QHBoxLayout*>(plots_->layout())->addWidget(charts_.back()->widget(), 1);
+        static_cast<QBoxLayout*>(plots_->layout())->addWidget(charts_.back()->widget(), 1);
     }
     dress();
 }
