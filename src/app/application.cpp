@@ -6,12 +6,14 @@
 #include "loads/install.h"
 #include "loads/links.h"
 #include "persistence/project_commands.h"
+#include "tools/install.h"
 
 namespace varnholt {
 
 Application::Application(Platform& platform, const Setup& setup) {
     language_.LoadSatellite(joinPath(setup.resourceFolder, "language"), setup.localeNumber);
     main_ = std::make_unique<Varnmain>(platform, language_, setup.programFolder);
+    installTools(*main_);
     installLoads(*main_);
     installLinks(*main_);
     installDesign(*main_);

@@ -125,6 +125,11 @@ bool Form::takesKeys(const std::string& control) const {
     return found != handlers_.end() && found->second.key != nullptr;
 }
 
+bool Form::takesClicks(const std::string& control) const {
+    const auto found = handlers_.find(control);
+    return found != handlers_.end() && found->second.click != nullptr;
+}
+
 Form::Handlers& Form::handlersOf(const std::string& control) {
     this->control(control);
     return handlers_[control];

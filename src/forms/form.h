@@ -96,6 +96,8 @@ class Form {
     const std::string& visitedField() const { return visited_; }
     /// Whether keys in the control have a meaning of their own.
     bool takesKeys(const std::string& control) const;
+    /// Whether clicks on the control have a meaning.
+    bool takesClicks(const std::string& control) const;
 
     const Values& values() const { return values_; }
     NumericFields& fields() { return fields_; }

@@ -38,6 +38,8 @@ class ChildWindow : public Form {
     /// Puts `MetricCheck` to the value and runs MetricCheck_Click when that changes it.
     void switchUnits(UnitSystem units);
     virtual void MetricCheck_Click() {}
+    /// Other windows have been opened or closed, or another one is active.
+    virtual void windowsChanged() {}
 
     /// Fields are being rewritten by code: text changes must not be treated as the user's.
     bool settingUnits = false;
@@ -77,6 +79,10 @@ class ChildWindow : public Form {
 
  protected:
     friend class DocumentStep;
+
+    /// To be called by load: the window starts in the units of the Units menu, which works it from
+    /// now on.
+    void startInUnitsOfMenu();
 
     /// Puts an earlier state back and shows it.
     virtual void restore(const DocumentState&) {}

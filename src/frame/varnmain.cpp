@@ -171,6 +171,11 @@ void Varnmain::activate(ChildWindow& window) {
         show(MessageIcon::exclamation, error.message());
     }
     refreshCommands();
+    tellWindows();
+}
+
+void Varnmain::tellWindows() const {
+    for (ChildWindow* window : windows()) window->windowsChanged();
 }
 
 void Varnmain::setActive(ChildWindow* window) {
@@ -194,6 +199,7 @@ bool Varnmain::close(ChildWindow& window) {
         if (!activationOrder_.empty()) activate(*activationOrder_.back());
     }
     refreshCommands();
+    tellWindows();
     return true;
 }
 
@@ -251,6 +257,12 @@ ChildWindow* Varnmain::find(const std::string& formName) const {
     if (active_ != nullptr && active_->formName() == formName) return active_;
     const std::vector<ChildWindow*> named = windowsNamed(formName);
     return named.empty() ? nullptr : named.back();
+}
+
+ChildWindow* Varnmain::lastActive(const std::function<bool(const ChildWindow&)>& condition) const {
+    for (auto window = activationOrder_.rbegin(); window != activationOrder_.rend(); ++window)
+        if (condition(**window)) return *window;
+    return nullptr;
 }
 
 int Varnmain::numberOf(const Form& window) const {

@@ -50,6 +50,8 @@ class Varnmain : public Form {
     std::vector<ChildWindow*> windowsNamed(const std::string& formName) const;
     /// The window of that name which is active, or else the one opened last; null for none.
     ChildWindow* find(const std::string& formName) const;
+    /// Of the windows that the condition holds for, the one that was active last; null for none.
+    ChildWindow* lastActive(const std::function<bool(const ChildWindow&)>& condition) const;
     /// Number of an open window among those of its name, from 1 in order of opening.
     int numberOf(const Form& window) const;
     bool isOpen(const Form* window) const;
@@ -146,6 +148,7 @@ class Varnmain : public Form {
     void reassignSlot(DesignKind kind, std::size_t from, std::size_t to);
     void setActive(ChildWindow* window);
     void takeAway(ChildWindow& window);
+    void tellWindows() const;
     void refreshUndo();
     ChildWindow& nextToClose() const;
 

@@ -111,8 +111,12 @@ void ScriptCommands::key(std::string& rest) {
 }
 
 void ScriptCommands::click(std::string& rest) {
-    const Target target = workable(rest, {Kind::button, Kind::option, Kind::menu, Kind::check});
+    const Target target =
+        workable(rest, {Kind::button, Kind::option, Kind::menu, Kind::check, Kind::label});
     requireEnd(rest);
+    if (target.control.kind() == Kind::label && !target.form.takesClicks(target.control.name()))
+        throw ScriptFault(
+            fmt::format("{} is a label and cannot be worked in this way", target.control.name()));
     if (target.control.kind() == Kind::menu && target.control.caption().empty())
         throw ScriptFault(fmt::format("{} is a line between entries", target.control.name()));
     driver_.click(target.form, target.control);
