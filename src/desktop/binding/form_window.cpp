@@ -15,6 +15,8 @@ QIcon iconOf(const std::string& formName) {
         {"frmBHDesign", "new-borehole"},      {"frmHZDesign", "new-horizontal"},
         {"frmSWDesign", "new-surface-water"}, {"frmZoneManage", "zones"},
         {"frmAvgBlock", "average-block"},     {"frmHPEdit", "heat-pump"},
+        {"frmDiffusivityCalc", "calculator"}, {"frmPumpPowerCalc", "calculator"},
+        {"frmEqvHoursCalc", "calculator"},    {"frmImport1", "import"},
     };
     const auto found = icons.find(formName);
     return houseIcon(QString::fromLatin1(found == icons.end() ? "window" : found->second));

@@ -12,6 +12,12 @@ void registerViews(ViewRegistry& views) {
     views.registerView("frmZoneManage", makeZoneManagerView);
     views.registerView("frmAvgBlock", makeAverageBlockView);
     views.registerView("frmLinkOptions", makeLinkOptionsView);
+    views.registerView("frmImport1", makeImporterView);
+    views.registerView("frmImportTable", makeImportTableView);
+    views.registerView("frmTransferOptions", makeTransferOptionsView);
+    views.registerView("frmDiffusivityCalc", makeDiffusivityView);
+    views.registerView("frmPumpPowerCalc", makePumpPowerView);
+    views.registerView("frmEqvHoursCalc", makeEqvHoursView);
 }
 
 }  // namespace varnholt

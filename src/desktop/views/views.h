@@ -15,5 +15,11 @@ QWidget* makeSurfaceWaterView(Binder& bind);
 QWidget* makeZoneManagerView(Binder& bind);
 QWidget* makeAverageBlockView(Binder& bind);
 QWidget* makeLinkOptionsView(Binder& bind);
+QWidget* makeImporterView(Binder& bind);
+QWidget* makeImportTableView(Binder& bind);
+QWidget* makeTransferOptionsView(Binder& bind);
+QWidget* makeDiffusivityView(Binder& bind);
+QWidget* makePumpPowerView(Binder& bind);
+QWidget* makeEqvHoursView(Binder& bind);
 
 }  // namespace varnholt
