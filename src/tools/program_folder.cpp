@@ -22,7 +22,8 @@ void copyFiles(const std::string& from, const std::string& to, const std::string
 
 void fill(const std::string& folder, const InstalledFiles& from) {
     copyFiles(from.examples, joinPath(folder, "work files"), ".vht");
-    copyFiles(from.examples, joinPath(folder, "zones"), ".zon");
+    for (const char* extension : {".zon", ".gt1", ".gth", ".csv"})
+        copyFiles(from.examples, joinPath(folder, "zones"), extension);
     copyFiles(joinPath(from.resources, "pumps"), joinPath(folder, "pumps"));
     copyFiles(joinPath(from.resources, "help"), joinPath(folder, "OnlineHelp"));
     makeFolders(joinPath(folder, "Data"));

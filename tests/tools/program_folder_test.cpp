@@ -22,6 +22,8 @@ class ProgramFolder : public testing::Test {
         scratch.write("from/help/index.html", "help");
         scratch.write("from/examples/office.zon", "zones");
         scratch.write("from/examples/office.vht", "project");
+        scratch.write("from/examples/school.gt1", "months");
+        scratch.write("from/examples/office.csv", "hours");
         scratch.write("from/examples/tour.vscript", "script");
     }
     std::string folder(const std::string& name) const {
@@ -38,6 +40,8 @@ TEST_F(ProgramFolder, IsFilledOnTheFirstStart) {
     EXPECT_EQ(readWholeFile(folder("OnlineHelp/index.html")), "help");
     EXPECT_EQ(readWholeFile(folder("zones/office.zon")), "zones");
     EXPECT_EQ(readWholeFile(folder("work files/office.vht")), "project");
+    EXPECT_EQ(readWholeFile(folder("zones/school.gt1")), "months");
+    EXPECT_EQ(readWholeFile(folder("zones/office.csv")), "hours");
     EXPECT_TRUE(fs::is_directory(folder("Data")));
     EXPECT_FALSE(fs::exists(folder("zones/tour.vscript")));
 }
