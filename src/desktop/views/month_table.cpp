@@ -17,11 +17,6 @@ constexpr int headRow = 0, unitRow = 1, firstMonthRow = 2;
 constexpr int totalRow = firstMonthRow + static_cast<int>(monthsOfYear);
 constexpr int cellWidth = 104;
 
-std::string nameOf(const frmImport1::Cell& cell) {
-    return elementName(cell.column == frmImport1::Column::total ? "lblTotal" : "lblPeak",
-                       cell.month);
-}
-
 }  // namespace
 
 MonthTable::MonthTable(Binder& bind)
@@ -32,9 +27,11 @@ MonthTable::MonthTable(Binder& bind)
     addHeads();
     addMonths();
     addYear();
-    field_->setParent(this);
-    static_cast<QLineEdit*>(field_)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    constexpr int figures = 9;
+    static_cast<FieldEdit*>(field_)->setFigures(figures);
+    field_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     field_->setFont(figureFont(field_->font()));
+    placeField();
     bind_.onSettled([this] { placeField(); });
 }
 
@@ -82,21 +79,21 @@ void MonthTable::addYear() {
     grid_->setRowStretch(totalRow + 2, 1);
 }
 
+/// The field shares the cell of the layout with the label that it stands over.
 void MonthTable::placeField() {
     const auto* form = static_cast<const frmImport1*>(bind_.form());
     if (form == nullptr) return;
-    const BoundControl* cell = bind_.find(nameOf(form->cell()));
-    if (cell == nullptr) return;
     dressField();
-    field_->setGeometry(cell->widget()->geometry());
+    const frmImport1::Cell& cell = form->cell();
+    const int row = firstMonthRow + static_cast<int>(cell.month);
+    const int column = cell.column == frmImport1::Column::total ? 1 : 2;
+    if (row == row_ && column == column_) return;
+    row_ = row;
+    column_ = column;
+    grid_->removeWidget(field_);
+    grid_->addWidget(field_, row, column);
     field_->raise();
-    const auto* month = static_cast<const QLabel*>(
-        bind_.find(elementName("lblEqvHours", form->cell().month))->widget());
-    const auto* head = static_cast<const QLabel*>(
-        bind_
-            .find(form->cell().column == frmImport1::Column::total ? "lblTitle(1)" : "lblTitle(2)")
-            ->widget());
-    field_->setAccessibleName(month->text() + QStringLiteral(", ") + head->text());
+    field_->setAccessibleName(qt(form->control("txtImport1").accessibleName()));
 }
 
 /// The field has the colour of the cells, which the house's style of fields would cover.
@@ -108,13 +105,11 @@ void MonthTable::dressField() {
             "QLineEdit { background: %1; border: 2px solid %2; border-radius: 2px; "
             "padding: 0 3px; min-height: 0; }")
             .arg(back.name(), look.accent.name());
-    if (field_->styleSheet() != style) field_->setStyleSheet(style);
-}
-
-void MonthTable::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    grid_->activate();
-    placeField();
+    if (field_->styleSheet() == style) return;
+    field_->setStyleSheet(style);
+    // So that no row grows when the field comes.
+    for (int row = firstMonthRow; row < totalRow; ++row)
+        grid_->setRowMinimumHeight(row, field_->minimumSizeHint().height());
 }
 
 void MonthTable::changeEvent(QEvent* event) {

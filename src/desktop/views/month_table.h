@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <string>
 
 class QGridLayout;
 class QLabel;
@@ -17,7 +18,6 @@ class MonthTable : public QWidget {
     explicit MonthTable(Binder& bind);
 
  protected:
-    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
  private:
@@ -31,6 +31,7 @@ class MonthTable : public QWidget {
     Binder& bind_;
     QGridLayout* grid_;
     QWidget* field_;
+    int row_ = 0, column_ = 0;  ///< of the field
 };
 
 }  // namespace varnholt

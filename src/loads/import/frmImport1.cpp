@@ -187,8 +187,11 @@ void frmImport1::showFactors() {
 /// The field shows its cell, unless the user is writing in it.
 void frmImport1::showField() {
     if (typing_) return;
-    const char* column = cell_.column == Column::total ? "lblTotal" : "lblPeak";
-    control("txtImport1").setText(control(elementName(column, cell_.month)).caption());
+    const bool total = cell_.column == Column::total;
+    control("txtImport1")
+        .setText(control(elementName(total ? "lblTotal" : "lblPeak", cell_.month)).caption())
+        .setAccessibleName(control(elementName("lblEqvHours", cell_.month)).caption() + ", " +
+                           element("lblTitle", total ? 1 : 2).caption());
 }
 
 MonthsChart frmImport1::monthsChart() const {
