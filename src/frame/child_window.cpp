@@ -130,6 +130,11 @@ void ChildWindow::goTo(const DocumentState& wanted) {
     refreshNotice();
 }
 
+void ChildWindow::endVisitOfField() {
+    endVisit();
+    history_.endVisit();
+}
+
 Notice ChildWindow::refusedNotice(const RefusedValue& refused) const {
     const int words = refused.tooLarge          ? Text::noticeValueTooLarge
                       : refused.lowestIsRefused ? Text::noticeValueNotAbove

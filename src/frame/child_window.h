@@ -97,6 +97,9 @@ class ChildWindow : public Form {
     virtual void takeForeignChanges() {}
     /// A step has been recorded, by whatever window's action.
     virtual void stepRecorded() {}
+    /// The visit of a field ends though the keyboard stays in it: what is typed next is a step of
+    /// its own.
+    void endVisitOfField();
     /// Adds `NoticeLabel` and `NoticeCommand`, which show while there is something to tell.
     void addNotice();
     /// The document has been saved as it stands.

@@ -32,8 +32,8 @@ double ofMonths(const ImportedLoads& loads, Months MonthlyLoads::*member,
 
 }  // namespace
 
-frmImport1::frmImport1(Varnmain& main, std::shared_ptr<ImportedLoads> kept)
-    : ChildWindow("frmImport1", main), loads_(std::move(kept)) {
+frmImport1::frmImport1(Varnmain& main, std::shared_ptr<KeptImport> kept)
+    : ChildWindow("frmImport1", main), kept_(std::move(kept)) {
     main.frmImport1Exists = true;
     setCaption(text(Text::importTitle));
     registerValues();
@@ -46,12 +46,12 @@ void frmImport1::registerValues() {
     Values& values = publicValues();
     const auto months = [&](const char* name, Months MonthlyLoads::*member) {
         values.add(name, 2, [this, member](const Values::Indices& i) {
-            return PublicValue(ofMonths(*loads_, member, i));
+            return PublicValue(ofMonths(loads_, member, i));
         });
     };
     const auto year = [&](const char* name, double MonthlyLoads::*member) {
         values.add(name, 1, [this, member](const Values::Indices& i) {
-            return PublicValue(at(loads_->years, i[0]).*member);
+            return PublicValue(at(loads_.years, i[0]).*member);
         });
     };
     months("totalLoads", &MonthlyLoads::totalLoads);
@@ -59,8 +59,8 @@ void frmImport1::registerValues() {
     year("yearTotal", &MonthlyLoads::yearTotal);
     year("peakMax", &MonthlyLoads::peakMax);
     year("eqvHours", &MonthlyLoads::eqvHours);
-    values.add("importfileName", &loads_->importfileName);
-    values.add("fileType", &loads_->fileType);
+    values.add("importfileName", &loads_.importfileName);
+    values.add("fileType", &loads_.fileType);
 }
 
 void frmImport1::load() {
@@ -77,7 +77,7 @@ void frmImport1::MetricCheck_Click() {
     showAll();
 }
 
-StatePointer frmImport1::state() const { return std::make_shared<StateOf<ImportedLoads>>(*loads_); }
+StatePointer frmImport1::state() const { return std::make_shared<StateOf<ImportedLoads>>(loads_); }
 
 void frmImport1::restore(const DocumentState& earlier) {
     const ImportedLoads& wanted = static_cast<const StateOf<ImportedLoads>&>(earlier).value;
@@ -90,8 +90,8 @@ void frmImport1::actionEnds(const UserAction& action) {
 }
 
 void frmImport1::Import1_Click(const std::string& fileName, std::int16_t fileType) {
-    loads_->importfileName = fileName;
-    loads_->fileType = fileType;
+    loads_.importfileName = fileName;
+    loads_.fileType = fileType;
     showAll();
 }
 
@@ -104,10 +104,10 @@ void frmImport1::TransferValuesToImport1(const ByMode<MonthlyLoads>& years) {
 }
 
 void frmImport1::change(const std::function<void(ImportedLoads&)>& edit) {
-    const ByMode<MonthlyLoads> before = loads_->years;
-    edit(*loads_);
+    const ByMode<MonthlyLoads> before = loads_.years;
+    edit(loads_);
     for (const Mode m : modes)
-        if (!(loads_->years[m] == before[m])) lookedAt_[m] = false;
+        if (!(loads_.years[m] == before[m])) lookedAt_[m] = false;
     showAll();
 }
 
@@ -142,9 +142,9 @@ void frmImport1::showMode() {
     control("lblHours").setBackcolor(own.values);
     control("txtImport1").setBackcolor(own.values);
     for (const Mode m : modes) control(elementName("cmdCoolHeat", m)).setChecked(m == mode_);
-    const std::string& name = loads_->importfileName;
+    const std::string& name = loads_.importfileName;
     element("lblTitle", 9).setCaption(name.empty() ? " " : name);
-    const auto type = static_cast<SimulationFileType>(loads_->fileType);
+    const auto type = static_cast<SimulationFileType>(loads_.fileType);
     element("lblTitle", 10)
         .setCaption(type == SimulationFileType::systemAnalyzer ? text(Text::systemAnalyzer)
                     : type == SimulationFileType::trane700     ? text(Text::trane700)

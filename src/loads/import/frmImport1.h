@@ -16,6 +16,13 @@ namespace varnholt {
 class ZoneWindow;
 class frmEqvHoursCalc;
 
+/// What the importer leaves behind when its window goes.
+struct KeptImport {
+    ImportedLoads loads;
+    /// The mode was on screen since its values changed last.
+    ByMode<bool> lookedAt{true, true};
+};
+
 /// The importer: twelve months of energy and peak loads of both modes, from a simulation file, a
 /// table, the clipboard or the keyboard, and their way into zones or into the hours calculator.
 ///
@@ -31,7 +38,7 @@ class frmImport1 : public ChildWindow {
     };
 
     /// @param kept what the window shows and leaves behind
-    frmImport1(Varnmain& main, std::shared_ptr<ImportedLoads> kept);
+    frmImport1(Varnmain& main, std::shared_ptr<KeptImport> kept);
 
     void load() override;
     void unloaded() override;
@@ -45,7 +52,7 @@ class frmImport1 : public ChildWindow {
     /// Takes the years as another reader has found them, the year's figures included.
     void TransferValuesToImport1(const ByMode<MonthlyLoads>& years);
 
-    const ImportedLoads& loads() const { return *loads_; }
+    const ImportedLoads& loads() const { return loads_; }
     Mode mode() const { return mode_; }
     const Cell& cell() const { return cell_; }
     MonthsChart monthsChart() const;
@@ -77,8 +84,7 @@ class frmImport1 : public ChildWindow {
     void showField();
     std::string shownTotal(double total) const;
     std::string shownPeak(double peak) const;
-    const MonthlyLoads& shownYear() const { return loads_->years[mode_]; }
-    const std::string& generator() const;
+    const MonthlyLoads& shownYear() const { return loads_.years[mode_]; }
 
     /// Changes what is held, notes what was not looked at since, and shows it.
     void change(const std::function<void(ImportedLoads&)>& edit);
@@ -103,13 +109,13 @@ class frmImport1 : public ChildWindow {
     void TransferValuesFromImport1ToLoadsModule(ZoneWindow& window);
     void TransferValuesFromImport1ToCalc(frmEqvHoursCalc& calculator, Mode mode);
 
-    std::shared_ptr<ImportedLoads> loads_;
+    std::shared_ptr<KeptImport> kept_;
+    ImportedLoads& loads_ = kept_->loads;
+    ByMode<bool>& lookedAt_ = kept_->lookedAt;
     Mode mode_ = cooling;
     Cell cell_;
     /// The field's text is the user's, and stays while its value is taken over.
     bool typing_ = false;
-    /// The mode was on screen since its values changed last.
-    ByMode<bool> lookedAt_{true, true};
 };
 
 /// Registers the command that opens the importer.

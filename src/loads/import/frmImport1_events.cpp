@@ -67,7 +67,7 @@ void frmImport1::hookTable() {
 }
 
 void frmImport1::place(const Cell& cell) {
-    endVisit();
+    endVisitOfField();
     cell_ = cell;
     showField();
     control("txtImport1").takeFocus();
@@ -179,7 +179,7 @@ void frmImport1::showTransfer() {
     }
     control("lblTransferTarget").setCaption(std::move(words));
     control("cmdImport(4)").setEnabled(target != nullptr);
-    const bool hours = loads_->peakDays.has_value();
+    const bool hours = loads_.peakDays.has_value();
     element("optDesignDay", 1).setEnabled(hours);
     if (!hours) {
         element("optDesignDay", 0).setChecked(true);
@@ -189,18 +189,18 @@ void frmImport1::showTransfer() {
 }
 
 bool frmImport1::fromHours() const {
-    return loads_->peakDays && control("optDesignDay(1)").checked();
+    return loads_.peakDays && control("optDesignDay(1)").checked();
 }
 
 DayLoads frmImport1::dayOf(Mode mode) const {
-    if (fromHours()) return (*loads_->peakDays)[mode];
-    return designDay(loads_->years[mode].peakMax / btuPerMBtu,
+    if (fromHours()) return (*loads_.peakDays)[mode];
+    return designDay(loads_.years[mode].peakMax / btuPerMBtu,
                      limitedLoadFactor(main().import1TransferPLFm[mode]), peakBlockOf(mode));
 }
 
 double frmImport1::hoursOf(Mode mode) const {
-    const MonthlyLoads& year = loads_->years[mode];
-    return fromHours() ? hoursOfDay((*loads_->peakDays)[mode], year.yearTotal) : year.eqvHours;
+    const MonthlyLoads& year = loads_.years[mode];
+    return fromHours() ? hoursOfDay((*loads_.peakDays)[mode], year.yearTotal) : year.eqvHours;
 }
 
 void frmImport1::cmdModify_Click() {
@@ -224,13 +224,13 @@ void frmImport1::TransferValuesFromImport1ToLoadsModule(ZoneWindow& window) {
 }
 
 void frmImport1::TransferValuesFromImport1ToCalc(frmEqvHoursCalc& calculator, Mode mode) {
-    const MonthlyLoads& year = loads_->years[mode];
+    const MonthlyLoads& year = loads_.years[mode];
     calculator.TransferValuesFromImport1ToCalc(year.totalLoads, year.peakMax / btuPerMBtu,
                                                year.eqvHours);
 }
 
 void installImporter(Varnmain& main) {
-    const auto kept = std::make_shared<ImportedLoads>();
+    const auto kept = std::make_shared<KeptImport>();
     main.setCommand("mnuMonthlyLoadsImport", CommandNeeds::nothing, [&main, kept] {
         ChildWindow* open = main.find("frmImport1");
         if (open == nullptr) {

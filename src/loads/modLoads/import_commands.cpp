@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What comes into the zones from outside: simulation files, the importer, the hours calculator.
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -28,10 +29,12 @@ void ZoneWindow::changeSelectedZones(const std::function<void(Zone&)>& change) {
 }
 
 std::string ZoneWindow::selectedZoneNames() const {
+    constexpr std::size_t mostNames = 4;
+    const std::vector<int>& rows = control("LOZoneList").selected();
     std::string names;
-    for (const int row : control("LOZoneList").selected())
-        names += (names.empty() ? "" : ", ") + ZoneList()[static_cast<std::size_t>(row)].name;
-    return names;
+    for (std::size_t i = 0; i < std::min(rows.size(), mostNames); ++i)
+        names += (names.empty() ? "" : ", ") + ZoneList()[static_cast<std::size_t>(rows[i])].name;
+    return rows.size() > mostNames ? names + ", ..." : names;
 }
 
 /// The importer shows what has been read too, when it is open.

@@ -74,7 +74,7 @@ class ZoneWindow : public LoadsWindow {
 
     /// The same for the zones in the selected rows, each by itself; their display stays.
     void changeSelectedZones(const std::function<void(Zone&)>& change);
-    /// Names of the zones in the selected rows, one behind the other.
+    /// Names of the first zones in the selected rows, one behind the other.
     std::string selectedZoneNames() const;
     /// Puts what the hours calculator has found into the selected zones, in one mode: design day,
     /// hours, days a week, part load factor.

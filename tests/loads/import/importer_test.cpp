@@ -340,6 +340,21 @@ TEST_F(Importer, PastesTwelveRowsOfATable) {
 
 // Undo.
 
+TEST_F(Importer, UndoesCellByCellWhatWasTyped) {
+    frmImport1& form = importer();
+    form.click("lblTotal(0)");
+    form.type(field, "1");
+    form.type(field, "12");
+    form.key(field, "Enter");
+    form.type(field, "34");
+    main.click("mnuUndo");
+    EXPECT_EQ(value(form, "totalLoads(0,0)"), 12);
+    EXPECT_EQ(value(form, "totalLoads(1,0)"), 0);
+    EXPECT_EQ(shown(form, field), "0.0");
+    main.click("mnuUndo");
+    EXPECT_EQ(value(form, "totalLoads(0,0)"), 0);
+}
+
 TEST_F(Importer, UndoesWhatItHasRead) {
     frmImport1& form = importerWithFile();
     main.click("mnuUndo");
