@@ -28,6 +28,8 @@ class TableText {
 
     /// @param bytes UTF-8 with or without its mark, UTF-16 with its mark, or Windows-1252
     explicit TableText(std::string_view bytes);
+    TableText(const TableText&) = delete;
+    TableText& operator=(const TableText&) = delete;
 
     const std::vector<std::string_view>& lines() const { return lines_; }
     /// The separator and the decimal mark by which most of the cells are numbers.
