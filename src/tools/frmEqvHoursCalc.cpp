@@ -138,6 +138,7 @@ void frmEqvHoursCalc::cmdCalculate_Click() {
     frmTransferOptions options(main());
     main().runModal(options);
     if (!options.isSelected() || taker_.window == nullptr) return;
+    nameStep(caption());
     toInteger(eqvHours_);  // what is too large goes nowhere
     main().transferPLFm[modeOfTransfer()] = factor();
     taker_.take({fullLoad_, eqvHours_, factor()}, modeOfTransfer());

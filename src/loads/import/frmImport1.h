@@ -103,6 +103,7 @@ class frmImport1 : public ChildWindow {
     void importTable();
     void cmdModify_Click();
     ChildWindow* opener() const;
+    void preselectEvenDay();
     bool fromHours() const;
     DayLoads dayOf(Mode mode) const;
     double hoursOf(Mode mode) const;

@@ -152,6 +152,7 @@ void frmImport1::importTable() {
     frmImportTable preview(main(), std::move(*source), units());
     main().runModal(preview);
     if (!preview.isImported() || !preview.reading().years) return;
+    preselectEvenDay();
     change([&](ImportedLoads& loads) {
         loads = {*preview.reading().years, preview.sourceName(), 0, preview.reading().peakDays};
     });
@@ -181,11 +182,13 @@ void frmImport1::showTransfer() {
     control("cmdImport(4)").setEnabled(target != nullptr);
     const bool hours = loads_.peakDays.has_value();
     element("optDesignDay", 1).setEnabled(hours);
-    if (!hours) {
-        element("optDesignDay", 0).setChecked(true);
-        element("optDesignDay", 1).setChecked(false);
-    }
+    if (!hours) preselectEvenDay();
     for (const Mode m : modes) control(elementName("lblNotLookedAt", m)).setVisible(!lookedAt_[m]);
+}
+
+void frmImport1::preselectEvenDay() {
+    element("optDesignDay", 0).setChecked(true);
+    element("optDesignDay", 1).setChecked(false);
 }
 
 bool frmImport1::fromHours() const {
@@ -205,6 +208,7 @@ double frmImport1::hoursOf(Mode mode) const {
 
 void frmImport1::cmdModify_Click() {
     ChildWindow* target = opener();
+    nameStep(caption());
     if (auto* window = dynamic_cast<ZoneWindow*>(target))
         TransferValuesFromImport1ToLoadsModule(*window);
     else if (auto* calculator = dynamic_cast<frmEqvHoursCalc*>(target))
