@@ -22,7 +22,7 @@ constexpr double specificHeatWhenSwitched = 4.184;
 
 constexpr double mostMoisture = 100;          // percent
 constexpr double mostDensityAndHeat = 10000;  // lb/ft^3, Btu/(lb degF)
-constexpr double mostConductivity = 1000;     // Btu/(hr ft degF), and ft^2/day
+constexpr double mostConductivity = 1000.0;   // Btu/(hr ft degF), and ft^2/day
 
 }  // namespace
 

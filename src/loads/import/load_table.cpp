@@ -12,7 +12,8 @@ namespace {
 constexpr std::size_t hoursOfDayCount = 24;
 constexpr std::size_t leapDayStart = (31 + 28) * hoursOfDayCount;  // first hour of 29 February
 constexpr std::size_t rowsToShow = 48;
-constexpr std::size_t mostLinesKept = 1000;
+constexpr std::size_t mostLinesKept = 500;
+constexpr double wattsPerKilowatt = 1000.0;
 constexpr double joulesPerKilowattHour = 3.6e6;
 
 /// MBtu of one unit of energy, or of a mean load over an hour.
@@ -22,7 +23,7 @@ double energyFactor(TableUnit unit) {
         case TableUnit::kilowattHours:
             return 1 / kilowattsPerMBtu;
         case TableUnit::watts:
-            return 1 / (kilowattsPerMBtu * 1000);
+            return 1 / (kilowattsPerMBtu * wattsPerKilowatt);
         case TableUnit::joules:
             return 1 / (kilowattsPerMBtu * joulesPerKilowattHour);
         case TableUnit::btuPerHour:

@@ -16,7 +16,7 @@ constexpr std::size_t longestNumber = 64;
 // Many times what a year of hours has; what is beyond is left out, so that no file fills the
 // memory.
 constexpr std::size_t mostLines = 100'000;
-constexpr std::size_t mostCells = 1024;
+constexpr std::size_t mostCells = 512;
 constexpr char quote = '"';
 
 /// Those that are likelier for the same score come first: a semicolon parts cells where the comma
