@@ -6,6 +6,7 @@
 
 #include "basis/number_text.h"
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -49,10 +50,11 @@ double drawLegend(const Canvas& canvas, const MonthsChart& year, const Texts& te
     painter.setBrush(washOf(canvas, year.mode));
     painter.drawRect(
         QRectF(canvas.crisp(x), canvas.crisp(middle - sampleSize / 2), sampleSize, sampleSize));
-    x = drawWord(canvas, x, middle, qt(texts.text(1537)) + u' ' + qt(year.energyUnit));
+    x = drawWord(canvas, x, middle,
+                 qt(texts.text(Text::monthsPictureEnergy)) + u' ' + qt(year.energyUnit));
     painter.fillRect(QRectF(x, middle - markHeight / 2, sampleSize, markHeight),
                      colourOf(canvas, year.mode));
-    drawWord(canvas, x, middle, qt(texts.text(1538)) + u' ' + qt(year.peakUnit));
+    drawWord(canvas, x, middle, qt(texts.text(Text::monthsPicturePeak)) + u' ' + qt(year.peakUnit));
     return height + gridStep;
 }
 
@@ -132,7 +134,8 @@ void paintMonths(const Canvas& canvas, const MonthsChart& year, const Texts& tex
     if (year.empty()) {
         canvas.painter.setFont(canvas.words);
         canvas.painter.setPen(canvas.look.muted);
-        canvas.painter.drawText(plot, Qt::AlignCenter | Qt::TextWordWrap, qt(texts.text(1535)));
+        canvas.painter.drawText(plot, Qt::AlignCenter | Qt::TextWordWrap,
+                                qt(texts.text(Text::monthsPictureEmpty)));
         return;
     }
     for (std::size_t month = 0; month < monthsOfYear; ++month)
@@ -142,13 +145,13 @@ void paintMonths(const Canvas& canvas, const MonthsChart& year, const Texts& tex
 }
 
 QString describeMonths(const MonthsChart& year, const Texts& texts) {
-    if (year.empty()) return qt(texts.text(1535));
+    if (year.empty()) return qt(texts.text(Text::monthsPictureEmpty));
     const auto monthOf = [&](const Months& values) {
         return qt(year.names[greatestMonth(values)]);
     };
     const std::size_t peak = year.peakMonth.value_or(greatestMonth(year.peaks));
-    return qt(texts.text(1536))
-        .arg(qt(year.mode == cooling ? texts.text(2839) : texts.text(2840)),
+    return qt(texts.text(Text::monthsPicture))
+        .arg(qt(year.mode == cooling ? texts.text(Text::cooling) : texts.text(Text::heating)),
              figure(largestOf(year.energies)), qt(year.energyUnit), monthOf(year.energies),
              figure(year.peaks[peak]), qt(year.peakUnit), qt(year.names[peak]));
 }

@@ -10,6 +10,7 @@
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/text_label.h"
+#include "forms/text_numbers.h"
 #include "loads/import/frmImport1.h"
 
 namespace varnholt {
@@ -49,8 +50,10 @@ QWidget* year(Binder& bind) {
 LoadsCaptions dayCaptions(const Binder& bind) {
     const frmImport1* form = importerOf(bind);
     const bool metric = form != nullptr && form->units() == UnitSystem::metric;
-    return {{bind.text(2881), bind.text(2882), bind.text(2883), bind.text(2884)},
-            withoutBrackets(metric ? bind.text(2823) : bind.text(2822))};
+    return {{bind.text(Text::summaryEightToNoon), bind.text(Text::summaryNoonToFour),
+             bind.text(Text::summaryFourToEight), bind.text(Text::summaryEightToEight)},
+            withoutBrackets(metric ? bind.text(Text::loadUnitsMetric)
+                                   : bind.text(Text::loadUnitsEnglish))};
 }
 
 QWidget* transfer(Binder& bind) {
@@ -68,9 +71,9 @@ QWidget* transfer(Binder& bind) {
 }
 
 QWidget* rows(Binder& bind) {
-    auto* list = static_cast<ListView*>(named(bind, "TIRowsList", "TIRowsLabel"));
-    list->setHeads(
-        {qt(bind.text(1586)), qt(bind.text(1587)), qt(bind.text(2839)), qt(bind.text(2840))});
+    auto* list = static_cast<ListView*>(bind.widget("TIRowsList"));
+    list->setHeads({qt(bind.text(Text::tableLineHead)), qt(bind.text(Text::tableDateHead)),
+                    qt(bind.text(Text::cooling)), qt(bind.text(Text::heating))});
     constexpr int listWidth = 420, listHeight = 260;
     list->setMinimumSize(listWidth, listHeight);
     return column(bind.widget("TIRowsLabel"), grow(list));
