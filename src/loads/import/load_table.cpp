@@ -16,29 +16,25 @@ constexpr std::size_t mostLinesKept = 500;
 constexpr double wattsPerKilowatt = 1000.0;
 constexpr double joulesPerKilowattHour = 3.6e6;
 
-/// MBtu of one unit of energy, or of a mean load over an hour.
-double energyFactor(TableUnit unit) {
+/// A number of the unit as MBtu: an energy, or a mean load over an hour. Kilowatts are divided by
+/// the factor by which they are shown, so that they come back as they were.
+double mbtuOf(double number, TableUnit unit) {
     switch (unit) {
         case TableUnit::kilowatts:
         case TableUnit::kilowattHours:
-            return 1 / kilowattsPerMBtu;
+            return number / kilowattsPerMBtu;
         case TableUnit::watts:
-            return 1 / (kilowattsPerMBtu * wattsPerKilowatt);
+            return number / wattsPerKilowatt / kilowattsPerMBtu;
         case TableUnit::joules:
-            return 1 / (kilowattsPerMBtu * joulesPerKilowattHour);
+            return number / joulesPerKilowattHour / kilowattsPerMBtu;
         case TableUnit::btuPerHour:
-            return 1 / btuPerMBtu;
+            return number / btuPerMBtu;
         case TableUnit::tons:
-            return mbtuPerTon;
+            return number * mbtuPerTon;
         case TableUnit::mbtuPerHour:
             break;
     }
-    return 1;
-}
-
-/// MBtu/hr of one unit of power.
-double powerFactor(TableUnit unit) {
-    return energyFactor(unit == TableUnit::joules ? TableUnit::watts : unit);
+    return number;
 }
 
 std::string_view cellOf(const TableText::Row& row, std::optional<std::size_t> column) {
@@ -165,11 +161,12 @@ class Reader {
     }
 
     void convert() {
-        const double energy = energyFactor(choices_.unit), power = powerFactor(choices_.unit);
+        const TableUnit power =
+            choices_.unit == TableUnit::joules ? TableUnit::watts : choices_.unit;
         for (WrittenRow& row : written_)
             for (const Mode m : modes) {
-                row.loads[m] *= energy;
-                row.peaks[m] *= power * btuPerMBtu;
+                row.loads[m] = mbtuOf(row.loads[m], choices_.unit);
+                row.peaks[m] = mbtuOf(row.peaks[m], power) * btuPerMBtu;
             }
     }
 
