@@ -125,6 +125,7 @@ void ChildWindow::goTo(const DocumentState& state) {
 
 Notice ChildWindow::refusedNotice(const RefusedValue& refused) const {
     const int words = refused.tooLarge          ? Text::noticeValueTooLarge
+                      : refused.single          ? Text::noticeValueNotTaken
                       : refused.lowestIsRefused ? Text::noticeValueNotAbove
                       : refused.highest.empty() ? Text::noticeValueTooSmall
                                                 : Text::noticeValueOutsideRange;

@@ -12,11 +12,13 @@ class QLabel;
 
 namespace varnholt {
 
-/// A drawing made of charts side by side. The module of charts is loaded when there is something to
-/// show for the first time; where it is missing, a sentence in the charts' place says so.
+/// A drawing made of charts side by side or one below the other. The module of charts is loaded
+/// when there is something to show for the first time; where it is missing, a sentence in the
+/// charts' place says so.
 class ChartDrawing : public Drawing {
  public:
-    ChartDrawing(const Texts& texts, ChartModuleFinder charts);
+    ChartDrawing(const Texts& texts, ChartModuleFinder charts,
+                 Qt::Orientation direction = Qt::Horizontal);
 
     void refresh() final;
     QSize minimumSizeHint() const override { return {240, 160}; }

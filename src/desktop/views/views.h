@@ -13,5 +13,6 @@ QWidget* makeBoreholeView(Binder& bind);
 QWidget* makeZoneManagerView(Binder& bind);
 QWidget* makeAverageBlockView(Binder& bind);
 QWidget* makeLinkOptionsView(Binder& bind);
+QWidget* makePumpEditorView(Binder& bind);
 
 }  // namespace varnholt
