@@ -706,7 +706,6 @@ constexpr int curveTested = 4298;
 constexpr int nothingToTest = 4299;
 constexpr int secondFlowLegend = 4211;
 constexpr int staleLegend = 4212;
-constexpr int fittedLegend = 4213;
 constexpr int loadPercentAxis = 4214;
 constexpr int loadTemperatureAxis = 4216;
 constexpr int testedLegend = 4217;
@@ -744,7 +743,6 @@ constexpr int noticeStaleCurves = 4530;
 constexpr int noticeFitAction = 4531;
 constexpr int noticeSavedStale = 4532;
 constexpr int noticeManyPumps = 4533;
-constexpr int noticeFewRows = 4534;
 
 // Starting and files.
 constexpr int loadsWindowInUse = 8539;

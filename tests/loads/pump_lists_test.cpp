@@ -2,6 +2,7 @@
 // The loads windows after the catalogue's files have been written.
 #include <gtest/gtest.h>
 
+#include "basis/file_system.h"
 #include "loads/loads_fixture.h"
 
 namespace varnholt {

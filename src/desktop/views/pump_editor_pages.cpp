@@ -15,6 +15,8 @@ namespace varnholt {
 namespace {
 
 constexpr int figuresInTable = 7;
+constexpr int nothingMeasuredText = 4297;
+constexpr int nothingToTestText = 4299;
 constexpr int figuresOfTerm = 11;
 
 const frmHPEdit* editorOf(const Binder& bind) { return static_cast<const frmHPEdit*>(bind.form()); }
@@ -236,7 +238,8 @@ QWidget* pumpDetailsPage(Binder& bind) {
     type.caption = bind.widget("PumpTypeLabel");
     type.fields = {buttons(bind.widget("PumpTypeOption(0)"), bind.widget("PumpTypeOption(1)"))};
     QWidget* chart = curves(bind, "PumpChart", [&bind](const frmHPEdit& editor) {
-        return titled(bind, editor.bothRatings(), bind.text(4230), degrees(bind), false, 4297);
+        return titled(bind, editor.bothRatings(), bind.text(4230), degrees(bind), false,
+                      nothingMeasuredText);
     });
     return group(bind.frame(pageFrames[0]),
                  grow(row_(grid(bind.row("PumpModelText"), type), gap(), grow(chart))));
@@ -245,7 +248,8 @@ QWidget* pumpDetailsPage(Binder& bind) {
 QWidget* ratingPageOf(Binder& bind, Mode mode) {
     QWidget* chart =
         curves(bind, prefixOf(mode) + "RatingChart", [&bind, mode](const frmHPEdit& editor) {
-            return titled(bind, editor.rating(mode), bind.text(4230), degrees(bind), false, 4297);
+            return titled(bind, editor.rating(mode), bind.text(4230), degrees(bind), false,
+                          nothingMeasuredText);
         });
     QWidget* figures =
         column(flowPair(bind, mode), ratingTable(bind, mode),
@@ -260,7 +264,7 @@ QWidget* correctionPageOf(Binder& bind, CorrectionKind kind) {
         curves(bind, elementName("CorrectionsChart", kind), [&bind, kind](const frmHPEdit& editor) {
             const bool temperature = kind == byTemperature;
             return titled(bind, editor.corrections(kind), bind.text(temperature ? 4216 : 4214),
-                          temperature ? degrees(bind) : std::string(), true, 4297);
+                          temperature ? degrees(bind) : std::string(), true, nothingMeasuredText);
         });
     QWidget* nominal = kind == byFlow ? grid([&bind] {
         FieldRow row = bind.row("NominalFlowText");
@@ -276,7 +280,8 @@ QWidget* correctionPageOf(Binder& bind, CorrectionKind kind) {
 
 QWidget* pumpTestPage(Binder& bind) {
     QWidget* chart = curves(bind, "TestChart", [&bind](const frmHPEdit& editor) {
-        return titled(bind, editor.tested(), bind.text(4230), degrees(bind), false, 4299);
+        return titled(bind, editor.tested(), bind.text(4230), degrees(bind), false,
+                      nothingToTestText);
     });
     QWidget* inputs = grid(bind.heads("TestModeLabel(0)", "TestModeLabel(1)"),
                            bind.pair("TestSourceEWTText"), bind.pair("TestSourceFlowText"),

@@ -13,6 +13,8 @@
 namespace varnholt {
 namespace {
 
+constexpr int firstStepText = 4122;
+
 QWidget* commands(Binder& bind) {
     return buttons(
         bind.widget("NewCommand"), bind.widget("CopyCommand"), bind.widget("RemoveCommand"),
@@ -28,7 +30,7 @@ QWidget* lists(Binder& bind) {
 
 QWidget* nothing(Binder& bind) {
     return group(bind.frame("NoInfoPicture"), bind.widget("NoPumpInfoLabel"),
-                 hint(bind, 4122, [] { return true; }));
+                 hint(bind, firstStepText, [] { return true; }));
 }
 
 FieldRow line(Binder& bind, const char* stem, std::size_t index) {
