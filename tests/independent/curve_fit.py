@@ -80,11 +80,11 @@ def at(terms, x):
     return sum(term * x**k for k, term in enumerate(terms))
 
 
-def show(name, x, y, degree):
+def show(name, x, y, degree, tell=print):
     terms = fit(list(x), list(y), degree)
     true = exact(x, y, degree)
     worst = max(abs(at(terms, v) / at(true, v) - 1) for v in x)
-    print(f"{name}: {', '.join(repr(t) for t in terms)}   (true to {worst:.0e})")
+    tell(f"{name}: {', '.join(repr(t) for t in terms)}   (true to {worst:.0e})")
     return terms
 
 
@@ -92,41 +92,52 @@ def ratio(first, second):
     return (second[0] / first[0] + second[1] / first[1] + second[2] / first[2]) / 3.0
 
 
-curves = {}
-for mode, data in (("cooling", COOLING), ("heating", HEATING)):
-    for quantity in ("capacity", "watts"):
-        curves[mode, quantity] = show(f"{mode} {quantity}", data["x"], data[quantity], 2)
-        factor = ratio(data[quantity], data[quantity + "2"])
-        curves[mode, quantity, "factor"] = factor
-        print(f"{mode} {quantity} flow factor: {factor!r}")
-for mode, rows in TEMPERATURE.items():
+def fit_all(tell=print):
+    """The curves of the pump and its flow factors."""
+    curves = {}
+    for mode, data in (("cooling", COOLING), ("heating", HEATING)):
+        for quantity in ("capacity", "watts"):
+            curves[mode, quantity] = show(f"{mode} {quantity}", data["x"], data[quantity], 2, tell)
+            factor = ratio(data[quantity], data[quantity + "2"])
+            curves[mode, quantity, "factor"] = factor
+            tell(f"{mode} {quantity} flow factor: {factor!r}")
+    for mode, rows in TEMPERATURE.items():
+        for column, quantity in ((1, "capacity"), (2, "watts")):
+            curves[mode, quantity, "temperature"] = show(
+                f"{mode} {quantity} by temperature", [r[0] for r in rows], [r[column] for r in rows], 3,
+                tell)
     for column, quantity in ((1, "capacity"), (2, "watts")):
-        curves[mode, quantity, "temperature"] = show(
-            f"{mode} {quantity} by temperature", [r[0] for r in rows], [r[column] for r in rows], 3)
-for column, quantity in ((1, "capacity"), (2, "watts")):
-    curves[quantity, "flow"] = show(f"{quantity} by flow", [r[0] for r in FLOW],
-                                    [r[column] for r in FLOW], 3)
+        curves[quantity, "flow"] = show(f"{quantity} by flow", [r[0] for r in FLOW],
+                                        [r[column] for r in FLOW], 3, tell)
+    return curves
 
-four = TEMPERATURE["cooling"][:4]
-show("four rows", [r[0] for r in four], [r[1] for r in four], 3)
 
-for m, mode in enumerate(("cooling", "heating")):
-    results = {}
-    for quantity in ("capacity", "watts"):
-        a, b, c = curves[mode, quantity]
-        T, E = TEST["source"][m], TEST["load"][m]
-        p = TEST["air"][m] * 100 / NOMINAL
-        value = c * T * T + b * T + a
-        for terms, x in ((curves[mode, quantity, "temperature"], E), (curves[quantity, "flow"], p)):
-            value = value * (terms[0] + terms[1] * x + terms[2] * x * x + terms[3] * x * x * x)
-        slope = (value * curves[mode, quantity, "factor"] - value) / (FLOWS[1] - FLOWS[0])
-        results[quantity] = value + (TEST["flow"][m] - FLOWS[0]) * slope
-    cop = 0.2931 * results["capacity"] / results["watts"]
-    print(f"{mode} tested: {results['capacity']!r} MBtu/hr, {results['watts']!r} kW, COP {cop!r}, "
-          f"EER {cop * 3.412!r}")
+def main():
+    curves = fit_all()
+    four = TEMPERATURE["cooling"][:4]
+    show("four rows", [r[0] for r in four], [r[1] for r in four], 3)
 
-a, b, c = curves["cooling", "capacity"]
-print("metric, cooling capacity:", repr(0.2931 * a + 9.382 * b + 300.075 * c),
-      repr(0.528 * b + 33.75 * c), repr(0.949 * c))
-a, b, c, d = curves["cooling", "watts", "temperature"]
-print("metric, cooling power by temperature, b:", repr(1.8 * b + 115.2 * c + 5529.6 * d))
+    for m, mode in enumerate(("cooling", "heating")):
+        results = {}
+        for quantity in ("capacity", "watts"):
+            a, b, c = curves[mode, quantity]
+            T, E = TEST["source"][m], TEST["load"][m]
+            p = TEST["air"][m] * 100 / NOMINAL
+            value = c * T * T + b * T + a
+            for terms, x in ((curves[mode, quantity, "temperature"], E), (curves[quantity, "flow"], p)):
+                value = value * (terms[0] + terms[1] * x + terms[2] * x * x + terms[3] * x * x * x)
+            slope = (value * curves[mode, quantity, "factor"] - value) / (FLOWS[1] - FLOWS[0])
+            results[quantity] = value + (TEST["flow"][m] - FLOWS[0]) * slope
+        cop = 0.2931 * results["capacity"] / results["watts"]
+        print(f"{mode} tested: {results['capacity']!r} MBtu/hr, {results['watts']!r} kW, COP {cop!r}, "
+              f"EER {cop * 3.412!r}")
+
+    a, b, c = curves["cooling", "capacity"]
+    print("metric, cooling capacity:", repr(0.2931 * a + 9.382 * b + 300.075 * c),
+          repr(0.528 * b + 33.75 * c), repr(0.949 * c))
+    a, b, c, d = curves["cooling", "watts", "temperature"]
+    print("metric, cooling power by temperature, b:", repr(1.8 * b + 115.2 * c + 5529.6 * d))
+
+
+if __name__ == "__main__":
+    main()

@@ -2,6 +2,7 @@
 #include "catalogue/editor/editor_pictures.h"
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
 
 #include "basis/run_time_error.h"
@@ -23,11 +24,21 @@ Range rangeOf(const FitPoints& points) {
     return {*lowest, *highest};
 }
 
+/// What is typed half, or by mistake, may lie beyond any chart.
+bool canBeDrawn(const CurvePoint& point) {
+    constexpr double farthest = 1e9;
+    return std::fabs(point.x) <= farthest && std::fabs(point.y) <= farthest;
+}
+
+void append(std::vector<CurvePoint>& points, const CurvePoint& point) {
+    if (canBeDrawn(point)) points.push_back(point);
+}
+
 std::vector<CurvePoint> sampled(const Range& range, const std::function<CurvePoint(double)>& at) {
     std::vector<CurvePoint> line;
     if (!(range.highest > range.lowest)) return line;
     for (int i = 0; i <= stepsOfCurve; ++i)
-        line.push_back(at(range.lowest + (range.highest - range.lowest) * i / stepsOfCurve));
+        append(line, at(range.lowest + (range.highest - range.lowest) * i / stepsOfCurve));
     return line;
 }
 
@@ -49,7 +60,7 @@ const Quantity& quantityOf(FittedQuantity quantity) {
 std::vector<CurvePoint> pointsOf(const FitPoints& points, const Shown& shown) {
     std::vector<CurvePoint> measured;
     for (std::size_t i = 0; i < points.count; ++i)
-        if (points.y[i] != 0) measured.push_back(shown(points.x[i], points.y[i]));
+        if (points.y[i] != 0) append(measured, shown(points.x[i], points.y[i]));
     return measured;
 }
 
@@ -146,7 +157,8 @@ FitPicture testPicture(const pump& model, const TestInputs& inputs, UnitSystem u
                 };
                 CurvePicture& curve = curveIn(picture, quantity, mode);
                 curve.line = sampled(testedRange(model, inputs, mode), at);
-                curve.operating = at(inputs.sourceTemperature[mode]);
+                const CurvePoint operating = at(inputs.sourceTemperature[mode]);
+                if (canBeDrawn(operating)) curve.operating = operating;
             }
     } catch (const RunTimeError&) {
         // A model that cannot be tried has no curve to stand on.

@@ -108,6 +108,7 @@ void frmHPEdit::MfgCombo_Click() {
         // What has been dropped does not come back with the panel behind this one.
         if (std::exchange(droppedChanges_, false) && place_)
             takeSeries(*place_, readSeriesFile(seriesPath()));
+        editingSeriesInfo = false;
         control("SelectMfgCombo").setIndex(0).setEnabled(true);
         control("InsidePumpInfoPicture").setVisible(false);
         showPanel(Panel::information);
@@ -172,6 +173,7 @@ std::string frmHPEdit::seriesPath() const {
 void frmHPEdit::openSeries(const SeriesPlace& place) {
     place_ = place;
     pumpInfoFrameMode.clear();
+    editingSeriesInfo = false;
     SeriesFile file = readSeriesFile(seriesPath());
     const int error = file.error;
     const bool missing = !file.bytes && error == 0;
@@ -197,6 +199,7 @@ void frmHPEdit::takeSeries(const SeriesPlace& place, SeriesFile file) {
 
 void frmHPEdit::closeSeries() {
     place_.reset();
+    editingSeriesInfo = false;
     document_.pumps.clear();
     file_ = {};
     pumpInfoFrameMode.clear();

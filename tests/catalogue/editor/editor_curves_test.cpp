@@ -58,7 +58,7 @@ TEST_F(EditorCurves, AreFittedByTheirButtons) {
     EXPECT_FALSE(window.recalculationNeeded);
     EXPECT_TRUE(enabled(window, "SaveCommand"));
     // 31/31 + 29.3/28.4 + 27.1/26.2 over 3.
-    EXPECT_NEAR(number(window, "PumpList(0).flowCf(0,0)"), 1.0220136, 1e-7);
+    EXPECT_NEAR(number(window, "PumpList(0).flowCf(0,0)"), 1.02201376, 1e-8);
 }
 
 TEST_F(EditorCurves, StayAsTheyWereWhereTheyCannotBeFitted) {
@@ -129,8 +129,6 @@ TEST_F(EditorCurves, TellHowWellTheyMeetTheirPoints) {
     EXPECT_EQ(shown(window, "CoolingCoefficientsCapacityTurnLabel"), "turns at 84.2 F");
     window.click("MetricCheck");
     EXPECT_EQ(shown(window, "CoolingCoefficientsCapacityTurnLabel"), "turns at 29.0 C");
-    EXPECT_EQ(shown(window, "HeatingCorrectionsPowerCoefficientsFitLabel(1)").substr(8),
-              shown(window, "HeatingCorrectionsPowerCoefficientsFitLabel(1)").substr(8));
     EXPECT_TRUE(shown(window, "HeatingCorrectionsPowerCoefficientsFitLabel(1)").ends_with(" %"));
 }
 
@@ -243,6 +241,15 @@ TEST_F(EditorCurves, HavePicturesOfPointsAndLines) {
     EXPECT_EQ(window.corrections(byTemperature).power[heating].measured.size(), 5u);
     EXPECT_FALSE(window.corrections(byFlow).fromZero);
     EXPECT_EQ(window.bothRatings().power[heating].measured.size(), 3u);
+}
+
+TEST_F(EditorCurves, LeaveOutOfTheirPicturesWhatNoChartCanHold) {
+    frmHPEdit& window = opened();
+    window.type("CoolingFR1CapacityText(1)", "1e300");
+    EXPECT_EQ(window.rating(cooling).capacity[cooling].measured.size(), 2u);
+    window.type("CoolingEWTText(1)", "1e300");
+    for (const CurvePoint& point : window.rating(cooling).power[cooling].line)
+        EXPECT_LE(point.x, 1e9);
 }
 
 TEST_F(EditorCurves, CarryThePointOfTheTest) {
