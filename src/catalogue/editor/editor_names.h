@@ -32,11 +32,15 @@ inline std::string wordOf(FittedQuantity quantity) {
     return quantity == fittedCapacity ? "Capacity" : "Power";
 }
 
+/// "CoolingFR2Power", with which the names of a rating column's controls begin.
+inline std::string ratingColumn(Mode mode, std::size_t flow, const std::string& word) {
+    return prefixOf(mode) + "FR" + std::to_string(flow + 1) + word;
+}
+
 /// "CoolingFR2PowerText(1)"
 inline std::string ratingField(Mode mode, std::size_t flow, FittedQuantity quantity,
                                std::size_t point) {
-    return elementName(prefixOf(mode) + "FR" + std::to_string(flow + 1) + wordOf(quantity) + "Text",
-                       point);
+    return elementName(ratingColumn(mode, flow, wordOf(quantity)) + "Text", point);
 }
 
 /// "CoolingELTText(3)" or "CoolingPercentNominalText(3)"

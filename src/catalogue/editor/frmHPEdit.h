@@ -67,6 +67,10 @@ class frmHPEdit : public ChildWindow {
     void addDetailsPage();
     void addRatingPage(Mode mode);
     void addRatingFields(Mode mode);
+    void addFlowField(Mode mode, std::size_t flow);
+    void addWaterField(Mode mode, std::size_t point);
+    void addPointFields(Mode mode, std::size_t flow, std::size_t point);
+    void addPointField(Mode mode, std::size_t flow, FittedQuantity quantity, std::size_t point);
     void addRatingCurves(Mode mode);
     void addCorrectionPage(CorrectionKind kind);
     void addCorrectionHeads(CorrectionKind kind);
@@ -131,6 +135,8 @@ class frmHPEdit : public ChildWindow {
     int selectedPump() const;
     const pump* shownPump() const;
     pump* editShownPump();
+    /// A number of the pump on show by then; 0 while there is none.
+    StoredNumber ofShownPump(const std::function<double&(pump&)>& number);
     void listPumps(int selected);
     void showPump();
     void showTexts(const pump& shown);

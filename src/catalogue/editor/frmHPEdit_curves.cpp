@@ -121,8 +121,7 @@ void frmHPEdit::showMeasuredCOP(Mode mode) {
     const bool asEER = mode == cooling && units() == UnitSystem::english;
     for (std::size_t flow = 0; flow < 2; ++flow)
         for (std::size_t i = 0; i < ratingPoints; ++i) {
-            Control& label = control(
-                elementName(prefixOf(mode) + "FR" + std::to_string(flow + 1) + "COPLabel", i));
+            Control& label = control(elementName(ratingColumn(mode, flow, "COP") + "Label", i));
             const auto COP =
                 shown == nullptr
                     ? std::nullopt

@@ -28,6 +28,16 @@ pump* frmHPEdit::editShownPump() {
     return &document_.pumps[static_cast<std::size_t>(selectedPump())].edit();
 }
 
+StoredNumber frmHPEdit::ofShownPump(const std::function<double&(pump&)>& number) {
+    return {[this, number] {
+                const pump* model = shownPump();
+                return model == nullptr ? 0 : number(const_cast<pump&>(*model));
+            },
+            [this, number](double value) {
+                if (pump* model = editShownPump()) number(*model) = value;
+            }};
+}
+
 void frmHPEdit::listPumps(int selected) {
     std::vector<std::string> names;
     for (const Shared<pump>& model : document_.pumps) names.push_back(model->name);

@@ -45,6 +45,19 @@ std::optional<Cell> cellOf(const Cells& table, const std::string& field) {
 
 }  // namespace
 
+/// Keys in a table: what is pasted may fill more than the field.
+void frmHPEdit::hookFields() {
+    for (std::size_t page = 0; page < pageFrames.size(); ++page) {
+        const auto rows = tableFields(page);
+        for (const auto& row : rows)
+            for (const std::string& field : row)
+                onKey(field, [this, field](const std::string& key) { keyInField(field, key); });
+        if (!rows.empty())
+            onClick(elementName("CopyTableCommand", page),
+                    [this, page] { CopyTableCommand_Click(page); });
+    }
+}
+
 void frmHPEdit::keyInField(const std::string& field, const std::string& key) {
     if (key == "Enter") return leave(field);
     if (key != "Ctrl+V") return;

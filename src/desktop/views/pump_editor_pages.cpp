@@ -68,11 +68,6 @@ FieldRow tableRow(std::vector<QWidget*> cells) {
     return row;
 }
 
-/// The name of a rating column's controls: "CoolingFR1Capacity".
-std::string columnOf(Mode mode, std::size_t flow, const std::string& word) {
-    return prefixOf(mode) + "FR" + std::to_string(flow + 1) + word;
-}
-
 QWidget* ratingTable(Binder& bind, Mode mode) {
     const std::string prefix = prefixOf(mode);
     FieldRow heads = tableRow({head(bind, elementName("EWTLabel", mode))});
@@ -80,7 +75,7 @@ QWidget* ratingTable(Binder& bind, Mode mode) {
     for (std::size_t flow = 0; flow < 2; ++flow)
         for (const std::string word : {"Capacity", "Power", "COP"}) {
             const bool COP = word == "COP";
-            const std::string column = columnOf(mode, flow, word);
+            const std::string column = ratingColumn(mode, flow, word);
             heads.fields.push_back(head(bind, column + (COP ? "HeadLabel" : "Label")));
             units.fields.push_back(COP ? nothing() : unit(bind, column + "UnitLabel"));
         }
@@ -91,7 +86,7 @@ QWidget* ratingTable(Binder& bind, Mode mode) {
             for (const FittedQuantity quantity : fittedQuantities)
                 row.fields.push_back(tableField(bind, ratingField(mode, flow, quantity, i), mode));
             row.fields.push_back(
-                figure(bind, elementName(columnOf(mode, flow, "COP") + "Label", i)));
+                figure(bind, elementName(ratingColumn(mode, flow, "COP") + "Label", i)));
         }
         rows.push_back(row);
     }
