@@ -130,10 +130,10 @@ void frmHPEdit::enterSeries() {
     CatalogueIndex index = index_;
     const PumpManufacturerInfo maker = typedManufacturer();
     const PumpSeriesInfo series = typedSeries();
+    const auto known =
+        pumpInfoFrameMode == "newSeries" ? findManufacturer(index, maker.mfgName) : std::nullopt;
     const SeriesPlace place =
-        pumpInfoFrameMode == "newMfg"
-            ? insertManufacturer(index, maker, series)
-            : insertSeries(index, *findManufacturer(index, maker.mfgName), series);
+        known ? insertSeries(index, *known, series) : insertManufacturer(index, maker, series);
     const std::string pumps = joinPath(main().MainDirectory, "pumps");
     const std::string path = pumpSeriesPath(pumps, series.FileName);
     const bool found = fileExists(path);
