@@ -239,7 +239,11 @@ bool frmHPEdit::attemptToWrite(const std::string& path, const std::function<void
 }
 
 void frmHPEdit::SaveCommand_Click() {
-    if (!place_ || !mayReplaceFile()) return;
+    if (!place_) return;
+    const std::string& FileName = selectedSeries().FileName;
+    if (!staysInFolder(FileName))
+        return show(MessageIcon::exclamation, filledIn(text(Text::fileNameUnusable), {FileName}));
+    if (!mayReplaceFile()) return;
     std::string bytes = pumpSeriesText(seriesToWrite());
     if (!attemptToWrite(seriesPath(), [&] { replaceWholeFile(seriesPath(), bytes); })) return;
     file_ = {{}, std::move(bytes), 0};

@@ -94,6 +94,11 @@ TEST(FileName, IsUsableWhereEverySystemCanMakeTheFile) {
     EXPECT_TRUE(isUsableFileName(std::string(200, 'a')));
 }
 
+TEST(FileName, OfAnIndexMayLeadOutOfTheFolder) {
+    EXPECT_TRUE(staysInFolder("a.b"));
+    for (const char* name : {"../a", "/etc/a", "a\\b"}) EXPECT_FALSE(staysInFolder(name)) << name;
+}
+
 TEST(FileName, IsRefusedWhereSomeSystemCannotMakeTheFile) {
     for (const char* name :
          {"",     "a/b",  "../b", "..", "a\\b", "c:",  "a*",  "a?",  "a\"b", "<a>",  "a|b",  "a\nb",

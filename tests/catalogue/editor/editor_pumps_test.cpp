@@ -184,6 +184,17 @@ TEST_F(EditorPumps, StayUnsavedWhereTheFileCannotBeWritten) {
     EXPECT_FALSE(main.close(window));
 }
 
+TEST_F(EditorPumps, OfAnIndexThatNamesAFileElsewhereAreNotWrittenThere) {
+    addSeries("Dale", "Stray", "../stray", {"S1"}, 0);
+    const std::string before = readWholeFile(seriesFile("../stray"));
+    frmHPEdit& window = opened("Dale", "Stray");
+    typeAndLeave(window, "NominalFlowText", "1000");
+    window.click("SaveCommand");
+    EXPECT_EQ(lastMessage(), "[4527]");
+    EXPECT_TRUE(enabled(window, "SaveCommand"));
+    EXPECT_EQ(readWholeFile(seriesFile("../stray")), before);
+}
+
 TEST_F(EditorPumps, TakeTheFileOfAnotherProgramOnlyWhenTheUserSaysSo) {
     frmHPEdit& window = opened();
     typeAndLeave(window, "NominalFlowText", "1000");
