@@ -15,7 +15,7 @@ double leadingNumber(std::string_view text);
 std::optional<double> readLeadingNumber(std::string_view text);
 
 /// The number that the whole text is, blanks around it aside; nothing for any other text.
-std::optional<double> readNumber(std::string_view text);
+std::optional<double> readPlainNumber(std::string_view text);
 
 /// A number in a picture such as "###0.0", "##0.0", "#.00" or "###0". The shortest decimal text
 /// of the double is rounded half away from zero to the picture's decimals; "0" before the point is

@@ -57,7 +57,7 @@ void NumericFields::textChanged(const std::string& control) {
 
 /// Takes any number that the stored value can be.
 void NumericFields::storeUnchecked(const NumericFieldRow& row) {
-    const std::optional<double> typed = readNumber(form_.control(row.control).text());
+    const std::optional<double> typed = readPlainNumber(form_.control(row.control).text());
     if (!typed) return;
     const double value = row.quantity->stored(*typed, units());
     if (!std::isfinite(value)) return;

@@ -91,13 +91,13 @@ TEST(FormatNumber, ShowsWhatIsNoNumberAsZero) {
     EXPECT_EQ(formatNumber(std::numeric_limits<double>::infinity(), "###0"), "0");
 }
 
-TEST(ReadNumber, TakesTheWholeTextOrNothing) {
-    EXPECT_EQ(readNumber("30.1"), 30.1);
-    EXPECT_EQ(readNumber(" \t-2e3 "), -2000);
-    EXPECT_EQ(readNumber("+.5"), 0.5);
-    EXPECT_EQ(readNumber("5."), 5);
+TEST(ReadPlainNumber, TakesTheWholeTextOrNothing) {
+    EXPECT_EQ(readPlainNumber("30.1"), 30.1);
+    EXPECT_EQ(readPlainNumber(" \t-2e3 "), -2000);
+    EXPECT_EQ(readPlainNumber("+.5"), 0.5);
+    EXPECT_EQ(readPlainNumber("5."), 5);
     for (const char* text : {"", " ", "-", ".", "abc", "30x", "3 0", "30,1", "1e", "nan", "inf"})
-        EXPECT_EQ(readNumber(text), std::nullopt) << text;
+        EXPECT_EQ(readPlainNumber(text), std::nullopt) << text;
 }
 
 TEST(ShortestText, ReadsBackAsTheSameDouble) {
