@@ -98,15 +98,6 @@ TEST_F(Verbs, ChoosePicksAnEntryByItsTextOrItsIndex) {
     EXPECT_EQ(window().log, "click FluidCombo;click FluidCombo;");
 }
 
-TEST_F(Verbs, ChoosePassesOverTheBlanksAtAnEntrysEnd) {
-    window().control("FluidCombo").setItems({"Air ", "Air", "Brine "});
-    EXPECT_EQ(transcriptOf("choose frmEveryKind.FluidCombo Brine\n"
-                           "print frmEveryKind.FluidCombo.index\n"
-                           "choose frmEveryKind.FluidCombo Air\n"
-                           "print frmEveryKind.FluidCombo.index\n"),
-              "frmEveryKind#1.FluidCombo.index = 2\nfrmEveryKind#1.FluidCombo.index = 1\n");
-}
-
 TEST_F(Verbs, ChooseWorksInListBoxesAndBringsTabsToTheFront) {
     EXPECT_EQ(
         transcriptOf("choose frmEveryKind.ZoneList West\nprint frmEveryKind.ZoneList.selected\n"

@@ -248,7 +248,8 @@ TEST_F(EditorCurves, LeaveOutOfTheirPicturesWhatNoChartCanHold) {
     window.type("CoolingFR1CapacityText(1)", "1e300");
     EXPECT_EQ(window.rating(cooling).capacity[cooling].measured.size(), 2u);
     window.type("CoolingEWTText(1)", "1e300");
-    for (const CurvePoint& point : window.rating(cooling).power[cooling].line)
+    const FitPicture picture = window.rating(cooling);
+    for (const CurvePoint& point : picture.power[cooling].line)
         EXPECT_LE(point.x, 1e9);
 }
 
