@@ -62,6 +62,9 @@ QWidget* figure(Binder& bind, const std::string& name) {
 
 QWidget* nothing() { return new QWidget; }
 
+/// A table without captions, which need not stand behind those of what follows it.
+QWidget* atLeft(QWidget* table) { return row_(table, stretch()); }
+
 FieldRow tableRow(std::vector<QWidget*> cells) {
     FieldRow row;
     row.fields = std::move(cells);
@@ -247,7 +250,7 @@ QWidget* ratingPageOf(Binder& bind, Mode mode) {
                           nothingMeasuredText);
         });
     QWidget* figures =
-        column(flowPair(bind, mode), ratingTable(bind, mode),
+        column(flowPair(bind, mode), atLeft(ratingTable(bind, mode)),
                buttons(bind.widget(elementName("CopyTableCommand", ratingPage[mode]))),
                ratingCurves(bind, mode));
     return group(bind.frame(pageFrames[ratingPage[mode]]), grow(row_(figures, gap(), grow(chart))));
@@ -267,7 +270,7 @@ QWidget* correctionPageOf(Binder& bind, CorrectionKind kind) {
         return row;
     }())
                                       : nullptr;
-    QWidget* figures = column(nominal, correctionTable(bind, kind),
+    QWidget* figures = column(nominal, atLeft(correctionTable(bind, kind)),
                               buttons(bind.widget(elementName("CopyTableCommand", page))),
                               correctionCurves(bind, kind));
     return group(bind.frame(pageFrames[page]), grow(row_(figures, gap(), grow(chart))));

@@ -48,6 +48,8 @@ QWidget* information(Binder& bind) {
              line(bind, "ManufacturerAddressText", 4), line(bind, "SeriesInfoText", 0),
              line(bind, "SeriesInfoText", 1), date),
         buttons(bind.primary("ProceedCommand")));
+    constexpr int widest = 80 * gridStep;
+    inside->setMaximumWidth(widest);
     return group(bind.frame("PumpInfoPicture"), grid(bind.row("SelectMfgCombo")), inside,
                  buttons(bind.widget("CancelCommand")), stretch());
 }
@@ -70,14 +72,20 @@ QWidget* data(Binder& bind) {
                                    [&bind] { return page(correctionPageOf(bind, byTemperature)); },
                                    [&bind] { return page(correctionPageOf(bind, byFlow)); },
                                    [&bind] { return page(pumpTestPage(bind)); }});
-    return group(bind.frame("PumpDataPicture"), grow(row_(pumpNames(bind), grow(pages))));
+    auto* place = new QWidget;
+    QWidget* frame = group(bind.frame("PumpDataPicture"), grow(place));
+    // Behind the frame's back, so that the page that is built first is a card as the others are.
+    auto* layout = new QVBoxLayout(place);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(row_(pumpNames(bind), grow(pages)));
+    return frame;
 }
 
 }  // namespace
 
 QWidget* makePumpEditorView(Binder& bind) {
-    return roomy(column(bar(column(lists(bind), commands(bind))), noticeBar(bind), nothing(bind),
-                        information(bind), grow(data(bind))),
+    return roomy(column(bar(column(lists(bind), commands(bind))), noticeBar(bind),
+                        grow(nothing(bind)), grow(information(bind)), grow(data(bind))),
                  {1240, 700});
 }
 
