@@ -59,6 +59,22 @@ TEST_F(PumpEditorWindow, DrawsThePointsWhileTheyAreTyped) {
     EXPECT_EQ(binder().widget("CalculateCoefficientsCommand(0)")->property("tone"), "alarm");
 }
 
+// A percent of 10001 stretches an axis of 80 to 120 a hundredfold, and 0.001 shrinks one.
+TEST_F(PumpEditorWindow, DrawsWhatIsFarFromTheOtherPoints) {
+    editor->choose("PumpDataTabs", 4);
+    Desk::settle();
+    for (const char* percent : {"10001", "1e8", "120", "100.001", "-1e8", "120"}) {
+        editor->type("HeatingPercentNominalText(4)", percent);
+        Desk::settle();
+    }
+    editor->choose("PumpDataTabs", 1);
+    for (const char* capacity : {"1e8", "-5", "1e-3", "12"}) {
+        editor->type("CoolingFR1CapacityText(2)", capacity);
+        Desk::settle();
+    }
+    EXPECT_EQ(editor->control("HeatingPercentNominalText(4)").text(), "120");
+}
+
 TEST_F(PumpEditorWindow, TakesASpreadsheetsCellsByTheKeyOfPasting) {
     editor->choose("PumpDataTabs", 1);
     Desk::settle();
