@@ -249,8 +249,7 @@ TEST_F(EditorCurves, LeaveOutOfTheirPicturesWhatNoChartCanHold) {
     EXPECT_EQ(window.rating(cooling).capacity[cooling].measured.size(), 2u);
     window.type("CoolingEWTText(1)", "1e300");
     const FitPicture picture = window.rating(cooling);
-    for (const CurvePoint& point : picture.power[cooling].line)
-        EXPECT_LE(point.x, 1e9);
+    for (const CurvePoint& point : picture.power[cooling].line) EXPECT_LE(point.x, 1e9);
 }
 
 TEST_F(EditorCurves, CarryThePointOfTheTest) {
