@@ -3,30 +3,11 @@
 // zones.
 #include <benchmark/benchmark.h>
 
-#include <vector>
-
 #include "design/borehole_run.h"
+#include "sample_building.h"
 
 namespace varnholt {
 namespace {
-
-/// Zones of different sizes, so that no two add the same figures.
-std::vector<Zone> buildingOf(std::int64_t zoneCount) {
-    std::vector<Zone> zones(static_cast<std::size_t>(zoneCount));
-    double size = 1;
-    for (Zone& zone : zones) {
-        zone.gains = {{{20 * size, 18 * size},
-                       {36 * size, 12 * size},
-                       {30 * size, 16 * size},
-                       {6 * size, 26 * size}}};
-        zone.hours = {1000, 900};
-        zone.days = 5;
-        zone.pump.capacity = {38 * size, 30 * size};
-        zone.pump.watts = {2.8 * size, 2.5 * size};
-        size = size > 2 ? 1 : size + 0.01;
-    }
-    return zones;
-}
 
 void borehole(benchmark::State& state) {
     BoreholeProject project;

@@ -12,15 +12,16 @@ random_users=${VARNHOLT_RANDOM_USERS:-40}
 
 monkey_at_length() {
     build_preset asan varnholt-monkey
-    say "A random user presses 100,000 times under the sanitizers, seed $seed"
-    build/asan/bin/varnholt-monkey --seed "$seed" --presses 100000 --trace build/long/monkey.vscript
+    say "A random user presses 100,000 times and undoes and redoes 100,000 steps under the sanitizers, seed $seed"
+    build/asan/bin/varnholt-monkey --seed "$seed" --presses 100000 --undone 100000 \
+        --trace build/long/monkey.vscript
 }
 
 kills_at_length() {
     build_preset release test_persistence
-    say "Ten thousand saves are killed"
+    say "Ten thousand saves of each kind of design are killed"
     build/release/bin/test_persistence --gtest_repeat=10 --gtest_brief=1 \
-        --gtest_filter='SavingLosesNothing.WhenTheProgramIsKilledAtAnyMomentOfAThousandSaves'
+        --gtest_filter='*SavingLosesNothing.WhenTheProgramIsKilledAtAnyMomentOfAThousandSaves/*'
 }
 
 # What a fuzzing program starts from, and its options: fuzz_examples NAME
@@ -28,7 +29,7 @@ fuzz_examples() {
     case $1 in
         pump_list | series_file) echo resources/pumps tests/files ;;
         zone_file) echo tests/files examples ;;
-        project_file) echo tests/files/projects examples ;;
+        project_file | horizontal_file | surface_water_file) echo tests/files/projects examples ;;
         script) echo tests/scripts -dict=fuzz/fuzz_script.dict ;;
     esac
 }

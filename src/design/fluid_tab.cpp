@@ -83,7 +83,8 @@ void FluidTab::addSolution() {
                          .help = "borehole#fluid",
                          .accessible = Text::solutionProperties,
                          .distinction = Text::percentAntifreeze},
-              .changed = [this] { showPercent(); }});
+              .changed = [this] { showPercent(); }})
+        .steppedBy("FLPercentAntifreezeUpDown");
     add("FLPercentAntifreezeUpDown", ControlKind::upDown, "FLSolutionFrame")
         .captionedBy("FLPercentAntifreezeLabel")
         .setRange(0, 100);

@@ -13,6 +13,7 @@ namespace varnholt {
 namespace {
 
 constexpr int captionElement = 2;
+constexpr const char* frame = "CACalculationFrame";
 
 }  // namespace
 
@@ -21,45 +22,58 @@ std::string shownAs(const Quantity& quantity, const GroundDesign& design, double
     return formatNumber(quantity.shown(value, design.units()), format);
 }
 
+std::string shownWithUnit(const Quantity& quantity, const GroundDesign& design, double value,
+                          UnitTexts unit, std::string_view format) {
+    return shownAs(quantity, design, value, format) + " " + design.text(unit.in(design.units()));
+}
+
 ResultsTab::ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int frameCaption)
-    : DesignTab(design), rows_(std::move(rows)) {
-    const std::string frame = "CACalculationFrame";
+    : DesignTab(design) {
     addFrame(frame, frameCaption);
-    add("CATopLabel(0)", ControlKind::label, frame, Text::resultsCooling);
-    add("CATopLabel(1)", ControlKind::label, frame, Text::resultsHeating);
-    for (const ResultRow& row : rows_) {
+    top_ = {&add("CATopLabel(0)", ControlKind::label, frame, Text::resultsCooling),
+            &add("CATopLabel(1)", ControlKind::label, frame, Text::resultsHeating)};
+    for (ResultRow& row : rows) {
         addUnitLabel(elementName(row.label, captionElement), frame, row.caption);
-        for (const Mode mode : modes) add(elementName(row.label, mode), ControlKind::label, frame);
+        const ByMode<Control*> labels{&addValue(row.label, cooling), &addValue(row.label, heating)};
+        rows_.push_back({std::move(row), labels});
     }
     add("CACalculateCommand", ControlKind::button, frame, Text::calculate);
     onClick("CACalculateCommand", [this] { this->design().CACalculateCommand_Click(); });
 }
 
+Control& ResultsTab::addValue(const std::string& label, Mode mode) {
+    return add(elementName(label, mode), ControlKind::label, frame);
+}
+
 void ResultsTab::setUnitLabels() {
     DesignTab::setUnitLabels();
-    for (const ResultRow& row : rows_)
-        for (const Mode mode : modes)
-            control(elementName(row.label, mode)).setCaption(row.value(mode));
+    showFigures();
+}
+
+void ResultsTab::showFigures() {
+    for (const auto& [row, labels] : rows_)
+        for (const Mode mode : modes) labels[mode]->setCaption(row.value(mode));
+}
+
+void ResultsTab::paint(const ByMode<Control*>& labels, Mode greyed, int governingColour) {
+    const Mode governing = greyed == cooling ? heating : cooling;
+    labels[greyed]->setForecolor(colours::greyed).setBold(false);
+    labels[governing]->setForecolor(governingColour).setBold(true);
 }
 
 void ResultsTab::paintGoverning(Mode greyed) {
-    const Mode governing = greyed == cooling ? heating : cooling;
-    const int colour = governing == cooling ? colours::coolingGoverns : colours::heatingGoverns;
-    const auto paint = [&](const std::string& label, int governingColour) {
-        control(elementName(label, greyed)).setForecolor(colours::greyed).setBold(false);
-        control(elementName(label, governing)).setForecolor(governingColour).setBold(true);
-    };
-    paint("CATopLabel", colour);
-    for (const ResultRow& row : rows_) paint(row.label, row.isLength ? colours::black : colour);
+    const int colour = greyed == heating ? colours::coolingGoverns : colours::heatingGoverns;
+    paint(top_, greyed, colour);
+    for (const auto& [row, labels] : rows_)
+        if (row.painted) paint(labels, greyed, row.isLength ? colours::black : colour);
 }
 
 void ResultsTab::paintPlain() {
-    const auto paint = [this](const std::string& label) {
-        for (const Mode mode : modes)
-            control(elementName(label, mode)).setForecolor(colours::black).setBold(false);
+    const auto plain = [](const ByMode<Control*>& labels) {
+        for (Control* label : labels) label->setForecolor(colours::black).setBold(false);
     };
-    paint("CATopLabel");
-    for (const ResultRow& row : rows_) paint(row.label);
+    plain(top_);
+    for (const ShownRow& shown : rows_) plain(shown.labels);
 }
 
 std::vector<ResultRow> unitRows(const GroundDesign& design,

@@ -18,6 +18,7 @@ struct ResultRow {
     UnitTexts caption;
     std::function<std::string(Mode)> value;
     bool isLength = false;  ///< black in the governing mode
+    bool painted = true;    ///< follows the governing mode at all
 };
 
 /// The results by mode, and the Calculate button.
@@ -26,13 +27,25 @@ class ResultsTab : public DesignTab {
     ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int frameCaption);
 
     void setUnitLabels() override;
+    /// Shows the figures of the last run. Their labels follow the units alone.
+    void showFigures();
     /// Greys one mode's figures and paints the other's in its colour.
     void paintGoverning(Mode greyed);
     /// As before the first run.
     void paintPlain();
 
  private:
-    std::vector<ResultRow> rows_;
+    /// A row and the labels of its values, which a run writes to without looking them up.
+    struct ShownRow {
+        ResultRow row;
+        ByMode<Control*> labels;
+    };
+
+    Control& addValue(const std::string& label, Mode mode);
+    void paint(const ByMode<Control*>& labels, Mode greyed, int governingColour);
+
+    ByMode<Control*> top_{};
+    std::vector<ShownRow> rows_;
 };
 
 /// The rows that every kind of design has below its lengths.
@@ -47,5 +60,8 @@ ResultRow soilChangeRow(const GroundDesign& design, const std::function<double(M
 /// A figure as the results show it.
 std::string shownAs(const Quantity& quantity, const GroundDesign& design, double value,
                     std::string_view format = "###0.0");
+/// The same with the word of the unit behind it.
+std::string shownWithUnit(const Quantity& quantity, const GroundDesign& design, double value,
+                          UnitTexts unit, std::string_view format = "###0.0");
 
 }  // namespace varnholt

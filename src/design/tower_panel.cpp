@@ -86,6 +86,10 @@ void TowerPanel::addFigure(const Figure& figure) {
 
 void TowerPanel::setUnitLabels() {
     DesignTab::setUnitLabels();
+    showFigures();
+}
+
+void TowerPanel::showFigures() {
     showPercent();
     showTower();
 }

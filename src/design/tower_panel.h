@@ -17,6 +17,8 @@ class TowerPanel : public DesignTab {
                std::function<modCalculations::TowerYear()> year);
 
     void setUnitLabels() override;
+    /// Shows the tower as the last run found it. Its labels follow the units alone.
+    void showFigures();
     /// Cooling governs: the slider can be used, and everything stands in black.
     void wake();
     /// Heating governs: there is no load to shift.

@@ -40,6 +40,7 @@ enum class Property {
     value,
     min,
     max,
+    step,
     items,
     selected,
     backcolor,
@@ -100,6 +101,8 @@ class Control {
     double value() const { return value_; }
     double min() const { return min_; }
     double max() const { return max_; }
+    /// By how much one click of an up-down goes. One of more than 1 takes whole steps only.
+    double step() const { return step_; }
     const std::vector<std::string>& items() const { return items_; }
     /// Selected rows of a list, ascending.
     const std::vector<int>& selected() const { return selected_; }
@@ -119,10 +122,14 @@ class Control {
     bool editable() const { return editable_; }
     /// A list in which several rows may be selected.
     bool multiple() const { return multiple_; }
+    /// An option that acts also when it is chosen already.
+    bool repeating() const { return repeating_; }
     /// Name of the label that captions the control, empty for none.
     const std::string& label() const { return label_; }
     /// Name of the label that tells its unit, empty for none.
     const std::string& unitLabel() const { return unitLabel_; }
+    /// Name of the up-down that steps its number, empty for none.
+    const std::string& upDown() const { return upDown_; }
     /// What a screen reader calls the control, where that is not its label's or its own caption.
     const std::string& accessibleName() const { return accessibleName_; }
     /// Page of the help that explains it, with its section: "soil#temperature". Empty for none.
@@ -138,6 +145,7 @@ class Control {
     Control& setIndex(int index);
     Control& setValue(double value);
     Control& setRange(double min, double max);
+    Control& setStep(double step);
     /// Replaces the entries; the index becomes -1 and the selection empty.
     Control& setItems(std::vector<std::string> items);
     Control& setItem(std::size_t row, std::string text);
@@ -156,8 +164,10 @@ class Control {
     Control& grouped(std::string group);
     Control& editableText();
     Control& multipleRows();
+    Control& repeatingClicks();
     Control& captionedBy(std::string label);
     Control& unitsIn(std::string unitLabel);
+    Control& steppedBy(std::string upDown);
     Control& helpedBy(std::string topic);
 
     void setObserver(ControlObserver* observer) { observer_ = observer; }
@@ -171,15 +181,15 @@ class Control {
     ControlKind kind_;
     ControlObserver* observer_ = nullptr;
     std::string text_, caption_, tooltip_, container_, group_;
-    std::string label_, unitLabel_, accessibleName_, helpTopic_;
+    std::string label_, unitLabel_, upDown_, accessibleName_, helpTopic_;
     std::vector<std::string> items_;
     std::vector<int> selected_;
     Date date_;
-    double value_ = 0, min_ = 0, max_ = 100;
+    double value_ = 0, min_ = 0, max_ = 100, step_ = 1;
     int index_ = -1;
     int backcolor_, forecolor_ = colours::black;
     bool enabled_ = true, visible_ = true, locked_ = false, checked_ = false, bold_ = false;
-    bool refused_ = false, editable_ = false, multiple_ = false;
+    bool refused_ = false, editable_ = false, multiple_ = false, repeating_ = false;
 };
 
 /// "CATopLabel(1)": the name of an element of a control array.

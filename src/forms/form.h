@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "forms/control.h"
@@ -172,7 +173,7 @@ class Form {
     Platform& platform_;
     const Texts& texts_;
     std::vector<std::unique_ptr<Control>> controls_;
-    std::map<std::string, Control*, std::less<>> byName_;
+    std::unordered_map<std::string, Control*> byName_;
     std::map<std::string, Handlers, std::less<>> handlers_;
     Values values_;
     NumericFields fields_{*this};

@@ -179,6 +179,8 @@ constexpr int nextWindow = 1356;
 constexpr int noWindows = 1357;
 constexpr int startPageTitle = 1358;
 constexpr int startPageBorehole = 1359;
+constexpr int startPageHorizontal = 1370;
+constexpr int startPageSurfaceWater = 1371;
 constexpr int startPageZones = 1360;
 constexpr int startPageOpen = 1361;
 constexpr int startPageDrop = 1362;
@@ -382,10 +384,157 @@ constexpr int projectDate = 2712;
 constexpr int projectStartDate = 2713;
 constexpr int projectComments = 2714;
 
+// The surface water design: its title and its pages.
+constexpr int surfaceWaterDesignTitle = 3001;
+constexpr int loopPipingPage = 3002;
+constexpr int surfaceWaterPage = 3003;
+
+// Lengths, flows and losses of the loops and headers.
+constexpr int requiredLoopLengths = 3101;
+constexpr int loopLengthMetric = 3102;
+constexpr int loopLengthEnglish = 3103;
+constexpr int loopNumber = 3104;
+constexpr int maxParallelLoops = 3105;
+constexpr int approachTempMetric = 3106;
+constexpr int approachTempEnglish = 3107;
+constexpr int circuitFlowMetric = 3108;
+constexpr int circuitFlowEnglish = 3109;
+constexpr int primaryHeaderFlowMetric = 3110;
+constexpr int primaryHeaderFlowEnglish = 3111;
+constexpr int branchHeaderFlowMetric = 3112;
+constexpr int branchHeaderFlowEnglish = 3113;
+constexpr int loopLossMetric = 3114;
+constexpr int loopLossEnglish = 3115;
+constexpr int headerLossMetric = 3116;
+constexpr int headerLossEnglish = 3117;
+constexpr int totalLossMetric = 3118;
+constexpr int totalLossEnglish = 3119;
+constexpr int minimumFlowUnitsMetric = 3210;
+constexpr int minimumFlowUnitsEnglish = 3211;
+constexpr int minimumLoopFlow = 3212;
+
+// Soil around buried headers.
+constexpr int groundTemperatureCorrections = 3301;
+constexpr int headersInSoil = 3302;
+constexpr int correctedTemperatureMetric = 3303;
+constexpr int correctedTemperatureEnglish = 3304;
+constexpr int headerDepth = 3305;
+constexpr int soilType = 3308;
+constexpr int drySoil = 3309;
+constexpr int dampSoil = 3310;
+constexpr int wetSoil = 3311;
+constexpr int airTemperatureSwing = 3312;
+constexpr int extremeDays = 3313;
+constexpr int summer = 3314;
+constexpr int winter = 3315;
+constexpr int swingTableButton = 3316;
+
+// Loops and headers.
+constexpr int circuitParameters = 3402;
+constexpr int loopPipeSize = 3403;
+constexpr int loopStyle = 3405;
+constexpr int coil = 3406;
+constexpr int slinky = 3407;
+constexpr int numberOfLoops = 3408;
+constexpr int loopHeadLoss = 3409;
+constexpr int headLossUnitsMetric = 3410;
+constexpr int headLossUnitsEnglish = 3411;
+constexpr int extraEquivalentLength = 3412;
+constexpr int headerParameters = 3413;
+constexpr int numberOfHeaders = 3414;
+constexpr int primaryHeader = 3415;
+constexpr int branchHeader = 3416;
+constexpr int lengthInWater = 3417;
+constexpr int lengthInSoil = 3418;
+constexpr int headerLength = 3419;
+constexpr int headerHeadLoss = 3420;
+constexpr int primaryCoolingLoss = 3421;
+constexpr int primaryHeatingLoss = 3422;
+constexpr int branchCoolingLoss = 3423;
+constexpr int branchHeatingLoss = 3424;
+constexpr int headerPipeSize = 3425;
+constexpr int loopPipeThreeQuarterInch = 3430;
+constexpr int loopPipeOneInch = 3431;
+constexpr int loopPipeOneAndAQuarterInch = 3432;
+constexpr int loopPipeOneAndAHalfInch = 3433;
+constexpr int headerPipeTwoInch = 3434;
+constexpr int headerPipeThreeInch = 3435;
+constexpr int headerPipeFourInch = 3436;
+constexpr int headerPipeSixInch = 3437;
+
+// The water.
+constexpr int surfaceWaterProperties = 3501;
+constexpr int loopWaterTemperatures = 3502;
+constexpr int primaryHeaderWaterTemperatures = 3503;
+constexpr int branchHeaderWaterTemperatures = 3504;
+constexpr int surfaceWaterDetails = 3505;
+constexpr int surfaceWaterType = 3507;
+constexpr int pond = 3508;
+constexpr int lake = 3509;
+constexpr int reservoir = 3510;
+constexpr int river = 3511;
+constexpr int otherWater = 3512;
+constexpr int surfaceArea = 3513;
+constexpr int areaUnitsMetric = 3514;
+constexpr int areaUnitsEnglish = 3515;
+constexpr int loopPipeDepth = 3516;
+
+// The horizontal design: its title and its page.
+constexpr int horizontalDesignTitle = 5001;
+constexpr int configurationPage = 5002;
+
+// Trenches and the pipes in them.
+constexpr int trenchNumber = 5005;
+constexpr int trenchSeparation = 5006;
+constexpr int trenchDepth = 5007;
+constexpr int trenchWidth = 5008;
+constexpr int widthUnitsMetric = 5009;
+constexpr int widthUnitsEnglish = 5010;
+constexpr int trenchLayout = 5011;
+constexpr int pipeConfigurationInTrench = 5012;
+constexpr int verticalSeparation = 5016;
+constexpr int coilPitch = 5017;
+constexpr int coilDiameter = 5018;
+constexpr int totalNumberOfPipes = 5019;
+constexpr int oneColumnOfPipes = 5021;
+constexpr int twoColumnsOfPipes = 5022;
+constexpr int threeColumnsOfPipes = 5023;
+constexpr int slinkyLyingFlat = 5024;
+constexpr int slinkyOnEdge = 5025;
+constexpr int offsetRows = 5026;
+constexpr int trenchWidened = 5033;
+constexpr int horizontalSeparation = 5034;
+constexpr int trenchDeepened = 5036;
+
+// Lengths of pipe and trench.
+constexpr int requiredTrenchLengths = 5041;
+constexpr int totalPipeLengthMetric = 5042;
+constexpr int totalPipeLengthEnglish = 5043;
+constexpr int totalTrenchLengthMetric = 5044;
+constexpr int totalTrenchLengthEnglish = 5045;
+constexpr int singleTrenchLengthMetric = 5046;
+constexpr int singleTrenchLengthEnglish = 5047;
+constexpr int trenchNumberResult = 5048;
+constexpr int pipeLengthPerTrenchMetric = 5049;
+constexpr int pipeLengthPerTrenchEnglish = 5050;
+constexpr int soilTemperatureChangeMetric = 5051;
+constexpr int soilTemperatureChangeEnglish = 5052;
+constexpr int noticeOneDayForBoth = 5081;
+
 // What stands in the pictures, and what a screen reader says of them.
 constexpr int singleUTubePicture = 2461;
 constexpr int doubleUTubePicture = 2462;
 constexpr int pipesDoNotFitPicture = 2463;
+constexpr int pipesInTrenchPicture = 5061;
+constexpr int lyingSlinkyPicture = 5062;
+constexpr int standingSlinkyPicture = 5063;
+constexpr int slinkyTooWidePicture = 5064;
+constexpr int groundSurfacePicture = 5065;
+constexpr int trenchPictureEmpty = 5066;
+constexpr int pipeTrenchesPicture = 5071;
+constexpr int lyingSlinkyTrenchesPicture = 5072;
+constexpr int standingSlinkyTrenchesPicture = 5073;
+constexpr int trenchesCutPicture = 5074;
 constexpr int boresWithoutNeighbour = 2531;
 constexpr int boresAtEnd = 2532;
 constexpr int boresAtCorner = 2533;
@@ -394,6 +543,28 @@ constexpr int boresInside = 2535;
 constexpr int boresInLine = 2536;
 constexpr int fieldPictureEmpty = 2541;
 constexpr int fieldPicture = 2542;
+constexpr int groundChartDepth = 3351;
+constexpr int groundChartDay = 3352;
+constexpr int groundChartTemperature = 3353;
+constexpr int groundChartWarmestDay = 3354;
+constexpr int groundChartColdestDay = 3355;
+constexpr int groundChart = 3356;
+constexpr int groundChartEmpty = 3357;
+constexpr int groundChartAtDepth = 3358;
+constexpr int circuit = 3550;
+constexpr int circuitHeatPumps = 3551;
+constexpr int circuitPrimaryHeaders = 3552;
+constexpr int circuitBranches = 3553;
+constexpr int circuitLoops = 3554;
+constexpr int circuitInSoil = 3555;
+constexpr int circuitInWater = 3556;
+constexpr int circuitCountAndFlow = 3557;
+constexpr int circuitPicture = 3558;
+constexpr int loopChartDifference = 3561;
+constexpr int loopChartPerTon = 3562;
+constexpr int loopChart = 3563;
+constexpr int loopChartAtDesign = 3564;
+constexpr int loopChartEmpty = 3565;
 constexpr int linkedWithZoneManager = 2980;
 constexpr int linkedWithAverageBlock = 2981;
 constexpr int notLinked = 2982;
@@ -748,7 +919,6 @@ constexpr int noticeManyPumps = 4533;
 constexpr int loadsWindowInUse = 8539;
 constexpr int zoneFileNotFound = 8540;
 constexpr int systemInformationUnavailable = 8541;
-constexpr int designKindNotOpened = 8542;
 constexpr int zoneFileDamaged = 8543;
 
 }  // namespace varnholt::Text

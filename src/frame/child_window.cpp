@@ -115,10 +115,11 @@ void ChildWindow::redo() {
         window->goTo(window->history_.redo());
 }
 
-void ChildWindow::goTo(const DocumentState& state) {
+void ChildWindow::goTo(const DocumentState& wanted) {
     endVisit();
     fields().forgetRefused();
-    restore(state);
+    restore(wanted);
+    history_.settle(state());
     savedStateReached(history_.isAtSaved());
     refreshNotice();
 }

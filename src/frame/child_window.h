@@ -107,7 +107,7 @@ class ChildWindow : public Form {
  private:
     void endStep(const std::string& name, const std::string& visit, int action);
     std::string visitOf(const UserAction& action) const;
-    void goTo(const DocumentState& state);
+    void goTo(const DocumentState& wanted);
 
     Varnmain& main_;
     int serial_;

@@ -15,27 +15,25 @@ struct InformationRow {
     const char* control;
     const char* label;
     int captionText;
-    const char* value;
     std::string ProjectInformation::*member;
 };
 
 constexpr std::array<InformationRow, 11> informationRows{{
-    {"INProjectNameText", "INProjectNameLabel", Text::projectName, "projectName",
+    {"INProjectNameText", "INProjectNameLabel", Text::projectName,
      &ProjectInformation::projectName},
-    {"INDesignerNameText", "INDesignerNameLabel", Text::designerName, "designerName",
+    {"INDesignerNameText", "INDesignerNameLabel", Text::designerName,
      &ProjectInformation::designerName},
-    {"INClientNameText", "INClientNameLabel", Text::clientName, "clientName",
-     &ProjectInformation::clientName},
-    {"INAddressLine1Text", "INAddressLine1Label", Text::addressLine1, "addressLine1",
+    {"INClientNameText", "INClientNameLabel", Text::clientName, &ProjectInformation::clientName},
+    {"INAddressLine1Text", "INAddressLine1Label", Text::addressLine1,
      &ProjectInformation::addressLine1},
-    {"INAddressLine2Text", "INAddressLine2Label", Text::addressLine2, "addressLine2",
+    {"INAddressLine2Text", "INAddressLine2Label", Text::addressLine2,
      &ProjectInformation::addressLine2},
-    {"INCityText", "INCityLabel", Text::city, "city", &ProjectInformation::city},
-    {"INStateText", "INStateLabel", Text::state, "state", &ProjectInformation::state},
-    {"INZipText", "INZipLabel", Text::zip, "zip", &ProjectInformation::zip},
-    {"INPhoneText", "INPhoneLabel", Text::phone, "phone", &ProjectInformation::phone},
-    {"INFaxText", "INFaxLabel", Text::fax, "fax", &ProjectInformation::fax},
-    {"INEmailText", "INEmailLabel", Text::email, "email", &ProjectInformation::email},
+    {"INCityText", "INCityLabel", Text::city, &ProjectInformation::city},
+    {"INStateText", "INStateLabel", Text::state, &ProjectInformation::state},
+    {"INZipText", "INZipLabel", Text::zip, &ProjectInformation::zip},
+    {"INPhoneText", "INPhoneLabel", Text::phone, &ProjectInformation::phone},
+    {"INFaxText", "INFaxLabel", Text::fax, &ProjectInformation::fax},
+    {"INEmailText", "INEmailLabel", Text::email, &ProjectInformation::email},
 }};
 
 }  // namespace
@@ -53,12 +51,7 @@ DesignDocument::DesignDocument(std::string formName, DesignKind kind, Varnmain& 
 
 void DesignDocument::registerValues() {
     Values& values = publicValues();
-    for (const InformationRow& row : informationRows)
-        values.add(row.value, &(information_.*row.member));
-    values.add("country", &information_.country);
-    values.add("comments", &information_.comments);
-    values.add("currentDate", &information_.currentDate);
-    values.add("projectStartDate", &information_.projectStartDate);
+    addInformationValues(values, information_);
     values.add("FileName", &FileName);
     values.add("directoryName", &directoryName);
     values.add("currentFileCheck", &currentFileCheck);

@@ -59,8 +59,8 @@ class DesignDocument : public ChildWindow {
     void setStale(bool stale);
     void savedStateReached(bool atSaved) override { changed_ = !atSaved; }
     void stepRecorded() override;
-    /// By something else than a step.
-    void documentChanged() { changed_ = true; }
+    /// By something else than a step. What fills a document that is being opened changes nothing.
+    void documentChanged() { changed_ = changed_ || history().hasStarted(); }
 
  private:
     void registerValues();

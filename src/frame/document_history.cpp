@@ -63,6 +63,10 @@ void DocumentHistory::forgetOldest() {
     at_ -= static_cast<std::size_t>(forgotten);
 }
 
+void DocumentHistory::settle(const StatePointer& now) {
+    if (!now->equals(present())) states_[at_].reached = states_[at_].left = now;
+}
+
 void DocumentHistory::rewrite(const std::function<StatePointer(const DocumentState&)>& rewritten) {
     for (Moment& moment : states_) {
         const bool alike = moment.reached == moment.left;

@@ -79,6 +79,10 @@ class DocumentHistory {
     const DocumentState& undo();
     const DocumentState& redo();
 
+    /// What undo or redo could bring back of the state: a link with a window that has closed since
+    /// cannot be made again.
+    void settle(const StatePointer& now);
+
     /// As the document stands, as far as it is known here.
     const DocumentState& present() const { return *states_[at_].left; }
     /// What is no matter of steps has changed, such as the name of the file: every state has it.

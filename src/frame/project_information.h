@@ -4,6 +4,7 @@
 #include <string>
 
 #include "basis/date.h"
+#include "forms/values.h"
 
 namespace varnholt {
 
@@ -18,5 +19,10 @@ struct ProjectInformation {
 
     friend bool operator==(const ProjectInformation&, const ProjectInformation&) = default;
 };
+
+/// Registers all of it among a window's public values, under the names of its members. It must
+/// outlive the values.
+void addInformationValues(Values& values, const ProjectInformation& information);
+void addInformationValues(Values& values, ProjectInformation&& information) = delete;
 
 }  // namespace varnholt

@@ -103,6 +103,8 @@ void Varnmain::registerValues() {
     values.add("PrintOption", &PrintOption);
     values.add("LinkOption", &LinkOption);
     values.add("TransferOption", &TransferOption);
+    values.addArray("transferPLFm", &transferPLFm);
+    values.addArray("import1TransferPLFm", &import1TransferPLFm);
     values.add("frmZoneManageWindowExists", &frmZoneManageWindowExists);
     values.add("frmAvgBlockWindowExists", &frmAvgBlockWindowExists);
     values.add("HPEditWindowExists", &HPEditWindowExists);

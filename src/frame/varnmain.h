@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "basis/mode.h"
 #include "forms/form.h"
 #include "frame/child_window.h"
 #include "frame/design_slots.h"
@@ -119,6 +120,9 @@ class Varnmain : public Form {
     std::int16_t windowCounter = 0;
     std::int16_t browserCount = 0;
     std::int16_t PrintOption = 0, LinkOption = 0, TransferOption = 0;
+    /// Load factor of the peak month that was handed over last, of a calculation of full-load hours
+    /// and of imported monthly loads.
+    ByMode<double> transferPLFm{}, import1TransferPLFm{};
     bool frmZoneManageWindowExists = false;
     bool frmAvgBlockWindowExists = false;
     bool HPEditWindowExists = false;

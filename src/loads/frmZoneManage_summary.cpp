@@ -63,7 +63,9 @@ void frmZoneManage::addSummary() {
         add("LOSummaryLabel(" + std::to_string(index++) + ")", ControlKind::label,
             heading.englishText)
             .in(frame);
-    add("LOZoneSummaryList", ControlKind::list).in(frame);
+    add("LOZoneSummaryList", ControlKind::list)
+        .in(frame)
+        .setAccessibleName(text(Text::buildingSummary));
     add("LOSummaryModeLabel(0)", ControlKind::label, Text::summaryCooling).in(frame);
     add("LOSummaryModeLabel(1)", ControlKind::label, Text::summaryHeating).in(frame);
     for (const TotalRow& row : totalRows) {

@@ -26,19 +26,6 @@ std::string trimmed(const std::string& text) {
 
 }  // namespace
 
-bool sameLoads(const Zone& a, const Zone& b) {
-    return a.gains == b.gains && a.hours == b.hours && a.days == b.days && a.title == b.title &&
-           a.pump == b.pump;
-}
-
-bool sameLoads(const SharedZones& a, const SharedZones& b) {
-    if (a.isSameAs(b)) return true;
-    if (a.size() != b.size()) return false;
-    for (std::size_t i = 0; i < a.size(); ++i)
-        if (!a.sharesZone(i, b) && !sameLoads(a[i], b[i])) return false;
-    return true;
-}
-
 LinkedDesign::LinkedDesign(std::string formName, DesignKind kind, Varnmain& main, std::int16_t slot,
                            DesignProject& project)
     : DesignDocument(std::move(formName), kind, main, slot, project.information), common_(project) {
@@ -62,7 +49,9 @@ void LinkedDesign::registerLoadsValues() {
     values.add("LoadsHome", 0, [this](const Values::Indices&) {
         return LoadsHome() == nullptr ? std::string() : LoadsHome()->formName();
     });
+    values.add("style", &style);
     addZoneValues(values, loads.zones);
+    addZoneValues(values, "zoneTemp", zoneTemp);
 }
 
 void LinkedDesign::registerConditions() {
@@ -240,7 +229,7 @@ const SharedZones& LinkedDesign::presentZones() const {
 
 int LinkedDesign::linkedWindow() const { return link_ ? LoadsHome()->serial() : 0; }
 
-void LinkedDesign::restoreLink(int windowNumber, const ProjectConditions& before) {
+void LinkedDesign::restoreLink(int windowNumber) {
     LoadsWindow* wanted = nullptr;
     for (ChildWindow* window : main().windows())
         if (windowNumber != 0 && window->serial() == windowNumber)
@@ -254,9 +243,6 @@ void LinkedDesign::restoreLink(int windowNumber, const ProjectConditions& before
     }
     common_.loads.linkType = wanted == nullptr ? std::string() : wanted->formName();
     showLinkLight();
-    for (const Mode mode : modes)
-        if (before.inletTemp[mode] != common_.conditions.inletTemp[mode]) passTemperature(mode);
-    if (before.flowRate != common_.conditions.flowRate) passFlow();
     valuePassed_ = false;
 }
 

@@ -31,6 +31,10 @@ class LinkedDesign : public DesignDocument {
     const Link* link() const { return link_.get(); }
     /// The last save of the zone file was cancelled.
     bool zoneSaveCancelled = false;
+    /// What a design shares with the loads windows under their names; it has no zone on display and
+    /// one style of loads alone.
+    Zone zoneTemp;
+    std::int16_t style = 0;
 
     /// Makes the design take its loads from the window, and shows it on both sides. No transfer.
     void joinLoads(LoadsWindow& loads);
@@ -96,9 +100,9 @@ class LinkedDesign : public DesignDocument {
     const SharedZones& presentZones() const;
     /// Number of the linked loads window, 0 without a link.
     int linkedWindow() const;
-    /// After undo and redo: links with the window of that number again, or ends the link, and
-    /// hands on those temperatures and that flow which have come back.
-    void restoreLink(int windowNumber, const ProjectConditions& before);
+    /// After undo and redo: links with the window of that number again, or ends the link. The
+    /// window's own values come back by steps of its own, where the step was one of both.
+    void restoreLink(int windowNumber);
 
  private:
     void registerLoadsValues();
@@ -113,9 +117,5 @@ class LinkedDesign : public DesignDocument {
     std::string missingZoneFile_;
     bool valuePassed_ = false;
 };
-
-/// Equal in everything but the name, which is only the place in the list.
-bool sameLoads(const Zone& a, const Zone& b);
-bool sameLoads(const SharedZones& a, const SharedZones& b);
 
 }  // namespace varnholt

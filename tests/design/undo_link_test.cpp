@@ -109,6 +109,21 @@ TEST_F(UndoOfALink, OfSeveralDesignsMakesThemAllAgain) {
     expectLinked(other, false);
 }
 
+TEST_F(UndoOfALink, OfSeveralDesignsIsRedoneInWhateverOrderTheyWereLinked) {
+    frmBHDesign& other = newDesign();
+    linkFrom(other);
+    linkFrom(design);
+    unlinkFrom(zones);
+    zones.click("LONewCommand");
+    undo();
+    undo();  // both are linked again, the first one first
+    redo();
+    redo();
+    expectLinked(design, false);
+    expectLinked(other, false);
+    EXPECT_EQ(zones.zoneNumber(), 3);
+}
+
 TEST_F(UndoOfALink, ThatWasNotMadeIsNoStep) {
     unlinkFrom(design);
     EXPECT_EQ(undoCaption(), "Undo");
@@ -132,6 +147,23 @@ TEST_F(UndoOfALink, WithAWindowThatHasClosedSinceLeavesTheDesignByItself) {
     undo();
     redo();
     EXPECT_EQ(design.LoadsHome(), nullptr);
+}
+
+TEST_F(UndoOfALink, WithAWindowThatHasClosedSinceLeavesLaterLinksAsTheyAre) {
+    linkFrom(design);
+    unlinkFrom(design);
+    platform.answers = {Answer::no};
+    main.close(zones);
+    frmAvgBlock& single = block();
+    linkFrom(design);
+    ASSERT_EQ(design.LoadsHome(), &single);
+    undo();  // the link with the block
+    undo();  // the end of the link with the window that is gone
+    EXPECT_EQ(design.LoadsHome(), nullptr);
+    undo();  // the link with it
+    for (int i = 0; i < 3; ++i) redo();
+    EXPECT_EQ(design.LoadsHome(), &single);
+    EXPECT_EQ(design.loads().linkType, "frmAvgBlock");
 }
 
 TEST_F(UndoOfALink, WithADesignThatHasClosedSinceLeavesTheLoadsByThemselves) {
@@ -200,6 +232,32 @@ TEST_F(UndoOfALink, OfATemperatureInTheDesignIsAStepOfTheLoadsToo) {
     EXPECT_EQ(zones.conditions().inletTemp[cooling], 85);
     EXPECT_EQ(design.conditions().inletTemp[cooling], 85);
     EXPECT_EQ(undoCaption(), "Undo Link");
+}
+
+TEST_F(UndoOfALink, GivesEachSideBackTheTemperatureThatItHad) {
+    setSaved(zones, "two.zon");
+    linkFrom(design);
+    design.type("FLInletTempText(0)", "92");
+    design.leave("FLInletTempText(0)");
+    // The file brings its own temperature, and the design keeps what was typed there.
+    platform.answers.push_back(Answer::no);
+    platform.picks.emplace_back(zoneFile("two.zon"));
+    zones.click("LOOpenCommand");
+    front(design);
+    ASSERT_EQ(zones.conditions().inletTemp[cooling], 85);
+    ASSERT_EQ(design.conditions().inletTemp[cooling], 92);
+    undo();
+    EXPECT_EQ(design.conditions().inletTemp[cooling], 85);
+    redo();
+    EXPECT_EQ(design.conditions().inletTemp[cooling], 92);
+    EXPECT_EQ(zones.conditions().inletTemp[cooling], 85);
+    design.type("FLInletTempText(0)", "70");
+    design.leave("FLInletTempText(0)");
+    EXPECT_EQ(zones.conditions().inletTemp[cooling], 70);
+    undo();
+    EXPECT_EQ(design.conditions().inletTemp[cooling], 92);
+    EXPECT_EQ(zones.conditions().inletTemp[cooling], 85);
+    EXPECT_FALSE(zones.hasUnsavedChanges());
 }
 
 TEST_F(UndoOfALink, OfALoadInTheLoadsIsNoStepOfTheDesign) {

@@ -89,7 +89,7 @@ TEST_F(UndoInADesign, OfAnUpDownIsNamedLikeItsField) {
 TEST_F(UndoInADesign, ToTheBeginningShowsWhatANewDesignShowed) {
     for (int i = 0; i < 4; ++i) undo();
     ASSERT_FALSE(canUndo());
-    const Shown beginning = shownBy(*design);
+    const ShownControls beginning = shownBy(*design);
     const BoreholeProject project = design->project();
     for (int i = 0; i < 4; ++i) redo();
     calculate();
@@ -118,7 +118,7 @@ TEST_F(UndoInADesign, OfASecondCalculateBringsBackTheFirst) {
     calculate();
     const std::vector<std::string> first = resultCaptions();
     typeAndLeave("SOGroundTempText", "58");
-    const Shown stale = shownBy(*design);
+    const ShownControls stale = shownBy(*design);
     calculate();
     const std::vector<std::string> second = resultCaptions();
     EXPECT_NE(second, first);
@@ -205,7 +205,7 @@ TEST_F(UndoInADesign, BringsBackATowerThatHasMadeTheHeatingGovern) {
     slide(90);
     ASSERT_GT(value("boreLength(1)"), value("boreLength(0)"));
     ASSERT_TRUE(design->control("CAHybridSlider").enabled());
-    const Shown withTower = shownBy(*design);
+    const ShownControls withTower = shownBy(*design);
     std::vector<Zone> zones = handCheckZones();
     for (Zone& zone : zones)
         for (auto& block : zone.gains) block[heating] *= 3;
@@ -269,7 +269,7 @@ TEST_F(UndoInADesign, OfAHundredStepsAndBackIsExact) {
         calculate();
     }
     const BoreholeProject last = design->project();
-    const Shown shownLast = shownBy(*design);
+    const ShownControls shownLast = shownBy(*design);
     int steps = 0;
     while (!(design->project() == first) && canUndo()) {
         undo();

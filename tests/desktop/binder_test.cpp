@@ -18,6 +18,7 @@
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/theme.h"
+#include "forms/text_numbers.h"
 #include "sample_form.h"
 
 namespace varnholt {
@@ -318,10 +319,67 @@ TEST_F(BinderTest, FieldsAreCalledByTheirCaptions) {
     EXPECT_EQ(plain(find<QWidget>("LightImage")->accessibleName()), "The light");
 }
 
-TEST_F(BinderTest, AnElementOfAnArrayFindsTheCaptionOfItsOwn) {
-    EXPECT_EQ(companionName("FLInletTempText(0)", "Label"), "FLInletTempLabel(0)");
-    EXPECT_EQ(companionName("FLInletTempText(0)", "UnitLabel", false), "FLInletTempUnitLabel");
-    EXPECT_EQ(companionName("INDateDTPicker", "Label"), "INDateLabel");
+/// A form whose field has companions of quite other names than its own.
+class UnlikeForm : public Form {
+ public:
+    UnlikeForm(Platform& platform, const Texts& texts) : Form("frmUnlike", platform, texts) {
+        add("Enclosure", ControlKind::frame).setCaption("Well");
+        addField({.control = "DepthText",
+                  .stored = &depth,
+                  .beside = {.frame = "Enclosure",
+                             .label = "HowDeep",
+                             .caption = {Text::boreholeDiameter, Text::boreholeDiameter},
+                             .unitLabel = "MeasuredIn",
+                             .unit = {Text::powerUnitsEnglish, Text::powerUnitsMetric},
+                             .accessible = Text::fluidType,
+                             .distinction = Text::heating}})
+            .steppedBy("Notches");
+        add("Notches", ControlKind::upDown).in("Enclosure").setRange(0, 10);
+        // Nobody's, though named as if they were the field's.
+        add("DepthLabel", ControlKind::label).setCaption("elsewhere");
+        add("DepthUnitLabel", ControlKind::label).setCaption("furlongs");
+        add("DepthUpDown", ControlKind::upDown);
+    }
+
+    double depth = 20;
+};
+
+TEST_F(BinderTest, AFieldIsLaidOutWithTheCompanionsOfItsRowWhateverTheirNames) {
+    UnlikeForm unlike(platform, texts);
+    FormWindow other(unlike, views.maker(), {});
+    dress(other);
+    other.show();
+    Binder& bind = other.binder();
+    QWidget* field = bind.widget("DepthText");
+    const auto left = [&](const char* name) {
+        return bind.widget(name)->mapTo(&other, QPoint()).x();
+    };
+    EXPECT_LT(left("HowDeep"), left("DepthText"));
+    EXPECT_LT(left("DepthText"), left("Notches"));
+    EXPECT_LT(left("Notches"), left("MeasuredIn"));
+    for (const char* name : {"HowDeep", "MeasuredIn", "Notches"}) {
+        const QPoint centre = bind.widget(name)->mapTo(&other, bind.widget(name)->rect().center());
+        const QPoint top = field->mapTo(&other, QPoint());
+        EXPECT_TRUE(top.y() < centre.y() && centre.y() < top.y() + field->height()) << name;
+        EXPECT_TRUE(bind.widget("Enclosure")->isAncestorOf(bind.widget(name))) << name;
+    }
+    for (const char* name : {"DepthLabel", "DepthUnitLabel", "DepthUpDown"})
+        EXPECT_FALSE(bind.widget("Enclosure")->isAncestorOf(bind.widget(name))) << name;
+    press(field, Qt::Key_Up);
+    EXPECT_EQ(unlike.control("Notches").value(), 1);
+    EXPECT_EQ(unlike.control("DepthUpDown").value(), 0);
+}
+
+TEST_F(BinderTest, AScreenReaderCallsAFieldAsItsRowSays) {
+    UnlikeForm unlike(platform, texts);
+    FormWindow other(unlike, views.maker(), {});
+    QWidget* field = other.binder().widget("DepthText");
+    const std::string name = texts.text(Text::fluidType) + ", " + texts.text(Text::heating);
+    EXPECT_EQ(plain(field->accessibleName()), name);
+    unlike.control("HowDeep").setCaption("How deep:");
+    EXPECT_EQ(plain(field->accessibleName()), name);
+    unlike.control("DepthText").setAccessibleName("Depth of the well");
+    EXPECT_EQ(plain(field->accessibleName()), "Depth of the well");
 }
 
 TEST_F(BinderTest, AFailureOfAHandlerGoesToWhoTakesItAndNotThroughTheToolkit) {

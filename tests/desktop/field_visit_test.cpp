@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
+#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -75,6 +76,15 @@ TEST_F(FieldVisit, EndsWithACommandByItsShortcut) {
     QTest::keyClick(screen(), Qt::Key_S, Qt::ControlModifier);
     expectLeft("91.0");
     EXPECT_TRUE(desk.platform.picks.empty());
+}
+
+TEST_F(FieldVisit, LeavesNoStarInTheTitleOnceItIsSaved) {
+    keys(QStringLiteral("91"));
+    const QMdiSubWindow* frame = desk.window->area().activeSubWindow();
+    EXPECT_TRUE(frame->isWindowModified());
+    desk.platform.picks = {desk.folder() + "/work files/visit.vht"};
+    QTest::keyClick(screen(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(frame->isWindowModified());
 }
 
 TEST_F(FieldVisit, FillsAnEmptiedFieldBeforeItIsSaved) {

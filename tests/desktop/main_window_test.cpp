@@ -19,9 +19,9 @@
 
 #include "desk.h"
 #include "desktop/binding/mnemonics.h"
-#include "desktop/widgets/desktop_texts.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/windows/desktop_platform.h"
+#include "forms/text_numbers.h"
 #include "frame/menu_table.h"
 
 namespace varnholt {
@@ -246,7 +246,7 @@ TEST_F(MainWindowTest, OpensAZoneFileThatIsDroppedOnItAndRemembersIt) {
     EXPECT_GT(desk.main().find("frmZoneManage")->control("LOZoneList").items().size(), 0U);
     QMenu* recent = nullptr;
     for (QMenu* menu : desk.window->findChildren<QMenu*>())
-        if (plain(menu->title()) == desk.main().text(desktop_texts::recentFiles)) recent = menu;
+        if (plain(menu->title()) == desk.main().text(Text::recentFiles)) recent = menu;
     ASSERT_NE(recent, nullptr);
     recent->aboutToShow();
     EXPECT_EQ(plain(recent->actions().front()->statusTip()), zones);

@@ -74,6 +74,19 @@ TEST_F(Person, LeavesAHalfTypedFieldAloneByACommandOfTheEditMenu) {
     EXPECT_EQ(text(temperature), "");
 }
 
+TEST_F(Person, DoesNothingByAnEditKeyOverWhatHoldsNoText) {
+    QWidget* check = desk.shelf.windowOf(*design)->binder().widget("MetricCheck");
+    check->setFocus();
+    Desk::settle();
+    ASSERT_TRUE(check->hasFocus());
+    const std::string before = text(temperature);
+    for (const Qt::Key key : {Qt::Key_X, Qt::Key_C, Qt::Key_V, Qt::Key_A})
+        QTest::keyClick(check, key, Qt::ControlModifier);
+    for (const char* name : {"mnuCut", "mnuCopy", "mnuPaste", "mnuSelectAll"}) command(name);
+    EXPECT_EQ(text(temperature), before);
+    EXPECT_FALSE(design->control("MetricCheck").checked());
+}
+
 TEST_F(Person, TakesTheTypingBackFirstAndThenWhatTheDocumentHasSeen) {
     const std::string before = text(temperature);
     QLineEdit& edit = field(temperature);

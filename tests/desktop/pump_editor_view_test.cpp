@@ -122,7 +122,7 @@ TEST(FitCurvesDrawing, TellsHowTheCurvesFit) {
               "Cooling Capacity: 3 points, met within 3.7 %. Cooling Power: 3 points, met within "
               "3.7 %.");
     picture.curves.capacity[cooling].stale = true;
-    picture.curves.power[cooling].operating = CurvePoint{75, 29};
+    picture.curves.power[cooling].operating = FitPoint{75, 29};
     curves->refresh();
     EXPECT_EQ(curves->description(),
               "Cooling Capacity: fitted from older data. Cooling Power: 29.0 at 75.0.");

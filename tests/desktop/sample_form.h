@@ -16,7 +16,10 @@ class SampleForm : public Form {
         setCaption("Sample");
         add("MainFrame", ControlKind::frame).setCaption("Heat & Power");
         in("DepthLabel", ControlKind::label).setCaption("Depth:");
-        in("DepthText", ControlKind::text);
+        in("DepthText", ControlKind::text)
+            .captionedBy("DepthLabel")
+            .unitsIn("DepthUnitLabel")
+            .steppedBy("DepthUpDown");
         in("DepthUnitLabel", ControlKind::label).setCaption("ft");
         in("DepthUpDown", ControlKind::upDown).setRange(0, 10);
         in("NameText", ControlKind::text);

@@ -13,10 +13,10 @@ namespace varnholt {
 
 /// Everything that a form shows, by control and property: what a person could tell two moments of
 /// it apart by.
-using Shown = std::map<std::string, std::string>;
+using ShownControls = std::map<std::string, std::string>;
 
-inline Shown shownBy(const Form& form) {
-    Shown shown;
+inline ShownControls shownBy(const Form& form) {
+    ShownControls shown;
     for (const auto& control : form.controls()) {
         const auto put = [&](const char* property, const auto& value) {
             shown[control->name() + "." + property] = fmt::format("{}", value);
@@ -45,7 +45,7 @@ inline Shown shownBy(const Form& form) {
 }
 
 /// A line for each property in which two moments differ; empty for none.
-inline std::string differences(const Shown& before, const Shown& now) {
+inline std::string differences(const ShownControls& before, const ShownControls& now) {
     std::string lines;
     for (const auto& [name, value] : now) {
         const auto found = before.find(name);

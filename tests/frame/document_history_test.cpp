@@ -269,6 +269,20 @@ TEST_F(DocumentHistoryTest, ASavedStateThatIsForgottenIsNotMistakenForAnother) {
     EXPECT_FALSE(history.isAtSaved());
 }
 
+TEST_F(DocumentHistoryTest, TakesWhatUndoCouldBringBackForTheStateFromThenOn) {
+    record(1);
+    history.markSaved(state(1));
+    record(2);
+    undo();
+    history.settle(state(10));
+    EXPECT_TRUE(history.isAtSaved());
+    EXPECT_EQ(numberOf(history.present()).value, 10);
+    EXPECT_EQ(redo(), 2);
+    EXPECT_EQ(undo(), 10);
+    EXPECT_EQ(undo(), 0);
+    EXPECT_EQ(redo(), 10);
+}
+
 TEST_F(DocumentHistoryTest, BringsBackThePlaceInWhichAStepWasMade) {
     history.record(state(1, 1), "One", "");
     history.absorb(state(1, 7));  // another place was chosen, and the next step made there

@@ -66,6 +66,16 @@ TEST_F(VarnmainTest, StartsInEnglishUnitsWhenTheLanguageHasNoFont) {
     EXPECT_EQ(main.caption(), "[1001]");
 }
 
+TEST_F(VarnmainTest, TellsTheLoadFactorsThatTransfersHandOver) {
+    main.transferPLFm = {0.25, 0.5};
+    main.import1TransferPLFm = {0.75, 1};
+    EXPECT_EQ(std::get<double>(main.values().read("transferPLFm(0)")), 0.25);
+    EXPECT_EQ(std::get<double>(main.values().read("transferPLFm(1)")), 0.5);
+    EXPECT_EQ(std::get<double>(main.values().read("import1TransferPLFm(0)")), 0.75);
+    EXPECT_EQ(std::get<double>(main.values().read("import1TransferPLFm(1)")), 1);
+    EXPECT_THROW(main.values().read("transferPLFm(2)"), RunTimeError);
+}
+
 TEST_F(VarnmainTest, StartsInMetricWhenTheLanguageHasAFont) {
     texts.known[1101] = "Sans Serif";
     Varnmain other(platform, texts, "/program");

@@ -6,6 +6,14 @@ namespace {
 
 using Link = LinkTest;
 
+TEST_F(Link, ADesignTellsItsLoadsUnderTheNamesOfALoadsWindow) {
+    PlainDesign& design = newDesign();
+    design.style = 3;
+    design.zoneTemp.gains[1][0] = 16;
+    EXPECT_EQ(std::get<double>(design.values().read("style")), 3);
+    EXPECT_EQ(std::get<double>(design.values().read("zoneTemp.gains(1,0)")), 16);
+}
+
 TEST_F(Link, FromADesignTakesTheOnlyLoadsWindow) {
     PlainLoads& loads = newLoads();
     loads.setZones({zone(10), zone(20)});

@@ -34,10 +34,10 @@ class LoadsUndo : public PumpChoiceTest {
         SCOPED_TRACE(name);
         const LoadsDocument before = window.document();
         const std::string earlier = undoCaption();
-        const Shown shownBefore = shownBy(window);
+        const ShownControls shownBefore = shownBy(window);
         action();
         const LoadsDocument after = window.document();
-        const Shown shownAfter = shownBy(window);
+        const ShownControls shownAfter = shownBy(window);
         EXPECT_FALSE(after == before);
         EXPECT_EQ(undoCaption(), "Undo " + name);
         undo();

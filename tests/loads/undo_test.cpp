@@ -257,7 +257,7 @@ TEST_F(UndoInTheZoneManager, KeepsTheSummaryOnShowAndUpToDate) {
     typeAndLeave("LOGainsText(1)", "45");
     window.click("LOSummaryCommand");
     EXPECT_EQ(shown(window, "LOPeakLoadLabel(0)"), "60.0");  // 15 and 45
-    const Shown before = shownBy(window);
+    const ShownControls before = shownBy(window);
     undo();
     EXPECT_EQ(shown(window, "LOPeakLoadLabel(0)"), "50.0");
     EXPECT_FALSE(enabled(window, "LORemoveCommand"));

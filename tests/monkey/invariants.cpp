@@ -89,6 +89,11 @@ void checkFrame(Varnmain& main) {
             "windows are open and none is active");
     require(main.control("Metric").checked() != main.control("English").checked(), main,
             "both unit systems are on, or none");
+    const ChildWindow* active = main.activeWindow();
+    require(main.control("mnuUndo").enabled() == (active != nullptr && active->history().canUndo()),
+            main, "Undo does not tell whether there is something to undo");
+    require(main.control("mnuRedo").enabled() == (active != nullptr && active->history().canRedo()),
+            main, "Redo does not tell whether there is something to redo");
     std::size_t slots = 0;
     for (const DesignKind kind : designKinds) slots += main.slots(kind).count();
     require(slots == main.designs().size(), main,

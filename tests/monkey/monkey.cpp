@@ -19,6 +19,7 @@ constexpr std::size_t manyWindows = 8;
 constexpr int pressesInADialog = 30;
 constexpr int closesOfADialog = 100;
 constexpr int looks = 3;
+constexpr std::size_t proofsInAHundred = 2;
 
 bool isEnabled(const Form& form, const Control& control) {
     if (!control.enabled()) return false;
@@ -54,7 +55,7 @@ std::vector<const Control*> workableOf(const Form& form) {
 }  // namespace
 
 Monkey::Monkey(Varnmain& main, MonkeyPlatform& platform, Driver& driver, Dice& dice, MonkeyLog& log)
-    : main_(main), platform_(platform), driver_(driver), dice_(dice), log_(log) {
+    : main_(main), platform_(platform), driver_(driver), dice_(dice), log_(log), undo_(main) {
     platform_.forms().addMain(main_);
     platform_.begin(*this);
 }
@@ -64,6 +65,18 @@ void Monkey::press() {
     if (!running()) return;
     checkFrame(main_);
     if (!main_.modalForms().empty()) throw std::runtime_error("a dialog has been left behind");
+    undo_.follow();
+    if (dice_.chance(proofsInAHundred)) proveUndo();
+}
+
+void Monkey::proveUndo() {
+    undo_.prove([this](const char* entry) {
+        const Control& control = main_.control(entry);
+        log("click", main_, control);
+        driver_.click(main_, control);
+    });
+    checkFrame(main_);
+    if (ChildWindow* window = main_.activeWindow()) worked(window);
 }
 
 void Monkey::runModal(Form& form) {
@@ -121,6 +134,7 @@ Form& Monkey::anyForm() {
     ChildWindow& window = *dice_.among(windows);
     log_.action("activate " + platform_.forms().nameOf(window));
     driver_.activate(window);
+    undo_.follow();  // it may have taken over loads that have changed
     return window;
 }
 

@@ -8,6 +8,7 @@
 #include "monkey/dice.h"
 #include "monkey/monkey_log.h"
 #include "monkey/monkey_platform.h"
+#include "monkey/undo_proof.h"
 #include "script/driver.h"
 
 namespace varnholt {
@@ -24,6 +25,8 @@ class Monkey : public ScriptHost {
     /// Whether the main window is still open.
     bool running() const { return platform_.forms().isOpen(&main_); }
     std::size_t presses() const { return presses_; }
+    /// Steps that have been undone and redone to prove that documents come back.
+    std::size_t stepsProved() const { return undo_.steps(); }
 
     void runModal(Form& form) override;
     void fail(const ScriptFault& fault) override;
@@ -33,6 +36,7 @@ class Monkey : public ScriptHost {
     Form& anyForm();
     const Control& anyControl(const std::vector<const Control*>& workable);
     void look(Form& form);
+    void proveUndo();
     void closeSome();
     void work(Form& form, const Control& control);
     void worked(Form* form);
@@ -49,6 +53,7 @@ class Monkey : public ScriptHost {
     Driver& driver_;
     Dice& dice_;
     MonkeyLog& log_;
+    UndoProof undo_;
     std::size_t presses_ = 0;
 };
 

@@ -22,13 +22,15 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* usage =
-    "varnholt-monkey [--seed N] [--presses N] [--trace FILE] [--aloud]\n"
-    "A random user of every window. The last session, which is the failed one after a\n"
-    "failure, is written to FILE as a script.\n";
+    "varnholt-monkey [--seed N] [--presses N] [--undone N] [--trace FILE] [--aloud]\n"
+    "A random user of every window, who now and then undoes a document to its beginning and\n"
+    "redoes it to its end. Plays on until at least so many steps are undone and redone. The\n"
+    "last session, which is the failed one after a failure, is written to FILE as a script.\n";
 
 struct Options {
     std::uint64_t seed = 1;
     std::size_t presses = 2000;
+    std::size_t undone = 0;
     std::string trace;
     bool aloud = false;
 };
@@ -50,6 +52,8 @@ Options readOptions(const std::vector<std::string>& arguments) {
             options.seed = readWhole(value());
         else if (name == "--presses")
             options.presses = readWhole(value());
+        else if (name == "--undone")
+            options.undone = readWhole(value());
         else if (name == "--trace")
             options.trace = value();
         else if (name == "--aloud")
@@ -80,8 +84,13 @@ class SessionFolder {
     fs::path path_;
 };
 
-/// The program from its start to its end, or to so many presses. Returns the presses done.
-std::size_t playSession(std::size_t presses, std::uint64_t seed, Dice& dice, MonkeyLog& log) {
+/// What has been done: by hand, and to prove that it can be undone.
+struct Played {
+    std::size_t presses = 0, undone = 0;
+};
+
+/// The program from its start to its end, or to so many presses.
+Played playSession(std::size_t presses, std::uint64_t seed, Dice& dice, MonkeyLog& log) {
     const SessionFolder folder(seed);
     const unsigned locale = dice.chance(70) ? 0x409 : 0x407;
     log.clear();
@@ -97,7 +106,7 @@ std::size_t playSession(std::size_t presses, std::uint64_t seed, Dice& dice, Mon
         monkey.press();
         unheard.str("");
     }
-    return monkey.presses();
+    return {monkey.presses(), monkey.stepsProved()};
 }
 
 void writeTrace(const std::string& path, const MonkeyLog& log) {
@@ -109,19 +118,26 @@ void writeTrace(const std::string& path, const MonkeyLog& log) {
 int play(const Options& options) {
     Dice dice(options.seed);
     MonkeyLog log(options.aloud);
-    std::size_t done = 0, sessions = 0;
+    Played done;
+    std::size_t sessions = 0;
     try {
-        for (; done < options.presses; ++sessions)
-            done += playSession(std::min(options.presses - done, 200 + dice.below(1800)),
-                                options.seed, dice, log);
+        for (; done.presses < options.presses || done.undone < options.undone; ++sessions) {
+            std::size_t presses = 200 + dice.below(1800);
+            if (done.presses < options.presses)
+                presses = std::min(presses, options.presses - done.presses);
+            const Played more = playSession(presses, options.seed, dice, log);
+            done.presses += more.presses;
+            done.undone += more.undone;
+        }
     } catch (const std::exception& exception) {
         writeTrace(options.trace, log);
-        std::cerr << fmt::format("seed {}, after {} presses: {}\n", options.seed, done,
+        std::cerr << fmt::format("seed {}, after {} presses: {}\n", options.seed, done.presses,
                                  exception.what());
         return 1;
     }
     writeTrace(options.trace, log);
-    std::cout << fmt::format("{} presses in {} sessions\n", done, sessions);
+    std::cout << fmt::format("{} presses in {} sessions, {} steps undone and redone\n",
+                             done.presses, sessions, done.undone);
     return 0;
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/project_fixture.h"
+#include "persistence/sample_site.h"
 
 namespace varnholt {
 namespace {
@@ -14,31 +15,7 @@ TEST_F(DefaultsFile, OverlaysTheBuiltInValuesOfANewDesign) {
     useSample();
     const frmBHDesign& d = newDesign();
     EXPECT_EQ(messages(), 0u);
-    EXPECT_EQ(d.conditions().inletTemp, (ByMode<double>{86.5, 48.5}));
-    EXPECT_EQ(d.results().outlet.outletTemp, (ByMode<double>{96.25, 43.75}));
-    EXPECT_EQ(d.conditions().inletLoadAirTemp, (ByMode<double>{66, 71}));
-    EXPECT_EQ(d.conditions().inletLoadWaterTemp, (ByMode<double>{54, 101}));
-    EXPECT_EQ(d.project().pipe.pipeDiameter, (std::array<double, 2>{1.66, 1.36}));
-    EXPECT_EQ(d.conditions().minflowRate, (ByMode<double>{2.7, 4.1}));
-    EXPECT_EQ(d.conditions().flowRate, 2.9);
-    EXPECT_EQ(d.project().fluid.percentAntifreeze, 20);
-    EXPECT_EQ(d.project().fluid.fluidTypeIndex, 4);
-    EXPECT_EQ(d.project().fluid.density, 61.5);
-    EXPECT_EQ(d.project().fluid.specificHeat, 0.98);
-    EXPECT_EQ(d.project().soil.groundTemp, 58.5);
-    EXPECT_EQ(d.project().soil.conductivity, 1.45);
-    EXPECT_EQ(d.project().soil.diffusivity, 0.9);
-    EXPECT_EQ(d.project().pipe.pipeSizeIndex, 2);
-    EXPECT_EQ(d.project().pipe.flowTypeIndex, 1);
-    EXPECT_EQ(d.project().bore.pipePlacement, 0);
-    EXPECT_EQ(d.project().bore.boreDiameter, 5.5);
-    EXPECT_EQ(d.project().bore.groutConductivity, 0.95);
-    EXPECT_EQ(d.project().pipe.pipeResistance, 0.0625);
-    EXPECT_EQ(d.project().bore.boreResistance, 0.1875);
-    EXPECT_EQ(d.project().arrangement.patternRows, (std::array<double, 2>{5, 8}));
-    EXPECT_EQ(d.project().arrangement.boreSeparation, 18.5);
-    EXPECT_EQ(d.project().arrangement.boresPerCircuit, 1);
-    EXPECT_EQ(d.project().arrangement.predictionTime, 12.5);
+    expectSampleSite(d);
     EXPECT_EQ(d.project().extraPower.motorEfficiency, (std::array<double, 3>{80, 85, 85}));
     EXPECT_EQ(d.loads().activeSeries, "BestSeries B");
     // What the defaults do not hold is as built in.

@@ -4,6 +4,7 @@
 
 #include "basis/run_time_error.h"
 #include "persistence/project_fixture.h"
+#include "persistence/sample_site.h"
 
 namespace varnholt {
 namespace {
@@ -35,35 +36,9 @@ class ProjectFile : public ProjectTest {
         EXPECT_EQ(about.fax, "555-4321");
         EXPECT_EQ(about.email, "office@example.org");
         EXPECT_EQ(about.comments, "First line\r\n\r\nthird line, with a comma");
-        EXPECT_EQ(d.conditions().inletTemp, (ByMode<double>{86.5, 48.5}));
-        EXPECT_EQ(d.results().outlet.outletTemp, (ByMode<double>{96.25, 43.75}));
-        EXPECT_EQ(d.conditions().inletLoadAirTemp, (ByMode<double>{66, 71}));
-        EXPECT_EQ(d.conditions().inletLoadWaterTemp, (ByMode<double>{54, 101}));
-        EXPECT_EQ(d.project().pipe.pipeDiameter, (std::array<double, 2>{1.66, 1.36}));
-        EXPECT_EQ(d.conditions().minflowRate, (ByMode<double>{2.7, 4.1}));
+        expectSampleSite(d);
         EXPECT_EQ(d.project().remainder.inputFlag, (ByMode<std::int16_t>{1, 7}));
         EXPECT_EQ(d.project().remainder.inputDouble, (ByMode<double>{0, 0.25}));
-        EXPECT_EQ(d.conditions().flowRate, 2.9);
-        EXPECT_EQ(d.project().fluid.percentAntifreeze, 20);
-        EXPECT_EQ(d.project().fluid.fluidTypeIndex, 4);
-        EXPECT_EQ(d.project().fluid.density, 61.5);
-        EXPECT_EQ(d.project().fluid.specificHeat, 0.98);
-        EXPECT_EQ(d.project().soil.groundTemp, 58.5);
-        EXPECT_EQ(d.project().soil.conductivity, 1.45);
-        EXPECT_EQ(d.project().soil.diffusivity, 0.9);
-        EXPECT_EQ(d.project().pipe.pipeSizeIndex, 2);
-        EXPECT_EQ(d.project().pipe.pipeSdrIndex, 1);
-        EXPECT_EQ(d.project().pipe.flowTypeIndex, 1);
-        EXPECT_EQ(d.project().bore.pipePlacement, 0);
-        EXPECT_EQ(d.project().bore.uTubeConfig, 0);
-        EXPECT_EQ(d.project().bore.boreDiameter, 5.5);
-        EXPECT_EQ(d.project().bore.groutConductivity, 0.95);
-        EXPECT_EQ(d.project().pipe.pipeResistance, 0.0625);
-        EXPECT_EQ(d.project().bore.boreResistance, 0.1875);
-        EXPECT_EQ(d.project().arrangement.patternRows, (std::array<double, 2>{5, 8}));
-        EXPECT_EQ(d.project().arrangement.boreSeparation, 18.5);
-        EXPECT_EQ(d.project().arrangement.boresPerCircuit, 1);
-        EXPECT_EQ(d.project().arrangement.predictionTime, 12.5);
         EXPECT_EQ(d.project().remainder.numbers, (std::array<double, 3>{1.9, 100, 0}));
         EXPECT_EQ(d.loads().activeSeries, "AcmeSeries A");
         EXPECT_EQ(d.loads().file.name, "school.zon");

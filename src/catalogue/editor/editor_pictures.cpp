@@ -25,17 +25,17 @@ Range rangeOf(const FitPoints& points) {
 }
 
 /// What is typed half, or by mistake, may lie beyond any chart.
-bool canBeDrawn(const CurvePoint& point) {
+bool canBeDrawn(const FitPoint& point) {
     constexpr double farthest = 1e9;
     return std::fabs(point.x) <= farthest && std::fabs(point.y) <= farthest;
 }
 
-void append(std::vector<CurvePoint>& points, const CurvePoint& point) {
+void append(std::vector<FitPoint>& points, const FitPoint& point) {
     if (canBeDrawn(point)) points.push_back(point);
 }
 
-std::vector<CurvePoint> sampled(const Range& range, const std::function<CurvePoint(double)>& at) {
-    std::vector<CurvePoint> line;
+std::vector<FitPoint> sampled(const Range& range, const std::function<FitPoint(double)>& at) {
+    std::vector<FitPoint> line;
     if (!(range.highest > range.lowest)) return line;
     for (int i = 0; i <= stepsOfCurve; ++i)
         append(line, at(range.lowest + (range.highest - range.lowest) * i / stepsOfCurve));
@@ -48,7 +48,7 @@ struct Shown {
     const Quantity& up;
     UnitSystem units;
 
-    CurvePoint operator()(double x, double y) const {
+    FitPoint operator()(double x, double y) const {
         return {across.shown(x, units), up.shown(y, units)};
     }
 };
@@ -57,8 +57,8 @@ const Quantity& quantityOf(FittedQuantity quantity) {
     return quantity == fittedCapacity ? quantities::load : quantities::plain;
 }
 
-std::vector<CurvePoint> pointsOf(const FitPoints& points, const Shown& shown) {
-    std::vector<CurvePoint> measured;
+std::vector<FitPoint> pointsOf(const FitPoints& points, const Shown& shown) {
+    std::vector<FitPoint> measured;
     for (std::size_t i = 0; i < points.count; ++i)
         if (points.y[i] != 0) append(measured, shown(points.x[i], points.y[i]));
     return measured;
@@ -157,7 +157,7 @@ FitPicture testPicture(const pump& model, const TestInputs& inputs, UnitSystem u
                 };
                 CurvePicture& curve = curveIn(picture, quantity, mode);
                 curve.line = sampled(testedRange(model, inputs, mode), at);
-                const CurvePoint operating = at(inputs.sourceTemperature[mode]);
+                const FitPoint operating = at(inputs.sourceTemperature[mode]);
                 if (canBeDrawn(operating)) curve.operating = operating;
             }
     } catch (const RunTimeError&) {

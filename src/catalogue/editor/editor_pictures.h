@@ -13,21 +13,21 @@ namespace varnholt {
 
 // What the pictures beside the editor's tables show, in the units shown. They are drawn elsewhere.
 
-struct CurvePoint {
+struct FitPoint {
     double x = 0;  ///< degF, degC, or percent of nominal
     double y = 0;  ///< MBtu/hr, kW, or a factor
 
-    friend bool operator==(const CurvePoint&, const CurvePoint&) = default;
+    friend bool operator==(const FitPoint&, const FitPoint&) = default;
 };
 
 /// One fitted curve over the points that were measured.
 struct CurvePicture {
-    std::vector<CurvePoint> line, measured;
+    std::vector<FitPoint> line, measured;
     /// The same at the second source flow; empty where it has no data.
-    std::vector<CurvePoint> secondLine, secondMeasured;
-    std::optional<CurvePoint> operating;  ///< where the model is tried
-    bool stale = false;                   ///< fitted from other data than these
-    std::optional<double> turn;           ///< where the curve turns around
+    std::vector<FitPoint> secondLine, secondMeasured;
+    std::optional<FitPoint> operating;  ///< where the model is tried
+    bool stale = false;                 ///< fitted from other data than these
+    std::optional<double> turn;         ///< where the curve turns around
 
     friend bool operator==(const CurvePicture&, const CurvePicture&) = default;
 };

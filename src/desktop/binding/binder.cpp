@@ -15,6 +15,7 @@
 #include "desktop/binding/typing.h"
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
+#include "forms/texts.h"
 
 namespace varnholt {
 namespace {
@@ -57,15 +58,11 @@ QWidget* Binder::widget(const std::string& name) {
 }
 
 QWidget* Binder::keep(std::unique_ptr<BoundControl> bound) {
-    QWidget* widget = bound->widget();
-    const std::string name = bound->control().name();
-    bound_[name] = std::move(bound);
-    if (widget->accessibleName().isEmpty())
-        for (const bool indexed : {true, false}) {
-            const std::string caption = companionName(name, "Label", indexed);
-            if (caption != name && has(caption)) nameFor(name, caption);
-        }
-    return widget;
+    const BoundControl& kept = *bound;
+    const Control& control = kept.control();
+    bound_[control.name()] = std::move(bound);
+    if (has(control.label())) nameBy(control.name(), control.label());
+    return kept.widget();
 }
 
 BoundControl* Binder::find(const std::string& name) const {
@@ -106,12 +103,20 @@ void Binder::buildAll() {
     while (buildNext()) continue;
 }
 
-/// A screen reader calls the field by its caption.
-void Binder::nameFor(const std::string& field, const std::string& caption) {
-    named_.emplace(caption, field);
-    QString name = qt(form_->control(caption).caption()).trimmed();
-    while (name.endsWith(u':')) name.chop(1);
-    if (!name.isEmpty()) find(field)->widget()->setAccessibleName(name);
+void Binder::nameBy(const std::string& name, const std::string& label) {
+    named_.emplace(label, name);
+    if (form_->control(name).kind() == ControlKind::label) figures_.emplace(name, label);
+    showName(name, label);
+}
+
+/// A screen reader calls a control by the words of its label, unless its form says otherwise. A
+/// label has no other value to read than its name: there the figure goes behind the words.
+void Binder::showName(const std::string& name, const std::string& label) {
+    const Control& control = form_->control(name);
+    std::string words = captionWords(form_->control(label).caption());
+    if (words.empty() || !control.accessibleName().empty()) return;
+    if (control.kind() == ControlKind::label) words += ", " + control.caption();
+    find(name)->widget()->setAccessibleName(qt(words));
 }
 
 void Binder::nameTheNameless() {
@@ -191,10 +196,9 @@ void Binder::propertyChanged(Control& control, Property property) {
     refreshLater();
     if (property != Property::caption) return;
     const auto [first, last] = named_.equal_range(control.name());
-    std::vector<std::string> fields;
-    for (auto it = first; it != last; ++it) fields.push_back(it->second);
-    named_.erase(first, last);
-    for (const std::string& field : fields) nameFor(field, control.name());
+    for (auto it = first; it != last; ++it) showName(it->second, control.name());
+    if (const auto figure = figures_.find(control.name()); figure != figures_.end())
+        showName(figure->first, figure->second);
 }
 
 void Binder::captionChanged(Form&) {
@@ -246,17 +250,12 @@ GroupBox* Binder::panel(const std::string& name, PartMaker content) {
     return box;
 }
 
-QWidget* Binder::firstOf(const std::vector<std::string>& names) {
-    for (const std::string& name : names)
-        if (has(name)) return widget(name);
-    return nullptr;
-}
+QWidget* Binder::companion(const std::string& name) { return has(name) ? widget(name) : nullptr; }
 
 QWidget* Binder::withUpDown(const std::string& field) {
     QWidget* editor = widget(field);
-    const std::string name = companionName(field, "UpDown");
-    if (name == field || !has(name)) return editor;
-    QWidget* steps = widget(name);
+    QWidget* steps = companion(form_->control(field).upDown());
+    if (steps == nullptr) return editor;
     steps->setFocusPolicy(Qt::NoFocus);  // the arrow keys in the field do the same
     auto* both = new QWidget;
     auto* layout = new QHBoxLayout(both);
@@ -270,35 +269,31 @@ QWidget* Binder::withUpDown(const std::string& field) {
 
 FieldRow Binder::row(const std::string& field, std::initializer_list<QWidget*> more) {
     FieldRow row;
-    row.caption = firstOf({companionName(field, "Label"), companionName(field, "Label", false)});
     row.fields = {withUpDown(field)};
-    // An element of an array of combos must not take the unit of the text beside it.
-    const bool hasUnit = find(field)->control().kind() != ControlKind::combo;
-    if (hasUnit)
-        row.unit = firstOf({companionName(field, "UnitLabel"), companionName(field, "UnitsLabel"),
-                            companionName(field, "UnitLabel", false),
-                            companionName(field, "UnitsLabel", false)});
+    const Control& control = find(field)->control();
+    row.caption = companion(control.label());
+    row.unit = companion(control.unitLabel());
     row.more = more;
     return row;
 }
 
-FieldRow Binder::pair(const std::string& stem, std::initializer_list<QWidget*> more) {
-    FieldRow row = this->row(elementName(stem, 0), more);
-    row.fields.push_back(withUpDown(elementName(stem, 1)));
-    mark(elementName(stem, 0), cooling);
-    mark(elementName(stem, 1), heating);
+FieldRow Binder::pair(const std::string& array, std::initializer_list<QWidget*> more) {
+    FieldRow row = this->row(elementName(array, 0), more);
+    row.fields.push_back(withUpDown(elementName(array, 1)));
+    mark(elementName(array, 0), cooling);
+    mark(elementName(array, 1), heating);
     return row;
 }
 
-FieldRow Binder::results(const std::string& label) {
+FieldRow Binder::results(const std::string& array) {
     FieldRow row;
-    row.caption = widget(elementName(label, 2));
+    row.caption = widget(elementName(array, 2));
     for (const std::size_t mode : {0U, 1U}) {
-        auto* figure = static_cast<QLabel*>(widget(elementName(label, mode)));
+        auto* figure = static_cast<QLabel*>(widget(elementName(array, mode)));
         figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         figure->setFont(figureFont(figure->font()));
         row.fields.push_back(figure);
-        nameFor(elementName(label, mode), elementName(label, 2));
+        nameBy(elementName(array, mode), elementName(array, 2));
     }
     return row;
 }
@@ -311,7 +306,7 @@ FieldRow Binder::figure(const std::string& caption, const std::string& value,
     figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     figure->setFont(figureFont(figure->font()));
     row.fields = {figure};
-    nameFor(value, caption);
+    nameBy(value, caption);
     row.more = more;
     return row;
 }
@@ -375,20 +370,6 @@ Drawing* Binder::drawing(Drawing* drawing) {
     connect(drawing, &QObject::destroyed, this,
             [this, drawing] { std::erase(drawings_, drawing); });
     return drawing;
-}
-
-std::string companionName(const std::string& control, const std::string& suffix, bool indexed) {
-    const std::size_t bracket = control.find('(');
-    std::string stem = control.substr(0, bracket);
-    for (const char* kind : {"RichTextBox", "DTPicker", "Text", "Combo", "Slider", "UpDown",
-                             "Label", "List", "Check", "Option", "Command"}) {
-        const std::string_view end = kind;
-        if (stem.size() <= end.size() || !stem.ends_with(end)) continue;
-        stem.erase(stem.size() - end.size());
-        break;
-    }
-    const bool hasIndex = bracket != std::string::npos && indexed;
-    return stem + suffix + (hasIndex ? control.substr(bracket) : std::string());
 }
 
 }  // namespace varnholt

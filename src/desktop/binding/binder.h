@@ -31,10 +31,8 @@ namespace varnholt {
 /// captions, units, colours, enabled and visible state, refused and stale marks, accessible names,
 /// keys. The same name gives the same widget however often it is asked for.
 ///
-/// Names that belong together: the field "XText(i)" (or Combo, Slider, ...) has the caption
-/// "XLabel(i)" or "XLabel", the unit "XUnitLabel(i)", "XUnitsLabel(i)" or the same without index,
-/// and the spin buttons "XUpDown(i)". A results label has the figures "XLabel(0)" (cooling) and
-/// "XLabel(1)" (heating) and the caption "XLabel(2)".
+/// What stands beside a field, its label, its unit and its spin buttons, is what its control names.
+/// An array of labels with results has the figures 0 (cooling) and 1 (heating) and the caption 2.
 class Binder : public QObject, public FormObserver {
  public:
     explicit Binder(Form& form);
@@ -59,10 +57,10 @@ class Binder : public QObject, public FormObserver {
 
     /// Caption, field with its spin buttons, unit; then whatever else is named.
     FieldRow row(const std::string& field, std::initializer_list<QWidget*> more = {});
-    /// The fields "XText(0)" and "XText(1)" side by side, cooling and heating, under one caption.
-    FieldRow pair(const std::string& stem, std::initializer_list<QWidget*> more = {});
-    /// A line of results: caption XLabel(2), cooling XLabel(0), heating XLabel(1).
-    FieldRow results(const std::string& label);
+    /// The fields 0 and 1 of an array side by side, cooling and heating, under one caption.
+    FieldRow pair(const std::string& array, std::initializer_list<QWidget*> more = {});
+    /// A line of results: of an array of labels the caption 2, cooling 0, heating 1.
+    FieldRow results(const std::string& array);
     /// One figure: a caption label, a label with the value, and spin buttons or the like.
     FieldRow figure(const std::string& caption, const std::string& value,
                     std::initializer_list<QWidget*> more = {});
@@ -148,10 +146,11 @@ class Binder : public QObject, public FormObserver {
 
  private:
     QWidget* keep(std::unique_ptr<BoundControl> bound);
-    /// The widget of the first of the names that the form has; null for none.
-    QWidget* firstOf(const std::vector<std::string>& names);
+    /// The widget of a control's companion; null where it has none.
+    QWidget* companion(const std::string& name);
     QWidget* withUpDown(const std::string& field);
-    void nameFor(const std::string& field, const std::string& caption);
+    void nameBy(const std::string& name, const std::string& label);
+    void showName(const std::string& name, const std::string& label);
     bool keyPressed(BoundControl& bound, int key, Qt::KeyboardModifiers modifiers);
     void stepCompanion(const BoundControl& bound, int steps);
     void refreshDrawings();
@@ -165,8 +164,10 @@ class Binder : public QObject, public FormObserver {
     std::map<const QObject*, BoundControl*> keyboards_;
     std::map<std::string, QButtonGroup*> groups_;
     std::vector<LateParts*> late_;
-    /// Fields by the caption that names them to screen readers.
+    /// Figures and fields by the label that names them to screen readers.
     std::multimap<std::string, std::string> named_;
+    /// The label of each figure.
+    std::map<std::string, std::string> figures_;
     std::vector<Drawing*> drawings_;
     std::vector<std::function<void()>> refreshers_;
     std::function<void(std::exception_ptr)> faults_;
@@ -177,10 +178,5 @@ class Binder : public QObject, public FormObserver {
     int building_ = 0;
     int actions_ = 0;
 };
-
-/// "FLInletTempLabel(0)" of "FLInletTempText(0)": the control's name with another suffix before
-/// its index, and without the index when `indexed` is false.
-std::string companionName(const std::string& control, const std::string& suffix,
-                          bool indexed = true);
 
 }  // namespace varnholt

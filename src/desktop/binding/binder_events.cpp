@@ -112,9 +112,8 @@ bool Binder::keyPressed(BoundControl& bound, int key, Qt::KeyboardModifiers modi
 }
 
 void Binder::stepCompanion(const BoundControl& bound, int steps) {
-    const std::string name = companionName(bound.control().name(), "UpDown");
-    const BoundControl* buttons = find(name);
-    if (buttons == nullptr || buttons->control().kind() != ControlKind::upDown) return;
+    const BoundControl* buttons = find(bound.control().upDown());
+    if (buttons == nullptr) return;
     if (buttons->widget()->isEnabled()) static_cast<UpDownButtons*>(buttons->widget())->step(steps);
 }
 

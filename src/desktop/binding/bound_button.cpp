@@ -5,9 +5,9 @@
 #include <QPushButton>
 
 #include "desktop/binding/binder.h"
-#include "desktop/widgets/desktop_texts.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 BoundButton::BoundButton(Binder& binder, Control& control)
@@ -64,8 +64,7 @@ void BoundButton::showBackcolor() {
     setStyleProperty("tone", marked ? tone : tone_);
     const QString icon = marked ? QStringLiteral("stale") : icon_;
     button_->setIcon(icon.isEmpty() ? QIcon() : houseIcon(icon));
-    button_->setAccessibleDescription(marked ? qt(binder().text(desktop_texts::staleResults))
-                                             : QString());
+    button_->setAccessibleDescription(marked ? qt(binder().text(Text::staleResults)) : QString());
 }
 
 std::unique_ptr<BoundControl> bindButton(Binder& binder, Control& control) {

@@ -3,6 +3,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QRadioButton>
+#include <type_traits>
 
 #include "desktop/binding/binder.h"
 #include "desktop/binding/bound_control.h"
@@ -122,12 +123,12 @@ class BoundList : public BoundControl {
     ListView* list_;
 };
 
-/// Sliders and spin buttons have the same members.
-template <class Widget>
+/// A slider, or spin buttons.
 class BoundNumber : public BoundControl {
  public:
-    BoundNumber(Binder& binder, Control& control)
-        : BoundControl(binder, control, new Widget), number_(static_cast<Widget*>(widget())) {
+    template <class Widget>
+    BoundNumber(Binder& binder, Control& control, Widget* widget)
+        : BoundControl(binder, control, widget), number_(widget) {
         number_->onMoved = [this](double value) {
             this->binder().act(*this,
                                [value](Form& f, const std::string& name) { f.slide(name, value); });
@@ -140,6 +141,8 @@ class BoundNumber : public BoundControl {
             number_->setNumbers(control().min(), control().max());
         else if (property == Property::value)
             number_->setNumber(control().value());
+        else if (property == Property::step)
+            number_->setStep(control().step());
         else
             BoundControl::show(property);
     }
@@ -151,7 +154,7 @@ class BoundNumber : public BoundControl {
     }
 
  private:
-    Widget* number_;
+    MovedNumber* number_;
 };
 
 }  // namespace
@@ -166,8 +169,8 @@ std::unique_ptr<BoundControl> bindList(Binder& binder, Control& control) {
     return std::make_unique<BoundList>(binder, control);
 }
 std::unique_ptr<BoundControl> bindSlider(Binder& binder, Control& control) {
-    auto bound = std::make_unique<BoundNumber<NumberSlider>>(binder, control);
-    const auto* slider = static_cast<NumberSlider*>(bound->widget());
+    auto* slider = new NumberSlider;
+    auto bound = std::make_unique<BoundNumber>(binder, control, slider);
     QObject::connect(slider, &QSlider::sliderPressed, &binder, [&binder, name = control.name()] {
         if (Form* form = binder.form()) form->beginGesture(name);
     });
@@ -177,7 +180,7 @@ std::unique_ptr<BoundControl> bindSlider(Binder& binder, Control& control) {
     return bound;
 }
 std::unique_ptr<BoundControl> bindUpDown(Binder& binder, Control& control) {
-    return std::make_unique<BoundNumber<UpDownButtons>>(binder, control);
+    return std::make_unique<BoundNumber>(binder, control, new UpDownButtons);
 }
 
 }  // namespace varnholt

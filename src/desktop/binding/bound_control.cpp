@@ -68,6 +68,10 @@ void BoundControl::show(Property property) {
             asked_.tooltip = control_.tooltip();
             widget_->setToolTip(qt(control_.tooltip()));
             break;
+        case Property::accessibleName:
+            if (!control_.accessibleName().empty())
+                widget_->setAccessibleName(qt(control_.accessibleName()));
+            break;
         case Property::backcolor:
             asked_.backcolor = control_.backcolor();
             showBackcolor();
@@ -88,12 +92,12 @@ void BoundControl::show(Property property) {
 }
 
 void BoundControl::showAll() {
-    static constexpr Property all[] = {Property::items,    Property::text,      Property::caption,
-                                       Property::enabled,  Property::locked,    Property::max,
-                                       Property::value,    Property::index,     Property::checked,
-                                       Property::selected, Property::date,      Property::backcolor,
-                                       Property::bold,     Property::forecolor, Property::tooltip,
-                                       Property::refused,  Property::visible};
+    static constexpr Property all[] = {
+        Property::items,     Property::text,    Property::caption,       Property::enabled,
+        Property::locked,    Property::max,     Property::step,          Property::value,
+        Property::index,     Property::checked, Property::selected,      Property::date,
+        Property::backcolor, Property::bold,    Property::forecolor,     Property::tooltip,
+        Property::refused,   Property::visible, Property::accessibleName};
     for (const Property property : all) show(property);
 }
 

@@ -9,9 +9,9 @@
 
 #include "desktop/binding/binder.h"
 #include "desktop/binding/bound_control.h"
-#include "desktop/widgets/desktop_texts.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -56,7 +56,7 @@ class BoundText : public BoundControl {
  private:
     void showRefused() {
         const QString reason =
-            control().refused() ? qt(binder().text(desktop_texts::refusedValue)) : QString();
+            control().refused() ? qt(binder().text(Text::refusedValue)) : QString();
         if (edit_->property("refused").toBool() == control().refused()) return;
         setStyleProperty("refused", control().refused());
         edit_->setMark(control().refused() ? houseIcon(QStringLiteral("refused")) : QIcon(),
@@ -288,9 +288,7 @@ class BoundDate : public BoundControl {
 std::unique_ptr<BoundControl> bindText(Binder& binder, Control& control) {
     const bool typed = binder.form() != nullptr && binder.form()->fields().has(control.name());
     // A text with a unit behind it is a figure too, though nobody types it.
-    const bool shown = binder.has(companionName(control.name(), "UnitLabel")) ||
-                       binder.has(companionName(control.name(), "UnitsLabel"));
-    return std::make_unique<BoundText>(binder, control, typed || shown);
+    return std::make_unique<BoundText>(binder, control, typed || !control.unitLabel().empty());
 }
 std::unique_ptr<BoundControl> bindRichText(Binder& binder, Control& control) {
     return std::make_unique<BoundRichText>(binder, control);

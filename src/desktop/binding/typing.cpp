@@ -16,6 +16,16 @@ QLineEdit* lineOf(QWidget& field) {
     return line != nullptr ? line : field.findChild<QLineEdit*>();
 }
 
+/// Takes the keys of its widget for itself before they are looked up among the menus' shortcuts.
+class NoShortcuts : public QObject {
+ public:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::ShortcutOverride) return false;
+        event->accept();
+        return true;
+    }
+};
+
 }  // namespace
 
 bool isUndoKey(QKeyEvent& key) {
@@ -49,6 +59,9 @@ void editFocusedField(EditCommand command) {
                                                      {EditCommand::selectAll, Qt::Key_A}};
     QWidget* focused = QApplication::focusWidget();
     if (focused == nullptr) return;
+    // What has no text would leave the key to the menu, whose command this is.
+    NoShortcuts guard;
+    focused->installEventFilter(&guard);
     QKeyEvent press(QEvent::KeyPress, keys.at(command), Qt::ControlModifier);
     QApplication::sendEvent(focused, &press);
 }

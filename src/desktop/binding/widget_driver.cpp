@@ -216,8 +216,7 @@ void WidgetDriver::slide(Form& form, const Control& control, double value) {
     work(
         form, control,
         [value](QWidget* widget) {
-            if (auto* slider = dynamic_cast<NumberSlider*>(widget)) slider->moveTo(value);
-            if (auto* upDown = dynamic_cast<UpDownButtons*>(widget)) upDown->moveTo(value);
+            if (auto* number = dynamic_cast<MovedNumber*>(widget)) number->moveTo(value);
         },
         [value](Form& f, const std::string& name) { f.slide(name, value); });
 }

@@ -40,6 +40,7 @@ QAbstractSeries* newSeries(Sign sign, Mode mode) {
         case Sign::steps:
         case Sign::staleLine:
         case Sign::thinLine:
+        case Sign::neutral:
             break;
     }
     return new QLineSeries;
@@ -85,6 +86,9 @@ void PlottedSeries::dress(const Look& look) {
             break;
         case Sign::thinLine:
             points->setPen(QPen(colour, 1, style));
+            break;
+        case Sign::neutral:
+            points->setPen(QPen(look.muted, 2));
             break;
         case Sign::measured:
         case Sign::secondMeasured:

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -158,13 +159,14 @@ void paintBore(const Canvas& canvas, const BoreDrawing& bore, const Texts& texts
     for (const PipeCircle& pipe : bore.pipes)
         drawPipe(canvas, scale, pipe, leg++ < bore.pipes.size() / 2);
     drawDiameters(canvas, scale, bore);
-    if (!bore.fits) drawWarning(canvas, qt(texts.text(2463)));
+    if (!bore.fits) drawWarning(canvas, qt(texts.text(Text::pipesDoNotFitPicture)));
 }
 
 QString describeBore(const BoreDrawing& bore, const Texts& texts) {
-    const std::string pattern = bore.pipes.size() > 2 ? texts.text(2462) : texts.text(2461);
+    const std::string pattern = bore.pipes.size() > 2 ? texts.text(Text::doubleUTubePicture)
+                                                      : texts.text(Text::singleUTubePicture);
     const QString shown = qt(pattern).arg(qt(bore.boreLabel), qt(bore.pipeLabel));
-    return bore.fits ? shown : shown + u' ' + qt(texts.text(2463));
+    return bore.fits ? shown : shown + u' ' + qt(texts.text(Text::pipesDoNotFitPicture));
 }
 
 }  // namespace varnholt

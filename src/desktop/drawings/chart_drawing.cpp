@@ -6,12 +6,13 @@
 #include <QLabel>
 #include <utility>
 
-#include "desktop/widgets/desktop_texts.h"
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 
-ChartDrawing::ChartDrawing(const Texts& texts, ChartModuleFinder charts, Qt::Orientation direction)
+ChartDrawing::ChartDrawing(const Texts& texts, ChartModuleFinder charts,
+                           QBoxLayout::Direction direction)
     : texts_(texts),
       module_(std::move(charts)),
       legend_(new LegendRow(this)),
@@ -26,8 +27,7 @@ ChartDrawing::ChartDrawing(const Texts& texts, ChartModuleFinder charts, Qt::Ori
     hint_->setAlignment(Qt::AlignCenter);
     hint_->setWordWrap(true);
     hint_->setTextFormat(Qt::PlainText);
-    auto* row = new QBoxLayout(
-        direction == Qt::Horizontal ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, plots_);
+    auto* row = new QBoxLayout(direction, plots_);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(gridStep);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -54,7 +54,7 @@ void ChartDrawing::refresh() {
         legend_->setEntries(legend());
         const std::vector<ChartPicture> pictures = this->pictures();
         for (std::size_t i = 0; i < charts_.size(); ++i) charts_[i]->draw(pictures[i]);
-        if (charts_.empty()) hint = qt(texts_.text(desktop_texts::noCharts));
+        if (charts_.empty()) hint = qt(texts_.text(Text::chartPartMissing));
     }
     hint_->setText(hint);
     hint_->setVisible(!hint.isEmpty());

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -62,10 +63,12 @@ std::vector<ChartPicture> DayChart::pictures() const {
 }
 
 std::vector<LegendRow::Entry> DayChart::legend() const {
-    return {{LegendRow::Sign::coolingLine, qt(texts().text(2983))},
-            {LegendRow::Sign::heatingLine, qt(texts().text(2984))}};
+    return {{LegendRow::Sign::coolingLine, qt(texts().text(Text::chartCooling))},
+            {LegendRow::Sign::heatingLine, qt(texts().text(Text::chartHeating))}};
 }
 
-QString DayChart::emptyHint() const { return loads_.empty() ? qt(texts().text(2985)) : QString(); }
+QString DayChart::emptyHint() const {
+    return loads_.empty() ? qt(texts().text(Text::dayChartEmpty)) : QString();
+}
 
 }  // namespace varnholt

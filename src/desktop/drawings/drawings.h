@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QSize>
 #include <functional>
 
 #include "design/bore_drawing.h"
+#include "design/circuit_plan.h"
 #include "design/field_plan.h"
+#include "design/ground_temp_curves.h"
+#include "design/loop_curves.h"
+#include "design/trench_drawing.h"
+#include "design/trench_plan.h"
 #include "desktop/drawings/chart_module.h"
 #include "desktop/drawings/drawing.h"
 #include "desktop/drawings/fit_curves.h"
@@ -19,6 +25,15 @@ namespace varnholt {
 
 Drawing* newBoreDrawing(std::function<BoreDrawing()> source, const Texts& texts);
 Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts);
+Drawing* newTrenchDrawing(std::function<TrenchDrawing()> source, const Texts& texts);
+Drawing* newTrenchPlanDrawing(std::function<TrenchPlan()> source, const Texts& texts);
+/// @param usual  its size where nothing else decides
+Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts,
+                           const QSize& usual);
+Drawing* newGroundTempChart(std::function<GroundTempCurves()> source, const Texts& texts,
+                            ChartModuleFinder charts = findChartModule);
+Drawing* newLoopChart(std::function<LoopCurves()> source, const Texts& texts,
+                      ChartModuleFinder charts = findChartModule);
 /// A light that stands for one partner; it is lit while it is enabled.
 Drawing* newLinkLight(LinkPartner partner, const Texts& texts);
 /// Small bars beside the numbers of a zone.

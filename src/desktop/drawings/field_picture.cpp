@@ -11,6 +11,7 @@
 
 #include "design/modCalculations/bore_grid.h"
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -63,15 +64,15 @@ QString className(const FieldPlan& field, int neighbours, const Texts& texts) {
     const bool line = field.across < 2 || field.down < 2;
     switch (neighbours) {
         case 0:
-            return qt(texts.text(2531));
+            return qt(texts.text(Text::boresWithoutNeighbour));
         case 1:
-            return qt(texts.text(2532));
+            return qt(texts.text(Text::boresAtEnd));
         case 2:
-            return qt(line ? texts.text(2536) : texts.text(2533));
+            return qt(line ? texts.text(Text::boresInLine) : texts.text(Text::boresAtCorner));
         case 3:
-            return qt(texts.text(2534));
+            return qt(texts.text(Text::boresAtEdge));
         default:
-            return qt(texts.text(2535));
+            return qt(texts.text(Text::boresInside));
     }
 }
 
@@ -243,7 +244,7 @@ void paintField(const Canvas& canvas, const FieldPlan& field, const Texts& texts
         canvas.painter.setPen(canvas.look.muted);
         canvas.painter.setFont(canvas.words);
         canvas.painter.drawText(canvas.area, Qt::AlignCenter | Qt::TextWordWrap,
-                                qt(texts.text(2541)));
+                                qt(texts.text(Text::fieldPictureEmpty)));
         return;
     }
     const QRectF room = drawLegend(canvas, legendOf(field, texts));
@@ -258,8 +259,8 @@ void paintField(const Canvas& canvas, const FieldPlan& field, const Texts& texts
 }
 
 QString describeField(const FieldPlan& field, const Texts& texts) {
-    if (field.across < 1 || field.down < 1) return qt(texts.text(2541));
-    QString shown = qt(texts.text(2542))
+    if (field.across < 1 || field.down < 1) return qt(texts.text(Text::fieldPictureEmpty));
+    QString shown = qt(texts.text(Text::fieldPicture))
                         .arg(counted(std::floor(field.across)), counted(std::floor(field.down)),
                              qt(field.separationLabel), qt(field.acrossLabel), qt(field.downLabel));
     for (const LegendEntry& entry : legendOf(field, texts)) shown += u' ' + entry.text + u'.';

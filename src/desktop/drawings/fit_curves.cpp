@@ -7,13 +7,14 @@
 
 #include "basis/number_text.h"
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
 
-QList<QPointF> pointsOf(const std::vector<CurvePoint>& from) {
+QList<QPointF> pointsOf(const std::vector<FitPoint>& from) {
     QList<QPointF> points;
-    for (const CurvePoint& point : from) points << QPointF(point.x, point.y);
+    for (const FitPoint& point : from) points << QPointF(point.x, point.y);
     return points;
 }
 
@@ -70,9 +71,9 @@ ChartPicture chartOf(const ByMode<CurvePicture>& curves, const QString& across, 
 /// Greatest distance of the drawn curve from its points, in percent of theirs.
 double distance(const CurvePicture& curve) {
     double greatest = 0;
-    for (const CurvePoint& point : curve.measured)
+    for (const FitPoint& point : curve.measured)
         for (std::size_t i = 1; i < curve.line.size(); ++i) {
-            const CurvePoint &a = curve.line[i - 1], &b = curve.line[i];
+            const FitPoint &a = curve.line[i - 1], &b = curve.line[i];
             if (point.x < a.x || point.x > b.x || b.x == a.x || point.y == 0) continue;
             const double value = a.y + (b.y - a.y) * (point.x - a.x) / (b.x - a.x);
             greatest = std::max(greatest, std::fabs(value / point.y - 1) * 100);
@@ -83,7 +84,8 @@ double distance(const CurvePicture& curve) {
 }  // namespace
 
 FitCurves::FitCurves(Source picture, const Texts& texts, ChartModuleFinder charts)
-    : ChartDrawing(texts, std::move(charts), Qt::Vertical), source_(std::move(picture)) {}
+    : ChartDrawing(texts, std::move(charts), QBoxLayout::TopToBottom),
+      source_(std::move(picture)) {}
 
 bool FitCurves::take() {
     const FitCurvesPicture before = std::exchange(picture_, source_());
@@ -109,16 +111,18 @@ std::vector<LegendRow::Entry> FitCurves::legend() const {
         return !curves.capacity[mode].line.empty() || !curves.power[mode].line.empty();
     };
     std::vector<LegendRow::Entry> entries;
-    if (drawn(cooling)) entries.push_back({LegendRow::Sign::coolingLine, qt(texts().text(2839))});
-    if (drawn(heating)) entries.push_back({LegendRow::Sign::heatingLine, qt(texts().text(2840))});
+    if (drawn(cooling))
+        entries.push_back({LegendRow::Sign::coolingLine, qt(texts().text(Text::cooling))});
+    if (drawn(heating))
+        entries.push_back({LegendRow::Sign::heatingLine, qt(texts().text(Text::heating))});
     if (any([](const CurvePicture& curve) { return !curve.measured.empty(); }))
-        entries.push_back({LegendRow::Sign::measured, qt(texts().text(2996))});
+        entries.push_back({LegendRow::Sign::measured, qt(texts().text(Text::pumpCurvesCatalogue))});
     if (any([](const CurvePicture& curve) { return !curve.secondMeasured.empty(); }))
-        entries.push_back({LegendRow::Sign::second, qt(texts().text(4211))});
+        entries.push_back({LegendRow::Sign::second, qt(texts().text(Text::secondFlowLegend))});
     if (any([](const CurvePicture& curve) { return curve.operating.has_value(); }))
-        entries.push_back({LegendRow::Sign::design, qt(texts().text(4217))});
+        entries.push_back({LegendRow::Sign::design, qt(texts().text(Text::testedLegend))});
     if (any([](const CurvePicture& curve) { return curve.stale; }))
-        entries.push_back({LegendRow::Sign::staleLine, qt(texts().text(4212))});
+        entries.push_back({LegendRow::Sign::staleLine, qt(texts().text(Text::staleLegend))});
     return entries;
 }
 
@@ -128,20 +132,21 @@ QString FitCurves::emptyHint() const {
 
 QString FitCurves::description() const {
     if (picture_.curves.empty()) return emptyHint();
-    constexpr ByMode<int> capacityNames{4280, 4282}, powerNames{4281, 4283};
+    constexpr ByMode<int> capacityNames{Text::coolingCapacityCurve, Text::heatingCapacityCurve},
+        powerNames{Text::coolingPowerCurve, Text::heatingPowerCurve};
     const auto figure = [](double value) { return qt(formatNumber(value, "###0.0#")); };
     QString told;
     const auto tell = [&](const CurvePicture& curve, int name) {
         const QString words = qt(texts().text(name));
         if (curve.operating)
-            told += qt(texts().text(4298))
+            told += qt(texts().text(Text::curveTested))
                         .arg(words, figure(curve.operating->y), figure(curve.operating->x)) +
                     u' ';
         else if (curve.stale)
-            told += qt(texts().text(4296)).arg(words) + u' ';
+            told += qt(texts().text(Text::curveStale)).arg(words) + u' ';
         else if (!curve.measured.empty())
             told +=
-                qt(texts().text(4295))
+                qt(texts().text(Text::curveMet))
                     .arg(words, QString::number(curve.measured.size()), figure(distance(curve))) +
                 u' ';
     };

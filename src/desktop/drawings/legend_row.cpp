@@ -23,6 +23,10 @@ void drawSign(QPainter& painter, const Look& look, LegendRow::Sign sign, const Q
             painter.drawLine(middle - QPointF(8, 0), middle + QPointF(8, 0));
             break;
         }
+        case LegendRow::Sign::neutralLine:
+            painter.setPen(QPen(look.muted, 2, Qt::SolidLine, Qt::FlatCap));
+            painter.drawLine(middle - QPointF(8, 0), middle + QPointF(8, 0));
+            break;
         case LegendRow::Sign::measured:
             painter.setPen(QPen(look.muted, 1.4));
             painter.drawEllipse(middle - QPointF(5, 0), 3.2, 3.2);

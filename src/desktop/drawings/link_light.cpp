@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -72,13 +73,13 @@ void paintLinkLight(const Canvas& canvas, LinkPartner partner, bool lit) {
 QString describeLinkLight(LinkPartner partner, const Texts& texts) {
     switch (partner) {
         case LinkPartner::zones:
-            return qt(texts.text(2980));
+            return qt(texts.text(Text::linkedWithZoneManager));
         case LinkPartner::block:
-            return qt(texts.text(2981));
+            return qt(texts.text(Text::linkedWithAverageBlock));
         case LinkPartner::none:
             break;
     }
-    return qt(texts.text(2982));
+    return qt(texts.text(Text::notLinked));
 }
 
 }  // namespace varnholt

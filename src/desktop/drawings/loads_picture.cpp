@@ -6,6 +6,7 @@
 
 #include "basis/number_text.h"
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -16,7 +17,7 @@ constexpr double barGap = 3;  // between the two bars of a block
 QString figure(double load) { return qt(formatNumber(load, "##0.0")); }
 
 QString modeWord(Mode mode, const Texts& texts) {
-    return qt(mode == cooling ? texts.text(2983) : texts.text(2984));
+    return qt(mode == cooling ? texts.text(Text::chartCooling) : texts.text(Text::chartHeating));
 }
 
 void setBarStyle(const Canvas& canvas, Mode mode) {
@@ -120,7 +121,8 @@ void paintLoads(const Canvas& canvas, const LoadsChart& loads, const LoadsCaptio
     if (loads.empty()) {
         painter.setFont(canvas.words);
         painter.setPen(canvas.look.muted);
-        painter.drawText(plot, Qt::AlignCenter | Qt::TextWordWrap, qt(texts.text(2985)));
+        painter.drawText(plot, Qt::AlignCenter | Qt::TextWordWrap,
+                         qt(texts.text(Text::dayChartEmpty)));
     } else {
         drawBars(canvas, plot, loads);
     }
@@ -130,11 +132,11 @@ void paintLoads(const Canvas& canvas, const LoadsChart& loads, const LoadsCaptio
 }
 
 QString describeLoads(const LoadsChart& loads, const LoadsCaptions& captions, const Texts& texts) {
-    if (loads.empty()) return qt(texts.text(2985));
+    if (loads.empty()) return qt(texts.text(Text::dayChartEmpty));
     QStringList sentences;
     for (const Mode mode : modes) {
         if (!loads.peakBlock[mode]) continue;
-        sentences << qt(texts.text(2986))
+        sentences << qt(texts.text(Text::dayChartLargestLoad))
                          .arg(modeWord(mode, texts), figure(loads.largest[mode]), qt(captions.unit),
                               qt(captions.blocks[*loads.peakBlock[mode]]));
     }

@@ -6,6 +6,7 @@
 
 #include "basis/number_text.h"
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -31,10 +32,6 @@ struct Extent {
     }
 };
 
-QString titleOf(const std::string& name, const std::string& unit) {
-    return qt(name) + (unit.empty() ? QString() : QStringLiteral(" (%1)").arg(qt(unit)));
-}
-
 }  // namespace
 
 std::optional<double> valueAt(const PumpCurve& curve, double enteringWater) {
@@ -53,15 +50,16 @@ PumpCurves::PumpCurves(Source picture, const Texts& texts, ChartModuleFinder cha
     : ChartDrawing(texts, std::move(charts)), source_(std::move(picture)) {}
 
 QString PumpCurves::description() const {
-    if (picture_.pump.name.empty()) return qt(texts().text(2990));
-    QString shown = qt(texts().text(2991)).arg(qt(picture_.pump.name));
+    if (picture_.pump.name.empty()) return qt(texts().text(Text::pumpCurvesEmpty));
+    QString shown = qt(texts().text(Text::pumpCurves)).arg(qt(picture_.pump.name));
     for (const Mode mode : modes) {
         const auto capacity = valueAt(picture_.pump.capacity[mode], picture_.designWater[mode]);
         const auto power = valueAt(picture_.pump.power[mode], picture_.designWater[mode]);
         if (!capacity || !power) continue;
         const auto figure = [](double value) { return qt(formatNumber(value, "##0.0")); };
-        shown += u' ' + qt(texts().text(2992))
-                            .arg(qt(mode == cooling ? texts().text(2983) : texts().text(2984)),
+        shown += u' ' + qt(texts().text(Text::pumpCurvesAtDesign))
+                            .arg(qt(mode == cooling ? texts().text(Text::chartCooling)
+                                                    : texts().text(Text::chartHeating)),
                                  figure(picture_.designWater[mode]), qt(picture_.temperatureUnit),
                                  figure(*capacity), qt(picture_.capacityUnit), figure(*power),
                                  qt(picture_.powerUnit));
@@ -75,8 +73,10 @@ bool PumpCurves::take() {
 }
 
 std::vector<ChartPicture> PumpCurves::pictures() const {
-    return {chartOf(picture_.pump.capacity, titleOf(texts().text(2993), picture_.capacityUnit)),
-            chartOf(picture_.pump.power, titleOf(texts().text(2994), picture_.powerUnit))};
+    return {chartOf(picture_.pump.capacity,
+                    titleWithUnit(texts().text(Text::pumpCurvesCapacity), picture_.capacityUnit)),
+            chartOf(picture_.pump.power,
+                    titleWithUnit(texts().text(Text::pumpCurvesPower), picture_.powerUnit))};
 }
 
 ChartPicture PumpCurves::chartOf(const ByMode<PumpCurve>& curves, const QString& title) const {
@@ -93,21 +93,22 @@ ChartPicture PumpCurves::chartOf(const ByMode<PumpCurve>& curves, const QString&
                                 value ? QList<QPointF>{{water, *value}} : QList<QPointF>()});
     }
     chart.across = axisAround(extent.coldest, extent.warmest);
-    chart.across.title = titleOf(texts().text(2995), picture_.temperatureUnit);
+    chart.across.title =
+        titleWithUnit(texts().text(Text::pumpCurvesEnteringWater), picture_.temperatureUnit);
     chart.up = axisFromZero(extent.highest);
     chart.up.title = title;
     return chart;
 }
 
 std::vector<LegendRow::Entry> PumpCurves::legend() const {
-    return {{LegendRow::Sign::coolingLine, qt(texts().text(2983))},
-            {LegendRow::Sign::heatingLine, qt(texts().text(2984))},
-            {LegendRow::Sign::measured, qt(texts().text(2996))},
-            {LegendRow::Sign::design, qt(texts().text(2997))}};
+    return {{LegendRow::Sign::coolingLine, qt(texts().text(Text::chartCooling))},
+            {LegendRow::Sign::heatingLine, qt(texts().text(Text::chartHeating))},
+            {LegendRow::Sign::measured, qt(texts().text(Text::pumpCurvesCatalogue))},
+            {LegendRow::Sign::design, qt(texts().text(Text::pumpCurvesDesign))}};
 }
 
 QString PumpCurves::emptyHint() const {
-    return picture_.pump.name.empty() ? qt(texts().text(2990)) : QString();
+    return picture_.pump.name.empty() ? qt(texts().text(Text::pumpCurvesEmpty)) : QString();
 }
 
 }  // namespace varnholt

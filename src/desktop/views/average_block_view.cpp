@@ -17,7 +17,7 @@ QWidget* blockPage(Binder& bind) {
 
 QWidget* makeAverageBlockView(Binder& bind) {
     return roomy(
-        column(loadsBar(bind), noticeBar(bind),
+        column(loadsBar(bind),
                grow(bind.tabs("tabLoads", {[&bind] { return page(blockPage(bind)); },
                                            [&bind] { return page(heatPumpPage(bind)); }}))),
         {1220, 700});

@@ -25,12 +25,6 @@ QWidget* resultsPage(Binder& bind) {
     return row_(grow(resultsPanel(bind, parts)), grow(towerPanel(bind)));
 }
 
-FieldRow groutConductivity(Binder& bind) {
-    FieldRow row = bind.row("PIGroutConductivityText");
-    row.unit = bind.widget("PIGroutThermalConductivityUnitsLabel");
-    return row;
-}
-
 QWidget* pipeFields(Binder& bind) {
     return column(
         pipePanel(bind),
@@ -51,7 +45,7 @@ QWidget* boreFields(Binder& bind) {
                                          },
                                          bind.form()->texts()))),
         group(bind.frame("PIBoreholeDiameterFrame"), grid(bind.row("PIBoreholeDiameterText"))),
-        group(bind.frame("PIGroutFrame"), grid(groutConductivity(bind))),
+        group(bind.frame("PIGroutFrame"), grid(bind.row("PIGroutConductivityText"))),
         group(bind.frame("PIThermalResistanceFrame"), grid(bind.row("PIThermalResistanceText"))));
 }
 
@@ -91,10 +85,7 @@ QWidget* makeBoreholeView(Binder& bind) {
          [&bind] { return page(arrangementPage(bind)); },
          [&bind] { return page(extraPowerPage(bind)); },
          [&bind] { return page(informationPage(bind)); }});
-    // The results take more room than the zeros that they begin with.
-    return roomy(column(bar(row_(bind.widget("MetricCheck"), stretch(), linkLights(bind))),
-                        noticeBar(bind), grow(pages)),
-                 {980, 640});
+    return designWindow(bind, pages);
 }
 
 }  // namespace varnholt

@@ -12,23 +12,27 @@ FieldRow fluidType(Binder& bind) {
     return bind.row("FLFluidTypeCombo", {percent.fields.front(), percent.caption});
 }
 
-FieldRow density(Binder& bind) {
-    FieldRow row = bind.row("FLFluidDensityText");
-    row.unit = bind.widget("FLDensityUnitsLabel");
-    return row;
+/// The least flow of a loop, where the kind has loops that share the flow.
+QWidget* minimumFlow(Binder& bind) {
+    if (!bind.has("FLMinFlowFrame")) return nullptr;
+    bind.mark("FLMinFlowText(0)", cooling).mark("FLMinFlowText(1)", heating);
+    return group(bind.frame("FLMinFlowFrame"),
+                 grid(bind.row("FLMinFlowText(0)"), bind.row("FLMinFlowText(1)")));
 }
 
 }  // namespace
 
 QWidget* fluidPage(Binder& bind) {
     bind.mark("FLInletTempText(0)", cooling).mark("FLInletTempText(1)", heating);
-    return column(group(bind.frame("FLFluidFrame"),
-                        group(bind.frame("FLInletTempFrame"),
-                              grid(bind.row("FLInletTempText(0)"), bind.row("FLInletTempText(1)"))),
-                        group(bind.frame("FLFlowRateFrame"), grid(bind.row("FLFlowRateText"))),
-                        group(bind.frame("FLSolutionFrame"),
-                              grid(fluidType(bind), bind.row("FLSpecificHeatText"), density(bind)),
-                              buttons(bind.widget("FLTablesButton")))));
+    return column(group(
+        bind.frame("FLFluidFrame"),
+        group(bind.frame("FLInletTempFrame"),
+              grid(bind.row("FLInletTempText(0)"), bind.row("FLInletTempText(1)"))),
+        group(bind.frame("FLFlowRateFrame"), grid(bind.row("FLFlowRateText"))),
+        group(bind.frame("FLSolutionFrame"),
+              grid(fluidType(bind), bind.row("FLSpecificHeatText"), bind.row("FLFluidDensityText")),
+              buttons(bind.widget("FLTablesButton"))),
+        minimumFlow(bind)));
 }
 
 }  // namespace varnholt

@@ -41,7 +41,9 @@ class GenericView : public std::enable_shared_from_this<GenericView> {
  public:
     explicit GenericView(Binder& bind) : bind_(bind), form_(*bind.form()) {
         for (const auto& control : form_.controls())
-            if (isField(*control)) claim(control->name());
+            for (const std::string& companion :
+                 {control->label(), control->unitLabel(), control->upDown()})
+                if (isField(*control) && form_.has(companion)) claimed_.insert(companion);
     }
 
     QWidget* make() {
@@ -52,15 +54,6 @@ class GenericView : public std::enable_shared_from_this<GenericView> {
 
  private:
     using Controls = std::vector<const Control*>;
-
-    /// The labels and buttons that go along with a field are not laid out by themselves.
-    void claim(const std::string& field) {
-        for (const char* suffix : {"Label", "UnitLabel", "UnitsLabel", "UpDown"})
-            for (const bool indexed : {true, false}) {
-                const std::string name = companionName(field, suffix, indexed);
-                if (name != field && form_.has(name)) claimed_.insert(name);
-            }
-    }
 
     const Control* firstOf(Kind kind) const {
         for (const auto& control : form_.controls())
@@ -194,7 +187,9 @@ class GenericView : public std::enable_shared_from_this<GenericView> {
 
     Binder& bind_;
     Form& form_;
-    std::set<std::string> claimed_, done_;
+    /// What goes along with a field is not laid out by itself.
+    std::set<std::string> claimed_;
+    std::set<std::string> done_;
 };
 
 }  // namespace

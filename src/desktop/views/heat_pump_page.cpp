@@ -4,6 +4,7 @@
 #include "desktop/views/loads_pieces.h"
 #include "desktop/views/view_pieces.h"
 #include "forms/quantity.h"
+#include "forms/text_numbers.h"
 #include "loads/modLoads/zone_window.h"
 
 namespace varnholt {
@@ -30,9 +31,10 @@ PumpPicture pumpPicture(const Binder& bind) {
     for (const Mode mode : modes)
         picture.designWater[mode] =
             quantities::temperature.shown(window->conditions().inletTemp[mode], window->units());
-    picture.temperatureUnit = metric ? bind.text(2879) : bind.text(2880);
+    picture.temperatureUnit =
+        metric ? bind.text(Text::temperatureUnitsMetric) : bind.text(Text::temperatureUnitsEnglish);
     picture.capacityUnit = loadsCaptions(bind).unit;
-    picture.powerUnit = withoutBrackets(bind.text(2823));
+    picture.powerUnit = withoutBrackets(bind.text(Text::loadUnitsMetric));
     return picture;
 }
 
@@ -41,8 +43,7 @@ QWidget* catalogue(Binder& bind) {
     return group(bind.frame("HPCatalogueFrame"),
                  grid(bind.row("HPManufacturerCombo"), bind.row("HPSeriesCombo")),
                  bind.widget("HPPumpListLabel"),
-                 grow(row_(named(bind, "HPPumpList", "HPPumpListLabel"),
-                           grow(bind.drawing("LOPumpChart", curves)))));
+                 grow(row_(bind.widget("HPPumpList"), grow(bind.drawing("LOPumpChart", curves)))));
 }
 
 }  // namespace

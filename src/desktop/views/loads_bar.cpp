@@ -4,7 +4,6 @@
 
 #include "desktop/views/loads_pieces.h"
 #include "desktop/views/view_pieces.h"
-#include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
 namespace {
@@ -23,15 +22,14 @@ QWidget* loadsBar(Binder& bind) {
                 withIcon(bind, "LOOpenCommand", "open"), withIcon(bind, "LOSaveCommand", "save"),
                 withIcon(bind, "LOPrintCommand", "print"), bind.widget("LOImportCommand"),
                 ifAny(bind, "LOAutoSelectAllCommand"), bind.widget("LOUpdatePumpsCommand")),
-        row_(bind.widget("MetricCheck"), stretch(), bind.widget("LOWorkingZoneLabel"),
-             linkLights(bind))));
+        centredRow(bind.widget("MetricCheck"), grow(noticeBar(bind)),
+                   bind.widget("LOWorkingZoneLabel"), linkLights(bind))));
 }
 
 QWidget* zoneList(Binder& bind) {
     constexpr int listWidth = 136;
     auto* list = static_cast<QAbstractItemView*>(bind.widget("LOZoneList"));
     list->setFixedWidth(listWidth);
-    list->setAccessibleName(qt(bind.text(2811)));
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     return list;
 }

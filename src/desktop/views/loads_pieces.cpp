@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/views/loads_pieces.h"
 
+#include "forms/text_numbers.h"
 #include "loads/modLoads/zone_window.h"
 
 namespace varnholt {
@@ -25,8 +26,10 @@ LoadsCaptions loadsCaptions(const Binder& bind) {
     const ZoneWindow* window = zoneWindowOf(bind);
     if (window == nullptr) return {};
     const bool metric = window->units() == UnitSystem::metric;
-    return {{bind.text(2881), bind.text(2882), bind.text(2883), bind.text(2884)},
-            withoutBrackets(metric ? bind.text(2823) : bind.text(2822))};
+    return {{bind.text(Text::summaryEightToNoon), bind.text(Text::summaryNoonToFour),
+             bind.text(Text::summaryFourToEight), bind.text(Text::summaryEightToEight)},
+            withoutBrackets(metric ? bind.text(Text::loadUnitsMetric)
+                                   : bind.text(Text::loadUnitsEnglish))};
 }
 
 }  // namespace varnholt

@@ -10,13 +10,12 @@
 #include "desktop/views/loads_pieces.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/widgets/text_label.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
 
 constexpr int figuresInTable = 7;
-constexpr int nothingMeasuredText = 4297;
-constexpr int nothingToTestText = 4299;
 constexpr int figuresOfTerm = 11;
 
 const frmHPEdit* editorOf(const Binder& bind) { return static_cast<const frmHPEdit*>(bind.form()); }
@@ -158,16 +157,19 @@ FitCurvesPicture titled(const Binder& bind, FitPicture curves, const std::string
     };
     const bool metric = editorOf(bind)->units() == UnitSystem::metric;
     picture.across = with(across, acrossUnit);
-    picture.capacity =
-        factors ? bind.text(4254)
-                : with(bind.text(4235), withoutBrackets(bind.text(metric ? 2823 : 2822)));
-    picture.power =
-        factors ? bind.text(4255) : with(bind.text(4236), withoutBrackets(bind.text(2823)));
+    picture.capacity = factors ? bind.text(Text::capacityFactor)
+                               : with(bind.text(Text::ratedCapacity),
+                                      withoutBrackets(bind.text(metric ? Text::loadUnitsMetric
+                                                                       : Text::loadUnitsEnglish)));
+    picture.power = factors ? bind.text(Text::powerFactor)
+                            : with(bind.text(Text::ratedPower),
+                                   withoutBrackets(bind.text(Text::loadUnitsMetric)));
     return picture;
 }
 
 std::string degrees(const Binder& bind) {
-    return editorOf(bind)->units() == UnitSystem::metric ? bind.text(2879) : bind.text(2880);
+    return editorOf(bind)->units() == UnitSystem::metric ? bind.text(Text::temperatureUnitsMetric)
+                                                         : bind.text(Text::temperatureUnitsEnglish);
 }
 
 /// A picture of the pump on show, by what the form gives for it.
@@ -236,8 +238,8 @@ QWidget* pumpDetailsPage(Binder& bind) {
     type.caption = bind.widget("PumpTypeLabel");
     type.fields = {buttons(bind.widget("PumpTypeOption(0)"), bind.widget("PumpTypeOption(1)"))};
     QWidget* chart = curves(bind, "PumpChart", [&bind](const frmHPEdit& editor) {
-        return titled(bind, editor.bothRatings(), bind.text(4230), degrees(bind), false,
-                      nothingMeasuredText);
+        return titled(bind, editor.bothRatings(), bind.text(Text::enteringWater), degrees(bind),
+                      false, Text::nothingMeasured);
     });
     return group(bind.frame(pageFrames[0]),
                  grow(row_(grid(bind.row("PumpModelText"), type), gap(), grow(chart))));
@@ -246,8 +248,8 @@ QWidget* pumpDetailsPage(Binder& bind) {
 QWidget* ratingPageOf(Binder& bind, Mode mode) {
     QWidget* chart =
         curves(bind, prefixOf(mode) + "RatingChart", [&bind, mode](const frmHPEdit& editor) {
-            return titled(bind, editor.rating(mode), bind.text(4230), degrees(bind), false,
-                          nothingMeasuredText);
+            return titled(bind, editor.rating(mode), bind.text(Text::enteringWater), degrees(bind),
+                          false, Text::nothingMeasured);
         });
     QWidget* figures =
         column(flowPair(bind, mode), atLeft(ratingTable(bind, mode)),
@@ -261,8 +263,10 @@ QWidget* correctionPageOf(Binder& bind, CorrectionKind kind) {
     QWidget* chart =
         curves(bind, elementName("CorrectionsChart", kind), [&bind, kind](const frmHPEdit& editor) {
             const bool temperature = kind == byTemperature;
-            return titled(bind, editor.corrections(kind), bind.text(temperature ? 4216 : 4214),
-                          temperature ? degrees(bind) : std::string(), true, nothingMeasuredText);
+            return titled(
+                bind, editor.corrections(kind),
+                bind.text(temperature ? Text::loadTemperatureAxis : Text::loadPercentAxis),
+                temperature ? degrees(bind) : std::string(), true, Text::nothingMeasured);
         });
     QWidget* nominal = kind == byFlow ? grid([&bind] {
         FieldRow row = bind.row("NominalFlowText");
@@ -278,8 +282,8 @@ QWidget* correctionPageOf(Binder& bind, CorrectionKind kind) {
 
 QWidget* pumpTestPage(Binder& bind) {
     QWidget* chart = curves(bind, "TestChart", [&bind](const frmHPEdit& editor) {
-        return titled(bind, editor.tested(), bind.text(4230), degrees(bind), false,
-                      nothingToTestText);
+        return titled(bind, editor.tested(), bind.text(Text::enteringWater), degrees(bind), false,
+                      Text::nothingToTest);
     });
     QWidget* inputs = grid(bind.heads("TestModeLabel(0)", "TestModeLabel(1)"),
                            bind.pair("TestSourceEWTText"), bind.pair("TestSourceFlowText"),

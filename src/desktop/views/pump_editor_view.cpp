@@ -9,11 +9,10 @@
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/views.h"
 #include "desktop/widgets/text_label.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
-
-constexpr int firstStepText = 4122;
 
 QWidget* commands(Binder& bind) {
     return buttons(
@@ -30,7 +29,7 @@ QWidget* lists(Binder& bind) {
 
 QWidget* nothing(Binder& bind) {
     return group(bind.frame("NoInfoPicture"), bind.widget("NoPumpInfoLabel"),
-                 hint(bind, firstStepText, [] { return true; }));
+                 hint(bind, Text::pumpEditorHint, [] { return true; }));
 }
 
 FieldRow line(Binder& bind, const char* stem, std::size_t index) {
@@ -56,7 +55,7 @@ QWidget* information(Binder& bind) {
 
 QWidget* pumpNames(Binder& bind) {
     constexpr int listWidth = 168;
-    auto* list = static_cast<QAbstractItemView*>(named(bind, "PumpNamesList", "PumpNamesLabel"));
+    auto* list = static_cast<QAbstractItemView*>(bind.widget("PumpNamesList"));
     list->setFixedWidth(listWidth);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QWidget* label = bind.widget("PumpNamesLabel");

@@ -2,12 +2,11 @@
 // The results of a design, with the command that calculates them.
 #include "desktop/views/design_pages.h"
 #include "desktop/views/view_pieces.h"
+#include "forms/text_numbers.h"
 #include "loads/linked_design.h"
 
 namespace varnholt {
 namespace {
-
-constexpr int noLoadsText = 2160;
 
 bool hasNoLoads(const Binder& bind) {
     const auto* design = static_cast<const LinkedDesign*>(bind.form());
@@ -24,7 +23,7 @@ QWidget* resultsPanel(Binder& bind, const std::vector<FieldRows>& parts) {
     }
     return group(bind.frame("CACalculationFrame"), gridOf(rows),
                  buttons(bind.primary("CACalculateCommand")),
-                 hint(bind, noLoadsText, [&bind] { return hasNoLoads(bind); }));
+                 hint(bind, Text::enterLoadsFirst, [&bind] { return hasNoLoads(bind); }));
 }
 
 FieldRows unitTemperatures(Binder& bind) {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/views/view_pieces.h"
 
-#include <QFrame>
-#include <QHBoxLayout>
+#include <QAbstractButton>
 #include <QLabel>
 #include <utility>
 
 #include "desktop/drawings/drawings.h"
+#include "desktop/widgets/notice_bar.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/text_label.h"
 
@@ -27,12 +27,6 @@ QWidget* ifAny(Binder& bind, const std::string& name) {
     return bind.has(name) ? bind.widget(name) : nullptr;
 }
 
-QWidget* named(Binder& bind, const std::string& control, const std::string& caption) {
-    QWidget* widget = bind.widget(control);
-    widget->setAccessibleName(qt(bind.form()->control(caption).caption()));
-    return widget;
-}
-
 QWidget* hint(Binder& bind, int text, std::function<bool()> condition) {
     auto* label = new TextLabel(qt(bind.text(text)));
     label->setMuted();
@@ -48,20 +42,9 @@ QWidget* hint(Binder& bind, int text, std::function<bool()> condition) {
 }
 
 QWidget* noticeBar(Binder& bind) {
-    auto* bar = new QFrame;
-    bar->setObjectName(QStringLiteral("noticeBar"));
-    bar->setFrameShape(QFrame::StyledPanel);
-    auto* row = new QHBoxLayout(bar);
-    row->addWidget(wrapped(bind.widget("NoticeLabel")), 1);
-    row->addWidget(bind.widget("NoticeCommand"));
-    const auto refresh = [bar, &bind] {
-        const Form* form = bind.form();
-        const bool shown = form != nullptr && form->control("NoticeLabel").visible();
-        // A bar without a parent would open as a window of its own.
-        if (!shown || bar->parentWidget() != nullptr) bar->setVisible(shown);
-    };
-    refresh();
-    bind.onSettled(refresh);
+    auto* bar = new NoticeBar(static_cast<QLabel*>(bind.widget("NoticeLabel")),
+                              static_cast<QAbstractButton*>(bind.widget("NoticeCommand")));
+    bind.onSettled([bar] { bar->announce(); });
     return bar;
 }
 

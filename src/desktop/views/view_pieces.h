@@ -15,14 +15,11 @@ namespace varnholt {
 /// The widget of a control that not every form has; null where it is missing.
 QWidget* ifAny(Binder& bind, const std::string& name);
 
-/// A control whose caption has a name of its own: it is called so to screen readers.
-QWidget* named(Binder& bind, const std::string& control, const std::string& caption);
-
 /// A line that tells what to do first, shown while the condition holds.
 QWidget* hint(Binder& bind, int text, std::function<bool()> condition);
 
-/// What a person must know of the window, and what can be done about it; gone while there is
-/// nothing.
+/// What a person must know of the window, and what can be done about it; unseen while there is
+/// nothing. It stands between what else is above the pages, where its place costs none.
 QWidget* noticeBar(Binder& bind);
 
 /// The lights of a window's link, side by side; the form shows those that matter.

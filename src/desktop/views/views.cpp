@@ -7,6 +7,8 @@ namespace varnholt {
 
 void registerViews(ViewRegistry& views) {
     views.registerView("frmBHDesign", makeBoreholeView);
+    views.registerView("frmHZDesign", makeHorizontalView);
+    views.registerView("frmSWDesign", makeSurfaceWaterView);
     views.registerView("frmZoneManage", makeZoneManagerView);
     views.registerView("frmAvgBlock", makeAverageBlockView);
     views.registerView("frmLinkOptions", makeLinkOptionsView);

@@ -10,6 +10,8 @@ class Binder;
 // One function a form: it lays out the form's controls as the window shows them.
 
 QWidget* makeBoreholeView(Binder& bind);
+QWidget* makeHorizontalView(Binder& bind);
+QWidget* makeSurfaceWaterView(Binder& bind);
 QWidget* makeZoneManagerView(Binder& bind);
 QWidget* makeAverageBlockView(Binder& bind);
 QWidget* makeLinkOptionsView(Binder& bind);

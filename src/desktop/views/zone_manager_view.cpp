@@ -80,9 +80,8 @@ QWidget* summaryFields(Binder& bind) {
     bind.widget("LOZoneSummaryList")->setMinimumWidth(summaryWidth);
     colourModes(bind.fixedPitch("LOZoneSummaryList"));
     return column(
-        grow(row_(
-            column(summaryHeads(bind), grow(named(bind, "LOZoneSummaryList", "LOSummaryPicture"))),
-            gap(), grow(column(totals(bind), grow(bind.drawing("LOBuildingDayChart", day)))))),
+        grow(row_(column(summaryHeads(bind), grow(bind.widget("LOZoneSummaryList"))), gap(),
+                  grow(column(totals(bind), grow(bind.drawing("LOBuildingDayChart", day)))))),
         buttons(bind.widget("LOReturnFromSummaryCommand")));
 }
 
@@ -100,7 +99,7 @@ QWidget* zonesPage(Binder& bind) {
 
 QWidget* makeZoneManagerView(Binder& bind) {
     return roomy(
-        column(loadsBar(bind), noticeBar(bind),
+        column(loadsBar(bind),
                grow(bind.tabs("tabLoads", {[&bind] { return page(zonesPage(bind)); },
                                            [&bind] { return page(heatPumpPage(bind)); }}))),
         {1220, 700});

@@ -33,12 +33,6 @@ FieldRow blockRow(Binder& bind, std::size_t block) {
     return row;
 }
 
-FieldRow hoursRow(Binder& bind) {
-    FieldRow row = bind.pair("LOHoursText");
-    row.caption = bind.widget("LOLoadsLabel(1)");
-    return row;
-}
-
 QWidget* loads(Binder& bind) {
     Drawing* bars = newLoadsBars(
         [&bind] {
@@ -52,7 +46,7 @@ QWidget* loads(Binder& bind) {
                          headRow(bind, "LOTimeOfDayLabel", "LOHeatGainsLabel", "LOHeatLossesLabel"),
                          unitRow(bind, "LOHeatGainsUnitLabel", "LOHeatLossesUnitLabel"),
                          blockRow(bind, 0), blockRow(bind, 1), blockRow(bind, 2), blockRow(bind, 3),
-                         hoursRow(bind), bind.row("LODaysperWeekText")),
+                         bind.pair("LOHoursText"), bind.row("LODaysperWeekText")),
                     buttons(bind.widget("LOEqvHoursCommand"))),
              grow(bind.drawing("LOLoadsChart", bars))));
 }
@@ -86,11 +80,10 @@ void narrow(QWidget* field) {
 
 QWidget* selectionFields(Binder& bind) {
     narrow(bind.widget("LONumberOfUnitsText(0)"));
-    FieldRow model = bind.row("LOPumpNameCombo");
-    model.caption = bind.widget("LOPumpNameComboLabel");
-    return column(row_(grid(bind.row("LOMfgCombo"), bind.row("LOSeriesCombo")), gap(),
-                       grid(model, bind.row("LONumberOfUnitsText(0)")), stretch()),
-                  buttons(bind.primary("LOSelectPumpCommand"), bind.widget("LOCancelCommand")));
+    return column(
+        row_(grid(bind.row("LOMfgCombo"), bind.row("LOSeriesCombo")), gap(),
+             grid(bind.row("LOPumpNameCombo"), bind.row("LONumberOfUnitsText(0)")), stretch()),
+        buttons(bind.primary("LOSelectPumpCommand"), bind.widget("LOCancelCommand")));
 }
 
 QWidget* selection(Binder& bind) {

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QStyleOption>
 
+#include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 
 namespace varnholt {
@@ -66,6 +67,7 @@ int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
     // A combo opens a list below it, which scrolls when it is long.
     if (hint == SH_ComboBox_Popup) return 0;
     if (hint == SH_EtchDisabledText) return 0;
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     return QProxyStyle::styleHint(hint, option, widget, result);
 }
 
@@ -74,7 +76,16 @@ QIcon HouseStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
     // The entries of a child window's own menu go without pictures, which every new window would
     // read from the disk.
     if (qobject_cast<const QMdiSubWindow*>(widget) != nullptr) return {};
-    return QProxyStyle::standardIcon(icon, option, widget);
+    switch (icon) {
+        case SP_MessageBoxQuestion:
+        case SP_MessageBoxInformation:
+            return houseIcon(QStringLiteral("help"));
+        case SP_MessageBoxWarning:
+        case SP_MessageBoxCritical:
+            return houseIcon(QStringLiteral("refused"));
+        default:
+            return QProxyStyle::standardIcon(icon, option, widget);
+    }
 }
 
 void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,

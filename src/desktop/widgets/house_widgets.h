@@ -29,47 +29,57 @@ class FieldEdit : public QLineEdit {
     QAction* mark_ = nullptr;
 };
 
-/// A slider whose positions are numbers with fractions. What a person drags snaps to steps.
-class NumberSlider : public QSlider {
+/// A number between two others that a widget shows and a person moves.
+class MovedNumber {
  public:
-    explicit NumberSlider(QWidget* parent = nullptr);
+    virtual ~MovedNumber() = default;
 
-    void setNumbers(double lowest, double highest);
-    void setNumber(double number);
+    virtual void setNumbers(double lowest, double highest) = 0;
+    virtual void setNumber(double number) = 0;
+    /// By how much one press of a button moves it; a slider keeps to steps of its own.
+    virtual void setStep(double /*step*/) {}
+    /// Moves to the number as a person would.
+    virtual void moveTo(double number) = 0;
+
     double number() const { return number_; }
     double lowest() const { return lowest_; }
     double highest() const { return highest_; }
-    /// Moves to the number as a person would.
-    void moveTo(double number);
 
     /// A person has moved it.
     std::function<void(double)> onMoved;
+
+ protected:
+    double lowest_ = 0, highest_ = 100, number_ = 0;
+};
+
+/// A slider whose positions are numbers with fractions. What a person drags snaps to steps.
+class NumberSlider : public QSlider, public MovedNumber {
+ public:
+    explicit NumberSlider(QWidget* parent = nullptr);
+
+    void setNumbers(double lowest, double highest) override;
+    void setNumber(double number) override;
+    void moveTo(double number) override;
 
  private:
     void snap(int position);
     int positionOf(double number) const;
 
-    double lowest_ = 0, highest_ = 100, number_ = 0, step_ = 1;
+    double step_ = 1;
     bool writing_ = false;
 };
 
 /// Two small buttons, one above the other, that step a number up and down. Where it goes with a
 /// field, the arrow keys in the field do the same.
-class UpDownButtons : public QWidget {
+class UpDownButtons : public QWidget, public MovedNumber {
  public:
     explicit UpDownButtons(QWidget* parent = nullptr);
 
-    void setNumbers(double lowest, double highest);
-    void setNumber(double number);
-    double number() const { return number_; }
-    double lowest() const { return lowest_; }
-    double highest() const { return highest_; }
-    /// Moves to the number as a person would.
-    void moveTo(double number);
-    void step(int steps) { moveTo(number_ + steps); }
-
-    /// A person has stepped it.
-    std::function<void(double)> onMoved;
+    void setNumbers(double lowest, double highest) override;
+    void setNumber(double number) override;
+    void setStep(double step) override { step_ = step; }
+    void moveTo(double number) override;
+    void step(int steps) { moveTo(number_ + steps * step_); }
 
  protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -80,7 +90,7 @@ class UpDownButtons : public QWidget {
 
     QToolButton* up_;
     QToolButton* down_;
-    double lowest_ = 0, highest_ = 100, number_ = 0;
+    double step_ = 1;
 };
 
 /// A titled group of controls: a flat card, or inside another group a plain section.

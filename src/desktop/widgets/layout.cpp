@@ -261,6 +261,13 @@ QWidget* rowOf(const std::vector<Piece>& pieces) {
     return row;
 }
 
+QWidget* centredRowOf(const std::vector<Piece>& pieces) {
+    QWidget* row = rowOf(pieces);
+    for (const Piece& piece : pieces)
+        if (piece.widget != nullptr) row->layout()->setAlignment(piece.widget, Qt::AlignVCenter);
+    return row;
+}
+
 QWidget* gridOf(const std::vector<FieldRow>& rows) { return new FieldGrid(rows); }
 
 QWidget* groupOf(GroupBox* frame, const std::vector<Piece>& pieces) {

@@ -27,6 +27,7 @@ Piece grow(QWidget* widget, int share = 1);
 
 QWidget* columnOf(const std::vector<Piece>& pieces);
 QWidget* rowOf(const std::vector<Piece>& pieces);
+QWidget* centredRowOf(const std::vector<Piece>& pieces);
 QWidget* gridOf(const std::vector<FieldRow>& rows);
 
 /// Pieces below one another, in the order of reading. The captions of the grids in it, those in
@@ -40,6 +41,12 @@ QWidget* column(P... pieces) {
 template <class... P>
 QWidget* row_(P... pieces) {
     return rowOf({Piece(pieces)...});
+}
+
+/// Pieces beside one another in one line, each in the middle of its height.
+template <class... P>
+QWidget* centredRow(P... pieces) {
+    return centredRowOf({Piece(pieces)...});
 }
 
 /// Rows of captions, fields and units: captions at the left, figures at the right of their column,

@@ -7,9 +7,11 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QTimer>
+#include <QTreeView>
 #include <QUrl>
 #include <algorithm>
 
@@ -81,6 +83,12 @@ void offerFilters(QFileDialog& picker, const FileDialog& dialog) {
     if (dialog.saving) choose(first);
 }
 
+/// Shows sizes and dates whole where the desktop has no file dialog of its own.
+void widenColumns(const QFileDialog& picker) {
+    if (const auto* files = picker.findChild<QTreeView*>())
+        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+}
+
 /// How long an operation runs before its progress is shown, and between two repaints, in ms.
 constexpr int patience = 250;
 constexpr int repaintEvery = 40;
@@ -108,6 +116,7 @@ Answer DesktopPlatform::question(Buttons buttons, const std::string& title,
 
 std::optional<std::string> DesktopPlatform::chooseFile(const FileDialog& dialog) {
     QFileDialog picker(shelf_.mainWindow().dialogParent(), qt(dialog.title), qt(dialog.folder));
+    widenColumns(picker);
     picker.setAcceptMode(dialog.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     picker.setFileMode(dialog.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     picker.setOption(QFileDialog::DontConfirmOverwrite, !dialog.overwritePrompt);

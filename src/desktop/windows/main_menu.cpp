@@ -231,4 +231,8 @@ void MainMenu::captionChanged(Form&) {
     if (onChange) onChange();
 }
 
+void MainMenu::settled(Form&) {
+    if (afterCommand) afterCommand();
+}
+
 }  // namespace varnholt

@@ -39,10 +39,12 @@ class MainMenu : public QObject, public FormObserver {
 
     void propertyChanged(Control& control, Property property) override;
     void captionChanged(Form& form) override;
-    void settled(Form&) override {}
+    void settled(Form& form) override;
 
     /// A command that is none of the Edit menu's is about to run.
     std::function<void()> beforeCommand;
+    /// A command has run to its end.
+    std::function<void()> afterCommand;
     /// The main window's caption has changed, or its units.
     std::function<void()> onChange;
 

@@ -17,12 +17,12 @@
 
 #include "basis/file_system.h"
 #include "desktop/binding/mnemonics.h"
-#include "desktop/widgets/desktop_texts.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/theme.h"
 #include "desktop/windows/start_page.h"
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 #include "persistence/project_commands.h"
 
@@ -57,7 +57,7 @@ MainWindow::MainWindow(Varnmain& main, FaultTaker faults, const std::string& rec
     pages_->addWidget(area_);
     setCentralWidget(pages_);
 
-    auto* toolbar = new QToolBar(qt(main.text(desktop_texts::toolbar)), this);
+    auto* toolbar = new QToolBar(qt(main.text(Text::toolbarName)), this);
     toolbar->setObjectName(QStringLiteral("tbrMain"));
     toolbar->setMovable(false);
     toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
@@ -72,8 +72,9 @@ MainWindow::MainWindow(Varnmain& main, FaultTaker faults, const std::string& rec
     addWindowMenu();
     statusBar()->setSizeGripEnabled(true);
     statusBar()->addPermanentWidget(units_);
-    const QSize room = screen()->availableSize();
-    resize(usualSize().boundedTo(room));
+    // What the desktop will put around the window, its title above all, is on the screen too.
+    constexpr QSize frame(2 * gridStep, 6 * gridStep);
+    resize(usualSize().boundedTo(screen()->availableSize() - frame));
     refresh();
     area_->setBackground(QApplication::palette().brush(QPalette::Window));
     dress(*this);
@@ -149,7 +150,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
 
 void MainWindow::addRecentMenu() {
     QMenu* file = menu_->menu("File");
-    recentMenu_ = new QMenu(qt(main_.text(desktop_texts::recentFiles)), this);
+    recentMenu_ = new QMenu(qt(main_.text(Text::recentFiles)), this);
     recentMenu_->setIcon(houseIcon(QStringLiteral("recent")));
     file->insertMenu(menu_->action("Split1"), recentMenu_);
     connect(recentMenu_, &QMenu::aboutToShow, this, [this] { fillRecentMenu(); });
@@ -165,8 +166,7 @@ void MainWindow::fillRecentMenu() {
         entry->setStatusTip(qt(file));
         connect(entry, &QAction::triggered, this, [this, file] { openFiles({file}); });
     }
-    if (place == 0)
-        recentMenu_->addAction(qt(main_.text(desktop_texts::noRecentFiles)))->setEnabled(false);
+    if (place == 0) recentMenu_->addAction(qt(main_.text(Text::noRecentFiles)))->setEnabled(false);
 }
 
 void MainWindow::addWindowMenu() {
@@ -177,11 +177,10 @@ void MainWindow::addWindowMenu() {
         void (QMdiArea::*run)();
     };
     static constexpr Row rows[] = {
-        {desktop_texts::tile, desktop_texts::tileHint, "Ctrl+Shift+T", &QMdiArea::tileSubWindows},
-        {desktop_texts::cascade, desktop_texts::cascadeHint, "Ctrl+Shift+C",
+        {Text::tileWindows, Text::tileWindowsHint, "Ctrl+Shift+T", &QMdiArea::tileSubWindows},
+        {Text::cascadeWindows, Text::cascadeWindowsHint, "Ctrl+Shift+C",
          &QMdiArea::cascadeSubWindows},
-        {desktop_texts::nextWindow, desktop_texts::nextWindowHint, "Ctrl+Tab",
-         &QMdiArea::activateNextSubWindow}};
+        {Text::nextWindow, Text::nextWindowHint, "Ctrl+Tab", &QMdiArea::activateNextSubWindow}};
     std::vector<std::string> captions;
     for (const Row& row : rows) captions.push_back(main_.text(row.caption));
     const std::vector<QString> marked = withMnemonics(captions);
@@ -212,7 +211,7 @@ void MainWindow::fillWindowMenu() {
         windowEntries_.push_back(entry);
     }
     if (place > 0) return;
-    windowEntries_.push_back(menu->addAction(qt(main_.text(desktop_texts::noWindows))));
+    windowEntries_.push_back(menu->addAction(qt(main_.text(Text::noWindows))));
     windowEntries_.back()->setEnabled(false);
 }
 

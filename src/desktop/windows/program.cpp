@@ -11,12 +11,12 @@
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
 #include "desktop/binding/widget_driver.h"
-#include "desktop/widgets/desktop_texts.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/theme.h"
 #include "desktop/windows/desktop_platform.h"
 #include "desktop/windows/main_window.h"
 #include "desktop/windows/window_shelf.h"
+#include "forms/text_numbers.h"
 #include "script/script_runner.h"
 #include "tools/locales.h"
 #include "tools/program_folder.h"
@@ -37,10 +37,10 @@ void tellFault(Platform& platform, const Texts& texts, const std::exception_ptr&
     try {
         std::rethrow_exception(fault);
     } catch (const RunTimeError& error) {
-        platform.message(MessageIcon::exclamation, texts.text(1001), error.message());
+        platform.message(MessageIcon::exclamation, texts.text(Text::programTitle), error.message());
     } catch (const std::exception& error) {
-        platform.message(MessageIcon::critical, texts.text(1001),
-                         texts.text(desktop_texts::programFault) + "\n\n" + error.what());
+        platform.message(MessageIcon::critical, texts.text(Text::programTitle),
+                         texts.text(Text::programFault) + "\n\n" + error.what());
     }
 }
 
@@ -53,7 +53,7 @@ int runPrepared(QApplication& application, const CommandLine& line) {
     DesktopPlatform platform(shelf);
     Application program(platform, {folder, installed.resources, localeOf(line)});
     Varnmain& main = program.main();
-    applyTheme(application, Scheme::followDesktop, qt(main.text(1101)));
+    applyTheme(application, Scheme::followDesktop, qt(main.text(Text::languageFont)));
 
     const FaultTaker faults = [&](const std::exception_ptr& fault) {
         tellFault(platform, program.texts(), fault);
@@ -77,7 +77,7 @@ int runReading(QApplication& application, const CommandLine& line, std::istream&
     ScriptPlatform platform(transcript, folder, line.today.value_or(dateOfToday()));
     Application program(platform, {folder, installed.resources, localeOf(line)});
     Varnmain& main = program.main();
-    applyTheme(application, Scheme::followDesktop, qt(main.text(1101)));
+    applyTheme(application, Scheme::followDesktop, qt(main.text(Text::languageFont)));
 
     WidgetDriver driver(main, shelf);
     shelf.setFaultTaker(driver.faultTaker());

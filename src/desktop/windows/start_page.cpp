@@ -6,11 +6,11 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "desktop/widgets/desktop_texts.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/text_label.h"
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {
@@ -80,16 +80,19 @@ StartPage::StartPage(const Varnmain& main, std::function<void(const std::string&
     auto* card = new QWidget;
     card_ = new QVBoxLayout(card);
     card_->setSpacing(gridStep);
-    auto* title = new TextLabel(qt(main.text(desktop_texts::emptyTitle)));
+    auto* title = new TextLabel(qt(main.text(Text::startPageTitle)));
     QFont font = title->font();
     font.setPointSizeF(font.pointSizeF() * 1.3);
     font.setWeight(QFont::DemiBold);
     title->setFont(font);
     card_->addWidget(title);
-    card_->addWidget(line(main, "NewBorehole", "new-borehole", desktop_texts::emptyBorehole));
-    card_->addWidget(line(main, "mnuZoneManage", "zones", desktop_texts::emptyZones));
-    card_->addWidget(line(main, "mnuFileOpen", "open", desktop_texts::emptyOpen));
-    auto* drop = new TextLabel(qt(main.text(desktop_texts::emptyDrop)));
+    card_->addWidget(line(main, "NewBorehole", "new-borehole", Text::startPageBorehole));
+    card_->addWidget(line(main, "NewHorizontal", "new-horizontal", Text::startPageHorizontal));
+    card_->addWidget(
+        line(main, "NewSurfaceWater", "new-surface-water", Text::startPageSurfaceWater));
+    card_->addWidget(line(main, "mnuZoneManage", "zones", Text::startPageZones));
+    card_->addWidget(line(main, "mnuFileOpen", "open", Text::startPageOpen));
+    auto* drop = new TextLabel(qt(main.text(Text::startPageDrop)));
     drop->setMuted();
     card_->addWidget(drop);
     across->addStretch(1);

@@ -45,6 +45,7 @@ void WindowShelf::setMain(MainWindow& window, Varnmain& main) {
     QObject::connect(&window.area(), &QMdiArea::subWindowActivated, &window,
                      [this](QMdiSubWindow* frame) { userActivated(frame); });
     window.menu().beforeCommand = [this] { endVisit(); };
+    window.menu().afterCommand = [this] { refreshTitles(); };
 }
 
 /// A half-typed field is part of what the command works with.
@@ -78,7 +79,7 @@ void WindowShelf::openChild(ChildWindow& form) {
     frame->setContent(makeContent(form));
     places_[&form].child = frame;
     frame->onCloseBox = [this, &form] { closeByBox(&form); };
-    frame->content().binder().onSettled([this, &form] { refreshTitle(form); });
+    frame->content().binder().onSettled([this] { refreshTitles(); });
     place(*frame);
     frame->show();
     // The frame measures its title with every change of its shape.
@@ -222,6 +223,12 @@ QWidget* WindowShelf::frameOf(const Form& form) const {
     if (place.child != nullptr) return place.child;
     if (place.dialog != nullptr) return place.dialog;
     return place.content;
+}
+
+/// A command of one window may save or change another.
+void WindowShelf::refreshTitles() {
+    for (const auto& [form, place] : places_)
+        if (place.child != nullptr) refreshTitle(*form);
 }
 
 void WindowShelf::refreshTitle(const Form& form) {

@@ -61,6 +61,7 @@ class WindowShelf : public WindowStage, public OpenWindows {
     void endVisit();
     void userActivated(QMdiSubWindow* frame);
     void refreshTitle(const Form& form);
+    void refreshTitles();
     Form* formOf(const QMdiSubWindow* frame) const;
     bool isMain(const Form& form) const;
 

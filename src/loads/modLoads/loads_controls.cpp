@@ -57,7 +57,7 @@ void ZoneWindow::addCommandBar() {
 }
 
 void ZoneWindow::addZonePanel() {
-    add("LOZoneList", ControlKind::list).multipleRows();
+    add("LOZoneList", ControlKind::list).multipleRows().setAccessibleName(text(Text::zonesPage));
     add("LOZoneFrame", ControlKind::frame).setVisible(false);
     addLoadsFrame();
     addSpecificationsFrame();
@@ -104,6 +104,7 @@ void ZoneWindow::addDetailsFrame() {
     add("LONominalFlowLabel", ControlKind::label, Text::nominalFlow).in(frame);
     add("LONominalFlowText", ControlKind::text)
         .captionedBy("LONominalFlowLabel")
+        .unitsIn("LONominalFlowUnitLabel")
         .in(frame)
         .setLocked(true);
     add("LONominalFlowUnitLabel", ControlKind::label).in(frame);

@@ -16,14 +16,13 @@ namespace {
 /// difference. Whose building it is belongs to the linked design.
 struct LoadsState {
     LoadsDocument document;
-    std::vector<int> linkedDesigns;  ///< numbers of their windows
+    std::vector<int> linkedDesigns;  ///< numbers of their windows, ascending
     std::string halfReadFile;
     int shownZone = -1;
 
     friend bool operator==(const LoadsState& a, const LoadsState& b) {
         return a.document == b.document && a.halfReadFile == b.halfReadFile &&
-               std::is_permutation(a.linkedDesigns.begin(), a.linkedDesigns.end(),
-                                   b.linkedDesigns.begin(), b.linkedDesigns.end());
+               a.linkedDesigns == b.linkedDesigns;
     }
 };
 
@@ -50,6 +49,7 @@ const LoadsState& valueOf(const DocumentState& state) {
 std::vector<int> designsLinkedTo(const LoadsWindow& loads) {
     std::vector<int> numbers;
     for (const Link* link : loads.links().all()) numbers.push_back(link->design().serial());
+    std::sort(numbers.begin(), numbers.end());
     return numbers;
 }
 

@@ -61,22 +61,7 @@ void ZoneWindow::registerValues() {
     values.add("FileName", &FileName);
     values.add("directoryName", &directoryName);
     values.add("currentFileCheck", &currentFileCheck);
-    const ProjectInformation& project = document_.information;
-    values.add("projectName", &project.projectName);
-    values.add("designerName", &project.designerName);
-    values.add("clientName", &project.clientName);
-    values.add("addressLine1", &project.addressLine1);
-    values.add("addressLine2", &project.addressLine2);
-    values.add("city", &project.city);
-    values.add("state", &project.state);
-    values.add("zip", &project.zip);
-    values.add("country", &project.country);
-    values.add("phone", &project.phone);
-    values.add("fax", &project.fax);
-    values.add("email", &project.email);
-    values.add("comments", &project.comments);
-    values.add("currentDate", &project.currentDate);
-    values.add("projectStartDate", &project.projectStartDate);
+    addInformationValues(values, document_.information);
 }
 
 void ZoneWindow::registerConditions() {

@@ -223,8 +223,8 @@ TEST_F(EditorCurves, HavePicturesOfPointsAndLines) {
     frmHPEdit& window = opened();
     FitPicture picture = window.rating(cooling);
     EXPECT_EQ(picture.capacity[cooling].measured.size(), 3u);
-    EXPECT_EQ(picture.capacity[cooling].measured[1], (CurvePoint{85, 28.4}));
-    EXPECT_EQ(picture.capacity[cooling].secondMeasured[1], (CurvePoint{85, 29.3}));
+    EXPECT_EQ(picture.capacity[cooling].measured[1], (FitPoint{85, 28.4}));
+    EXPECT_EQ(picture.capacity[cooling].secondMeasured[1], (FitPoint{85, 29.3}));
     EXPECT_EQ(picture.capacity[cooling].line.size(), 25u);
     EXPECT_NEAR(picture.capacity[cooling].line.back().y, 26.2, 1e-9);
     EXPECT_NEAR(picture.capacity[cooling].secondLine.back().y, 26.2 * 1.0319805393697175, 1e-9);
@@ -249,7 +249,7 @@ TEST_F(EditorCurves, LeaveOutOfTheirPicturesWhatNoChartCanHold) {
     EXPECT_EQ(window.rating(cooling).capacity[cooling].measured.size(), 2u);
     window.type("CoolingEWTText(1)", "1e300");
     const FitPicture picture = window.rating(cooling);
-    for (const CurvePoint& point : picture.power[cooling].line) EXPECT_LE(point.x, 1e9);
+    for (const FitPoint& point : picture.power[cooling].line) EXPECT_LE(point.x, 1e9);
 }
 
 TEST_F(EditorCurves, CarryThePointOfTheTest) {

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What stands above the pages of every design.
+#include "desktop/views/design_pages.h"
+#include "desktop/views/view_pieces.h"
+
+namespace varnholt {
+
+QWidget* designWindow(Binder& bind, QWidget* pages) {
+    // The results take more room than the zeros that they begin with.
+    return roomy(column(bar(row_(bind.widget("MetricCheck"), stretch(), linkLights(bind))),
+                        noticeBar(bind), grow(pages)),
+                 {980, 640});
+}
+
+}  // namespace varnholt

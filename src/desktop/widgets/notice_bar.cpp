@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/widgets/notice_bar.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+
+#include "desktop/widgets/icons.h"
+#include "desktop/widgets/layout.h"
+
+namespace varnholt {
+namespace {
+
+constexpr int signSize = 16;
+
+/// The bar is as high without a button as with one.
+void keepPlace(QWidget& widget) {
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
+}
+
+}  // namespace
+
+NoticeBar::NoticeBar(QLabel* text, QAbstractButton* action)
+    : tell([](QAccessibleEvent& event) { QAccessible::updateAccessibility(&event); }),
+      sign_(new QLabel),
+      text_(text) {
+    setObjectName(QStringLiteral("noticeBar"));
+    wrapped(text);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(gridStep, 2, 2, 2);
+    row->addWidget(sign_);
+    row->addWidget(text, 1);
+    row->addWidget(action);
+    keepPlace(*this);
+    keepPlace(*action);
+    sign_->setFixedSize(signSize, signSize);
+    text->installEventFilter(this);
+    follow();
+}
+
+void NoticeBar::drawSign() {
+    sign_->setPixmap(
+        houseIcon(QStringLiteral("stale")).pixmap(QSize(signSize, signSize), devicePixelRatioF()));
+}
+
+void NoticeBar::follow() {
+    const bool shown = !text_->isHidden();
+    // A bar without a parent would open as a window of its own.
+    if (!shown || parentWidget() != nullptr) setVisible(shown);
+}
+
+bool NoticeBar::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) follow();
+    return QFrame::eventFilter(watched, event);
+}
+
+/// Most windows have nothing to tell when they open.
+void NoticeBar::showEvent(QShowEvent* event) {
+    drawSign();
+    QFrame::showEvent(event);
+}
+
+void NoticeBar::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange && isVisible()) drawSign();
+    QFrame::changeEvent(event);
+}
+
+void NoticeBar::announce() {
+    const QString told = text_->isHidden() ? QString() : text_->text();
+    if (told == announced_) return;
+    announced_ = told;
+    setAccessibleName(told);
+    if (told.isEmpty()) return;
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    tell(alert);
+}
+
+}  // namespace varnholt
