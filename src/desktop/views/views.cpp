@@ -12,6 +12,7 @@ void registerViews(ViewRegistry& views) {
     views.registerView("frmZoneManage", makeZoneManagerView);
     views.registerView("frmAvgBlock", makeAverageBlockView);
     views.registerView("frmLinkOptions", makeLinkOptionsView);
+    views.registerView("frmHPEdit", makePumpEditorView);
 }
 
 }  // namespace varnholt

@@ -15,5 +15,6 @@ QWidget* makeSurfaceWaterView(Binder& bind);
 QWidget* makeZoneManagerView(Binder& bind);
 QWidget* makeAverageBlockView(Binder& bind);
 QWidget* makeLinkOptionsView(Binder& bind);
+QWidget* makePumpEditorView(Binder& bind);
 
 }  // namespace varnholt
