@@ -38,9 +38,10 @@ TEST_F(PumpEditorWindow, FindsAPumpByTheBeginningOfItsName) {
     ASSERT_GT(pumps().size(), 3U);
     auto* list = static_cast<ListView*>(binder().widget("PumpNamesList"));
     list->setFocus();
-    for (const char key : pumps()[2]) QTest::keyClick(screen(), key);
+    const std::string third = pumps()[2];
+    for (const char key : third) QTest::keyClick(screen(), key);
     Desk::settle();
-    EXPECT_EQ(editor->control("PumpModelText").text(), pumps()[2]);
+    EXPECT_EQ(editor->control("PumpModelText").text(), third);
 }
 
 TEST_F(PumpEditorWindow, DrawsThePointsWhileTheyAreTyped) {

@@ -83,7 +83,7 @@ QWidget* data(Binder& bind) {
 }  // namespace
 
 QWidget* makePumpEditorView(Binder& bind) {
-    return roomy(column(bar(column(lists(bind), commands(bind))), noticeBar(bind),
+    return roomy(column(bar(column(lists(bind), row_(commands(bind), grow(noticeBar(bind))))),
                         grow(nothing(bind)), grow(information(bind)), grow(data(bind))),
                  {1240, 700});
 }
