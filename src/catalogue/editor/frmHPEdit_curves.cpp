@@ -130,7 +130,7 @@ void frmHPEdit::showMeasuredCOP(Mode mode) {
             const bool likely = !COP || isLikely(*COP);
             std::string figure =
                 COP ? formatNumber(asEER ? *COP * mbtuPerKilowatt : *COP, "###0.0") : std::string();
-            if (!likely) figure = text(Text::unlikelySign) + " " + figure;
+            if (!likely) figure.insert(0, text(Text::unlikelySign) + " ");
             label.setCaption(std::move(figure))
                 .setForecolor(likely ? colours::black : colours::alarm)
                 .setBold(!likely)
