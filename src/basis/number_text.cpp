@@ -109,12 +109,11 @@ std::optional<double> readLeadingNumber(std::string_view text) {
     return negative ? -value : value;
 }
 
-std::optional<double> readNumber(std::string_view text) {
+std::optional<double> readPlainNumber(std::string_view text) {
     while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
     while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-    if (text.empty() || numberLength(text) != text.size()) return std::nullopt;
-    const std::optional<double> number = readLeadingNumber(text);
-    return number && std::isfinite(*number) ? number : std::nullopt;
+    if (text.empty() || numberLength(text) < text.size()) return std::nullopt;
+    return readLeadingNumber(text);
 }
 
 double leadingNumber(std::string_view text) { return readLeadingNumber(text).value_or(0); }

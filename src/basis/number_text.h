@@ -14,9 +14,8 @@ double leadingNumber(std::string_view text);
 /// The same, but nothing where the text does not begin with a number at all.
 std::optional<double> readLeadingNumber(std::string_view text);
 
-/// The number that the whole text is, blanks around it aside; nothing for any other text, and for a
-/// number beyond a double.
-std::optional<double> readNumber(std::string_view text);
+/// The number that the whole text is, blanks around it aside; nothing for any other text.
+std::optional<double> readPlainNumber(std::string_view text);
 
 /// A number in a picture such as "###0.0", "##0.0", "#.00" or "###0". The shortest decimal text
 /// of the double is rounded half away from zero to the picture's decimals; "0" before the point is

@@ -137,6 +137,7 @@ void ChildWindow::endVisitOfField() {
 
 Notice ChildWindow::refusedNotice(const RefusedValue& refused) const {
     const int words = refused.tooLarge          ? Text::noticeValueTooLarge
+                      : refused.single          ? Text::noticeValueNotTaken
                       : refused.lowestIsRefused ? Text::noticeValueNotAbove
                       : refused.highest.empty() ? Text::noticeValueTooSmall
                                                 : Text::noticeValueOutsideRange;

@@ -20,10 +20,10 @@ const std::map<std::string, int> rooms{{"widgets", 1}, {"drawings", 2}, {"bindin
 /// lays out a form needs no file.
 const std::map<std::string, std::set<std::string>> floorsSeen{
     {"widgets", {"basis", "forms"}},
-    {"drawings", {"basis", "forms", "loads", "design"}},
+    {"drawings", {"basis", "forms", "catalogue", "loads", "design"}},
     {"charts", {"basis"}},
     {"binding", {"basis", "forms", "frame", "script"}},
-    {"views", {"basis", "forms", "loads", "design"}},
+    {"views", {"basis", "forms", "catalogue", "loads", "design"}},
 };
 
 /// "drawings" of "desktop/drawings/canvas.h"; empty for what is not in a room.

@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "basis/number_text.h"
 #include "basis/pasted_lines.h"
 #include "basis/run_time_error.h"
 
@@ -81,12 +80,6 @@ TEST(PastedLines, EndAtReturnsAndAtLineFeedsThatStandAlone) {
     EXPECT_EQ(pastedLines("1\r\n").all(), std::vector<std::string>{"1"});
     EXPECT_EQ(pastedLines("\n\n").ended, (std::vector<std::string>{"", ""}));
     EXPECT_TRUE(pastedLines("").all().empty());
-}
-
-TEST(Numbers, AreReadOnlyWhereTheWholeTextIsOne) {
-    EXPECT_EQ(readNumber(" -2.5e1 "), -25);
-    for (const char* text : {"", " ", "-", "12a", "1,5", "1 2", "abc", "1e999", "."})
-        EXPECT_FALSE(readNumber(text)) << text;
 }
 
 }  // namespace

@@ -12,6 +12,7 @@ void registerViews(ViewRegistry& views) {
     views.registerView("frmZoneManage", makeZoneManagerView);
     views.registerView("frmAvgBlock", makeAverageBlockView);
     views.registerView("frmLinkOptions", makeLinkOptionsView);
+    views.registerView("frmHPEdit", makePumpEditorView);
     views.registerView("frmImport1", makeImporterView);
     views.registerView("frmImportTable", makeImportTableView);
     views.registerView("frmTransferOptions", makeTransferOptionsView);

@@ -15,6 +15,7 @@ QWidget* makeSurfaceWaterView(Binder& bind);
 QWidget* makeZoneManagerView(Binder& bind);
 QWidget* makeAverageBlockView(Binder& bind);
 QWidget* makeLinkOptionsView(Binder& bind);
+QWidget* makePumpEditorView(Binder& bind);
 QWidget* makeImporterView(Binder& bind);
 QWidget* makeImportTableView(Binder& bind);
 QWidget* makeTransferOptionsView(Binder& bind);

@@ -37,7 +37,7 @@ double& valueIn(MonthlyLoads& year, const frmImport1::Cell& cell) {
 
 /// Pasted values are in stored units, but for peaks, which are in MBtu/hr.
 void paste(MonthlyLoads& year, const frmImport1::Cell& cell, const std::string& text) {
-    const std::optional<double> number = readNumber(text);
+    const std::optional<double> number = readPlainNumber(text);
     if (!number || !std::isfinite(*number * btuPerMBtu)) return;
     valueIn(year, cell) = cell.column == frmImport1::Column::total ? *number : *number * btuPerMBtu;
 }
@@ -75,7 +75,7 @@ void frmImport1::place(const Cell& cell) {
 
 /// Text that is no number leaves the old value.
 void frmImport1::txtImport1_Change() {
-    const std::optional<double> number = readNumber(control("txtImport1").text());
+    const std::optional<double> number = readPlainNumber(control("txtImport1").text());
     if (!number || !std::isfinite(*number * btuPerMBtu / kilowattsPerMBtu)) return;
     const double stored = quantities::load.stored(*number, units());
     const RaisedFlag typing(typing_);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 #include "basis/number_text.h"
@@ -29,6 +30,12 @@ std::string_view trimmed(std::string_view text) {
     while (!text.empty() && blank(text.front())) text.remove_prefix(1);
     while (!text.empty() && blank(text.back())) text.remove_suffix(1);
     return text;
+}
+
+/// The number that a text is as a whole; a number beyond a double is none.
+std::optional<double> readFiniteNumber(std::string_view text) {
+    const std::optional<double> number = readPlainNumber(text);
+    return number && std::isfinite(*number) ? number : std::nullopt;
 }
 
 std::string_view unquoted(std::string_view cell) {
@@ -139,14 +146,14 @@ std::optional<double> numberIn(std::string_view cell, char decimal) {
     if (cell.size() > longestNumber) return std::nullopt;
     const char groupMark = decimal == '.' ? ',' : '.';
     const bool marked = cell.find(groupMark) != std::string_view::npos;
-    if (decimal == '.' && !marked) return readNumber(cell);
+    if (decimal == '.' && !marked) return readFiniteNumber(cell);
     if (marked && !isGrouped(cell, groupMark, decimal)) return std::nullopt;
     std::string number;
     for (const char c : cell) {
         if (c == groupMark) continue;
         number += c == decimal ? '.' : c;
     }
-    return readNumber(number);
+    return readFiniteNumber(number);
 }
 
 }  // namespace varnholt

@@ -283,6 +283,7 @@ TEST(TableNumbers, MayHaveTheirThousandsGrouped) {
     for (const char* text : {"1,23", "1,2345", ",123", "1.5,000", "1,234,56", "a1,234"})
         EXPECT_FALSE(numberIn(text, '.')) << text;
     EXPECT_FALSE(numberIn("", '.'));
+    EXPECT_FALSE(numberIn("1e999", '.'));
     EXPECT_FALSE(numberIn(std::string(100, '1'), '.'));
 }
 
