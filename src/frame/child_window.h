@@ -30,6 +30,8 @@ class ChildWindow : public Form {
     virtual bool isLoads() const { return false; }
     /// Any other window that the save command knows how to save.
     virtual bool canSave() const { return isDesign() || isLoads(); }
+    /// There are reports of the window.
+    bool canPrint() const { return isDesign() || isLoads(); }
 
     /// Whether the window has a unit switch, the check box `MetricCheck`.
     bool hasUnitSwitch() const { return has("MetricCheck"); }

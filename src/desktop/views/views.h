@@ -15,5 +15,7 @@ QWidget* makeSurfaceWaterView(Binder& bind);
 QWidget* makeZoneManagerView(Binder& bind);
 QWidget* makeAverageBlockView(Binder& bind);
 QWidget* makeLinkOptionsView(Binder& bind);
+QWidget* makeZoneReportOptionsView(Binder& bind);
+QWidget* makeProjectReportOptionsView(Binder& bind);
 
 }  // namespace varnholt
