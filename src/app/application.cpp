@@ -2,6 +2,7 @@
 #include "app/application.h"
 
 #include "basis/file_system.h"
+#include "catalogue/editor/install.h"
 #include "design/install.h"
 #include "loads/install.h"
 #include "loads/links.h"
@@ -17,6 +18,7 @@ Application::Application(Platform& platform, const Setup& setup) {
     main_ = std::make_unique<Varnmain>(platform, language_, setup.programFolder);
     installLoads(*main_);
     installLinks(*main_);
+    installPumpEditor(*main_, [this] { refreshPumpLists(*main_); });
     installDesign(*main_);
     installPersistence(*main_);
     installReports(*main_, *reports_);

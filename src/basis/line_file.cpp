@@ -80,7 +80,7 @@ void LineFileReader::readItem(std::int16_t& value) { value = toInteger(leadingNu
 
 std::string LineFileReader::line() {
     if (rest_) {
-        const std::string left(*rest_);
+        std::string left(*rest_);
         rest_.reset();
         return left;
     }

@@ -62,7 +62,7 @@ std::vector<DesignTab*> frmSWDesign::tabs() {
 std::vector<ResultRow> frmSWDesign::resultRows() const {
     using Get = std::function<double(Mode)>;
     const auto row = [this](const char* label, UnitTexts caption, const Quantity& quantity,
-                            Get value) {
+                            const Get& value) {
         return ResultRow{label, caption, [this, &quantity, value](Mode mode) {
                              return shownAs(quantity, *this, value(mode));
                          }};

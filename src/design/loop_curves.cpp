@@ -41,8 +41,9 @@ LoopCurves drawLoopCurves(const LoopPipe& pipe, const ByMode<double>& approachTe
     try {
         const double reach = reachOf(approachTemp);
         for (const Mode mode : modes) {
-            for (double difference = nearest; difference <= reach; difference += step)
-                curves.perTon[mode].push_back(pointAt(pipe, mode, difference, units));
+            const auto steps = static_cast<int>((reach - nearest) / step);
+            for (int i = 0; i <= steps; ++i)
+                curves.perTon[mode].push_back(pointAt(pipe, mode, nearest + i * step, units));
             const double difference = approachOf(mode, approachTemp[mode]);
             if (difference >= nearest && difference <= reach)
                 curves.atDesign[mode] = {pointAt(pipe, mode, difference, units)};

@@ -81,13 +81,13 @@ std::vector<ResultRow> unitRows(const GroundDesign& design,
                                 const std::function<LoadsInputs()>& inputs) {
     using Get = std::function<double(Mode)>;
     const auto row = [&design](const char* label, UnitTexts caption, const Quantity& quantity,
-                               Get value) {
+                               const Get& value) {
         return ResultRow{label, caption, [&design, &quantity, value](Mode mode) {
                              return shownAs(quantity, design, value(mode));
                          }};
     };
     // The cooling figure is an energy efficiency ratio where the units are English.
-    const auto cop = [&design](const char* label, UnitTexts caption, Get value) {
+    const auto cop = [&design](const char* label, UnitTexts caption, const Get& value) {
         return ResultRow{
             label, caption, [&design, value](Mode mode) {
                 const bool ratio = mode == cooling && design.units() == UnitSystem::english;

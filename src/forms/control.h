@@ -68,6 +68,7 @@ constexpr int buttonFace = 0xF0F0F0;  ///< the system's button face
 constexpr int window = 0xFFFFFF;      ///< the background of fields
 constexpr int black = 0;
 constexpr int stale = 14281207;  ///< results older than the inputs
+constexpr int alarm = 255;       ///< coefficients older than their data; a figure to look at
 constexpr int greyed = 7829367;  ///< the mode that does not govern
 constexpr int heatingGoverns = 5263547;
 constexpr int coolingGoverns = 8925232;

@@ -30,6 +30,8 @@ class ChildWindow : public Form {
     virtual bool isLoads() const { return false; }
     /// Any other window that the save command knows how to save.
     virtual bool canSave() const { return isDesign() || isLoads(); }
+    /// The save command of such a window.
+    virtual void save() {}
     /// There are reports of the window.
     bool canPrint() const { return isDesign() || isLoads(); }
 

@@ -161,8 +161,12 @@ void openFile(Varnmain& main, const std::string& path) {
 
 void mnuFileSave_Click(Varnmain& main) {
     ChildWindow* active = main.activeWindow();
-    if (auto* design = dynamic_cast<GroundDesign*>(active)) saveDesign(*design);
-    if (auto* loads = dynamic_cast<LoadsWindow*>(active)) loads->LOSaveCommand_Click();
+    if (auto* design = dynamic_cast<GroundDesign*>(active))
+        saveDesign(*design);
+    else if (auto* loads = dynamic_cast<LoadsWindow*>(active))
+        loads->LOSaveCommand_Click();
+    else if (active->canSave())
+        active->save();
 }
 
 void mnuFileSaveAs_Click(Varnmain& main) {

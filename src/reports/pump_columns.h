@@ -20,8 +20,8 @@ constexpr auto pumpHeads(int row, int column) {
     using enum ItemStyle;
     // clang-format off
     return std::array{
-        ItemDefinition{row, column, 1, "CapacityLabel", columnHead, words(Text::capacityColumn)},
-        ItemDefinition{row, column + 1, 1, "PowerLabel", columnHead, words(Text::powerColumn)},
+        ItemDefinition{row, column, 1, "CapacityLabel", columnHead, words(Text::ratedCapacity)},
+        ItemDefinition{row, column + 1, 1, "PowerLabel", columnHead, words(Text::ratedPower)},
         ItemDefinition{row, column + 2, 1, "COPLabel", columnHead, words(Text::zonePumpCopMetric)},
         ItemDefinition{row, column + 3, 1, "FlowRateLabel", columnHead, words(Text::flowRateColumn)},
         ItemDefinition{row, column + 4, 1, "PLFLabel", columnHead, words(Text::partialLoadColumn)},
@@ -33,7 +33,7 @@ constexpr auto pumpHeads(int row, int column) {
         ItemDefinition{row + 1, column + 3, 1, "FlowRateUnitsLabel", unit, words(Text::flowColumnUnitsMetric, Text::flowColumnUnitsEnglish)},
         ItemDefinition{row + 1, column + 5, 1, "LoadTempUnitsLabel", unit, words(Text::loadTemperatureUnitsMetric, Text::loadTemperatureUnitsEnglish)},
         ItemDefinition{row + 1, column + 6, 1, "LoadFlowUnitsLabel1", unit, words(Text::airFlowUnitsMetric, Text::airFlowUnitsEnglish)},
-        ItemDefinition{row + 1, column + 7, 1, "LoadFlowUnitsLabel2", unit, words(Text::loadWaterFlowUnitsMetric, Text::loadWaterFlowUnitsEnglish)},
+        ItemDefinition{row + 1, column + 7, 1, "LoadFlowUnitsLabel2", unit, words(Text::loadWaterUnitsMetric, Text::loadWaterUnitsEnglish)},
     };
     // clang-format on
 }

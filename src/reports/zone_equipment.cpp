@@ -23,11 +23,11 @@ constexpr double pageWidth = std::accumulate(std::begin(columns), std::end(colum
 constexpr std::array headItems{
     ItemDefinition{0, 0, 1, "ZoneLabel", textHead, words(Text::zone)},
     ItemDefinition{0, 1, 2, "HeatPumpLabel", textHead, words(Text::heatPumpsHeading)},
-    ItemDefinition{0, 3, 3, "PumpInfoLabel", textHead, words(Text::pumpInformation)},
+    ItemDefinition{0, 3, 3, "PumpInfoLabel", textHead, words(Text::pumpInformationColumn)},
     ItemDefinition{0, 6, 1, "ModeLabel", textHead, words(Text::modeColumn)},
     ItemDefinition{0, 7, 3, "PumpDataLabel", columnHead, words(Text::pumpDataColumn)},
     ItemDefinition{1, 1, 1, "UnitNumberLabel", columnHead, words(Text::unitsColumn)},
-    ItemDefinition{1, 2, 1, "PumpLabel", textHead, words(Text::pumpColumn)},
+    ItemDefinition{1, 2, 1, "PumpLabel", textHead, words(Text::pump)},
 };
 
 constexpr std::array zoneItems{

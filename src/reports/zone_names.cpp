@@ -15,7 +15,7 @@ constexpr double columns[] = {18, 88, 58, 16};
 constexpr ItemDefinition headItems[] = {
     {0, 0, 1, "ZoneLabel",          textHead, words(Text::zone)},
     {0, 1, 1, "ZoneReferenceLabel", textHead, words(Text::zoneNameColumn)},
-    {0, 2, 1, "PumpLabel",          textHead, words(Text::pumpColumn)},
+    {0, 2, 1, "PumpLabel",          textHead, words(Text::pump)},
     {0, 3, 1, "UnitNumberLabel",    columnHead, words(Text::unitsColumn)},
 };
 

@@ -30,7 +30,7 @@ constexpr std::array headItems{
     ItemDefinition{2, 5, 1, "EightToEightLabel1", columnHead, words(Text::columnEightToEight)},
     ItemDefinition{1, 6, 1, "HoursLabel", columnHead, words(Text::hoursColumn)},
     ItemDefinition{1, 7, 1, "UnitNumberLabel", columnHead, words(Text::unitsColumn)},
-    ItemDefinition{1, 8, 1, "PumpLabel", textHead, words(Text::pumpColumn)},
+    ItemDefinition{1, 8, 1, "PumpLabel", textHead, words(Text::pump)},
 };
 
 constexpr std::array zoneItems{

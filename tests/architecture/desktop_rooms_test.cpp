@@ -21,12 +21,12 @@ const std::map<std::string, int> rooms{{"widgets", 1}, {"drawings", 2}, {"paper"
 /// lays out a form needs no file.
 const std::map<std::string, std::set<std::string>> floorsSeen{
     {"widgets", {"basis", "forms"}},
-    {"drawings", {"basis", "forms", "loads", "design"}},
+    {"drawings", {"basis", "forms", "catalogue", "loads", "design"}},
     {"charts", {"basis"}},
     {"paper", {"basis", "forms", "loads", "design", "script", "reports"}},
     {"printing", {}},
     {"binding", {"basis", "forms", "frame", "script"}},
-    {"views", {"basis", "forms", "loads", "design"}},
+    {"views", {"basis", "forms", "catalogue", "loads", "design"}},
 };
 
 /// "drawings" of "desktop/drawings/canvas.h"; empty for what is not in a room.

@@ -75,9 +75,13 @@ TEST_F(DesignedViews, OfTheAverageBlockIsWalkedInTheOrderOfItsForm) {
     expectReadingOrder("mnuAvgBlock");
 }
 
+TEST_F(DesignedViews, OfTheHeatPumpEditorIsWalkedInTheOrderOfItsForm) {
+    expectReadingOrder("EditAdd");
+}
+
 TEST_F(DesignedViews, LeaveNoControlOut) {
-    for (const char* command :
-         {"NewBorehole", "NewHorizontal", "NewSurfaceWater", "mnuZoneManage", "mnuAvgBlock"}) {
+    for (const char* command : {"NewBorehole", "NewHorizontal", "NewSurfaceWater", "mnuZoneManage",
+                                "mnuAvgBlock", "EditAdd"}) {
         ChildWindow& form = opened(command);
         FormWindow window(form, views.maker(), {});
         EXPECT_EQ(window.binder().unshown(), std::vector<std::string>{}) << form.formName();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/drawings/chart_drawing.h"
 
+#include <QBoxLayout>
 #include <QEvent>
 #include <QLabel>
 #include <utility>
@@ -35,7 +36,6 @@ ChartDrawing::ChartDrawing(const Texts& texts, ChartModuleFinder charts,
 
 void ChartDrawing::create() {
     created_ = true;
-    legend_->setEntries(legend());
     ChartModule* module = module_();
     if (module == nullptr) return;
     for (std::size_t i = 0; i < pictures().size(); ++i) {
@@ -51,6 +51,7 @@ void ChartDrawing::refresh() {
     QString hint = emptyHint();
     if (hint.isEmpty()) {
         if (!created_) create();
+        legend_->setEntries(legend());
         const std::vector<ChartPicture> pictures = this->pictures();
         for (std::size_t i = 0; i < charts_.size(); ++i) charts_[i]->draw(pictures[i]);
         if (charts_.empty()) hint = qt(texts_.text(Text::chartPartMissing));

@@ -37,12 +37,15 @@ struct ChartAxis {
 /// Points of one mode, and the sign by which they are shown.
 struct ChartSeries {
     enum class Sign {
-        line,      ///< solid for cooling, dashed for heating
-        steps,     ///< a line with square corners
-        area,      ///< what lies below the points, in a wash of the mode's colour
-        measured,  ///< hollow marks, round for cooling and square for heating
-        design,    ///< diamonds
-        neutral,   ///< a muted line that belongs to no mode
+        line,            ///< solid for cooling, dashed for heating
+        steps,           ///< a line with square corners
+        area,            ///< what lies below the points, in a wash of the mode's colour
+        measured,        ///< hollow marks, round for cooling and square for heating
+        design,          ///< diamonds
+        staleLine,       ///< dotted in grey: fitted from other data than are shown
+        thinLine,        ///< a line that goes with the main one
+        secondMeasured,  ///< hollow triangles, of another series of measurements
+        neutral,         ///< a muted line that belongs to no mode
     };
 
     Sign sign;

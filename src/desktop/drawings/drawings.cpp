@@ -138,4 +138,9 @@ Drawing* newPumpCurves(std::function<PumpPicture()> source, const Texts& texts,
     return new PumpCurves(std::move(source), texts, std::move(charts));
 }
 
+Drawing* newFitCurves(std::function<FitCurvesPicture()> source, const Texts& texts,
+                      ChartModuleFinder charts) {
+    return new FitCurves(std::move(source), texts, std::move(charts));
+}
+
 }  // namespace varnholt

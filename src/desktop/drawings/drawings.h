@@ -13,6 +13,7 @@
 #include "design/trench_plan.h"
 #include "desktop/drawings/chart_module.h"
 #include "desktop/drawings/drawing.h"
+#include "desktop/drawings/fit_curves.h"
 #include "desktop/drawings/link_light.h"
 #include "desktop/drawings/loads_picture.h"
 #include "desktop/drawings/pump_curves.h"
@@ -42,5 +43,7 @@ Drawing* newDayChart(std::function<LoadsChart()> source, std::function<LoadsCapt
                      const Texts& texts, ChartModuleFinder charts = findChartModule);
 Drawing* newPumpCurves(std::function<PumpPicture()> source, const Texts& texts,
                        ChartModuleFinder charts = findChartModule);
+Drawing* newFitCurves(std::function<FitCurvesPicture()> source, const Texts& texts,
+                      ChartModuleFinder charts = findChartModule);
 
 }  // namespace varnholt

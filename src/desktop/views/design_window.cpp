@@ -7,9 +7,10 @@ namespace varnholt {
 
 QWidget* designWindow(Binder& bind, QWidget* pages) {
     // The results take more room than the zeros that they begin with.
-    return roomy(column(bar(row_(bind.widget("MetricCheck"), stretch(), linkLights(bind))),
-                        noticeBar(bind), grow(pages)),
-                 {980, 640});
+    return roomy(
+        column(bar(centredRow(bind.widget("MetricCheck"), grow(noticeBar(bind)), linkLights(bind))),
+               grow(pages)),
+        {980, 640});
 }
 
 }  // namespace varnholt

@@ -14,6 +14,7 @@ void registerViews(ViewRegistry& views) {
     views.registerView("frmLinkOptions", makeLinkOptionsView);
     views.registerView("frmZNOptions", makeZoneReportOptionsView);
     views.registerView("frmPROptions", makeProjectReportOptionsView);
+    views.registerView("frmHPEdit", makePumpEditorView);
 }
 
 }  // namespace varnholt

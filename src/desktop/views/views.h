@@ -17,5 +17,6 @@ QWidget* makeAverageBlockView(Binder& bind);
 QWidget* makeLinkOptionsView(Binder& bind);
 QWidget* makeZoneReportOptionsView(Binder& bind);
 QWidget* makeProjectReportOptionsView(Binder& bind);
+QWidget* makePumpEditorView(Binder& bind);
 
 }  // namespace varnholt
