@@ -10,7 +10,7 @@ endif()
 install(TARGETS ${programs} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 if(VARNHOLT_DESKTOP)
     # Where the program looks for it, whatever the system's folder of libraries is called.
-    install(TARGETS varnholt_charts LIBRARY DESTINATION lib/varnholt)
+    install(TARGETS varnholt_charts varnholt_printing LIBRARY DESTINATION lib/varnholt)
 endif()
 
 # The programs look for their files in ../share/varnholt. The windows' pictures are compiled in.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
+#include <QHashSeed>
 #include <iostream>
 
 #include "desktop/windows/program.h"
@@ -20,6 +21,8 @@ int run(int& count, char** arguments) {
         std::cout << (line.help ? usageOf(Program::windows) : versionOf(Program::windows));
         return 0;
     }
+    // The same report makes the same file: nothing in it follows the order of a hash.
+    QHashSeed::setDeterministicGlobalSeed();
     if (line.script) prepareForScript();
     QCoreApplication::setApplicationName(QStringLiteral("varnholt"));
     QCoreApplication::setApplicationVersion(QString::fromLatin1(programVersion));

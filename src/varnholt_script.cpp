@@ -22,12 +22,18 @@ int runScript(const CommandLine& line, std::istream& input) {
     Transcript transcript(std::cout);
     ScriptPlatform platform(transcript, folder, line.today.value_or(dateOfToday()));
     Application application(
-        platform, {folder, installed.resources, line.localeNumber.value_or(platformLocale())});
+        platform, {folder, installed.resources, line.localeNumber.value_or(platformLocale()),
+                   line.today.has_value()});
+    application.reports().onShown = [&transcript](const auto& report) {
+        transcript.line(toldReport(report->object, report->caption));
+    };
     application.start();
 
     FormDriver driver(application.main());
     ScriptReader reader(input, *line.script);
-    return ScriptRunner(application.main(), platform, driver, transcript, reader, std::cerr).run();
+    ScriptRunner runner(application.main(), platform, driver, transcript, reader, std::cerr);
+    runner.setReports(&application.reports());
+    return runner.run();
 }
 
 int usageFault(const std::string& what) {

@@ -7,12 +7,15 @@
 #include "loads/install.h"
 #include "loads/links.h"
 #include "persistence/project_commands.h"
+#include "reports/install.h"
 #include "tools/install.h"
 
 namespace varnholt {
 
 Application::Application(Platform& platform, const Setup& setup) {
     language_.LoadSatellite(joinPath(setup.resourceFolder, "language"), setup.localeNumber);
+    reports_ = std::make_unique<ReportShelf>(joinPath(setup.programFolder, "Data/vht.db"));
+    reports_->dayIsGiven = setup.dayIsGiven;
     main_ = std::make_unique<Varnmain>(platform, language_, setup.programFolder);
     installTools(*main_);
     installLoads(*main_);
@@ -20,6 +23,7 @@ Application::Application(Platform& platform, const Setup& setup) {
     installPumpEditor(*main_, [this] { refreshPumpLists(*main_); });
     installDesign(*main_);
     installPersistence(*main_);
+    installReports(*main_, *reports_);
 }
 
 }  // namespace varnholt

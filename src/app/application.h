@@ -6,6 +6,7 @@
 
 #include "forms/platform.h"
 #include "frame/varnmain.h"
+#include "reports/report_shelf.h"
 #include "tools/modResource.h"
 
 namespace varnholt {
@@ -17,16 +18,19 @@ class Application {
         std::string programFolder;   ///< the program's folder, without a slash at its end
         std::string resourceFolder;  ///< holds `language`
         unsigned localeNumber = 0x409;
+        bool dayIsGiven = false;  ///< reports tell no time of day
     };
 
     Application(Platform& platform, const Setup& setup);
 
     Varnmain& main() { return *main_; }
     const Texts& texts() const { return language_; }
+    ReportShelf& reports() { return *reports_; }
     void start() { main_->start(); }
 
  private:
     LanguageResource language_;
+    std::unique_ptr<ReportShelf> reports_;
     std::unique_ptr<Varnmain> main_;
 };
 

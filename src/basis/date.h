@@ -33,5 +33,7 @@ std::optional<Date> readDate(std::string_view text);
 
 /// The day by the computer's clock.
 Date dateOfToday();
+/// The time of day by the computer's clock: "14:03".
+std::string timeOfDay();
 
 }  // namespace varnholt

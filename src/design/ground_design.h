@@ -55,6 +55,9 @@ class GroundDesign : public LinkedDesign {
 
     /// A tower takes a share of the cooling load: in the run at hand, or in the results on show.
     bool towerIsOn() const;
+    /// The results on show come from other inputs or loads than the present ones, or the last run
+    /// has ended without any.
+    bool showsOlderResults() const { return droppedError_ != 0 || resultsAreOlder(); }
 
     // Form_Load, in the order in which a window is set up.
     void load() override;

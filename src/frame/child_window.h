@@ -32,6 +32,8 @@ class ChildWindow : public Form {
     virtual bool canSave() const { return isDesign() || isLoads(); }
     /// The save command of such a window.
     virtual void save() {}
+    /// There are reports of the window.
+    bool canPrint() const { return isDesign() || isLoads(); }
 
     /// Whether the window has a unit switch, the check box `MetricCheck`.
     bool hasUnitSwitch() const { return has("MetricCheck"); }

@@ -369,6 +369,8 @@ bool Varnmain::usable(const Command& command) const {
             return active_ != nullptr && active_->isDesign();
         case CommandNeeds::designOrLoads:
             return active_ != nullptr && active_->canSave();
+        case CommandNeeds::printable:
+            return active_ != nullptr && active_->canPrint();
         case CommandNeeds::undo:
             return active_ != nullptr && active_->history().canUndo();
         case CommandNeeds::redo:

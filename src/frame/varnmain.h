@@ -19,7 +19,7 @@ namespace varnholt {
 class DesignDocument;
 
 /// When a menu command can be used.
-enum class CommandNeeds { nothing, anyWindow, design, designOrLoads, undo, redo };
+enum class CommandNeeds { nothing, anyWindow, design, designOrLoads, printable, undo, redo };
 
 /// The main window: menus, toolbar, the common dialog, and the account of all child windows.
 ///

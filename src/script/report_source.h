@@ -26,4 +26,7 @@ class ReportSource {
     virtual bool save(const std::string& path) const = 0;
 };
 
+/// The line of a transcript that tells of a report: `report rptBH "Borehole ..."`.
+std::string toldReport(const std::string& object, const std::string& caption);
+
 }  // namespace varnholt

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "basis/number_text.h"
+#include "script/report_source.h"
 
 namespace varnholt {
 namespace {
@@ -68,5 +69,9 @@ std::string numberText(double number) {
 std::string shownText(const Shown& value) { return std::visit(ShownWriter{}, value); }
 
 void Transcript::line(const std::string& text) { out_ << text << '\n' << std::flush; }
+
+std::string toldReport(const std::string& object, const std::string& caption) {
+    return "report " + object + " " + quotedText(caption);
+}
 
 }  // namespace varnholt

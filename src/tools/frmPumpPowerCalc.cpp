@@ -66,7 +66,7 @@ void frmPumpPowerCalc::addFields() {
               .quantity = &quantities::waterFlow,
               .highest = largest,
               .fallback = 0.2,
-              .beside = beside("(2)", Text::pumpFlow,
+              .beside = beside("(2)", Text::flowRateCaption,
                                {Text::waterFlowUnitsEnglish, Text::waterFlowUnitsMetric}),
               .lowestIsRefused = true,
               .whenEmpty = 100,

@@ -13,8 +13,9 @@ namespace {
 
 /// A room may use the rooms with smaller numbers, and itself. The charts are no room but a library
 /// that the drawings load: it may see what is drawn, and nobody sees it.
-const std::map<std::string, int> rooms{{"widgets", 1}, {"drawings", 2}, {"binding", 3},
-                                       {"views", 4},   {"windows", 5},  {"charts", 3}};
+const std::map<std::string, int> rooms{{"widgets", 1}, {"drawings", 2}, {"paper", 3},
+                                       {"binding", 4}, {"views", 5},    {"windows", 6},
+                                       {"charts", 4},  {"printing", 4}};
 
 /// What a room may see of the floors below. What is drawn needs no program around it, and what
 /// lays out a form needs no file.
@@ -22,6 +23,8 @@ const std::map<std::string, std::set<std::string>> floorsSeen{
     {"widgets", {"basis", "forms"}},
     {"drawings", {"basis", "forms", "catalogue", "loads", "design"}},
     {"charts", {"basis"}},
+    {"paper", {"basis", "forms", "loads", "design", "script", "reports"}},
+    {"printing", {}},
     {"binding", {"basis", "forms", "frame", "script"}},
     {"views", {"basis", "forms", "catalogue", "loads", "design"}},
 };

@@ -79,6 +79,8 @@ void copyFile(const std::string& from, const std::string& to) {
     if (error) throwFileError(error.value(), to);
 }
 
+bool removeFile(const std::string& path) { return ::unlink(path.c_str()) == 0; }
+
 std::unique_ptr<std::istream> openInput(const std::string& path) {
     auto file = std::make_unique<std::ifstream>(path, std::ios::binary);
     // A folder opens, but nothing can be read from it.

@@ -31,6 +31,9 @@ void replaceWholeFile(const std::string& path, std::string_view bytes);
 /// original may be read-only. Throws RunTimeError as reading and replacing do.
 void copyFile(const std::string& from, const std::string& to);
 
+/// Takes a file away. False when that cannot be, and for one that is not there.
+bool removeFile(const std::string& path);
+
 /// A file, pipe or device to be read line by line as it comes; null when it cannot be read.
 std::unique_ptr<std::istream> openInput(const std::string& path);
 

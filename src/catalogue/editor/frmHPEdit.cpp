@@ -160,8 +160,8 @@ std::vector<Notice> frmHPEdit::notices() {
         std::string curves;
         if (stale.rating[cooling]) append(curves, text(Text::cooling));
         if (stale.rating[heating]) append(curves, text(Text::heating));
-        if (stale.correction[byTemperature]) append(curves, text(Text::temperatureCorrectionsPage));
-        if (stale.correction[byFlow]) append(curves, text(Text::flowCorrectionsPage));
+        if (stale.correction[byTemperature]) append(curves, text(Text::loadTemperaturePage));
+        if (stale.correction[byFlow]) append(curves, text(Text::loadFlow));
         if (!curves.empty())
             holding.insert(holding.begin(),
                            {filledIn(text(Text::noticeStaleCurves), {curves}),

@@ -52,7 +52,7 @@ void frmHPEdit::addControls() {
     add("PumpDataTabs", ControlKind::tabs)
         .in("PumpDataPicture")
         .setItems({text(Text::pumpDetailsPage), text(Text::cooling), text(Text::heating),
-                   text(Text::temperatureCorrectionsPage), text(Text::flowCorrectionsPage),
+                   text(Text::loadTemperaturePage), text(Text::loadFlow),
                    text(Text::testPage)})
         .setIndex(0);
     addDetailsPage();

@@ -29,7 +29,7 @@ double& factorAt(pump& model, CorrectionKind kind, Mode mode, FittedQuantity qua
 void frmHPEdit::addCorrectionPage(CorrectionKind kind) {
     const std::string frame = pageFrames[correctionPage[kind]];
     add(frame, ControlKind::frame,
-        kind == byTemperature ? Text::temperatureCorrectionsPage : Text::flowCorrectionsPage)
+        kind == byTemperature ? Text::temperatureCorrections : Text::flowCorrections)
         .in("PumpDataPicture");
     if (kind == byFlow) addNominalFlow();
     addCorrectionHeads(kind);

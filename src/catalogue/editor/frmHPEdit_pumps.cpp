@@ -91,7 +91,7 @@ void frmHPEdit::addPump(pump added) {
 void frmHPEdit::NewCommand_Click() {
     if (!place_) return;
     pump fresh = newPump(document_.pumps.empty() ? nullptr : &*document_.pumps.back());
-    fresh.name = std::to_string(document_.pumps.size() + 1) + " " + text(Text::newPumpName);
+    fresh.name = std::to_string(document_.pumps.size() + 1) + " " + text(Text::pump);
     addPump(std::move(fresh));
 }
 

@@ -2,6 +2,7 @@
 #include "desktop/drawings/field_picture.h"
 
 #include <QFontMetricsF>
+#include <QPaintEngine>
 #include <QPixmap>
 #include <QPolygonF>
 #include <algorithm>
@@ -182,8 +183,20 @@ QPixmap stampOf(const Canvas& canvas, int neighbours, double size) {
     return stamp;
 }
 
+/// A file for printers takes outlines, which stay sharp at any size.
+bool takesOutlines(const QPainter& painter) {
+    return painter.paintEngine() != nullptr && painter.paintEngine()->type() == QPaintEngine::Pdf;
+}
+
 void drawBores(const Canvas& canvas, const Grid& grid) {
     const double size = std::min(largestMark, grid.pitch * 0.62);
+    if (takesOutlines(canvas.painter)) {
+        for (int row = 0; row < grid.rows; ++row)
+            for (int column = 0; column < grid.columns; ++column)
+                drawMark(canvas.painter, canvas.look, grid.at(column, row),
+                         neighboursAt(grid, column, row), size);
+        return;
+    }
     std::array<QPixmap, 5> stamps;
     for (int neighbours = 0; neighbours < 5; ++neighbours)
         stamps[static_cast<std::size_t>(neighbours)] = stampOf(canvas, neighbours, size);

@@ -12,6 +12,8 @@ void registerViews(ViewRegistry& views) {
     views.registerView("frmZoneManage", makeZoneManagerView);
     views.registerView("frmAvgBlock", makeAverageBlockView);
     views.registerView("frmLinkOptions", makeLinkOptionsView);
+    views.registerView("frmZNOptions", makeZoneReportOptionsView);
+    views.registerView("frmPROptions", makeProjectReportOptionsView);
     views.registerView("frmHPEdit", makePumpEditorView);
     views.registerView("frmImport1", makeImporterView);
     views.registerView("frmImportTable", makeImportTableView);

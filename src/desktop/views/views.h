@@ -15,6 +15,8 @@ QWidget* makeSurfaceWaterView(Binder& bind);
 QWidget* makeZoneManagerView(Binder& bind);
 QWidget* makeAverageBlockView(Binder& bind);
 QWidget* makeLinkOptionsView(Binder& bind);
+QWidget* makeZoneReportOptionsView(Binder& bind);
+QWidget* makeProjectReportOptionsView(Binder& bind);
 QWidget* makePumpEditorView(Binder& bind);
 QWidget* makeImporterView(Binder& bind);
 QWidget* makeImportTableView(Binder& bind);

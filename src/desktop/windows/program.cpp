@@ -15,6 +15,7 @@
 #include "desktop/widgets/theme.h"
 #include "desktop/windows/desktop_platform.h"
 #include "desktop/windows/main_window.h"
+#include "desktop/windows/report_windows.h"
 #include "desktop/windows/window_shelf.h"
 #include "forms/text_numbers.h"
 #include "script/script_runner.h"
@@ -51,7 +52,8 @@ int runPrepared(QApplication& application, const CommandLine& line) {
     const std::string folder = programFolderOf(line, installed);
     WindowShelf shelf(false);
     DesktopPlatform platform(shelf);
-    Application program(platform, {folder, installed.resources, localeOf(line)});
+    Application program(platform,
+                        {folder, installed.resources, localeOf(line), line.today.has_value()});
     Varnmain& main = program.main();
     applyTheme(application, Scheme::followDesktop, qt(main.text(Text::languageFont)));
 
@@ -61,6 +63,8 @@ int runPrepared(QApplication& application, const CommandLine& line) {
     shelf.setFaultTaker(faults);
     MainWindow window(main, faults, joinPath(folder, "recent files.txt"));
     shelf.setMain(window, main);
+    const ReportWindows reports(window, platform, program.reports(), program.texts(),
+                                localeOf(line));
     window.guarded([&] { program.start(); });
     window.show();
     QTimer::singleShot(0, &window, [&] { window.openFiles(line.files); });
@@ -75,9 +79,15 @@ int runReading(QApplication& application, const CommandLine& line, std::istream&
     Transcript transcript(std::cout);
     WindowShelf shelf(true);
     ScriptPlatform platform(transcript, folder, line.today.value_or(dateOfToday()));
-    Application program(platform, {folder, installed.resources, localeOf(line)});
+    Application program(platform,
+                        {folder, installed.resources, localeOf(line), line.today.has_value()});
     Varnmain& main = program.main();
     applyTheme(application, Scheme::followDesktop, qt(main.text(Text::languageFont)));
+    // A script reads reports and saves them; a preview would stand in the way of its pictures.
+    writePdfWith(program.reports(), program.texts(), localeOf(line));
+    program.reports().onShown = [&transcript](const auto& report) {
+        transcript.line(toldReport(report->object, report->caption));
+    };
 
     WidgetDriver driver(main, shelf);
     shelf.setFaultTaker(driver.faultTaker());
@@ -93,6 +103,7 @@ int runReading(QApplication& application, const CommandLine& line, std::istream&
 
     ScriptReader reader(input, *line.script);
     ScriptRunner runner(main, platform, driver, transcript, reader, std::cerr);
+    runner.setReports(&program.reports());
     int status = 0;
     QTimer::singleShot(0, &window, [&] {
         status = runner.run();

@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/windows/report_preview.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "basis/file_system.h"
+#include "basis/run_time_error.h"
+#include "desktop/paper/pdf_file.h"
+#include "desktop/paper/print_module.h"
+#include "desktop/widgets/look.h"
+#include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
+#include "reports/report_shelf.h"
+
+namespace varnholt {
+namespace {
+
+/// A name for the report's file: its title without what a file's name cannot hold.
+std::string fileNameFor(const Report& report, const std::string& extension) {
+    QString name = qt(report.caption).trimmed();
+    if (!report.projectName.empty())
+        name = qt(report.projectName).left(60).simplified() + QStringLiteral(" - ") + name;
+    for (const QChar forbidden : QStringLiteral("/\\:*?\"<>|")) name.replace(forbidden, u'-');
+    return plain(name) + extension;
+}
+
+}  // namespace
+
+ReportPreview::ReportPreview(std::shared_ptr<const Report> report, const PageSetup& setup,
+                             const Texts& texts, PreviewServices services)
+    : report_(std::move(report)),
+      setup_(setup),
+      texts_(texts),
+      services_(std::move(services)),
+      bar_(new QToolBar),
+      view_(new ReportView(texts)) {
+    setObjectName(qt(report_->object));
+    setWindowTitle(qt(report_->caption).trimmed());
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(bar_);
+    layout->addWidget(view_);
+    addTools();
+    view_->setAccessibleName(windowTitle());
+    view_->onChange = [this] { showState(); };
+    setFocusProxy(view_);
+    layOut();
+}
+
+QString ReportPreview::words(int text) const { return qt(texts_.text(text)); }
+
+QAction* ReportPreview::tool(const char* name, int text, const char* keys,
+                             void (ReportPreview::*run)()) {
+    QAction* action = bar_->addAction(words(text));
+    action->setObjectName(QString::fromLatin1(name));
+    if (*keys != '\0') {
+        action->setShortcut(QKeySequence(QString::fromLatin1(keys)));
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        action->setToolTip(
+            QStringLiteral("%1  (%2)")
+                .arg(words(text), action->shortcut().toString(QKeySequence::NativeText)));
+    }
+    addAction(action);
+    connect(action, &QAction::triggered, this, run);
+    return action;
+}
+
+void ReportPreview::addTools() {
+    bar_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    tool("print", Text::previewPrint, "", &ReportPreview::print);
+    tool("savePdf", Text::previewSavePdf, "", &ReportPreview::savePdf);
+    tool("saveHtml", Text::previewSaveHtml, "", &ReportPreview::saveHtml);
+    tool("saveCsv", Text::previewSaveCsv, "", &ReportPreview::saveCsv);
+    tool("copy", Text::previewCopy, "", &ReportPreview::copy);
+    bar_->addSeparator();
+    addPageTools();
+    bar_->addSeparator();
+    addPaperTools();
+    bar_->addSeparator();
+    addSearch();
+}
+
+void ReportPreview::addPageTools() {
+    tool("previous", Text::previewPreviousPage, "Alt+Up", &ReportPreview::previousPage)
+        ->setText(QStringLiteral("\u2039"));
+    page_ = new QSpinBox;
+    page_->setAccessibleName(words(Text::previewPage));
+    page_->setKeyboardTracking(false);
+    pages_ = new QLabel;
+    bar_->addWidget(page_);
+    bar_->addWidget(pages_);
+    tool("next", Text::previewNextPage, "Alt+Down", &ReportPreview::nextPage)
+        ->setText(QStringLiteral("\u203A"));
+    connect(page_, &QSpinBox::valueChanged, this,
+            [this](int page) { view_->goTo(static_cast<std::size_t>(page - 1)); });
+    bar_->addSeparator();
+    tool("smaller", Text::previewSmaller, "Ctrl+-", &ReportPreview::smaller)
+        ->setText(QStringLiteral("\u2212"));
+    zoom_ = new QComboBox;
+    zoom_->setAccessibleName(words(Text::previewZoom));
+    zoom_->addItems({words(Text::previewFitWidth), words(Text::previewFitPage)});
+    for (const int percent : {50, 75, 100, 125, 150, 200, 300})
+        zoom_->addItem(QStringLiteral("%1 %").arg(percent), percent);
+    zoom_->setEditable(true);
+    bar_->addWidget(zoom_);
+    tool("larger", Text::previewLarger, "Ctrl++", &ReportPreview::larger)
+        ->setText(QStringLiteral("+"));
+    connect(zoom_, &QComboBox::textActivated, this, [this](const QString& text) {
+        if (text == zoom_->itemText(0)) return fitWidth();
+        if (text == zoom_->itemText(1)) return fitPage();
+        const double percent = QString(text).remove(u'%').trimmed().toDouble();
+        if (percent > 0) view_->setZoom(percent / 100);
+    });
+}
+
+void ReportPreview::addPaperTools() {
+    continuous_ = tool("continuous", Text::previewContinuous, "", &ReportPreview::toggleContinuous);
+    continuous_->setCheckable(true);
+    continuous_->setChecked(true);
+    auto* paper = new QComboBox;
+    paper->setAccessibleName(words(Text::previewPaper));
+    paper->addItem(words(Text::paperA4), static_cast<int>(QPageSize::A4));
+    paper->addItem(words(Text::paperLetter), static_cast<int>(QPageSize::Letter));
+    paper->setCurrentIndex(setup_.size.id() == QPageSize::Letter ? 1 : 0);
+    paper->setObjectName(QStringLiteral("paper"));
+    bar_->addWidget(paper);
+    connect(paper, &QComboBox::activated, this, [this, paper] {
+        PageSetup other = setup_;
+        other.size = QPageSize(static_cast<QPageSize::PageSizeId>(paper->currentData().toInt()));
+        setSetup(other);
+    });
+    landscape_ = tool("landscape", Text::previewLandscape, "", &ReportPreview::toggleLandscape);
+    landscape_->setCheckable(true);
+}
+
+void ReportPreview::addSearch() {
+    search_ = new QLineEdit;
+    search_->setPlaceholderText(words(Text::previewSearch));
+    search_->setAccessibleName(words(Text::previewSearch));
+    search_->setClearButtonEnabled(true);
+    search_->setMaximumWidth(180);
+    search_->setObjectName(QStringLiteral("search"));
+    bar_->addWidget(search_);
+    connect(search_, &QLineEdit::returnPressed, this, &ReportPreview::search);
+    auto* find = new QAction(this);
+    find->setShortcut(QKeySequence(QKeySequence::Find));
+    find->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(find);
+    connect(find, &QAction::triggered, search_, qOverload<>(&QWidget::setFocus));
+}
+
+void ReportPreview::layOut() {
+    auto pages = std::make_shared<const PageLayout>(report_, setup_.layoutFor(*report_),
+                                                    services_.layingOut);
+    view_->setPages(std::move(pages));
+    landscape_->setChecked(setup_.layoutFor(*report_).orientation() == QPageLayout::Landscape);
+    showState();
+}
+
+void ReportPreview::setSetup(const PageSetup& setup) {
+    setup_ = setup;
+    layOut();
+}
+
+void ReportPreview::showState() {
+    const int count = static_cast<int>(view_->pageCount());
+    const QSignalBlocker quietPage(page_), quietZoom(zoom_);
+    page_->setRange(1, std::max(1, count));
+    page_->setValue(static_cast<int>(view_->page()) + 1);
+    pages_->setText(QStringLiteral(" ") + words(Text::previewOfPages).arg(count));
+    if (view_->fit() == ReportView::Fit::none)
+        zoom_->setEditText(QStringLiteral("%1 %").arg(qRound(100 * view_->zoom())));
+    else
+        zoom_->setCurrentIndex(view_->fit() == ReportView::Fit::width ? 0 : 1);
+}
+
+void ReportPreview::print() {
+    PrintModule* module = findPrintModule();
+    if (module == nullptr) return services_.tell(texts_.text(Text::printPartMissing));
+    if (!module->hasPrinter()) return services_.tell(texts_.text(Text::noPrinter));
+    std::unique_ptr<PageLayout> pages;
+    PrintJob job{windowTitle(), setup_.layoutFor(*report_), {}, {}};
+    job.layOut = [&](const QPageLayout& paper) {
+        pages = std::make_unique<PageLayout>(report_, paper, services_.layingOut);
+        return static_cast<int>(pages->pages().size());
+    };
+    job.paint = [&](QPainter& painter, int page) {
+        PagePainter(*pages, texts_).paint(painter, static_cast<std::size_t>(page));
+    };
+    module->print(this, job);
+}
+
+void ReportPreview::save(const std::string& extension) {
+    const int filter = extension == ".pdf"    ? Text::pdfFileFilter
+                       : extension == ".html" ? Text::htmlFileFilter
+                                              : Text::csvFileFilter;
+    std::string path = services_.chooseFile(fileNameFor(*report_, extension), filter);
+    if (path.empty()) return;
+    if (!path.ends_with(extension)) path += extension;
+    saveAs(path);
+}
+
+void ReportPreview::saveAs(const std::string& path) {
+    const auto writePdf = [this](const Report&, const std::string& file) {
+        const std::string bytes =
+            pdfOf(*view_->pages(), setup_.layoutFor(*report_), texts_, services_.writing);
+        if (!bytes.empty()) replaceWholeFile(file, bytes);
+    };
+    try {
+        saveReport(*report_, path, writePdf);
+    } catch (const RunTimeError& error) {
+        services_.tell(filledIn(texts_.text(Text::reportNotSaved), {path, error.what()}));
+    }
+}
+
+/// The page in front as text, columns apart by tabulators.
+void ReportPreview::copy() {
+    QGuiApplication::clipboard()->setText(wordsOf(*view_->pages(), view_->page()));
+}
+
+void ReportPreview::previousPage() {
+    if (view_->page() > 0) view_->goTo(view_->page() - 1);
+}
+
+void ReportPreview::nextPage() { view_->goTo(view_->page() + 1); }
+
+void ReportPreview::search() {
+    const bool found = view_->find(search_->text()) || search_->text().isEmpty();
+    QPalette colours = search_->palette();
+    colours.setColor(QPalette::Text,
+                     found ? palette().color(QPalette::Text) : lookOf(palette()).alarm);
+    search_->setPalette(colours);
+}
+
+void ReportPreview::toggleContinuous() { view_->setContinuous(continuous_->isChecked()); }
+
+void ReportPreview::toggleLandscape() {
+    PageSetup other = setup_;
+    other.orientation = landscape_->isChecked() ? QPageLayout::Landscape : QPageLayout::Portrait;
+    setSetup(other);
+}
+
+}  // namespace varnholt

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The preview of a report among the windows of the program.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <filesystem>
+
+#include "basis/temporary_folder.h"
+#include "desktop/paper/print_module.h"
+#include "desktop/windows/report_preview.h"
+#include "desktop/windows/report_windows.h"
+#include "forms/text_numbers.h"
+#include "desktop/report_samples.h"
+
+namespace varnholt {
+namespace {
+
+class Previews : public testing::Test {
+ protected:
+    ReportPreview& shown(const std::shared_ptr<const Report>& report) {
+        ReportPreview* preview = windows.show(report);
+        Desk::settle();
+        return *preview;
+    }
+    static void trigger(ReportPreview& preview, const char* name) {
+        preview.findChild<QAction*>(QString::fromLatin1(name))->trigger();
+    }
+
+    Desk desk;
+    ReportSamples samples{desk};
+    TemporaryFolder folder;
+    ReportWindows windows{*desk.window, desk.platform, desk.program.reports(), desk.program.texts(),
+                          0x409};
+};
+
+TEST_F(Previews, StandBesideTheWindowThatIsPrintedAndLeaveItActive) {
+    desk.main().click("NewBorehole");
+    const ChildWindow* design = desk.main().activeWindow();
+    desk.platform.onModal = [](Form& form) { form.click("cmdOK"); };
+    desk.main().click("mnuFilePrint");
+    Desk::settle();
+    EXPECT_EQ(desk.main().activeWindow(), design);
+    EXPECT_EQ(desk.main().windows().size(), 1U);
+    EXPECT_EQ(desk.window->area().subWindowList().size(), 2);
+    const auto preview = desk.window->findChild<QWidget*>(QStringLiteral("rptBH"));
+    ASSERT_NE(preview, nullptr);
+    EXPECT_EQ(preview->windowTitle(), QStringLiteral("Borehole Design Project Report"));
+    EXPECT_TRUE(desk.faults.empty());
+}
+
+TEST_F(Previews, GoAwayByThemselves) {
+    ReportPreview& preview = shown(samples.borehole(1));
+    preview.parentWidget()->close();
+    Desk::settle();
+    EXPECT_EQ(desk.window->findChild<QWidget*>(QStringLiteral("rptBHShort")), nullptr);
+    EXPECT_TRUE(desk.faults.empty());
+}
+
+TEST_F(Previews, LayTheReportOutForOtherPaper) {
+    ReportPreview& preview = shown(samples.zones(30, 2));
+    EXPECT_EQ(preview.setup().size.id(), QPageSize::Letter);
+    const double before = preview.view().pages()->sheet().width();
+    auto* paper = preview.findChild<QComboBox*>(QStringLiteral("paper"));
+    paper->setCurrentIndex(0);
+    Q_EMIT paper->activated(0);
+    EXPECT_EQ(preview.setup().size.id(), QPageSize::A4);
+    EXPECT_LT(preview.view().pages()->sheet().width(), before);
+    trigger(preview, "landscape");
+    EXPECT_GT(preview.view().pages()->sheet().width(), preview.view().pages()->sheet().height());
+}
+
+TEST_F(Previews, SaveEveryKindOfFile) {
+    ReportPreview& preview = shown(samples.borehole(0));
+    for (const char* name : {"a.pdf", "a.html", "a.csv"}) {
+        preview.saveAs(folder / name);
+        EXPECT_GT(std::filesystem::file_size(folder / name), 500U) << name;
+    }
+    EXPECT_TRUE(desk.platform.messages.empty());
+}
+
+TEST_F(Previews, TellWhatCannotBeSavedAndLeaveNothingBehind) {
+    ReportPreview& preview = shown(samples.borehole(0));
+    preview.saveAs(folder / "missing/a.pdf");
+    ASSERT_EQ(desk.platform.messages.size(), 1U);
+    EXPECT_NE(desk.platform.messages[0].text.find("missing/a.pdf"), std::string::npos);
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
+}
+
+TEST_F(Previews, CopyThePageInFrontAsText) {
+    ReportPreview& preview = shown(samples.borehole(0));
+    trigger(preview, "copy");
+    const QString text = QGuiApplication::clipboard()->text();
+    EXPECT_TRUE(text.contains(QStringLiteral("Borehole Design Project Report")));
+    EXPECT_TRUE(text.contains(QStringLiteral("1 / ")));
+}
+
+TEST_F(Previews, TellThatThereIsNoPrinter) {
+    ASSERT_NE(findPrintModule(), nullptr);
+    if (findPrintModule()->hasPrinter()) GTEST_SKIP() << "this machine has a printer";
+    ReportPreview& preview = shown(samples.borehole(0));
+    trigger(preview, "print");
+    ASSERT_EQ(desk.platform.messages.size(), 1U);
+    EXPECT_EQ(desk.platform.messages[0].text, desk.program.texts().text(Text::noPrinter));
+}
+
+TEST_F(Previews, FindWords) {
+    ReportPreview& preview = shown(samples.zones(40, 2));
+    auto* search = preview.findChild<QLineEdit*>(QStringLiteral("search"));
+    search->setText(QStringLiteral("Zone 40"));
+    Q_EMIT search->returnPressed();
+    EXPECT_EQ(preview.view().page(), preview.view().found().front().page);
+    EXPECT_EQ(preview.view().found().size(), 1U);
+}
+
+}  // namespace
+}  // namespace varnholt
