@@ -27,7 +27,9 @@ int runScript(const CommandLine& line, std::istream& input) {
 
     FormDriver driver(application.main());
     ScriptReader reader(input, *line.script);
-    return ScriptRunner(application.main(), platform, driver, transcript, reader, std::cerr).run();
+    ScriptRunner runner(application.main(), platform, driver, transcript, reader, std::cerr);
+    runner.setAfterLine([&] { application.settlePages(); });
+    return runner.run();
 }
 
 int usageFault(const std::string& what) {

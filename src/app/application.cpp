@@ -9,9 +9,12 @@
 
 namespace varnholt {
 
-Application::Application(Platform& platform, const Setup& setup) {
+Application::Application(Platform& platform, const Setup& setup, const Engines& engines)
+    : pages_(engines.pages != nullptr ? *engines.pages : readPages_) {
     language_.LoadSatellite(joinPath(setup.resourceFolder, "language"), setup.localeNumber);
     main_ = std::make_unique<Varnmain>(platform, language_, setup.programFolder);
+    HelpEngine& help = engines.help != nullptr ? *engines.help : unseenHelp_;
+    tools_ = std::make_unique<ReferenceTools>(*main_, pages_, help);
     installLoads(*main_);
     installLinks(*main_);
     installDesign(*main_);

@@ -7,6 +7,8 @@
 #include "forms/platform.h"
 #include "frame/varnmain.h"
 #include "tools/modResource.h"
+#include "tools/page_reader.h"
+#include "tools/reference_tools.h"
 
 namespace varnholt {
 
@@ -19,15 +21,31 @@ class Application {
         unsigned localeNumber = 0x409;
     };
 
-    Application(Platform& platform, const Setup& setup);
+    /// The engines of the platform; what is null is done without a window.
+    struct Engines {
+        PageSource* pages = nullptr;
+        HelpEngine* help = nullptr;
+    };
+
+    Application(Platform& platform, const Setup& setup) : Application(platform, setup, {}) {}
+    Application(Platform& platform, const Setup& setup, const Engines& engines);
 
     Varnmain& main() { return *main_; }
     const Texts& texts() const { return language_; }
     void start() { main_->start(); }
+    /// Opens a browser window at an address.
+    void browse(const std::string& address) { tools_->browse(address); }
+    /// Lets the pages of the browser windows finish loading, for some seconds at most.
+    void settlePages() { pages_.settle(); }
 
  private:
     LanguageResource language_;
+    // The windows use them to their end.
+    ReadPages readPages_;
+    UnseenHelp unseenHelp_;
+    PageSource& pages_;
     std::unique_ptr<Varnmain> main_;
+    std::unique_ptr<ReferenceTools> tools_;
 };
 
 }  // namespace varnholt
