@@ -10,6 +10,7 @@ void registerViews(ViewRegistry& views) {
     views.registerView("frmZoneManage", makeZoneManagerView);
     views.registerView("frmAvgBlock", makeAverageBlockView);
     views.registerView("frmLinkOptions", makeLinkOptionsView);
+    views.registerView("frmBrowser", makeBrowserView);
 }
 
 }  // namespace varnholt

@@ -13,5 +13,6 @@ QWidget* makeBoreholeView(Binder& bind);
 QWidget* makeZoneManagerView(Binder& bind);
 QWidget* makeAverageBlockView(Binder& bind);
 QWidget* makeLinkOptionsView(Binder& bind);
+QWidget* makeBrowserView(Binder& bind);
 
 }  // namespace varnholt
