@@ -3,8 +3,8 @@
 // zones.
 #include <benchmark/benchmark.h>
 
-#include "building.h"
 #include "design/borehole_run.h"
+#include "sample_building.h"
 
 namespace varnholt {
 namespace {

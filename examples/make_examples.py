@@ -22,6 +22,8 @@ USES = {
     "gym": (42, 40, (0.65, 0.92, 1.00, 0.12), (1.00, 0.70, 0.60, 0.90), 6),
     "cafeteria": (60, 46, (0.86, 1.00, 0.35, 0.08), (1.00, 0.66, 0.52, 0.84), 5),
     "corridor": (16, 26, (0.80, 1.00, 0.70, 0.20), (1.00, 0.68, 0.66, 0.96), 5),
+    "living": (17, 20, (0.55, 0.90, 1.00, 0.45), (1.00, 0.70, 0.80, 0.95), 7),
+    "sleeping": (11, 17, (0.40, 0.70, 1.00, 0.60), (0.90, 0.60, 0.70, 1.00), 7),
     "entrance": (46, 52, (0.78, 1.00, 0.74, 0.15), (1.00, 0.70, 0.72, 0.92), 6),
 }
 
@@ -29,6 +31,20 @@ OFFICE = [
     ("Reception", "entrance", 420), ("Open office south", "office", 1150),
     ("Open office north", "office", 980), ("Meeting rooms", "meeting", 480),
     ("Directors", "office", 520), ("Staff room", "meeting", 360),
+]
+
+
+HOUSE = [
+    ("Living room", "living", 520), ("Kitchen", "living", 260), ("Study", "living", 180),
+    ("Bedrooms", "sleeping", 640), ("Hall and bath", "living", 300),
+]
+
+
+COUNTRY_SCHOOL = [
+    ("Classroom %d" % n, "classroom", 860 + 20 * (n % 3)) for n in range(1, 9)] + [
+    ("Computer room", "computer", 900), ("Library", "library", 1450), ("Gym", "gym", 2400),
+    ("Cafeteria", "cafeteria", 1800), ("Administration", "office", 1100),
+    ("Teachers", "meeting", 700), ("Entrance hall", "entrance", 800), ("Corridors", "corridor", 2200),
 ]
 
 
@@ -52,54 +68,123 @@ BUILDINGS = {
     "office": ("office.zon", 0, OFFICE, (1.00, 0.80), (1050, 620)),
     "school-south": ("school-south.zon", 0, school(), (1.12, 0.62), (1150, 380)),
     "school-north": ("school-north.zon", 0, school(), (0.74, 1.30), (420, 1350)),
+    "house": ("house.zon", 0, HOUSE, (1.00, 1.10), (700, 1500)),
+    "trench-office": ("trench-office.zon", 0, OFFICE, (0.95, 0.90), (900, 800)),
+    "school-pond": ("school-pond.zon", 0, COUNTRY_SCHOOL, (0.90, 0.95), (700, 900)),
 }
 
 
-# building: title, place, fields of the design (in the units of the last item), percent to the tower
+# kind of design: its window, its command, what is printed of its results
+KINDS = {
+    "borehole": ("frmBHDesign", "NewBorehole",
+                 ("CATotalLengthLabel", "CABoreholeLengthLabel", "CASoilTempChangeLabel")),
+    "horizontal": ("frmHZDesign", "NewHorizontal",
+                   ("CATotalPipeLengthLabel", "CATrenchLengthLabel", "CASoilTempChangeLabel")),
+    "surface water": ("frmSWDesign", "NewSurfaceWater",
+                      ("CALoopLengthLabel", "CALoopNumberLabel", "CAApproachTempLabel",
+                       "CATotalLossLabel")),
+}
+
+# building: kind, title, place, what is done to the controls of the design (in the units of the last
+# item), percent to the tower
 DESIGNS = {
-    "office": ("Harbour Street offices", "Portland", {
+    "office": ("borehole", "Harbour Street offices", "Portland", {
         "FLInletTempText(0)": "85", "FLInletTempText(1)": "45", "SOGroundTempText": "55",
         "SOThermalConductivityText": "1.25", "SOThermalDiffusivityText": "0.85",
         "PAPatternRowsText(0)": "6", "PAPatternRowsText(1)": "2", "PATimeText": "15",
         "EKWPumpPowerText(1)": "0.75"}, 0, "English"),
-    "school-south": ("Riverside school", "San Antonio", {
+    "school-south": ("borehole", "Riverside school", "San Antonio", {
         "FLInletTempText(0)": "92", "FLInletTempText(1)": "52", "SOGroundTempText": "70",
         "SOThermalConductivityText": "1.15", "SOThermalDiffusivityText": "0.70",
         "PAPatternRowsText(0)": "14", "PAPatternRowsText(1)": "10", "PASeparationText": "25",
         "PATimeText": "20", "EKWPumpPowerText(1)": "10", "EKWPumpPowerText(4)": "5",
         "EKWPumpPowerText(6)": "3"}, 30, "English"),
-    "school-north": ("Lakeside school", "Duluth", {
+    "school-north": ("borehole", "Lakeside school", "Duluth", {
         "FLInletTempText(0)": "25", "FLInletTempText(1)": "0", "SOGroundTempText": "8",
         "SOThermalConductivityText": "2.2", "SOThermalDiffusivityText": "0.085",
         "PAPatternRowsText(0)": "12", "PAPatternRowsText(1)": "12", "PASeparationText": "7",
         "PIBoreholeDiameterText": "140", "PIGroutConductivityText": "1.6", "PATimeText": "25",
         "FLFluidDensityText": "1020", "FLSpecificHeatText": "3.95",
         "EKWPumpPowerText(1)": "7.5"}, 0, "Metric"),
+    "house": ("horizontal", "Orchard house", "Columbus", {
+        "FLInletTempText(0)": "85", "FLInletTempText(1)": "30",
+        "FLFluidTypeCombo": "#1", "FLPercentAntifreezeText": "20",
+        "FLSpecificHeatText": "0.95", "FLFluidDensityText": "63.8",
+        "SOGroundTempText": "54", "SOThermalConductivityText": "0.9",
+        "SOThermalDiffusivityText": "0.6", "SOAirTempSwingText": "23",
+        "SODayText(0)": "205", "SODayText(1)": "25",
+        "PIPipeDiameterCombo": "#0", "PAConfigurationOption(3)": None,
+        "PASeparationText(3)": "4", "PASeparationText(0)": "12", "PASeparationText(1)": "5",
+        "PAInTrenchConfigurationText(0)": "18", "PASeparationText(2)": "36",
+        "PATimeText": "20", "EKWPumpPowerText(1)": "0.25"}, 0, "English"),
+    "trench-office": ("horizontal", "Mill Lane offices", "Richmond", {
+        "FLInletTempText(0)": "88", "FLInletTempText(1)": "40",
+        "SOGroundTempText": "59", "SOThermalConductivityText": "1.1",
+        "SOThermalDiffusivityText": "0.7", "SOAirTempSwingText": "20",
+        "SODayText(0)": "204", "SODayText(1)": "24",
+        "PIPipeDiameterCombo": "#1", "PAConfigurationOption(1)": None,
+        "PASeparationText(2)": "24", "PAConfigurationUpDown(1)": 4, "PAInTrenchConfigurationText(1)": "24",
+        "PAInTrenchConfigurationText(2)": "24",
+        "PASeparationText(3)": "8", "PASeparationText(0)": "14", "PASeparationText(1)": "6",
+        "PATimeText": "15", "EKWPumpPowerText(1)": "0.75"}, 0, "English"),
+    "school-pond": ("surface water", "Millpond school", "Madison", {
+        "FLInletTempText(0)": "86", "FLInletTempText(1)": "32",
+        "FLFluidTypeCombo": "#1", "FLPercentAntifreezeText": "20",
+        "FLSpecificHeatText": "0.95", "FLFluidDensityText": "63.8",
+        "FLMinFlowText(0)": "3", "FLMinFlowText(1)": "3.6",
+        "SOGroundTempText": "49", "SOSoilTypeCombo": "#1", "SOHeaderDepthText": "5",
+        "SOAirTempSwingText": "25", "SODayText(0)": "204", "SODayText(1)": "32",
+        "PICoilOption": None, "PILoopPipeSizeCombo": "#1", "PIExtraEqvLengthText": "12",
+        "PIParallelLoopsText(0)": "48", "PIParallelLoopsText(1)": "48",
+        "PILoopHeadLossText(0)": "2.4", "PILoopHeadLossText(1)": "3.1",
+        "PIHeaderNumberText(0)": "2", "PIHeaderPipeSizeCombo(0)": "#6",
+        "PIHeaderLengthText(0)": "40", "PIHeaderLengthText(1)": "160",
+        "PIHeaderNumberText(1)": "3", "PIHeaderPipeSizeCombo(1)": "#4",
+        "PIHeaderLengthText(2)": "90",
+        "PIHeaderHeadLossText(0)": "1.6", "PIHeaderHeadLossText(1)": "1.9",
+        "PIHeaderHeadLossText(2)": "1.8", "PIHeaderHeadLossText(3)": "2.2",
+        "WALoopTempText(0)": "74", "WALoopTempText(1)": "40",
+        "WAHeaderTempText(0)": "76", "WAHeaderTempText(1)": "38",
+        "WAHeaderTempText(2)": "75", "WAHeaderTempText(3)": "39",
+        "WASurfaceWaterTypeCombo": "#0", "WASurfaceAreaText": "52000", "WALoopPipeDepthText": "9",
+        "EKWPumpPowerText(1)": "5"}, 0, "English"),
 }
 
 
+def action_lines(control, what):
+    """A button is pressed, an entry chosen, an up-down moved, anything else typed."""
+    if what is None:
+        return ["click " + control]
+    if "UpDown" in control:
+        return ["slide %s %d" % (control, what)]
+    if "Combo" in control:
+        return ["choose %s %s" % (control, what)]
+    return ["type %s %s" % (control, what), "leave " + control]
+
+
 def design_lines(name):
-    title, city, fields, percent, units = DESIGNS[name]
-    window = "frmBHDesign."
-    lines = ["click Varnmain.NewBorehole",
+    kind, title, city, actions, percent, units = DESIGNS[name]
+    form, command, results = KINDS[kind]
+    window = form + "."
+    lines = ["click Varnmain." + command,
              "type %sINProjectNameText %s" % (window, title), "type %sINCityText %s" % (window, city),
              "click Varnmain.mnuLink"]
     if units == "Metric":
         lines += ["click Varnmain.Metric", "choose %sFLFluidTypeCombo #1" % window,
                   "type %sFLPercentAntifreezeText 25" % window]
-    for field, value in fields.items():
-        lines += ["type %s%s %s" % (window, field, value), "leave %s%s" % (window, field)]
+    for control, what in actions.items():
+        lines += action_lines(window + control, what)
     lines += ["click %sCACalculateCommand" % window]
     # Other water temperatures may have changed the pumps.
     lines += ["activate frmZoneManage", "pick zones/%s.zon" % name,
-              "click frmZoneManage.LOSaveCommand", "activate frmBHDesign",
+              "click frmZoneManage.LOSaveCommand", "activate " + form,
               "click %sCACalculateCommand" % window]
     if percent:
         lines += ["slide %sCAHybridSlider %d" % (window, percent),
                   "slide %sCACoolingRangeUpDown 10" % window,
                   "slide %sCACondenserCapacityUpDown 10000" % window]
-    lines += ["activate frmBHDesign", "pick work files/%s.vht" % name, "click Varnmain.mnuFileSave"]
-    for label in ("CATotalLengthLabel", "CABoreholeLengthLabel", "CASoilTempChangeLabel"):
+    lines += ["activate " + form, "pick work files/%s.vht" % name, "click Varnmain.mnuFileSave"]
+    for label in results:
         lines += ["print %s%s(%d)" % (window, label, m) for m in (0, 1)]
     return lines
 

@@ -2,6 +2,7 @@
 #include "app/application.h"
 
 #include "basis/file_system.h"
+#include "catalogue/editor/install.h"
 #include "design/install.h"
 #include "loads/install.h"
 #include "loads/links.h"
@@ -17,6 +18,7 @@ Application::Application(Platform& platform, const Setup& setup, const Engines& 
     tools_ = std::make_unique<ReferenceTools>(*main_, pages_, help);
     installLoads(*main_);
     installLinks(*main_);
+    installPumpEditor(*main_, [this] { refreshPumpLists(*main_); });
     installDesign(*main_);
     installPersistence(*main_);
 }

@@ -55,7 +55,35 @@ std::size_t LineFileReader::count(std::size_t, std::size_t linesEach) {
     return stated >= static_cast<double>(fits) ? fits : static_cast<std::size_t>(stated);
 }
 
+std::string_view LineFileReader::item() {
+    std::string_view left;
+    if (rest_) {
+        left = *rest_;
+        rest_.reset();
+    } else {
+        if (next_ >= lines_.size()) throw RunTimeError(62);
+        left = lines_[next_++];
+    }
+    const std::size_t comma = left.find(',');
+    if (comma == std::string_view::npos) return left;
+    rest_ = left.substr(comma + 1);
+    return left.substr(0, comma);
+}
+
+void LineFileReader::readItem(double& value) {
+    const double read = leadingNumber(item());
+    if (!std::isfinite(read)) throw RunTimeError(6);
+    value = read;
+}
+
+void LineFileReader::readItem(std::int16_t& value) { value = toInteger(leadingNumber(item())); }
+
 std::string LineFileReader::line() {
+    if (rest_) {
+        std::string left(*rest_);
+        rest_.reset();
+        return left;
+    }
     if (next_ >= lines_.size()) throw RunTimeError(62);
     return std::string(lines_[next_++]);
 }
@@ -73,6 +101,8 @@ void LineFileWriter::text(const std::string& value) {
 }
 
 void LineFileWriter::number(double value) { fixed(shortestText(value)); }
+
+std::string LineFileWriter::numberItem(double value) { return shortestText(value); }
 
 void LineFileWriter::integer(std::int16_t value) { fixed(std::to_string(value)); }
 

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,6 +42,12 @@ class LineFileReader {
     void number(double& value);
     void integer(std::int16_t& value);
     void date(Date& value);
+    /// Numbers that stand on one line, separated by commas. They are read one after the other,
+    /// wherever the lines end between them.
+    template <class... Numbers>
+    void row(Numbers&... values) {
+        (readItem(values), ...);
+    }
     /// A line with no meaning to the reader.
     void fixed(std::string_view) { line(); }
 
@@ -50,13 +57,20 @@ class LineFileReader {
     /// file and tells it.
     std::size_t count(std::size_t written, std::size_t linesEach);
 
+    /// A whole line; what is left of one that was read in part.
     std::string line();
     std::size_t linesLeft() const { return lines_.size() - next_; }
 
  private:
+    std::string_view item();
+    void readItem(double& value);
+    void readItem(std::int16_t& value);
+
     std::string bytes_;
     std::vector<std::string_view> lines_;
     std::size_t next_ = 0;
+    /// What is left behind the comma of the line before `next_`.
+    std::optional<std::string_view> rest_;
     double version_ = 0;
 };
 
@@ -73,12 +87,20 @@ class LineFileWriter {
     void number(double value);
     void integer(std::int16_t value);
     void date(const Date& value);
+    template <class... Numbers>
+    void row(const Numbers&... values) {
+        std::string line;
+        ((line += (line.empty() ? "" : ",") + numberItem(values)), ...);
+        fixed(line);
+    }
     void fixed(std::string_view text) { text_ += text, text_ += "\r\n"; }
     std::size_t count(std::size_t written, std::size_t linesEach);
 
     const std::string& bytes() const { return text_; }
 
  private:
+    static std::string numberItem(double value);
+
     std::string text_;
 };
 

@@ -109,6 +109,13 @@ std::optional<double> readLeadingNumber(std::string_view text) {
     return negative ? -value : value;
 }
 
+std::optional<double> readPlainNumber(std::string_view text) {
+    while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+    if (text.empty() || numberLength(text) < text.size()) return std::nullopt;
+    return readLeadingNumber(text);
+}
+
 double leadingNumber(std::string_view text) { return readLeadingNumber(text).value_or(0); }
 
 std::string formatNumber(double value, std::string_view pictureText) {

@@ -14,6 +14,9 @@ double leadingNumber(std::string_view text);
 /// The same, but nothing where the text does not begin with a number at all.
 std::optional<double> readLeadingNumber(std::string_view text);
 
+/// The number that the whole text is, blanks around it aside; nothing for any other text.
+std::optional<double> readPlainNumber(std::string_view text);
+
 /// A number in a picture such as "###0.0", "##0.0", "#.00" or "###0". The shortest decimal text
 /// of the double is rounded half away from zero to the picture's decimals; "0" before the point is
 /// a digit always shown; a value that rounds to zero carries no minus sign. Infinities and

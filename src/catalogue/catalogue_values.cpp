@@ -135,34 +135,37 @@ void addCount(Values& values, const std::string& name, std::size_t indices, Coun
                [count](const Indices& i) { return PublicValue(static_cast<double>(count(i))); });
 }
 
-void addIndex(Values& values, const PumpCatalogue& catalogue) {
-    const Records<PumpList> makers(values, "vhtPumpNames", 1,
-                                   [&catalogue](const Indices& i) -> const PumpList& {
-                                       return at(catalogue.vhtPumpNames(), i[0]);
-                                   });
+}  // namespace
+
+void addIndexValues(Values& values, const std::function<const std::vector<PumpList>&()>& index) {
+    addCount(values, "vhtMfgCount", 0, [index](const Indices&) { return index().size(); });
+    const Records<PumpList> makers(
+        values, "vhtPumpNames", 1,
+        [index](const Indices& i) -> const PumpList& { return at(index(), i[0]); });
     addManufacturer(makers.inner("mfgInfo", &PumpList::mfgInfo));
     addSeries(makers.rows("seriesInfo", &PumpList::seriesInfo));
-    addCount(values, "vhtPumpNames.seriesCount", 1, [&catalogue](const Indices& i) {
-        return at(catalogue.vhtPumpNames(), i[0]).seriesCount();
-    });
+    addCount(values, "vhtPumpNames.seriesCount", 1,
+             [index](const Indices& i) { return at(index(), i[0]).seriesCount(); });
 }
 
-}  // namespace
+void addModelValues(Values& values, std::size_t indices,
+                    const std::function<const pump&(const Indices&)>& find) {
+    addModels({values, "PumpList", indices, find});
+}
 
 void addCatalogueValues(Values& values, const PumpCatalogue& catalogue) {
     values.add("activeSeries", &catalogue.activeSeries());
-    addCount(values, "vhtMfgCount", 0,
-             [&catalogue](const Indices&) { return catalogue.vhtMfgCount(); });
     addCount(values, "vhtTotalSeriesCount", 0,
              [&catalogue](const Indices&) { return catalogue.vhtTotalSeriesCount(); });
     addCount(values, "size", 1, [&catalogue](const Indices& i) {
         return catalogue.size(static_cast<std::size_t>(i[0]));
     });
-    addIndex(values, catalogue);
-    addModels({values, "PumpList", 2, [&catalogue](const Indices& i) -> const pump& {
-                   return catalogue.PumpList(static_cast<std::size_t>(i[0]),
-                                             static_cast<std::size_t>(i[1]));
-               }});
+    addIndexValues(values, [&catalogue]() -> const std::vector<PumpList>& {
+        return catalogue.vhtPumpNames();
+    });
+    addModelValues(values, 2, [&catalogue](const Indices& i) -> const pump& {
+        return catalogue.PumpList(static_cast<std::size_t>(i[0]), static_cast<std::size_t>(i[1]));
+    });
 }
 
 }  // namespace varnholt

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
+#include <functional>
+#include <vector>
+
 #include "catalogue/pump_catalogue.h"
 #include "forms/values.h"
 
@@ -13,5 +17,12 @@ namespace varnholt {
 /// "PumpList(0,2).coefficients.watts(1,0)", "vhtPumpNames(1).seriesInfo(0).FileName". In English
 /// units. The catalogue must outlive the values.
 void addCatalogueValues(Values& values, const PumpCatalogue& catalogue);
+
+/// The parts of them that others have too: "vhtMfgCount" and "vhtPumpNames(1)" of an index, and
+/// "PumpList(...)" of models that are found by so many indices.
+void addIndexValues(Values& values,
+                    const std::function<const std::vector<varnholt::PumpList>&()>& index);
+void addModelValues(Values& values, std::size_t indices,
+                    const std::function<const pump&(const Values::Indices&)>& find);
 
 }  // namespace varnholt

@@ -3,12 +3,9 @@
 
 #include <optional>
 
-#include "basis/mode.h"
 #include "design/design_values.h"
-#include "design/loads_roll_up.h"
+#include "design/ground_roll_up.h"
 #include "design/modCalculations/bore_grid.h"
-#include "design/modCalculations/cooling_tower.h"
-#include "design/modCalculations/ground_load.h"
 #include "design/modCalculations/ground_resistance.h"
 #include "design/modCalculations/settling.h"
 
@@ -26,18 +23,13 @@ struct BoreholeInputs {
 };
 
 /// Everything that a run of the borehole design computes, and what it was computed from.
-struct BoreholeResults : LoadsRollUp {
+struct BoreholeResults : GroundRollUp {
     /// What the figures came from; none before the first run, and what the project holds where
     /// they were read from its file.
     std::optional<BoreholeInputs> inputs;
-    modCalculations::LoadTonHours tonHours;
-    ByMode<double> annualTonHours{};
-    double annualGroundLoad = 0;  ///< mean heat taken from the ground, MBtu/hr
     modCalculations::GroundResistances groundResistance;
     modCalculations::NeighbourCount neighbourCount{};
     modCalculations::SettledLengths lengths;
-    double coolingPeakBeforeHybrid = 0;  ///< MBtu/hr
-    modCalculations::CoolingTower tower;
 
     friend bool operator==(const BoreholeResults&, const BoreholeResults&) = default;
 };

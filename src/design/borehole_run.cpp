@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/borehole_run.h"
 
-#include <algorithm>
-
 #include "design/modCalculations/heat_pulses.h"
 #include "design/modCalculations/short_circuit.h"
 #include "design/modCalculations/temperature_penalty.h"
-#include "loads/linked_design.h"
 
 namespace varnholt {
 namespace {
@@ -15,19 +12,10 @@ using namespace modCalculations;
 
 constexpr double inchesPerFoot = 12;
 
-Soil soilOf(const SoilValues& soil) { return {soil.conductivity, soil.diffusivity}; }
-
-/// A project whose zone file is missing counts more zones than it has.
-SharedZones zonesInUse(const ProjectLoads& loads) {
-    SharedZones zones = loads.zones;
-    zones.cutTo(static_cast<std::size_t>(std::max<std::int16_t>(loads.zoneNumber, 0)));
-    return zones;
-}
-
 GroundResistances groundResistancesOf(const BoreholeInputs& inputs, const PeakLoads& loads) {
     const PulseTimes pulses = calcPulseTimes(loads.peakBlock, inputs.arrangement.predictionTime);
     return calcGroundResistances(pulses, inputs.bore.boreDiameter / inchesPerFoot,
-                                 soilOf(inputs.soil));
+                                 inputs.soil.soil());
 }
 
 LengthTerms lengthTermsOf(const BoreholeInputs& inputs, const BoreholeResults& results) {
@@ -46,20 +34,6 @@ LengthTerms lengthTermsOf(const BoreholeInputs& inputs, const BoreholeResults& r
     return terms;
 }
 
-/// The ground's load over the years, and the tower that keeps a part of it away.
-void rollUpYear(const LoadsInputs& loads, double coolingRange, const Hybrid& hybrid,
-                BoreholeResults& results) {
-    const ByMode<double>& cop = results.cop.heatPumpCOP;
-    results.tonHours = calculateLoadTonHours(loads.zones);
-    results.annualTonHours = annualTonHours(results.tonHours);
-    results.annualGroundLoad = calcAnnualGroundLoad(results.annualTonHours, cop, hybrid);
-    results.coolingPeakBeforeHybrid = hybrid.coolingPeakBeforeHybrid;
-    results.tower =
-        sizeCoolingTower(hybrid, results.loads.peakLoad[cooling],
-                         {cop[cooling], results.annualTonHours[cooling], loads.hybridPercent},
-                         loads.fluid, coolingRange);
-}
-
 /// Length and penalty depend on each other: a first length, its penalty, and so on until they
 /// agree.
 void settleLengths(const BoreholeInputs& inputs, BoreholeResults& results) {
@@ -69,7 +43,7 @@ void settleLengths(const BoreholeInputs& inputs, BoreholeResults& results) {
     results.neighbourCount = countNeighbours(rows, columns);
     const PenaltySite site{{rows, columns, inputs.arrangement.boreSeparation},
                            results.neighbourCount,
-                           soilOf(inputs.soil),
+                           inputs.soil.soil(),
                            inputs.arrangement.predictionTime};
     lengths =
         calcBoreLengths(terms, calcTemperaturePenalty(site, results.annualGroundLoad, lengths));
@@ -99,15 +73,6 @@ std::optional<BoreholeResults> runBorehole(const BoreholeInputs& inputs) {
     if (hybrid.on) results.loads.peakLoad[cooling] = hybrid.coolingPeakBeforeHybrid;
     results.inputs = inputs;
     return results;
-}
-
-bool differ(const BoreholeInputs& then, const BoreholeInputs& now) {
-    if (!sameLoads(then.loads.zones, now.loads.zones)) return true;
-    BoreholeInputs same = now;
-    same.loads.zones = then.loads.zones;
-    same.loads.hybridOn = then.loads.hybridOn;
-    same.coolingRange = then.coolingRange;
-    return !(same == then);
 }
 
 }  // namespace varnholt

@@ -22,8 +22,4 @@ BoreholeInputs inputsOf(const BoreholeProject& project, bool hybridOn);
 ///         one mode only, and whatever else the arithmetic ends in (6 for an overflow)
 std::optional<BoreholeResults> runBorehole(const BoreholeInputs& inputs);
 
-/// Whether a run from `now` would find other lengths, loads or powers than one from `then`. How the
-/// tower's figures were trimmed, and that its share was set by the slider, makes no difference.
-bool differ(const BoreholeInputs& then, const BoreholeInputs& now);
-
 }  // namespace varnholt

@@ -7,6 +7,7 @@
 
 #include "design/modCalculations/cooling_tower.h"
 #include "design/modCalculations/extra_power.h"
+#include "design/modCalculations/ground_resistance.h"
 
 namespace varnholt {
 
@@ -34,6 +35,7 @@ struct SoilValues {
     double conductivity = 1.3;  ///< Btu/(hr ft degF)
     double diffusivity = 0.75;  ///< ft^2/day
 
+    modCalculations::Soil soil() const { return {conductivity, diffusivity}; }
     friend bool operator==(const SoilValues&, const SoilValues&) = default;
 };
 

@@ -27,13 +27,14 @@ const ExtraPowerTab::Motor ExtraPowerTab::motors[3] = {
      Text::towerMotorEfficiency},
 };
 
-ExtraPowerTab::ExtraPowerTab(GroundDesign& design, ExtraPowerValues& power)
-    : DesignTab(design), power_(power) {
+ExtraPowerTab::ExtraPowerTab(GroundDesign& design, ExtraPowerValues& power, Motors which)
+    : DesignTab(design), power_(power), which_(which) {
     addFrame("EKWCirculationFrame", Text::circulationPumps);
     addMotor(motors[0]);
     addMenuButton("EKWPumpPowerCommand", "EKWCirculationFrame", Text::pumpPowerButton,
                   "mnuPumpPowerCalc");
     addAdditional();
+    if (which == Motors::circulation) return;
     addFrame("EKWCoolingTowerFrame", Text::coolingTowerPower);
     addFrame("EKWTowerFanFrame", Text::coolingTowerFan, "EKWCoolingTowerFrame");
     addMotor(motors[1]);
@@ -94,7 +95,7 @@ void ExtraPowerTab::addAdditional() {
 
 void ExtraPowerTab::setUnitLabels() {
     DesignTab::setUnitLabels();
-    for (const Motor& motor : motors) showInput(motor);
+    for (std::size_t i = 0; i < motorCount(); ++i) showInput(motors[i]);
 }
 
 void ExtraPowerTab::updateInput(const Motor& motor) {

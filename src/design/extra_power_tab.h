@@ -11,7 +11,10 @@ namespace varnholt {
 /// Electric power besides the heat pumps': circulation pump, additional power, cooling tower.
 class ExtraPowerTab : public DesignTab {
  public:
-    ExtraPowerTab(GroundDesign& design, ExtraPowerValues& power);
+    /// Which motors the kind of design has.
+    enum class Motors { circulation, withTower };
+
+    ExtraPowerTab(GroundDesign& design, ExtraPowerValues& power, Motors which = Motors::withTower);
 
     void setUnitLabels() override;
 
@@ -29,7 +32,10 @@ class ExtraPowerTab : public DesignTab {
     void updateInput(const Motor& motor);
     void showInput(const Motor& motor);
 
+    std::size_t motorCount() const { return which_ == Motors::withTower ? 3 : 1; }
+
     ExtraPowerValues& power_;
+    Motors which_;
 };
 
 }  // namespace varnholt

@@ -7,45 +7,33 @@
 #include "design/extra_power_tab.h"
 #include "design/fluid_tab.h"
 #include "design/modCalculations/bore_resistance.h"
+#include "design/result_values.h"
 #include "design/shared_values.h"
 #include "design/soil_tab.h"
 #include "forms/text_numbers.h"
 
 namespace varnholt {
 frmBHDesign::frmBHDesign(Varnmain& main, std::int16_t slot)
-    : ProjectDesign("frmBHDesign", DesignKind::borehole, main, slot, project_,
-                    {project_.fluid, project_.extraPower, &project_.tower}) {
+    : TowerDesign("frmBHDesign", DesignKind::borehole, main, slot, project_,
+                  {project_.fluid, project_.extraPower, &project_.tower}) {
     addWindowControls();
-    resultsTab_ = std::make_unique<ResultsTab>(*this, resultRows(), Text::requiredBoreLengths);
+    addResults(resultRows(), Text::requiredBoreLengths);
     // The number of bores stands once, though there is a label for each mode.
     element("CABoreholeNumberLabel", heating).setVisible(false);
-    towerPanel_ = std::make_unique<TowerPanel>(*this, project_.tower, [this] {
-        return modCalculations::TowerYear{results().cop.heatPumpCOP[cooling],
-                                          results().annualTonHours[cooling],
-                                          project_.tower.hybridPercent};
-    });
-    inputTabs_.push_back(std::make_unique<FluidTab>(*this, project_.fluid, project_.conditions));
-    inputTabs_.push_back(std::make_unique<SoilTab>(*this, project_.soil));
-    inputTabs_.push_back(std::make_unique<BoreTab>(*this, project_.pipe, project_.bore));
-    inputTabs_.push_back(std::make_unique<ArrangementTab>(*this, project_.arrangement));
-    inputTabs_.push_back(std::make_unique<ExtraPowerTab>(*this, project_.extraPower));
+    addTab<FluidTab>(project_.fluid, project_.conditions);
+    addTab<SoilTab>(project_.soil);
+    addTab<BoreTab>(project_.pipe, project_.bore);
+    addTab<ArrangementTab>(project_.arrangement);
+    addTab<ExtraPowerTab>(project_.extraPower);
     addInformationControls();
     registerBoreholeValues();
 }
-
-frmBHDesign::~frmBHDesign() = default;
 
 std::string frmBHDesign::baseCaption() const { return text(Text::boreholeDesignTitle); }
 
 std::vector<int> frmBHDesign::pageCaptions() const {
     return {Text::resultsPage, Text::fluidPage,      Text::soilPage,       Text::pipingPage,
             Text::patternPage, Text::extraPowerPage, Text::informationPage};
-}
-
-std::vector<DesignTab*> frmBHDesign::tabs() {
-    std::vector<DesignTab*> all{resultsTab_.get(), towerPanel_.get()};
-    for (const auto& tab : inputTabs_) all.push_back(tab.get());
-    return all;
 }
 
 std::vector<ResultRow> frmBHDesign::resultRows() const {
@@ -77,8 +65,8 @@ void frmBHDesign::registerBoreholeValues() {
     Values& values = publicValues();
     addSoilValues(values, project_.soil);
     addPipeValues(values, project_.pipe);
-    addRollUpValues(values, [this]() -> const LoadsRollUp& { return results(); });
-    addBoreholeResults(values, [this]() -> const BoreholeResults& { return results(); });
+    addGroundValues(values, [this]() -> const GroundRollUp& { return results(); });
+    addResultValues(values);
     const BoreValues& bore = project_.bore;
     values.add("uTubeConfig", &bore.uTubeConfig);
     values.add("pipePlacement", &bore.pipePlacement);
@@ -91,6 +79,20 @@ void frmBHDesign::registerBoreholeValues() {
     values.add("boreSeparation", &arrangement.boreSeparation);
     values.add("boresPerCircuit", &arrangement.boresPerCircuit);
     values.add("predictionTime", &arrangement.predictionTime);
+}
+
+void frmBHDesign::addResultValues(Values& values) {
+    using R = const BoreholeResults&;
+    ResultValues<BoreholeResults> of(values, [this]() -> R { return results(); });
+    of.array("groundResistance", [](R r) { return elementsOf(r.groundResistance); });
+    of.array(
+        "neighbourCount", [](R r) -> auto& { return r.neighbourCount; });
+    of.array(
+        "temperaturePenalty", [](R r) -> auto& { return r.lengths.temperaturePenalty; });
+    of.array(
+        "boreLength", [](R r) -> auto& { return r.lengths.boreLength; });
+    of.array(
+        "previousBoreLength", [](R r) -> auto& { return r.lengths.previousBoreLength; });
 }
 
 /// What the report layer asks for by functions.
@@ -113,51 +115,15 @@ void frmBHDesign::addAccessors(Values& values) {
     });
 }
 
-void frmBHDesign::fillDefaults() {
-    const ByMode<double>& inlet = project_.conditions.inletTemp;
-    project_.results.edit().outlet.outletTemp = inlet;
-    project_.tower.tower.range = results().outlet.outletTemp[cooling] - inlet[cooling];
-}
-
-void frmBHDesign::resultsFound() {
-    const modCalculations::SettledLengths& lengths = results().lengths;
-    if (lengths.failed)
-        show(MessageIcon::plain,
-             text(Text::calculationFailed) + std::to_string(lengths.iterations));
-    project_.tower.tower = results().tower;
-    showGoverningMode();
-    resultsTab_->showFigures();
-    towerPanel_->showFigures();
-}
-
 bool frmBHDesign::tellsError(int number) const {
     constexpr int divisionByZero = 11;
     return number == divisionByZero;
 }
 
-void frmBHDesign::showNoGoverningMode() {
-    resultsTab_->paintPlain();
-    towerPanel_->rest();
-}
-
-/// A tower that is on can be taken away again, though it has made the heating govern.
-void frmBHDesign::showGoverningMode(Mode greyed) {
-    resultsTab_->paintGoverning(greyed);
-    if (greyed == heating || towerIsOn())
-        towerPanel_->wake();
-    else
-        towerPanel_->rest();
-}
-
-std::string frmBHDesign::shownWithUnit(const Quantity& quantity, double value, UnitTexts unit,
-                                       const char* format) const {
-    return formatNumber(quantity.shown(value, units()), format) + " " + text(unit.in(units()));
-}
-
 BoreDrawing frmBHDesign::boreDrawing() const {
     BoreDrawing drawing = drawBore(project_.bore, project_.pipe);
     const auto label = [this](double inches) {
-        return shownWithUnit(quantities::diameter, inches,
+        return shownWithUnit(quantities::diameter, *this, inches,
                              {Text::diameterUnitsEnglish, Text::diameterUnitsMetric}, "###0.00");
     };
     drawing.boreLabel = label(project_.bore.boreDiameter);
@@ -168,8 +134,8 @@ BoreDrawing frmBHDesign::boreDrawing() const {
 FieldPlan frmBHDesign::fieldPlan() const {
     FieldPlan plan = drawField(project_.arrangement);
     const auto label = [this](double feet) {
-        return shownWithUnit(quantities::length, feet,
-                             {Text::lengthUnitsEnglish, Text::lengthUnitsMetric}, "###0.0");
+        return shownWithUnit(quantities::length, *this, feet,
+                             {Text::lengthUnitsEnglish, Text::lengthUnitsMetric});
     };
     plan.separationLabel = label(plan.separation);
     plan.acrossLabel = label(fieldExtent(plan.across, plan.separation));

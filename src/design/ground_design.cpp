@@ -123,9 +123,13 @@ void GroundDesign::tellNoLoads() {
     showTower();
 }
 
-void GroundDesign::showGoverningMode() {
+Mode GroundDesign::governingMode() const {
     const ByMode<double> length = lengths();
-    showGoverningMode(length[cooling] > length[heating] ? heating : cooling);
+    return length[cooling] > length[heating] ? cooling : heating;
+}
+
+void GroundDesign::showGoverningMode() {
+    showGoverningMode(governingMode() == cooling ? heating : cooling);
 }
 
 void GroundDesign::loadsChanged() {

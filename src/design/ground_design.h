@@ -69,7 +69,7 @@ class GroundDesign : public LinkedDesign {
 
     /// Greys the figures of one mode, emphasises the other's, and wakes or rests the tower.
     virtual void showGoverningMode(Mode greyed) = 0;
-    /// By the lengths at hand: the longer one governs.
+    /// The mode that does not govern.
     void showGoverningMode();
 
     void loadsChanged() override;
@@ -91,6 +91,8 @@ class GroundDesign : public LinkedDesign {
     virtual void rollUp() = 0;
     /// Total lengths on show, ft.
     virtual ByMode<double> lengths() const = 0;
+    /// By the lengths at hand: the longer one governs.
+    virtual Mode governingMode() const;
     /// Whether a box tells a run's error of that number.
     virtual bool tellsError(int number) const = 0;
     /// The results on show come from other inputs or loads than the present ones.

@@ -8,9 +8,11 @@
 namespace varnholt {
 
 class frmBHDesign;
+class frmHZDesign;
+class frmSWDesign;
 
-/// Registers the command NewBorehole, for designs that know no files. Whoever knows files registers
-/// the command again, with newBorehole and what he gives each new window.
+/// Registers the commands that open new designs of each kind, for designs that know no files.
+/// Whoever knows files registers the commands again, and gives each new window what it knows.
 void installDesign(Varnmain& main);
 
 /// Takes a slot and opens a borehole design in it, a new one or, while `openCall` is set, the one
@@ -18,5 +20,9 @@ void installDesign(Varnmain& main);
 /// @param filesOf  called before the window is set up
 frmBHDesign* newBorehole(Varnmain& main,
                          const std::function<DesignFiles(frmBHDesign&)>& filesOf = {});
+
+/// The same for a horizontal and for a surface water design, a new one.
+frmHZDesign* newHorizontal(Varnmain& main);
+frmSWDesign* newSurfaceWater(Varnmain& main);
 
 }  // namespace varnholt

@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "design/differ.h"
 #include "design/ground_design.h"
 
 namespace varnholt {
@@ -23,7 +24,7 @@ struct HoldsProject {
 /// `Project`, with `loads`, `conditions` and shared `results`; `Inputs`, with `loads`;
 /// `Results`, a LoadsRollUp with optional `inputs`;
 /// `Inputs inputsOf(const Project&, bool hybridOn)`; `std::optional<Results> run(const Inputs&)`,
-/// nothing where there is no load; `bool differ(const Inputs& then, const Inputs& now)`.
+/// nothing where there is no load.
 template <class Kind>
 class ProjectDesign : protected HoldsProject<typename Kind::Project>, public GroundDesign {
  public:
@@ -79,7 +80,7 @@ class ProjectDesign : protected HoldsProject<typename Kind::Project>, public Gro
     bool hasResults() const override { return results().inputs.has_value(); }
 
     bool resultsAreOlder() const override {
-        return hasResults() && (isStale() || !lastRun_ || Kind::differ(*lastRun_, presentInputs()));
+        return hasResults() && (isStale() || !lastRun_ || differ(*lastRun_, presentInputs()));
     }
 
     void restore(const DocumentState& earlier) override {

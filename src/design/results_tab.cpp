@@ -22,6 +22,11 @@ std::string shownAs(const Quantity& quantity, const GroundDesign& design, double
     return formatNumber(quantity.shown(value, design.units()), format);
 }
 
+std::string shownWithUnit(const Quantity& quantity, const GroundDesign& design, double value,
+                          UnitTexts unit, std::string_view format) {
+    return shownAs(quantity, design, value, format) + " " + design.text(unit.in(design.units()));
+}
+
 ResultsTab::ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int frameCaption)
     : DesignTab(design) {
     addFrame(frame, frameCaption);
@@ -60,7 +65,7 @@ void ResultsTab::paintGoverning(Mode greyed) {
     const int colour = greyed == heating ? colours::coolingGoverns : colours::heatingGoverns;
     paint(top_, greyed, colour);
     for (const auto& [row, labels] : rows_)
-        paint(labels, greyed, row.isLength ? colours::black : colour);
+        if (row.painted) paint(labels, greyed, row.isLength ? colours::black : colour);
 }
 
 void ResultsTab::paintPlain() {
@@ -76,13 +81,13 @@ std::vector<ResultRow> unitRows(const GroundDesign& design,
                                 const std::function<LoadsInputs()>& inputs) {
     using Get = std::function<double(Mode)>;
     const auto row = [&design](const char* label, UnitTexts caption, const Quantity& quantity,
-                               Get value) {
+                               const Get& value) {
         return ResultRow{label, caption, [&design, &quantity, value](Mode mode) {
                              return shownAs(quantity, design, value(mode));
                          }};
     };
     // The cooling figure is an energy efficiency ratio where the units are English.
-    const auto cop = [&design](const char* label, UnitTexts caption, Get value) {
+    const auto cop = [&design](const char* label, UnitTexts caption, const Get& value) {
         return ResultRow{
             label, caption, [&design, value](Mode mode) {
                 const bool ratio = mode == cooling && design.units() == UnitSystem::english;

@@ -18,6 +18,7 @@ struct ResultRow {
     UnitTexts caption;
     std::function<std::string(Mode)> value;
     bool isLength = false;  ///< black in the governing mode
+    bool painted = true;    ///< follows the governing mode at all
 };
 
 /// The results by mode, and the Calculate button.
@@ -59,5 +60,8 @@ ResultRow soilChangeRow(const GroundDesign& design, const std::function<double(M
 /// A figure as the results show it.
 std::string shownAs(const Quantity& quantity, const GroundDesign& design, double value,
                     std::string_view format = "###0.0");
+/// The same with the word of the unit behind it.
+std::string shownWithUnit(const Quantity& quantity, const GroundDesign& design, double value,
+                          UnitTexts unit, std::string_view format = "###0.0");
 
 }  // namespace varnholt

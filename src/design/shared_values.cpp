@@ -1,53 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/shared_values.h"
 
-#include <array>
-#include <string>
-
 #include "design/modCalculations/bore_resistance.h"
+#include "design/result_values.h"
 
 namespace varnholt {
-namespace {
-
-template <class Container>
-const auto& elementOf(const Container& container, int index) {
-    return container.at(static_cast<std::size_t>(index));
-}
-
-/// Registers values that one function finds in the results of the moment.
-template <class Results>
-class ResultValues {
- public:
-    ResultValues(Values& values, std::function<const Results&()> results)
-        : values_(values), results_(std::move(results)) {}
-
-    template <class Get>
-    void number(const std::string& name, Get get) {
-        values_.add(name, 0, [results = results_, get](const Values::Indices&) {
-            return static_cast<double>(get(results()));
-        });
-    }
-    /// Elements outside are run-time error 9.
-    template <class Get>
-    void array(const std::string& name, Get get) {
-        values_.add(name, 1, [results = results_, get](const Values::Indices& i) {
-            return static_cast<double>(elementOf(get(results()), i[0]));
-        });
-    }
-    /// An array of arrays: two indices.
-    template <class Get>
-    void table(const std::string& name, Get get) {
-        values_.add(name, 2, [results = results_, get](const Values::Indices& i) {
-            return static_cast<double>(elementOf(elementOf(get(results()), i[0]), i[1]));
-        });
-    }
-
- private:
-    Values& values_;
-    std::function<const Results&()> results_;
-};
-
-}  // namespace
 
 void addFluidValues(Values& values, const FluidValues& fluid) {
     values.add("fluidTypeIndex", &fluid.fluidTypeIndex);
@@ -128,9 +85,10 @@ void addRollUpValues(Values& values, const std::function<const LoadsRollUp&()>& 
         "outletTemp", [](R r) -> auto& { return r.outlet.outletTemp; });
 }
 
-void addBoreholeResults(Values& values, const std::function<const BoreholeResults&()>& results) {
-    using R = const BoreholeResults&;
-    ResultValues<BoreholeResults> of(values, results);
+void addGroundValues(Values& values, const std::function<const GroundRollUp&()>& rollUp) {
+    using R = const GroundRollUp&;
+    addRollUpValues(values, [rollUp]() -> const LoadsRollUp& { return rollUp(); });
+    ResultValues<GroundRollUp> of(values, rollUp);
     of.table(
         "zonePeakTons", [](R r) -> auto& { return r.tonHours.zonePeakTons; });
     of.table(
@@ -138,19 +96,11 @@ void addBoreholeResults(Values& values, const std::function<const BoreholeResult
     of.array(
         "annualTonHours", [](R r) -> auto& { return r.annualTonHours; });
     of.number("annualGroundLoad", [](R r) { return r.annualGroundLoad; });
-    of.array("groundResistance", [](R r) {
-        const modCalculations::GroundResistances& ground = r.groundResistance;
-        return std::array<double, 3>{ground.annual, ground.monthly, ground.shortTerm};
-    });
-    of.array(
-        "neighbourCount", [](R r) -> auto& { return r.neighbourCount; });
-    of.array(
-        "temperaturePenalty", [](R r) -> auto& { return r.lengths.temperaturePenalty; });
-    of.array(
-        "boreLength", [](R r) -> auto& { return r.lengths.boreLength; });
-    of.array(
-        "previousBoreLength", [](R r) -> auto& { return r.lengths.previousBoreLength; });
     of.number("coolingPeakBeforeHybrid", [](R r) { return r.coolingPeakBeforeHybrid; });
+}
+
+std::array<double, 3> elementsOf(const modCalculations::GroundResistances& resistances) {
+    return {resistances.annual, resistances.monthly, resistances.shortTerm};
 }
 
 }  // namespace varnholt

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <functional>
 
-#include "design/borehole_results.h"
 #include "design/design_values.h"
+#include "design/ground_roll_up.h"
 #include "forms/values.h"
 
 namespace varnholt {
@@ -20,7 +21,10 @@ void addTowerValues(Values& values, const TowerValues& tower);
 
 /// What the zones amount to.
 void addRollUpValues(Values& values, const std::function<const LoadsRollUp&()>& rollUp);
-/// The rest of a borehole run.
-void addBoreholeResults(Values& values, const std::function<const BoreholeResults&()>& results);
+/// And what they amount to for the ground, over the year.
+void addGroundValues(Values& values, const std::function<const GroundRollUp&()>& rollUp);
+
+/// Annual, monthly and short term, as the public array has them.
+std::array<double, 3> elementsOf(const modCalculations::GroundResistances& resistances);
 
 }  // namespace varnholt

@@ -8,27 +8,29 @@ namespace varnholt {
 
 SoilTab::SoilTab(GroundDesign& design, SoilValues& soil) : DesignTab(design) {
     addFrame("SOSoilFrame", Text::soilTemperaturesAndProperties);
+    addGroundTemp(soil.groundTemp);
+    addProperties(soil);
+}
+
+void SoilTab::addGroundTemp(double& groundTemp, const Changed& changed) {
     addFrame("SOGroundTempFrame", Text::undisturbedGroundTemperature, "SOSoilFrame");
     addField({.control = "SOGroundTempText",
-              .stored = &soil.groundTemp,
+              .stored = &groundTemp,
               .quantity = &quantities::temperature,
               .highest = 212,
               .fallback = 62,
-              .beside = {
-                  .frame = "SOGroundTempFrame",
-                  .label = "SOGroundTempLabel",
-                  .caption = {Text::groundTemperature, Text::groundTemperature},
-                  .unitLabel = "SOGroundTempUnitsLabel",
-                  .unit = {Text::groundTemperatureUnitsEnglish, Text::groundTemperatureUnitsMetric},
-                  .help = "borehole#soil"}});
-    addFrame("SOPropertiesFrame", Text::soilThermalProperties, "SOSoilFrame");
-    addProperties(soil);
-    addMenuButton("SOSoilCommand(0)", "SOPropertiesFrame", Text::diffusivityButton, "mnuDiffCalc");
-    addMenuButton("SOSoilCommand(1)", "SOPropertiesFrame", Text::soilTablesButton,
-                  "SoilProperties");
+              .beside = {.frame = "SOGroundTempFrame",
+                         .label = "SOGroundTempLabel",
+                         .caption = {Text::groundTemperature, Text::groundTemperature},
+                         .unitLabel = "SOGroundTempUnitsLabel",
+                         .unit = {Text::groundTemperatureUnitsEnglish,
+                                  Text::groundTemperatureUnitsMetric},
+                         .help = "borehole#soil"},
+              .changed = changed});
 }
 
-void SoilTab::addProperties(SoilValues& soil) {
+void SoilTab::addProperties(SoilValues& soil, const Changed& changed) {
+    addFrame("SOPropertiesFrame", Text::soilThermalProperties, "SOSoilFrame");
     addField({.control = "SOThermalConductivityText",
               .stored = &soil.conductivity,
               .quantity = &quantities::conductivity,
@@ -41,7 +43,8 @@ void SoilTab::addProperties(SoilValues& soil) {
                          .unitLabel = "SOThermalConductivityUnitsLabel",
                          .unit = {Text::thermalConductivityUnitsEnglish,
                                   Text::thermalConductivityUnitsMetric},
-                         .help = "borehole#soil"}});
+                         .help = "borehole#soil"},
+              .changed = changed});
     addField({.control = "SOThermalDiffusivityText",
               .stored = &soil.diffusivity,
               .quantity = &quantities::diffusivity,
@@ -55,7 +58,60 @@ void SoilTab::addProperties(SoilValues& soil) {
                          .unitLabel = "SOThermalDiffusivityUnitsLabel",
                          .unit = {Text::thermalDiffusivityUnitsEnglish,
                                   Text::thermalDiffusivityUnitsMetric},
-                         .help = "borehole#soil"}});
+                         .help = "borehole#soil"},
+              .changed = changed});
+    addMenuButton("SOSoilCommand(0)", "SOPropertiesFrame", Text::diffusivityButton, "mnuDiffCalc");
+    addMenuButton("SOSoilCommand(1)", "SOPropertiesFrame", Text::soilTablesButton,
+                  "SoilProperties");
+}
+
+void SoilTab::addSwing(double& airTempSwing, ByMode<std::int16_t>& extremeDay,
+                       const Changed& changed, const std::string& help) {
+    const std::string frame = "SOCorrectionFrame";
+    addFrame(frame, Text::groundTemperatureCorrections, "SOSoilFrame");
+    addField({.control = "SOAirTempSwingText",
+              .stored = &airTempSwing,
+              .quantity = &quantities::temperatureDifference,
+              .highest = 212,
+              .fallback = 22,
+              .beside = {.frame = frame,
+                         .label = "SOAirTempSwingLabel",
+                         .caption = {Text::airTemperatureSwing, Text::airTemperatureSwing},
+                         .unitLabel = "SOSwingdegCLabel",
+                         .unit = {Text::groundTemperatureUnitsEnglish,
+                                  Text::groundTemperatureUnitsMetric},
+                         .help = help},
+              .changed = changed});
+    add("SODayLabel", ControlKind::label, frame, Text::extremeDays);
+    for (const Mode mode : modes) addExtremeDay(mode, extremeDay[mode], frame, changed, help);
+    addMenuButton("SOSwingTableCommand", frame, Text::swingTableButton, "SoilProperties");
+}
+
+/// No day is day 0: a field left at it takes the day that stands for none entered.
+void SoilTab::addExtremeDay(Mode mode, std::int16_t& day, const std::string& frame,
+                            const Changed& changed, const std::string& help) {
+    constexpr std::int16_t unknownDay = 34;
+    const ByMode<int> seasons{Text::summer, Text::winter};
+    const std::string field = elementName("SODayText", mode);
+    addField({.control = field,
+              .stored = &day,
+              .highest = 365,
+              .fallback = unknownDay,
+              .format = "###0",
+              .beside = {.frame = frame,
+                         .label = elementName("SOSeasonLabel", mode),
+                         .caption = {seasons[mode], seasons[mode]},
+                         .help = help,
+                         .accessible = Text::extremeDays,
+                         .distinction = seasons[mode]},
+              .changed = changed,
+              .left = [this, &day, field, changed] {
+                  if (day != 0) return;
+                  day = unknownDay;
+                  design().fields().show(field);
+                  if (changed) changed();
+                  design().calculationNeeded();
+              }});
 }
 
 }  // namespace varnholt

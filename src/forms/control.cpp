@@ -57,6 +57,8 @@ Control& Control::setRange(double min, double max) {
     return set(Property::max, max_, max);
 }
 
+Control& Control::setStep(double step) { return set(Property::step, step_, step); }
+
 Control& Control::setItems(std::vector<std::string> items) {
     set(Property::items, items_, std::move(items));
     set(Property::selected, selected_, {});
@@ -102,6 +104,10 @@ Control& Control::editableText() {
 }
 Control& Control::multipleRows() {
     multiple_ = true;
+    return *this;
+}
+Control& Control::repeatingClicks() {
+    repeating_ = true;
     return *this;
 }
 Control& Control::captionedBy(std::string label) {

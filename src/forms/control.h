@@ -40,6 +40,7 @@ enum class Property {
     value,
     min,
     max,
+    step,
     items,
     selected,
     backcolor,
@@ -67,6 +68,7 @@ constexpr int buttonFace = 0xF0F0F0;  ///< the system's button face
 constexpr int window = 0xFFFFFF;      ///< the background of fields
 constexpr int black = 0;
 constexpr int stale = 14281207;  ///< results older than the inputs
+constexpr int alarm = 255;       ///< coefficients older than their data; a figure to look at
 constexpr int greyed = 7829367;  ///< the mode that does not govern
 constexpr int heatingGoverns = 5263547;
 constexpr int coolingGoverns = 8925232;
@@ -99,6 +101,8 @@ class Control {
     double value() const { return value_; }
     double min() const { return min_; }
     double max() const { return max_; }
+    /// By how much one click of an up-down goes. One of more than 1 takes whole steps only.
+    double step() const { return step_; }
     const std::vector<std::string>& items() const { return items_; }
     /// Selected rows of a list, ascending.
     const std::vector<int>& selected() const { return selected_; }
@@ -118,6 +122,8 @@ class Control {
     bool editable() const { return editable_; }
     /// A list in which several rows may be selected.
     bool multiple() const { return multiple_; }
+    /// An option that acts also when it is chosen already.
+    bool repeating() const { return repeating_; }
     /// Name of the label that captions the control, empty for none.
     const std::string& label() const { return label_; }
     /// Name of the label that tells its unit, empty for none.
@@ -139,6 +145,7 @@ class Control {
     Control& setIndex(int index);
     Control& setValue(double value);
     Control& setRange(double min, double max);
+    Control& setStep(double step);
     /// Replaces the entries; the index becomes -1 and the selection empty.
     Control& setItems(std::vector<std::string> items);
     Control& setItem(std::size_t row, std::string text);
@@ -157,6 +164,7 @@ class Control {
     Control& grouped(std::string group);
     Control& editableText();
     Control& multipleRows();
+    Control& repeatingClicks();
     Control& captionedBy(std::string label);
     Control& unitsIn(std::string unitLabel);
     Control& steppedBy(std::string upDown);
@@ -177,11 +185,11 @@ class Control {
     std::vector<std::string> items_;
     std::vector<int> selected_;
     Date date_;
-    double value_ = 0, min_ = 0, max_ = 100;
+    double value_ = 0, min_ = 0, max_ = 100, step_ = 1;
     int index_ = -1;
     int backcolor_, forecolor_ = colours::black;
     bool enabled_ = true, visible_ = true, locked_ = false, checked_ = false, bold_ = false;
-    bool refused_ = false, editable_ = false, multiple_ = false;
+    bool refused_ = false, editable_ = false, multiple_ = false, repeating_ = false;
 };
 
 /// "CATopLabel(1)": the name of an element of a control array.

@@ -2,6 +2,7 @@
 #include "forms/form.h"
 
 #include <algorithm>
+#include <cmath>
 #include <stdexcept>
 #include <utility>
 
@@ -9,6 +10,15 @@
 #include "forms/text_numbers.h"
 
 namespace varnholt {
+namespace {
+
+/// An up-down that goes by more than one at once knows no numbers in between.
+double nearestStep(const Control& control, double value) {
+    if (control.step() == 1) return value;
+    return control.min() + std::round((value - control.min()) / control.step()) * control.step();
+}
+
+}  // namespace
 
 template <class Tell>
 void Form::tellObservers(const Tell& tell) {
@@ -184,7 +194,7 @@ void Form::click(const std::string& name) {
         Control& target = control(name);
         if (target.kind() == ControlKind::check) target.setChecked(!target.checked());
         if (target.kind() == ControlKind::option) {
-            if (target.checked()) return;
+            if (target.checked() && !target.repeating()) return;
             chooseOption(target);
         }
         raise(handlersOf(name).click);
@@ -215,7 +225,8 @@ void Form::select(const std::string& name, std::vector<int> rows) {
 void Form::slide(const std::string& name, double value) {
     perform(Verb::slide, name, [&] {
         Control& target = control(name);
-        const double within = std::max(target.min(), std::min(target.max(), value));
+        const double stepped = nearestStep(target, value);
+        const double within = std::max(target.min(), std::min(target.max(), stepped));
         if (within == target.value()) return;
         target.setValue(within);
         raise(handlersOf(name).slide);

@@ -2,6 +2,7 @@
 #include "forms/numeric_field.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <utility>
@@ -36,6 +37,7 @@ const NumericFieldRow& NumericFields::row(const std::string& control) const {
 void NumericFields::textChanged(const std::string& control) {
     if (manner_.codeIsWriting && manner_.codeIsWriting()) return;
     const NumericFieldRow& row = rows_.at(control);
+    if (row.checkedWhenLeft) return storeUnchecked(row);
     const std::string typed = form_.control(control).text();
     try {
         store(row);
@@ -53,6 +55,36 @@ void NumericFields::textChanged(const std::string& control) {
     }
 }
 
+/// Takes any number that the stored value can be.
+void NumericFields::storeUnchecked(const NumericFieldRow& row) {
+    const std::optional<double> typed = readPlainNumber(form_.control(row.control).text());
+    if (!typed) return;
+    const double value = row.quantity->stored(*typed, units());
+    if (!std::isfinite(value)) return;
+    row.stored.set(value);
+    form_.control(row.control).setRefused(false);
+    if (row.changed) row.changed();
+    if (manner_.changed) manner_.changed();
+}
+
+/// Repairs a stored value out of range, and shows what is stored in any case.
+void NumericFields::checkLeft(const NumericFieldRow& row) {
+    const double value = row.stored.get();
+    const std::string typed = form_.control(row.control).text();
+    const bool within = value >= row.lowest && value <= row.highest && row.notTaken != value;
+    if (!within) {
+        row.stored.set(fallbackOf(row));
+        if (row.changed) row.changed();
+        if (manner_.changed) manner_.changed();
+    }
+    show(row.control);
+    if (within)
+        form_.control(row.control).setRefused(false);
+    else
+        refuse(row, typed, false);
+    if (row.left) row.left();
+}
+
 void NumericFields::refuse(const NumericFieldRow& row, const std::string& typed, bool tooLarge) {
     constexpr double unlimited = 1e308;
     const double highest = std::min(row.highest, row.stored.largest());
@@ -60,7 +92,7 @@ void NumericFields::refuse(const NumericFieldRow& row, const std::string& typed,
     refused_.push_back({row.control, typed, shownAs(row, row.lowest),
                         highest < unlimited ? shownAs(row, highest) : std::string(),
                         shownAs(row, row.stored.get()), row.lowestIsRefused,
-                        tooLarge && highest >= unlimited});
+                        tooLarge && highest >= unlimited, row.notTaken.has_value()});
     form_.control(row.control).setRefused(true);
 }
 
@@ -104,6 +136,7 @@ bool NumericFields::applyRange(const NumericFieldRow& row) {
 
 void NumericFields::left(const std::string& control) {
     const NumericFieldRow& row = rows_.at(control);
+    if (row.checkedWhenLeft) return checkLeft(row);
     const double value = row.stored.get();
     const bool temperature = row.quantity == &quantities::temperature;
     const bool neutral = value == 0 || (temperature && value == 32);

@@ -78,8 +78,12 @@ struct NumericFieldRow {
     std::optional<double> whileEmpty{};     ///< stored while the field stands empty (0 otherwise)
     std::optional<double> whenEmpty{};      ///< instead of the fallback, for a field left empty
     std::function<double()> fallbackNow{};  ///< the fallback, where it varies
-    std::function<void()> changed{};        ///< after the value is stored, before the form is told
-    std::function<void()> left{};           ///< after the field has been reformatted
+    /// Text that is not a number as a whole leaves the stored value alone, and the range is looked
+    /// at when the field is left: the field may hold anything while one types.
+    bool checkedWhenLeft = false;
+    std::optional<double> notTaken{};  ///< with that, a single value that is refused
+    std::function<void()> changed{};   ///< after the value is stored, before the form is told
+    std::function<void()> left{};      ///< after the field has been reformatted
 };
 
 /// A value that a field has refused, in the units shown.
@@ -90,6 +94,7 @@ struct RefusedValue {
     std::string taken;            ///< what stands in its place
     bool lowestIsRefused = false;
     bool tooLarge = false;  ///< for the field to hold at all, whatever its limits
+    bool single = false;    ///< it takes any other value
 };
 
 /// What the fields of one form have in common.
@@ -129,6 +134,8 @@ class NumericFields {
 
  private:
     void store(const NumericFieldRow& row);
+    void storeUnchecked(const NumericFieldRow& row);
+    void checkLeft(const NumericFieldRow& row);
     static double fallbackOf(const NumericFieldRow& row);
     bool applyRange(const NumericFieldRow& row);
     void refuse(const NumericFieldRow& row, const std::string& typed, bool tooLarge);

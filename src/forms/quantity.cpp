@@ -23,6 +23,11 @@ const Quantity length{{same, [](double x) { return x * metresPerFoot; }},
 // A foot is 12 inches and 304.8 mm.
 const Quantity diameter{{same, [](double x) { return x * 304.8 / 12; }},
                         {same, [](double x) { return x * 12 / 304.8; }}};
+const Quantity width{{same, [](double x) { return ((x * 100.0) / 12.0) * metresPerFoot; }},
+                     {same, [](double x) { return (x / 100.0 * 12.0) / metresPerFoot; }}};
+const Quantity area{{same, [](double x) { return x / squareFeetPerSquareMetre; }},
+                    {same, [](double x) { return x * squareFeetPerSquareMetre; }}};
+const Quantity headLoss = length;
 const Quantity density{{same, [](double x) { return x * densityToMetric; }},
                        {same, [](double x) { return x / densityToMetric; }}};
 const Quantity specificHeat{{same, [](double x) { return x * specificHeatToMetric; }},

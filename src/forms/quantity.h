@@ -32,6 +32,9 @@ extern const Quantity waterFlow;              ///< gpm (also gpm per ton); L/min
 extern const Quantity airFlow;                ///< cfm; L/s
 extern const Quantity length;                 ///< ft; m
 extern const Quantity diameter;               ///< in; mm
+extern const Quantity width;                  ///< in; cm
+extern const Quantity area;                   ///< ft^2; m^2
+extern const Quantity headLoss;               ///< ft of head; m of head
 extern const Quantity density;                ///< lb/ft^3; kg/m^3
 extern const Quantity specificHeat;           ///< Btu/(lb degF); kJ/(degK*kg)
 extern const Quantity conductivity;           ///< Btu/(hr ft degF); W/(m*degK)

@@ -133,16 +133,16 @@ constexpr int linkCancel = 1216;
 constexpr int projectFileFilter = 1220;
 
 // Lines in the browser window.
-constexpr int browserAddressRefused = 1370;
-constexpr int browserOpenedOutside = 1371;
-constexpr int browserPageTooLarge = 1372;
-constexpr int browserDownloadRefused = 1373;
-constexpr int browserWindowRefused = 1374;
-constexpr int browserCertificateRefused = 1375;
+constexpr int browserAddressRefused = 1391;
+constexpr int browserOpenedOutside = 1392;
+constexpr int browserPageTooLarge = 1393;
+constexpr int browserDownloadRefused = 1394;
+constexpr int browserWindowRefused = 1395;
+constexpr int browserCertificateRefused = 1396;
 
 // The help.
-constexpr int whatsThis = 1376;
-constexpr int whatsThisHint = 1377;
+constexpr int whatsThis = 1397;
+constexpr int whatsThisHint = 1398;
 constexpr int helpTitle = 1380;
 constexpr int helpContentsPane = 1381;
 constexpr int helpIndexPane = 1382;
@@ -167,6 +167,7 @@ constexpr int noticeValueOutsideRange = 1237;
 constexpr int noticeValueTooSmall = 1238;
 constexpr int noticeValueNotAbove = 1239;
 constexpr int noticeValueTooLarge = 1240;
+constexpr int noticeValueNotTaken = 1241;
 
 // Lines of the status bar for the entries of the menus.
 constexpr int newBoreholeHint = 1300;
@@ -216,6 +217,8 @@ constexpr int nextWindow = 1356;
 constexpr int noWindows = 1357;
 constexpr int startPageTitle = 1358;
 constexpr int startPageBorehole = 1359;
+constexpr int startPageHorizontal = 1370;
+constexpr int startPageSurfaceWater = 1371;
 constexpr int startPageZones = 1360;
 constexpr int startPageOpen = 1361;
 constexpr int startPageDrop = 1362;
@@ -419,10 +422,157 @@ constexpr int projectDate = 2712;
 constexpr int projectStartDate = 2713;
 constexpr int projectComments = 2714;
 
+// The surface water design: its title and its pages.
+constexpr int surfaceWaterDesignTitle = 3001;
+constexpr int loopPipingPage = 3002;
+constexpr int surfaceWaterPage = 3003;
+
+// Lengths, flows and losses of the loops and headers.
+constexpr int requiredLoopLengths = 3101;
+constexpr int loopLengthMetric = 3102;
+constexpr int loopLengthEnglish = 3103;
+constexpr int loopNumber = 3104;
+constexpr int maxParallelLoops = 3105;
+constexpr int approachTempMetric = 3106;
+constexpr int approachTempEnglish = 3107;
+constexpr int circuitFlowMetric = 3108;
+constexpr int circuitFlowEnglish = 3109;
+constexpr int primaryHeaderFlowMetric = 3110;
+constexpr int primaryHeaderFlowEnglish = 3111;
+constexpr int branchHeaderFlowMetric = 3112;
+constexpr int branchHeaderFlowEnglish = 3113;
+constexpr int loopLossMetric = 3114;
+constexpr int loopLossEnglish = 3115;
+constexpr int headerLossMetric = 3116;
+constexpr int headerLossEnglish = 3117;
+constexpr int totalLossMetric = 3118;
+constexpr int totalLossEnglish = 3119;
+constexpr int minimumFlowUnitsMetric = 3210;
+constexpr int minimumFlowUnitsEnglish = 3211;
+constexpr int minimumLoopFlow = 3212;
+
+// Soil around buried headers.
+constexpr int groundTemperatureCorrections = 3301;
+constexpr int headersInSoil = 3302;
+constexpr int correctedTemperatureMetric = 3303;
+constexpr int correctedTemperatureEnglish = 3304;
+constexpr int headerDepth = 3305;
+constexpr int soilType = 3308;
+constexpr int drySoil = 3309;
+constexpr int dampSoil = 3310;
+constexpr int wetSoil = 3311;
+constexpr int airTemperatureSwing = 3312;
+constexpr int extremeDays = 3313;
+constexpr int summer = 3314;
+constexpr int winter = 3315;
+constexpr int swingTableButton = 3316;
+
+// Loops and headers.
+constexpr int circuitParameters = 3402;
+constexpr int loopPipeSize = 3403;
+constexpr int loopStyle = 3405;
+constexpr int coil = 3406;
+constexpr int slinky = 3407;
+constexpr int numberOfLoops = 3408;
+constexpr int loopHeadLoss = 3409;
+constexpr int headLossUnitsMetric = 3410;
+constexpr int headLossUnitsEnglish = 3411;
+constexpr int extraEquivalentLength = 3412;
+constexpr int headerParameters = 3413;
+constexpr int numberOfHeaders = 3414;
+constexpr int primaryHeader = 3415;
+constexpr int branchHeader = 3416;
+constexpr int lengthInWater = 3417;
+constexpr int lengthInSoil = 3418;
+constexpr int headerLength = 3419;
+constexpr int headerHeadLoss = 3420;
+constexpr int primaryCoolingLoss = 3421;
+constexpr int primaryHeatingLoss = 3422;
+constexpr int branchCoolingLoss = 3423;
+constexpr int branchHeatingLoss = 3424;
+constexpr int headerPipeSize = 3425;
+constexpr int loopPipeThreeQuarterInch = 3430;
+constexpr int loopPipeOneInch = 3431;
+constexpr int loopPipeOneAndAQuarterInch = 3432;
+constexpr int loopPipeOneAndAHalfInch = 3433;
+constexpr int headerPipeTwoInch = 3434;
+constexpr int headerPipeThreeInch = 3435;
+constexpr int headerPipeFourInch = 3436;
+constexpr int headerPipeSixInch = 3437;
+
+// The water.
+constexpr int surfaceWaterProperties = 3501;
+constexpr int loopWaterTemperatures = 3502;
+constexpr int primaryHeaderWaterTemperatures = 3503;
+constexpr int branchHeaderWaterTemperatures = 3504;
+constexpr int surfaceWaterDetails = 3505;
+constexpr int surfaceWaterType = 3507;
+constexpr int pond = 3508;
+constexpr int lake = 3509;
+constexpr int reservoir = 3510;
+constexpr int river = 3511;
+constexpr int otherWater = 3512;
+constexpr int surfaceArea = 3513;
+constexpr int areaUnitsMetric = 3514;
+constexpr int areaUnitsEnglish = 3515;
+constexpr int loopPipeDepth = 3516;
+
+// The horizontal design: its title and its page.
+constexpr int horizontalDesignTitle = 5001;
+constexpr int configurationPage = 5002;
+
+// Trenches and the pipes in them.
+constexpr int trenchNumber = 5005;
+constexpr int trenchSeparation = 5006;
+constexpr int trenchDepth = 5007;
+constexpr int trenchWidth = 5008;
+constexpr int widthUnitsMetric = 5009;
+constexpr int widthUnitsEnglish = 5010;
+constexpr int trenchLayout = 5011;
+constexpr int pipeConfigurationInTrench = 5012;
+constexpr int verticalSeparation = 5016;
+constexpr int coilPitch = 5017;
+constexpr int coilDiameter = 5018;
+constexpr int totalNumberOfPipes = 5019;
+constexpr int oneColumnOfPipes = 5021;
+constexpr int twoColumnsOfPipes = 5022;
+constexpr int threeColumnsOfPipes = 5023;
+constexpr int slinkyLyingFlat = 5024;
+constexpr int slinkyOnEdge = 5025;
+constexpr int offsetRows = 5026;
+constexpr int trenchWidened = 5033;
+constexpr int horizontalSeparation = 5034;
+constexpr int trenchDeepened = 5036;
+
+// Lengths of pipe and trench.
+constexpr int requiredTrenchLengths = 5041;
+constexpr int totalPipeLengthMetric = 5042;
+constexpr int totalPipeLengthEnglish = 5043;
+constexpr int totalTrenchLengthMetric = 5044;
+constexpr int totalTrenchLengthEnglish = 5045;
+constexpr int singleTrenchLengthMetric = 5046;
+constexpr int singleTrenchLengthEnglish = 5047;
+constexpr int trenchNumberResult = 5048;
+constexpr int pipeLengthPerTrenchMetric = 5049;
+constexpr int pipeLengthPerTrenchEnglish = 5050;
+constexpr int soilTemperatureChangeMetric = 5051;
+constexpr int soilTemperatureChangeEnglish = 5052;
+constexpr int noticeOneDayForBoth = 5081;
+
 // What stands in the pictures, and what a screen reader says of them.
 constexpr int singleUTubePicture = 2461;
 constexpr int doubleUTubePicture = 2462;
 constexpr int pipesDoNotFitPicture = 2463;
+constexpr int pipesInTrenchPicture = 5061;
+constexpr int lyingSlinkyPicture = 5062;
+constexpr int standingSlinkyPicture = 5063;
+constexpr int slinkyTooWidePicture = 5064;
+constexpr int groundSurfacePicture = 5065;
+constexpr int trenchPictureEmpty = 5066;
+constexpr int pipeTrenchesPicture = 5071;
+constexpr int lyingSlinkyTrenchesPicture = 5072;
+constexpr int standingSlinkyTrenchesPicture = 5073;
+constexpr int trenchesCutPicture = 5074;
 constexpr int boresWithoutNeighbour = 2531;
 constexpr int boresAtEnd = 2532;
 constexpr int boresAtCorner = 2533;
@@ -431,6 +581,28 @@ constexpr int boresInside = 2535;
 constexpr int boresInLine = 2536;
 constexpr int fieldPictureEmpty = 2541;
 constexpr int fieldPicture = 2542;
+constexpr int groundChartDepth = 3351;
+constexpr int groundChartDay = 3352;
+constexpr int groundChartTemperature = 3353;
+constexpr int groundChartWarmestDay = 3354;
+constexpr int groundChartColdestDay = 3355;
+constexpr int groundChart = 3356;
+constexpr int groundChartEmpty = 3357;
+constexpr int groundChartAtDepth = 3358;
+constexpr int circuit = 3550;
+constexpr int circuitHeatPumps = 3551;
+constexpr int circuitPrimaryHeaders = 3552;
+constexpr int circuitBranches = 3553;
+constexpr int circuitLoops = 3554;
+constexpr int circuitInSoil = 3555;
+constexpr int circuitInWater = 3556;
+constexpr int circuitCountAndFlow = 3557;
+constexpr int circuitPicture = 3558;
+constexpr int loopChartDifference = 3561;
+constexpr int loopChartPerTon = 3562;
+constexpr int loopChart = 3563;
+constexpr int loopChartAtDesign = 3564;
+constexpr int loopChartEmpty = 3565;
 constexpr int linkedWithZoneManager = 2980;
 constexpr int linkedWithAverageBlock = 2981;
 constexpr int notLinked = 2982;
@@ -607,11 +779,184 @@ constexpr int openZoneFileTitle = 2963;
 constexpr int saveZoneFileTitle = 2964;
 constexpr int zonesNotSaved = 2942;
 
+// The heat pump editor: the window and its lists.
+constexpr int pumpEditorTitle = 4100;
+constexpr int chooseManufacturer = 4101;
+constexpr int addToCatalogue = 4102;
+constexpr int noSeriesYet = 4103;
+constexpr int chooseSeries = 4104;
+constexpr int pumpsInSeries = 4105;
+constexpr int noPumpInformation = 4106;
+constexpr int pumpEditorHint = 4122;
+
+// Its panel for manufacturer and series.
+constexpr int chooseWhatToAddTo = 4107;
+constexpr int newManufacturer = 4108;
+constexpr int addSeriesTo = 4109;
+constexpr int pumpInformation = 4110;
+constexpr int manufacturerName = 4111;
+constexpr int street = 4112;
+constexpr int cityStateZip = 4113;
+constexpr int manufacturerCountry = 4114;
+constexpr int manufacturerPhone = 4115;
+constexpr int seriesName = 4116;
+constexpr int seriesFileName = 4117;
+constexpr int applyInformation = 4118;
+constexpr int proceedWithInformation = 4119;
+constexpr int seriesDate = 4120;
+
+// Its commands and their tool tips.
+constexpr int newPump = 4201;
+constexpr int copyPump = 4202;
+constexpr int removePump = 4203;
+constexpr int reorderPumps = 4204;
+constexpr int clearPumps = 4205;
+constexpr int pumpSummary = 4206;
+constexpr int savePumps = 4207;
+constexpr int editSeries = 4208;
+constexpr int deleteSeries = 4209;
+constexpr int exitEditor = 4210;
+constexpr int newPumpTip = 4270;
+constexpr int copyPumpTip = 4271;
+constexpr int removePumpTip = 4272;
+constexpr int reorderPumpsTip = 4273;
+constexpr int clearPumpsTip = 4274;
+constexpr int savePumpsTip = 4275;
+constexpr int editSeriesTip = 4276;
+constexpr int deleteSeriesTip = 4277;
+constexpr int exitEditorTip = 4278;
+
+// Names of its pumps.
+constexpr int copiedPumpSuffix = 4215;
+constexpr int newPumpName = 4246;
+
+// Its pages.
+constexpr int pumpDetailsPage = 4220;
+constexpr int coolingSpecifications = 4231;
+constexpr int heatingSpecifications = 4232;
+constexpr int temperatureCorrectionsPage = 4251;
+constexpr int flowCorrectionsPage = 4252;
+constexpr int testPage = 4260;
+
+// Its rating tables.
+constexpr int enteringWater = 4230;
+constexpr int flowRateOne = 4233;
+constexpr int flowRateTwo = 4234;
+constexpr int ratedCapacity = 4235;
+constexpr int ratedPower = 4236;
+constexpr int ratedCop = 4237;
+constexpr int ratedEer = 4238;
+constexpr int secondCapacity = 4239;
+constexpr int secondPower = 4240;
+constexpr int copyTable = 4223;
+constexpr int copyTableTip = 4224;
+constexpr int pasteTable = 4218;
+constexpr int rowOne = 4225;
+constexpr int rowTwo = 4226;
+constexpr int rowThree = 4227;
+constexpr int rowFour = 4228;
+constexpr int rowFive = 4229;
+
+// A figure that is no heat pump's.
+constexpr int unlikelySign = 4290;
+constexpr int unlikelyCop = 4291;
+
+// Its correction tables.
+constexpr int enteringAirWetBulb = 4243;
+constexpr int enteringAirDryBulb = 4244;
+constexpr int percentOfNominal = 4253;
+constexpr int capacityFactor = 4254;
+constexpr int powerFactor = 4255;
+constexpr int zeroRow = 4256;
+constexpr int zeroRowTip = 4257;
+constexpr int correctionTemperature = 4258;
+
+// Units of the load flow of water-to-water pumps.
+constexpr int loadWaterUnitsMetric = 3214;
+constexpr int loadWaterUnitsEnglish = 3215;
+
+// Its coefficients.
+constexpr int coefficientsFrame = 4241;
+constexpr int calculateCoefficients = 4242;
+constexpr int flowFactors = 4245;
+constexpr int coefficientA = 4247;
+constexpr int coefficientB = 4248;
+constexpr int coefficientC = 4249;
+constexpr int coefficientD = 4250;
+constexpr int coolingCapacityCurve = 4280;
+constexpr int coolingPowerCurve = 4281;
+constexpr int heatingCapacityCurve = 4282;
+constexpr int heatingPowerCurve = 4283;
+constexpr int fitDeviation = 4284;
+constexpr int fitTurns = 4285;
+constexpr int fitTurnsTip = 4286;
+constexpr int percentUnit = 4287;
+
+// Its test.
+constexpr int testSourceTemperature = 4261;
+constexpr int testSourceFlow = 4262;
+constexpr int testLoadTemperature = 4263;
+constexpr int testLoadFlow = 4264;
+constexpr int testCapacityEnglish = 4265;
+constexpr int testCapacityMetric = 4266;
+constexpr int testPower = 4267;
+constexpr int testCopEnglish = 4268;
+constexpr int testCopMetric = 4269;
+constexpr int runTest = 4279;
+
+// Its pictures.
+constexpr int ratingChart = 4292;
+constexpr int correctionsChart = 4293;
+constexpr int testChart = 4294;
+constexpr int curveMet = 4295;
+constexpr int curveStale = 4296;
+constexpr int nothingMeasured = 4297;
+constexpr int curveTested = 4298;
+constexpr int nothingToTest = 4299;
+constexpr int secondFlowLegend = 4211;
+constexpr int staleLegend = 4212;
+constexpr int loadPercentAxis = 4214;
+constexpr int loadTemperatureAxis = 4216;
+constexpr int testedLegend = 4217;
+
+// Messages of the heat pump editor: fitting.
+constexpr int correctionPlaceMissing = 4510;
+constexpr int correctionDataTitle = 4511;
+constexpr int correctionRowNotPositive = 4512;
+
+// Its messages about manufacturer and series.
+constexpr int informationMissing = 4513;
+constexpr int manufacturerTaken = 4514;
+constexpr int seriesTaken = 4515;
+constexpr int fileNameTaken = 4516;
+constexpr int fileNameUnusable = 4527;
+constexpr int tooManySeries = 4528;
+
+// Its questions.
+constexpr int deleteSeriesQuestion = 4517;
+constexpr int deleteSeriesTitle = 4518;
+constexpr int clearPumpsQuestion = 4519;
+constexpr int clearPumpsTitle = 4520;
+constexpr int removePumpQuestion = 4521;
+constexpr int removePumpTitle = 4522;
+constexpr int savePumpsQuestion = 4523;
+constexpr int seriesFileChanged = 4524;
+constexpr int damagedFileReplaced = 4525;
+constexpr int replaceFileTitle = 4529;
+
+// Files that it could not write.
+constexpr int pumpsNotWritten = 4526;
+
+// Its notices.
+constexpr int noticeStaleCurves = 4530;
+constexpr int noticeFitAction = 4531;
+constexpr int noticeSavedStale = 4532;
+constexpr int noticeManyPumps = 4533;
+
 // Starting and files.
 constexpr int loadsWindowInUse = 8539;
 constexpr int zoneFileNotFound = 8540;
 constexpr int systemInformationUnavailable = 8541;
-constexpr int designKindNotOpened = 8542;
 constexpr int zoneFileDamaged = 8543;
 
 }  // namespace varnholt::Text

@@ -126,6 +126,7 @@ void ChildWindow::goTo(const DocumentState& wanted) {
 
 Notice ChildWindow::refusedNotice(const RefusedValue& refused) const {
     const int words = refused.tooLarge          ? Text::noticeValueTooLarge
+                      : refused.single          ? Text::noticeValueNotTaken
                       : refused.lowestIsRefused ? Text::noticeValueNotAbove
                       : refused.highest.empty() ? Text::noticeValueTooSmall
                                                 : Text::noticeValueOutsideRange;

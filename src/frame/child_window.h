@@ -30,6 +30,8 @@ class ChildWindow : public Form {
     virtual bool isLoads() const { return false; }
     /// Any other window that the save command knows how to save.
     virtual bool canSave() const { return isDesign() || isLoads(); }
+    /// The save command of such a window.
+    virtual void save() {}
 
     /// Whether the window has a unit switch, the check box `MetricCheck`.
     bool hasUnitSwitch() const { return has("MetricCheck"); }

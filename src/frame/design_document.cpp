@@ -72,7 +72,7 @@ void DesignDocument::setStale(bool stale) {
     control("CACalculateCommand").setBackcolor(stale ? colours::stale : colours::buttonFace);
 }
 
-void DesignDocument::saved() {
+void DesignDocument::noteSaved() {
     markSaved();
     changed_ = false;
 }

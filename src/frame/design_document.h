@@ -28,7 +28,7 @@ class DesignDocument : public ChildWindow {
     /// The document is not as it was saved, or opened.
     bool isChanged() const { return changed_; }
     /// The project has been written to its file.
-    void saved();
+    void noteSaved();
 
     /// The base text of the captions of such windows.
     virtual std::string baseCaption() const = 0;

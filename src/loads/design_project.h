@@ -26,6 +26,9 @@ struct ProjectLoads {
     friend bool operator==(const ProjectLoads&, const ProjectLoads&) = default;
 };
 
+/// The zones that count: a project whose zone file is missing counts more than it has.
+SharedZones zonesInUse(const ProjectLoads& loads);
+
 /// The temperatures and flows that a design is made for.
 struct ProjectConditions : DesignConditions {
     ByMode<double> minflowRate{2.8, 4.2};  ///< gpm

@@ -28,4 +28,9 @@ void installLoads(Varnmain& main) {
                     [&main] { openOnce<frmAvgBlock>(main, "frmAvgBlock"); });
 }
 
+void refreshPumpLists(Varnmain& main) {
+    for (ChildWindow* window : main.windows())
+        if (auto* loads = dynamic_cast<LoadsWindow*>(window)) loads->refreshPumpLists();
+}
+
 }  // namespace varnholt

@@ -118,8 +118,4 @@ class LinkedDesign : public DesignDocument {
     bool valuePassed_ = false;
 };
 
-/// Equal in everything but the name, which is only the place in the list.
-bool sameLoads(const Zone& a, const Zone& b);
-bool sameLoads(const SharedZones& a, const SharedZones& b);
-
 }  // namespace varnholt

@@ -56,6 +56,9 @@ class LoadsWindow : public ChildWindow {
 
     /// Reads the catalogue afresh, loads the active series, fills the lists of the heat pump tab.
     virtual void InitializeHeatPumpLists() = 0;
+    /// The catalogue's files have been written: offers what they hold now. The zones stay as they
+    /// are, and the active and the browsed series too as long as the catalogue lists them.
+    virtual void refreshPumpLists() { InitializeHeatPumpLists(); }
     /// Shows flow and temperatures after code has changed them.
     virtual void SetFluidsTabbedPaneSwitchVariables() = 0;
     /// Looks the catalogue pumps up again under the design conditions as they are now.

@@ -92,4 +92,8 @@ class SharedZones {
     Shared<std::vector<Item>> items_;
 };
 
+/// Equal in everything but the name, which is only the place in the list.
+bool sameLoads(const Zone& a, const Zone& b);
+bool sameLoads(const SharedZones& a, const SharedZones& b);
+
 }  // namespace varnholt

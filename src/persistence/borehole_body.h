@@ -13,15 +13,6 @@ namespace varnholt {
 // that stand in the project file and in the defaults file are described by the same function.
 // A writer takes a project that is const.
 
-/// The results to read into, or to write from.
-template <class File, class Project>
-auto& resultsFor(Project& project) {
-    if constexpr (File::reading)
-        return project.results.edit();
-    else
-        return *project.results;
-}
-
 template <class File, class Project>
 void describeConditions(File& file, Project& project) {
     auto& conditions = project.conditions;
@@ -66,13 +57,6 @@ void describeResults(File& file, Project& project) {
         items(file, results.outlet.systemFlow[mode], results.lengths.boreLength[mode]);
         items(file, kept.resultFlag[mode], kept.resultNumber[mode], kept.resultDouble[mode]);
     }
-}
-
-/// What the cooling tower starts from where no file tells it: its range is what the units add to
-/// the loop.
-inline void resetCoolingRange(BoreholeProject& project) {
-    project.tower.tower.range =
-        project.results->outlet.outletTemp[cooling] - project.conditions.inletTemp[cooling];
 }
 
 template <class File, class Project>

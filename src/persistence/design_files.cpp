@@ -3,20 +3,25 @@
 
 #include <algorithm>
 #include <array>
-#include <stdexcept>
+#include <type_traits>
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
 #include "design/frmBHDesign.h"
+#include "design/frmHZDesign.h"
+#include "design/frmSWDesign.h"
 #include "frame/varnmain.h"
 #include "persistence/borehole_body.h"
+#include "persistence/horizontal_body.h"
 #include "persistence/project_head.h"
+#include "persistence/surface_water_body.h"
 
 namespace varnholt {
 namespace {
 
-std::unique_ptr<GroundDesign> makeBorehole(Varnmain& main, std::int16_t slot) {
-    return std::make_unique<frmBHDesign>(main, slot);
+template <class Window>
+std::unique_ptr<GroundDesign> make(Varnmain& main, std::int16_t slot) {
+    return std::make_unique<Window>(main, slot);
 }
 
 template <class Window>
@@ -38,39 +43,67 @@ void readInto(GroundDesign& design, const Read& read) {
     window.setProject(std::move(project));
 }
 
+constexpr std::string_view boreholeTitle = "Borehole Design";
+constexpr std::string_view horizontalTitle = "Horizontal Design";
+constexpr std::string_view surfaceWaterTitle = "Surface Water Design";
+
+// Head and body of each kind's project file, and the body of its defaults file.
+
 template <class File, class Project>
-void describeBoreholeFile(File& file, Project& project) {
-    describeHead(file, "Borehole Design", project.information);
-    describeBoreholeProject(file, project);
+void describeFile(File& file, Project& project) {
+    if constexpr (std::is_same_v<std::remove_const_t<Project>, BoreholeProject>) {
+        describeHead(file, boreholeTitle, project.information);
+        describeBoreholeProject(file, project);
+    } else if constexpr (std::is_same_v<std::remove_const_t<Project>, HorizontalProject>) {
+        describeHead(file, horizontalTitle, project.information);
+        describeHorizontalProject(file, project);
+    } else {
+        describeHead(file, surfaceWaterTitle, project.information);
+        describeSurfaceWaterProject(file, project);
+    }
 }
 
-void readBoreholeProject(LineFileReader& file, GroundDesign& design) {
-    readInto<frmBHDesign>(design,
-                          [&](BoreholeProject& project) { describeBoreholeFile(file, project); });
-}
-
-void writeBoreholeProject(LineFileWriter& file, const GroundDesign& design) {
-    describeBoreholeFile(file, projectOf<frmBHDesign>(design));
-}
-
-void readBoreholeDefaults(LineFileReader& file, GroundDesign& design) {
-    readInto<frmBHDesign>(design, [&](BoreholeProject& project) {
+template <class File, class Project>
+void describeDefaults(File& file, Project& project) {
+    if constexpr (std::is_same_v<std::remove_const_t<Project>, BoreholeProject>) {
         describeBoreholeDefaults(file, project);
-        resetCoolingRange(project);
-    });
+        if constexpr (File::reading) resetCoolingRange(project);
+    } else if constexpr (std::is_same_v<std::remove_const_t<Project>, HorizontalProject>) {
+        describeHorizontalDefaults(file, project);
+        if constexpr (File::reading) resetCoolingRange(project);
+    } else {
+        describeSurfaceWaterDefaults(file, project);
+    }
 }
 
-void writeBoreholeDefaults(LineFileWriter& file, const GroundDesign& design) {
-    describeBoreholeDefaults(file, projectOf<frmBHDesign>(design));
+template <class Window>
+void readProject(LineFileReader& file, GroundDesign& design) {
+    readInto<Window>(design, [&](auto& project) { describeFile(file, project); });
+}
+
+template <class Window>
+void writeProject(LineFileWriter& file, const GroundDesign& design) {
+    describeFile(file, projectOf<Window>(design));
+}
+
+template <class Window>
+void readDefaults(LineFileReader& file, GroundDesign& design) {
+    readInto<Window>(design, [&](auto& project) { describeDefaults(file, project); });
+}
+
+template <class Window>
+void writeDefaults(LineFileWriter& file, const GroundDesign& design) {
+    describeDefaults(file, projectOf<Window>(design));
 }
 
 /// The zones come from their file, and what they amount to with them. The results on show are the
 /// project's own, tower included, as they were saved.
-void linkBoreholeLoads(GroundDesign& design, const std::function<void()>& link) {
-    const BoreholeResults saved = *projectOf<frmBHDesign>(design).results;
+template <class Window>
+void linkKeepingResults(GroundDesign& design, const std::function<void()>& link) {
+    const LoadsRollUp saved = *projectOf<Window>(design).results;
     link();
-    readInto<frmBHDesign>(design, [&](BoreholeProject& project) {
-        BoreholeResults& results = project.results.edit();
+    readInto<Window>(design, [&](auto& project) {
+        LoadsRollUp& results = project.results.edit();
         results.loads.peakLoad = saved.loads.peakLoad;
         results.demand.peakDemand = saved.demand.peakDemand;
         results.cop.heatPumpCOP = saved.cop.heatPumpCOP;
@@ -80,13 +113,32 @@ void linkBoreholeLoads(GroundDesign& design, const std::function<void()>& link) 
     design.showGoverningMode();
 }
 
-/// The rows of the horizontal design ("Horizontal Design", vhthz.ini) and of the surface water
-/// design ("Surface Water Design", vhtsw.ini) stand here beside it once there are such windows.
+template <class Window>
+constexpr DesignFileKind kindOf(DesignKind kind, const char* newCommand, std::string_view title,
+                                std::string_view defaultsFile) {
+    return {kind,
+            newCommand,
+            title,
+            defaultsFile,
+            make<Window>,
+            readProject<Window>,
+            writeProject<Window>,
+            readDefaults<Window>,
+            writeDefaults<Window>,
+            linkKeepingResults<Window>};
+}
+
 constexpr std::array kinds{
-    DesignFileKind{DesignKind::borehole, "NewBorehole", "Borehole Design", "vhtbh.ini",
-                   makeBorehole, readBoreholeProject, writeBoreholeProject, readBoreholeDefaults,
-                   writeBoreholeDefaults, linkBoreholeLoads},
+    kindOf<frmBHDesign>(DesignKind::borehole, "NewBorehole", boreholeTitle, "vhtbh.ini"),
+    kindOf<frmHZDesign>(DesignKind::horizontal, "NewHorizontal", horizontalTitle, "vhthz.ini"),
+    kindOf<frmSWDesign>(DesignKind::surfaceWater, "NewSurfaceWater", surfaceWaterTitle,
+                        "vhtsw.ini"),
 };
+
+const DesignFileKind& rowOf(DesignKind kind) {
+    return *std::find_if(kinds.begin(), kinds.end(),
+                         [kind](const DesignFileKind& row) { return row.kind == kind; });
+}
 
 std::string defaultsPath(const GroundDesign& design) {
     return joinPath(design.main().MainDirectory, std::string(fileKindOf(design).defaultsFile));
@@ -96,33 +148,41 @@ std::string defaultsPath(const GroundDesign& design) {
 
 std::span<const DesignFileKind> designFileKinds() { return kinds; }
 
-const DesignFileKind& fileKindOf(const GroundDesign& design) {
-    const auto found = std::find_if(kinds.begin(), kinds.end(), [&](const DesignFileKind& row) {
-        return row.kind == design.kind();
-    });
-    if (found == kinds.end()) throw std::logic_error("no file kind for " + design.formName());
-    return *found;
+const DesignFileKind& fileKindOf(const GroundDesign& design) { return rowOf(design.kind()); }
+
+const DesignFileKind& fileKindOfTitle(std::string_view line) {
+    if (line == boreholeTitle) return rowOf(DesignKind::borehole);
+    if (line == surfaceWaterTitle) return rowOf(DesignKind::surfaceWater);
+    return rowOf(DesignKind::horizontal);
 }
 
-const DesignFileKind* fileKindOfTitle(std::string_view line) {
-    // Every other line means a horizontal design.
-    DesignKind kind = DesignKind::horizontal;
-    if (line == "Borehole Design") kind = DesignKind::borehole;
-    if (line == "Surface Water Design") kind = DesignKind::surfaceWater;
-    for (const DesignFileKind& row : kinds)
-        if (row.kind == kind) return &row;
-    return nullptr;
-}
+namespace {
 
-std::string projectText(const BoreholeProject& project) {
+template <class Project>
+std::string textOf(const Project& project) {
     LineFileWriter file;
-    describeBoreholeFile(file, project);
+    describeFile(file, project);
     return file.bytes();
 }
 
-void readProjectText(std::string_view bytes, BoreholeProject& project) {
+template <class Project>
+void readText(std::string_view bytes, Project& project) {
     LineFileReader file(bytes);
-    describeBoreholeFile(file, project);
+    describeFile(file, project);
+}
+
+}  // namespace
+
+std::string projectText(const BoreholeProject& project) { return textOf(project); }
+std::string projectText(const HorizontalProject& project) { return textOf(project); }
+std::string projectText(const SurfaceWaterProject& project) { return textOf(project); }
+
+void readProjectText(std::string_view bytes, BoreholeProject& project) { readText(bytes, project); }
+void readProjectText(std::string_view bytes, HorizontalProject& project) {
+    readText(bytes, project);
+}
+void readProjectText(std::string_view bytes, SurfaceWaterProject& project) {
+    readText(bytes, project);
 }
 
 std::string projectText(const GroundDesign& design) {
@@ -137,9 +197,11 @@ void readProjectText(std::string_view bytes, GroundDesign& design) {
 }
 
 bool tellsOfLink(std::string_view bytes) {
-    LineFileReader file(bytes.substr(0, bytes.find('\n')));
+    LineFileReader file(bytes);
     file.title({});
-    return file.since(2.0);
+    if (file.since(2.0)) return true;
+    // Horizontal files have always told of it.
+    return fileKindOfTitle(file.line()).kind == DesignKind::horizontal;
 }
 
 void saveVHTFile(const GroundDesign& design, const std::string& path) {

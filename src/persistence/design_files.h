@@ -10,6 +10,8 @@
 #include "basis/line_file.h"
 #include "design/borehole_project.h"
 #include "design/ground_design.h"
+#include "design/horizontal_project.h"
+#include "design/surface_water_project.h"
 #include "frame/design_slots.h"
 
 namespace varnholt {
@@ -35,15 +37,20 @@ struct DesignFileKind {
 
 std::span<const DesignFileKind> designFileKinds();
 const DesignFileKind& fileKindOf(const GroundDesign& design);
-/// The kind that a project file's second line names; null when this program has no such design.
-const DesignFileKind* fileKindOfTitle(std::string_view line);
+/// The kind that a project file's second line names. Every line that is no other's title means a
+/// horizontal design.
+const DesignFileKind& fileKindOfTitle(std::string_view line);
 
 /// The project as the bytes of a file of the newest version.
 std::string projectText(const BoreholeProject& project);
+std::string projectText(const HorizontalProject& project);
+std::string projectText(const SurfaceWaterProject& project);
 std::string projectText(const GroundDesign& design);
 /// Reads a project of any version. Throws RunTimeError 62 or 6 when the file ends early or holds
 /// a whole number beyond 16 bits; the values read so far then stay.
 void readProjectText(std::string_view bytes, BoreholeProject& project);
+void readProjectText(std::string_view bytes, HorizontalProject& project);
+void readProjectText(std::string_view bytes, SurfaceWaterProject& project);
 void readProjectText(std::string_view bytes, GroundDesign& design);
 
 /// Replaces the project file whole. Throws as replaceWholeFile.

@@ -30,4 +30,13 @@ void items(File& file, Values&... values) {
     (item(file, values), ...);
 }
 
+/// A project's results, to read into, or to write from.
+template <class File, class Project>
+auto& resultsFor(Project& project) {
+    if constexpr (File::reading)
+        return project.results.edit();
+    else
+        return *project.results;
+}
+
 }  // namespace varnholt

@@ -71,13 +71,12 @@ GroundDesign* openDesign(Varnmain& main, const DesignFileKind& kind) {
     return &design;
 }
 
-/// The kind of design that the file holds; nothing, after a message, when it cannot be told.
+/// The kind of design that the file holds; nothing, after a message, when it cannot be read.
 const DesignFileKind* kindOfFile(Varnmain& main, const std::string& path) {
     try {
         LineFileReader file = LineFileReader::open(path);
         file.line();
-        if (const DesignFileKind* kind = fileKindOfTitle(file.line())) return kind;
-        warn(main, main.text(Text::designKindNotOpened));
+        return &fileKindOfTitle(file.line());
     } catch (const RunTimeError& error) {
         warnOfReading(main, error);
     }
@@ -162,8 +161,12 @@ void openFile(Varnmain& main, const std::string& path) {
 
 void mnuFileSave_Click(Varnmain& main) {
     ChildWindow* active = main.activeWindow();
-    if (auto* design = dynamic_cast<GroundDesign*>(active)) saveDesign(*design);
-    if (auto* loads = dynamic_cast<LoadsWindow*>(active)) loads->LOSaveCommand_Click();
+    if (auto* design = dynamic_cast<GroundDesign*>(active))
+        saveDesign(*design);
+    else if (auto* loads = dynamic_cast<LoadsWindow*>(active))
+        loads->LOSaveCommand_Click();
+    else if (active->canSave())
+        active->save();
 }
 
 void mnuFileSaveAs_Click(Varnmain& main) {

@@ -40,7 +40,7 @@ bool write(GroundDesign& design, const std::string& path) {
         warn(main, error.message());
     }
     design.setHalfReadFile({});
-    design.saved();
+    design.noteSaved();
     design.refreshNotice();
     main.fileUsed(path);
     return true;

@@ -142,6 +142,7 @@ Shown propertyOf(const Form& form, const Control& control, Property property) {
         case Property::date:
             return control.date();
         case Property::refused:
+        case Property::step:
         case Property::accessibleName:
         case Property::flash:
             break;

@@ -25,6 +25,10 @@ std::string pathFrom(const std::string& folder, const std::string& rest) {
     return path.front() == '/' ? path : joinPath(folder, path);
 }
 
+std::string_view withoutEndBlanks(std::string_view text) {
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
 Answer answerOf(const std::string& word) {
     if (word == "yes") return Answer::yes;
     if (word == "no") return Answer::no;
@@ -125,7 +129,12 @@ void ScriptCommands::choose(std::string& rest) {
         return;
     }
     const std::vector<std::string>& items = target.control.items();
-    const auto found = std::find(items.begin(), items.end(), rest);
+    // Nobody sees the blanks at an entry's end; an entry that is the text to the letter goes first.
+    auto found = std::find(items.begin(), items.end(), rest);
+    if (found == items.end())
+        found = std::find_if(items.begin(), items.end(), [&](const std::string& item) {
+            return withoutEndBlanks(item) == withoutEndBlanks(rest);
+        });
     if (found == items.end())
         throw ScriptFault(
             fmt::format("{} has no entry {}", target.control.name(), quotedText(rest)));

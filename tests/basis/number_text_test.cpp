@@ -91,6 +91,15 @@ TEST(FormatNumber, ShowsWhatIsNoNumberAsZero) {
     EXPECT_EQ(formatNumber(std::numeric_limits<double>::infinity(), "###0"), "0");
 }
 
+TEST(ReadPlainNumber, TakesTheWholeTextOrNothing) {
+    EXPECT_EQ(readPlainNumber("30.1"), 30.1);
+    EXPECT_EQ(readPlainNumber(" \t-2e3 "), -2000);
+    EXPECT_EQ(readPlainNumber("+.5"), 0.5);
+    EXPECT_EQ(readPlainNumber("5."), 5);
+    for (const char* text : {"", " ", "-", ".", "abc", "30x", "3 0", "30,1", "1e", "nan", "inf"})
+        EXPECT_EQ(readPlainNumber(text), std::nullopt) << text;
+}
+
 TEST(ShortestText, ReadsBackAsTheSameDouble) {
     for (const double value : {0.1, 1.0 / 3, 3124.6899414062, 1e22, -2.5e-10, 5e-324, 0.0})
         EXPECT_EQ(leadingNumber(shortestText(value)), value) << value;

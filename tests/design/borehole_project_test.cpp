@@ -2,6 +2,7 @@
 // The project as a value, and the run as a function of it. The figures are those of
 // docs/hand-check.md.
 #include "design/borehole_project.h"
+#include "design/differ.h"
 
 #include <gtest/gtest.h>
 

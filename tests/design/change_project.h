@@ -5,12 +5,15 @@
 #include <utility>
 
 #include "design/frmBHDesign.h"
+#include "design/frmHZDesign.h"
+#include "design/frmSWDesign.h"
 
 namespace varnholt {
 
 /// Puts a project into the window as a file would, with some values of it changed.
-inline void change(frmBHDesign& design, const std::function<void(BoreholeProject&)>& change) {
-    BoreholeProject project = design.project();
+template <class Window>
+void change(Window& design, const std::function<void(typename Window::Project&)>& change) {
+    typename Window::Project project = design.project();
     change(project);
     design.setProject(std::move(project));
 }

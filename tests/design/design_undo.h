@@ -5,7 +5,7 @@
 #include <string>
 
 #include "borehole_window.h"
-#include "forms/shown.h"
+#include "design/one_step.h"
 
 namespace varnholt {
 
@@ -31,24 +31,8 @@ class DesignUndo : public BoreholeWindow {
     bool canUndo() const { return main.control("mnuUndo").enabled(); }
     const std::string& notice() const { return design->control("NoticeLabel").caption(); }
 
-    /// Does it, and proves that it is one step of that name which undo takes back and redo brings
-    /// on again, in the project as on display, the stale mark and the notice included.
     void expectOneStep(const std::string& name, const std::function<void()>& action) {
-        SCOPED_TRACE(name);
-        const BoreholeProject before = design->project();
-        const ShownControls shownBefore = shownBy(*design);
-        const std::string earlier = undoCaption();
-        action();
-        const BoreholeProject after = design->project();
-        const ShownControls shownAfter = shownBy(*design);
-        EXPECT_EQ(undoCaption(), "Undo " + name);
-        undo();
-        EXPECT_TRUE(design->project() == before);
-        EXPECT_EQ(differences(shownBefore, shownBy(*design)), "");
-        EXPECT_EQ(undoCaption(), earlier);
-        redo();
-        EXPECT_TRUE(design->project() == after);
-        EXPECT_EQ(differences(shownAfter, shownBy(*design)), "");
+        expectOneStepIn(main, *design, name, action);
     }
 };
 

@@ -239,7 +239,7 @@ TEST_F(UndoInADesign, ShowsTheUnitsOfNow) {
 }
 
 TEST_F(UndoInADesign, OfWhatWasChangedUntilItWasSavedMakesItUnchanged) {
-    design->saved();
+    design->noteSaved();
     EXPECT_FALSE(design->isChanged());
     typeAndLeave("SOGroundTempText", "58");
     EXPECT_TRUE(design->isChanged());

@@ -59,6 +59,14 @@ TEST_F(DesignedViews, OfABoreholeDesignIsWalkedInTheOrderOfItsForm) {
     expectReadingOrder("NewBorehole");
 }
 
+TEST_F(DesignedViews, OfAHorizontalDesignIsWalkedInTheOrderOfItsForm) {
+    expectReadingOrder("NewHorizontal");
+}
+
+TEST_F(DesignedViews, OfASurfaceWaterDesignIsWalkedInTheOrderOfItsForm) {
+    expectReadingOrder("NewSurfaceWater");
+}
+
 TEST_F(DesignedViews, OfTheZoneManagerIsWalkedInTheOrderOfItsForm) {
     expectReadingOrder("mnuZoneManage");
 }
@@ -67,8 +75,13 @@ TEST_F(DesignedViews, OfTheAverageBlockIsWalkedInTheOrderOfItsForm) {
     expectReadingOrder("mnuAvgBlock");
 }
 
+TEST_F(DesignedViews, OfTheHeatPumpEditorIsWalkedInTheOrderOfItsForm) {
+    expectReadingOrder("EditAdd");
+}
+
 TEST_F(DesignedViews, LeaveNoControlOut) {
-    for (const char* command : {"NewBorehole", "mnuZoneManage", "mnuAvgBlock"}) {
+    for (const char* command : {"NewBorehole", "NewHorizontal", "NewSurfaceWater", "mnuZoneManage",
+                                "mnuAvgBlock", "EditAdd"}) {
         ChildWindow& form = opened(command);
         FormWindow window(form, views.maker(), {});
         EXPECT_EQ(window.binder().unshown(), std::vector<std::string>{}) << form.formName();
@@ -150,6 +163,50 @@ TEST_F(DesignedViews, DrawTheBoreAsItIsTyped) {
     form.type("PIBoreholeDiameterText", "6.5");
     const auto* bore = static_cast<Drawing*>(window.binder().widget("imgBore"));
     EXPECT_TRUE(bore->description().contains(QStringLiteral("6.50 in")));
+}
+
+TEST_F(DesignedViews, DrawTheTrenchesAsTheyAreTyped) {
+    ChildWindow& form = opened("NewHorizontal");
+    form.choose("HZTabs", 4);
+    FormWindow window(form, views.maker(), {});
+    window.show();
+    form.type("PASeparationText(1)", "7");
+    const auto* section = static_cast<Drawing*>(window.binder().widget("PADiagramPicture(1)"));
+    EXPECT_TRUE(section->isVisible());
+    EXPECT_TRUE(section->description().contains(QStringLiteral("7.0 ft")));
+    form.click("PAConfigurationOption(4)");
+    EXPECT_FALSE(section->isVisible());
+    EXPECT_TRUE(window.binder().widget("PADiagramPicture(0)")->isVisible());
+    const auto* plan = static_cast<Drawing*>(window.binder().widget("imgConfiguration(4)"));
+    EXPECT_TRUE(plan->isVisible());
+    form.slide("PAConfigurationUpDown(0)", 9);
+    EXPECT_TRUE(plan->description().contains(QStringLiteral("Plan of 9 trenches")));
+}
+
+TEST_F(DesignedViews, DrawThePondsCircuitAsItIsTyped) {
+    ChildWindow& form = opened("NewSurfaceWater");
+    FormWindow window(form, views.maker(), {});
+    window.show();
+    form.type("PIHeaderNumberText(1)", "4");
+    form.type("PIHeaderLengthText(1)", "160");
+    const auto* circuit = static_cast<Drawing*>(window.binder().widget("imgCircuit"));
+    EXPECT_TRUE(circuit->description().contains(QStringLiteral("branches of each: 4")));
+    EXPECT_TRUE(circuit->description().contains(QStringLiteral("160.0 ft in soil")));
+}
+
+TEST_F(DesignedViews, TellTheGroundsTemperatureAsItsDepthIsTyped) {
+    ChildWindow& form = opened("NewSurfaceWater");
+    form.choose("SWTabs", 2);
+    FormWindow window(form, views.maker(), {});
+    window.show();
+    form.type("SOHeaderDepthText", "0");
+    form.type("SOGroundTempText", "50");
+    form.type("SOAirTempSwingText", "20");
+    Desk::settle();
+    // At the surface the coldest day has 50 - 20, and the warmest is the same day in a new design.
+    const auto* ground = static_cast<Drawing*>(window.binder().widget("imgGroundTemp"));
+    EXPECT_TRUE(ground->description().contains(QStringLiteral("30.0 deg F")))
+        << ground->description().toStdString();
 }
 
 TEST_F(DesignedViews, DrawAnewWhatAnotherWindowsActionHasChanged) {

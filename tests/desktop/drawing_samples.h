@@ -9,9 +9,12 @@
 
 #include "basis/file_system.h"
 #include "desktop/drawings/bore_picture.h"
+#include "desktop/drawings/circuit_picture.h"
 #include "desktop/drawings/field_picture.h"
 #include "desktop/drawings/link_light.h"
 #include "desktop/drawings/loads_picture.h"
+#include "desktop/drawings/trench_picture.h"
+#include "desktop/drawings/trench_plan_picture.h"
 #include "tools/text_table.h"
 
 namespace varnholt {
@@ -20,7 +23,8 @@ namespace varnholt {
 class PictureTexts : public Texts {
  public:
     PictureTexts() {
-        for (const std::string name : {"1350_desktop.txt", "2460_pictures.txt"})
+        for (const std::string name :
+             {"1350_desktop.txt", "2460_pictures.txt", "5000_horizontal.txt"})
             table_.read(readWholeFile(VARNHOLT_SOURCE_DIR "/resources/language/english/" + name),
                         name);
     }
@@ -61,6 +65,55 @@ inline FieldPlan sampleField(double across, double down) {
     plan.separationLabel = feet(20).toStdString();
     plan.acrossLabel = feet(fieldExtent(across, 20)).toStdString();
     plan.downLabel = feet(fieldExtent(down, 20)).toStdString();
+    return plan;
+}
+
+/// A pond as it stands after a run.
+inline CircuitPlan samplePond(int headers, int branches, int loops, bool slinky) {
+    CircuitPlan plan;
+    plan.slinky = slinky;
+    plan.primary.count = headers;
+    plan.primary.flow = {"66.6 gal/min", "58.0 gal/min"};
+    plan.primary.inSoil = "160.0 ft";
+    plan.primary.inWater = "40.0 ft";
+    plan.branch.count = branches;
+    plan.branch.flow = {"22.2 gal/min", "19.3 gal/min"};
+    plan.branch.inWater = "90.0 ft";
+    plan.loops = {loops, loops / 2};
+    plan.systemFlow = {"133.2 gal/min", "116.0 gal/min"};
+    plan.loopFlow = {"3.0 gal/min", "3.6 gal/min"};
+    return plan;
+}
+
+inline HorizontalArrangementValues samplePipes(std::int16_t arrangement, double pipes,
+                                               bool offset = false) {
+    HorizontalArrangementValues values;
+    values.trenchConfiguration = arrangement;
+    values.pipesPerTrench = pipes;
+    values.offsetRows = offset ? 1 : 0;
+    values.coilGeometry = {18, 36};
+    return values;
+}
+
+inline TrenchDrawing sampleTrench(const HorizontalArrangementValues& pipes, double depth,
+                                  double width) {
+    TrenchDrawing drawing = drawTrench({4, {12, depth, width}}, pipes, {});
+    const auto inches = [](double size) {
+        return QString::number(size, 'f', 1).toStdString() + " inches";
+    };
+    drawing.depthLabel = QString::number(depth, 'f', 1).toStdString() + " ft";
+    drawing.widthLabel = inches(width);
+    drawing.rowStepLabel = inches(pipes.pipeSeparation[0]);
+    drawing.columnStepLabel = inches(pipes.pipeSeparation[1]);
+    drawing.coilLabel = inches(pipes.coilGeometry[1]);
+    return drawing;
+}
+
+inline TrenchPlan sampleTrenchPlan(const HorizontalArrangementValues& pipes, double trenches) {
+    TrenchPlan plan = drawTrenches({trenches, {12, 6, 24}}, pipes);
+    plan.separationLabel = "12.0 ft";
+    plan.pitchLabel = "18.0 inches";
+    plan.coilLabel = "36.0 inches";
     return plan;
 }
 
@@ -109,6 +162,38 @@ inline std::vector<DrawingSample> drawingSamples() {
     field("field_20_by_15", 20, 15);
     field("field_100_by_100", 100, 100);
     field("field_none", 0, 4);
+    const auto trench = [&](const char* name, const TrenchDrawing& drawing) {
+        samples.push_back({name, {380, 300}, [=, &texts](const Canvas& canvas) {
+                               paintTrench(canvas, drawing, texts);
+                           }});
+    };
+    trench("trench_one_pipe", sampleTrench(samplePipes(0, 1), 6, 8));
+    trench("trench_staggered", sampleTrench(samplePipes(0, 4, true), 6, 12));
+    trench("trench_two_columns", sampleTrench(samplePipes(1, 6), 6, 18));
+    trench("trench_three_columns", sampleTrench(samplePipes(2, 24), 8, 30));
+    trench("trench_slinky_flat", sampleTrench(samplePipes(3, 1), 5, 40));
+    trench("trench_slinky_too_wide", sampleTrench(samplePipes(3, 1), 5, 8));
+    trench("trench_slinky_on_edge", sampleTrench(samplePipes(4, 1), 5, 36));
+    trench("trench_none", sampleTrench(samplePipes(0, 1), 0, 8));
+    const auto trenches = [&](const char* name, const TrenchPlan& plan) {
+        samples.push_back({name, {380, 190}, [=, &texts](const Canvas& canvas) {
+                               paintTrenches(canvas, plan, texts);
+                           }});
+    };
+    trenches("trenches_one", sampleTrenchPlan(samplePipes(0, 1), 1));
+    trenches("trenches_columns", sampleTrenchPlan(samplePipes(2, 6), 3));
+    trenches("trenches_slinkies_flat", sampleTrenchPlan(samplePipes(3, 1), 4));
+    trenches("trenches_slinkies_on_edge", sampleTrenchPlan(samplePipes(4, 1), 12));
+    const auto pond = [&](const char* name, const CircuitPlan& plan) {
+        samples.push_back({name, {440, 320}, [=, &texts](const Canvas& canvas) {
+                               paintCircuit(canvas, plan, texts);
+                           }});
+    };
+    pond("pond_coils", samplePond(2, 3, 44, false));
+    pond("pond_slinkies", samplePond(1, 0, 6, true));
+    pond("pond_one_loop", samplePond(1, 0, 1, false));
+    pond("pond_many", samplePond(40, 30, 9000, true));
+    pond("pond_none", {});
     samples.push_back({"loads", {300, 150}, [&texts](const Canvas& canvas) {
                            paintLoads(canvas, sampleLoads(), sampleCaptions(), texts);
                        }});

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "design/modCalculations/trench_layout.h"
 #include "drawing_samples.h"
 
 namespace varnholt {
@@ -125,6 +126,41 @@ TEST(FieldPicture, OfAnySizeIsDrawn) {
             EXPECT_GT(pixelsUnlike(renderedSample(sample, lightLook(), 1), lightLook().surface),
                       100);
         }
+}
+
+TEST(TrenchPicture, TellsTheTrenchAndWhatLiesInIt) {
+    EXPECT_EQ(describeTrench(sampleTrench(samplePipes(1, 6), 6, 18), pictureTexts()),
+              "Section of a trench to scale, 18.0 inches wide and 6.0 ft deep, with 6 pipes.");
+    EXPECT_EQ(
+        describeTrench(sampleTrench(samplePipes(3, 1), 5, 8), pictureTexts()),
+        "Section of a trench to scale, 8.0 inches wide and 5.0 ft deep, with a slinky of 36.0 "
+        "inches lying flat. The slinky is wider than the trench.");
+    EXPECT_EQ(describeTrench(sampleTrench(samplePipes(0, 1), 0, 8), pictureTexts()),
+              "Enter the depth and the width of the trench to see it.");
+}
+
+TEST(TrenchPicture, OfAnyTrenchIsDrawn) {
+    for (const double depth : {1e-6, 6.0, 1000.0, 1e300})
+        for (const double width : {1e-6, 8.0, 1e6})
+            for (const auto arrangement :
+                 {modCalculations::singleColumn, modCalculations::threeColumns,
+                  modCalculations::lyingCoil, modCalculations::standingCoil}) {
+                const TrenchDrawing trench =
+                    sampleTrench(samplePipes(arrangement, 3), depth, width);
+                const DrawingSample sample{"", {300, 300}, [&](const Canvas& canvas) {
+                                               paintTrench(canvas, trench, pictureTexts());
+                                           }};
+                EXPECT_GT(pixelsUnlike(renderedSample(sample, lightLook(), 1), lightLook().surface),
+                          100);
+            }
+}
+
+TEST(TrenchPlanPicture, TellsTheFieldAndHowMuchOfItIsDrawn) {
+    EXPECT_EQ(describeTrenches(sampleTrenchPlan(samplePipes(2, 6), 3), pictureTexts()),
+              "Plan of 3 trenches, 12.0 ft apart, with pipes side by side.");
+    EXPECT_EQ(describeTrenches(sampleTrenchPlan(samplePipes(3, 1), 12), pictureTexts()),
+              "Plan of 12 trenches, 12.0 ft apart, with a slinky of 36.0 inches, its loops 18.0 "
+              "inches apart. 4 of 12 trenches are drawn.");
 }
 
 TEST(LoadsPicture, NamesTheLargestLoadOfEachMode) {

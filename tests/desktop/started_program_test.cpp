@@ -80,6 +80,14 @@ TEST(StartedProgram, ShowsPagesAndHelpWhereTheModulesAreMissing) {
     EXPECT_EQ(program.end(), 0);
 }
 
+/// What three rounds may leave behind in torn pages, MB; the address sanitizer's red zones tear
+/// more of them, and it tells by itself what has been lost.
+#ifdef __SANITIZE_ADDRESS__
+constexpr double mostGrowth = 30;
+#else
+constexpr double mostGrowth = 8;
+#endif
+
 /// Opens so many designs and closes them again.
 std::string openAndClose(int designs) {
     std::string script = "click Varnmain.NewBorehole";
@@ -95,7 +103,7 @@ TEST(StartedProgram, KeepsNothingOfTheWindowsThatAScriptHasClosed) {
     for (int round = 0; round < 3; ++round) program.run(openAndClose(50));
     EXPECT_GT(before, 20);
     // A window takes about half a megabyte: three rounds that kept theirs would take 75.
-    EXPECT_LT(program.megabytes() - before, 8);
+    EXPECT_LT(program.megabytes() - before, mostGrowth);
     EXPECT_EQ(program.end(), 0);
 }
 

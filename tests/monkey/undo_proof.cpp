@@ -6,17 +6,30 @@
 #include <string>
 
 #include "design/frmBHDesign.h"
+#include "design/frmHZDesign.h"
+#include "design/frmSWDesign.h"
 #include "loads/loads_window.h"
 
 namespace varnholt {
 
+namespace {
+
+/// The project of a design without its link and the file of its zones.
+template <class Design>
+auto unlinked(const Design& design) {
+    auto project = design.project();
+    project.loads.linkType.clear();
+    project.loads.file = {};
+    return project;
+}
+
+}  // namespace
+
 UndoProof::Document UndoProof::documentOf(const ChildWindow& window) {
-    if (const auto* design = dynamic_cast<const frmBHDesign*>(&window)) {
-        BoreholeProject project = design->project();
-        project.loads.linkType.clear();
-        project.loads.file = {};
-        return project;
-    }
+    if (const auto* bores = dynamic_cast<const frmBHDesign*>(&window)) return unlinked(*bores);
+    if (const auto* trenches = dynamic_cast<const frmHZDesign*>(&window))
+        return unlinked(*trenches);
+    if (const auto* pond = dynamic_cast<const frmSWDesign*>(&window)) return unlinked(*pond);
     if (const auto* loads = dynamic_cast<const LoadsWindow*>(&window)) {
         LoadsDocument document = loads->document();
         document.file = {};

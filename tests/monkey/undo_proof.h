@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "design/borehole_project.h"
+#include "design/horizontal_project.h"
+#include "design/surface_water_project.h"
 #include "frame/varnmain.h"
 #include "loads/loads_document.h"
 
@@ -35,7 +37,8 @@ class UndoProof {
  private:
     /// What the user edits in a window, apart from what is no matter of steps: the link and the
     /// name of the file, which undo leaves as they are.
-    using Document = std::variant<std::monostate, LoadsDocument, BoreholeProject>;
+    using Document = std::variant<std::monostate, LoadsDocument, BoreholeProject, HorizontalProject,
+                                  SurfaceWaterProject>;
 
     static Document documentOf(const ChildWindow& window);
     /// Walks as far as the entry can be pressed. The documents on the way, the first one included.

@@ -141,15 +141,17 @@ TEST_F(Opening, AFolderOpensNoWindow) {
     EXPECT_TRUE(main.windows().empty());
 }
 
-TEST_F(Opening, ADesignOfAnotherKindSaysSo) {
-    for (const char* kind : {"Horizontal Design", "Surface Water Design", "anything else"}) {
+TEST_F(Opening, AFileOfNoKnownKindOpensAsAHorizontalDesign) {
+    for (const char* kind : {"Horizontal Design", "anything else"}) {
         writeBytes(folder / "other.vht",
-                   std::string("Varnholt Data File Version 3.0\r\n") + kind + "\r\n");
+                   std::string("Varnholt Data File Version 3.0\r\n") + kind + "\r\nMill\r\n");
         pick("other.vht");
         main.click("mnuFileOpen");
-        EXPECT_EQ(lastMessage(), "[8542]");
+        EXPECT_EQ(lastMessage(), "Varnholt - Input past end of file");
+        ASSERT_EQ(main.windows().size(), 1u);
+        EXPECT_EQ(main.windows().front()->formName(), "frmHZDesign");
+        closeAll();
     }
-    EXPECT_TRUE(main.windows().empty());
 }
 
 TEST_F(Opening, ACutFileShowsWhatCouldBeReadAndTheError) {
@@ -165,23 +167,26 @@ TEST_F(Opening, ACutFileShowsWhatCouldBeReadAndTheError) {
 }
 
 TEST_F(Opening, ManyDamagedFilesNeverEndsInACrash) {
-    const std::string whole = bytesOf(sampleProject("version_2.1.vht"));
-    // Every seventh byte, so that each line is met.
-    for (std::size_t at = 0; at < whole.size(); at += 7)
-        for (const char byte : {'9', '-', '\n', 'e'}) {
-            std::string changed = whole;
-            changed[at] = byte;
-            writeBytes(folder / "damaged.vht", changed);
-            pick("damaged.vht");
-            main.click("mnuFileOpen");
-            while (!main.windows().empty()) {
-                frmBHDesign& d = design();
-                d.click("MetricCheck");
-                d.CACalculateCommand_Click();
-                answer(Answer::no);
-                ASSERT_TRUE(main.close(d));
+    for (const char* sample : {"version_2.1.vht", "horizontal_1.1.vht"}) {
+        const std::string whole = bytesOf(sampleProject(sample));
+        // Every seventh byte, so that each line is met.
+        for (std::size_t at = 0; at < whole.size(); at += 7)
+            for (const char byte : {'9', '-', '\n', 'e'}) {
+                std::string changed = whole;
+                changed[at] = byte;
+                writeBytes(folder / "damaged.vht", changed);
+                pick("damaged.vht");
+                main.click("mnuFileOpen");
+                while (!main.windows().empty()) {
+                    // Damage to the second line makes it a horizontal one.
+                    auto& d = dynamic_cast<GroundDesign&>(*main.windows().back());
+                    d.click("MetricCheck");
+                    d.CACalculateCommand_Click();
+                    answer(Answer::no);
+                    ASSERT_TRUE(main.close(d));
+                }
             }
-        }
+    }
 }
 
 TEST_F(Opening, ByPathNeedsNoDialog) {

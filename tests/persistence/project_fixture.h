@@ -100,7 +100,7 @@ class ProjectTest : public testing::Test {
         main.click("mnuFileOpen");
         return design();
     }
-    void saveAs(frmBHDesign& which, const std::string& path) {
+    void saveAs(GroundDesign& which, const std::string& path) {
         main.activate(which);
         pick(path);
         main.click("mnuFileSaveAs");

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <cstring>
 #include <random>
 
 #include "basis/run_time_error.h"
@@ -15,7 +16,7 @@ namespace varnholt {
 namespace {
 
 /// What a save in another process ended with: 0, or the number of the run-time error.
-int saveElsewhere(const std::function<void()>& prepare, frmBHDesign& design,
+int saveElsewhere(const std::function<void()>& prepare, const GroundDesign& design,
                   const std::string& path) {
     const pid_t child = ::fork();
     if (child == 0) {
@@ -33,14 +34,19 @@ int saveElsewhere(const std::function<void()>& prepare, frmBHDesign& design,
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-class SavingLosesNothing : public ProjectTest {
+/// A project of each kind, by the command that begins one.
+class SavingLosesNothing : public ProjectTest, public testing::WithParamInterface<const char*> {
  protected:
-    SavingLosesNothing() : path(folder / "work files/school.vht"), d(newDesign()) {
-        change(d, [&](BoreholeProject& of) { of.information.comments = std::string(20000, 'o'); });
+    SavingLosesNothing() : path(folder / "work files/school.vht"), d(begun()) {
+        d.type("INCommentsRichTextBox", std::string(20000, 'o'));
         saveVHTFile(d, path);
         old = bytesOf(path);
-        change(d, [&](BoreholeProject& of) { of.information.comments = std::string(30000, 'n'); });
+        d.type("INCommentsRichTextBox", std::string(30000, 'n'));
         fresh = projectText(d);
+    }
+    GroundDesign& begun() {
+        main.click(GetParam());
+        return dynamic_cast<GroundDesign&>(*main.activeWindow());
     }
     void expectOld() { EXPECT_TRUE(bytesOf(path) == old); }
     std::size_t filesIn(const std::string& name) {
@@ -53,11 +59,11 @@ class SavingLosesNothing : public ProjectTest {
     }
 
     std::string path;
-    frmBHDesign& d;
+    GroundDesign& d;
     std::string old, fresh;
 };
 
-TEST_F(SavingLosesNothing, WhenTheProgramIsKilledAtAnyMomentOfAThousandSaves) {
+TEST_P(SavingLosesNothing, WhenTheProgramIsKilledAtAnyMomentOfAThousandSaves) {
     // In memory where there is such a place: a thousand flushes to a busy disk take long.
     const bool inMemory = std::filesystem::is_directory("/dev/shm");
     const TemporaryFolder place(inMemory ? "/dev/shm" : std::filesystem::temp_directory_path());
@@ -107,7 +113,7 @@ TEST_F(SavingLosesNothing, WhenTheProgramIsKilledAtAnyMomentOfAThousandSaves) {
     EXPECT_GT(newFound, 50);
 }
 
-TEST_F(SavingLosesNothing, WhenTheDiskIsFullBeforeTheEnd) {
+TEST_P(SavingLosesNothing, WhenTheDiskIsFullBeforeTheEnd) {
     for (const rlim_t most : {0u, 1u, 1000u, 29999u}) {
         SCOPED_TRACE(most);
         const auto fillDisk = [most] {
@@ -121,7 +127,7 @@ TEST_F(SavingLosesNothing, WhenTheDiskIsFullBeforeTheEnd) {
     }
 }
 
-TEST_F(SavingLosesNothing, OnAFullFileSystem) {
+TEST_P(SavingLosesNothing, OnAFullFileSystem) {
     const std::string small = folder / "small";
     std::filesystem::create_directory(small);
     // Only root may mount; the test before this one holds for everybody.
@@ -140,7 +146,7 @@ void becomeNobody() {
     if (::geteuid() == 0 && (::setgid(65534) != 0 || ::setuid(65534) != 0)) ::_exit(99);
 }
 
-TEST_F(SavingLosesNothing, WithoutTheRightToWriteTheFile) {
+TEST_P(SavingLosesNothing, WithoutTheRightToWriteTheFile) {
     // The folder may be written, the file may not: it is not replaced all the same.
     std::filesystem::permissions(folder.path(), std::filesystem::perms::all);
     std::filesystem::permissions(folder / "work files", std::filesystem::perms::all);
@@ -150,7 +156,7 @@ TEST_F(SavingLosesNothing, WithoutTheRightToWriteTheFile) {
     EXPECT_EQ(filesIn("work files"), 1u);
 }
 
-TEST_F(SavingLosesNothing, WithoutTheRightToWriteTheFolder) {
+TEST_P(SavingLosesNothing, WithoutTheRightToWriteTheFolder) {
     std::filesystem::permissions(folder.path(), std::filesystem::perms(0755));
     std::filesystem::permissions(path, std::filesystem::perms(0666));
     std::filesystem::permissions(folder / "work files", std::filesystem::perms(0555));
@@ -159,7 +165,7 @@ TEST_F(SavingLosesNothing, WithoutTheRightToWriteTheFolder) {
     std::filesystem::permissions(folder / "work files", std::filesystem::perms(0755));
 }
 
-TEST_F(SavingLosesNothing, WhereAFolderHasTheName) {
+TEST_P(SavingLosesNothing, WhereAFolderHasTheName) {
     std::filesystem::create_directory(folder / "school.vht");
     saveAs(d, "school.vht");
     EXPECT_EQ(lastMessage(), "75 - Path/File access error");
@@ -167,18 +173,24 @@ TEST_F(SavingLosesNothing, WhereAFolderHasTheName) {
     EXPECT_FALSE(d.currentFileCheck);
 }
 
-TEST_F(SavingLosesNothing, ThroughASymbolicLink) {
+TEST_P(SavingLosesNothing, ThroughASymbolicLink) {
     std::filesystem::create_symlink(path, folder / "link.vht");
     saveVHTFile(d, folder / "link.vht");
     EXPECT_TRUE(std::filesystem::is_symlink(folder / "link.vht"));
     EXPECT_TRUE(bytesOf(path) == fresh);
 }
 
-TEST_F(SavingLosesNothing, AndKeepsTheFilesPermissions) {
+TEST_P(SavingLosesNothing, AndKeepsTheFilesPermissions) {
     std::filesystem::permissions(path, std::filesystem::perms(0640));
     saveVHTFile(d, path);
     EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0640));
 }
+
+INSTANTIATE_TEST_SUITE_P(OfAllKinds, SavingLosesNothing,
+                         testing::Values("NewBorehole", "NewSurfaceWater"),
+                         [](const testing::TestParamInfo<const char*>& each) {
+                             return std::string(each.param).substr(std::strlen("New"));
+                         });
 
 }  // namespace
 }  // namespace varnholt

@@ -8,6 +8,11 @@
 
 namespace varnholt::modCalculations {
 
+double temperatureDifference(const LengthTerms& terms, Mode mode, double temperaturePenalty) {
+    const double fluid = (terms.inletTemp[mode] + terms.outletTemp[mode]) / 2;
+    return terms.groundTemp[mode] - fluid - temperaturePenalty;
+}
+
 ByMode<double> calcBoreLengths(const LengthTerms& terms, const ByMode<double>& temperaturePenalty) {
     const GroundResistances& ground = terms.groundResistance;
     ByMode<double> length{};
@@ -17,8 +22,7 @@ ByMode<double> calcBoreLengths(const LengthTerms& terms, const ByMode<double>& t
         const double peak = peakGroundLoad(m, terms.peakLoad[m], terms.peakDemand[m]) *
                             (terms.boreResistance + terms.partLoadFactor[m] * ground.monthly +
                              ground.shortTerm * terms.shortCircuitFactor);
-        const double fluid = (terms.inletTemp[m] + terms.outletTemp[m]) / 2;
-        const double difference = terms.groundTemp[m] - fluid - temperaturePenalty[m];
+        const double difference = temperatureDifference(terms, m, temperaturePenalty[m]);
         length[m] = finite(divide(1000 * (annual + peak), difference));
     }
     return length;

@@ -20,6 +20,11 @@ struct LengthTerms {
     ByMode<double> outletTemp{};
 };
 
+/// By how much the ground, with its penalty, is warmer than the fluid's mean, degF: what drives the
+/// heat to the fluid.
+/// @param temperaturePenalty  of the mode, degF
+double temperatureDifference(const LengthTerms& terms, Mode mode, double temperaturePenalty);
+
 /// Length of bore that each mode needs, ft: the heat of the three pulses times the resistances
 /// between fluid and far ground, over the temperature difference between the two. A mode without
 /// peak load needs none. Lengths may come out negative, where the fluid lies on the wrong side of

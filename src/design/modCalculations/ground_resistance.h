@@ -8,6 +8,8 @@ namespace varnholt::modCalculations {
 struct Soil {
     double conductivity = 0;  ///< Btu/(hr ft degF)
     double diffusivity = 0;   ///< ft^2/day
+
+    friend bool operator==(const Soil&, const Soil&) = default;
 };
 
 /// Effective resistances of the ground to the three heat pulses, hr ft degF/Btu.

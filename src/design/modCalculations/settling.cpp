@@ -36,11 +36,42 @@ bool bothNonPositive(const SettledLengths& state) {
     return state.nonPositive[cooling] && state.nonPositive[heating];
 }
 
+bool spent(const SettledLengths& state) { return state.iterations == passLimit; }
+
 /// Both modes are compared on every pass, whatever the first comparison says.
 bool goesOn(const SettledLengths& state) {
     const ByMode<bool> done{settled(state, cooling), settled(state, heating)};
     return !done[cooling] ||
            (!done[heating] && state.iterations < passLimit && !bothNonPositive(state));
+}
+
+/// Measured by the new length, which is never 0.
+bool trenchSettled(const SettledLengths& state, Mode m) {
+    return std::abs(1 - state.previousBoreLength[m] / state.boreLength[m]) <= tolerance;
+}
+
+bool trenchesGoOn(const SettledLengths& state) {
+    const bool done = trenchSettled(state, cooling) && trenchSettled(state, heating);
+    return !done && !spent(state) && !bothNonPositive(state);
+}
+
+void clear(SettledLengths& state, Mode m) {
+    state.boreLength[m] = 0;
+    state.temperaturePenalty[m] = 0;
+}
+
+/// Takes back what the passes have left of a mode without a solution.
+void conclude(SettledLengths& state) {
+    state.failed = bothNonPositive(state) || spent(state);
+    for (Mode m : modes)
+        if (state.nonPositive[m] || spent(state)) clear(state, m);
+}
+
+/// Heat flows from the warmer to the colder: the ground has to be warmer than the fluid in heating,
+/// and colder in cooling.
+bool onWrongSide(const LengthTerms& terms, Mode m, double temperaturePenalty) {
+    const double difference = temperatureDifference(terms, m, temperaturePenalty);
+    return m == heating ? difference < 0 : difference > 0;
 }
 
 }  // namespace
@@ -51,14 +82,19 @@ SettledLengths settleBoreLengths(const LengthTerms& terms, const PenaltySite& si
     state.boreLength = boreLength;
     do pass(state, terms, site);
     while (goesOn(state));
+    conclude(state);
+    return state;
+}
 
-    const bool spent = state.iterations == passLimit;
-    state.failed = bothNonPositive(state) || spent;
-    for (Mode m : modes) {
-        if (!state.nonPositive[m] && !spent) continue;
-        state.boreLength[m] = 0;
-        state.temperaturePenalty[m] = 0;
-    }
+SettledLengths settleTrenchLengths(const LengthTerms& terms, const PenaltySite& site,
+                                   const ByMode<double>& pipeLength) {
+    SettledLengths state;
+    state.boreLength = pipeLength;
+    do pass(state, terms, site);
+    while (trenchesGoOn(state));
+    conclude(state);
+    for (Mode m : modes)
+        if (onWrongSide(terms, m, state.temperaturePenalty[m])) clear(state, m);
     return state;
 }
 

@@ -29,4 +29,12 @@ struct SettledLengths {
 SettledLengths settleBoreLengths(const LengthTerms& terms, const PenaltySite& site,
                                  const ByMode<double>& boreLength);
 
+/// The same for the pipes of horizontal trenches. Here the limit of passes holds for both modes
+/// alike, and no length that is compared is ever 0, so a building with loads in one mode only gets
+/// its length. A mode whose fluid lies on the wrong side of its ground has no solution either, even
+/// where the year's load made its length positive: it ends with a length and a penalty of 0.
+/// Throws RunTimeError 11 when fluid and ground have the same temperature.
+SettledLengths settleTrenchLengths(const LengthTerms& terms, const PenaltySite& site,
+                                   const ByMode<double>& pipeLength);
+
 }  // namespace varnholt::modCalculations

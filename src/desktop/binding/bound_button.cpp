@@ -10,12 +10,6 @@
 #include "forms/text_numbers.h"
 
 namespace varnholt {
-namespace {
-
-constexpr int alarmRed = 255;
-
-}  // namespace
-
 BoundButton::BoundButton(Binder& binder, Control& control)
     : BoundControl(binder, control, new QPushButton), button_(static_cast<QPushButton*>(widget())) {
     button_->setAutoDefault(false);
@@ -64,7 +58,7 @@ Shown BoundButton::shown(Property property) const {
 }
 
 void BoundButton::showBackcolor() {
-    const bool alarm = control().backcolor() == alarmRed;
+    const bool alarm = control().backcolor() == colours::alarm;
     const bool marked = alarm || control().backcolor() == colours::stale;
     const QString tone = alarm ? QStringLiteral("alarm") : QStringLiteral("stale");
     setStyleProperty("tone", marked ? tone : tone_);

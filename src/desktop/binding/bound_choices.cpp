@@ -3,6 +3,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QRadioButton>
+#include <type_traits>
 
 #include "desktop/binding/binder.h"
 #include "desktop/binding/bound_control.h"
@@ -140,6 +141,8 @@ class BoundNumber : public BoundControl {
             number_->setNumbers(control().min(), control().max());
         else if (property == Property::value)
             number_->setNumber(control().value());
+        else if (property == Property::step)
+            number_->setStep(control().step());
         else
             BoundControl::show(property);
     }

@@ -93,11 +93,11 @@ void BoundControl::show(Property property) {
 
 void BoundControl::showAll() {
     static constexpr Property all[] = {
-        Property::items,   Property::text,          Property::caption, Property::enabled,
-        Property::locked,  Property::max,           Property::value,   Property::index,
-        Property::checked, Property::selected,      Property::date,    Property::backcolor,
-        Property::bold,    Property::forecolor,     Property::tooltip, Property::refused,
-        Property::visible, Property::accessibleName};
+        Property::items,     Property::text,    Property::caption,       Property::enabled,
+        Property::locked,    Property::max,     Property::step,          Property::value,
+        Property::index,     Property::checked, Property::selected,      Property::date,
+        Property::backcolor, Property::bold,    Property::forecolor,     Property::tooltip,
+        Property::refused,   Property::visible, Property::accessibleName};
     for (const Property property : all) show(property);
 }
 

@@ -33,21 +33,29 @@ void nameParts(QCategoryAxis& engine, const ChartAxis& axis) {
 void figure(QValueAxis& engine, const ChartAxis& axis) {
     engine.setLabelFormat(labelFormat(axis.step));
     if (axis.figures > 0) {
+        engine.setTickType(QValueAxis::TicksFixed);
         engine.setTickCount(axis.figures);
         return;
     }
-    engine.setTickType(QValueAxis::TicksDynamic);
-    engine.setTickAnchor(0);
     engine.setTickInterval(axis.step);
+    engine.setTickAnchor(0);
+    engine.setTickType(QValueAxis::TicksDynamic);
+}
+
+/// The engine lays the figures out with every change, so a long range must never meet the steps of
+/// a short one: there would be no end of figures.
+void setScale(QValueAxis& engine, const ChartAxis& axis) {
+    const bool stepsFirst = axis.figures > 0 || axis.step >= engine.tickInterval();
+    if (stepsFirst) figure(engine, axis);
+    engine.setRange(axis.lowest, axis.highest);
+    if (!stepsFirst) figure(engine, axis);
 }
 
 void drawAxis(QAbstractAxis& engine, const ChartAxis& axis) {
     engine.setTitleText(axis.title);
+    if (axis.parts.empty()) return setScale(static_cast<QValueAxis&>(engine), axis);
     engine.setRange(axis.lowest, axis.highest);
-    if (axis.parts.empty())
-        figure(static_cast<QValueAxis&>(engine), axis);
-    else
-        nameParts(static_cast<QCategoryAxis&>(engine), axis);
+    nameParts(static_cast<QCategoryAxis&>(engine), axis);
 }
 
 void dressAxis(QAbstractAxis& engine, const Look& look, const QFont& font) {

@@ -34,8 +34,13 @@ QAbstractSeries* newSeries(Sign sign, Mode mode) {
                             7);
         case Sign::design:
             return newMarks(QScatterSeries::MarkerShapeRotatedRectangle, 12);
+        case Sign::secondMeasured:
+            return newMarks(QScatterSeries::MarkerShapeTriangle, 8);
         case Sign::line:
         case Sign::steps:
+        case Sign::staleLine:
+        case Sign::thinLine:
+        case Sign::neutral:
             break;
     }
     return new QLineSeries;
@@ -76,7 +81,17 @@ void PlottedSeries::dress(const Look& look) {
         case Sign::steps:
             points->setPen(QPen(colour, 2, style, Qt::FlatCap, Qt::MiterJoin));
             break;
+        case Sign::staleLine:
+            points->setPen(QPen(look.muted, 2, Qt::DotLine));
+            break;
+        case Sign::thinLine:
+            points->setPen(QPen(colour, 1, style));
+            break;
+        case Sign::neutral:
+            points->setPen(QPen(look.muted, 2));
+            break;
         case Sign::measured:
+        case Sign::secondMeasured:
             points->setBrush(look.surface);
             points->setPen(QPen(colour, 1.4));
             break;

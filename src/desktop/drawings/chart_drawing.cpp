@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/drawings/chart_drawing.h"
 
+#include <QBoxLayout>
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <utility>
 
@@ -11,7 +11,8 @@
 
 namespace varnholt {
 
-ChartDrawing::ChartDrawing(const Texts& texts, ChartModuleFinder charts)
+ChartDrawing::ChartDrawing(const Texts& texts, ChartModuleFinder charts,
+                           QBoxLayout::Direction direction)
     : texts_(texts),
       module_(std::move(charts)),
       legend_(new LegendRow(this)),
@@ -26,7 +27,7 @@ ChartDrawing::ChartDrawing(const Texts& texts, ChartModuleFinder charts)
     hint_->setAlignment(Qt::AlignCenter);
     hint_->setWordWrap(true);
     hint_->setTextFormat(Qt::PlainText);
-    auto* row = new QHBoxLayout(plots_);
+    auto* row = new QBoxLayout(direction, plots_);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(gridStep);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -35,12 +36,11 @@ ChartDrawing::ChartDrawing(const Texts& texts, ChartModuleFinder charts)
 
 void ChartDrawing::create() {
     created_ = true;
-    legend_->setEntries(legend());
     ChartModule* module = module_();
     if (module == nullptr) return;
     for (std::size_t i = 0; i < pictures().size(); ++i) {
         charts_.push_back(module->newChart(plots_));
-        static_cast<QHBoxLayout*>(plots_->layout())->addWidget(charts_.back()->widget(), 1);
+        static_cast<QBoxLayout*>(plots_->layout())->addWidget(charts_.back()->widget(), 1);
     }
     dress();
 }
@@ -51,6 +51,7 @@ void ChartDrawing::refresh() {
     QString hint = emptyHint();
     if (hint.isEmpty()) {
         if (!created_) create();
+        legend_->setEntries(legend());
         const std::vector<ChartPicture> pictures = this->pictures();
         for (std::size_t i = 0; i < charts_.size(); ++i) charts_[i]->draw(pictures[i]);
         if (charts_.empty()) hint = qt(texts_.text(Text::chartPartMissing));

@@ -3,6 +3,8 @@
 
 #include <cmath>
 
+#include "desktop/widgets/qt_text.h"
+
 namespace varnholt {
 namespace {
 
@@ -26,6 +28,16 @@ ChartAxis axisFromZero(double highest) {
     axis.highest = steps * axis.step;
     axis.figures = static_cast<int>(steps) + 1;
     return axis;
+}
+
+QList<QPointF> pointsOf(const Curve& curve) {
+    QList<QPointF> points;
+    for (const CurvePoint& point : curve) points << QPointF(point.across, point.up);
+    return points;
+}
+
+QString titleWithUnit(const std::string& name, const std::string& unit) {
+    return qt(name) + (unit.empty() ? QString() : QStringLiteral(" (%1)").arg(qt(unit)));
 }
 
 ChartAxis axisAround(double lowest, double highest) {

@@ -4,9 +4,11 @@
 #include <QList>
 #include <QPointF>
 #include <QString>
+#include <string>
 #include <vector>
 
 #include "basis/mode.h"
+#include "design/curve.h"
 
 namespace varnholt {
 
@@ -35,11 +37,15 @@ struct ChartAxis {
 /// Points of one mode, and the sign by which they are shown.
 struct ChartSeries {
     enum class Sign {
-        line,      ///< solid for cooling, dashed for heating
-        steps,     ///< a line with square corners
-        area,      ///< what lies below the points, in a wash of the mode's colour
-        measured,  ///< hollow marks, round for cooling and square for heating
-        design,    ///< diamonds
+        line,            ///< solid for cooling, dashed for heating
+        steps,           ///< a line with square corners
+        area,            ///< what lies below the points, in a wash of the mode's colour
+        measured,        ///< hollow marks, round for cooling and square for heating
+        design,          ///< diamonds
+        staleLine,       ///< dotted in grey: fitted from other data than are shown
+        thinLine,        ///< a line that goes with the main one
+        secondMeasured,  ///< hollow triangles, of another series of measurements
+        neutral,         ///< a muted line that belongs to no mode
     };
 
     Sign sign;
@@ -59,6 +65,12 @@ struct ChartPicture {
 
 /// From zero to the next round number at or beyond the highest value.
 ChartAxis axisFromZero(double highest);
+
+/// A curve's points as a series takes them.
+QList<QPointF> pointsOf(const Curve& curve);
+
+/// What an axis is of, with the unit in brackets where there is one.
+QString titleWithUnit(const std::string& name, const std::string& unit);
 
 /// With a little room at both ends of the values, and figures at round numbers.
 ChartAxis axisAround(double lowest, double highest);

@@ -5,9 +5,14 @@
 #include <utility>
 
 #include "desktop/drawings/bore_picture.h"
+#include "desktop/drawings/circuit_picture.h"
 #include "desktop/drawings/day_chart.h"
 #include "desktop/drawings/field_picture.h"
+#include "desktop/drawings/ground_temp_chart.h"
+#include "desktop/drawings/loop_chart.h"
 #include "desktop/drawings/painted_drawing.h"
+#include "desktop/drawings/trench_picture.h"
+#include "desktop/drawings/trench_plan_picture.h"
 
 namespace varnholt {
 namespace {
@@ -67,6 +72,45 @@ Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts) 
         [&texts](const FieldPlan& field) { return describeField(field, texts); }, {380, 320});
 }
 
+Drawing* newTrenchDrawing(std::function<TrenchDrawing()> source, const Texts& texts) {
+    return new PaintedDrawing<TrenchDrawing>(
+        std::move(source),
+        [&texts](const Canvas& canvas, const TrenchDrawing& trench) {
+            paintTrench(canvas, trench, texts);
+        },
+        [&texts](const TrenchDrawing& trench) { return describeTrench(trench, texts); },
+        {380, 260});
+}
+
+Drawing* newTrenchPlanDrawing(std::function<TrenchPlan()> source, const Texts& texts) {
+    return new PaintedDrawing<TrenchPlan>(
+        std::move(source),
+        [&texts](const Canvas& canvas, const TrenchPlan& plan) {
+            paintTrenches(canvas, plan, texts);
+        },
+        [&texts](const TrenchPlan& plan) { return describeTrenches(plan, texts); }, {380, 160});
+}
+
+Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts,
+                           const QSize& usual) {
+    return new PaintedDrawing<CircuitPlan>(
+        std::move(source),
+        [&texts](const Canvas& canvas, const CircuitPlan& plan) {
+            paintCircuit(canvas, plan, texts);
+        },
+        [&texts](const CircuitPlan& plan) { return describeCircuit(plan, texts); }, usual);
+}
+
+Drawing* newGroundTempChart(std::function<GroundTempCurves()> source, const Texts& texts,
+                            ChartModuleFinder charts) {
+    return new GroundTempChart(std::move(source), texts, std::move(charts));
+}
+
+Drawing* newLoopChart(std::function<LoopCurves()> source, const Texts& texts,
+                      ChartModuleFinder charts) {
+    return new LoopChart(std::move(source), texts, std::move(charts));
+}
+
 Drawing* newLinkLight(LinkPartner partner, const Texts& texts) {
     return new LinkLamp(partner, texts);
 }
@@ -92,6 +136,11 @@ Drawing* newDayChart(std::function<LoadsChart()> source, std::function<LoadsCapt
 Drawing* newPumpCurves(std::function<PumpPicture()> source, const Texts& texts,
                        ChartModuleFinder charts) {
     return new PumpCurves(std::move(source), texts, std::move(charts));
+}
+
+Drawing* newFitCurves(std::function<FitCurvesPicture()> source, const Texts& texts,
+                      ChartModuleFinder charts) {
+    return new FitCurves(std::move(source), texts, std::move(charts));
 }
 
 }  // namespace varnholt

@@ -1,12 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QSize>
 #include <functional>
 
 #include "design/bore_drawing.h"
+#include "design/circuit_plan.h"
 #include "design/field_plan.h"
+#include "design/ground_temp_curves.h"
+#include "design/loop_curves.h"
+#include "design/trench_drawing.h"
+#include "design/trench_plan.h"
 #include "desktop/drawings/chart_module.h"
 #include "desktop/drawings/drawing.h"
+#include "desktop/drawings/fit_curves.h"
 #include "desktop/drawings/link_light.h"
 #include "desktop/drawings/loads_picture.h"
 #include "desktop/drawings/pump_curves.h"
@@ -18,6 +25,15 @@ namespace varnholt {
 
 Drawing* newBoreDrawing(std::function<BoreDrawing()> source, const Texts& texts);
 Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts);
+Drawing* newTrenchDrawing(std::function<TrenchDrawing()> source, const Texts& texts);
+Drawing* newTrenchPlanDrawing(std::function<TrenchPlan()> source, const Texts& texts);
+/// @param usual  its size where nothing else decides
+Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts,
+                           const QSize& usual);
+Drawing* newGroundTempChart(std::function<GroundTempCurves()> source, const Texts& texts,
+                            ChartModuleFinder charts = findChartModule);
+Drawing* newLoopChart(std::function<LoopCurves()> source, const Texts& texts,
+                      ChartModuleFinder charts = findChartModule);
 /// A light that stands for one partner; it is lit while it is enabled.
 Drawing* newLinkLight(LinkPartner partner, const Texts& texts);
 /// Small bars beside the numbers of a zone.
@@ -27,5 +43,7 @@ Drawing* newDayChart(std::function<LoadsChart()> source, std::function<LoadsCapt
                      const Texts& texts, ChartModuleFinder charts = findChartModule);
 Drawing* newPumpCurves(std::function<PumpPicture()> source, const Texts& texts,
                        ChartModuleFinder charts = findChartModule);
+Drawing* newFitCurves(std::function<FitCurvesPicture()> source, const Texts& texts,
+                      ChartModuleFinder charts = findChartModule);
 
 }  // namespace varnholt

@@ -23,10 +23,23 @@ void drawSign(QPainter& painter, const Look& look, LegendRow::Sign sign, const Q
             painter.drawLine(middle - QPointF(8, 0), middle + QPointF(8, 0));
             break;
         }
+        case LegendRow::Sign::neutralLine:
+            painter.setPen(QPen(look.muted, 2, Qt::SolidLine, Qt::FlatCap));
+            painter.drawLine(middle - QPointF(8, 0), middle + QPointF(8, 0));
+            break;
         case LegendRow::Sign::measured:
             painter.setPen(QPen(look.muted, 1.4));
             painter.drawEllipse(middle - QPointF(5, 0), 3.2, 3.2);
             painter.drawRect(QRectF(middle.x() + 1.5, middle.y() - 3, 6, 6));
+            break;
+        case LegendRow::Sign::second:
+            painter.setPen(QPen(look.muted, 1.4));
+            painter.drawPolygon(
+                QPolygonF{middle - QPointF(0, 4), middle + QPointF(4, 4), middle + QPointF(-4, 4)});
+            break;
+        case LegendRow::Sign::staleLine:
+            painter.setPen(QPen(look.muted, 2, Qt::DotLine, Qt::FlatCap));
+            painter.drawLine(middle - QPointF(8, 0), middle + QPointF(8, 0));
             break;
         case LegendRow::Sign::design:
             painter.setPen(Qt::NoPen);

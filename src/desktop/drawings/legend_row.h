@@ -12,7 +12,7 @@ namespace varnholt {
 /// What the lines and marks of a chart mean, in one row above it.
 class LegendRow : public QWidget {
  public:
-    enum class Sign { coolingLine, heatingLine, measured, design };
+    enum class Sign { coolingLine, heatingLine, neutralLine, measured, design, second, staleLine };
     struct Entry {
         Sign sign;
         QString text;

@@ -32,10 +32,6 @@ struct Extent {
     }
 };
 
-QString titleOf(const std::string& name, const std::string& unit) {
-    return qt(name) + (unit.empty() ? QString() : QStringLiteral(" (%1)").arg(qt(unit)));
-}
-
 }  // namespace
 
 std::optional<double> valueAt(const PumpCurve& curve, double enteringWater) {
@@ -78,9 +74,9 @@ bool PumpCurves::take() {
 
 std::vector<ChartPicture> PumpCurves::pictures() const {
     return {chartOf(picture_.pump.capacity,
-                    titleOf(texts().text(Text::pumpCurvesCapacity), picture_.capacityUnit)),
+                    titleWithUnit(texts().text(Text::pumpCurvesCapacity), picture_.capacityUnit)),
             chartOf(picture_.pump.power,
-                    titleOf(texts().text(Text::pumpCurvesPower), picture_.powerUnit))};
+                    titleWithUnit(texts().text(Text::pumpCurvesPower), picture_.powerUnit))};
 }
 
 ChartPicture PumpCurves::chartOf(const ByMode<PumpCurve>& curves, const QString& title) const {
@@ -98,7 +94,7 @@ ChartPicture PumpCurves::chartOf(const ByMode<PumpCurve>& curves, const QString&
     }
     chart.across = axisAround(extent.coldest, extent.warmest);
     chart.across.title =
-        titleOf(texts().text(Text::pumpCurvesEnteringWater), picture_.temperatureUnit);
+        titleWithUnit(texts().text(Text::pumpCurvesEnteringWater), picture_.temperatureUnit);
     chart.up = axisFromZero(extent.highest);
     chart.up.title = title;
     return chart;

@@ -85,11 +85,7 @@ QWidget* makeBoreholeView(Binder& bind) {
          [&bind] { return page(arrangementPage(bind)); },
          [&bind] { return page(extraPowerPage(bind)); },
          [&bind] { return page(informationPage(bind)); }});
-    // The results take more room than the zeros that they begin with.
-    return roomy(
-        column(bar(centredRow(bind.widget("MetricCheck"), grow(noticeBar(bind)), linkLights(bind))),
-               grow(pages)),
-        {980, 640});
+    return designWindow(bind, pages);
 }
 
 }  // namespace varnholt

@@ -15,6 +15,9 @@ class Binder;
 
 using FieldRows = std::vector<FieldRow>;
 
+/// The window around a design's pages: unit switch, lights of the link, notice.
+QWidget* designWindow(Binder& bind, QWidget* pages);
+
 /// The results in two columns, the parts of their table divided by hairlines, and the command that
 /// calculates them. While the design has no loads a line tells where these come from.
 QWidget* resultsPanel(Binder& bind, const std::vector<FieldRows>& parts);
@@ -26,10 +29,17 @@ FieldRows systemPerformance(Binder& bind);
 QWidget* towerPanel(Binder& bind);
 
 QWidget* fluidPage(Binder& bind);
+/// Ground whose temperature is the same at every depth.
 QWidget* soilPage(Binder& bind);
+/// Panels of that page.
+QWidget* groundTempPanel(Binder& bind);
+QWidget* soilPropertiesPanel(Binder& bind);
+/// Swing and extreme days of a ground whose temperature follows the year, and what comes of them.
+QWidget* groundSwingPanel(Binder& bind, const FieldRows& results = {});
 /// Size and thermal resistance of the pipe.
 QWidget* pipePanel(Binder& bind);
-/// Circulation pump, additional power, and the fan and pump of a cooling tower.
+/// Circulation pump, additional power, and the fan and pump of a cooling tower where the kind has
+/// one.
 QWidget* extraPowerPage(Binder& bind);
 /// Who designs what for whom, and remarks.
 QWidget* informationPage(Binder& bind);

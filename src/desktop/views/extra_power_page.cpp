@@ -13,15 +13,20 @@ QWidget* motor(Binder& bind, std::size_t shaft, std::size_t efficiency, std::siz
                 bind.row(elementName("EKWPumpPowerText", input)));
 }
 
+QWidget* towerPower(Binder& bind) {
+    if (!bind.has("EKWCoolingTowerFrame")) return nullptr;
+    return group(bind.frame("EKWCoolingTowerFrame"),
+                 group(bind.frame("EKWTowerFanFrame"), motor(bind, 4, 1, 3)),
+                 group(bind.frame("EKWTowerPumpFrame"), motor(bind, 6, 2, 5)));
+}
+
 }  // namespace
 
 QWidget* extraPowerPage(Binder& bind) {
     return column(group(bind.frame("EKWCirculationFrame"), motor(bind, 1, 0, 0),
                         buttons(bind.widget("EKWPumpPowerCommand"))),
                   group(bind.frame("EKWAdditionalFrame"), grid(bind.row("EKWPumpPowerText(2)"))),
-                  group(bind.frame("EKWCoolingTowerFrame"),
-                        group(bind.frame("EKWTowerFanFrame"), motor(bind, 4, 1, 3)),
-                        group(bind.frame("EKWTowerPumpFrame"), motor(bind, 6, 2, 5))));
+                  towerPower(bind));
 }
 
 }  // namespace varnholt

@@ -12,6 +12,14 @@ FieldRow fluidType(Binder& bind) {
     return bind.row("FLFluidTypeCombo", {percent.fields.front(), percent.caption});
 }
 
+/// The least flow of a loop, where the kind has loops that share the flow.
+QWidget* minimumFlow(Binder& bind) {
+    if (!bind.has("FLMinFlowFrame")) return nullptr;
+    bind.mark("FLMinFlowText(0)", cooling).mark("FLMinFlowText(1)", heating);
+    return group(bind.frame("FLMinFlowFrame"),
+                 grid(bind.row("FLMinFlowText(0)"), bind.row("FLMinFlowText(1)")));
+}
+
 }  // namespace
 
 QWidget* fluidPage(Binder& bind) {
@@ -23,7 +31,8 @@ QWidget* fluidPage(Binder& bind) {
         group(bind.frame("FLFlowRateFrame"), grid(bind.row("FLFlowRateText"))),
         group(bind.frame("FLSolutionFrame"),
               grid(fluidType(bind), bind.row("FLSpecificHeatText"), bind.row("FLFluidDensityText")),
-              buttons(bind.widget("FLTablesButton")))));
+              buttons(bind.widget("FLTablesButton"))),
+        minimumFlow(bind)));
 }
 
 }  // namespace varnholt

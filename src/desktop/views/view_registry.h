@@ -34,8 +34,9 @@ void registerViews(ViewRegistry& views);
 /// Registers the views of the main window's own forms: the start picture and the About window.
 void registerFrameViews(ViewRegistry& views);
 
-/// Lays out any form by the conventions of its names: frames as groups, fields as rows of caption,
-/// field and unit, results as rows of two figures, tabs by the prefixes of their controls.
+/// Lays out any form by what its controls tell: frames as groups, fields as rows with the label,
+/// the unit and the spin buttons that they name. An array of three labels is a row of results, and
+/// a tabbed pane has a page for each prefix of its controls' names.
 QWidget* makeGenericView(Binder& bind);
 
 }  // namespace varnholt

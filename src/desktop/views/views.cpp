@@ -7,9 +7,12 @@ namespace varnholt {
 
 void registerViews(ViewRegistry& views) {
     views.registerView("frmBHDesign", makeBoreholeView);
+    views.registerView("frmHZDesign", makeHorizontalView);
+    views.registerView("frmSWDesign", makeSurfaceWaterView);
     views.registerView("frmZoneManage", makeZoneManagerView);
     views.registerView("frmAvgBlock", makeAverageBlockView);
     views.registerView("frmLinkOptions", makeLinkOptionsView);
+    views.registerView("frmHPEdit", makePumpEditorView);
     views.registerView("frmBrowser", makeBrowserView);
 }
 

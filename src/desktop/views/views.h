@@ -10,9 +10,12 @@ class Binder;
 // One function a form: it lays out the form's controls as the window shows them.
 
 QWidget* makeBoreholeView(Binder& bind);
+QWidget* makeHorizontalView(Binder& bind);
+QWidget* makeSurfaceWaterView(Binder& bind);
 QWidget* makeZoneManagerView(Binder& bind);
 QWidget* makeAverageBlockView(Binder& bind);
 QWidget* makeLinkOptionsView(Binder& bind);
+QWidget* makePumpEditorView(Binder& bind);
 QWidget* makeBrowserView(Binder& bind);
 
 }  // namespace varnholt

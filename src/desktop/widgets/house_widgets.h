@@ -36,6 +36,8 @@ class MovedNumber {
 
     virtual void setNumbers(double lowest, double highest) = 0;
     virtual void setNumber(double number) = 0;
+    /// By how much one press of a button moves it; a slider keeps to steps of its own.
+    virtual void setStep(double /*step*/) {}
     /// Moves to the number as a person would.
     virtual void moveTo(double number) = 0;
 
@@ -75,8 +77,9 @@ class UpDownButtons : public QWidget, public MovedNumber {
 
     void setNumbers(double lowest, double highest) override;
     void setNumber(double number) override;
+    void setStep(double step) override { step_ = step; }
     void moveTo(double number) override;
-    void step(int steps) { moveTo(number_ + steps); }
+    void step(int steps) { moveTo(number_ + steps * step_); }
 
  protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -87,6 +90,7 @@ class UpDownButtons : public QWidget, public MovedNumber {
 
     QToolButton* up_;
     QToolButton* down_;
+    double step_ = 1;
 };
 
 /// A titled group of controls: a flat card, or inside another group a plain section.

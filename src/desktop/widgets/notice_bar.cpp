@@ -38,7 +38,6 @@ NoticeBar::NoticeBar(QLabel* text, QAbstractButton* action)
     keepPlace(*this);
     keepPlace(*action);
     sign_->setFixedSize(signSize, signSize);
-    drawSign();
     text->installEventFilter(this);
     follow();
 }
@@ -59,8 +58,14 @@ bool NoticeBar::eventFilter(QObject* watched, QEvent* event) {
     return QFrame::eventFilter(watched, event);
 }
 
+/// Most windows have nothing to tell when they open.
+void NoticeBar::showEvent(QShowEvent* event) {
+    drawSign();
+    QFrame::showEvent(event);
+}
+
 void NoticeBar::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange) drawSign();
+    if (event->type() == QEvent::PaletteChange && isVisible()) drawSign();
     QFrame::changeEvent(event);
 }
 

@@ -27,6 +27,7 @@ class NoticeBar : public QFrame {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  protected:
+    void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
  private:

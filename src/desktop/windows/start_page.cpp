@@ -87,6 +87,9 @@ StartPage::StartPage(const Varnmain& main, std::function<void(const std::string&
     title->setFont(font);
     card_->addWidget(title);
     card_->addWidget(line(main, "NewBorehole", "new-borehole", Text::startPageBorehole));
+    card_->addWidget(line(main, "NewHorizontal", "new-horizontal", Text::startPageHorizontal));
+    card_->addWidget(
+        line(main, "NewSurfaceWater", "new-surface-water", Text::startPageSurfaceWater));
     card_->addWidget(line(main, "mnuZoneManage", "zones", Text::startPageZones));
     card_->addWidget(line(main, "mnuFileOpen", "open", Text::startPageOpen));
     auto* drop = new TextLabel(qt(main.text(Text::startPageDrop)));

@@ -143,6 +143,36 @@ void ZoneWindow::InitializeHeatPumpLists() {
     showActiveSeries();
 }
 
+void ZoneWindow::refreshPumpLists() {
+    PumpManufacturerInfo maker;
+    PumpSeriesInfo series;
+    if (!catalogue.models(browsedSlot).empty()) {
+        maker = catalogue.models(browsedSlot).front().mfgInfo;
+        series = catalogue.models(browsedSlot).front().seriesInfo;
+    }
+    const Control& list = control("HPPumpList");
+    const std::string chosen =
+        list.index() < 0 ? std::string() : list.items()[static_cast<std::size_t>(list.index())];
+    InitializeHeatPumpLists();
+    if (const auto model = modelNamed(chosen, activeSlot))
+        control("HPPumpList").setIndex(static_cast<int>(*model));
+    refreshBrowsedSeries(maker.mfgName, series.seriesName);
+}
+
+/// The series that slot 1 held, and the lists of an open selection panel, from the new catalogue.
+void ZoneWindow::refreshBrowsedSeries(const std::string& mfgName, const std::string& seriesName) {
+    if (const PumpSeriesInfo* series = catalogue.find(mfgName, seriesName))
+        catalogue.readPumps(series->FileName, browsedSlot);
+    if (!pumpsAreBeingSelected()) return;
+    const std::string model = control("LOPumpNameCombo").text();
+    SeriesPlace place = placeOf(control("LOMfgCombo").text() + control("LOSeriesCombo").text());
+    if (place.series < 0) place = placeOf(activeSeries());
+    showPlace("LOMfgCombo", "LOSeriesCombo", place);
+    browseSeries();
+    if (const auto found = modelNamed(model, browsedSlot))
+        control("LOPumpNameCombo").setIndex(static_cast<int>(*found));
+}
+
 void ZoneWindow::showActiveSeries() {
     showPlace("HPManufacturerCombo", "HPSeriesCombo", placeOf(activeSeries()));
     showActiveModels();

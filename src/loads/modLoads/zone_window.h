@@ -55,6 +55,7 @@ class ZoneWindow : public LoadsWindow {
     bool LOOpenZoneFile(const std::string& path) override;
 
     void InitializeHeatPumpLists() override;
+    void refreshPumpLists() override;
     void SetFluidsTabbedPaneSwitchVariables() override;
     bool pumpsAreBeingSelected() const override;
     /// Puts the catalogue model into the zone, evaluated for it. Throws a RunTimeError, and the
@@ -219,6 +220,7 @@ class ZoneWindow : public LoadsWindow {
     void HPSeriesCombo_Click();
     void showActiveSeries();
     void showActiveModels();
+    void refreshBrowsedSeries(const std::string& mfgName, const std::string& seriesName);
 
     void LODetailsCommand_Click();
     void LOReturnCommand_Click();

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "basis/units.h"
+#include "catalogue/fitting/pump_fit.h"
+#include "catalogue/fitting/test_points.h"
+
+namespace varnholt {
+
+// What the pictures beside the editor's tables show, in the units shown. They are drawn elsewhere.
+
+struct FitPoint {
+    double x = 0;  ///< degF, degC, or percent of nominal
+    double y = 0;  ///< MBtu/hr, kW, or a factor
+
+    friend bool operator==(const FitPoint&, const FitPoint&) = default;
+};
+
+/// One fitted curve over the points that were measured.
+struct CurvePicture {
+    std::vector<FitPoint> line, measured;
+    /// The same at the second source flow; empty where it has no data.
+    std::vector<FitPoint> secondLine, secondMeasured;
+    std::optional<FitPoint> operating;  ///< where the model is tried
+    bool stale = false;                 ///< fitted from other data than these
+    std::optional<double> turn;         ///< where the curve turns around
+
+    friend bool operator==(const CurvePicture&, const CurvePicture&) = default;
+};
+
+/// Capacity and power of a model. A mode that a picture is not about has no points.
+struct FitPicture {
+    ByMode<CurvePicture> capacity, power;
+    bool fromZero = true;  ///< the axes of the values begin there
+
+    bool empty() const;
+    friend bool operator==(const FitPicture&, const FitPicture&) = default;
+};
+
+/// Rating points and curves over the entering water temperature.
+FitPicture ratingPicture(const pump& model, const std::vector<Mode>& shown, UnitSystem units);
+/// Rows and curves of a kind of correction.
+FitPicture correctionPicture(const pump& model, CorrectionKind kind, UnitSystem units);
+/// The model's performance over the source's temperature, all else being as it is tried, and the
+/// point at which it is tried.
+FitPicture testPicture(const pump& model, const TestInputs& inputs, UnitSystem units);
+
+}  // namespace varnholt

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The panel in which manufacturer and series are chosen, entered and changed.
+#include <utility>
+
+#include "basis/file_system.h"
+#include "basis/run_time_error.h"
+#include "catalogue/editor/frmHPEdit.h"
+#include "forms/text_numbers.h"
+#include "frame/varnmain.h"
+
+namespace varnholt {
+namespace {
+
+constexpr int hintEntries = 2;
+constexpr int addressLines = 5;
+
+bool isBlank(const std::string& text) {
+    return text.find_first_not_of(" \t\r\n") == std::string::npos;
+}
+
+}  // namespace
+
+void frmHPEdit::lockManufacturer(bool locked) {
+    for (int i = 0; i < addressLines; ++i)
+        element("ManufacturerAddressText", i)
+            .setLocked(locked)
+            .setBackcolor(locked ? colours::buttonFace : colours::window)
+            .setForecolor(locked ? colours::greyed : colours::black);
+}
+
+void frmHPEdit::showManufacturer(const PumpManufacturerInfo& manufacturer) {
+    const std::string* lines[] = {&manufacturer.mfgName, &manufacturer.addressLine1,
+                                  &manufacturer.addressLine2, &manufacturer.country,
+                                  &manufacturer.phone};
+    for (int i = 0; i < addressLines; ++i) element("ManufacturerAddressText", i).setText(*lines[i]);
+}
+
+PumpManufacturerInfo frmHPEdit::typedManufacturer() const {
+    const auto line = [this](std::size_t i) {
+        return control(elementName("ManufacturerAddressText", i)).text();
+    };
+    return {line(0), line(1), line(2), line(3), line(4)};
+}
+
+PumpSeriesInfo frmHPEdit::typedSeries() const {
+    return {control("SeriesInfoText(0)").text(), control("SeriesInfoText(1)").text(),
+            control("SeriesInfoDTPicker").date()};
+}
+
+void frmHPEdit::SelectMfgCombo_Click() {
+    const int chosen = control("SelectMfgCombo").index();
+    control("InsidePumpInfoPicture").setVisible(chosen > 0);
+    if (chosen <= 0) return;
+    editingSeriesInfo = false;
+    const std::string name = control("SelectMfgCombo").text();
+    std::optional<std::size_t> manufacturer;
+    for (std::size_t m = 0; chosen >= hintEntries && m < index_.size() && !manufacturer; ++m)
+        if (index_[m].mfgInfo.mfgName + " " == name) manufacturer = m;
+    pumpInfoFrameMode = manufacturer ? "newSeries" : "newMfg";
+    showManufacturer(manufacturer ? index_[*manufacturer].mfgInfo : PumpManufacturerInfo{});
+    lockManufacturer(manufacturer.has_value());
+    for (int i = 0; i < 2; ++i) element("SeriesInfoText", i).setText({});
+    control("SeriesInfoDTPicker").setDate(platform().today());
+    control("ProceedCommand").setCaption(text(Text::proceedWithInformation));
+}
+
+void frmHPEdit::EditSeriesCommand_Click() {
+    if (!place_) return;
+    editingSeriesInfo = true;
+    pumpInfoFrameMode.clear();
+    lockManufacturer(false);
+    control("SelectMfgCombo")
+        .setIndex(static_cast<int>(place_->manufacturer) + hintEntries)
+        .setEnabled(false);
+    SetPumpInfoFrameVariables();
+    control("ProceedCommand").setCaption(text(Text::applyInformation));
+    control("InsidePumpInfoPicture").setVisible(true);
+    showPanel(Panel::information);
+}
+
+void frmHPEdit::SetPumpInfoFrameVariables() {
+    showManufacturer(selectedManufacturer());
+    control("SeriesInfoText(0)").setText(selectedSeries().seriesName);
+    control("SeriesInfoText(1)").setText(selectedSeries().FileName);
+    control("SeriesInfoDTPicker").setDate(selectedSeries().currentDate);
+}
+
+void frmHPEdit::finishFileName() {
+    Control& field = control("SeriesInfoText(1)");
+    field.setText(withoutExtension(field.text()));
+}
+
+/// The first thing that is wrong with what has been entered; empty for nothing.
+std::string frmHPEdit::faultOfInformation() const {
+    const PumpManufacturerInfo maker = typedManufacturer();
+    const PumpSeriesInfo series = typedSeries();
+    if (isBlank(maker.mfgName) || isBlank(series.seriesName) || isBlank(series.FileName))
+        return text(Text::informationMissing);
+    const bool editing = editingSeriesInfo && place_;
+    const auto own = editing ? std::optional(place_->manufacturer) : std::nullopt;
+    if (pumpInfoFrameMode != "newSeries" && isManufacturerTaken(index_, maker.mfgName, own))
+        return text(Text::manufacturerTaken);
+    const auto under = editing ? own : findManufacturer(index_, maker.mfgName);
+    if (under && isSeriesTaken(index_[*under], series.seriesName,
+                               editing ? std::optional(place_->series) : std::nullopt))
+        return text(Text::seriesTaken);
+    if (isFileTaken(index_, series.FileName, editing ? place_ : std::nullopt))
+        return text(Text::fileNameTaken);
+    // A name that stands in the catalogue already has been found usable.
+    const bool sameFile = editing && series.FileName == selectedSeries().FileName;
+    if (!sameFile && !isUsableFileName(series.FileName))
+        return filledIn(text(Text::fileNameUnusable), {series.FileName});
+    if (!editing && under && index_[*under].seriesInfo.size() >= seriesPerManufacturer)
+        return text(Text::tooManySeries);
+    return {};
+}
+
+void frmHPEdit::ProceedCommand_Click() {
+    finishFileName();
+    const std::string fault = faultOfInformation();
+    if (!fault.empty()) return show(MessageIcon::exclamation, fault);
+    if (editingSeriesInfo && place_)
+        changeSeries();
+    else
+        enterSeries();
+}
+
+/// A new series starts with an empty file, or with the pumps of a file that is there already.
+void frmHPEdit::enterSeries() {
+    CatalogueIndex index = index_;
+    const PumpManufacturerInfo maker = typedManufacturer();
+    const PumpSeriesInfo series = typedSeries();
+    const auto known =
+        pumpInfoFrameMode == "newSeries" ? findManufacturer(index, maker.mfgName) : std::nullopt;
+    const SeriesPlace place =
+        known ? insertSeries(index, *known, series) : insertManufacturer(index, maker, series);
+    const std::string pumps = joinPath(main().MainDirectory, "pumps");
+    const std::string path = pumpSeriesPath(pumps, series.FileName);
+    const bool found = fileExists(path);
+    // The file first: an index must not list a series whose file could not be made.
+    if (!found && !attemptToWrite(path, [&] { WritePumpSeries(pumps, {series, maker, {}}); }))
+        return;
+    if (!writeIndex(index)) return;
+    index_ = std::move(index);
+    SeriesFile file = readSeriesFile(path);
+    const int error = file.error;
+    const bool otherHead =
+        found && (file.series.mfgInfo != maker || file.series.seriesInfo != series);
+    takeSeries(place, std::move(file));
+    pumpInfoFrameMode = found ? "Return" : "";
+    fillManufacturers();
+    showSelection();
+    showPanel(Panel::data);
+    // Its file still has the names that it was written under.
+    if (otherHead && !document_.pumps.empty()) {
+        setChanged(true);
+        startHistory(false);
+    }
+    if (error == 53 || error == 62) show(MessageIcon::exclamation, RunTimeError(error).message());
+    catalogueWritten_();
+}
+
+void frmHPEdit::changeSeries() {
+    CatalogueIndex index = index_;
+    PumpList& manufacturer = index[place_->manufacturer];
+    PumpSeriesInfo& series = manufacturer.seriesInfo[place_->series];
+    const bool otherFile = series.FileName != typedSeries().FileName;
+    manufacturer.mfgInfo = typedManufacturer();
+    series = typedSeries();
+    const bool otherNames =
+        manufacturer.mfgInfo != selectedManufacturer() || series != selectedSeries();
+    if (!writeIndex(index)) return;
+    index_ = std::move(index);
+    for (Shared<pump>& model : document_.pumps) {
+        model.edit().mfgInfo = selectedManufacturer();
+        model.edit().seriesInfo = selectedSeries();
+    }
+    if (otherFile) file_ = {};
+    if (otherNames && !document_.pumps.empty()) setChanged(true);
+    editingSeriesInfo = false;
+    fillManufacturers();
+    showSelection();
+    showPanel(Panel::data);
+    startHistory(!changed_);
+    catalogueWritten_();
+}
+
+void frmHPEdit::CancelCommand_Click() {
+    editingSeriesInfo = false;
+    if (pumpInfoFrameMode == "Return" || !place_) {
+        closeSeries();
+        fillManufacturers();
+        return showSelection();
+    }
+    pumpInfoFrameMode.clear();
+    showPanel(Panel::data);
+    showSelection();
+}
+
+void frmHPEdit::DeleteSeriesCommand_Click() {
+    if (!place_ || platform().question(Buttons::yesNo, text(Text::deleteSeriesTitle),
+                                       text(Text::deleteSeriesQuestion)) != Answer::yes)
+        return;
+    CatalogueIndex index = index_;
+    removeSeries(index, *place_);
+    if (!writeIndex(index)) return;
+    index_ = std::move(index);
+    closeSeries();
+    fillManufacturers();
+    showSelection();
+    catalogueWritten_();
+}
+
+}  // namespace varnholt

@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The lists of manufacturers and series, and the series in memory.
+#include <utility>
+
+#include "basis/file_system.h"
+#include "basis/raised_flag.h"
+#include "basis/run_time_error.h"
+#include "catalogue/editor/editor_names.h"
+#include "catalogue/editor/frmHPEdit.h"
+#include "catalogue/fitting/fit_quality.h"
+#include "forms/text_numbers.h"
+#include "frame/varnmain.h"
+
+namespace varnholt {
+namespace {
+
+/// An entry of a list: its text with a blank behind it.
+std::string entry(const std::string& name) { return name + " "; }
+
+/// The first entries of the lists of manufacturers tell what to do.
+constexpr std::size_t hintEntries = 2;
+
+}  // namespace
+
+frmHPEdit::Panel frmHPEdit::panel() const {
+    if (control("PumpInfoPicture").visible()) return Panel::information;
+    return control("PumpDataPicture").visible() ? Panel::data : Panel::nothing;
+}
+
+void frmHPEdit::showPanel(Panel panel) {
+    control("NoInfoPicture").setVisible(panel == Panel::nothing);
+    control("PumpInfoPicture").setVisible(panel == Panel::information);
+    control("PumpDataPicture").setVisible(panel == Panel::data);
+    enableCommands();
+}
+
+/// The commands for pumps rest while manufacturer and series are being entered.
+void frmHPEdit::enableCommands() {
+    const bool any = !document_.pumps.empty();
+    const bool free = place_ && panel() != Panel::information;
+    for (const char* command :
+         {"CopyCommand", "RemoveCommand", "ReorderCommand", "ClearCommand", "SummaryCommand"})
+        control(command).setEnabled(free && any);
+    for (const char* command : {"NewCommand", "EditSeriesCommand", "DeleteSeriesCommand"})
+        control(command).setEnabled(free);
+    control("PumpDataTabs").setEnabled(any);
+    for (const char* frame : pageFrames) control(frame).setEnabled(any);
+}
+
+void frmHPEdit::fillManufacturers() {
+    std::vector<std::string> choices{entry(text(Text::chooseManufacturer)),
+                                     entry(text(Text::addToCatalogue))};
+    std::vector<std::string> targets{entry(text(Text::chooseWhatToAddTo)),
+                                     entry(text(Text::newManufacturer))};
+    for (const PumpList& manufacturer : index_) {
+        choices.push_back(entry(manufacturer.mfgInfo.mfgName));
+        targets.push_back(entry(manufacturer.mfgInfo.mfgName));
+    }
+    control("MfgCombo").setItems(std::move(choices)).setIndex(0);
+    control("SelectMfgCombo").setItems(std::move(targets)).setIndex(0);
+    fillSeries({});
+}
+
+void frmHPEdit::fillSeries(std::optional<std::size_t> manufacturer) {
+    std::vector<std::string> choices;
+    if (!manufacturer) {
+        choices.push_back(entry(text(Text::noSeriesYet)));
+    } else {
+        choices.push_back(entry(text(Text::chooseSeries)));
+        for (const PumpSeriesInfo& series : index_[*manufacturer].seriesInfo)
+            choices.push_back(entry(series.seriesName));
+    }
+    control("SeriesCombo").setItems(std::move(choices)).setIndex(0);
+}
+
+/// The lists tell which series is in memory.
+void frmHPEdit::showSelection() {
+    if (place_) {
+        control("MfgCombo").setIndex(static_cast<int>(place_->manufacturer + hintEntries));
+        fillSeries(place_->manufacturer);
+        control("SeriesCombo").setIndex(static_cast<int>(place_->series + 1));
+    } else {
+        control("MfgCombo").setIndex(0);
+        fillSeries({});
+    }
+    rememberSelection();
+}
+
+void frmHPEdit::rememberSelection() {
+    shownManufacturer_ = control("MfgCombo").index();
+    shownSeries_ = control("SeriesCombo").index();
+}
+
+void frmHPEdit::MfgCombo_Click() {
+    if (!askForSave()) {
+        control("MfgCombo").setIndex(shownManufacturer_);
+        return;
+    }
+    const std::string chosen = control("MfgCombo").text();
+    std::optional<std::size_t> manufacturer;
+    for (std::size_t m = 0; m < index_.size() && !manufacturer; ++m)
+        if (entry(index_[m].mfgInfo.mfgName) == chosen) manufacturer = m;
+    fillSeries(manufacturer);
+    if (manufacturer && index_[*manufacturer].seriesInfo.size() == 1) {
+        control("SeriesCombo").setIndex(1);
+        openSeries({*manufacturer, 0});
+    } else if (!manufacturer && chosen == entry(text(Text::addToCatalogue))) {
+        // What has been dropped does not come back with the panel behind this one.
+        if (std::exchange(droppedChanges_, false) && place_)
+            takeSeries(*place_, readSeriesFile(seriesPath()));
+        editingSeriesInfo = false;
+        control("SelectMfgCombo").setIndex(0).setEnabled(true);
+        control("InsidePumpInfoPicture").setVisible(false);
+        showPanel(Panel::information);
+    } else {
+        closeSeries();
+    }
+    droppedChanges_ = false;
+    rememberSelection();
+}
+
+void frmHPEdit::SeriesCombo_Click() {
+    if (!askForSave()) {
+        control("SeriesCombo").setIndex(shownSeries_);
+        return;
+    }
+    droppedChanges_ = false;
+    const std::string chosen = control("SeriesCombo").text();
+    const std::string maker = control("MfgCombo").text();
+    for (std::size_t m = 0; m < index_.size(); ++m) {
+        if (entry(index_[m].mfgInfo.mfgName) != maker) continue;
+        for (std::size_t s = 0; s < index_[m].seriesInfo.size(); ++s)
+            if (entry(index_[m].seriesInfo[s].seriesName) == chosen) {
+                openSeries({m, s});
+                return rememberSelection();
+            }
+        break;
+    }
+    closeSeries();
+    rememberSelection();
+}
+
+/// Yes saves, No drops the changes. False when the command at hand must stop.
+bool frmHPEdit::askForSave() {
+    if (!changed_) return true;
+    switch (platform().question(Buttons::yesNoCancel, text(Text::saveChangesTitle),
+                                text(Text::savePumpsQuestion))) {
+        case Answer::yes:
+            SaveCommand_Click();
+            return !changed_;
+        case Answer::no:
+            droppedChanges_ = true;
+            setChanged(false);
+            return true;
+        default:
+            return false;
+    }
+}
+
+const PumpManufacturerInfo& frmHPEdit::selectedManufacturer() const {
+    return index_[place_->manufacturer].mfgInfo;
+}
+
+const PumpSeriesInfo& frmHPEdit::selectedSeries() const {
+    return index_[place_->manufacturer].seriesInfo[place_->series];
+}
+
+std::string frmHPEdit::seriesPath() const {
+    return pumpSeriesPath(joinPath(main().MainDirectory, "pumps"), selectedSeries().FileName);
+}
+
+/// Reads the file of a series; what there is of it comes into memory.
+void frmHPEdit::openSeries(const SeriesPlace& place) {
+    place_ = place;
+    pumpInfoFrameMode.clear();
+    editingSeriesInfo = false;
+    SeriesFile file = readSeriesFile(seriesPath());
+    const int error = file.error;
+    const bool missing = !file.bytes && error == 0;
+    takeSeries(place, std::move(file));
+    showPanel(document_.pumps.empty() ? Panel::nothing : Panel::data);
+    if (missing)
+        show(MessageIcon::exclamation, text(Text::pumpDataMissing) + "\r\r" + seriesPath());
+    else if (error == 53 || error == 62)
+        show(MessageIcon::exclamation, RunTimeError(error).message());
+}
+
+void frmHPEdit::takeSeries(const SeriesPlace& place, SeriesFile file) {
+    place_ = place;
+    document_.pumps.assign(file.series.models.begin(), file.series.models.end());
+    file.series = {};
+    file_ = std::move(file);
+    recalculationNeeded = false;
+    setChanged(false);
+    savedStale_.clear();
+    listPumps(document_.pumps.empty() ? -1 : 0);
+    startHistory();
+}
+
+void frmHPEdit::closeSeries() {
+    place_.reset();
+    editingSeriesInfo = false;
+    document_.pumps.clear();
+    file_ = {};
+    pumpInfoFrameMode.clear();
+    setChanged(false);
+    savedStale_.clear();
+    listPumps(-1);
+    showPanel(Panel::nothing);
+    startHistory();
+}
+
+PumpSeries frmHPEdit::seriesToWrite() const {
+    PumpSeries series{selectedSeries(), selectedManufacturer(), {}};
+    for (const Shared<pump>& model : document_.pumps) series.models.push_back(*model);
+    return series;
+}
+
+/// A file that is not as it was read, or not all of which was read, goes only when the user says
+/// so.
+bool frmHPEdit::mayReplaceFile() {
+    const int question = file_.error != 0                        ? Text::damagedFileReplaced
+                         : holdsOther(seriesPath(), file_.bytes) ? Text::seriesFileChanged
+                                                                 : 0;
+    return question == 0 ||
+           platform().question(Buttons::yesNo, text(Text::replaceFileTitle),
+                               filledIn(text(question), {seriesPath()})) == Answer::yes;
+}
+
+bool frmHPEdit::attemptToWrite(const std::string& path, const std::function<void()>& write) {
+    try {
+        write();
+    } catch (const RunTimeError& error) {
+        show(MessageIcon::exclamation,
+             text(Text::pumpsNotWritten) + "\n\n" + path + "\n\n" + error.message());
+        return false;
+    }
+    return true;
+}
+
+void frmHPEdit::SaveCommand_Click() {
+    if (!place_) return;
+    const std::string& FileName = selectedSeries().FileName;
+    if (!staysInFolder(FileName))
+        return show(MessageIcon::exclamation, filledIn(text(Text::fileNameUnusable), {FileName}));
+    if (!mayReplaceFile()) return;
+    std::string bytes = pumpSeriesText(seriesToWrite());
+    if (!attemptToWrite(seriesPath(), [&] { replaceWholeFile(seriesPath(), bytes); })) return;
+    file_ = {{}, std::move(bytes), 0};
+    setChanged(false);
+    markSaved();
+    for (const Shared<pump>& model : document_.pumps)
+        if (staleCurves(*model).any()) savedStale_.push_back(model->name);
+    catalogueWritten_();
+}
+
+bool frmHPEdit::writeIndex(const CatalogueIndex& index) {
+    const std::string pumps = joinPath(main().MainDirectory, "pumps");
+    const std::string path = pumpIndexPath(pumps);
+    if (!damagedIndex_.empty() &&
+        platform().question(Buttons::yesNo, text(Text::replaceFileTitle),
+                            filledIn(text(Text::damagedFileReplaced), {path})) != Answer::yes)
+        return false;
+    if (!attemptToWrite(path, [&] { WritePumpList(pumps, index); })) return false;
+    damagedIndex_.clear();
+    return true;
+}
+
+}  // namespace varnholt

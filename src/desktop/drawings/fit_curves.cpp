@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/drawings/fit_curves.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "basis/number_text.h"
+#include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
+
+namespace varnholt {
+namespace {
+
+QList<QPointF> pointsOf(const std::vector<FitPoint>& from) {
+    QList<QPointF> points;
+    for (const FitPoint& point : from) points << QPointF(point.x, point.y);
+    return points;
+}
+
+/// What the axes of a chart have to hold.
+struct Extent {
+    QPointF least, most;
+    bool any = false;
+
+    void take(const QList<QPointF>& points) {
+        for (const QPointF& point : points) {
+            least = any ? QPointF(std::min(least.x(), point.x()), std::min(least.y(), point.y()))
+                        : point;
+            most =
+                any ? QPointF(std::max(most.x(), point.x()), std::max(most.y(), point.y())) : point;
+            any = true;
+        }
+    }
+};
+
+/// The values' axis; factors that are all alike still need some room.
+ChartAxis axisOfValues(const Extent& extent, bool fromZero) {
+    if (fromZero && extent.least.y() >= 0) return axisFromZero(extent.most.y());
+    const double room = std::max(0.0, 0.02 - (extent.most.y() - extent.least.y())) / 2;
+    return axisAround(extent.least.y() - room, extent.most.y() + room);
+}
+
+ChartPicture chartOf(const ByMode<CurvePicture>& curves, const QString& across, const QString& up,
+                     bool fromZero) {
+    using Sign = ChartSeries::Sign;
+    ChartPicture chart;
+    Extent extent;
+    const auto draw = [&](Sign sign, Mode mode, const QList<QPointF>& points) {
+        extent.take(points);
+        chart.series.push_back({sign, mode, points});
+    };
+    for (const Mode mode : modes) {
+        const CurvePicture& curve = curves[mode];
+        const QList<QPointF> none, line = pointsOf(curve.line);
+        draw(Sign::thinLine, mode, curve.stale ? none : pointsOf(curve.secondLine));
+        draw(Sign::line, mode, curve.stale ? none : line);
+        draw(Sign::staleLine, mode, curve.stale ? line : none);
+        draw(Sign::secondMeasured, mode, pointsOf(curve.secondMeasured));
+        draw(Sign::measured, mode, pointsOf(curve.measured));
+        draw(Sign::design, mode,
+             curve.operating ? QList<QPointF>{{curve.operating->x, curve.operating->y}} : none);
+    }
+    chart.across = axisAround(extent.least.x(), extent.most.x());
+    chart.across.title = across;
+    chart.up = axisOfValues(extent, fromZero);
+    chart.up.title = up;
+    return chart;
+}
+
+/// Greatest distance of the drawn curve from its points, in percent of theirs.
+double distance(const CurvePicture& curve) {
+    double greatest = 0;
+    for (const FitPoint& point : curve.measured)
+        for (std::size_t i = 1; i < curve.line.size(); ++i) {
+            const FitPoint &a = curve.line[i - 1], &b = curve.line[i];
+            if (point.x < a.x || point.x > b.x || b.x == a.x || point.y == 0) continue;
+            const double value = a.y + (b.y - a.y) * (point.x - a.x) / (b.x - a.x);
+            greatest = std::max(greatest, std::fabs(value / point.y - 1) * 100);
+        }
+    return greatest;
+}
+
+}  // namespace
+
+FitCurves::FitCurves(Source picture, const Texts& texts, ChartModuleFinder charts)
+    : ChartDrawing(texts, std::move(charts), QBoxLayout::TopToBottom),
+      source_(std::move(picture)) {}
+
+bool FitCurves::take() {
+    const FitCurvesPicture before = std::exchange(picture_, source_());
+    return picture_ != before;
+}
+
+std::vector<ChartPicture> FitCurves::pictures() const {
+    const FitPicture& curves = picture_.curves;
+    const QString across = qt(picture_.across);
+    return {chartOf(curves.capacity, across, qt(picture_.capacity), curves.fromZero),
+            chartOf(curves.power, across, qt(picture_.power), curves.fromZero)};
+}
+
+std::vector<LegendRow::Entry> FitCurves::legend() const {
+    const FitPicture& curves = picture_.curves;
+    const auto any = [&](const auto& has) {
+        for (const ByMode<CurvePicture>* pictures : {&curves.capacity, &curves.power})
+            for (const CurvePicture& curve : *pictures)
+                if (has(curve)) return true;
+        return false;
+    };
+    const auto drawn = [&](Mode mode) {
+        return !curves.capacity[mode].line.empty() || !curves.power[mode].line.empty();
+    };
+    std::vector<LegendRow::Entry> entries;
+    if (drawn(cooling))
+        entries.push_back({LegendRow::Sign::coolingLine, qt(texts().text(Text::cooling))});
+    if (drawn(heating))
+        entries.push_back({LegendRow::Sign::heatingLine, qt(texts().text(Text::heating))});
+    if (any([](const CurvePicture& curve) { return !curve.measured.empty(); }))
+        entries.push_back({LegendRow::Sign::measured, qt(texts().text(Text::pumpCurvesCatalogue))});
+    if (any([](const CurvePicture& curve) { return !curve.secondMeasured.empty(); }))
+        entries.push_back({LegendRow::Sign::second, qt(texts().text(Text::secondFlowLegend))});
+    if (any([](const CurvePicture& curve) { return curve.operating.has_value(); }))
+        entries.push_back({LegendRow::Sign::design, qt(texts().text(Text::testedLegend))});
+    if (any([](const CurvePicture& curve) { return curve.stale; }))
+        entries.push_back({LegendRow::Sign::staleLine, qt(texts().text(Text::staleLegend))});
+    return entries;
+}
+
+QString FitCurves::emptyHint() const {
+    return picture_.curves.empty() ? qt(texts().text(picture_.emptyText)) : QString();
+}
+
+QString FitCurves::description() const {
+    if (picture_.curves.empty()) return emptyHint();
+    constexpr ByMode<int> capacityNames{Text::coolingCapacityCurve, Text::heatingCapacityCurve},
+        powerNames{Text::coolingPowerCurve, Text::heatingPowerCurve};
+    const auto figure = [](double value) { return qt(formatNumber(value, "###0.0#")); };
+    QString told;
+    const auto tell = [&](const CurvePicture& curve, int name) {
+        const QString words = qt(texts().text(name));
+        if (curve.operating)
+            told += qt(texts().text(Text::curveTested))
+                        .arg(words, figure(curve.operating->y), figure(curve.operating->x)) +
+                    u' ';
+        else if (curve.stale)
+            told += qt(texts().text(Text::curveStale)).arg(words) + u' ';
+        else if (!curve.measured.empty())
+            told +=
+                qt(texts().text(Text::curveMet))
+                    .arg(words, QString::number(curve.measured.size()), figure(distance(curve))) +
+                u' ';
+    };
+    for (const Mode mode : modes) {
+        tell(picture_.curves.capacity[mode], capacityNames[mode]);
+        tell(picture_.curves.power[mode], powerNames[mode]);
+    }
+    return told.trimmed();
+}
+
+}  // namespace varnholt

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The window of a horizontal design: results with the cooling tower, and six pages of inputs.
+#include <QTabWidget>
+
+#include "design/frmHZDesign.h"
+#include "desktop/drawings/drawings.h"
+#include "desktop/views/design_pages.h"
+#include "desktop/views/view_pieces.h"
+#include "desktop/views/views.h"
+
+namespace varnholt {
+namespace {
+
+/// What a drawing asks the design for; nothing once the design is gone.
+template <class Model>
+std::function<Model()> sourceOf(Binder& bind, Model (frmHZDesign::*model)() const) {
+    return [&bind, model] {
+        const auto* design = static_cast<const frmHZDesign*>(bind.form());
+        return design == nullptr ? Model() : (design->*model)();
+    };
+}
+
+QWidget* resultsPage(Binder& bind) {
+    const std::vector<FieldRows> parts{
+        {bind.results("CATotalPipeLengthLabel"), bind.results("CATotalLengthLabel"),
+         bind.results("CATrenchLengthLabel"), bind.results("CATrenchNumberLabel"),
+         bind.results("CAPipeLengthPerTrenchLabel")},
+        unitTemperatures(bind),
+        systemPerformance(bind),
+        {bind.results("CAFlowRateLabel"), bind.results("CASoilTempChangeLabel")}};
+    return row_(grow(resultsPanel(bind, parts)), grow(towerPanel(bind)));
+}
+
+QWidget* trenchSoilPage(Binder& bind) {
+    Drawing* chart =
+        newGroundTempChart(sourceOf(bind, &frmHZDesign::groundTempCurves), bind.form()->texts());
+    QWidget* fields =
+        column(groundTempPanel(bind), soilPropertiesPanel(bind), groundSwingPanel(bind));
+    return column(group(bind.frame("SOSoilFrame"),
+                        grow(row_(fields, gap(), grow(bind.drawing("imgGroundTemp", chart))))));
+}
+
+QWidget* trenchPipePage(Binder& bind) {
+    return column(group(bind.frame("PIPipeFrame"), pipePanel(bind)));
+}
+
+QWidget* trenchFields(Binder& bind) {
+    FieldRow number = bind.row("PASeparationText(3)");
+    number.unit = bind.widget("PAConfigurationUpDown(0)");
+    return group(bind.frame("PATrenchFrame"),
+                 grid(number, bind.row("PASeparationText(0)"), bind.row("PASeparationText(1)"),
+                      bind.row("PASeparationText(2)")));
+}
+
+/// As wide as any number of pipes, so that the page does not move when it changes.
+QWidget* pipeCount(Binder& bind) {
+    QWidget* count = bind.widget("PAInTrenchConfigurationLabel(3)");
+    count->setMinimumWidth(count->fontMetrics().horizontalAdvance(QStringLiteral("000")));
+    return count;
+}
+
+/// The number of pipes stands where a slinky has its pitch.
+QWidget* pipeFields(Binder& bind) {
+    return group(
+        bind.frame("PAInTrenchFrame"),
+        column(bind.widget("PAConfigurationOption(0)"), bind.widget("PAConfigurationOption(1)"),
+               bind.widget("PAConfigurationOption(2)"), bind.widget("PAConfigurationOption(3)"),
+               bind.widget("PAConfigurationOption(4)")),
+        grid(bind.row("PAInTrenchConfigurationText(0)",
+                      {pipeCount(bind), bind.widget("PAConfigurationUpDown(1)")}),
+             bind.row("PAInTrenchConfigurationText(1)"),
+             bind.row("PAInTrenchConfigurationText(2)")),
+        bind.widget("PAOffsetCheck"));
+}
+
+/// The pictures of all arrangements; the form shows the one of the chosen.
+QWidget* pictures(Binder& bind) {
+    const Texts& texts = bind.form()->texts();
+    std::vector<Piece> pieces;
+    for (const std::size_t i : {0, 1, 2})
+        pieces.push_back(
+            grow(bind.drawing(elementName("PADiagramPicture", i),
+                              newTrenchDrawing(sourceOf(bind, &frmHZDesign::trenchDrawing), texts)),
+                 3));
+    for (const std::size_t i : {0, 1, 2, 3, 4})
+        pieces.push_back(grow(
+            bind.drawing(elementName("imgConfiguration", i),
+                         newTrenchPlanDrawing(sourceOf(bind, &frmHZDesign::trenchPlan), texts)),
+            2));
+    return columnOf(pieces);
+}
+
+QWidget* configurationPage(Binder& bind) {
+    return column(
+        group(bind.frame("PAFieldFrame"),
+              grow(row_(column(trenchFields(bind), pipeFields(bind),
+                               group(bind.frame("PATimeFrame"), grid(bind.row("PATimeText")))),
+                        gap(), grow(pictures(bind))))));
+}
+
+}  // namespace
+
+QWidget* makeHorizontalView(Binder& bind) {
+    QWidget* pages = bind.tabs("HZTabs", {[&bind] { return page(resultsPage(bind)); },
+                                          [&bind] { return page(fluidPage(bind)); },
+                                          [&bind] { return page(trenchSoilPage(bind)); },
+                                          [&bind] { return page(trenchPipePage(bind)); },
+                                          [&bind] { return page(configurationPage(bind)); },
+                                          [&bind] { return page(extraPowerPage(bind)); },
+                                          [&bind] { return page(informationPage(bind)); }});
+    return designWindow(bind, pages);
+}
+
+}  // namespace varnholt

@@ -1,0 +1,298 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Tables of measured data with their curves: figures at the left, pictures at the right.
+#include "desktop/views/pump_editor_pages.h"
+
+#include <QLabel>
+
+#include "catalogue/editor/editor_names.h"
+#include "catalogue/editor/frmHPEdit.h"
+#include "desktop/drawings/drawings.h"
+#include "desktop/views/loads_pieces.h"
+#include "desktop/views/view_pieces.h"
+#include "desktop/widgets/text_label.h"
+#include "forms/text_numbers.h"
+
+namespace varnholt {
+namespace {
+
+constexpr int figuresInTable = 7;
+constexpr int figuresOfTerm = 11;
+
+const frmHPEdit* editorOf(const Binder& bind) { return static_cast<const frmHPEdit*>(bind.form()); }
+
+QWidget* narrow(QWidget* field, int figures) {
+    field->setFont(figureFont(field->font()));
+    static_cast<FieldEdit*>(field)->setFigures(figures);
+    return field;
+}
+
+QWidget* tableField(Binder& bind, const std::string& name, Mode mode) {
+    bind.mark(name, mode);
+    return narrow(bind.widget(name), figuresInTable);
+}
+
+QLabel* atRight(QWidget* label) {
+    auto* text = static_cast<QLabel*>(label);
+    text->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return text;
+}
+
+QWidget* head(Binder& bind, const std::string& name) {
+    QLabel* label = atRight(bind.widget(name));
+    QFont font = label->font();
+    font.setWeight(QFont::DemiBold);
+    label->setFont(font);
+    return label;
+}
+
+QWidget* unit(Binder& bind, const std::string& name) {
+    QLabel* label = atRight(bind.widget(name));
+    mute(label);
+    return label;
+}
+
+QWidget* figure(Binder& bind, const std::string& name) {
+    constexpr int room = 5 * gridStep;
+    QLabel* label = atRight(bind.widget(name));
+    label->setFont(figureFont(label->font()));
+    label->setMinimumWidth(room);
+    return label;
+}
+
+QWidget* nothing() { return new QWidget; }
+
+/// A table without captions, which need not stand behind those of what follows it.
+QWidget* atLeft(QWidget* table) { return row_(table, stretch()); }
+
+FieldRow tableRow(std::vector<QWidget*> cells) {
+    FieldRow row;
+    row.fields = std::move(cells);
+    return row;
+}
+
+QWidget* ratingTable(Binder& bind, Mode mode) {
+    const std::string prefix = prefixOf(mode);
+    FieldRow heads = tableRow({head(bind, elementName("EWTLabel", mode))});
+    FieldRow units = tableRow({unit(bind, prefix + "EWTUnitLabel")});
+    for (std::size_t flow = 0; flow < 2; ++flow)
+        for (const std::string word : {"Capacity", "Power", "COP"}) {
+            const bool COP = word == "COP";
+            const std::string column = ratingColumn(mode, flow, word);
+            heads.fields.push_back(head(bind, column + (COP ? "HeadLabel" : "Label")));
+            units.fields.push_back(COP ? nothing() : unit(bind, column + "UnitLabel"));
+        }
+    std::vector<FieldRow> rows{heads, units};
+    for (std::size_t i = 0; i < ratingPoints; ++i) {
+        FieldRow row = tableRow({tableField(bind, elementName(prefix + "EWTText", i), mode)});
+        for (std::size_t flow = 0; flow < 2; ++flow) {
+            for (const FittedQuantity quantity : fittedQuantities)
+                row.fields.push_back(tableField(bind, ratingField(mode, flow, quantity, i), mode));
+            row.fields.push_back(
+                figure(bind, elementName(ratingColumn(mode, flow, "COP") + "Label", i)));
+        }
+        rows.push_back(row);
+    }
+    return gridOf(rows);
+}
+
+QWidget* flowPair(Binder& bind, Mode mode) {
+    const std::string field = prefixOf(mode) + "FlowRateText";
+    return row_(grid(bind.row(elementName(field, 0))), gap(), grid(bind.row(elementName(field, 1))),
+                stretch());
+}
+
+QWidget* fitNote(Binder& bind, const std::string& name) {
+    auto* label = static_cast<QLabel*>(bind.widget(name));
+    QFont font = label->font();
+    font.setPointSizeF(font.pointSizeF() * 0.9);
+    label->setFont(font);
+    return label;
+}
+
+/// The terms of one curve, and below them how the curve fits.
+void addCurve(std::vector<FieldRow>& rows, Binder& bind, const std::string& stem,
+              const std::string& index, std::size_t first, std::size_t terms, Mode mode) {
+    FieldRow row;
+    row.caption = bind.widget(curveLabel(stem, "Curve", index));
+    bind.mark(curveLabel(stem, "Curve", index), mode);
+    for (std::size_t k = 0; k < terms; ++k)
+        row.fields.push_back(
+            narrow(bind.widget(elementName(stem + "Text", first + k)), figuresOfTerm));
+    rows.push_back(row);
+    QWidget* fit = fitNote(bind, curveLabel(stem, "Fit", index));
+    mute(fit);
+    rows.push_back(bind.wide(row_(fit, fitNote(bind, curveLabel(stem, "Turn", index)), stretch())));
+}
+
+FieldRow termHeads(Binder& bind, const std::string& array, std::size_t first, std::size_t terms) {
+    FieldRow heads;
+    for (std::size_t k = 0; k < terms; ++k)
+        heads.fields.push_back(head(bind, elementName(array, first + k)));
+    return heads;
+}
+
+QWidget* ratingCurves(Binder& bind, Mode mode) {
+    const std::string prefix = prefixOf(mode);
+    std::vector<FieldRow> rows{termHeads(bind, prefix + "CoefficientLabel", 0, 3)};
+    for (const FittedQuantity quantity : fittedQuantities)
+        addCurve(rows, bind, ratingStem(mode, quantity), {}, 0, 3, mode);
+    FieldRow factors;
+    factors.caption = bind.widget(prefix + "FlowFactorLabel");
+    for (const FittedQuantity quantity : fittedQuantities)
+        factors.fields.push_back(
+            narrow(bind.widget(elementName(prefix + "FlowFactorText", quantity)), figuresOfTerm));
+    rows.push_back(factors);
+    return group(bind.frame(prefix + "CoefficientsFrame"), gridOf(rows),
+                 buttons(bind.widget(elementName("CalculateCoefficientsCommand", mode))));
+}
+
+/// Titles of the axes in the units shown.
+FitCurvesPicture titled(const Binder& bind, FitPicture curves, const std::string& across,
+                        const std::string& acrossUnit, bool factors, int emptyText) {
+    FitCurvesPicture picture;
+    picture.curves = std::move(curves);
+    picture.emptyText = emptyText;
+    const auto with = [](const std::string& words, const std::string& unit) {
+        return unit.empty() ? words : words + " (" + unit + ")";
+    };
+    const bool metric = editorOf(bind)->units() == UnitSystem::metric;
+    picture.across = with(across, acrossUnit);
+    picture.capacity = factors ? bind.text(Text::capacityFactor)
+                               : with(bind.text(Text::ratedCapacity),
+                                      withoutBrackets(bind.text(metric ? Text::loadUnitsMetric
+                                                                       : Text::loadUnitsEnglish)));
+    picture.power = factors ? bind.text(Text::powerFactor)
+                            : with(bind.text(Text::ratedPower),
+                                   withoutBrackets(bind.text(Text::loadUnitsMetric)));
+    return picture;
+}
+
+std::string degrees(const Binder& bind) {
+    return editorOf(bind)->units() == UnitSystem::metric ? bind.text(Text::temperatureUnitsMetric)
+                                                         : bind.text(Text::temperatureUnitsEnglish);
+}
+
+/// A picture of the pump on show, by what the form gives for it.
+QWidget* curves(Binder& bind, const std::string& image,
+                const std::function<FitCurvesPicture(const frmHPEdit&)>& picture) {
+    Drawing* drawing = newFitCurves(
+        [&bind, picture] {
+            const frmHPEdit* editor = editorOf(bind);
+            return editor == nullptr ? FitCurvesPicture() : picture(*editor);
+        },
+        bind.form()->texts());
+    return bind.drawing(image, drawing);
+}
+
+QWidget* correctionTable(Binder& bind, CorrectionKind kind) {
+    const bool temperature = kind == byTemperature;
+    FieldRow titles, heads, units;
+    for (const Mode mode : modes) {
+        const std::string prefix = prefixOf(mode);
+        const std::string title = elementName(prefix + "CorrectionsLabel", kind);
+        titles.fields.push_back(head(bind, title));
+        bind.mark(title, mode);
+        heads.fields.push_back(
+            head(bind, elementName(temperature ? "ELTLabel" : "PercentNominalLabel", mode)));
+        units.fields.push_back(temperature ? unit(bind, prefix + "ELTUnitLabel") : nothing());
+        for (const FittedQuantity quantity : fittedQuantities) {
+            titles.fields.push_back(nothing());
+            heads.fields.push_back(
+                head(bind, elementName(prefix + wordOf(quantity) + "FactorHeadLabel", kind)));
+            units.fields.push_back(nothing());
+        }
+        for (FieldRow* row : {&titles, &heads, &units}) row->fields.push_back(nothing());
+    }
+    std::vector<FieldRow> rows{titles, heads};
+    if (temperature) rows.push_back(units);
+    for (std::size_t r = 0; r < mostFitPoints; ++r) {
+        FieldRow row;
+        for (const Mode mode : modes) {
+            row.fields.push_back(tableField(bind, placeField(kind, mode, r), mode));
+            for (const FittedQuantity quantity : fittedQuantities)
+                row.fields.push_back(tableField(bind, factorField(kind, mode, quantity, r), mode));
+            row.fields.push_back(r < firstZeroRow ? nothing()
+                                                  : bind.widget(elementName(
+                                                        "cmdZeroZap", zeroButton(kind, mode, r))));
+        }
+        rows.push_back(row);
+    }
+    return gridOf(rows);
+}
+
+QWidget* correctionCurves(Binder& bind, CorrectionKind kind) {
+    std::vector<FieldRow> rows{
+        termHeads(bind, "CorrectionsCoefficientLabel", kind * mostTerms, mostTerms)};
+    for (const Mode mode : modes)
+        for (const FittedQuantity quantity : fittedQuantities)
+            addCurve(rows, bind, correctionStem(mode, quantity), "(" + std::to_string(kind) + ")",
+                     kind * mostTerms, mostTerms, mode);
+    return group(bind.frame(elementName("CorrectionsCoefficientsFrame", kind)), gridOf(rows),
+                 buttons(bind.widget(elementName("CoefficientsCalculateCommand", kind))));
+}
+
+}  // namespace
+
+QWidget* pumpDetailsPage(Binder& bind) {
+    FieldRow type;
+    type.caption = bind.widget("PumpTypeLabel");
+    type.fields = {buttons(bind.widget("PumpTypeOption(0)"), bind.widget("PumpTypeOption(1)"))};
+    QWidget* chart = curves(bind, "PumpChart", [&bind](const frmHPEdit& editor) {
+        return titled(bind, editor.bothRatings(), bind.text(Text::enteringWater), degrees(bind),
+                      false, Text::nothingMeasured);
+    });
+    return group(bind.frame(pageFrames[0]),
+                 grow(row_(grid(bind.row("PumpModelText"), type), gap(), grow(chart))));
+}
+
+QWidget* ratingPageOf(Binder& bind, Mode mode) {
+    QWidget* chart =
+        curves(bind, prefixOf(mode) + "RatingChart", [&bind, mode](const frmHPEdit& editor) {
+            return titled(bind, editor.rating(mode), bind.text(Text::enteringWater), degrees(bind),
+                          false, Text::nothingMeasured);
+        });
+    QWidget* figures =
+        column(flowPair(bind, mode), atLeft(ratingTable(bind, mode)),
+               buttons(bind.widget(elementName("CopyTableCommand", ratingPage[mode]))),
+               ratingCurves(bind, mode));
+    return group(bind.frame(pageFrames[ratingPage[mode]]), grow(row_(figures, gap(), grow(chart))));
+}
+
+QWidget* correctionPageOf(Binder& bind, CorrectionKind kind) {
+    const std::size_t page = correctionPage[kind];
+    QWidget* chart =
+        curves(bind, elementName("CorrectionsChart", kind), [&bind, kind](const frmHPEdit& editor) {
+            const bool temperature = kind == byTemperature;
+            return titled(
+                bind, editor.corrections(kind),
+                bind.text(temperature ? Text::loadTemperatureAxis : Text::loadPercentAxis),
+                temperature ? degrees(bind) : std::string(), true, Text::nothingMeasured);
+        });
+    QWidget* nominal = kind == byFlow ? grid([&bind] {
+        FieldRow row = bind.row("NominalFlowText");
+        row.unit = bind.widget("NominalFlowRateLabel");
+        return row;
+    }())
+                                      : nullptr;
+    QWidget* figures = column(nominal, atLeft(correctionTable(bind, kind)),
+                              buttons(bind.widget(elementName("CopyTableCommand", page))),
+                              correctionCurves(bind, kind));
+    return group(bind.frame(pageFrames[page]), grow(row_(figures, gap(), grow(chart))));
+}
+
+QWidget* pumpTestPage(Binder& bind) {
+    QWidget* chart = curves(bind, "TestChart", [&bind](const frmHPEdit& editor) {
+        return titled(bind, editor.tested(), bind.text(Text::enteringWater), degrees(bind), false,
+                      Text::nothingToTest);
+    });
+    QWidget* inputs = grid(bind.heads("TestModeLabel(0)", "TestModeLabel(1)"),
+                           bind.pair("TestSourceEWTText"), bind.pair("TestSourceFlowText"),
+                           bind.pair("TestLoadELTText"), bind.pair("TestLoadFlowText"));
+    QWidget* results = grid(bind.results("TestCapacityLabel"), bind.results("TestPowerLabel"),
+                            bind.results("TestCOPLabel"));
+    return group(bind.frame(pageFrames[5]),
+                 grow(row_(column(inputs, buttons(bind.primary("TestCommand")), results), gap(),
+                           grow(chart))));
+}
+
+}  // namespace varnholt

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The window of a surface water design: results with the circuit, and six pages of inputs.
+#include <QTabWidget>
+
+#include "design/frmSWDesign.h"
+#include "desktop/drawings/drawings.h"
+#include "desktop/views/design_pages.h"
+#include "desktop/views/view_pieces.h"
+#include "desktop/views/views.h"
+
+namespace varnholt {
+namespace {
+
+/// What a drawing asks the design for; nothing once the design is gone.
+template <class Model>
+std::function<Model()> sourceOf(Binder& bind, Model (frmSWDesign::*model)() const) {
+    return [&bind, model] {
+        const auto* design = static_cast<const frmSWDesign*>(bind.form());
+        return design == nullptr ? Model() : (design->*model)();
+    };
+}
+
+Drawing* circuit(Binder& bind, const QSize& usual) {
+    return newCircuitDrawing(sourceOf(bind, &frmSWDesign::circuitPlan), bind.form()->texts(),
+                             usual);
+}
+
+QWidget* resultsPage(Binder& bind) {
+    const std::vector<FieldRows> parts{
+        {bind.results("CALoopLengthLabel"), bind.results("CALoopNumberLabel"),
+         bind.results("CAMaxParallelLoopNumberLabel"), bind.results("CAApproachTempLabel")},
+        {bind.results("CACircuitFlowRateLabel"), bind.results("CAPrimaryHeaderFlowRateLabel"),
+         bind.results("CABranchHeaderFlowRateLabel")},
+        {bind.results("CALoopLossLabel"), bind.results("CAHeaderLossLabel"),
+         bind.results("CATotalLossLabel")},
+        unitTemperatures(bind),
+        systemPerformance(bind),
+        {bind.results("CAFlowRateLabel")}};
+    return row_(grow(resultsPanel(bind, parts), 4),
+                grow(group(bind.frame("CACircuitFrame"),
+                           grow(bind.drawing("imgCircuit", circuit(bind, {440, 320})))),
+                     5));
+}
+
+QWidget* headersInSoil(Binder& bind) {
+    return group(bind.frame("SOHeaderFrame"),
+                 grid(bind.row("SOSoilTypeCombo"), bind.row("SOHeaderDepthText")));
+}
+
+QWidget* waterSoilPage(Binder& bind) {
+    Drawing* chart =
+        newGroundTempChart(sourceOf(bind, &frmSWDesign::groundTempCurves), bind.form()->texts());
+    QWidget* fields = column(groundTempPanel(bind), headersInSoil(bind),
+                             groundSwingPanel(bind, {bind.pair("SOCorrectedTempText")}));
+    return column(group(bind.frame("SOSoilFrame"),
+                        grow(row_(fields, gap(), grow(bind.drawing("imgGroundTemp", chart))))));
+}
+
+QWidget* loopFields(Binder& bind) {
+    for (const Mode mode : modes) {
+        bind.mark(elementName("PIParallelLoopsText", mode), mode);
+        bind.mark(elementName("PILoopHeadLossText", mode), mode);
+    }
+    Drawing* chart = newLoopChart(sourceOf(bind, &frmSWDesign::loopCurves), bind.form()->texts());
+    return group(bind.frame("PILoopPipeFrame"), bind.widget("PILoopStyleLabel"),
+                 buttons(bind.widget("PICoilOption"), bind.widget("PISlinkyOption")),
+                 grid(bind.row("PILoopPipeSizeCombo"), bind.row("PIExtraEqvLengthText"),
+                      bind.wide(bind.widget("PIParallelLoopsLabel")),
+                      bind.row("PIParallelLoopsText(0)"), bind.row("PIParallelLoopsText(1)")),
+                 group(bind.frame("PIHeadLossFrame"),
+                       grid(bind.row("PILoopHeadLossText(0)"), bind.row("PILoopHeadLossText(1)"))),
+                 grow(bind.drawing("imgLoopCurves", chart)));
+}
+
+/// @param kind  0 main headers, 1 branches on each of them
+QWidget* headerFields(Binder& bind, const char* frame, std::size_t kind) {
+    return group(bind.frame(frame),
+                 grid(bind.row(elementName("PIHeaderNumberText", kind)),
+                      bind.row(elementName("PIHeaderPipeSizeCombo", kind)),
+                      bind.wide(bind.widget(elementName("PIHeaderLengthTitleLabel", kind))),
+                      bind.row(elementName("PIHeaderLengthText", 2 * kind)),
+                      bind.row(elementName("PIHeaderLengthText", 2 * kind + 1))));
+}
+
+QWidget* headerLosses(Binder& bind, std::size_t kind) {
+    FieldRows rows;
+    for (const Mode mode : modes) {
+        const std::string field = elementName("PIHeaderHeadLossText", 2 * kind + mode);
+        bind.mark(field, mode);
+        rows.push_back(bind.row(field));
+    }
+    return column(gridOf(rows));
+}
+
+QWidget* headersPanel(Binder& bind) {
+    return group(bind.frame("PIHeaderParametersFrame"),
+                 row_(grow(headerFields(bind, "PIPrimaryHeaderFrame", 0)), gap(),
+                      grow(headerFields(bind, "PIBranchHeaderFrame", 1))),
+                 group(bind.frame("PIHeaderHeadLossFrame"),
+                       row_(grow(headerLosses(bind, 0)), gap(), grow(headerLosses(bind, 1)))));
+}
+
+QWidget* pipingPage(Binder& bind) {
+    return column(
+        group(bind.frame("PIPipeParametersSSTab"),
+              grow(row_(grow(loopFields(bind), 2), gap(),
+                        grow(column(headersPanel(bind), buttons(bind.widget("PIPipeTablesCommand")),
+                                    grow(bind.drawing(circuit(bind, {440, 140})))),
+                             3)))));
+}
+
+QWidget* temperatures(Binder& bind, const char* frame, const char* array, std::size_t first) {
+    const std::string coolingField = elementName(array, first);
+    const std::string heatingField = elementName(array, first + 1);
+    bind.mark(coolingField, cooling).mark(heatingField, heating);
+    return group(bind.frame(frame), grid(bind.row(coolingField), bind.row(heatingField)));
+}
+
+QWidget* waterPage(Binder& bind) {
+    return column(group(
+        bind.frame("WAPropertiesFrame"), temperatures(bind, "WALoopTempFrame", "WALoopTempText", 0),
+        temperatures(bind, "WAPrimaryHeaderFrame", "WAHeaderTempText", 0),
+        temperatures(bind, "WABranchHeaderFrame", "WAHeaderTempText", 2),
+        group(bind.frame("WADetailsFrame"),
+              grid(bind.row("WASurfaceWaterTypeCombo"), bind.row("WASurfaceAreaText"),
+                   bind.row("WALoopPipeDepthText")))));
+}
+
+}  // namespace
+
+QWidget* makeSurfaceWaterView(Binder& bind) {
+    QWidget* pages = bind.tabs(
+        "SWTabs",
+        {[&bind] { return page(resultsPage(bind)); }, [&bind] { return page(fluidPage(bind)); },
+         [&bind] { return page(waterSoilPage(bind)); }, [&bind] { return page(pipingPage(bind)); },
+         [&bind] { return page(waterPage(bind)); }, [&bind] { return page(extraPowerPage(bind)); },
+         [&bind] { return page(informationPage(bind)); }});
+    return designWindow(bind, pages);
+}
+
+}  // namespace varnholt
