@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "forms/control.h"
+#include "forms/help_desk.h"
 #include "forms/numeric_field.h"
 #include "forms/platform.h"
 #include "forms/texts.h"
@@ -117,6 +118,13 @@ class Form {
     void endModal() { modalEnded_ = true; }
     bool modalEnded() const { return modalEnded_; }
 
+    /// Who explains the controls; null for nobody.
+    void setHelpDesk(HelpDesk* desk) { helpDesk_ = desk; }
+    /// The user asks what the control is; an empty name asks about the window. Changes nothing.
+    void help(const std::string& control);
+    /// What the help says of the control, in a few sentences.
+    std::string whatsThis(const std::string& control) const;
+
     void addObserver(FormObserver* observer);
     void removeObserver(FormObserver* observer);
 
@@ -183,6 +191,7 @@ class Form {
     std::vector<FormObserver*> observers_;
     int telling_ = 0;
     std::unique_ptr<Relay> relay_;
+    HelpDesk* helpDesk_ = nullptr;
     std::string visited_, gesture_;
     int gestures_ = 0;
     int depth_ = 0;

@@ -96,8 +96,23 @@ constexpr int copy = 1084;
 constexpr int paste = 1085;
 constexpr int selectAll = 1086;
 
+// The browser window.
+constexpr int browserTitle = 1087;
+constexpr int browserAddress = 1088;
+constexpr int browserWorking = 1089;
+constexpr int browserBack = 1090;
+constexpr int browserForward = 1091;
+constexpr int browserRefresh = 1092;
+constexpr int browserHome = 1093;
+constexpr int browserSearch = 1094;
+constexpr int browserStop = 1095;
+constexpr int browserErrorTitle = 1096;
+constexpr int browserErrorText = 1097;
+
 // The language itself.
+constexpr int tablesFolder = 1100;
 constexpr int languageFont = 1101;
+constexpr int tablesLanguageFolder = 1102;
 constexpr int reportFont = 1103;
 
 // Commands of the main window and their messages.
@@ -117,6 +132,29 @@ constexpr int linkAverageBlock = 1214;
 constexpr int linkSelect = 1215;
 constexpr int linkCancel = 1216;
 constexpr int projectFileFilter = 1220;
+
+// Lines in the browser window.
+constexpr int browserAddressRefused = 1391;
+constexpr int browserOpenedOutside = 1392;
+constexpr int browserPageTooLarge = 1393;
+constexpr int browserDownloadRefused = 1394;
+constexpr int browserWindowRefused = 1395;
+constexpr int browserCertificateRefused = 1396;
+
+// The help.
+constexpr int whatsThis = 1397;
+constexpr int whatsThisHint = 1398;
+constexpr int helpTitle = 1380;
+constexpr int helpContentsPane = 1381;
+constexpr int helpIndexPane = 1382;
+constexpr int helpSearchPane = 1383;
+constexpr int helpPrint = 1384;
+constexpr int helpLookFor = 1385;
+constexpr int helpFind = 1386;
+constexpr int helpNothingFound = 1387;
+constexpr int helpIndexing = 1388;
+constexpr int helpResults = 1389;
+constexpr int helpPageMissing = 1390;
 
 // Notices at the top of a window.
 constexpr int noticeOutOfDate = 1230;

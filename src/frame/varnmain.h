@@ -38,6 +38,9 @@ class Varnmain : public Form {
     /// Whether a subsystem has registered the command.
     bool hasCommand(const std::string& entry) const { return commands_.count(entry) > 0; }
 
+    /// Who explains the controls of every window from now on.
+    void explainBy(HelpDesk& desk);
+
     // Child windows.
     /// Runs the window's set-up, shows it and makes it the active one.
     void open(std::unique_ptr<ChildWindow> window);
@@ -113,6 +116,8 @@ class Varnmain : public Form {
     std::string TempDirectory;
     std::string FontFaceName;
     std::string helpFile;
+    /// The page of the help that was asked for last: "borehole.html#soil".
+    std::string HHTopicURL;
     /// File name chosen in the common dialog last.
     std::string commonDialogFile;
     bool openCall = false;
@@ -152,6 +157,7 @@ class Varnmain : public Form {
     void refreshUndo();
     ChildWindow& nextToClose() const;
 
+    HelpDesk* helpDesk_ = nullptr;
     std::map<std::string, Command> commands_;
     std::vector<std::unique_ptr<ChildWindow>> windows_;
     /// Closed in the midst of their own handlers: kept until those have ended and a window opens.

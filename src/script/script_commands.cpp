@@ -109,8 +109,8 @@ void ScriptCommands::key(std::string& rest) {
         workable(rest, {Kind::text, Kind::richText, Kind::combo, Kind::list, Kind::date,
                         Kind::slider, Kind::upDown, Kind::button, Kind::check, Kind::option});
     const std::string key = onlyWord(rest);
-    if (key != "Enter" && key != "Ctrl+V")
-        throw ScriptFault(fmt::format("{} is no key: Enter or Ctrl+V", key));
+    if (key != "Enter" && key != "Ctrl+V" && key != "F1")
+        throw ScriptFault(fmt::format("{} is no key: Enter, Ctrl+V or F1", key));
     driver_.key(target.form, target.control, key);
 }
 

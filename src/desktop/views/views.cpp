@@ -21,6 +21,7 @@ void registerViews(ViewRegistry& views) {
     views.registerView("frmDiffusivityCalc", makeDiffusivityView);
     views.registerView("frmPumpPowerCalc", makePumpPowerView);
     views.registerView("frmEqvHoursCalc", makeEqvHoursView);
+    views.registerView("frmBrowser", makeBrowserView);
 }
 
 }  // namespace varnholt

@@ -24,5 +24,6 @@ QWidget* makeTransferOptionsView(Binder& bind);
 QWidget* makeDiffusivityView(Binder& bind);
 QWidget* makePumpPowerView(Binder& bind);
 QWidget* makeEqvHoursView(Binder& bind);
+QWidget* makeBrowserView(Binder& bind);
 
 }  // namespace varnholt
