@@ -41,6 +41,10 @@ const char* describeRunTimeError(int number) {
 RunTimeError::RunTimeError(int number)
     : std::runtime_error(describeRunTimeError(number)), number_(number) {}
 
+RunTimeError::RunTimeError(int number, const std::string& path)
+    : std::runtime_error(fmt::format("{}: {}", describeRunTimeError(number), path)),
+      number_(number) {}
+
 std::string RunTimeError::message() const { return fmt::format("{} - {}", number_, what()); }
 
 double divide(double a, double b) {

@@ -13,6 +13,8 @@ namespace varnholt {
 class RunTimeError : public std::runtime_error {
  public:
     explicit RunTimeError(int number);
+    /// Of a file or folder, whose path ends the description.
+    RunTimeError(int number, const std::string& path);
 
     int number() const { return number_; }
     std::string description() const { return what(); }

@@ -280,7 +280,8 @@ void ScriptCommands::save(std::string& rest) {
         if (!report().save(path))
             throw ScriptFault(fmt::format("{} is no .pdf, .html or .csv", rest));
     } catch (const RunTimeError& error) {
-        throw ScriptFault(fmt::format("{} cannot be written: {}", rest, error.what()));
+        throw ScriptFault(
+            fmt::format("{} cannot be written: {}", rest, describeRunTimeError(error.number())));
     }
 }
 

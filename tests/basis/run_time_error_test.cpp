@@ -56,6 +56,7 @@ TEST(RunTimeErrors, AreToldByNumberAndDescription) {
     EXPECT_EQ(RunTimeError(9).message(), "9 - Subscript out of range");
     EXPECT_EQ(RunTimeError(13).message(), "13 - Type mismatch");
     EXPECT_EQ(RunTimeError(53).message(), "53 - File not found");
+    EXPECT_EQ(RunTimeError(75, "/a/b").message(), "75 - Path/File access error: /a/b");
     EXPECT_EQ(RunTimeError(62).message(), "62 - Input past end of file");
 }
 

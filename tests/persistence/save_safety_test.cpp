@@ -168,7 +168,7 @@ TEST_P(SavingLosesNothing, WithoutTheRightToWriteTheFolder) {
 TEST_P(SavingLosesNothing, WhereAFolderHasTheName) {
     std::filesystem::create_directory(folder / "school.vht");
     saveAs(d, "school.vht");
-    EXPECT_EQ(lastMessage(), "75 - Path/File access error");
+    EXPECT_EQ(lastMessage(), "75 - Path/File access error: " + folder / "school.vht");
     EXPECT_TRUE(std::filesystem::is_directory(folder / "school.vht"));
     EXPECT_FALSE(d.currentFileCheck);
 }

@@ -83,7 +83,7 @@ TEST_F(Saving, UnderItsOwnNameIsNoConflict) {
 TEST_F(Saving, ThatFailsIsToldAndChangesNoName) {
     frmBHDesign& d = newDesign();
     saveAs(d, "no such folder/school.vht");
-    EXPECT_EQ(lastMessage(), "76 - Path not found");
+    EXPECT_EQ(lastMessage(), "76 - Path not found: " + folder / "no such folder/school.vht");
     EXPECT_EQ(platform.messages.back().icon, MessageIcon::exclamation);
     EXPECT_FALSE(d.currentFileCheck);
     EXPECT_EQ(d.caption(), "Borehole Design Project #1");

@@ -7,6 +7,8 @@
 #include <ctime>
 
 #include "basis/system/descriptor.h"
+#include "basis/system/files.h"
+#include "basis/system/fingerprint.h"
 #include "basis/system/system_error.h"
 
 namespace varnholt {
@@ -20,32 +22,49 @@ std::int64_t inNanoseconds(const timespec& time) {
 }
 
 /// Nothing for a folder.
-std::optional<FileStamp> stampOf(const Descriptor& file) {
+std::optional<FileStamp> stampBehind(const Descriptor& file) {
     struct stat status {};
     if (!file.isOpen() || ::fstat(file.number(), &status) != 0 || S_ISDIR(status.st_mode))
         return std::nullopt;
-    timespec now{};
-    ::clock_gettime(CLOCK_REALTIME, &now);
-    const std::int64_t modified = inNanoseconds(status.st_mtim);
-    return FileStamp{status.st_dev, status.st_ino, status.st_size, modified,
-                     inNanoseconds(now) - modified > coarsestStep};
+    return stampOf(status);
 }
 
 }  // namespace
+
+FileStamp stampOf(const struct stat& status) {
+    timespec now{};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    const std::int64_t modified = inNanoseconds(status.st_mtim);
+    return {status.st_dev, status.st_ino, status.st_size, modified,
+            inNanoseconds(now) - modified > coarsestStep};
+}
 
 bool isUnchanged(const FileStamp& then, const FileStamp& now) {
     return then.settled && then.device == now.device && then.inode == now.inode &&
            then.size == now.size && then.modified == now.modified;
 }
 
+KnownFile knownFile(const FileStamp& stamp, std::string_view bytes) {
+    return {stamp, fingerprint(bytes)};
+}
+
+std::optional<FileStamp> changedStamp(const std::string& path, const KnownFile& known) {
+    const std::optional<FileStamp> now = DiskFiles().stamp(path);
+    if (!now || isUnchanged(known.stamp, *now)) return std::nullopt;
+    const bool looksSame = now->device == known.stamp.device && now->inode == known.stamp.inode &&
+                           now->size == known.stamp.size && now->modified == known.stamp.modified;
+    if (looksSame && fingerprint(readWholeFile(path)) == known.fingerprint) return std::nullopt;
+    return now;
+}
+
 std::optional<FileStamp> DiskFiles::stamp(const std::string& path) const {
-    return stampOf(openForReading(path));
+    return stampBehind(openForReading(path));
 }
 
 FileSource::Content DiskFiles::read(const std::string& path) const {
     const Descriptor file = openForReading(path);
     if (!file.isOpen()) throwFileError(errno, path);
-    const FileStamp stamp = stampOf(file).value_or(FileStamp{});
+    const FileStamp stamp = stampBehind(file).value_or(FileStamp{});
     return {readToEnd(file, path), stamp};
 }
 

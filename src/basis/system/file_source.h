@@ -4,6 +4,9 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
+
+struct stat;
 
 namespace varnholt {
 
@@ -18,8 +21,22 @@ struct FileStamp {
     bool settled = false;
 };
 
+/// Of what the system tells of a file.
+FileStamp stampOf(const struct stat& status);
+
 /// Whether a file, now of the stamp `now`, is sure to hold what it held when it had `then`.
 bool isUnchanged(const FileStamp& then, const FileStamp& now);
+
+/// A file as it was read or written last: by its stamp, and by what goes with its bytes, for
+/// changes that come so soon that no stamp shows them.
+struct KnownFile {
+    FileStamp stamp;
+    std::uint64_t fingerprint = 0;
+};
+
+KnownFile knownFile(const FileStamp& stamp, std::string_view bytes);
+/// The file's stamp where it is another one than the known; nothing where it is the same, or gone.
+std::optional<FileStamp> changedStamp(const std::string& path, const KnownFile& known);
 
 /// Where files are read from. A port, so that a test can see what is read.
 class FileSource {

@@ -1,44 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "basis/system/files.h"
 
-#include <fcntl.h>
-#include <fmt/format.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 
 #include "basis/system/descriptor.h"
 #include "basis/system/file_source.h"
-#include "basis/system/process.h"
 #include "basis/system/system_error.h"
 
 namespace varnholt {
-namespace {
 
 namespace fs = std::filesystem;
-
-bool writeAll(int descriptor, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR) continue;
-        if (written < 0) return false;
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-}
-
-std::string resolvedTarget(const std::string& path) {
-    std::error_code error;
-    if (!fs::is_symlink(path, error)) return path;
-    const fs::path target = fs::weakly_canonical(path, error);
-    return error ? path : target.string();
-}
-
-}  // namespace
 
 bool fileExists(const std::string& path) { return DiskFiles().stamp(path).has_value(); }
 
@@ -48,26 +23,6 @@ std::string readFileStart(const std::string& path, std::size_t most) {
     const Descriptor file = openForReading(path);
     if (!file.isOpen()) throwFileError(errno, path);
     return readToEnd(file, path, most);
-}
-
-void replaceWholeFile(const std::string& path, std::string_view bytes) {
-    const std::string target = resolvedTarget(path);
-    struct stat old {};
-    const bool replacing = ::stat(target.c_str(), &old) == 0;
-    // A file that may not be written is not replaced, though its folder would allow it.
-    if (replacing && (S_ISDIR(old.st_mode) || ::access(target.c_str(), W_OK) != 0))
-        throwFileError(S_ISDIR(old.st_mode) ? EISDIR : errno, target);
-
-    const std::string fresh = fmt::format("{}.{}.new", target, processNumber());
-    Descriptor file(::open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
-    if (!file.isOpen()) throwFileError(errno == ENOENT ? ENOTDIR : errno, target);
-    const bool written = (!replacing || ::fchmod(file.number(), old.st_mode & 07777) == 0) &&
-                         writeAll(file.number(), bytes) && ::fsync(file.number()) == 0 &&
-                         file.close() && ::rename(fresh.c_str(), target.c_str()) == 0;
-    if (written) return;
-    const int reason = errno;
-    ::unlink(fresh.c_str());
-    throwFileError(reason, target);
 }
 
 void copyFile(const std::string& from, const std::string& to) {

@@ -4,8 +4,11 @@
 #include <cstddef>
 #include <istream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include "basis/system/file_source.h"
 
 namespace varnholt {
 
@@ -23,9 +26,20 @@ std::string readFileStart(const std::string& path, std::size_t most);
 
 /// Replaces a file whole: the bytes go to a new file beside it, are flushed to the disk, and take
 /// the name in one step, so that at every moment either the old or the new file is there,
-/// complete. A symbolic link is followed, the permissions of an existing file are kept.
-/// Throws RunTimeError 61 (disk full), 70 (no right), 75, 76; the old file is then as it was.
-void replaceWholeFile(const std::string& path, std::string_view bytes);
+/// complete. Symbolic links are followed to their file, which keeps its owner and group, where that
+/// is allowed, its rights, extended attributes and access control lists. A file with several names
+/// is written in place, after a copy of it was kept (see kept_copy.h). What saves that were killed
+/// have left in the folder is taken away.
+///
+/// Returns the file's stamp. Throws RunTimeError 61 (disk full), 70 (no right), 57, 76, and 75 for
+/// what is no file: folders, devices, pipes, links that lead nowhere or in a circle. The old file
+/// is then as it was.
+FileStamp replaceWholeFile(const std::string& path, std::string_view bytes);
+
+/// The same, unless the file has another stamp than it is known by: another program has changed it.
+/// Nothing is written then, and nothing returned. A file that is gone has no stamp to differ.
+std::optional<FileStamp> replaceKnownFile(const std::string& path, std::string_view bytes,
+                                          const KnownFile& known);
 
 /// Copies a file to a name that is not taken. The owner may read and write the copy, though the
 /// original may be read-only. Throws RunTimeError as reading and replacing do.

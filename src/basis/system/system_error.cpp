@@ -16,19 +16,19 @@ void throwFileError(int systemError, const std::string& path) {
             throw RunTimeError(folder.empty() || isFolder(folder) ? 53 : 76);
         }
         case ENOTDIR:
-            throw RunTimeError(76);
+            throw RunTimeError(76, path);
         case ENOSPC:
         case EDQUOT:
         case EFBIG:
-            throw RunTimeError(61);
+            throw RunTimeError(61, path);
         case EACCES:
         case EPERM:
         case EROFS:
-            throw RunTimeError(70);
+            throw RunTimeError(70, path);
         case EIO:
-            throw RunTimeError(57);
+            throw RunTimeError(57, path);
         default:
-            throw RunTimeError(75);
+            throw RunTimeError(75, path);
     }
 }
 

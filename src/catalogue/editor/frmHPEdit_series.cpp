@@ -231,8 +231,8 @@ bool frmHPEdit::attemptToWrite(const std::string& path, const std::function<void
     try {
         write();
     } catch (const RunTimeError& error) {
-        show(MessageIcon::exclamation,
-             text(Text::pumpsNotWritten) + "\n\n" + path + "\n\n" + error.message());
+        show(MessageIcon::exclamation, text(Text::pumpsNotWritten) + "\n\n" + path + "\n\n" +
+                                           RunTimeError(error.number()).message());
         return false;
     }
     return true;

@@ -117,8 +117,8 @@ bool ZoneWindow::saveZonesTo(const std::string& path) {
     try {
         saveZoneFile(path, document_.data);
     } catch (const RunTimeError& error) {
-        show(MessageIcon::exclamation,
-             text(Text::zonesNotSaved) + "\n\n" + path + "\n\n" + error.message());
+        show(MessageIcon::exclamation, text(Text::zonesNotSaved) + "\n\n" + path + "\n\n" +
+                                           RunTimeError(error.number()).message());
         return false;
     }
     return true;
