@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -35,5 +36,9 @@ std::optional<Date> readDate(std::string_view text);
 Date dateOfToday();
 /// The time of day by the computer's clock: "14:03".
 std::string timeOfDay();
+/// A moment, ns since 1970, by the computer's clock and in its zone: "2026-01-15 14:03:07".
+std::string localTimeText(std::int64_t moment);
+/// The moment it is.
+std::int64_t presentMoment();
 
 }  // namespace varnholt

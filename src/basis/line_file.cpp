@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "basis/file_system.h"
 #include "basis/number_text.h"
@@ -12,22 +13,28 @@
 namespace varnholt {
 namespace {
 
-std::vector<std::string_view> splitLines(std::string_view text) {
-    std::vector<std::string_view> lines;
-    std::size_t start = 0;
-    while (start < text.size()) {
-        const std::size_t end = std::min(text.find_first_of("\r\n", start), text.size());
-        lines.push_back(text.substr(start, end - start));
-        const bool pair = text.substr(end, 2) == "\r\n";
-        start = end + (pair ? 2 : 1);
-    }
-    return lines;
+std::size_t endOfLine(std::string_view text) {
+    std::size_t end = 0;
+    while (end < text.size() && text[end] != '\r' && text[end] != '\n') ++end;
+    return end;
+}
+
+/// Takes the first line off, with what ends it.
+std::string_view takeFirstLine(std::string_view& text) {
+    const std::size_t end = endOfLine(text);
+    const std::string_view line = text.substr(0, end);
+    const bool pair = text.substr(end, 2) == "\r\n";
+    text.remove_prefix(std::min(end + (pair ? 2 : 1), text.size()));
+    return line;
 }
 
 }  // namespace
 
 LineFileReader::LineFileReader(std::string_view bytes)
-    : bytes_(decodeText(bytes)), lines_(splitLines(bytes_)) {}
+    : left_(withoutByteOrderMark(bytes)), isUtf8_(isValidUtf8(left_)) {}
+
+LineFileReader::LineFileReader(std::string&& bytes)
+    : kept_(std::move(bytes)), left_(withoutByteOrderMark(kept_)), isUtf8_(isValidUtf8(left_)) {}
 
 LineFileReader LineFileReader::open(const std::string& path) {
     return LineFileReader(readWholeFile(path));
@@ -48,11 +55,22 @@ void LineFileReader::integer(std::int16_t& value) { value = toInteger(leadingNum
 
 void LineFileReader::date(Date& value) { value = readDate(line()).value_or(Date{}); }
 
+std::size_t LineFileReader::linesLeft(std::size_t most) const {
+    std::size_t lines = 0;
+    for (std::string_view text = left_; !text.empty() && lines < most; ++lines) takeFirstLine(text);
+    return lines;
+}
+
 std::size_t LineFileReader::count(std::size_t, std::size_t linesEach) {
     const double stated = leadingNumber(line());
-    const std::size_t fits = linesLeft() / std::max<std::size_t>(linesEach, 1) + 1;
+    statedCount_ = 0;
     if (!(stated >= 1)) return 0;
-    return stated >= static_cast<double>(fits) ? fits : static_cast<std::size_t>(stated);
+    // No count larger than the number of bytes can be true.
+    statedCount_ = static_cast<std::size_t>(std::min(stated, 1e15));
+    const std::size_t each = std::max<std::size_t>(linesEach, 1);
+    const std::size_t most = std::min(statedCount_, left_.size() + 1) * each;
+    const std::size_t fits = linesLeft(most) / each + 1;
+    return std::min(statedCount_, fits);
 }
 
 std::string_view LineFileReader::item() {
@@ -61,8 +79,7 @@ std::string_view LineFileReader::item() {
         left = *rest_;
         rest_.reset();
     } else {
-        if (next_ >= lines_.size()) throw RunTimeError(62);
-        left = lines_[next_++];
+        left = takeLine();
     }
     const std::size_t comma = left.find(',');
     if (comma == std::string_view::npos) return left;
@@ -78,14 +95,20 @@ void LineFileReader::readItem(double& value) {
 
 void LineFileReader::readItem(std::int16_t& value) { value = toInteger(leadingNumber(item())); }
 
+std::string_view LineFileReader::takeLine() {
+    if (left_.empty()) throw RunTimeError(62);
+    ++lineNumber_;
+    return takeFirstLine(left_);
+}
+
 std::string LineFileReader::line() {
-    if (rest_) {
-        std::string left(*rest_);
-        rest_.reset();
-        return left;
-    }
-    if (next_ >= lines_.size()) throw RunTimeError(62);
-    return std::string(lines_[next_++]);
+    const std::string_view found = rest_ ? *rest_ : takeLine();
+    rest_.reset();
+    return isUtf8_ ? std::string(found) : windows1252Text(found);
+}
+
+void LineFileReader::skipLines(std::size_t count) {
+    for (; count > 0; --count) takeLine();
 }
 
 void LineFileWriter::title(std::string_view prefix) {

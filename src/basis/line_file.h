@@ -24,8 +24,13 @@ class LineFileReader {
  public:
     static constexpr bool reading = true;
 
-    /// Takes the file's bytes; see decodeText for encodings. CR LF, LF and CR end a line.
+    /// Reads a file's bytes, which must outlive the reader. They are UTF-8, or Windows-1252 where
+    /// the file as a whole is not valid UTF-8; a byte order mark is passed over. CR LF, LF and CR
+    /// end a line.
     explicit LineFileReader(std::string_view bytes);
+    explicit LineFileReader(const char* bytes) : LineFileReader(std::string_view(bytes)) {}
+    /// The same of bytes that the reader keeps.
+    explicit LineFileReader(std::string&& bytes);
     LineFileReader(const LineFileReader&) = delete;
     LineFileReader& operator=(const LineFileReader&) = delete;
     /// Opens and reads a file; throws as readWholeFile.
@@ -57,20 +62,34 @@ class LineFileReader {
     /// file and tells it.
     std::size_t count(std::size_t written, std::size_t linesEach);
 
+    /// The number that the count read last states, before it is bounded.
+    std::size_t statedCount() const { return statedCount_; }
+
     /// A whole line; what is left of one that was read in part.
     std::string line();
-    std::size_t linesLeft() const { return lines_.size() - next_; }
+    /// Passes over so many lines. RunTimeError 62 where there are fewer.
+    void skipLines(std::size_t count);
+    bool atEnd() const { return left_.empty(); }
+    /// Whether anything but blanks and line ends is left.
+    bool holdsMore() const { return left_.find_first_not_of(" \t\r\n") != left_.npos; }
+    /// Number of the line read last, from 1; 0 before the first.
+    std::size_t lineNumber() const { return lineNumber_; }
 
  private:
+    std::string_view takeLine();
+    /// How many lines are left, at most so many.
+    std::size_t linesLeft(std::size_t most) const;
     std::string_view item();
     void readItem(double& value);
     void readItem(std::int16_t& value);
 
-    std::string bytes_;
-    std::vector<std::string_view> lines_;
-    std::size_t next_ = 0;
-    /// What is left behind the comma of the line before `next_`.
+    std::string kept_;
+    std::string_view left_;  ///< from the next line on
+    bool isUtf8_;
+    /// What is left behind the comma of the line read last.
     std::optional<std::string_view> rest_;
+    std::size_t lineNumber_ = 0;
+    std::size_t statedCount_ = 0;
     double version_ = 0;
 };
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace varnholt {
 namespace {
@@ -28,6 +29,17 @@ void appendUtf8(std::string& text, char16_t c) {
     }
 }
 
+/// So many bytes at the front are ASCII, in steps of eight: nearly all of every file.
+std::size_t plainPrefix(std::string_view bytes) {
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    std::size_t length = 0;
+    for (std::uint64_t eight = 0; length + sizeof eight <= bytes.size(); length += sizeof eight) {
+        std::memcpy(&eight, bytes.data() + length, sizeof eight);
+        if ((eight & highBits) != 0) break;
+    }
+    return length;
+}
+
 /// Length of the UTF-8 sequence at the front, 0 when it is none.
 std::size_t sequenceLength(std::string_view bytes) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
@@ -49,6 +61,8 @@ std::size_t sequenceLength(std::string_view bytes) {
 
 bool isValidUtf8(std::string_view bytes) {
     while (!bytes.empty()) {
+        bytes.remove_prefix(plainPrefix(bytes));
+        if (bytes.empty()) return true;
         const std::size_t length = sequenceLength(bytes);
         if (length == 0) return false;
         bytes.remove_prefix(length);
@@ -57,7 +71,10 @@ bool isValidUtf8(std::string_view bytes) {
 }
 
 std::string utf8Text(std::string_view bytes) {
-    if (isValidUtf8(bytes)) return std::string(bytes);
+    return isValidUtf8(bytes) ? std::string(bytes) : windows1252Text(bytes);
+}
+
+std::string windows1252Text(std::string_view bytes) {
     std::string text;
     for (const char c : bytes) {
         const auto byte = static_cast<unsigned char>(c);

@@ -8,6 +8,9 @@ namespace varnholt {
 
 bool isValidUtf8(std::string_view bytes);
 
+/// Bytes of Windows-1252 as UTF-8 text.
+std::string windows1252Text(std::string_view bytes);
+
 /// The bytes as UTF-8 text: as they are when they are valid UTF-8, otherwise taken as Windows-1252,
 /// the encoding of old files.
 std::string utf8Text(std::string_view bytes);

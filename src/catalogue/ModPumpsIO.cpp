@@ -54,6 +54,7 @@ void describeIndex(File& file, Manufacturers& manufacturers) {
     file.title("Pump List File Version ");
     const std::size_t count = file.count(manufacturers.size(), linesOfManufacturer);
     for (std::size_t i = 0; i < count; ++i) {
+        if constexpr (File::reading) toInteger(static_cast<double>(i + 1));
         if constexpr (File::reading) manufacturers.emplace_back();
         describeManufacturer(file, manufacturers[i]);
     }
@@ -165,6 +166,7 @@ void describeSeries(File& file, Series& series) {
     const std::size_t count = describeHead(file, series);
     for (std::size_t i = 0; i < count; ++i) {
         if constexpr (File::reading) {
+            toInteger(static_cast<double>(i + 1));
             pump model = neutralModel(series);
             describeModel(file, model);
             series.models.push_back(std::move(model));
@@ -180,21 +182,22 @@ void describeSeries(File& file, Series& series) {
 
 }  // namespace
 
-void readPumpIndex(std::string_view bytes, std::vector<PumpList>& manufacturers) {
+void readPumpIndex(std::string_view bytes, std::vector<PumpList>& manufacturers,
+                   ReadingReport* report) {
     manufacturers.clear();
     LineFileReader file(bytes);
     try {
-        describeIndex(file, manufacturers);
+        reportReading(file, report, [&] { describeIndex(file, manufacturers); });
     } catch (const RunTimeError&) {
         if (!manufacturers.empty() && manufacturers.back() == PumpList{}) manufacturers.pop_back();
         throw;
     }
 }
 
-void readPumpSeries(std::string_view bytes, PumpSeries& series) {
+void readPumpSeries(std::string_view bytes, PumpSeries& series, ReadingReport* report) {
     series = {};
     LineFileReader file(bytes);
-    describeSeries(file, series);
+    reportReading(file, report, [&] { describeSeries(file, series); });
 }
 
 std::string pumpIndexText(const std::vector<PumpList>& manufacturers) {
@@ -220,6 +223,10 @@ void WritePumpSeries(const std::string& pumpsFolder, const PumpSeries& series) {
 
 std::string pumpIndexPath(const std::string& pumpsFolder) {
     return joinPath(pumpsFolder, "PumpList.vht");
+}
+
+bool staysInFolder(const std::string& FileName) {
+    return FileName.find_first_of("/\\") == std::string::npos;
 }
 
 std::string pumpSeriesPath(const std::string& pumpsFolder, const std::string& FileName) {

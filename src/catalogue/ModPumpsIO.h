@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "basis/reading_report.h"
 #include "catalogue/pump.h"
 
 namespace varnholt {
@@ -19,11 +20,15 @@ struct PumpSeries {
 };
 
 // The readers take a file's bytes. On an error (RunTimeError 62 past the end, 6 for a whole number
-// beyond 16 bits, 9 for a 37th series of a manufacturer) they throw, and what was read up to there
-// stands in the argument: every manufacturer and series with a name, every model with its curves.
+// beyond 16 bits, a list longer than these count included, 9 for a 37th series of a manufacturer)
+// they throw, and what was read up to there stands in the argument: every manufacturer and series
+// with a name, every model with its curves.
 
-void readPumpIndex(std::string_view bytes, std::vector<PumpList>& manufacturers);
-void readPumpSeries(std::string_view bytes, PumpSeries& series);
+// The report, which may be null, tells how far the reading came.
+
+void readPumpIndex(std::string_view bytes, std::vector<PumpList>& manufacturers,
+                   ReadingReport* report = nullptr);
+void readPumpSeries(std::string_view bytes, PumpSeries& series, ReadingReport* report = nullptr);
 
 // The same files, written.
 
@@ -38,6 +43,8 @@ void WritePumpSeries(const std::string& pumpsFolder, const PumpSeries& series);
 
 /// "FOLDER/PumpList.vht"
 std::string pumpIndexPath(const std::string& pumpsFolder);
+/// Whether the file of a name that an index holds lies in the folder of the catalogue.
+bool staysInFolder(const std::string& FileName);
 /// "FOLDER/FileName.hpd"
 std::string pumpSeriesPath(const std::string& pumpsFolder, const std::string& FileName);
 

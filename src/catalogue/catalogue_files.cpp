@@ -14,8 +14,8 @@ constexpr std::size_t rememberedSeries = 16;
 
 CatalogueFiles::CatalogueFiles(std::unique_ptr<const FileSource> files)
     : files_(std::move(files)),
-      indices_(readPumpIndex, rememberedIndices),
-      series_(readPumpSeries, rememberedSeries) {}
+      indices_(readPumpIndex, FileKind::pumpList, rememberedIndices),
+      series_(readPumpSeries, FileKind::pumpSeries, rememberedSeries) {}
 
 CatalogueFiles::CatalogueFiles() : CatalogueFiles(std::make_unique<DiskFiles>()) {}
 

@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "basis/file_kind.h"
+#include "basis/reading_report.h"
 #include "basis/run_time_error.h"
 #include "basis/system/file_source.h"
 
@@ -18,7 +20,9 @@ namespace varnholt {
 template <class Content>
 struct ReadFile {
     Content content;
-    int error = 0;  ///< number of the RunTimeError that ended the reading; 0 for none
+    int error = 0;         ///< number of the RunTimeError that ended the reading; 0 for none
+    ReadingReport report;  ///< how far the reading came
+    FileKind other = FileKind::unknown;  ///< what the file is for certain, if not what is wanted
 };
 
 /// Remembers the files that were read last, each as long as it does not change.
@@ -26,10 +30,12 @@ template <class Content>
 class FileMemory {
  public:
     /// Fills the content from a file's bytes; what was read before a RunTimeError stays in it.
-    using Parse = void (*)(std::string_view bytes, Content& content);
+    using Parse = void (*)(std::string_view bytes, Content& content, ReadingReport* report);
 
+    /// @param kind of the files; of one that is certainly another nothing is taken
     /// @param most as many files are remembered
-    FileMemory(Parse parse, std::size_t most) : parse_(parse), most_(most) {}
+    FileMemory(Parse parse, FileKind kind, std::size_t most)
+        : parse_(parse), kind_(kind), most_(most) {}
 
     /// Null when the file cannot be opened. Throws as FileSource::read.
     std::shared_ptr<const ReadFile<Content>> read(const FileSource& files,
@@ -58,8 +64,12 @@ class FileMemory {
     Known readAfresh(const FileSource& files, const std::string& path) const {
         const FileSource::Content found = files.read(path);
         auto file = std::make_shared<ReadFile<Content>>();
+        const FileKind kind = fileKind(found.bytes);
         try {
-            parse_(found.bytes, file->content);
+            if (isCertainlyOther(kind, kind_))
+                file->other = kind;
+            else
+                parse_(found.bytes, file->content, &file->report);
         } catch (const RunTimeError& error) {
             file->error = error.number();
         }
@@ -67,6 +77,7 @@ class FileMemory {
     }
 
     Parse parse_;
+    FileKind kind_;
     std::size_t most_;
     std::vector<Known> known_;  // the file used last stands first
 };

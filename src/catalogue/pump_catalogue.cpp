@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "basis/file_system.h"
 #include "basis/run_time_error.h"
 #include "catalogue/makers.h"
 #include "forms/text_numbers.h"
@@ -66,6 +67,7 @@ void PumpCatalogue::readPumpNames() {
         const auto file = files_->index(path);
         if (file == nullptr) return tellMissing(path);
         index_ = file;
+        noteDamage(path, *file);
         tell(file->error);
     } catch (const RunTimeError& error) {
         tell(error.number());
@@ -74,9 +76,11 @@ void PumpCatalogue::readPumpNames() {
 
 bool PumpCatalogue::readPumps(const std::string& FileName, std::size_t slot) {
     const std::string path = pumpSeriesPath(folder_, FileName);
+    if (!staysInFolder(FileName)) return tellMissing(path), false;
     try {
         const auto file = files_->series(path);
         if (file == nullptr) return tellMissing(path), false;
+        noteDamage(path, *file);
         tell(file->error);
         if (file->content == PumpSeries{}) return false;
         at(slots_, static_cast<std::ptrdiff_t>(slot)).load({file, &file->content});
@@ -141,6 +145,21 @@ std::string PumpCatalogue::preferredSeries() const {
 
 void PumpCatalogue::tellMissing(const std::string& path) const {
     exclaim_(texts_.text(Text::pumpDataMissing) + "\r\r" + path);
+}
+
+template <class Content>
+void PumpCatalogue::noteDamage(const std::string& path, const ReadFile<Content>& file) {
+    const FileDamage damage{fileNameOf(path), file.report, file.other};
+    if (damage.isNone())
+        damage_.erase(path);
+    else
+        damage_[path] = damage;
+}
+
+std::vector<FileDamage> PumpCatalogue::damage() const {
+    std::vector<FileDamage> found;
+    for (const auto& [path, damage] : damage_) found.push_back(damage);
+    return found;
 }
 
 /// Only a missing file and a file that ends too early are worth a message.

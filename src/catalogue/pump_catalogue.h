@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <span>
 #include <string>
@@ -14,6 +15,7 @@
 #include "catalogue/loaded_series.h"
 #include "catalogue/pump.h"
 #include "forms/texts.h"
+#include "frame/file_damage.h"
 
 namespace varnholt {
 
@@ -81,11 +83,15 @@ class PumpCatalogue {
     const PumpSeriesInfo* find(const std::string& mfgName, const std::string& seriesName) const;
     /// The entry of the first series whose joined name this is, or null.
     const PumpSeriesInfo* findJoined(const std::string& joinedName) const;
+    /// Of the index and the series read last, those that could not be read whole.
+    std::vector<FileDamage> damage() const;
     /// Joined name of the first series of the first manufacturer that has one, or empty.
     std::string firstSeries() const;
 
  private:
     std::string preferredSeries() const;
+    template <class Content>
+    void noteDamage(const std::string& path, const ReadFile<Content>& file);
     void tellMissing(const std::string& path) const;
     void tell(int error) const;
 
@@ -96,6 +102,7 @@ class PumpCatalogue {
     std::shared_ptr<CatalogueFiles> files_;
     std::shared_ptr<const CatalogueFiles::Index> index_;
     std::array<LoadedSeries, 2> slots_;
+    std::map<std::string, FileDamage> damage_;  ///< by the files' paths
 };
 
 }  // namespace varnholt

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -58,6 +60,14 @@ class Platform {
     virtual void edit(EditCommand command) = 0;
     /// How far a long operation has come; done equal to total ends it.
     virtual void progress(const std::string& what, std::size_t done, std::size_t total) = 0;
+    /// A file does not come at once. False gives it up; waitingEnded follows in either case. A
+    /// program that nobody watches waits a little more than a second.
+    virtual bool waitFor(const std::string& /*path*/, std::chrono::milliseconds waited) {
+        return waited < std::chrono::milliseconds(1'200);
+    }
+    virtual void waitingEnded() {}
+    /// A moment, ns since 1970, as a person reads it.
+    virtual std::string timeText(std::int64_t moment) { return localTimeText(moment); }
     /// Opens a page or a program outside.
     virtual void openOutside(const std::string& address) = 0;
     /// A value of the platform's registry of installed tools; nothing where there is no such

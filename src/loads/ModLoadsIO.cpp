@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "loads/ModLoadsIO.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "basis/file_system.h"
 #include "basis/line_file.h"
+#include "forms/patient_reading.h"
 
 namespace varnholt {
 namespace {
 
 constexpr std::size_t linesOfZone = 30;
+constexpr std::size_t linesOfLoadFlow = 3;
 
 // One description of the file, run with a reader or with a writer.
 
@@ -37,10 +40,12 @@ void describeZone(File& file, AZone& zone) {
     file.integer(pump.customPump);
 }
 
+/// Returns how many zones there are in the file that the program does not count.
 template <class File, class Data>
-void describeZones(File& file, const ZoneFileContext& context, Data& data) {
+std::size_t describeZones(File& file, const ZoneFileContext& context, Data& data) {
     file.title("Zone Data File Version ");
-    const std::size_t count = file.count(data.zones.size(), linesOfZone);
+    const std::size_t inFile = file.count(data.zones.size(), linesOfZone);
+    const std::size_t count = std::min(inFile, mostZones);
     if constexpr (File::reading) data.zones.clear();
     for (std::size_t i = 0; i < count; ++i) {
         if constexpr (File::reading) {
@@ -52,6 +57,8 @@ void describeZones(File& file, const ZoneFileContext& context, Data& data) {
             describeZone(file, data.zones[i]);
         }
     }
+    if constexpr (File::reading) file.skipLines((inFile - count) * linesOfZone);
+    return inFile - count;
 }
 
 template <class File, class Pump>
@@ -63,21 +70,22 @@ void describeLoadFlow(File& file, Pump& pump) {
 }
 
 template <class File, class Zones>
-void describeLoadFlows(File& file, Zones& zones) {
+void describeLoadFlows(File& file, Zones& zones, std::size_t leftOut) {
     for (std::size_t i = 0; i < zones.size(); ++i) {
         if constexpr (File::reading)
             describeLoadFlow(file, zones.edit(i).pump);
         else
             describeLoadFlow(file, zones[i].pump);
     }
+    if constexpr (File::reading) file.skipLines(leftOut * linesOfLoadFlow);
 }
 
 template <class File, class Data>
 void describeFile(File& file, const ZoneFileContext& context, Data& data) {
-    describeZones(file, context, data);
+    const std::size_t leftOut = describeZones(file, context, data);
     auto& conditions = data.conditions;
     const DesignConditions before;  // what held before files could tell
-    if (file.since(1.1)) describeLoadFlows(file, data.zones);
+    if (file.since(1.1)) describeLoadFlows(file, data.zones, leftOut);
     if (file.since(2.0)) {
         file.number(conditions.flowRate);
         for (const Mode m : modes) file.number(conditions.inletTemp[m]);
@@ -100,9 +108,25 @@ void describeFile(File& file, const ZoneFileContext& context, Data& data) {
 
 }  // namespace
 
-void readZones(std::string_view bytes, const ZoneFileContext& context, LoadsData& data) {
+void readZones(std::string_view bytes, const ZoneFileContext& context, LoadsData& data,
+               ReadingReport* report) {
     LineFileReader file(bytes);
-    describeFile(file, context, data);
+    // What the file states and what was read of it is told however the reading ends.
+    const auto count = [&] {
+        if (report == nullptr || file.lineNumber() < 2) return;
+        report->stated = file.statedCount();
+        report->found = data.zones.size();
+        report->leftOut = report->stated > mostZones && report->found == mostZones
+                              ? report->stated - mostZones
+                              : 0;
+    };
+    try {
+        reportReading(file, report, [&] { describeFile(file, context, data); });
+    } catch (const RunTimeError&) {
+        count();
+        throw;
+    }
+    count();
 }
 
 std::string zonesText(const LoadsData& data) {
@@ -112,7 +136,7 @@ std::string zonesText(const LoadsData& data) {
 }
 
 void readZoneFile(const std::string& path, const ZoneFileContext& context, LoadsData& data) {
-    readZones(readWholeFile(path), context, data);
+    readZones(readWholeFile(path, {largestZoneFile, {}}), context, data);
 }
 
 void saveZoneFile(const std::string& path, const LoadsData& data) {

@@ -15,7 +15,7 @@ RecentFiles::RecentFiles(std::string listFile) : listFile_(std::move(listFile)) 
     if (listFile_.empty()) return;
     try {
         LineFileReader file = LineFileReader::open(listFile_);
-        while (file.linesLeft() > 0 && paths_.size() < most) paths_.push_back(file.line());
+        while (!file.atEnd() && paths_.size() < most) paths_.push_back(file.line());
     } catch (const RunTimeError&) {
         // No list yet, or none to be had.
     }

@@ -63,6 +63,8 @@ class ScriptPlatform : public Platform {
     std::string clipboard() override { return clipboard_; }
     void setClipboard(const std::string& text) override { clipboard_ = text; }
     Date today() override { return today_; }
+    /// The same on every run.
+    std::string timeText(std::int64_t) override { return "TIME"; }
     void edit(EditCommand command) override;
     void progress(const std::string&, std::size_t, std::size_t) override {}
     void openOutside(const std::string&) override {}

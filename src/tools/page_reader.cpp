@@ -6,7 +6,6 @@
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
-#include "basis/system/folders.h"
 #include "forms/texts.h"
 
 namespace varnholt {
@@ -23,13 +22,6 @@ std::string asHtml(const std::string& text) {
             page += c;
     }
     return page;
-}
-
-std::size_t sizeOf(std::istream& file) {
-    file.seekg(0, std::ios::end);
-    const auto end = file.tellg();
-    file.seekg(0);
-    return end < 0 ? 0 : static_cast<std::size_t>(end);
 }
 
 }  // namespace
@@ -72,10 +64,9 @@ void PageReader::refresh() {
 
 /// The page's bytes; those of the error page when it cannot be read.
 std::string PageReader::read(const PageAddress& address, bool& tooLarge) const {
-    if (isFolder(address.file)) return errorPage(address);
-    const std::unique_ptr<std::istream> file = openInput(address.file);
+    const std::optional<FileStamp> file = DiskFiles().stamp(address.file);
     if (!file) return errorPage(address);
-    tooLarge = sizeOf(*file) > largestPage;
+    tooLarge = file->size > static_cast<std::int64_t>(largestPage);
     if (tooLarge) return errorPage(address);
     try {
         return readWholeFile(address.file);

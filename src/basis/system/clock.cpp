@@ -8,10 +8,11 @@
 namespace varnholt {
 namespace {
 
-std::tm localTime() {
-    const std::time_t now = std::time(nullptr);
+constexpr std::int64_t nanoseconds = 1'000'000'000;  // of a second
+
+std::tm localTime(std::time_t moment = std::time(nullptr)) {
     std::tm local{};
-    localtime_r(&now, &local);
+    localtime_r(&moment, &local);
     return local;
 }
 
@@ -25,6 +26,19 @@ Date dateOfToday() {
 std::string timeOfDay() {
     const std::tm local = localTime();
     return fmt::format("{:02}:{:02}", local.tm_hour, local.tm_min);
+}
+
+std::string localTimeText(std::int64_t moment) {
+    const std::tm local = localTime(static_cast<std::time_t>(moment / nanoseconds));
+    const Date day{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
+    return fmt::format("{} {:02}:{:02}:{:02}", isoText(day), local.tm_hour, local.tm_min,
+                       local.tm_sec);
+}
+
+std::int64_t presentMoment() {
+    timespec now{};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    return std::int64_t{now.tv_sec} * nanoseconds + now.tv_nsec;
 }
 
 }  // namespace varnholt

@@ -5,6 +5,7 @@
 
 #include <cerrno>
 #include <ctime>
+#include <utility>
 
 #include "basis/system/descriptor.h"
 #include "basis/system/files.h"
@@ -15,6 +16,9 @@ namespace varnholt {
 namespace {
 
 constexpr std::int64_t nanoseconds = 1'000'000'000;  // of a second
+// Together they stay below two seconds.
+constexpr std::chrono::milliseconds lookingTime(300), readingTime(1'200);
+
 constexpr std::int64_t coarsestStep = 2 * nanoseconds;
 
 std::int64_t inNanoseconds(const timespec& time) {
@@ -58,14 +62,24 @@ std::optional<FileStamp> changedStamp(const std::string& path, const KnownFile& 
 }
 
 std::optional<FileStamp> DiskFiles::stamp(const std::string& path) const {
-    return stampBehind(openForReading(path));
+    return patiently<std::optional<FileStamp>>(upTo(lookingTime),
+                                               [path] { return stampBehind(openForReading(path)); })
+        .value_or(std::nullopt);
 }
 
-FileSource::Content DiskFiles::read(const std::string& path) const {
-    const Descriptor file = openForReading(path);
-    if (!file.isOpen()) throwFileError(errno, path);
-    const FileStamp stamp = stampBehind(file).value_or(FileStamp{});
-    return {readToEnd(file, path), stamp};
+FileSource::Content DiskFiles::read(const std::string& path, const ReadingLimits& limits) {
+    const auto readAll = [path, most = limits.mostBytes] {
+        const Descriptor file = openForReading(path);
+        if (!file.isOpen()) throwFileError(errno, path);
+        const FileStamp stamp = stampBehind(file).value_or(FileStamp{});
+        if (stamp.size > static_cast<std::int64_t>(most)) throwFileError(EOVERFLOW, path);
+        // A file that grows meanwhile is no longer than it was allowed to be.
+        return Content{readToEnd(file, path, most), stamp};
+    };
+    auto content =
+        patiently<Content>(limits.patience ? limits.patience : upTo(readingTime), readAll);
+    if (!content) throwFileError(EIO, path);
+    return std::move(*content);
 }
 
 }  // namespace varnholt

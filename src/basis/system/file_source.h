@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "basis/system/patience.h"
 
 struct stat;
 
@@ -38,6 +41,13 @@ KnownFile knownFile(const FileStamp& stamp, std::string_view bytes);
 /// The file's stamp where it is another one than the known; nothing where it is the same, or gone.
 std::optional<FileStamp> changedStamp(const std::string& path, const KnownFile& known);
 
+/// How much of a file is read, and how long it is waited for.
+struct ReadingLimits {
+    std::size_t mostBytes = std::size_t{64} << 20;  ///< a longer file is RunTimeError 75
+    /// Empty for that of a program that nobody watches.
+    Patience patience = {};
+};
+
 /// Where files are read from. A port, so that a test can see what is read.
 class FileSource {
  public:
@@ -57,7 +67,8 @@ class FileSource {
 class DiskFiles : public FileSource {
  public:
     std::optional<FileStamp> stamp(const std::string& path) const override;
-    Content read(const std::string& path) const override;
+    Content read(const std::string& path) const override { return read(path, {}); }
+    static Content read(const std::string& path, const ReadingLimits& limits);
 };
 
 }  // namespace varnholt

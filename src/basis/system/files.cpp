@@ -17,12 +17,19 @@ namespace fs = std::filesystem;
 
 bool fileExists(const std::string& path) { return DiskFiles().stamp(path).has_value(); }
 
-std::string readWholeFile(const std::string& path) { return DiskFiles().read(path).bytes; }
+std::string readWholeFile(const std::string& path, const ReadingLimits& limits) {
+    return DiskFiles::read(path, limits).bytes;
+}
 
 std::string readFileStart(const std::string& path, std::size_t most) {
-    const Descriptor file = openForReading(path);
-    if (!file.isOpen()) throwFileError(errno, path);
-    return readToEnd(file, path, most);
+    const auto readStart = [path, most] {
+        const Descriptor file = openForReading(path);
+        if (!file.isOpen()) throwFileError(errno, path);
+        return readToEnd(file, path, most);
+    };
+    const auto bytes = patiently<std::string>(upTo(std::chrono::milliseconds(1'200)), readStart);
+    if (!bytes) throwFileError(EIO, path);
+    return *bytes;
 }
 
 void copyFile(const std::string& from, const std::string& to) {
@@ -44,10 +51,18 @@ std::unique_ptr<std::istream> openInput(const std::string& path) {
 }
 
 bool samePath(const std::string& a, const std::string& b) {
-    std::error_code error;
-    const fs::path first = fs::weakly_canonical(fs::absolute(a, error), error);
-    const fs::path second = fs::weakly_canonical(fs::absolute(b, error), error);
-    return first == second;
+    if (a == b) return true;
+    // Folders that do not answer are told by their names alone.
+    constexpr std::chrono::milliseconds patience(300);
+    return patiently<bool>(
+               upTo(patience),
+               [a, b] {
+                   std::error_code error;
+                   const fs::path first = fs::weakly_canonical(fs::absolute(a, error), error);
+                   const fs::path second = fs::weakly_canonical(fs::absolute(b, error), error);
+                   return first == second;
+               })
+        .value_or(false);
 }
 
 }  // namespace varnholt

@@ -17,9 +17,10 @@ namespace varnholt {
 /// Whether the file can be opened for reading.
 bool fileExists(const std::string& path);
 
-/// The whole file. Throws RunTimeError 53 (no such file), 76 (no such folder), 70 or 75 (no
-/// right, or a folder), 57 (read fault).
-std::string readWholeFile(const std::string& path);
+/// The whole file. Throws RunTimeError 53 (no such file), 76 (no such folder), 70 (no right), 75
+/// (no regular file, or longer than the limits allow), 57 (read fault, or a file that could not be
+/// read in the time).
+std::string readWholeFile(const std::string& path, const ReadingLimits& limits = {});
 
 /// The file's first bytes, no more than so many, however long it is. Throws as readWholeFile.
 std::string readFileStart(const std::string& path, std::size_t most);

@@ -39,7 +39,7 @@ std::uint64_t beginOf(int process) {
     const std::string path = fmt::format("/proc/{}/stat", process);
     const Descriptor file(
         uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC); }));
-    std::array<char, 1024> status{};
+    std::array<char, 1'024> status{};
     if (!file.isOpen()) return 0;
     const ssize_t got =
         uninterrupted([&] { return ::read(file.number(), status.data(), status.size()); });
@@ -73,7 +73,7 @@ bool hasEnded(const ProcessIdentity& process) {
 std::string userName() {
     passwd entry{};
     passwd* found = nullptr;
-    std::array<char, 4096> texts{};
+    std::array<char, 4'096> texts{};
     if (::getpwuid_r(::geteuid(), &entry, texts.data(), texts.size(), &found) == 0 &&
         found != nullptr)
         return found->pw_name;

@@ -117,8 +117,4 @@ bool isUsableFileName(const std::string& FileName) {
            std::all_of(FileName.begin(), FileName.end(), isPlainCharacter);
 }
 
-bool staysInFolder(const std::string& FileName) {
-    return FileName.find_first_of("/\\") == std::string::npos;
-}
-
 }  // namespace varnholt

@@ -55,7 +55,4 @@ std::string withoutExtension(const std::string& FileName);
 /// at most 200 bytes.
 bool isUsableFileName(const std::string& FileName);
 
-/// Whether the file of a name that an index holds lies in the folder of the catalogue.
-bool staysInFolder(const std::string& FileName);
-
 }  // namespace varnholt

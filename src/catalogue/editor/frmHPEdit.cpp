@@ -90,7 +90,8 @@ void frmHPEdit::load() {
     const std::string path = pumpIndexPath(joinPath(main().MainDirectory, "pumps"));
     IndexFile file = readIndexFile(path);
     index_ = std::move(file.index);
-    if (file.error != 0 && !file.missing) damagedIndex_ = path;
+    damagedIndex_ = {fileNameOf(path), file.report, file.other};
+    if (file.error != 0 && !file.missing) damagedIndex_.report.error = file.error;
     if (file.missing)
         show(MessageIcon::exclamation, text(Text::pumpDataMissing) + "\r\r" + path);
     else if (file.error == 53 || file.error == 62)
@@ -174,9 +175,10 @@ std::vector<Notice> frmHPEdit::notices() {
         holding.push_back(
             {filledIn(text(Text::noticeManyPumps),
                       {std::to_string(document_.pumps.size()), std::to_string(selectableModels)})});
-    for (const std::string& path : {file_.error != 0 ? seriesPath() : std::string(), damagedIndex_})
-        if (!path.empty())
-            holding.push_back({filledIn(text(Text::noticeFileIncomplete), {fileNameOf(path)})});
+    FileDamage series{place_ ? fileNameOf(seriesPath()) : std::string(), file_.report, file_.other};
+    series.report.error = file_.error;
+    for (const FileDamage& damage : {series, damagedIndex_})
+        if (!damage.isNone()) holding.push_back({damageText(texts(), damage)});
     return holding;
 }
 

@@ -12,6 +12,7 @@
 #include "catalogue/editor/editor_pictures.h"
 #include "catalogue/editor/series_file.h"
 #include "frame/child_window.h"
+#include "frame/file_damage.h"
 
 namespace varnholt {
 
@@ -104,6 +105,7 @@ class frmHPEdit : public ChildWindow {
     const PumpSeriesInfo& selectedSeries() const;
     const PumpManufacturerInfo& selectedManufacturer() const;
     std::string seriesPath() const;
+    SeriesFile readSelectedSeries() const;
     void openSeries(const SeriesPlace& place);
     void takeSeries(const SeriesPlace& place, SeriesFile file);
     void closeSeries();
@@ -183,7 +185,7 @@ class frmHPEdit : public ChildWindow {
 
     std::function<void()> catalogueWritten_;
     CatalogueIndex index_;
-    std::string damagedIndex_;  ///< its path, while not all of it could be read
+    FileDamage damagedIndex_;
     std::optional<SeriesPlace> place_;
     EditedSeries document_;
     TestResults results_;

@@ -107,7 +107,7 @@ void frmHPEdit::MfgCombo_Click() {
     } else if (!manufacturer && chosen == entry(text(Text::addToCatalogue))) {
         // What has been dropped does not come back with the panel behind this one.
         if (std::exchange(droppedChanges_, false) && place_)
-            takeSeries(*place_, readSeriesFile(seriesPath()));
+            takeSeries(*place_, readSelectedSeries());
         editingSeriesInfo = false;
         control("SelectMfgCombo").setIndex(0).setEnabled(true);
         control("InsidePumpInfoPicture").setVisible(false);
@@ -169,12 +169,17 @@ std::string frmHPEdit::seriesPath() const {
     return pumpSeriesPath(joinPath(main().MainDirectory, "pumps"), selectedSeries().FileName);
 }
 
+/// No name in the index leads out of the folder.
+SeriesFile frmHPEdit::readSelectedSeries() const {
+    return staysInFolder(selectedSeries().FileName) ? readSeriesFile(seriesPath()) : SeriesFile{};
+}
+
 /// Reads the file of a series; what there is of it comes into memory.
 void frmHPEdit::openSeries(const SeriesPlace& place) {
     place_ = place;
     pumpInfoFrameMode.clear();
     editingSeriesInfo = false;
-    SeriesFile file = readSeriesFile(seriesPath());
+    SeriesFile file = readSelectedSeries();
     const int error = file.error;
     const bool missing = !file.bytes && error == 0;
     takeSeries(place, std::move(file));
@@ -216,10 +221,18 @@ PumpSeries frmHPEdit::seriesToWrite() const {
     return series;
 }
 
+namespace {
+
+bool isDamaged(const SeriesFile& file) {
+    return file.error != 0 || !file.report.isWhole() || file.other != FileKind::unknown;
+}
+
+}  // namespace
+
 /// A file that is not as it was read, or not all of which was read, goes only when the user says
 /// so.
 bool frmHPEdit::mayReplaceFile() {
-    const int question = file_.error != 0                        ? Text::damagedFileReplaced
+    const int question = isDamaged(file_)                        ? Text::damagedFileReplaced
                          : holdsOther(seriesPath(), file_.bytes) ? Text::seriesFileChanged
                                                                  : 0;
     return question == 0 ||
@@ -246,7 +259,8 @@ void frmHPEdit::SaveCommand_Click() {
     if (!mayReplaceFile()) return;
     std::string bytes = pumpSeriesText(seriesToWrite());
     if (!attemptToWrite(seriesPath(), [&] { replaceWholeFile(seriesPath(), bytes); })) return;
-    file_ = {{}, std::move(bytes), 0};
+    file_ = {};
+    file_.bytes = std::move(bytes);
     setChanged(false);
     markSaved();
     for (const Shared<pump>& model : document_.pumps)
@@ -257,12 +271,12 @@ void frmHPEdit::SaveCommand_Click() {
 bool frmHPEdit::writeIndex(const CatalogueIndex& index) {
     const std::string pumps = joinPath(main().MainDirectory, "pumps");
     const std::string path = pumpIndexPath(pumps);
-    if (!damagedIndex_.empty() &&
+    if (!damagedIndex_.isNone() &&
         platform().question(Buttons::yesNo, text(Text::replaceFileTitle),
                             filledIn(text(Text::damagedFileReplaced), {path})) != Answer::yes)
         return false;
     if (!attemptToWrite(path, [&] { WritePumpList(pumps, index); })) return false;
-    damagedIndex_.clear();
+    damagedIndex_ = {};
     return true;
 }
 

@@ -11,7 +11,11 @@ SeriesFile readSeriesFile(const std::string& path) {
     try {
         if (!fileExists(path)) return file;
         file.bytes = readWholeFile(path);
-        readPumpSeries(*file.bytes, file.series);
+        const FileKind kind = fileKind(*file.bytes);
+        if (isCertainlyOther(kind, FileKind::pumpSeries))
+            file.other = kind;
+        else
+            readPumpSeries(*file.bytes, file.series, &file.report);
     } catch (const RunTimeError& error) {
         file.error = error.number();
     }
@@ -30,7 +34,13 @@ IndexFile readIndexFile(const std::string& path) {
     IndexFile file;
     try {
         file.missing = !fileExists(path);
-        if (!file.missing) readPumpIndex(readWholeFile(path), file.index);
+        if (file.missing) return file;
+        const std::string bytes = readWholeFile(path);
+        const FileKind kind = fileKind(bytes);
+        if (isCertainlyOther(kind, FileKind::pumpList))
+            file.other = kind;
+        else
+            readPumpIndex(bytes, file.index, &file.report);
     } catch (const RunTimeError& error) {
         file.error = error.number();
     }

@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <limits>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,9 +15,6 @@ namespace varnholt {
 
 struct FullLoadHours;
 struct MonthlyLoads;
-
-/// Zones are counted in 16 bits.
-constexpr std::size_t mostZones = std::numeric_limits<std::int16_t>::max();
 
 /// In what the two loads windows differ before any of their commands runs.
 struct ZoneWindowKind {

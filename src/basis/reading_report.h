@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+
+#include "basis/line_file.h"
+#include "basis/run_time_error.h"
+
+namespace varnholt {
+
+/// How the reading of a file went, for a window to tell.
+struct ReadingReport {
+    int error = 0;            ///< number of the RunTimeError that ended the reading; 0 for none
+    std::size_t line = 0;     ///< the line read last, from 1
+    bool leftover = false;    ///< lines follow that nothing in the file accounts for
+    std::size_t stated = 0;   ///< entries of its list, such as zones, by the file's own word
+    std::size_t found = 0;    ///< how many of them could be read whole
+    std::size_t leftOut = 0;  ///< how many are beyond what the program counts
+
+    /// Everything that the file holds has been read.
+    bool isWhole() const { return error == 0 && !leftover && leftOut == 0; }
+};
+
+/// Reads, and fills the report, which may be null. What the reading throws is thrown on.
+template <class Read>
+void reportReading(const LineFileReader& file, ReadingReport* report, const Read& read) {
+    try {
+        read();
+    } catch (const RunTimeError& error) {
+        if (report != nullptr) report->error = error.number(), report->line = file.lineNumber();
+        throw;
+    }
+    if (report == nullptr || !file.holdsMore()) return;
+    report->leftover = true;
+    report->line = file.lineNumber() + 1;
+}
+
+}  // namespace varnholt

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "frame/file_damage.h"
+
+#include "forms/text_numbers.h"
+
+namespace varnholt {
+namespace {
+
+int nameOf(FileKind kind) {
+    switch (kind) {
+        case FileKind::project:
+            return Text::kindProject;
+        case FileKind::zones:
+            return Text::kindZones;
+        case FileKind::defaults:
+            return Text::kindDefaults;
+        case FileKind::pumpList:
+            return Text::kindPumpList;
+        case FileKind::pumpSeries:
+            return Text::kindPumpSeries;
+        case FileKind::utf16:
+            return Text::kindUtf16;
+        case FileKind::binary:
+        case FileKind::unknown:
+            break;
+    }
+    return Text::kindBinary;
+}
+
+/// Where the reading ended, and why.
+std::string endOfReading(const Texts& texts, const ReadingReport& report) {
+    constexpr int overflow = 6, inputPastEnd = 62;
+    if (report.leftover)
+        return filledIn(texts.text(Text::noticeLeftoverLines), {std::to_string(report.line)});
+    if (report.error == inputPastEnd)
+        return filledIn(texts.text(Text::noticeEndsAtLine), {std::to_string(report.line)});
+    if (report.error == overflow && report.line > 0)
+        return filledIn(texts.text(Text::noticeNumberTooLarge), {std::to_string(report.line)});
+    if (report.error == 0) return {};
+    return filledIn(texts.text(Text::noticeReadingFailed), {RunTimeError(report.error).message()});
+}
+
+}  // namespace
+
+std::string damageText(const Texts& texts, const FileDamage& damage) {
+    if (damage.other != FileKind::unknown)
+        return filledIn(texts.text(Text::noticeOtherKind),
+                        {damage.name, texts.text(nameOf(damage.other))});
+    const ReadingReport& report = damage.report;
+    std::string told = filledIn(texts.text(Text::noticeFileIncomplete), {damage.name});
+    const auto append = [&](const std::string& sentence) {
+        if (!sentence.empty()) told += " " + sentence;
+    };
+    append(endOfReading(texts, report));
+    if (report.stated != report.found && report.leftOut == 0)
+        append(filledIn(texts.text(Text::noticeZonesRead),
+                        {std::to_string(report.found), std::to_string(report.stated)}));
+    if (report.leftOut > 0)
+        append(filledIn(texts.text(Text::noticeZonesLeftOut), {std::to_string(report.leftOut)}));
+    return told;
+}
+
+}  // namespace varnholt

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "basis/file_kind.h"
+#include "basis/reading_report.h"
+#include "forms/texts.h"
+
+namespace varnholt {
+
+/// What is wrong with a file that was read.
+struct FileDamage {
+    std::string name;                    ///< of the file
+    ReadingReport report;                ///< how far the reading came
+    FileKind other = FileKind::unknown;  ///< what it is for certain, if not what it should be
+
+    bool isNone() const { return report.isWhole() && other == FileKind::unknown; }
+};
+
+/// What a window tells of it: the file, the line, what was read.
+std::string damageText(const Texts& texts, const FileDamage& damage);
+
+}  // namespace varnholt
