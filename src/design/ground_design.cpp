@@ -156,8 +156,11 @@ void GroundDesign::showRestored(bool stale) {
 
 std::vector<Notice> GroundDesign::notices() {
     std::vector<Notice> holding;
-    if (!halfReadFile_.empty())
-        holding.push_back({filledIn(text(Text::noticeFileIncomplete), {halfReadFile_})});
+    if (!damage_.isNone())
+        holding.push_back({damageText(texts(), damage_) + " " + text(Text::noticeDoubtedResults) +
+                           " " + text(Text::noticeSaveAsksForName)});
+    if (openFile.readOnly)
+        holding.push_back({filledIn(text(Text::noticeOpenElsewhere), {FileName})});
     if (!missingZoneFile().empty())
         holding.push_back({filledIn(text(Text::noticeZoneFileMissing), {missingZoneFile()}),
                            text(Text::noticeFindZoneFile), files.findZoneFile});

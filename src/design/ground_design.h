@@ -8,6 +8,8 @@
 
 #include "design/design_values.h"
 #include "design/loads_roll_up.h"
+#include "frame/file_damage.h"
+#include "frame/open_file.h"
 #include "frame/varnmain.h"
 #include "loads/linked_design.h"
 
@@ -78,8 +80,12 @@ class GroundDesign : public LinkedDesign {
     void loadsChanged() override;
     /// The project's own zone file has been found after all: its results came from these loads.
     void loadsFound(bool stale);
-    /// The name of the project's file, of which not everything could be read.
-    void setHalfReadFile(const std::string& name) { halfReadFile_ = name; }
+    /// What is wrong with the project's file, of which not everything could be read.
+    void setDamage(const FileDamage& damage) { damage_ = damage; }
+    /// What is known of the project's file.
+    OpenFile openFile;
+    /// A save by a click must not take the place of the file.
+    bool savesUnderNewName() const { return !damage_.isNone() || openFile.readOnly; }
 
     void activated() override;
     bool queryClose() override;
@@ -139,7 +145,7 @@ class GroundDesign : public LinkedDesign {
     void tellNoLoads();
 
     GroundParts parts_;
-    std::string halfReadFile_;
+    FileDamage damage_;
     /// Buttons on the pages and the menu entries they stand for.
     std::vector<std::pair<std::string, std::string>> menuButtons_;
 };

@@ -93,6 +93,13 @@ void DesignDocument::setFile(const std::string& path) {
     setCaption(baseCaption() + " - " + FileName);
 }
 
+void DesignDocument::forgetFile() {
+    FileName.clear();
+    directoryName.clear();
+    currentFileCheck = false;
+    setCaption(baseCaption() + " #" + std::to_string(main().windowCounter));
+}
+
 void DesignDocument::addInformationControls() {
     add("INProjectFrame", ControlKind::frame, Text::projectInformation);
     for (const InformationRow& row : informationRows) {

@@ -36,6 +36,8 @@ class DesignDocument : public ChildWindow {
     std::string filePath() const;
     /// Records the project's file and puts its name into the caption.
     void setFile(const std::string& path);
+    /// Makes it a project without a file, under the caption of a new one.
+    void forgetFile();
 
     /// Place among the windows of its kind; moves when the slots are compacted.
     std::int16_t counter;

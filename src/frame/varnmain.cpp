@@ -35,6 +35,7 @@ Varnmain::Varnmain(Platform& platform, const Texts& texts, std::string programFo
     : Form("Varnmain", platform, texts), MainDirectory(std::move(programFolder)) {
     addMenus();
     addToolbar();
+    add("NoticeLabel", ControlKind::label).setVisible(false);
     registerValues();
     setCommand("Metric", CommandNeeds::nothing, [this] { Metric_Click(); });
     setCommand("English", CommandNeeds::nothing, [this] { English_Click(); });
@@ -75,6 +76,10 @@ void Varnmain::addMenus() {
             onClick(row.control, [this, name = std::string(row.control)] { run(name); });
     }
     control("mnuShowToolbar").setChecked(true);
+}
+
+void Varnmain::setNotice(const std::string& text) {
+    control("NoticeLabel").setCaption(text).setVisible(!text.empty());
 }
 
 void Varnmain::addToolbar() {
@@ -138,6 +143,7 @@ void Varnmain::run(const std::string& entry) {
     const auto found = commands_.find(entry);
     if (found == commands_.end() || !usable(found->second)) return;
     if (opensWindow(entry)) hideSplash();
+    setNotice({});
     try {
         found->second.run();
     } catch (const RunTimeError& error) {

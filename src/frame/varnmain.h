@@ -97,6 +97,10 @@ class Varnmain : public Form {
     /// A project or zone file has been opened or saved: whoever keeps the recent files hears of it.
     std::function<void(const std::string& path)> fileUsed = [](const std::string&) {};
 
+    /// Says in `NoticeLabel` what no window is there to tell, until the next command; an empty text
+    /// takes it away.
+    void setNotice(const std::string& text);
+
     /// Called by a window that has switched its units.
     void unitsSwitched(ChildWindow& window);
     UnitSystem units() const;
@@ -121,6 +125,9 @@ class Varnmain : public Form {
     /// File name chosen in the common dialog last.
     std::string commonDialogFile;
     bool openCall = false;
+    /// Files that are open are marked for other programs, and theirs asked about; what a save left
+    /// that was cut off is offered. Scripts go without unless they ask for it.
+    bool guardsFiles = false;
     bool saveCancelled = false;
     /// The main window itself is being closed, and asks its windows one by one.
     bool closing = false;

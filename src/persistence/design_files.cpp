@@ -191,9 +191,9 @@ std::string projectText(const GroundDesign& design) {
     return file.bytes();
 }
 
-void readProjectText(std::string_view bytes, GroundDesign& design) {
+void readProjectText(std::string_view bytes, GroundDesign& design, ReadingReport* report) {
     LineFileReader file(bytes);
-    fileKindOf(design).readProject(file, design);
+    reportReading(file, report, [&] { fileKindOf(design).readProject(file, design); });
 }
 
 bool tellsOfLink(std::string_view bytes) {

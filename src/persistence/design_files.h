@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "basis/line_file.h"
+#include "basis/reading_report.h"
 #include "design/borehole_project.h"
 #include "design/ground_design.h"
 #include "design/horizontal_project.h"
@@ -51,7 +52,8 @@ std::string projectText(const GroundDesign& design);
 void readProjectText(std::string_view bytes, BoreholeProject& project);
 void readProjectText(std::string_view bytes, HorizontalProject& project);
 void readProjectText(std::string_view bytes, SurfaceWaterProject& project);
-void readProjectText(std::string_view bytes, GroundDesign& design);
+/// @param report  tells how far the reading came; may be null
+void readProjectText(std::string_view bytes, GroundDesign& design, ReadingReport* report = nullptr);
 
 /// Replaces the project file whole. Throws as replaceWholeFile.
 void saveVHTFile(const GroundDesign& design, const std::string& path);

@@ -5,12 +5,16 @@
 #include <optional>
 #include <utility>
 
+#include "basis/file_kind.h"
 #include "basis/file_system.h"
 #include "basis/line_file.h"
 #include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
 #include "design/ground_design.h"
+#include "forms/patient_reading.h"
 #include "forms/text_numbers.h"
+#include "frame/file_damage.h"
+#include "frame/open_file.h"
 #include "frame/varnmain.h"
 #include "loads/links.h"
 #include "loads/loads_window.h"
@@ -37,18 +41,30 @@ void readDefaults(GroundDesign& design) {
     }
 }
 
+/// A project file that is being opened.
+struct ProjectSource {
+    std::string path;
+    FileSource::Content content;
+    OpenFile file;
+    OpenAs as = OpenAs::itself;
+};
+
 /// Whatever goes wrong, the window keeps the values read so far.
-void readProject(GroundDesign& design) {
-    design.setFile(design.main().commonDialogFile);
+void readProject(GroundDesign& design, ProjectSource& source) {
+    design.setFile(source.path);
+    FileDamage damage{design.FileName, {}};
     bool linkIsStored = true;
     try {
-        const std::string bytes = readWholeFile(design.filePath());
-        linkIsStored = tellsOfLink(bytes);
-        readProjectText(bytes, design);
+        linkIsStored = tellsOfLink(source.content.bytes);
+        readProjectText(source.content.bytes, design, &damage.report);
     } catch (const RunTimeError& error) {
         warnOfReading(design.main(), error);
-        design.setHalfReadFile(design.FileName);
+        damage.report.error = error.number();
     }
+    design.setDamage(damage);
+    if (source.as == OpenAs::copy) design.forgetFile();
+    if (source.as == OpenAs::itself) design.openFile = std::move(source.file);
+    source.content = {};
     ZoneFile zones = design.loads().file;
     zones.exists = !zones.name.empty();
     design.takeZoneFile(zones);
@@ -56,27 +72,44 @@ void readProject(GroundDesign& design) {
         design, [&design, linkIsStored] { resolveZoneLink(design, linkIsStored); });
 }
 
-/// Opens a window of the kind in the next free slot; its set-up reads the project or the defaults.
-/// Null when all slots are taken.
-GroundDesign* openDesign(Varnmain& main, const DesignFileKind& kind) {
+/// Opens a window of the kind in the next free slot; its set-up reads the project, or the defaults
+/// where there is none. Null when all slots are taken.
+GroundDesign* openDesign(Varnmain& main, const DesignFileKind& kind,
+                         ProjectSource* source = nullptr) {
     const std::int16_t slot = main.takeSlot(kind.kind);
     if (slot == 0) return nullptr;
     std::unique_ptr<GroundDesign> made = kind.make(main, slot);
     GroundDesign& design = *made;
     design.files.readINIFile = [&design] { readDefaults(design); };
-    design.files.readProject = [&design] { readProject(design); };
+    design.files.readProject = [&design, source] { readProject(design, *source); };
     design.files.queryClose = [&design] { return saveBeforeClosing(design); };
     design.files.findZoneFile = [&design] { findZoneFile(design); };
     main.open(std::move(made));
+    design.files.readProject = nullptr;
     return &design;
 }
 
-/// The kind of design that the file holds; nothing, after a message, when it cannot be read.
-const DesignFileKind* kindOfFile(Varnmain& main, const std::string& path) {
+/// The kind of design that the file holds, by its second line. Throws RunTimeError 62 where there
+/// is none.
+const DesignFileKind& kindOfProject(std::string_view bytes) {
+    LineFileReader file(bytes);
+    file.line();
+    return fileKindOfTitle(file.line());
+}
+
+/// Reads the file, and asks what has to be asked before it is shown. Null, after whatever there is
+/// to tell, when it is not to be opened.
+const DesignFileKind* prepareToOpen(Varnmain& main, ProjectSource& source) {
     try {
-        LineFileReader file = LineFileReader::open(path);
-        file.line();
-        return &fileKindOfTitle(file.line());
+        source.content = readFor(main.platform(), source.path);
+        const FileKind kind = fileKind(source.content.bytes);
+        if (isCertainlyOther(kind, FileKind::project)) {
+            main.setNotice(damageText(main.texts(), {fileNameOf(source.path), {}, kind}));
+            return nullptr;
+        }
+        const std::size_t most = ReadingLimits{}.mostBytes;
+        source.as = takeFile(main, source.path, most, source.content, source.file);
+        return source.as == OpenAs::notAtAll ? nullptr : &kindOfProject(source.content.bytes);
     } catch (const RunTimeError& error) {
         warnOfReading(main, error);
     }
@@ -127,16 +160,18 @@ void mnuFileOpen_Click(Varnmain& main) {
 void openProjectFile(Varnmain& main, const std::string& path) {
     const std::string whole = absolutePath(main, path);
     if (isOpenAlready(main, whole)) return;
-    const DesignFileKind* kind = kindOfFile(main, whole);
+    main.setNotice({});
+    ProjectSource source{whole, {}, {}};
+    const DesignFileKind* kind = prepareToOpen(main, source);
     if (kind == nullptr) return;
     main.commonDialogFile = whole;
     main.TempDirectory = folderOf(whole);
     const GroundDesign* design = nullptr;
     {
         const RaisedFlag opening(main.openCall);
-        design = openDesign(main, *kind);
+        design = openDesign(main, *kind, &source);
     }
-    if (design == nullptr) return;
+    if (design == nullptr || !design->currentFileCheck) return;
     main.openWindowFiles(kind->kind, design->counter) = whole;
     main.fileUsed(whole);
 }

@@ -2,11 +2,13 @@
 #include "persistence/saving.h"
 
 #include <optional>
+#include <utility>
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
 #include "design/ground_design.h"
 #include "forms/text_numbers.h"
+#include "frame/open_file.h"
 #include "frame/varnmain.h"
 #include "loads/links.h"
 #include "persistence/design_files.h"
@@ -23,27 +25,45 @@ bool zonesAreSettled(GroundDesign& design) {
     return !design.main().saveCancelled;
 }
 
-/// True when the project is on the disk. The defaults file is a convenience: that it could not be
-/// written is told, and the project is saved all the same.
-bool write(GroundDesign& design, const std::string& path) {
-    Varnmain& main = design.main();
-    try {
-        saveVHTFile(design, path);
-    } catch (const RunTimeError& error) {
-        warn(main, error.message());
-        main.saveCancelled = true;
-        return false;
-    }
+/// That the defaults file could not be written is told, and the project is saved all the same.
+void writeDefaults(const GroundDesign& design) {
     try {
         saveINIFile(design);
     } catch (const RunTimeError& error) {
-        warn(main, error.message());
+        warn(design.main(), error.message());
     }
-    design.setHalfReadFile({});
+}
+
+/// What has become of the file. A failure is told, and counts as a save that was cancelled.
+SavedAs writeFile(GroundDesign& design, const std::string& path, OpenFile& file) {
+    try {
+        return saveFile(design.main(), path, projectText(design), file);
+    } catch (const RunTimeError& error) {
+        warn(design.main(), error.message());
+        return SavedAs::nothing;
+    }
+}
+
+/// Writes the project, as the file that it has or under a new name.
+SavedAs write(GroundDesign& design, const std::string& path) {
+    Varnmain& main = design.main();
+    const bool own = design.currentFileCheck && samePath(path, design.filePath());
+    OpenFile fresh;
+    OpenFile& file = own ? design.openFile : fresh;
+    const SavedAs saved = writeFile(design, path, file);
+    if (saved == SavedAs::nothing) main.saveCancelled = true;
+    if (saved != SavedAs::itself) return saved;
+    if (!own) {
+        if (main.guardsFiles) fresh.lock = lockFile(path).lock;
+        design.openFile = std::move(fresh);
+    }
+    design.openFile.readOnly = false;
+    writeDefaults(design);
+    design.setDamage({});
     design.noteSaved();
     design.refreshNotice();
     main.fileUsed(path);
-    return true;
+    return saved;
 }
 
 /// The caption behind the words that all captions of the kind begin with.
@@ -78,25 +98,33 @@ std::optional<std::string> chooseName(GroundDesign& design) {
     }
 }
 
+void saveUnderChosenName(GroundDesign& design) {
+    Varnmain& main = design.main();
+    SavedAs saved = SavedAs::elsewhere;
+    while (saved == SavedAs::elsewhere) {
+        const std::optional<std::string> path = chooseName(design);
+        if (!path) {
+            main.saveCancelled = true;
+            return;
+        }
+        // The design takes the new name only when the file is there.
+        saved = write(design, *path);
+        if (saved != SavedAs::itself) continue;
+        renameDesign(design, *path);
+        main.openWindowFiles(design.kind(), design.counter) = *path;
+    }
+}
+
 }  // namespace
 
 void saveDesign(GroundDesign& design) {
-    if (!design.currentFileCheck) return saveDesignAs(design);
-    if (zonesAreSettled(design)) write(design, design.filePath());
+    if (!design.currentFileCheck || design.savesUnderNewName()) return saveDesignAs(design);
+    if (!zonesAreSettled(design)) return;
+    if (write(design, design.filePath()) == SavedAs::elsewhere) saveUnderChosenName(design);
 }
 
 void saveDesignAs(GroundDesign& design) {
-    if (!zonesAreSettled(design)) return;
-    Varnmain& main = design.main();
-    const std::optional<std::string> path = chooseName(design);
-    if (!path) {
-        main.saveCancelled = true;
-        return;
-    }
-    // The design takes the new name only when the file is there.
-    if (!write(design, *path)) return;
-    renameDesign(design, *path);
-    main.openWindowFiles(design.kind(), design.counter) = *path;
+    if (zonesAreSettled(design)) saveUnderChosenName(design);
 }
 
 bool saveBeforeClosing(GroundDesign& design) {

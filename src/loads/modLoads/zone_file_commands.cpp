@@ -2,8 +2,10 @@
 // Opening and saving zone files, and the questions about unsaved changes.
 #include <utility>
 
+#include "basis/file_kind.h"
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
+#include "forms/patient_reading.h"
 #include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 #include "loads/linked_design.h"
@@ -50,32 +52,56 @@ void ZoneWindow::LOOpenCommand_Click() {
     if (LOOpenZoneFile(*path)) main().fileUsed(*path);
 }
 
-bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
-    const LoadsData& before = document_.data;
-    LoadsData data = before;
-    bool whole = true;
+/// Reads into `data` what the file holds. Nothing where the file is not to be opened.
+std::optional<ZoneWindow::ReadZones> ZoneWindow::readZonesFor(const std::string& path,
+                                                              LoadsData& data) {
+    ReadZones read{{fileNameOf(path), {}}, {}};
     try {
-        readZoneFile(path, {text(Text::zone), catalogue.firstSeries()}, data);
-        if (data.zones.size() > mostZones) throw RunTimeError(6);
+        FileSource::Content content = readFor(platform(), path, largestZoneFile);
+        const FileKind kind = fileKind(content.bytes);
+        if (isCertainlyOther(kind, FileKind::zones)) {
+            read.damage.other = kind;
+            return read;
+        }
+        read.as = varnholt::takeFile(main(), path, largestZoneFile, content, read.file);
+        if (read.as == OpenAs::notAtAll) return std::nullopt;
+        readZones(content.bytes, {text(Text::zone), catalogue.firstSeries()}, data,
+                  &read.damage.report);
     } catch (const RunTimeError& error) {
         // Only a missing file and a file that ends too early are worth a message.
         if (error.number() == 53 || error.number() == 62)
             show(MessageIcon::exclamation, error.message());
-        whole = false;
+        read.damage.report.error = error.number();
     }
-    if (!whole && data == before) return false;
+    return read;
+}
+
+bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
+    const LoadsData& before = document_.data;
+    LoadsData data = before;
+    std::optional<ReadZones> read = readZonesFor(path, data);
+    if (!read) return false;
+    const int error = read->damage.report.error;
+    const bool toItsEnd = error == 0 && read->damage.other == FileKind::unknown;
+    if (!toItsEnd && data == before) {
+        // A box has told that the file is missing.
+        constexpr int fileNotFound = 53;
+        if (error != fileNotFound) damage_ = damageText(texts(), read->damage);
+        refreshNotice();
+        return false;
+    }
     takeLoads(std::move(data));
     forgetZoneFile();
-    if (whole)
-        takeFile(path);
-    else
-        halfReadFile_ = fileNameOf(path);
-    startHistory(whole);
+    openFile_ = std::move(read->file);
+    if (toItsEnd && read->as == OpenAs::itself) takeFile(path);
+    if (!read->damage.isNone())
+        damage_ = damageText(texts(), read->damage) + " " + text(Text::noticeSaveAsksForName);
+    startHistory(toItsEnd);
     // What is left of a damaged file must not take the file's place without a question.
-    setChanged(!whole && !ZoneList().empty());
+    setChanged(!toItsEnd && !ZoneList().empty());
     refreshNotice();
     refreshLinkedNotices();
-    return whole;
+    return toItsEnd;
 }
 
 void ZoneWindow::takeLoads(LoadsData data) {
@@ -96,32 +122,47 @@ void ZoneWindow::takeFile(const std::string& path) {
 void ZoneWindow::forgetZoneFile() {
     document_.file.exists = false;
     document_.file.name.clear();
-    halfReadFile_.clear();
+    damage_.clear();
+    openFile_ = {};
     showFile();
 }
 
 void ZoneWindow::LOSaveCommand_Click() {
-    const std::optional<std::string> path = platform().chooseFile(zoneDialog(true));
-    if (!path) return;
-    main().TempDirectory = folderOf(*path);
-    if (!saveZonesTo(*path)) return;
-    takeFile(*path);
-    halfReadFile_.clear();
+    SavedAs saved = SavedAs::elsewhere;
+    while (saved == SavedAs::elsewhere) {
+        const std::optional<std::string> path = platform().chooseFile(zoneDialog(true));
+        if (!path) return;
+        main().TempDirectory = folderOf(*path);
+        saved = saveZonesTo(*path);
+        if (saved == SavedAs::itself) savedUnder(*path);
+    }
+}
+
+void ZoneWindow::savedUnder(const std::string& path) {
+    takeFile(path);
+    damage_.clear();
+    openFile_.readOnly = false;
     keepFileInHistory();
     markSaved();
     setChanged(false);
-    main().fileUsed(*path);
+    main().fileUsed(path);
 }
 
-bool ZoneWindow::saveZonesTo(const std::string& path) {
+SavedAs ZoneWindow::saveZonesTo(const std::string& path) {
+    const bool own = file().exists && samePath(path, joinPath(file().folder, file().name));
+    OpenFile fresh;
+    SavedAs saved = SavedAs::nothing;
     try {
-        saveZoneFile(path, document_.data);
+        saved = saveFile(main(), path, zonesText(document_.data), own ? openFile_ : fresh);
     } catch (const RunTimeError& error) {
         show(MessageIcon::exclamation, text(Text::zonesNotSaved) + "\n\n" + path + "\n\n" +
                                            RunTimeError(error.number()).message());
-        return false;
+        return SavedAs::nothing;
     }
-    return true;
+    if (own || saved != SavedAs::itself) return saved;
+    if (main().guardsFiles) fresh.lock = lockFile(path).lock;
+    openFile_ = std::move(fresh);
+    return saved;
 }
 
 /// The frame asks more briefly when it closes all of its windows.

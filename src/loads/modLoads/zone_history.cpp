@@ -17,11 +17,11 @@ namespace {
 struct LoadsState {
     LoadsDocument document;
     std::vector<int> linkedDesigns;  ///< numbers of their windows, ascending
-    std::string halfReadFile;
+    std::string damage;
     int shownZone = -1;
 
     friend bool operator==(const LoadsState& a, const LoadsState& b) {
-        return a.document == b.document && a.halfReadFile == b.halfReadFile &&
+        return a.document == b.document && a.damage == b.damage &&
                a.linkedDesigns == b.linkedDesigns;
     }
 };
@@ -70,7 +70,7 @@ void restoreLinks(LoadsWindow& loads, const std::vector<int>& wanted) {
 }  // namespace
 
 StatePointer ZoneWindow::state() const {
-    LoadsState now{document_, designsLinkedTo(*this), halfReadFile_, selectedZone()};
+    LoadsState now{document_, designsLinkedTo(*this), damage_, selectedZone()};
     now.document.information = {};
     return std::make_shared<LoadsMoment>(std::move(now));
 }
@@ -91,7 +91,7 @@ void ZoneWindow::keepFileInHistory() {
     rewriteHistory([&](const DocumentState& state) {
         LoadsState rewritten = valueOf(state);
         if (!rewritten.document.data.zones.empty()) rewritten.document.file = document_.file;
-        rewritten.halfReadFile.clear();
+        rewritten.damage.clear();
         return std::make_shared<LoadsMoment>(std::move(rewritten));
     });
 }
@@ -105,7 +105,7 @@ void ZoneWindow::restore(const DocumentState& earlier) {
             document.information = std::move(information);
         },
         wanted.shownZone);
-    halfReadFile_ = wanted.halfReadFile;
+    damage_ = wanted.damage;
     restoreLinks(*this, wanted.linkedDesigns);
 }
 
@@ -151,8 +151,11 @@ std::string ZoneWindow::stepName(const UserAction& action) const {
 
 std::vector<Notice> ZoneWindow::notices() {
     std::vector<Notice> holding;
-    if (!halfReadFile_.empty())
-        holding.push_back({filledIn(text(Text::noticeFileIncomplete), {halfReadFile_})});
+    if (!damage_.empty()) holding.push_back({damage_});
+    if (openFile_.readOnly)
+        holding.push_back({filledIn(text(Text::noticeOpenElsewhere), {fileOnShow()})});
+    for (const FileDamage& damage : catalogue.damage())
+        holding.push_back({damageText(texts(), damage)});
     if (const auto refused = fields().refused()) holding.push_back(refusedNotice(*refused));
     return holding;
 }

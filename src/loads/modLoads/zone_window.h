@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "frame/file_damage.h"
+#include "frame/open_file.h"
 #include "loads/ModLoadsIO.h"
 #include "loads/loads_window.h"
 #include "loads/modLoads/loads_pictures.h"
@@ -195,7 +197,15 @@ class ZoneWindow : public LoadsWindow {
     void importIntoSelected(const ByMode<MonthlyLoads>& years, const std::string& title);
 
     Answer askForSave();
-    bool saveZonesTo(const std::string& path);
+    /// What came of reading a file.
+    struct ReadZones {
+        FileDamage damage;
+        OpenFile file;
+        OpenAs as = OpenAs::itself;
+    };
+    std::optional<ReadZones> readZonesFor(const std::string& path, LoadsData& data);
+    SavedAs saveZonesTo(const std::string& path);
+    void savedUnder(const std::string& path);
     void takeFile(const std::string& path);
     std::string proposedFile() const;
     std::string newFile() const;
@@ -243,8 +253,9 @@ class ZoneWindow : public LoadsWindow {
 
     const ZoneWindowKind& kind_;
     bool changed_ = false;
-    /// Name of the file that was opened last and not read to its end; empty for none.
-    std::string halfReadFile_;
+    /// What is wrong with the file that was opened last; empty for nothing.
+    std::string damage_;
+    OpenFile openFile_;
 };
 
 }  // namespace varnholt
