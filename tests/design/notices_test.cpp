@@ -192,16 +192,19 @@ TEST_F(DesignNotices, StandInTheirOrder) {
     makeRunsOverflow();
     calculate();
     design->setMissingZoneFile("school.zon");
-    design->setHalfReadFile("school.vht");
+    FileDamage damage{"school.vht", {}};
+    damage.report.error = 62;
+    design->setDamage(damage);
     type("SOGroundTempText", "213");  // 62 again: only the loads are others than those of the run
     type("PATimeText", "15");
     type("SOGroundTempText", "213");
     EXPECT_EQ(notice(),
-              "Not all of school.vht could be read. The zone file school.zon was not found. "
+              "Not all of school.vht could be read. [1242] [1248] [1249] The zone file school.zon "
+              "was not found. "
               "Ended in an overflow. [2303]: 213 is refused, 0.0 to 212.0, now 62.0. "
               "Results are out of date");
     EXPECT_FALSE(command().visible());
-    design->setHalfReadFile({});
+    design->setDamage({});
     design->refreshNotice();
     EXPECT_EQ(command().caption(), "Find");
     int searches = 0;

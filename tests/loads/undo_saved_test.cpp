@@ -138,7 +138,7 @@ TEST_F(SavedZones, OfAHalfReadFileAreToldOf) {
     writeHalfFile();
     open("half.zon");
     ASSERT_EQ(window.zoneNumber(), 1);
-    EXPECT_EQ(notice(), "Not all of half.zon could be read.");
+    EXPECT_EQ(notice(), "Not all of half.zon could be read. [1242] [1246] [1249]");
     EXPECT_TRUE(window.control("NoticeLabel").visible());
     EXPECT_FALSE(window.control("NoticeCommand").visible());
 }
@@ -148,7 +148,7 @@ TEST_F(SavedZones, OfAHalfReadFileAreToldOfUntilTheyAreSaved) {
     open("half.zon");
     typeAndLeave("LOGainsText(0)", "9");
     undo();
-    EXPECT_EQ(notice(), "Not all of half.zon could be read.");
+    EXPECT_EQ(notice(), "Not all of half.zon could be read. [1242] [1246] [1249]");
     setSaved(window, "rest.zon");
     EXPECT_EQ(notice(), "");
 }
@@ -168,7 +168,7 @@ TEST_F(SavedZones, OfAHalfReadFileAreToldOfUntilTheZonesAreCleared) {
     window.click("LOClearCommand");
     EXPECT_EQ(notice(), "");
     undo();
-    EXPECT_EQ(notice(), "Not all of half.zon could be read.");
+    EXPECT_EQ(notice(), "Not all of half.zon could be read. [1242] [1246] [1249]");
 }
 
 TEST_F(SavedZones, OfAHalfReadFileStayUnsavedHoweverMuchIsUndone) {
@@ -212,7 +212,8 @@ TEST_F(SavedZones, WhatAFileLostIsToldBeforeARefusedValue) {
     open("half.zon");
     window.type("LODaysperWeekText", "8");
     EXPECT_EQ(notice(),
-              "Not all of half.zon could be read. [2830]: 8 is refused, 0.0 to 7.0, now 7.0.");
+              "Not all of half.zon could be read. [1242] [1246] [1249] [2830]: 8 is refused, 0.0 "
+              "to 7.0, now 7.0.");
 }
 
 TEST_F(LoadsUndo, HasANameForWhateverAPersonChanges) {

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "basis/file_system.h"
+#include "basis/run_time_error.h"
 #include "catalogue/sample_models.h"
 #include "loads/ModLoadsIO.h"
 
@@ -241,6 +244,56 @@ TEST(ZoneFile, ReplacesTheOldFile) {
     readZoneFile(folder.path() + "/a.zon", context, read);
     EXPECT_EQ(read, data);
     EXPECT_EQ(errorOf([&] { saveZoneFile(folder.path() + "/none/a.zon", data); }), 76);
+}
+
+TEST(ZoneFile, TellsHowManyOfItsZonesWereRead) {
+    LoadsData data;
+    data.zones = std::vector<Zone>(40);
+    const std::string whole = zonesText(data);
+    // Title and number of zones, and 30 lines each: four and a half zones.
+    std::size_t end = 0;
+    for (int line = 0; line < 2 + 4 * 30 + 15; ++line) end = whole.find('\n', end) + 1;
+    LoadsData read;
+    ReadingReport report;
+    EXPECT_THROW(readZones(whole.substr(0, end), context, read, &report), RunTimeError);
+    EXPECT_EQ(report.error, 62);
+    EXPECT_EQ(report.line, 2U + 4 * 30 + 15);
+    EXPECT_EQ(report.found, 4U);
+    EXPECT_EQ(report.stated, 40U);
+    EXPECT_EQ(read.zones.size(), 4U);
+}
+
+TEST(ZoneFile, LeavesOutTheZonesThatTheProgramDoesNotCount) {
+    LoadsData data;
+    data.zones = std::vector<Zone>(3);
+    data.conditions.flowRate = 2.5;
+    // The same text for 32,767 zones and two more.
+    constexpr std::size_t many = 32767 + 2;
+    LoadsData large = data;
+    large.zones = std::vector<Zone>(many);
+    LoadsData read;
+    ReadingReport report;
+    readZones(zonesText(large), context, read, &report);
+    EXPECT_EQ(read.zones.size(), 32767U);
+    EXPECT_EQ(report.leftOut, 2U);
+    EXPECT_EQ(report.error, 0);
+    // What stands behind the zones left out is found all the same.
+    EXPECT_EQ(read.conditions.flowRate, 2.5);
+    EXPECT_FALSE(report.leftover);
+    EXPECT_FALSE(report.isWhole());
+}
+
+TEST(ZoneFile, TellsOfLinesThatBelongToNothing) {
+    LoadsData data, read;
+    data.zones = std::vector<Zone>(2);
+    const std::string whole = zonesText(data);
+    ReadingReport report;
+    readZones(whole + "\r\n", context, read, &report);
+    EXPECT_TRUE(report.isWhole());
+    readZones(whole + "7\r\n", context, read, &report);
+    EXPECT_TRUE(report.leftover);
+    EXPECT_EQ(report.line,
+              static_cast<std::size_t>(std::count(whole.begin(), whole.end(), '\n')) + 1);
 }
 
 }  // namespace

@@ -100,7 +100,7 @@ TEST_F(NoticesOfAFile, TellThatNotAllOfAProjectWasRead) {
     const std::string whole = bytesOf(school());
     writeBytes(school(), whole.substr(0, whole.size() / 2));
     frmBHDesign& opened = reopen();
-    EXPECT_EQ(notice(), "Not all of school.vht could be read.");
+    EXPECT_EQ(notice(), "Not all of school.vht could be read. [1242] [1248] [1249]");
     EXPECT_EQ(messages(), 1U);
     pick("work files/rest.vht");
     main.activate(opened);

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "basis/system/lock_file.h"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "basis/file_system.h"
+#include "basis/temporary_folder.h"
+
+namespace varnholt {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Locks : public testing::Test {
+ protected:
+    Locks() : path(folder / "school.vht") { replaceWholeFile(path, ""); }
+
+    std::size_t filesInFolder() const {
+        return static_cast<std::size_t>(
+            std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()));
+    }
+    /// Another process that marks the file and waits; returns when the mark is there.
+    pid_t lockElsewhere(const std::string& file) {
+        int marked[2];
+        EXPECT_EQ(::pipe(marked), 0);
+        const pid_t child = ::fork();
+        if (child == 0) {
+            const LockAttempt attempt = lockFile(file);
+            const char answer = attempt.holder ? 'n' : 'y';
+            if (::write(marked[1], &answer, 1) == 1) ::pause();
+            ::_exit(0);
+        }
+        char answer = 0;
+        EXPECT_EQ(::read(marked[0], &answer, 1), 1);
+        EXPECT_EQ(answer, 'y');
+        ::close(marked[0]);
+        ::close(marked[1]);
+        return child;
+    }
+    static void kill(pid_t child) {
+        ::kill(child, SIGKILL);
+        int status = 0;
+        ::waitpid(child, &status, 0);
+    }
+
+    TemporaryFolder folder;
+    std::string path;
+};
+
+TEST_F(Locks, LastAsLongAsTheFileIsOpen) {
+    {
+        const LockAttempt attempt = lockFile(path);
+        EXPECT_FALSE(attempt.holder.has_value());
+        EXPECT_EQ(filesInFolder(), 2U);
+    }
+    EXPECT_EQ(filesInFolder(), 1U);
+}
+
+TEST_F(Locks, TellWhoHasTheFileOpen) {
+    const pid_t child = lockElsewhere(path);
+    fs::create_symlink("school.vht", folder / "link.vht");
+    for (const std::string& name : {path, folder / "link.vht"}) {
+        const LockAttempt attempt = lockFile(name);
+        ASSERT_TRUE(attempt.holder.has_value());
+        EXPECT_EQ(attempt.holder->process.number, child);
+        EXPECT_EQ(attempt.holder->process.host, thisProcess().host);
+        EXPECT_EQ(attempt.holder->user, userName());
+    }
+    kill(child);
+}
+
+TEST_F(Locks, OfAProgramThatWasKilledAreTakenAway) {
+    kill(lockElsewhere(path));
+    EXPECT_EQ(filesInFolder(), 2U);
+    const LockAttempt attempt = lockFile(path);
+    EXPECT_FALSE(attempt.holder.has_value());
+    EXPECT_EQ(filesInFolder(), 2U);
+}
+
+TEST_F(Locks, OfFilesWithTheLongestNamesAreMadeToo) {
+    const std::string longest = folder / (std::string(251, 'n') + ".vht");
+    replaceWholeFile(longest, "");
+    const LockAttempt attempt = lockFile(longest);
+    EXPECT_EQ(filesInFolder(), 3U);
+}
+
+TEST_F(Locks, AreDoneWithoutWhereTheFolderIsNone) {
+    const LockAttempt attempt = lockFile(folder / "nowhere/school.vht");
+    EXPECT_FALSE(attempt.holder.has_value());
+}
+
+}  // namespace
+}  // namespace varnholt

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Files that others have changed, damaged or mistaken for projects.
+#include <algorithm>
+
+#include "persistence/project_fixture.h"
+
+namespace varnholt {
+namespace {
+
+class OtherHands : public ProjectTest {
+ protected:
+    OtherHands() {
+        texts.known.insert({{1236, "Not all of %1 could be read."},
+                            {1242, "Ends at %1."},
+                            {1244, "More from line %1."},
+                            {1248, "Doubted."},
+                            {1249, "Asks."},
+                            {1250, "%1 is %2."},
+                            {1252, "a zone file"},
+                            {1256, "UTF-16"},
+                            {1257, "no text"},
+                            {8544, "%1 changed: %2, %3"}});
+        saveAs(newDesign(), "work files/school.vht");
+        school = folder / "work files/school.vht";
+        whole = bytesOf(school);
+    }
+    /// What another program has made of the file.
+    void changeElsewhere() { writeBytes(school, whole + "\r\n"); }
+    std::string notice() { return design().control("NoticeLabel").caption(); }
+    std::string mainNotice() const { return main.control("NoticeLabel").caption(); }
+    void click(const char* entry) { main.click(entry); }
+
+    std::string school, whole;
+};
+
+TEST_F(OtherHands, OverwriteNothingThatAnotherProgramHasWrittenWithoutAQuestion) {
+    design().type("INProjectNameText", "Mine");
+    changeElsewhere();
+    answer(Answer::cancel);
+    click("mnuFileSave");
+    ASSERT_EQ(platform.questions.size(), 1U);
+    EXPECT_TRUE(platform.questions[0].text.starts_with("school.vht changed: "));
+    EXPECT_EQ(bytesOf(school), whole + "\r\n");
+    EXPECT_TRUE(design().isChanged());
+}
+
+TEST_F(OtherHands, GiveWayWhenThePersonSaysSo) {
+    design().type("INProjectNameText", "Mine");
+    changeElsewhere();
+    answer(Answer::yes);
+    click("mnuFileSave");
+    EXPECT_NE(bytesOf(school).find("Mine"), std::string::npos);
+    // From now on the file is known again.
+    click("mnuFileSave");
+    EXPECT_EQ(platform.questions.size(), 1U);
+}
+
+TEST_F(OtherHands, LeadToAnotherNameWhenThePersonSaysSo) {
+    design().type("INProjectNameText", "Mine");
+    changeElsewhere();
+    answer(Answer::no);
+    pick("work files/mine.vht");
+    click("mnuFileSave");
+    EXPECT_EQ(bytesOf(school), whole + "\r\n");
+    EXPECT_EQ(design().FileName, "mine.vht");
+    EXPECT_FALSE(design().isChanged());
+}
+
+TEST_F(OtherHands, AreNotSeenInTheProgramsOwnSaves) {
+    for (const char* name : {"One", "Two", "Three"}) {
+        design().type("INProjectNameText", name);
+        click("mnuFileSave");
+    }
+    EXPECT_TRUE(platform.questions.empty());
+    EXPECT_NE(bytesOf(school).find("Three"), std::string::npos);
+}
+
+TEST_F(OtherHands, TakeNoFileAwayThatCouldNotBeReadWhole) {
+    closeAll();
+    platform.questions.clear();
+    writeBytes(school, whole.substr(0, whole.size() / 2));
+    const std::string damaged = bytesOf(school);
+    open("work files/school.vht");
+    EXPECT_TRUE(notice().starts_with("Not all of school.vht could be read. Ends at "));
+    EXPECT_TRUE(notice().ends_with("Doubted. Asks."));
+    pick("work files/rest.vht");
+    click("mnuFileSave");
+    EXPECT_EQ(platform.dialogs.back().proposedName, "school.vht");
+    EXPECT_EQ(bytesOf(school), damaged);
+    EXPECT_EQ(design().FileName, "rest.vht");
+    EXPECT_EQ(notice(), "");
+    click("mnuFileSave");
+    EXPECT_TRUE(platform.questions.empty());
+}
+
+TEST_F(OtherHands, AreToldOfByLinesThatBelongToNothing) {
+    closeAll();
+    const auto lines = std::count(whole.begin(), whole.end(), '\n');
+    writeBytes(school, whole + "more\r\n");
+    open("work files/school.vht");
+    EXPECT_EQ(messages(), 0U);
+    EXPECT_EQ(notice(), "Not all of school.vht could be read. More from line " +
+                            std::to_string(lines + 1) + ". Doubted. Asks.");
+    // Empty lines at the end are nobody's loss.
+    closeAll();
+    writeBytes(school, whole + "\r\n\r\n");
+    open("work files/school.vht");
+    EXPECT_EQ(notice(), "");
+}
+
+TEST_F(OtherHands, AreNotTakenOverFromAFileOfAnotherKind) {
+    closeAll();
+    struct Case {
+        std::string bytes, told;
+    };
+    for (const Case& each :
+         {Case{"Zone Data File Version 3.0\r\n0\r\n", "other.vht is a zone file."},
+          Case{"\xFF\xFEV", "other.vht is UTF-16."},
+          Case{whole + std::string(1, '\0'), "other.vht is no text."}}) {
+        writeBytes(folder / "work files/other.vht", each.bytes);
+        pick("work files/other.vht");
+        click("mnuFileOpen");
+        EXPECT_TRUE(main.windows().empty());
+        EXPECT_EQ(mainNotice(), each.told);
+        EXPECT_TRUE(main.control("NoticeLabel").visible());
+    }
+    EXPECT_EQ(messages(), 0U);
+    click("NewBorehole");
+    EXPECT_EQ(mainNotice(), "");
+    EXPECT_FALSE(main.control("NoticeLabel").visible());
+}
+
+TEST_F(OtherHands, MayHoldAProjectWithAnUnknownTitle) {
+    closeAll();
+    writeBytes(folder / "work files/odd.vht", "X" + whole);
+    open("work files/odd.vht");
+    EXPECT_EQ(design().FileName, "odd.vht");
+    EXPECT_EQ(notice(), "");
+}
+
+}  // namespace
+}  // namespace varnholt
