@@ -3,6 +3,7 @@
 #include <QHashSeed>
 #include <iostream>
 
+#include "basis/system/process.h"
 #include "desktop/windows/program.h"
 #include "frame/program_version.h"
 #include "script/command_line.h"
@@ -35,8 +36,10 @@ int run(int& count, char** arguments) {
 }  // namespace varnholt
 
 int main(int count, char** arguments) {
+    varnholt::secureStandardStreams();
     try {
-        return varnholt::run(count, arguments);
+        const int status = varnholt::run(count, arguments);
+        return std::cout.flush() ? status : static_cast<int>(varnholt::ScriptStatus::programFault);
     } catch (const std::exception& exception) {
         std::cerr << "varnholt: " << exception.what() << '\n';
         return static_cast<int>(varnholt::ScriptStatus::programFault);

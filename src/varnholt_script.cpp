@@ -5,6 +5,7 @@
 #include "app/application.h"
 #include "basis/date.h"
 #include "basis/system/files.h"
+#include "basis/system/process.h"
 #include "script/command_line.h"
 #include "script/form_driver.h"
 #include "script/script_runner.h"
@@ -58,9 +59,12 @@ int run(const CommandLine& line) {
 
 int main(int count, char** arguments) {
     using namespace varnholt;
+    secureStandardStreams();
     std::ios::sync_with_stdio(false);
     try {
-        return run(parseCommandLine({arguments + 1, arguments + count}, Program::script));
+        const int status =
+            run(parseCommandLine({arguments + 1, arguments + count}, Program::script));
+        return std::cout.flush() ? status : static_cast<int>(ScriptStatus::programFault);
     } catch (const std::exception& exception) {
         std::cerr << "varnholt-script: " << exception.what() << '\n';
         return static_cast<int>(ScriptStatus::programFault);

@@ -98,12 +98,19 @@ class Parser {
 
     static std::string folder(const std::string& text) {
         if (text.empty()) throw UsageError("--program-folder needs a folder");
+        return wholePath(text);
+    }
+
+    static std::string wholePath(const std::string& text) {
+        if (!text.starts_with('/') && currentFolder().empty())
+            throw UsageError(
+                fmt::format("{} cannot be found, since the current folder is gone", text));
         return absolutePath(text);
     }
 
     void takeFile(const std::string& file) {
         if (program_ == Program::windows) {
-            line_.files.push_back(absolutePath(file));
+            line_.files.push_back(wholePath(file));
             return;
         }
         if (line_.script) throw UsageError("more than one script: " + file);

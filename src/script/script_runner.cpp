@@ -10,6 +10,7 @@ ScriptRunner::ScriptRunner(Varnmain& main, ScriptPlatform& platform, Driver& dri
     : main_(main),
       platform_(platform),
       driver_(driver),
+      transcript_(transcript),
       reader_(reader),
       faults_(faults),
       commands_(main, platform, driver, transcript) {
@@ -64,6 +65,8 @@ void ScriptRunner::execute(const ScriptLine& line) {
     if (!platform_.forms().isOpen(&main_)) throw ScriptFault("the program has been closed");
     commands_.execute(line);
     if (afterLine_) afterLine_();
+    if (transcript_.hasFailed())
+        throw ScriptFault("the transcript cannot be written", ScriptStatus::programFault);
     // The frame closes once the command that asked for it has ended.
     if (platform_.takeQuit()) driver_.close(main_);
 }

@@ -43,6 +43,7 @@ class ScriptRunner : private ScriptHost {
     Varnmain& main_;
     ScriptPlatform& platform_;
     Driver& driver_;
+    Transcript& transcript_;
     ScriptReader& reader_;
     std::ostream& faults_;
     std::function<void()> afterLine_;

@@ -29,6 +29,8 @@ class Transcript {
     explicit Transcript(std::ostream& out) : out_(out) {}
 
     void line(const std::string& text);
+    /// A line could not be written: the disk is full, or nobody reads any more.
+    bool hasFailed() const { return !out_; }
 
  private:
     std::ostream& out_;

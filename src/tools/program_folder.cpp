@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/program_folder.h"
 
+#include <fmt/format.h>
+
+#include <stdexcept>
+
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
 #include "basis/system/folders.h"
@@ -74,7 +78,7 @@ void takeName(const std::string& filled, const std::string& folder) {
     if (renameFolder(filled, folder)) return;
     const bool madeByAnother = isFolder(folder);
     removeFolder(filled);
-    if (!madeByAnother) throw RunTimeError(pathAccessError);
+    if (!madeByAnother) throw RunTimeError(pathAccessError, folder);
 }
 
 std::string withoutSlashAtEnd(std::string path) {
@@ -95,7 +99,13 @@ InstalledFiles installedFiles() { return installedFilesOf(executablePath()); }
 std::string userProgramFolder() {
     const std::string data = environmentVariable("XDG_DATA_HOME").value_or("");
     if (data.starts_with('/')) return joinPath(data, "varnholt");
-    return joinPath(environmentVariable("HOME").value_or("/"), ".local/share/varnholt");
+    constexpr const char* below = ".local/share/varnholt";
+    const std::string home = environmentVariable("HOME").value_or("");
+    if (!home.starts_with('/'))
+        throw std::runtime_error(fmt::format(
+            "the program's folder {} cannot be found, since HOME {}", joinPath("~", below),
+            home.empty() ? "is not set" : "is no full path: " + home));
+    return joinPath(home, below);
 }
 
 void fillProgramFolder(const std::string& path, const InstalledFiles& from) {
@@ -105,9 +115,9 @@ void fillProgramFolder(const std::string& path, const InstalledFiles& from) {
     try {
         makeFolders(filling);
         fill(filling, from);
-    } catch (const RunTimeError&) {
+    } catch (const RunTimeError& error) {
         removeFolder(filling);
-        throw RunTimeError(pathAccessError);
+        throw RunTimeError(error.number(), folder);
     }
     takeName(filling, folder);
 }

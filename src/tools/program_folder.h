@@ -19,7 +19,8 @@ InstalledFiles installedFiles();
 /// The same for an executable at that path.
 InstalledFiles installedFilesOf(const std::string& executable);
 
-/// The user's own program folder: $XDG_DATA_HOME/varnholt, or ~/.local/share/varnholt.
+/// The user's own program folder: $XDG_DATA_HOME/varnholt, or ~/.local/share/varnholt. Throws
+/// std::runtime_error where HOME tells no full path.
 std::string userProgramFolder();
 
 /// Makes a new program folder with the folders "work files", "zones", "pumps", "Data" and
@@ -29,7 +30,8 @@ std::string userProgramFolder();
 /// back. Only the folder of a program that had no reference pages yet is given them once, and the
 /// help that goes with them; Data/supplied.txt remembers that.
 ///
-/// The folder appears complete or not at all. Throws RunTimeError 75 when it cannot be made. What
+/// The folder appears complete or not at all. Throws RunTimeError 61, 70, 75 or 76,
+/// with the folder's path, when it cannot be made. What
 /// an older folder cannot be given, since it may not be written to, is left out without an error.
 void fillProgramFolder(const std::string& folder, const InstalledFiles& from);
 

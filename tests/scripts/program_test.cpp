@@ -90,5 +90,66 @@ TEST_F(Program, TheProgramFolderIsKnownByItsFullPath) {
               "value Varnmain.MainDirectory = \"" + (temporary.path() / "own").string() + "\"\n");
 }
 
+/// The exit status of a line of a shell with the program in place of PROGRAM, and what it says to
+/// standard error.
+class Failure : public Program {
+ protected:
+    ScriptOutcome shell(const std::string& line) const {
+        const std::string faults = (temporary.path() / "faults").string();
+        const std::string command = "cd '" + temporary.path().string() + "' && ( " +
+                                    replaced(line, "PROGRAM", VARNHOLT_BIN_DIR "/varnholt-script") +
+                                    " ) 2>'" + faults + "'";
+        const int status = std::system(command.c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, {}, wholeFile(faults)};
+    }
+};
+
+TEST_F(Failure, ToWriteTheTranscriptIsStatusOne) {
+    write("units.vscript", printUnits);
+    const ScriptOutcome full = shell("PROGRAM --program-folder . units.vscript >/dev/full");
+    EXPECT_EQ(full.status, 1);
+    EXPECT_EQ(full.faults, "units.vscript:1: the transcript cannot be written\n");
+    EXPECT_EQ(shell("PROGRAM --help >/dev/full").status, 1);
+    EXPECT_EQ(shell("PROGRAM --program-folder . units.vscript >&-").status, 1);
+    write("status", "");
+    shell("{ PROGRAM --program-folder . units.vscript; echo $? >status; } | true");
+    EXPECT_EQ(wholeFile(temporary.path() / "status"), "1\n");
+}
+
+TEST_F(Failure, OfAllStandardStreamsHarmsNoFile) {
+    write("save.vscript",
+          "click Varnmain.NewBorehole\npick school.vht\nclick Varnmain.mnuFileSaveAs\n"
+          "print frmBHDesign.INProjectNameText\nnonsense\n");
+    EXPECT_EQ(shell("PROGRAM --program-folder . save.vscript <&- >&- 2>&-").status, 1);
+    const std::string saved = wholeFile(temporary.path() / "school.vht");
+    EXPECT_TRUE(saved.starts_with("Varnholt Data File Version ")) << saved.substr(0, 80);
+    EXPECT_EQ(saved.find("nonsense"), std::string::npos);
+}
+
+TEST_F(Failure, OfTheHomeIsOneSentenceWithThePath) {
+    const std::string below = ".local/share/varnholt";
+    const ScriptOutcome unset = shell("env -u HOME -u XDG_DATA_HOME PROGRAM </dev/null");
+    EXPECT_EQ(unset.status, 1);
+    EXPECT_EQ(unset.faults, "varnholt-script: the program's folder ~/" + below +
+                                " cannot be found, since HOME is not set\n");
+    const ScriptOutcome relative = shell("env -u XDG_DATA_HOME HOME=some/where PROGRAM </dev/null");
+    EXPECT_EQ(relative.status, 1);
+    EXPECT_NE(relative.faults.find("is no full path: some/where"), std::string::npos);
+    write("file", "");
+    const ScriptOutcome file = shell("env -u XDG_DATA_HOME HOME=$PWD/file PROGRAM </dev/null");
+    EXPECT_EQ(file.status, 1);
+    EXPECT_EQ(file.faults, "varnholt-script: Path not found: " +
+                               (temporary.path() / "file" / below).string() + "\n");
+}
+
+TEST_F(Failure, OfTheCurrentFolderIsToldOnlyWhereItMatters) {
+    const std::string gone = "mkdir gone && cd gone && rmdir ../gone && ";
+    EXPECT_EQ(shell(gone + "PROGRAM --program-folder / </dev/null").status, 0);
+    const ScriptOutcome relative = shell(gone + "PROGRAM --program-folder own </dev/null");
+    EXPECT_EQ(relative.status, 2);
+    EXPECT_EQ(relative.faults,
+              "varnholt-script: own cannot be found, since the current folder is gone\n");
+}
+
 }  // namespace
 }  // namespace varnholt

@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <stdexcept>
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
@@ -103,7 +104,8 @@ TEST_F(ProgramFolder, ThatCannotBeMadeIsAnErrorAndLeavesNothingBehind) {
         fillProgramFolder(scratch.path("file/varnholt"), from);
         FAIL() << "a folder below a file was made";
     } catch (const RunTimeError& error) {
-        EXPECT_EQ(error.number(), 75);
+        EXPECT_EQ(error.number(), 76);
+        EXPECT_NE(error.description().find(scratch.path("file/varnholt")), std::string::npos);
     }
     EXPECT_THROW(fillProgramFolder(scratch.path("file"), from), RunTimeError);
     for (const auto& entry : fs::directory_iterator(scratch.path()))
@@ -132,6 +134,21 @@ TEST(UserProgramFolder, FollowsTheDesktopsFolderForData) {
     unsetenv("XDG_DATA_HOME");
     EXPECT_EQ(userProgramFolder(), std::string(std::getenv("HOME")) + "/.local/share/varnholt");
     if (old != nullptr) setenv("XDG_DATA_HOME", before.c_str(), 1);
+}
+
+TEST(UserProgramFolder, IsNoneWhereTheHomeIsNoFullPath) {
+    const char* oldData = std::getenv("XDG_DATA_HOME");
+    const std::string data = oldData != nullptr ? oldData : "";
+    const std::string home = std::getenv("HOME");
+    unsetenv("XDG_DATA_HOME");
+    for (const char* wrong : {"", "relative/home"}) {
+        setenv("HOME", wrong, 1);
+        EXPECT_THROW(userProgramFolder(), std::runtime_error) << wrong;
+    }
+    unsetenv("HOME");
+    EXPECT_THROW(userProgramFolder(), std::runtime_error);
+    setenv("HOME", home.c_str(), 1);
+    if (oldData != nullptr) setenv("XDG_DATA_HOME", data.c_str(), 1);
 }
 
 }  // namespace

@@ -86,6 +86,14 @@ std::optional<std::string> environmentVariable(const char* name) {
     return value;
 }
 
+void secureStandardStreams() {
+    // The lowest free number is the closed one, as those below it have been seen to.
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (::fcntl(stream, F_GETFD) < 0)
+            static_cast<void>(::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY));
+    ::signal(SIGPIPE, SIG_IGN);
+}
+
 std::uint64_t unguessableNumber() {
     std::uint64_t number = 0;
     const auto wanted = static_cast<ssize_t>(sizeof number);

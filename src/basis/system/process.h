@@ -34,6 +34,11 @@ std::string userName();
 /// A variable of the environment; nothing when it is not set.
 std::optional<std::string> environmentVariable(const char* name);
 
+/// To be called first in a program: where a standard stream is closed, its number goes to something
+/// that can neither be read nor written, so that no file of the program's is ever taken for it. A
+/// reader of the output that ends is a failed write from then on, and not the end of the program.
+void secureStandardStreams();
+
 /// A number that nobody can guess.
 std::uint64_t unguessableNumber();
 

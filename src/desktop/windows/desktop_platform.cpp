@@ -159,6 +159,21 @@ void DesktopPlatform::progress(const std::string& what, std::size_t done, std::s
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
+bool DesktopPlatform::waitFor(const std::string& path, std::chrono::milliseconds waited) {
+    if (waited.count() < patience) return true;
+    if (!waiting_) {
+        const std::string words = shelf_.mainWindow().reading(fileNameOf(path));
+        waiting_ = std::make_unique<QProgressDialog>(shelf_.mainWindow().dialogParent());
+        waiting_->setWindowModality(Qt::ApplicationModal);
+        waiting_->setMinimumDuration(0);
+        waiting_->setRange(0, 0);
+        waiting_->setLabelText(qt(words));
+        waiting_->show();
+    }
+    QCoreApplication::processEvents();
+    return !waiting_->wasCanceled();
+}
+
 void DesktopPlatform::openOutside(const std::string& address) {
     if (mayOpenOutside(address)) QDesktopServices::openUrl(QUrl(qt(address)));
 }

@@ -30,6 +30,8 @@ class DesktopPlatform : public Platform {
     Date today() override { return dateOfToday(); }
     void edit(EditCommand command) override;
     void progress(const std::string& what, std::size_t done, std::size_t total) override;
+    bool waitFor(const std::string& path, std::chrono::milliseconds waited) override;
+    void waitingEnded() override { waiting_.reset(); }
     void openOutside(const std::string& address) override;
     std::optional<std::string> GetKeyValue(const std::string&, const std::string&) override {
         return std::nullopt;
@@ -38,7 +40,7 @@ class DesktopPlatform : public Platform {
 
  private:
     WindowShelf& shelf_;
-    std::unique_ptr<QProgressDialog> progress_;
+    std::unique_ptr<QProgressDialog> progress_, waiting_;
     QElapsedTimer started_, painted_;
 };
 

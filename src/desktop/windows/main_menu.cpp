@@ -194,6 +194,8 @@ void MainMenu::markKeys() {
 
 Shown MainMenu::shown(const Control& control, Property property) const {
     const QAction* action = this->action(control.name());
+    if (action == nullptr && control.name() != "tbrMain")
+        return propertyOf(main_, control, property);
     if (action == nullptr) {
         if (property == Property::visible) return !toolbar_.isHidden();
         if (property == Property::enabled) return toolbar_.isEnabled();

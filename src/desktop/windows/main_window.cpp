@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/windows/main_window.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -14,6 +15,7 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUrl>
+#include <QVBoxLayout>
 
 #include "basis/file_system.h"
 #include "desktop/binding/mnemonics.h"
@@ -55,7 +57,19 @@ MainWindow::MainWindow(Varnmain& main, FaultTaker faults, const std::string& rec
         new StartPage(main, [this](const std::string& entry) { menu_->action(entry)->trigger(); });
     pages_->addWidget(start_);
     pages_->addWidget(area_);
-    setCentralWidget(pages_);
+    notice_ = new QLabel;
+    notice_->setObjectName(QStringLiteral("NoticeLabel"));
+    notice_->setTextFormat(Qt::PlainText);
+    notice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    notice_->setWordWrap(true);
+    notice_->setMargin(gridStep);
+    auto* middle = new QWidget;
+    auto* rows = new QVBoxLayout(middle);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(notice_);
+    rows->addWidget(pages_, 1);
+    setCentralWidget(middle);
 
     auto* toolbar = new QToolBar(qt(main.text(Text::toolbarName)), this);
     toolbar->setObjectName(QStringLiteral("tbrMain"));
@@ -99,6 +113,10 @@ void MainWindow::showArea(bool area) {
 
 void MainWindow::showStartPicture(QWidget* picture) { start_->setPicture(picture); }
 
+std::string MainWindow::reading(const std::string& file) const {
+    return filledIn(main_.text(Text::readingFile), {file});
+}
+
 QWidget* MainWindow::dialogParent() {
     QWidget* modal = QApplication::activeModalWidget();
     return modal != nullptr ? modal : this;
@@ -108,6 +126,18 @@ void MainWindow::refresh() {
     setWindowTitle(qt(main_.caption()));
     const char* units = main_.control("Metric").checked() ? "Metric" : "English";
     units_->setText(qt(main_.control(units).caption()));
+    showNotice();
+}
+
+/// What no window is there to tell.
+void MainWindow::showNotice() {
+    const QString text = qt(main_.control("NoticeLabel").caption());
+    notice_->setVisible(!text.isEmpty());
+    if (text == notice_->text()) return;
+    notice_->setText(text);
+    if (text.isEmpty()) return;
+    QAccessibleEvent alert(notice_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 void MainWindow::commandBegins() {

@@ -39,6 +39,8 @@ class MainWindow : public QMainWindow {
     void openFiles(const std::vector<std::string>& paths);
     /// Runs something of the forms; what it throws goes to the taker of faults.
     void guarded(const std::function<void()>& action);
+    /// What the progress of a file that comes slowly says.
+    std::string reading(const std::string& file) const;
     /// The window that a dialog belongs to: the innermost dialog on show, else this one.
     QWidget* dialogParent();
 
@@ -54,6 +56,7 @@ class MainWindow : public QMainWindow {
     void addRecentMenu();
     void fillRecentMenu();
     void refresh();
+    void showNotice();
     /// A person has called a command that stands in no menu.
     void commandBegins();
 
@@ -64,6 +67,7 @@ class MainWindow : public QMainWindow {
     QMdiArea* area_;
     StartPage* start_;
     QLabel* units_;
+    QLabel* notice_;
     std::unique_ptr<MainMenu> menu_;
     QMenu* recentMenu_ = nullptr;
     std::vector<QAction*> windowEntries_;
