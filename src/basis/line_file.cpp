@@ -118,7 +118,10 @@ void LineFileWriter::title(std::string_view prefix) {
 
 void LineFileWriter::text(const std::string& value) {
     const std::size_t start = text_.size();
-    fixed(value);
+    if (isValidUtf8(value))
+        fixed(value);
+    else
+        fixed(carriedText(value));
     for (std::size_t i = start; i + 2 < text_.size(); ++i)
         if (text_[i] == '\r' || text_[i] == '\n') text_[i] = ' ';
 }

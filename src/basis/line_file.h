@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "basis/date.h"
+#include "basis/text_encoding.h"
 
 namespace varnholt {
 
@@ -43,7 +44,7 @@ class LineFileReader {
     bool since(double version) const { return version_ >= version; }
     double version() const { return version_; }
 
-    void text(std::string& value) { value = line(); }
+    void text(std::string& value) { value = uncarriedText(line()); }
     void number(double& value);
     void integer(std::int16_t& value);
     void date(Date& value);

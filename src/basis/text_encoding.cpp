@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "basis/text_encoding.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -81,6 +82,40 @@ std::string windows1252Text(std::string_view bytes) {
         appendUtf8(text, byte >= 0x80 && byte < 0xA0 ? windows1252[byte - 0x80] : byte);
     }
     return text;
+}
+
+std::string carriedText(std::string_view bytes) {
+    constexpr char16_t firstCarrier = 0xEF80, firstCarried = 0x80;
+    std::string text;
+    while (!bytes.empty()) {
+        const std::size_t length = sequenceLength(bytes);
+        if (length == 0) {
+            const auto byte = static_cast<unsigned char>(bytes.front());
+            appendUtf8(text, static_cast<char16_t>(firstCarrier + byte - firstCarried));
+        } else {
+            text += bytes.substr(0, length);
+        }
+        bytes.remove_prefix(std::max<std::size_t>(length, 1));
+    }
+    return text;
+}
+
+/// U+EF80 to U+EFFF are the bytes EE BE 80 to EE BF BF: the last six bits stand in the third byte,
+/// the seventh in the second.
+std::string uncarriedText(std::string_view text) {
+    std::string bytes;
+    while (!text.empty()) {
+        const bool first = text.starts_with("\xEE\xBE"), second = text.starts_with("\xEE\xBF");
+        if ((first || second) && text.size() > 2) {
+            const auto last = static_cast<unsigned char>(text[2]);
+            bytes += static_cast<char>((first ? 0x80 : 0xC0) | (last & 0x3F));
+            text.remove_prefix(3);
+        } else {
+            bytes += text.front();
+            text.remove_prefix(1);
+        }
+    }
+    return bytes;
 }
 
 std::string_view withoutByteOrderMark(std::string_view bytes) {

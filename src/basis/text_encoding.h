@@ -21,4 +21,11 @@ std::string decodeText(std::string_view bytes);
 /// The bytes without the byte order mark that may stand before them.
 std::string_view withoutByteOrderMark(std::string_view bytes);
 
+// A path may hold bytes that are no UTF-8. In a file of text each of them stands as a character of
+// its own, from U+EF80 to U+EFFF for the bytes 0x80 to 0xFF, as the private area is for.
+
+/// The bytes as valid UTF-8, from which the next function brings them back.
+std::string carriedText(std::string_view bytes);
+std::string uncarriedText(std::string_view text);
+
 }  // namespace varnholt

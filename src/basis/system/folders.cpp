@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "basis/system/folders.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
@@ -63,6 +65,8 @@ void removeFolder(const std::string& path) {
     std::error_code ignored;
     fs::remove_all(path, ignored);
 }
+
+void removeEmptyFolder(const std::string& path) { ::rmdir(path.c_str()); }
 
 std::string currentFolder() {
     std::error_code ignored;

@@ -25,6 +25,9 @@ bool renameFolder(const std::string& from, const std::string& to);
 /// Takes a folder away with all that it holds, as far as that can be.
 void removeFolder(const std::string& path);
 
+/// Takes a folder away that holds nothing; one that holds something stays.
+void removeEmptyFolder(const std::string& path);
+
 /// The folder in which the program was started; empty when it is gone.
 std::string currentFolder();
 

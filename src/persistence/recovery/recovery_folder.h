@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "persistence/recovery/recovery_record.h"
+
+namespace varnholt {
+
+/// Where unsaved work is kept: a folder for each running program, and in it a file for each
+/// document. The files of programs that have ended belong to whoever takes them first.
+class RecoveryFolder {
+ public:
+    /// @param programFolder  the program's folder; nothing is made in it before something is kept
+    explicit RecoveryFolder(const std::string& programFolder);
+
+    /// Work that was found: the file's path, now in this program's own folder, and what it holds.
+    struct Found {
+        std::string path;
+        RecoveryRecord record;
+    };
+
+    /// Takes what programs have left that have ended, the oldest first. A file that is damaged is
+    /// set aside under another name, and its path added to `setAside`. Does not throw.
+    std::vector<Found> take(std::vector<std::string>& setAside);
+
+    /// A path in the own folder that nothing has yet. Throws RunTimeError where the folder cannot
+    /// be made.
+    std::string newPath();
+    /// Takes the own folder away when nothing is left in it.
+    void removeIfEmpty() const;
+
+ private:
+    void takeFrom(const std::string& folder, std::vector<std::string>& taken);
+
+    std::string folder_, own_;
+    int last_ = 0;
+};
+
+}  // namespace varnholt
