@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "app/application.h"
+#include "app/script_keeper.h"
 #include "basis/date.h"
 #include "basis/system/files.h"
 #include "basis/system/process.h"
@@ -24,7 +25,7 @@ int runScript(const CommandLine& line, std::istream& input) {
     ScriptPlatform platform(transcript, folder, line.today.value_or(dateOfToday()));
     Application application(
         platform, {folder, installed.resources, line.localeNumber.value_or(platformLocale()),
-                   line.today.has_value()});
+                   line.today.has_value(), line.recovery});
     application.reports().onShown = [&transcript](const auto& report) {
         transcript.line(toldReport(report->object, report->caption));
     };
@@ -34,7 +35,13 @@ int runScript(const CommandLine& line, std::istream& input) {
     ScriptReader reader(input, *line.script);
     ScriptRunner runner(application.main(), platform, driver, transcript, reader, std::cerr);
     runner.setReports(&application.reports());
-    runner.setAfterLine([&] { application.settlePages(); });
+    std::unique_ptr<ScriptKeeper> keeper;
+    if (Recovery* recovery = application.recovery())
+        keeper = std::make_unique<ScriptKeeper>(*recovery, runner, reader);
+    runner.setAfterLine([&] {
+        application.settlePages();
+        if (keeper) keeper->lineEnded();
+    });
     return runner.run();
 }
 

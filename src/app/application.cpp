@@ -27,6 +27,8 @@ Application::Application(Platform& platform, const Setup& setup, const Engines& 
     installDesign(*main_);
     installPersistence(*main_);
     installReports(*main_, *reports_);
+    main_->guardsFiles = setup.recovery;
+    if (setup.recovery) recovery_ = std::make_unique<Recovery>(*main_);
 }
 
 }  // namespace varnholt

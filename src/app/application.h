@@ -6,6 +6,7 @@
 
 #include "forms/platform.h"
 #include "frame/varnmain.h"
+#include "persistence/recovery/recovery.h"
 #include "reports/report_shelf.h"
 #include "tools/modResource.h"
 #include "tools/page_reader.h"
@@ -21,6 +22,7 @@ class Application {
         std::string resourceFolder;  ///< holds `language`
         unsigned localeNumber = 0x409;
         bool dayIsGiven = false;  ///< reports tell no time of day
+        bool recovery = false;    ///< unsaved work is kept, and files that are open are guarded
     };
 
     /// The engines of the platform; what is null is done without a window.
@@ -36,6 +38,8 @@ class Application {
     const Texts& texts() const { return language_; }
     ReportShelf& reports() { return *reports_; }
     void start() { main_->start(); }
+    /// What keeps unsaved work; null where nothing is kept.
+    Recovery* recovery() { return recovery_.get(); }
     /// Opens a browser window at an address.
     void browse(const std::string& address) { tools_->browse(address); }
     /// Lets the pages of the browser windows finish loading, for some seconds at most.
@@ -50,6 +54,8 @@ class Application {
     PageSource& pages_;
     std::unique_ptr<Varnmain> main_;
     std::unique_ptr<ReferenceTools> tools_;
+    /// Goes before the windows whose work it keeps.
+    std::unique_ptr<Recovery> recovery_;
 };
 
 }  // namespace varnholt

@@ -159,6 +159,7 @@ std::vector<Notice> GroundDesign::notices() {
     if (!damage_.isNone())
         holding.push_back({damageText(texts(), damage_) + " " + text(Text::noticeDoubtedResults) +
                            " " + text(Text::noticeSaveAsksForName)});
+    if (openFile.asksForName) holding.push_back({text(Text::noticeSaveAsksForName)});
     if (openFile.readOnly)
         holding.push_back({filledIn(text(Text::noticeOpenElsewhere), {FileName})});
     if (!missingZoneFile().empty())

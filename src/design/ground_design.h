@@ -85,7 +85,9 @@ class GroundDesign : public LinkedDesign {
     /// What is known of the project's file.
     OpenFile openFile;
     /// A save by a click must not take the place of the file.
-    bool savesUnderNewName() const { return !damage_.isNone() || openFile.readOnly; }
+    bool savesUnderNewName() const {
+        return !damage_.isNone() || openFile.readOnly || openFile.asksForName;
+    }
 
     void activated() override;
     bool queryClose() override;

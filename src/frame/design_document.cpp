@@ -72,6 +72,11 @@ void DesignDocument::setStale(bool stale) {
     control("CACalculateCommand").setBackcolor(stale ? colours::stale : colours::buttonFace);
 }
 
+void DesignDocument::countAsChanged() {
+    startHistory(false);
+    changed_ = true;
+}
+
 void DesignDocument::noteSaved() {
     markSaved();
     changed_ = false;

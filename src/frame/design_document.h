@@ -27,6 +27,8 @@ class DesignDocument : public ChildWindow {
     bool isStale() const { return stale_; }
     /// The document is not as it was saved, or opened.
     bool isChanged() const { return changed_; }
+    /// The document is no file's content, such as work that was brought back after a crash.
+    void countAsChanged();
     /// The project has been written to its file.
     void noteSaved();
 

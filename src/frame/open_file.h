@@ -18,6 +18,7 @@ struct OpenFile {
     std::optional<KnownFile> known;  ///< as this program has read or written it last
     FileLock lock;                   ///< tells other programs
     bool readOnly = false;           ///< it is open elsewhere: saving asks for a name
+    bool asksForName = false;        ///< not all of it had been read: saving asks for a name
 };
 
 enum class OpenAs { itself, copy, notAtAll };

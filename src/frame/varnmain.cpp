@@ -187,7 +187,8 @@ void Varnmain::activate(ChildWindow& window) {
     tellWindows();
 }
 
-void Varnmain::tellWindows() const {
+void Varnmain::tellWindows() {
+    ++actionsSoFar_;
     for (ChildWindow* window : windows()) window->windowsChanged();
 }
 
@@ -244,6 +245,7 @@ int Varnmain::actionNumber(const std::string& visit) {
 void Varnmain::endAction(const std::string& name, const std::string& visit, bool visitEnds,
                          int number) {
     if (visitEnds) lastVisit_.clear();
+    ++actionsSoFar_;
     if (--actions_ > 0) return;
     for (ChildWindow* window : std::exchange(touched_, {}))
         window->changedByAnother(name, visit, visitEnds, number);

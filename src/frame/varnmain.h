@@ -71,7 +71,9 @@ class Varnmain : public Form {
     std::string& openWindowFiles(DesignKind kind, std::int16_t slot);
 
     // The user's actions in the child windows, and the documents that they change.
-    void beginAction() { ++actions_; }
+    void beginAction() { ++actions_, ++actionsSoFar_; }
+    /// A number that grows with every action, and with every window that opens or closes.
+    int actionsSoFar() const { return actionsSoFar_; }
     /// @param name, visit how the action calls its step, for the documents of other windows that
     ///                    it has changed too
     /// @param visitEnds   the visit ends with it
@@ -160,7 +162,7 @@ class Varnmain : public Form {
     void reassignSlot(DesignKind kind, std::size_t from, std::size_t to);
     void setActive(ChildWindow* window);
     void takeAway(ChildWindow& window);
-    void tellWindows() const;
+    void tellWindows();
     void refreshUndo();
     ChildWindow& nextToClose() const;
 
@@ -173,6 +175,7 @@ class Varnmain : public Form {
     std::vector<Form*> modal_;
     std::vector<ChildWindow*> touched_;
     int actions_ = 0;
+    int actionsSoFar_ = 0;
     int lastSerial_ = 0;
     int actionNumber_ = 0;
     std::string lastVisit_;

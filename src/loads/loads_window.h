@@ -2,9 +2,12 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "basis/mode.h"
+#include "basis/system/file_source.h"
 #include "catalogue/pump_catalogue.h"
 #include "frame/child_window.h"
 #include "loads/design_project.h"
@@ -51,6 +54,12 @@ class LoadsWindow : public ChildWindow {
     /// Reads a zone file without a dialog. False when it could not be read to its end; whatever
     /// could be read is then in the window.
     virtual bool LOOpenZoneFile(const std::string& path) = 0;
+    /// The file as this program has read or written it last; nothing without one.
+    virtual std::optional<KnownFile> knownFile() const { return std::nullopt; }
+    /// Takes zones that were never saved, as a zone file holds them; they count as changed.
+    /// @param path  of their file; empty without one
+    virtual void takeRecovered(std::string_view /*bytes*/, const std::string& /*path*/,
+                               const std::optional<KnownFile>& /*known*/) {}
     /// The last save was cancelled.
     bool zoneSaveCancelled = false;
 

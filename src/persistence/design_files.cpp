@@ -114,9 +114,10 @@ void linkKeepingResults(GroundDesign& design, const std::function<void()>& link)
 }
 
 template <class Window>
-constexpr DesignFileKind kindOf(DesignKind kind, const char* newCommand, std::string_view title,
-                                std::string_view defaultsFile) {
+constexpr DesignFileKind kindOf(DesignKind kind, const char* form, const char* newCommand,
+                                std::string_view title, std::string_view defaultsFile) {
     return {kind,
+            form,
             newCommand,
             title,
             defaultsFile,
@@ -129,10 +130,12 @@ constexpr DesignFileKind kindOf(DesignKind kind, const char* newCommand, std::st
 }
 
 constexpr std::array kinds{
-    kindOf<frmBHDesign>(DesignKind::borehole, "NewBorehole", boreholeTitle, "vhtbh.ini"),
-    kindOf<frmHZDesign>(DesignKind::horizontal, "NewHorizontal", horizontalTitle, "vhthz.ini"),
-    kindOf<frmSWDesign>(DesignKind::surfaceWater, "NewSurfaceWater", surfaceWaterTitle,
-                        "vhtsw.ini"),
+    kindOf<frmBHDesign>(DesignKind::borehole, "frmBHDesign", "NewBorehole", boreholeTitle,
+                        "vhtbh.ini"),
+    kindOf<frmHZDesign>(DesignKind::horizontal, "frmHZDesign", "NewHorizontal", horizontalTitle,
+                        "vhthz.ini"),
+    kindOf<frmSWDesign>(DesignKind::surfaceWater, "frmSWDesign", "NewSurfaceWater",
+                        surfaceWaterTitle, "vhtsw.ini"),
 };
 
 const DesignFileKind& rowOf(DesignKind kind) {

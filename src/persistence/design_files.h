@@ -21,6 +21,7 @@ namespace varnholt {
 /// commands and the file's head are the same for all.
 struct DesignFileKind {
     DesignKind kind;
+    const char* form;               ///< name of its windows
     const char* newCommand;         ///< menu entry that opens an empty one
     std::string_view title;         ///< second line of its files
     std::string_view defaultsFile;  ///< in the program's folder

@@ -20,6 +20,7 @@
 #include "loads/loads_window.h"
 #include "persistence/design_files.h"
 #include "persistence/dialogs.h"
+#include "persistence/recovery/recovery_record.h"
 #include "persistence/saving.h"
 #include "persistence/zone_link.h"
 
@@ -51,7 +52,10 @@ struct ProjectSource {
 
 /// Whatever goes wrong, the window keeps the values read so far.
 void readProject(GroundDesign& design, ProjectSource& source) {
-    design.setFile(source.path);
+    if (source.path.empty())
+        design.forgetFile();
+    else
+        design.setFile(source.path);
     FileDamage damage{design.FileName, {}};
     bool linkIsStored = true;
     try {
@@ -174,6 +178,29 @@ void openProjectFile(Varnmain& main, const std::string& path) {
     if (design == nullptr || !design->currentFileCheck) return;
     main.openWindowFiles(kind->kind, design->counter) = whole;
     main.fileUsed(whole);
+}
+
+GroundDesign* openRecoveredDesign(Varnmain& main, const DesignFileKind& kind,
+                                  const RecoveryRecord& record) {
+    ProjectSource source{record.path, {record.document, {}}, {}};
+    if (isFileInUse(main, record.path, nullptr)) source.path.clear();
+    if (!source.path.empty()) {
+        LockAttempt attempt = lockFile(source.path);
+        source.file = {record.known, std::move(attempt.lock), attempt.holder.has_value(),
+                       record.savesUnderNewName};
+    }
+    GroundDesign* design = nullptr;
+    {
+        const RaisedFlag opening(main.openCall);
+        design = openDesign(main, kind, &source);
+    }
+    if (design == nullptr) return nullptr;
+    main.openWindowFiles(kind.kind, design->counter) = source.path;
+    if (source.path.empty() && !record.name.empty()) design->setCaption(record.name);
+    if (record.isStale) design->calculationNeeded();
+    design->countAsChanged();
+    design->refreshNotice();
+    return design;
 }
 
 void openZoneFile(Varnmain& main, const std::string& path) {

@@ -7,7 +7,9 @@
 
 namespace varnholt {
 
+struct DesignFileKind;
 class GroundDesign;
+struct RecoveryRecord;
 class Varnmain;
 
 /// Registers the file commands: new, open, save, save as.
@@ -25,6 +27,10 @@ void mnuFileSaveAs_Click(Varnmain& main);
 void openProjectFile(Varnmain& main, const std::string& path);
 /// Opens a zone file in the Zone Manager, after that window's own question when it has changes.
 void openZoneFile(Varnmain& main, const std::string& path);
+/// Opens the design of a record of unsaved work, which counts as changed, under its own name where
+/// no other window has that. Null when all slots are taken.
+GroundDesign* openRecoveredDesign(Varnmain& main, const DesignFileKind& kind,
+                                  const RecoveryRecord& record);
 /// Either of them, told by the name's extension. A relative path is taken from the program's
 /// folder.
 void openFile(Varnmain& main, const std::string& path);

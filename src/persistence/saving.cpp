@@ -57,7 +57,7 @@ SavedAs write(GroundDesign& design, const std::string& path) {
         if (main.guardsFiles) fresh.lock = lockFile(path).lock;
         design.openFile = std::move(fresh);
     }
-    design.openFile.readOnly = false;
+    design.openFile.readOnly = design.openFile.asksForName = false;
     writeDefaults(design);
     design.setDamage({});
     design.noteSaved();

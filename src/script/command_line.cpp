@@ -88,6 +88,8 @@ class Parser {
             line_.script = value();
         else if (name == "--browser" && program_ == Program::windows)
             line_.browser = readBrowser(value());
+        else if (name == "--recovery" && !joined)
+            line_.recovery = true;
         else if (name == "--help" && !joined)
             line_.help = true;
         else if (name == "--version" && !joined)
@@ -129,6 +131,7 @@ constexpr const char* commonOptions =
     "                        (default: the user's own, filled on first start)\n"
     "  --locale HEX          the locale number of the language, such as 409\n"
     "  --today YYYY-MM-DD    the date that new documents take\n"
+    "  --recovery            keep unsaved work and guard open files under a script too\n"
     "  --help                show this text\n"
     "  --version             show the program's version\n";
 

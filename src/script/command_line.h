@@ -21,6 +21,8 @@ struct CommandLine {
     std::vector<std::string> files;
     /// The engine of browser windows, "text" or "web"; empty for the usual one.
     std::string browser;
+    /// A script keeps unsaved work and guards its files, as it is done for a person.
+    bool recovery = false;
     bool help = false;
     bool version = false;
     /// What is wrong with the command line; empty when nothing is.

@@ -31,8 +31,15 @@ std::optional<Number> readWhole(std::string_view text) {
 ScriptReader::ScriptReader(std::istream& input, std::string name)
     : input_(input), name_(std::move(name)) {}
 
+bool ScriptReader::readLine(std::string& text) {
+    if (waits_ && input_.rdbuf()->in_avail() <= 0) waits_(true);
+    const bool read = static_cast<bool>(std::getline(input_, text));
+    if (waits_) waits_(false);
+    return read;
+}
+
 std::optional<ScriptLine> ScriptReader::next() {
-    for (std::string text; std::getline(input_, text);) {
+    for (std::string text; readLine(text);) {
         ++line_;
         if (!text.empty() && text.back() == '\r') text.pop_back();
         text = line_ == 1 ? decodeText(text) : utf8Text(text);

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <istream>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "basis/date.h"
@@ -27,14 +29,21 @@ class ScriptReader {
     /// @param name how faults call the script
     ScriptReader(std::istream& input, std::string name);
 
+    /// Told with true before the program waits for a line that is not there yet, and with false
+    /// when a line has been read.
+    void setWaits(std::function<void(bool)> waits) { waits_ = std::move(waits); }
+
     /// The next command; nothing at the end.
     std::optional<ScriptLine> next();
     /// "FILE:LINE: what", of the line read last.
     std::string faultText(const std::string& what) const;
 
  private:
+    bool readLine(std::string& text);
+
     std::istream& input_;
     std::string name_;
+    std::function<void(bool)> waits_;
     std::size_t line_ = 0;
 };
 

@@ -2,6 +2,7 @@
 #include "script/script_runner.h"
 
 #include <exception>
+#include <utility>
 
 namespace varnholt {
 
@@ -63,6 +64,10 @@ void ScriptRunner::runLine(const ScriptLine& line) {
 
 void ScriptRunner::execute(const ScriptLine& line) {
     if (!platform_.forms().isOpen(&main_)) throw ScriptFault("the program has been closed");
+    if (beforeFirstLine_ && line.command != "answer") {
+        const std::function<void()> begin = std::exchange(beforeFirstLine_, nullptr);
+        begin();
+    }
     commands_.execute(line);
     if (afterLine_) afterLine_();
     if (transcript_.hasFailed())

@@ -27,6 +27,8 @@ class ScriptRunner : private ScriptHost {
     /// Returns the program's exit status.
     int run();
 
+    /// Called once, before the first line that is no answer.
+    void setBeforeFirstLine(std::function<void()> begin) { beforeFirstLine_ = std::move(begin); }
     /// Called at the end of every line that has run: waits for what the line has begun.
     void setAfterLine(std::function<void()> wait) { afterLine_ = std::move(wait); }
 
@@ -46,6 +48,7 @@ class ScriptRunner : private ScriptHost {
     Transcript& transcript_;
     ScriptReader& reader_;
     std::ostream& faults_;
+    std::function<void()> beforeFirstLine_;
     std::function<void()> afterLine_;
     ScriptCommands commands_;
     std::function<void(int)> exit_;

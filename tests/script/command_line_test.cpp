@@ -89,7 +89,7 @@ TEST(CommandLine, HelpNamesEveryOption) {
     EXPECT_TRUE(windows({"--version"}).version);
     for (const Program program : {Program::script, Program::windows})
         for (const char* option :
-             {"--program-folder", "--locale", "--today", "--help", "--version"})
+             {"--program-folder", "--locale", "--today", "--recovery", "--help", "--version"})
             EXPECT_NE(usageOf(program).find(option), std::string::npos) << option;
     EXPECT_NE(usageOf(Program::windows).find("--script FILE"), std::string::npos);
     EXPECT_EQ(versionOf(Program::script).substr(0, 16), "varnholt-script ");

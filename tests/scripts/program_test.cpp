@@ -151,5 +151,45 @@ TEST_F(Failure, OfTheCurrentFolderIsToldOnlyWhereItMatters) {
               "varnholt-script: own cannot be found, since the current folder is gone\n");
 }
 
+const std::string newer =
+    "Yes opens it as changed, No discards it, Cancel keeps it for the next start.";
+
+TEST_F(Program, KeepsUnsavedWorkOfAScriptThatAsksForIt) {
+    for (const char* name : {"work files", "zones", "pumps"})
+        std::filesystem::create_directory(temporary.path() / name);
+    write("first.vscript",
+          "click Varnmain.NewBorehole\npick school.vht\nclick Varnmain.mnuFileSaveAs\n"
+          "type frmBHDesign.INProjectNameText Unsaved\n");
+    write("next.vscript",
+          "# offered before the first line that is no answer\nanswer yes\n"
+          "print frmBHDesign.INProjectNameText\n");
+    write("plain.vscript", "forms\n");
+    const std::string options = " --program-folder . --locale 409 ";
+    EXPECT_EQ(call("first.vscript --recovery" + options).status, 0);
+    // Nobody is asked who has not asked for it.
+    EXPECT_EQ(call("plain.vscript" + options).transcript, "Varnmain \"Varnholt\" active\n");
+    const std::string offered =
+        "question yes-no-cancel \"Unsaved Work\" \"school.vht, changed TIME, not saved.\\n\\nIts "
+        "file on the disk is older: TIME.\\n\\n" +
+        newer +
+        "\" -> yes\n"
+        "show frmBHDesign#1 \"Borehole Design Project - school.vht\"\n"
+        "frmBHDesign#1.INProjectNameText = \"Unsaved\"\n";
+    // It has not been saved the second time either.
+    for (int start = 0; start < 2; ++start)
+        EXPECT_EQ(call("next.vscript --recovery" + options).transcript, offered);
+    write("refuse.vscript", "answer no\nforms\n");
+    EXPECT_EQ(call("refuse.vscript --recovery" + options).status, 0);
+    EXPECT_EQ(call("plain.vscript --recovery" + options).status, 0);
+    EXPECT_FALSE(std::filesystem::exists(temporary.path() / "recovery"));
+}
+
+TEST_F(Program, KeepsNothingOfAScriptThatDoesNotAskForIt) {
+    write("first.vscript",
+          "click Varnmain.NewBorehole\ntype frmBHDesign.INProjectNameText Unsaved\n");
+    EXPECT_EQ(call("first.vscript --program-folder .").status, 0);
+    EXPECT_FALSE(std::filesystem::exists(temporary.path() / "recovery"));
+}
+
 }  // namespace
 }  // namespace varnholt

@@ -35,6 +35,14 @@ class frmHPEdit : public ChildWindow {
         if (changed_) SaveCommand_Click();
     }
     StatePointer state() const override;
+    /// The pumps differ from their file.
+    bool hasUnsavedPumps() const { return changed_ && place_.has_value(); }
+    /// The file of the series in memory, and what it would hold.
+    std::string seriesFile() const { return seriesPath(); }
+    std::string seriesText() const { return pumpSeriesText(seriesToWrite()); }
+    /// Takes pumps that were never saved, as a series file holds them; they count as changed. False
+    /// where the catalogue does not list the file.
+    bool takeRecovered(std::string_view bytes, const std::string& path);
     void actionEnds(const UserAction& action) override;
 
     // For the pictures.

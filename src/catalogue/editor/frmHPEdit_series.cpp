@@ -202,6 +202,30 @@ void frmHPEdit::takeSeries(const SeriesPlace& place, SeriesFile file) {
     startHistory();
 }
 
+bool frmHPEdit::takeRecovered(std::string_view bytes, const std::string& path) {
+    PumpSeries series;
+    try {
+        readPumpSeries(bytes, series);
+    } catch (const RunTimeError&) {
+        // What could be read of them is all that there is.
+    }
+    const std::string pumps = joinPath(main().MainDirectory, "pumps");
+    for (std::size_t m = 0; m < index_.size(); ++m)
+        for (std::size_t s = 0; s < index_[m].seriesInfo.size(); ++s) {
+            if (pumpSeriesPath(pumps, index_[m].seriesInfo[s].FileName) != path) continue;
+            openSeries({m, s});
+            SeriesFile file = std::move(file_);
+            file.series = std::move(series);
+            takeSeries({m, s}, std::move(file));
+            showSelection();
+            showPanel(document_.pumps.empty() ? Panel::nothing : Panel::data);
+            startHistory(false);
+            setChanged(true);
+            return true;
+        }
+    return false;
+}
+
 void frmHPEdit::closeSeries() {
     place_.reset();
     editingSeriesInfo = false;

@@ -5,8 +5,10 @@
 #include <QTimer>
 #include <fstream>
 #include <iostream>
+#include <memory>
 
 #include "app/application.h"
+#include "app/script_keeper.h"
 #include "basis/date.h"
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
@@ -20,6 +22,7 @@
 #include "desktop/windows/main_window.h"
 #include "desktop/windows/report_windows.h"
 #include "desktop/windows/window_shelf.h"
+#include "desktop/windows/work_keeper.h"
 #include "forms/text_numbers.h"
 #include "script/script_runner.h"
 #include "tools/locales.h"
@@ -58,7 +61,7 @@ int runPrepared(QApplication& application, const CommandLine& line) {
     DesktopPages pages(line.browser);
     DesktopHelp help;
     Application program(platform,
-                        {folder, installed.resources, localeOf(line), line.today.has_value()},
+                        {folder, installed.resources, localeOf(line), line.today.has_value(), true},
                         {&pages, &help});
     Varnmain& main = program.main();
     applyTheme(application, Scheme::followDesktop, qt(main.text(Text::languageFont)));
@@ -74,7 +77,11 @@ int runPrepared(QApplication& application, const CommandLine& line) {
     help.setPlaces(helpPlacesOf(program, window));
     window.guarded([&] { program.start(); });
     window.show();
-    QTimer::singleShot(0, &window, [&] { window.openFiles(line.files); });
+    const WorkKeeper keeper(application, *program.recovery());
+    QTimer::singleShot(0, &window, [&] {
+        window.guarded([&] { program.recovery()->offer(); });
+        window.openFiles(line.files);
+    });
     return QApplication::exec();
 }
 
@@ -89,9 +96,10 @@ int runReading(QApplication& application, const CommandLine& line, std::istream&
     DesktopPages pages(line.browser.empty() ? "text" : line.browser);
     DesktopHelp help;
     help.setQuiet();
-    Application program(platform,
-                        {folder, installed.resources, localeOf(line), line.today.has_value()},
-                        {&pages, &help});
+    Application program(
+        platform,
+        {folder, installed.resources, localeOf(line), line.today.has_value(), line.recovery},
+        {&pages, &help});
     Varnmain& main = program.main();
     applyTheme(application, Scheme::followDesktop, qt(main.text(Text::languageFont)));
     // A script reads reports and saves them; a preview would stand in the way of its pictures.
@@ -116,7 +124,13 @@ int runReading(QApplication& application, const CommandLine& line, std::istream&
     ScriptReader reader(input, *line.script);
     ScriptRunner runner(main, platform, driver, transcript, reader, std::cerr);
     runner.setReports(&program.reports());
-    runner.setAfterLine([&] { program.settlePages(); });
+    std::unique_ptr<ScriptKeeper> keeper;
+    if (program.recovery() != nullptr)
+        keeper = std::make_unique<ScriptKeeper>(*program.recovery(), runner, reader);
+    runner.setAfterLine([&] {
+        program.settlePages();
+        if (keeper) keeper->lineEnded();
+    });
     int status = 0;
     QTimer::singleShot(0, &window, [&] {
         status = runner.run();

@@ -104,6 +104,26 @@ bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
     return toItsEnd;
 }
 
+void ZoneWindow::takeRecovered(std::string_view bytes, const std::string& path,
+                               const std::optional<KnownFile>& known) {
+    LoadsData data = document_.data;
+    try {
+        readZones(bytes, {text(Text::zone), catalogue.firstSeries()}, data);
+    } catch (const RunTimeError&) {
+        // What could be read of them is all that there is.
+    }
+    takeLoads(std::move(data));
+    forgetZoneFile();
+    if (!path.empty()) {
+        LockAttempt attempt = lockFile(path);
+        openFile_ = {known, std::move(attempt.lock), attempt.holder.has_value(), false};
+        takeFile(path);
+    }
+    startHistory(false);
+    setChanged(true);
+    refreshNotice();
+}
+
 void ZoneWindow::takeLoads(LoadsData data) {
     takeZones(data.zones);
     designConditions() = data.conditions;

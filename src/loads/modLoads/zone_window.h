@@ -55,6 +55,10 @@ class ZoneWindow : public LoadsWindow {
     void LOOpenCommand_Click();
     bool LOOpenZoneFile(const std::string& path) override;
 
+    std::optional<KnownFile> knownFile() const override { return openFile_.known; }
+    void takeRecovered(std::string_view bytes, const std::string& path,
+                       const std::optional<KnownFile>& known) override;
+
     void InitializeHeatPumpLists() override;
     void refreshPumpLists() override;
     void SetFluidsTabbedPaneSwitchVariables() override;

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "basis/system/last_words.h"
+#include "persistence/recovery/recovery_folder.h"
+#include "persistence/recovery/recovery_writer.h"
+
+namespace varnholt {
+
+class ChildWindow;
+class Varnmain;
+
+/// Keeps the unsaved work of every window in the program's folder, and offers it again at the next
+/// start when the program has ended without saving it.
+///
+/// Whoever owns the program's clock calls `tick`. Keys cost nothing: documents are made into bytes
+/// between two of them, and written while the program goes on.
+class Recovery {
+ public:
+    using Time = std::chrono::steady_clock::time_point;
+    /// Between two calls of `tick`.
+    static constexpr std::chrono::milliseconds step{1'000};
+
+    explicit Recovery(Varnmain& main);
+    /// Keeps what is unsaved.
+    ~Recovery();
+    Recovery(const Recovery&) = delete;
+    Recovery& operator=(const Recovery&) = delete;
+
+    /// Offers what was found, a question a document: Yes opens it as changed, No discards it,
+    /// Cancel keeps it for the next start.
+    void offer();
+    /// Documents that have changed since the last time are kept a few seconds later, or as soon as
+    /// there is a pause.
+    void tick(Time now);
+    /// Keeps everything and waits until it is on the disk.
+    void keepNow();
+
+ private:
+    struct Kept {
+        std::string path;
+        std::uint64_t fingerprint = 0;
+        std::size_t place = 0;                     ///< among the last words
+        std::shared_ptr<const std::string> bytes;  ///< not yet given to the writer
+    };
+
+    void look();
+    void keep(const ChildWindow& window, RecoveryRecord record);
+    void writePending();
+    void drop(int serial);
+    std::size_t freePlace() const;
+    void offer(const RecoveryFolder::Found& found);
+    std::string questionAbout(const RecoveryRecord& record) const;
+
+    Varnmain& main_;
+    RecoveryFolder folder_;
+    LastWords lastWords_;
+    RecoveryWriter writer_;
+    std::map<int, Kept> kept_;  ///< by the number of the window
+    int seen_ = 0;              ///< the actions that had been when the documents were looked at
+    std::optional<Time> written_;
+};
+
+}  // namespace varnholt
