@@ -35,6 +35,30 @@ install(FILES packaging/varnholt.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/ap
 install(FILES packaging/varnholt.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES packaging/varnholt.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
+# What Debian wants of every program: its changes and a manual page, both compressed without a date,
+# so that the same sources make the same package.
+find_program(VARNHOLT_GZIP gzip REQUIRED)
+function(varnholt_install_compressed SOURCE DESTINATION)
+    cmake_path(GET SOURCE FILENAME name)
+    set(compressed "${CMAKE_BINARY_DIR}/packaging/${name}.gz")
+    file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/packaging")
+    add_custom_command(
+        OUTPUT "${compressed}"
+        COMMAND "${VARNHOLT_GZIP}" -9nc "${PROJECT_SOURCE_DIR}/${SOURCE}" > "${compressed}"
+        DEPENDS "${PROJECT_SOURCE_DIR}/${SOURCE}"
+        COMMENT "Compressing ${name}")
+    add_custom_target(varnholt_compressed_${name} ALL DEPENDS "${compressed}")
+    install(FILES "${compressed}" DESTINATION "${DESTINATION}" ${ARGN})
+endfunction()
+varnholt_install_compressed(packaging/changelog ${CMAKE_INSTALL_DATADIR}/doc/varnholt)
+foreach(program ${programs})
+    varnholt_install_compressed(packaging/${program}.1 ${CMAKE_INSTALL_MANDIR}/man1)
+endforeach()
+if(TARGET varnholt_web)
+    install(FILES "${CMAKE_BINARY_DIR}/packaging/changelog.gz"
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/varnholt-web COMPONENT web)
+endif()
+
 install(FILES packaging/copyright README.md docs/scripting.md
         DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/varnholt)
 

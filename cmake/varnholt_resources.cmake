@@ -8,6 +8,7 @@ set(VARNHOLT_RESOURCES "${CMAKE_BINARY_DIR}/resources")
 set(resource_source "${PROJECT_SOURCE_DIR}/resources")
 file(MAKE_DIRECTORY "${VARNHOLT_RESOURCES}/language")
 file(CREATE_LINK "${resource_source}/pumps" "${VARNHOLT_RESOURCES}/pumps" SYMBOLIC)
+file(CREATE_LINK "${PROJECT_SOURCE_DIR}/examples" "${VARNHOLT_RESOURCES}/examples" SYMBOLIC)
 file(CREATE_LINK "${resource_source}/language/english" "${VARNHOLT_RESOURCES}/language/english"
      SYMBOLIC)
 

@@ -89,9 +89,11 @@ std::string withoutSlashAtEnd(std::string path) {
 }  // namespace
 
 InstalledFiles installedFilesOf(const std::string& executable) {
-    const std::string shared = joinPath(folderOf(folderOf(executable)), "share/varnholt");
-    if (isFolder(shared)) return {shared, joinPath(shared, "examples")};
-    return {VARNHOLT_RESOURCE_DIR, VARNHOLT_EXAMPLE_DIR};
+    const std::string above = folderOf(folderOf(executable));
+    const std::string shared = joinPath(above, "share/varnholt"),
+                      built = joinPath(above, "resources");
+    const std::string& found = !isFolder(shared) && isFolder(built) ? built : shared;
+    return {found, joinPath(found, "examples")};
 }
 
 InstalledFiles installedFiles() { return installedFilesOf(executablePath()); }

@@ -14,7 +14,8 @@ struct InstalledFiles {
 };
 
 /// The files that belong to the running program: share/varnholt beside the folder of the
-/// executable when it is installed, else what the build has made of the source tree.
+/// executable when it is installed; what the build has made of the source tree, in the folder
+/// `resources` there, for a program that runs where it was built.
 InstalledFiles installedFiles();
 /// The same for an executable at that path.
 InstalledFiles installedFilesOf(const std::string& executable);
