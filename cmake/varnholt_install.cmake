@@ -48,6 +48,8 @@ function(varnholt_install_compressed SOURCE DESTINATION)
         DEPENDS "${PROJECT_SOURCE_DIR}/${SOURCE}"
         COMMENT "Compressing ${name}")
     add_custom_target(varnholt_compressed_${name} ALL DEPENDS "${compressed}")
+    # Whoever packs builds the programs alone.
+    add_dependencies(varnholt-script varnholt_compressed_${name})
     install(FILES "${compressed}" DESTINATION "${DESTINATION}" ${ARGN})
 endfunction()
 varnholt_install_compressed(packaging/changelog ${CMAKE_INSTALL_DATADIR}/doc/varnholt)

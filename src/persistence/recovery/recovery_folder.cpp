@@ -19,6 +19,7 @@ namespace varnholt {
 namespace {
 
 constexpr std::string_view extension = ".unsaved";
+constexpr std::size_t largestRecord = std::size_t{512} << 20;
 
 /// The computer's name stands last, since it may hold any sign but a slash.
 std::string nameOf(const ProcessIdentity& process) {
@@ -83,9 +84,10 @@ std::vector<RecoveryFolder::Found> RecoveryFolder::take(std::vector<std::string>
     for (const std::string& path : taken) {
         std::optional<RecoveryRecord> record;
         try {
-            record = readRecord(readWholeFile(path, {std::size_t{512} << 20, {}}));
+            record = readRecord(readWholeFile(path, {largestRecord, {}}));
         } catch (const RunTimeError&) {
-            // Counts as damaged.
+            // The disk failed, which may pass: the next start tries again.
+            continue;
         }
         if (record) {
             found.push_back({path, std::move(*record)});

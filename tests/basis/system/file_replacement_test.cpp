@@ -236,6 +236,34 @@ TEST_F(Saving, ReplacesAFileThatIsGone) {
     EXPECT_EQ(readWholeFile(path), "new");
 }
 
+TEST_F(Saving, FromTwoProgramsAtOnceLosesNothingUnseen) {
+    // Each of two processes adds 1 five hundred times. One that comes too late sees that, reads
+    // again and adds to what it finds, so that no addition is ever lost.
+    replaceWholeFile(path, "0");
+    constexpr int each = 500;
+    const auto addOne = [this] {
+        for (;;) {
+            const FileSource::Content read = DiskFiles().read(path);
+            const std::string next = std::to_string(std::stoi(read.bytes) + 1);
+            if (replaceKnownFile(path, next, knownFile(read.stamp, read.bytes))) return;
+        }
+    };
+    pid_t children[2];
+    for (pid_t& child : children) {
+        child = ::fork();
+        if (child != 0) continue;
+        for (int i = 0; i < each; ++i) addOne();
+        ::_exit(0);
+    }
+    for (const pid_t child : children) {
+        int status = 0;
+        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        EXPECT_EQ(status, 0);
+    }
+    EXPECT_EQ(readWholeFile(path), std::to_string(2 * each));
+    EXPECT_EQ(filesInFolder(), 1U);
+}
+
 // A file with two names, whose writing was cut off.
 class WritingCutOff : public Saving {
  protected:
