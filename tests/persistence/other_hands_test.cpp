@@ -138,5 +138,45 @@ TEST_F(OtherHands, MayHoldAProjectWithAnUnknownTitle) {
     EXPECT_EQ(notice(), "");
 }
 
+TEST_F(OtherHands, NeverMakeATrapOfAProjectThatIsCutAnywhere) {
+    closeAll();
+    const auto linesOf = [](const std::string& text) {
+        return std::count(text.begin(), text.end(), '\n') + (text.ends_with('\n') ? 0 : 1);
+    };
+    for (std::size_t end = 0; end < whole.size(); ++end) {
+        SCOPED_TRACE(end);
+        writeBytes(school, whole.substr(0, end));
+        pick("work files/school.vht");
+        click("mnuFileOpen");
+        if (main.windows().empty()) {
+            // Not even a second line: a box has told.
+            EXPECT_LT(linesOf(whole.substr(0, end)), 3);
+            continue;
+        }
+        // A file that has lost a line says so; one that has lost the end of a number cannot.
+        if (linesOf(whole.substr(0, end)) < linesOf(whole)) {
+            EXPECT_NE(notice(), "");
+            pick(std::nullopt);
+            click("mnuFileSave");
+            EXPECT_EQ(bytesOf(school), whole.substr(0, end));
+        }
+        closeAll();
+    }
+}
+
+TEST_F(OtherHands, NeverMakeATrapOfAProjectWithAnyByteChanged) {
+    closeAll();
+    for (std::size_t at = 0; at < whole.size(); ++at)
+        for (const char flip : {'\x01', '\x10', '\x40', '\x80'}) {
+            SCOPED_TRACE(at);
+            std::string changed = whole;
+            changed[at] = static_cast<char>(changed[at] ^ flip);
+            writeBytes(school, changed);
+            pick("work files/school.vht");
+            EXPECT_NO_THROW(click("mnuFileOpen"));
+            closeAll();
+        }
+}
+
 }  // namespace
 }  // namespace varnholt
