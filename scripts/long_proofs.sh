@@ -22,6 +22,9 @@ kills_at_length() {
     say "Ten thousand saves of each kind of design are killed"
     build/release/bin/test_persistence --gtest_repeat=10 --gtest_brief=1 \
         --gtest_filter='*SavingLosesNothing.WhenTheProgramIsKilledAtAnyMomentOfAThousandSaves/*'
+    say "A thousand programs are killed in the midst of typing"
+    VARNHOLT_KILLS=1000 build/release/bin/test_persistence --gtest_brief=1 \
+        --gtest_filter='RandomEditing.*'
 }
 
 # What a fuzzing program starts from, and its options: fuzz_examples NAME
@@ -32,6 +35,7 @@ fuzz_examples() {
         simulation_file) echo examples tests/scripts/imports/zones ;;
         load_table) echo examples ;;
         project_file | horizontal_file | surface_water_file) echo tests/files/projects examples ;;
+        recovery_record) echo tests/files ;;
         script) echo tests/scripts -dict=fuzz/fuzz_script.dict ;;
     esac
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/script_keeper.h"
 
-#include <chrono>
+#include "basis/date.h"
 
 namespace varnholt {
 
@@ -19,7 +19,7 @@ void ScriptKeeper::lineEnded() {
         recovery_.keepNow();
         EndSignals::endBy(signal);
     }
-    recovery_.tick(std::chrono::steady_clock::now());
+    recovery_.tick(steadyMoment());
 }
 
 }  // namespace varnholt

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -40,5 +41,7 @@ std::string timeOfDay();
 std::string localTimeText(std::int64_t moment);
 /// The moment it is.
 std::int64_t presentMoment();
+/// The same by a clock that nobody can set.
+std::chrono::steady_clock::time_point steadyMoment();
 
 }  // namespace varnholt

@@ -26,7 +26,7 @@ class OtherHands : public ProjectTest {
     }
     /// What another program has made of the file.
     void changeElsewhere() { writeBytes(school, whole + "\r\n"); }
-    std::string notice() { return design().control("NoticeLabel").caption(); }
+    std::string notice() { return main.activeWindow()->control("NoticeLabel").caption(); }
     std::string mainNotice() const { return main.control("NoticeLabel").caption(); }
     void click(const char* entry) { main.click(entry); }
 

@@ -41,4 +41,6 @@ std::int64_t presentMoment() {
     return std::int64_t{now.tv_sec} * nanoseconds + now.tv_nsec;
 }
 
+std::chrono::steady_clock::time_point steadyMoment() { return std::chrono::steady_clock::now(); }
+
 }  // namespace varnholt

@@ -16,9 +16,6 @@
 namespace varnholt {
 namespace {
 
-/// As long as somebody types on, this much time passes between two writings.
-constexpr std::chrono::seconds longestPause(4);
-
 /// The same for records that would open the same document in the same way.
 std::uint64_t fingerprintOf(const RecoveryRecord& record) {
     const std::string flags{record.isStale ? 's' : '-', record.savesUnderNewName ? 'n' : '-'};
@@ -27,7 +24,8 @@ std::uint64_t fingerprintOf(const RecoveryRecord& record) {
 
 }  // namespace
 
-Recovery::Recovery(Varnmain& main) : main_(main), folder_(main.MainDirectory) {}
+Recovery::Recovery(Varnmain& main, std::chrono::milliseconds pace)
+    : main_(main), folder_(main.MainDirectory), pace_(pace) {}
 
 Recovery::~Recovery() {
     keepNow();
@@ -38,7 +36,7 @@ void Recovery::tick(Time now) {
     const bool pause = seen_ == main_.actionsSoFar();
     if (!pause) look();
     if (!written_) written_ = now;
-    if (!pause && now - *written_ < longestPause) return;
+    if (!pause && now - *written_ < pace_) return;
     writePending();
     written_ = now;
 }

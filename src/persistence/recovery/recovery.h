@@ -8,9 +8,9 @@
 #include <optional>
 #include <string>
 
+#include "basis/system/background_writer.h"
 #include "basis/system/last_words.h"
 #include "persistence/recovery/recovery_folder.h"
-#include "persistence/recovery/recovery_writer.h"
 
 namespace varnholt {
 
@@ -28,7 +28,10 @@ class Recovery {
     /// Between two calls of `tick`.
     static constexpr std::chrono::milliseconds step{1'000};
 
-    explicit Recovery(Varnmain& main);
+    /// As long as somebody types on, this much time passes between two writings.
+    static constexpr std::chrono::milliseconds usualPace{4'000};
+
+    explicit Recovery(Varnmain& main, std::chrono::milliseconds pace = usualPace);
     /// Keeps what is unsaved.
     ~Recovery();
     Recovery(const Recovery&) = delete;
@@ -62,9 +65,10 @@ class Recovery {
     Varnmain& main_;
     RecoveryFolder folder_;
     LastWords lastWords_;
-    RecoveryWriter writer_;
+    BackgroundWriter writer_;
     std::map<int, Kept> kept_;  ///< by the number of the window
     int seen_ = 0;              ///< the actions that had been when the documents were looked at
+    std::chrono::milliseconds pace_;
     std::optional<Time> written_;
 };
 

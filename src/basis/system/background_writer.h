@@ -7,16 +7,16 @@
 
 namespace varnholt {
 
-/// Writes files and takes them away in the order in which it is told, while the program goes on:
-/// flushing to a disk may take longer than anybody should wait at a key. It sees bytes alone, never
-/// a document. What cannot be written is left out.
-class RecoveryWriter {
+/// Writes private files (see private_files.h) and takes them away in the order in which it is told,
+/// while the program goes on: flushing to a disk may take longer than anybody should wait at a key.
+/// It sees bytes alone, never a document. What cannot be written is left out.
+class BackgroundWriter {
  public:
-    RecoveryWriter();
+    BackgroundWriter();
     /// Ends when all is done, or after some seconds.
-    ~RecoveryWriter();
-    RecoveryWriter(const RecoveryWriter&) = delete;
-    RecoveryWriter& operator=(const RecoveryWriter&) = delete;
+    ~BackgroundWriter();
+    BackgroundWriter(const BackgroundWriter&) = delete;
+    BackgroundWriter& operator=(const BackgroundWriter&) = delete;
 
     void write(const std::string& path, std::shared_ptr<const std::string> bytes);
     void remove(const std::string& path);

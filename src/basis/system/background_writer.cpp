@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "persistence/recovery/recovery_writer.h"
+#include "basis/system/background_writer.h"
 
 #include <condition_variable>
 #include <deque>
@@ -33,7 +33,7 @@ struct Job {
 
 }  // namespace
 
-struct RecoveryWriter::Queue {
+struct BackgroundWriter::Queue {
     mutable std::mutex mutex;
     std::condition_variable changed;
     std::deque<Job> jobs;  ///< the first is being done
@@ -66,7 +66,7 @@ struct RecoveryWriter::Queue {
     }
 };
 
-RecoveryWriter::RecoveryWriter() : queue_(std::make_shared<Queue>()) {
+BackgroundWriter::BackgroundWriter() : queue_(std::make_shared<Queue>()) {
     try {
         queue_->hasThread = true;
         std::thread([queue = queue_] { queue->work(); }).detach();
@@ -75,25 +75,25 @@ RecoveryWriter::RecoveryWriter() : queue_(std::make_shared<Queue>()) {
     }
 }
 
-RecoveryWriter::~RecoveryWriter() {
+BackgroundWriter::~BackgroundWriter() {
     finish(std::chrono::seconds(5));
     const std::lock_guard<std::mutex> lock(queue_->mutex);
     queue_->ends = true;
     queue_->changed.notify_all();
 }
 
-void RecoveryWriter::write(const std::string& path, std::shared_ptr<const std::string> bytes) {
+void BackgroundWriter::write(const std::string& path, std::shared_ptr<const std::string> bytes) {
     queue_->add({path, std::move(bytes)});
 }
 
-void RecoveryWriter::remove(const std::string& path) { queue_->add({path, nullptr}); }
+void BackgroundWriter::remove(const std::string& path) { queue_->add({path, nullptr}); }
 
-bool RecoveryWriter::finish(std::chrono::milliseconds most) {
+bool BackgroundWriter::finish(std::chrono::milliseconds most) {
     std::unique_lock<std::mutex> lock(queue_->mutex);
     return queue_->changed.wait_for(lock, most, [&] { return queue_->jobs.empty(); });
 }
 
-bool RecoveryWriter::isIdle() const {
+bool BackgroundWriter::isIdle() const {
     const std::lock_guard<std::mutex> lock(queue_->mutex);
     return queue_->jobs.empty();
 }
