@@ -35,7 +35,7 @@ Varnmain::Varnmain(Platform& platform, const Texts& texts, std::string programFo
     : Form("Varnmain", platform, texts), MainDirectory(std::move(programFolder)) {
     addMenus();
     addToolbar();
-    add("NoticeLabel", ControlKind::label).setVisible(false);
+    add("NoticeLabel", ControlKind::label).helpedBy("files#a-damaged-file").setVisible(false);
     registerValues();
     setCommand("Metric", CommandNeeds::nothing, [this] { Metric_Click(); });
     setCommand("English", CommandNeeds::nothing, [this] { English_Click(); });
