@@ -143,7 +143,7 @@ void ZoneWindow::forgetZoneFile() {
     document_.file.exists = false;
     document_.file.name.clear();
     damage_.clear();
-    openFile_ = {};
+    openFile_.readOnly = false;
     showFile();
 }
 
