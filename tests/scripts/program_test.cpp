@@ -194,5 +194,48 @@ TEST_F(Program, KeepsNothingOfAScriptThatDoesNotAskForIt) {
     EXPECT_FALSE(std::filesystem::exists(temporary.path() / "recovery"));
 }
 
+TEST_F(Failure, IsNoneWhereAFileIsOpenElsewhere) {
+    write("make.vscript",
+          "click Varnmain.NewBorehole\npick school.vht\nclick Varnmain.mnuFileSaveAs\n");
+    ASSERT_EQ(shell("PROGRAM --program-folder . make.vscript >made").status, 0);
+    write("second.vscript",
+          "answer cancel\npick school.vht\nclick Varnmain.mnuFileOpen\n"
+          "answer no\npick school.vht\nclick Varnmain.mnuFileOpen\n"
+          "print frmBHDesign.NoticeLabel\nvalue frmBHDesign.FileName\n"
+          "answer no\nclose frmBHDesign\n"
+          "answer yes\npick school.vht\nclick Varnmain.mnuFileOpen\n"
+          "value frmBHDesign.FileName\nvalue frmBHDesign.currentFileCheck\n");
+    write("hold.sh",
+          replaced("set -e\nmkfifo in\n"
+                   "PROGRAM --program-folder . --locale 409 --recovery - <in >held &\n"
+                   "exec 3>in\n"
+                   "printf 'pick school.vht\\nclick Varnmain.mnuFileOpen\\n' >&3\n"
+                   "printf 'value frmBHDesign.FileName\\n' >&3\n"
+                   "until grep -q '^value' held; do sleep 0.05; done\n"
+                   "PROGRAM --program-folder . --locale 409 --recovery second.vscript >out\n"
+                   "exec 3>&-\nwait\n",
+                   "PROGRAM", VARNHOLT_BIN_DIR "/varnholt-script"));
+    const ScriptOutcome held = shell("timeout 20 sh hold.sh");
+    ASSERT_EQ(held.status, 0) << held.faults;
+    const std::string out = wholeFile(temporary.path() / "out");
+    const std::string asked =
+        "question yes-no-cancel \"File Open Elsewhere\" \"school.vht is open already: on ";
+    for (const char* answer : {"cancel", "no", "yes"})
+        EXPECT_NE(out.find(std::string("will ask for a name.\" -> ") + answer), std::string::npos)
+            << out;
+    EXPECT_NE(out.find(asked), std::string::npos) << out;
+    // Opened to be read, and then as a copy.
+    EXPECT_NE(out.find("NoticeLabel = \"school.vht is open in another program: saving will ask for "
+                       "a name.\"\nvalue frmBHDesign#1.FileName = \"school.vht\""),
+              std::string::npos)
+        << out;
+    EXPECT_TRUE(
+        out.ends_with("value frmBHDesign#1.FileName = \"\"\n"
+                      "value frmBHDesign#1.currentFileCheck = false\n"))
+        << out;
+    for (const auto& entry : std::filesystem::directory_iterator(temporary.path()))
+        EXPECT_EQ(entry.path().string().find("varnholt-lock"), std::string::npos) << entry.path();
+}
+
 }  // namespace
 }  // namespace varnholt
