@@ -961,6 +961,7 @@ constexpr int removePumpTitle = 4522;
 constexpr int savePumpsQuestion = 4523;
 constexpr int seriesFileChanged = 4524;
 constexpr int damagedFileReplaced = 4525;
+constexpr int indexFileChanged = 4540;
 constexpr int replaceFileTitle = 4529;
 
 // Files that it could not write.

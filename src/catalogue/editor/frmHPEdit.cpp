@@ -90,6 +90,7 @@ void frmHPEdit::load() {
     const std::string path = pumpIndexPath(joinPath(main().MainDirectory, "pumps"));
     IndexFile file = readIndexFile(path);
     index_ = std::move(file.index);
+    indexBytes_ = std::move(file.bytes);
     damagedIndex_ = {fileNameOf(path), file.report, file.other};
     if (file.error != 0 && !file.missing) damagedIndex_.report.error = file.error;
     if (file.missing)

@@ -293,14 +293,17 @@ void frmHPEdit::SaveCommand_Click() {
 }
 
 bool frmHPEdit::writeIndex(const CatalogueIndex& index) {
-    const std::string pumps = joinPath(main().MainDirectory, "pumps");
-    const std::string path = pumpIndexPath(pumps);
-    if (!damagedIndex_.isNone() &&
-        platform().question(Buttons::yesNo, text(Text::replaceFileTitle),
-                            filledIn(text(Text::damagedFileReplaced), {path})) != Answer::yes)
+    const std::string path = pumpIndexPath(joinPath(main().MainDirectory, "pumps"));
+    const int question = !damagedIndex_.isNone()         ? Text::damagedFileReplaced
+                         : holdsOther(path, indexBytes_) ? Text::indexFileChanged
+                                                         : 0;
+    if (question != 0 && platform().question(Buttons::yesNo, text(Text::replaceFileTitle),
+                                             filledIn(text(question), {path})) != Answer::yes)
         return false;
-    if (!attemptToWrite(path, [&] { WritePumpList(pumps, index); })) return false;
+    std::string bytes = pumpIndexText(index);
+    if (!attemptToWrite(path, [&] { replaceWholeFile(path, bytes); })) return false;
     damagedIndex_ = {};
+    indexBytes_ = std::move(bytes);
     return true;
 }
 

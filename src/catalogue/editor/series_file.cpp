@@ -35,12 +35,12 @@ IndexFile readIndexFile(const std::string& path) {
     try {
         file.missing = !fileExists(path);
         if (file.missing) return file;
-        const std::string bytes = readWholeFile(path);
-        const FileKind kind = fileKind(bytes);
+        file.bytes = readWholeFile(path);
+        const FileKind kind = fileKind(*file.bytes);
         if (isCertainlyOther(kind, FileKind::pumpList))
             file.other = kind;
         else
-            readPumpIndex(bytes, file.index, &file.report);
+            readPumpIndex(*file.bytes, file.index, &file.report);
     } catch (const RunTimeError& error) {
         file.error = error.number();
     }

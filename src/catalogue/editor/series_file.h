@@ -29,6 +29,7 @@ bool holdsOther(const std::string& path, const std::optional<std::string>& bytes
 /// The index of the catalogue; what stands before an error counts.
 struct IndexFile {
     CatalogueIndex index;
+    std::optional<std::string> bytes;  ///< nothing where there was no file
     bool missing = false;
     int error = 0;
     ReadingReport report;
