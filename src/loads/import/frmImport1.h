@@ -53,6 +53,10 @@ class frmImport1 : public ChildWindow {
     void TransferValuesToImport1(const ByMode<MonthlyLoads>& years);
 
     const ImportedLoads& loads() const { return loads_; }
+    /// Takes what an importer held whose program ended.
+    void takeRecovered(const ImportedLoads& loads) {
+        change([&](ImportedLoads& held) { held = loads; });
+    }
     Mode mode() const { return mode_; }
     const Cell& cell() const { return cell_; }
     MonthsChart monthsChart() const;

@@ -6,6 +6,8 @@
 #include "catalogue/editor/frmHPEdit.h"
 #include "design/ground_design.h"
 #include "frame/varnmain.h"
+#include "loads/import/frmImport1.h"
+#include "loads/import/imported_loads_text.h"
 #include "loads/links.h"
 #include "loads/loads_window.h"
 #include "persistence/design_files.h"
@@ -42,6 +44,14 @@ RecoveryRecord workOf(const frmHPEdit& editor) {
     return record;
 }
 
+/// The importer has no file; what it holds is nobody else's.
+RecoveryRecord workOf(const frmImport1& importer) {
+    RecoveryRecord record;
+    record.name = importer.caption();
+    record.document = importedLoadsText(importer.loads());
+    return record;
+}
+
 const DesignFileKind* kindOfForm(const std::string& form) {
     for (const DesignFileKind& kind : designFileKinds())
         if (form == kind.form) return &kind;
@@ -67,6 +77,21 @@ ChildWindow* openEditor(Varnmain& main, const RecoveryRecord& record) {
     return nullptr;
 }
 
+ChildWindow* openImporter(Varnmain& main, const RecoveryRecord& record) {
+    if (main.find(record.form) != nullptr) return nullptr;
+    main.click("mnuMonthlyLoadsImport");
+    auto* importer = dynamic_cast<frmImport1*>(main.find(record.form));
+    if (importer == nullptr) return nullptr;
+    ImportedLoads loads;
+    try {
+        readImportedLoads(record.document, loads);
+    } catch (const RunTimeError&) {
+        // What could be read of them is all that there is.
+    }
+    importer->takeRecovered(loads);
+    return importer;
+}
+
 }  // namespace
 
 std::optional<RecoveryRecord> unsavedWorkOf(const ChildWindow& window) {
@@ -77,6 +102,8 @@ std::optional<RecoveryRecord> unsavedWorkOf(const ChildWindow& window) {
         if (loads->hasUnsavedChanges()) record = workOf(*loads);
     } else if (const auto* editor = dynamic_cast<const frmHPEdit*>(&window)) {
         if (editor->hasUnsavedPumps()) record = workOf(*editor);
+    } else if (const auto* importer = dynamic_cast<const frmImport1*>(&window)) {
+        if (importer->loads() != ImportedLoads{}) record = workOf(*importer);
     }
     if (record) record->form = window.formName();
     return record;
@@ -88,7 +115,9 @@ ChildWindow* openRecovered(Varnmain& main, const RecoveryRecord& record) {
     main.hideSplash();
     if (kindOfForm(record.form) != nullptr)
         return openRecoveredDesign(main, *kindOfForm(record.form), record);
-    return record.form == "frmHPEdit" ? openEditor(main, record) : openLoads(main, record);
+    if (record.form == "frmHPEdit") return openEditor(main, record);
+    if (record.form == "frmImport1") return openImporter(main, record);
+    return openLoads(main, record);
 }
 
 }  // namespace varnholt
