@@ -79,7 +79,7 @@ SavedAs saveFile(Varnmain& main, const std::string& path, std::string_view bytes
         if (answer == Answer::cancel) return SavedAs::nothing;
         if (answer == Answer::no) return SavedAs::elsewhere;
         // What was told of may go; a change that comes after it may not.
-        file.known = KnownFile{*now, fingerprint(readWholeFile(path))};
+        file.known = KnownFile{*now, fingerprint(readOwnFile(path))};
     }
 }
 

@@ -80,7 +80,9 @@ class Replacement {
     Replacement(const std::string& path, std::string_view bytes)
         : target_(targetOf(path)), folder_(folderOf(target_)), bytes_(bytes) {
         if (folder_.empty()) folder_ = ".";
-        replacing_ = ::stat(target_.c_str(), &old_) == 0;
+        replacing_ = uninterrupted([&] { return ::stat(target_.c_str(), &old_); }) == 0;
+        // Whatever is not known to be missing is there.
+        if (!replacing_ && errno != ENOENT) throwFileError(errno, target_);
         if (!replacing_) return;
         // A file that may not be written is not replaced, though its folder would allow it.
         if (!S_ISREG(old_.st_mode)) throwFileError(EISDIR, target_);
@@ -128,7 +130,7 @@ class Replacement {
     }
 
     FileStamp writeInPlace() const {
-        const std::string before = readWholeFile(target_);
+        const std::string before = readOwnFile(target_);
         const std::string copy = keptCopyPath(folder_, old_.st_ino, bytes_);
         replaceByName(copy, before);
         flushFolder(folder_, target_);

@@ -57,7 +57,7 @@ std::optional<FileStamp> changedStamp(const std::string& path, const KnownFile& 
     if (!now || isUnchanged(known.stamp, *now)) return std::nullopt;
     const bool looksSame = now->device == known.stamp.device && now->inode == known.stamp.inode &&
                            now->size == known.stamp.size && now->modified == known.stamp.modified;
-    if (looksSame && fingerprint(readWholeFile(path)) == known.fingerprint) return std::nullopt;
+    if (looksSame && fingerprint(readOwnFile(path)) == known.fingerprint) return std::nullopt;
     return now;
 }
 

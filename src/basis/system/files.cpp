@@ -21,6 +21,11 @@ std::string readWholeFile(const std::string& path, const ReadingLimits& limits) 
     return DiskFiles::read(path, limits).bytes;
 }
 
+std::string readOwnFile(const std::string& path) {
+    constexpr std::size_t anyLength = std::size_t{1} << 40;
+    return readWholeFile(path, {anyLength, {}});
+}
+
 std::string readFileStart(const std::string& path, std::size_t most) {
     const auto readStart = [path, most] {
         const Descriptor file = openForReading(path);

@@ -22,6 +22,10 @@ bool fileExists(const std::string& path);
 /// read in the time).
 std::string readWholeFile(const std::string& path, const ReadingLimits& limits = {});
 
+/// The whole file, however long: one that this program has read or written before. Throws as
+/// readWholeFile.
+std::string readOwnFile(const std::string& path);
+
 /// The file's first bytes, no more than so many, however long it is. Throws as readWholeFile.
 std::string readFileStart(const std::string& path, std::size_t most);
 

@@ -17,6 +17,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::size_t anyLength = std::size_t{1} << 40;
+
 std::string beginOfName(std::uint64_t inode) { return fmt::format(".varnholt-kept-{:x}-", inode); }
 
 std::string endOfName(std::string_view bytes) { return fmt::format("{:016x}", fingerprint(bytes)); }
@@ -45,10 +47,10 @@ std::optional<KeptCopy> keptCopyOf(const std::string& path) {
         const std::string folder = folderOf(path);
         const auto copies = copiesIn(folder.empty() ? "." : folder, stamp->inode);
         if (copies.empty()) return std::nullopt;
-        const std::string now = readWholeFile(path);
+        const std::string now = readOwnFile(path);
         std::optional<KeptCopy> oldest;
         for (const std::string& copy : copies) {
-            const FileSource::Content before = DiskFiles().read(copy);
+            const FileSource::Content before = DiskFiles::read(copy, {anyLength, {}});
             if (copy.ends_with(endOfName(now)) || before.bytes == now)
                 ::unlink(copy.c_str());
             else if (!oldest || before.stamp.modified < oldest->modified)
@@ -63,7 +65,7 @@ std::optional<KeptCopy> keptCopyOf(const std::string& path) {
 }
 
 void restoreKeptCopy(const std::string& path, const KeptCopy& copy) {
-    replaceWholeFile(path, readWholeFile(copy.path));
+    replaceWholeFile(path, readOwnFile(copy.path));
     ::unlink(copy.path.c_str());
 }
 
