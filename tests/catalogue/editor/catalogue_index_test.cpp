@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "catalogue/ModPumpsIO.h"
+
 namespace varnholt {
 namespace {
 
