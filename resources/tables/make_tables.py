@@ -275,9 +275,9 @@ def ground_columns(title, moist=True, density=True):
 
 # Typical diffusivities of the three classes that the surface water design offers, ft²/day.
 SOIL_CLASSES = [
-    {"class": "Dry", "like": "dry sand or gravel", "diffusivity_typical_ft2_day": "0.26"},
-    {"class": "Damp", "like": "damp clay or light sand", "diffusivity_typical_ft2_day": "0.60"},
-    {"class": "Wet", "like": "heavy damp sand, or limestone",
+    {"class": "Dry soil", "like": "dry sand or gravel", "diffusivity_typical_ft2_day": "0.26"},
+    {"class": "Damp soil", "like": "damp clay or light sand", "diffusivity_typical_ft2_day": "0.60"},
+    {"class": "Wet sand or rock", "like": "heavy damp sand, or limestone",
      "diffusivity_typical_ft2_day": "0.96"},
 ]
 

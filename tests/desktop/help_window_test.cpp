@@ -68,7 +68,9 @@ TEST_F(HelpWindowTest, F1OpensThePageOfTheFieldThatHasTheFocus) {
 }
 
 TEST_F(HelpWindowTest, F1OpensTheHelpInEveryWindow) {
-    for (const char* command : {"NewBorehole", "mnuZoneManage", "mnuAvgBlock", "FluidProperties"}) {
+    for (const char* command : {"NewBorehole", "NewHorizontal", "NewSurfaceWater", "mnuZoneManage",
+                                "mnuAvgBlock", "mnuMonthlyLoadsImport", "EditAdd", "mnuDiffCalc",
+                                "mnuEqvHours", "mnuPumpPowerCalc", "FluidProperties"}) {
         ChildWindow& opened = open(command);
         FormWindow* content = desk.shelf.windowOf(opened);
         desk.main().HHTopicURL.clear();

@@ -9,6 +9,8 @@
 #include <QWebEngineHistory>
 #include <QWebEngineSettings>
 
+#include "tools/page_reader.h"
+
 namespace varnholt {
 namespace {
 
@@ -20,6 +22,12 @@ bool isWeb(const QUrl& url) {
 }
 
 bool isFile(const QUrl& url) { return url.scheme() == QLatin1String("file"); }
+
+/// Such a page of this computer would take all memory.
+bool isTooLarge(const QUrl& url) {
+    return isFile(url) &&
+           QFileInfo(url.toLocalFile()).size() > static_cast<qint64>(PageReader::largestPage);
+}
 
 /// How the address list shows it: a page of this computer by its path.
 std::string shownAddress(const QUrl& url) {
@@ -95,8 +103,9 @@ bool GuardedPage::acceptNavigationRequest(const QUrl& url, NavigationType, bool 
     // What a page makes of itself in a frame is its own.
     const bool ownFrame = !isMainFrame && (url.scheme() == QLatin1String("blob") ||
                                            url.scheme() == QLatin1String("data"));
-    if (ours || ownFrame) return true;
-    refuse(PageRefusal::address, url);
+    const bool tooLarge = isTooLarge(url);
+    if ((ours || ownFrame) && !tooLarge) return true;
+    refuse(tooLarge ? PageRefusal::tooLarge : PageRefusal::address, url);
     return false;
 }
 
@@ -156,6 +165,7 @@ void WebPages::navigate(const std::string& address) {
     const QUrl url = urlOf(address, page_->url());
     if (address.find_first_not_of(" \t\r\n") == std::string::npos) return;
     if (!url.isValid()) return events_.refused(PageRefusal::address, address);
+    if (isTooLarge(url)) return events_.refused(PageRefusal::tooLarge, address);
     busy_ = true;
     page_->load(url);
 }
