@@ -5,6 +5,7 @@
 #include <QHelpEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QTextBrowser>
@@ -14,6 +15,7 @@
 
 #include "desk.h"
 #include "desktop/widgets/qt_text.h"
+#include "loads/frmLinkOptions.h"
 
 namespace varnholt {
 namespace {
@@ -36,6 +38,15 @@ class HelpWindowTest : public testing::Test {
 
     Desk desk;
 };
+
+HelpRequest requestOf(const Desk& desk, HelpRequest::Kind kind, const std::string& keyword) {
+    HelpRequest request;
+    request.kind = kind;
+    request.file = desk.folder() + "/OnlineHelp/vht.qch";
+    request.topic = request.file + "::/index.html";
+    request.keyword = keyword;
+    return request;
+}
 
 TEST_F(HelpWindowTest, ShowsTheContentsFromTheMenu) {
     desk.main().click("mnuHelp");
@@ -120,13 +131,28 @@ TEST_F(HelpWindowTest, ItsHistoryHasTwoEnds) {
     EXPECT_EQ(desk.help.window()->page(), "index.html");
 }
 
-HelpRequest requestOf(const Desk& desk, HelpRequest::Kind kind, const std::string& keyword) {
-    HelpRequest request;
-    request.kind = kind;
-    request.file = desk.folder() + "/OnlineHelp/vht.qch";
-    request.topic = request.file + "::/index.html";
-    request.keyword = keyword;
-    return request;
+TEST_F(HelpWindowTest, CanBeReadBesideADialogThatAsks) {
+    frmLinkOptions question(desk.main());
+    desk.shelf.modalOpened(question);
+    Desk::settle();
+    ASSERT_NE(QApplication::activeModalWidget(), nullptr);
+    HelpRequest request = requestOf(desk, HelpRequest::Kind::topic, {});
+    request.topic = request.file + "::/linking.html";
+    EXPECT_NE(desk.help.display(request), 0);
+    Desk::settle();
+    EXPECT_EQ(desk.help.window()->page(), "linking.html");
+    auto* tools = window()->findChild<QToolBar*>();
+    const QWidget* home = tools->widgetForAction(tools->actions().at(2));
+    // By way of the window system, which holds clicks back from windows that are stopped.
+    QTest::mouseClick(window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      home->mapTo(window(), home->rect().center()));
+    Desk::settle();
+    EXPECT_EQ(desk.help.window()->page(), "index.html");
+    const auto* menu = desk.window->menuBar();
+    QTest::mouseClick(desk.window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      menu->mapTo(desk.window.get(), QPoint(20, menu->height() / 2)));
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    desk.shelf.modalClosed(question);
 }
 
 TEST_F(HelpWindowTest, FindsAFieldAButtonAndAMessageByItsWords) {
