@@ -8,12 +8,15 @@
 #include <QMenuBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QWhatsThis>
 #include <fstream>
 
 #include "desk.h"
+#include "desktop/reading/page_browser.h"
+#include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
 #include "loads/frmLinkOptions.h"
 
@@ -193,6 +196,26 @@ TEST_F(HelpWindowTest, OpensTheExampleThatAPageOffers) {
     browser->anchorClicked(QUrl(QStringLiteral("example:../../../etc/passwd")));
     browser->anchorClicked(QUrl(QStringLiteral("file:///etc/passwd")));
     EXPECT_EQ(pageText().find("root:"), std::string::npos);
+}
+
+TEST_F(HelpWindowTest, PrintsAWholePageInDarkInk) {
+    applyTheme(*qApp, Scheme::dark);
+    desk.main().click("mnuHelp");
+    const auto* page = dynamic_cast<PageBrowser*>(window()->findChild<QTextBrowser*>());
+    ASSERT_NE(page, nullptr);
+    const auto paper = page->printable();
+    EXPECT_TRUE(paper->toPlainText().contains(QStringLiteral("Undo and redo")));
+    int colours = 0;
+    for (QTextBlock block = paper->begin(); block != paper->end(); block = block.next())
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextCharFormat format = part.fragment().charFormat();
+            if (!format.hasProperty(QTextFormat::ForegroundBrush)) continue;
+            ++colours;
+            EXPECT_GT(contrast(format.foreground().color(), Qt::white), 4.5)
+                << plain(part.fragment().text());
+        }
+    EXPECT_GT(colours, 5) << "the links";
+    applyTheme(*qApp, Scheme::light);
 }
 
 TEST_F(HelpWindowTest, MakesADamagedCollectionAnew) {

@@ -85,9 +85,18 @@ bool PageBrowser::addSection() {
     return true;
 }
 
+/// Lays out what is still missing of a long page.
 void PageBrowser::completePage() {
     while (addSection()) continue;
     more_.stop();
+}
+
+std::unique_ptr<QTextDocument> PageBrowser::printable() const {
+    auto paper = std::make_unique<QTextDocument>();
+    paper->setDefaultFont(font());
+    paper->setDefaultStyleSheet(pageSheet(lightLook()));
+    paper->setHtml(html_);
+    return paper;
 }
 
 QVariant PageBrowser::loadResource(int type, const QUrl& name) {
