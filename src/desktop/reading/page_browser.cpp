@@ -35,6 +35,8 @@ QString pageSheet(const Look& look) {
                "a { color: %1; } h1 { font-size: x-large; } h2 { font-size: large; }"
                "h3 { font-size: medium; } th { color: %2; font-weight: 600; }"
                "th, td { padding: 2px 9px; text-align: right; }"
+               // A narrow column would break a figure behind its decimal point.
+               "td { white-space: nowrap; } td.words { white-space: normal; }"
                ".formula { margin-left: 24px; font-style: italic; }"
                ".button { background-color: %1; color: %3; text-decoration: none; }"
                ".source, .contents, .note { color: %2; } .words { text-align: left; }"
