@@ -40,6 +40,7 @@ QString pageSheet(const Look& look) {
                ".formula { margin-left: 24px; font-style: italic; }"
                ".button { background-color: %1; color: %3; text-decoration: none; }"
                ".source, .contents, .note { color: %2; } .words { text-align: left; }"
+               "dt { font-weight: 600; margin-top: 6px; }"
                "pre, code { font-family: monospace; }")
         .arg(look.accent.name(), look.muted.name(), look.onAccent.name());
 }
