@@ -49,8 +49,9 @@ TEST_F(Menu, HasNoCommandThatCanNeverBeChosen) {
     main().click("mnuUndo");
     look();
     for (const MenuRow& row : menuTable())
-        if (row.menu != nullptr && row.captionText != 0)
+        if (row.menu != nullptr && row.captionText != 0) {
             EXPECT_TRUE(seen.count(row.control) > 0) << row.control;
+        }
 }
 
 TEST_F(Menu, OpensTablesAndHelpWithoutAnyWindow) {
