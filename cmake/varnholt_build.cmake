@@ -68,3 +68,24 @@ function(varnholt_floor FOLDER)
     varnholt_sees(varnholt_${name} ${scope} "${FOLDER}")
     target_link_libraries(varnholt_${name} ${scope} ${ARGN})
 endfunction()
+
+# A library that the desktop loads when it is first needed, varnholt_NAME in lib/varnholt, from the
+# sources of src/desktop/NAME. It sees the headers that the room SEEN sees and links the other
+# arguments alone.
+function(varnholt_module NAME SEEN)
+    file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/desktop/${NAME}/*.cpp")
+    add_library(varnholt_${NAME} MODULE ${sources})
+    target_include_directories(varnholt_${NAME} PRIVATE
+        "${CMAKE_CURRENT_SOURCE_DIR}"
+        "$<TARGET_PROPERTY:${SEEN},INTERFACE_INCLUDE_DIRECTORIES>")
+    target_compile_definitions(varnholt_${NAME} PRIVATE QT_NO_KEYWORDS)
+    target_link_libraries(varnholt_${NAME} PRIVATE ${ARGN})
+    set_target_properties(varnholt_${NAME} PROPERTIES
+        PREFIX ""
+        LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/varnholt"
+        CXX_VISIBILITY_PRESET hidden)
+    if(NOT TARGET varnholt_modules)
+        add_custom_target(varnholt_modules)
+    endif()
+    add_dependencies(varnholt_modules varnholt_${NAME})
+endfunction()

@@ -1,7 +1,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# What `cmake --install` puts where, and the Debian package: `cpack --preset release`, or cpack in
-# the build folder.
+# What `cmake --install` puts where, and the Debian packages: `cpack --preset release`, or cpack in
+# the build folder. The module for pages of the web is a package of its own, varnholt-web: the
+# engine behind it is larger than all the rest.
 include(GNUInstallDirs)
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME program)
 
 set(programs varnholt-script)
 if(VARNHOLT_DESKTOP)
@@ -10,13 +12,23 @@ endif()
 install(TARGETS ${programs} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 if(VARNHOLT_DESKTOP)
     # Where the program looks for it, whatever the system's folder of libraries is called.
-    install(TARGETS varnholt_charts varnholt_printing LIBRARY DESTINATION lib/varnholt)
+    install(TARGETS varnholt_charts varnholt_printing varnholt_help LIBRARY DESTINATION lib/varnholt)
+    if(TARGET varnholt_web)
+        install(TARGETS varnholt_web LIBRARY DESTINATION lib/varnholt COMPONENT web)
+        install(FILES packaging/copyright
+                DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/varnholt-web COMPONENT web)
+    endif()
 endif()
 
 # The programs look for their files in ../share/varnholt. The windows' pictures are compiled in.
 set(shared ${CMAKE_INSTALL_DATADIR}/varnholt)
-install(DIRECTORY resources/ DESTINATION ${shared}
-        PATTERN "*.py" EXCLUDE PATTERN pictures EXCLUDE)
+install(DIRECTORY resources/pumps DESTINATION ${shared})
+install(DIRECTORY resources/language/english DESTINATION ${shared}/language)
+# What the build has made; the links to the source tree beside it are left out.
+install(DIRECTORY "${VARNHOLT_RESOURCES}/tables" "${VARNHOLT_RESOURCES}/help"
+        DESTINATION ${shared})
+install(DIRECTORY "${VARNHOLT_RESOURCES}/language/" DESTINATION ${shared}/language
+        FILES_MATCHING PATTERN "vhtSat*.txt" PATTERN english EXCLUDE)
 install(DIRECTORY examples DESTINATION ${shared} PATTERN "*.py" EXCLUDE)
 
 install(FILES packaging/varnholt.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
@@ -41,5 +53,21 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-inter | fonts-dejavu-core, qt6-wayland")
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_GROUPING IGNORE)
+set(CPACK_COMPONENTS_ALL program)
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME varnholt)
+# The help's engine reads its files through a plugin, which no library names.
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "libqt6sql6-sqlite")
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS
+    "fonts-inter | fonts-dejavu-core, qt6-wayland, varnholt-web")
+if(TARGET varnholt_web)
+    list(APPEND CPACK_COMPONENTS_ALL web)
+    set(CPACK_DEBIAN_WEB_PACKAGE_NAME varnholt-web)
+    set(CPACK_DEBIAN_WEB_PACKAGE_DEPENDS "varnholt (= ${PROJECT_VERSION})")
+    set(CPACK_DEBIAN_WEB_DESCRIPTION
+        "${PROJECT_DESCRIPTION} - pages of the web
+With this package the browser window of Varnholt shows pages of the web, and sorts the tables of its
+reference pages. Without it web addresses are handed to the system's browser.")
+endif()
 include(CPack)

@@ -29,6 +29,8 @@ fuzz_examples() {
     case $1 in
         pump_list | series_file) echo resources/pumps tests/files ;;
         zone_file) echo tests/files examples ;;
+        simulation_file) echo examples tests/scripts/imports/zones ;;
+        load_table) echo examples ;;
         project_file | horizontal_file | surface_water_file) echo tests/files/projects examples ;;
         script) echo tests/scripts -dict=fuzz/fuzz_script.dict ;;
     esac

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Makes the Debian package, build/release/varnholt_VERSION_ARCHITECTURE.deb.
+# Makes the Debian packages, build/release/varnholt_VERSION_ARCHITECTURE.deb and varnholt-web.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/setup.sh

@@ -33,6 +33,7 @@ int runScript(const CommandLine& line, std::istream& input) {
     ScriptReader reader(input, *line.script);
     ScriptRunner runner(application.main(), platform, driver, transcript, reader, std::cerr);
     runner.setReports(&application.reports());
+    runner.setAfterLine([&] { application.settlePages(); });
     return runner.run();
 }
 

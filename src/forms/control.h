@@ -51,6 +51,7 @@ enum class Property {
     refused,
     accessibleName,
     flash,
+    focus,
 };
 
 class Control;
@@ -72,6 +73,11 @@ constexpr int alarm = 255;       ///< coefficients older than their data; a figu
 constexpr int greyed = 7829367;  ///< the mode that does not govern
 constexpr int heatingGoverns = 5263547;
 constexpr int coolingGoverns = 8925232;
+// Cells of a table that belong to a mode: those that can be typed into, and those that follow.
+constexpr int coolingCells = 0xFFE0E0;
+constexpr int coolingFactors = 0xFFC0C0;
+constexpr int heatingCells = 0xD0D0FF;
+constexpr int heatingFactors = 0xA0A0FF;
 }  // namespace colours
 
 /// One named control of a form: what it shows, known without any toolkit.
@@ -159,6 +165,8 @@ class Control {
     Control& setAccessibleName(std::string name);
     /// Draws attention to the control for a moment; nothing of its state changes.
     void flash() { notify(Property::flash); }
+    /// Asks whoever shows the control to let the keyboard work it from now on.
+    void takeFocus() { notify(Property::focus); }
 
     Control& in(std::string container);
     Control& grouped(std::string group);

@@ -125,6 +125,11 @@ bool Form::takesKeys(const std::string& control) const {
     return found != handlers_.end() && found->second.key != nullptr;
 }
 
+bool Form::takesClicks(const std::string& control) const {
+    const auto found = handlers_.find(control);
+    return found != handlers_.end() && found->second.click != nullptr;
+}
+
 Form::Handlers& Form::handlersOf(const std::string& control) {
     this->control(control);
     return handlers_[control];
@@ -163,6 +168,7 @@ void Form::leave(const std::string& name) {
 }
 
 void Form::key(const std::string& name, const std::string& key) {
+    if (key == "F1") return help(name);
     perform(Verb::key, name, [&] {
         const Control& target = control(name);
         const bool field = target.kind() == ControlKind::text ||
@@ -173,6 +179,19 @@ void Form::key(const std::string& name, const std::string& key) {
         else if (key == "Ctrl+V" && typeable)
             type(name, platform_.clipboard());
     });
+}
+
+void Form::help(const std::string& name) {
+    if (helpDesk_ == nullptr) return;
+    try {
+        helpDesk_->explain(*this, name);
+    } catch (const RunTimeError& error) {
+        show(MessageIcon::exclamation, error.message());
+    }
+}
+
+std::string Form::whatsThis(const std::string& name) const {
+    return helpDesk_ == nullptr ? std::string() : helpDesk_->whatsThis(*this, name);
 }
 
 void Form::click(const std::string& name) {

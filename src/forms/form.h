@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "forms/control.h"
+#include "forms/help_desk.h"
 #include "forms/numeric_field.h"
 #include "forms/platform.h"
 #include "forms/texts.h"
@@ -96,6 +97,8 @@ class Form {
     const std::string& visitedField() const { return visited_; }
     /// Whether keys in the control have a meaning of their own.
     bool takesKeys(const std::string& control) const;
+    /// Whether clicks on the control have a meaning.
+    bool takesClicks(const std::string& control) const;
 
     const Values& values() const { return values_; }
     NumericFields& fields() { return fields_; }
@@ -114,6 +117,13 @@ class Form {
     /// A modal form asks to be taken away: Platform::runModal returns.
     void endModal() { modalEnded_ = true; }
     bool modalEnded() const { return modalEnded_; }
+
+    /// Who explains the controls; null for nobody.
+    void setHelpDesk(HelpDesk* desk) { helpDesk_ = desk; }
+    /// The user asks what the control is; an empty name asks about the window. Changes nothing.
+    void help(const std::string& control);
+    /// What the help says of the control, in a few sentences.
+    std::string whatsThis(const std::string& control) const;
 
     void addObserver(FormObserver* observer);
     void removeObserver(FormObserver* observer);
@@ -181,6 +191,7 @@ class Form {
     std::vector<FormObserver*> observers_;
     int telling_ = 0;
     std::unique_ptr<Relay> relay_;
+    HelpDesk* helpDesk_ = nullptr;
     std::string visited_, gesture_;
     int gestures_ = 0;
     int depth_ = 0;

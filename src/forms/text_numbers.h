@@ -96,8 +96,23 @@ constexpr int copy = 1084;
 constexpr int paste = 1085;
 constexpr int selectAll = 1086;
 
+// The browser window.
+constexpr int browserTitle = 1087;
+constexpr int browserAddress = 1088;
+constexpr int browserWorking = 1089;
+constexpr int browserBack = 1090;
+constexpr int browserForward = 1091;
+constexpr int browserRefresh = 1092;
+constexpr int browserHome = 1093;
+constexpr int browserSearch = 1094;
+constexpr int browserStop = 1095;
+constexpr int browserErrorTitle = 1096;
+constexpr int browserErrorText = 1097;
+
 // The language itself.
+constexpr int tablesFolder = 1100;
 constexpr int languageFont = 1101;
+constexpr int tablesLanguageFolder = 1102;
 constexpr int reportFont = 1103;
 
 // Commands of the main window and their messages.
@@ -117,6 +132,29 @@ constexpr int linkAverageBlock = 1214;
 constexpr int linkSelect = 1215;
 constexpr int linkCancel = 1216;
 constexpr int projectFileFilter = 1220;
+
+// Lines in the browser window.
+constexpr int browserAddressRefused = 1391;
+constexpr int browserOpenedOutside = 1392;
+constexpr int browserPageTooLarge = 1393;
+constexpr int browserDownloadRefused = 1394;
+constexpr int browserWindowRefused = 1395;
+constexpr int browserCertificateRefused = 1396;
+
+// The help.
+constexpr int whatsThis = 1397;
+constexpr int whatsThisHint = 1398;
+constexpr int helpTitle = 1380;
+constexpr int helpContentsPane = 1381;
+constexpr int helpIndexPane = 1382;
+constexpr int helpSearchPane = 1383;
+constexpr int helpPrint = 1384;
+constexpr int helpLookFor = 1385;
+constexpr int helpFind = 1386;
+constexpr int helpNothingFound = 1387;
+constexpr int helpIndexing = 1388;
+constexpr int helpResults = 1389;
+constexpr int helpPageMissing = 1390;
 
 // Notices at the top of a window.
 constexpr int noticeOutOfDate = 1230;
@@ -924,6 +962,139 @@ constexpr int zoneFileNotFound = 8540;
 constexpr int systemInformationUnavailable = 8541;
 constexpr int zoneFileDamaged = 8543;
 
+// The importer.
+constexpr int importTitle = 1502;
+constexpr int readSimulationTip = 1503;
+constexpr int pasteMonthsTip = 1504;
+constexpr int importModify = 1505;
+constexpr int importTotalMax = 1506;
+constexpr int importTableTip = 1507;
+constexpr int noSimulationFile = 1508;
+constexpr int openSimulationTitle = 1509;
+constexpr int simulationFileFilter = 1510;
+constexpr int importMonth = 1511;
+constexpr int importTotal = 1512;
+constexpr int importPeak = 1513;
+constexpr int importFactor = 1514;
+constexpr int importFile = 1515;
+constexpr int importGenerator = 1530;
+constexpr int trane700 = 1531;
+constexpr int systemAnalyzer = 1532;
+constexpr int importTransfer = 1519;
+constexpr int importTarget = 1520;
+constexpr int importNoTarget = 1521;
+constexpr int importNoZone = 1522;
+constexpr int designDayEven = 1523;
+constexpr int designDayFromHours = 1524;
+constexpr int coolingNotLookedAt = 1525;
+constexpr int heatingNotLookedAt = 1526;
+constexpr int importMonthsPicture = 1527;
+constexpr int importDayPicture = 1528;
+
+// The question which mode a transfer serves.
+constexpr int transferQuestion = 1516;
+constexpr int transferSelection = 1517;
+constexpr int transferTitle = 1518;
+
+// The picture of the year.
+constexpr int monthsPictureEmpty = 1535;
+constexpr int monthsPicture = 1536;
+constexpr int monthsPictureEnergy = 1537;
+constexpr int monthsPicturePeak = 1538;
+
+// Hours and months from a table.
+constexpr int importTableTitle = 1540;
+constexpr int openTableTitle = 1541;
+constexpr int tableFileFilter = 1542;
+constexpr int tableTooLarge = 1543;
+constexpr int tableFromClipboard = 1544;
+constexpr int tableLayout = 1545;
+constexpr int tableHourly = 1546;
+constexpr int tableMonthly = 1547;
+constexpr int tableSeparator = 1548;
+constexpr int tableComma = 1549;
+constexpr int tableSemicolon = 1550;
+constexpr int tableTab = 1551;
+constexpr int tableDecimal = 1552;
+constexpr int tableDecimalPoint = 1553;
+constexpr int tableDecimalComma = 1554;
+constexpr int tableUnit = 1555;
+constexpr int tableKilowatts = 1556;
+constexpr int tableWatts = 1557;
+constexpr int tableKilowattHours = 1558;
+constexpr int tableJoules = 1559;
+constexpr int tableBtuPerHour = 1560;
+constexpr int tableMBtuPerHour = 1561;
+constexpr int tableTons = 1562;
+constexpr int tableDateColumn = 1563;
+constexpr int tableCoolingColumn = 1564;
+constexpr int tableHeatingColumn = 1565;
+constexpr int tableSigned = 1566;
+constexpr int tableNoColumn = 1567;
+constexpr int tableColumn = 1568;
+constexpr int tableHoursHeadEnglish = 1569;
+constexpr int tableHoursHeadMetric = 1570;
+constexpr int tableMonthsHeadEnglish = 1571;
+constexpr int tableMonthsHeadMetric = 1572;
+constexpr int tableImport = 1573;
+constexpr int tableOpen = 1574;
+constexpr int tablePaste = 1575;
+constexpr int tableChooseColumn = 1576;
+constexpr int tableHoursFound = 1577;
+constexpr int tableMonthsFound = 1578;
+constexpr int tableWrongHours = 1579;
+constexpr int tableWrongMonths = 1580;
+constexpr int tableLeapDay = 1581;
+constexpr int tableLinesWithout = 1582;
+constexpr int tableLinesBlank = 1583;
+constexpr int tableLinesNegative = 1584;
+constexpr int tableWithoutPeaks = 1585;
+constexpr int tableLineHead = 1586;
+constexpr int tableDateHead = 1587;
+
+// Units of the importer and of the hours calculator.
+constexpr int importPeakUnitsMetric = 5104;
+constexpr int importTotalUnitsMetric = 5105;
+constexpr int importTotalUnitsEnglish = 5109;
+constexpr int hoursUnits = 5127;
+
+// The hours calculator.
+constexpr int annualHoursFrame = 5103;
+constexpr int annualHoursTitle = 5110;
+constexpr int peakHourlyLoad = 5111;
+constexpr int monthlyTotalLoads = 5112;
+constexpr int january = 5113;
+constexpr int february = 5114;
+constexpr int march = 5115;
+constexpr int april = 5116;
+constexpr int may = 5117;
+constexpr int june = 5118;
+constexpr int july = 5119;
+constexpr int august = 5120;
+constexpr int september = 5121;
+constexpr int october = 5122;
+constexpr int november = 5123;
+constexpr int december = 5124;
+constexpr int fullLoadHoursResult = 5125;
+constexpr int closeWindow = 5126;
+
+// The diffusivity calculator.
+constexpr int showSoilTables = 2311;
+constexpr int diffusivityCalculatorTitle = 5134;
+constexpr int moisture = 5135;
+constexpr int dryDensity = 5136;
+constexpr int drySpecificHeat = 5137;
+constexpr int soilThermalConductivity = 5138;
+constexpr int soilThermalDiffusivity = 5139;
+
+// The pump power calculator; a report's flow has the same caption.
+constexpr int flowRateCaption = 3213;
+constexpr int pumpPowerFrame = 5156;
+constexpr int requiredPumpPower = 5157;
+constexpr int pumpHead = 5158;
+constexpr int pumpEfficiency = 5159;
+constexpr int headMetric = 5160;
+
 // Reports.
 constexpr int reportWord = 9101;
 
@@ -968,7 +1139,6 @@ constexpr int coolingColumn = 9127;
 constexpr int heatingColumn = 9128;
 constexpr int reportWaterToAir = 2862;
 constexpr int reportWaterToWater = 2863;
-constexpr int flowRatePerTon = 3213;
 constexpr int reportHeaderPipeSize = 2438;
 constexpr int longTermSoilTemperatures = 9317;
 constexpr int pipeConfiguration = 5037;

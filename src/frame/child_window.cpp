@@ -23,6 +23,12 @@ void ChildWindow::switchUnits(UnitSystem wanted) {
     MetricCheck_Click();
 }
 
+void ChildWindow::startInUnitsOfMenu() {
+    // The Units menu switches no window before one has been counted.
+    if (main_.windowCounter == 0) main_.windowCounter = 1;
+    control("MetricCheck").setChecked(main_.units() == UnitSystem::metric);
+}
+
 void ChildWindow::startHistory(bool saved) {
     if (StatePointer now = state()) history_.start(std::move(now), saved);
 }
@@ -122,6 +128,11 @@ void ChildWindow::goTo(const DocumentState& wanted) {
     history_.settle(state());
     savedStateReached(history_.isAtSaved());
     refreshNotice();
+}
+
+void ChildWindow::endVisitOfField() {
+    endVisit();
+    history_.endVisit();
 }
 
 Notice ChildWindow::refusedNotice(const RefusedValue& refused) const {

@@ -42,6 +42,8 @@ class ChildWindow : public Form {
     /// Puts `MetricCheck` to the value and runs MetricCheck_Click when that changes it.
     void switchUnits(UnitSystem units);
     virtual void MetricCheck_Click() {}
+    /// Other windows have been opened or closed, or another one is active.
+    virtual void windowsChanged() {}
 
     /// Fields are being rewritten by code: text changes must not be treated as the user's.
     bool settingUnits = false;
@@ -82,6 +84,10 @@ class ChildWindow : public Form {
  protected:
     friend class DocumentStep;
 
+    /// To be called by load: the window starts in the units of the Units menu, which works it from
+    /// now on.
+    void startInUnitsOfMenu();
+
     /// Puts an earlier state back and shows it.
     virtual void restore(const DocumentState&) {}
     /// Whether what other windows have changed leaves a saved document saved.
@@ -95,6 +101,9 @@ class ChildWindow : public Form {
     virtual void takeForeignChanges() {}
     /// A step has been recorded, by whatever window's action.
     virtual void stepRecorded() {}
+    /// The visit of a field ends though the keyboard stays in it: what is typed next is a step of
+    /// its own.
+    void endVisitOfField();
     /// Adds `NoticeLabel` and `NoticeCommand`, which show while there is something to tell.
     void addNotice();
     /// The document has been saved as it stands.

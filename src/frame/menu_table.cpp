@@ -57,6 +57,7 @@ constexpr MenuRow menus[] = {
     {"Window", nullptr, Text::windowMenu, 0},
     {"Help", nullptr, Text::helpMenu, 0},
     {"mnuHelp", "Help", Text::helpContents, Text::helpContentsHint},
+    {"mnuWhatsThis", "Help", Text::whatsThis, Text::whatsThisHint},
     {"mnuAbout", "Help", Text::about, Text::aboutHint, true},
 };
 

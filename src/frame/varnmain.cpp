@@ -51,7 +51,7 @@ Varnmain::Varnmain(Platform& platform, const Texts& texts, std::string programFo
 Varnmain::~Varnmain() = default;
 
 void Varnmain::start() {
-    helpFile = joinPath(MainDirectory, "OnlineHelp/vht.chm");
+    helpFile = joinPath(MainDirectory, "OnlineHelp/vht.qch");
     setCaption(text(Text::programTitle));
     FontFaceName = text(Text::languageFont);
     control("Metric").setChecked(!FontFaceName.empty());
@@ -96,6 +96,7 @@ void Varnmain::registerValues() {
     values.add("MainDirectory", &MainDirectory);
     values.add("TempDirectory", &TempDirectory);
     values.add("FontFaceName", &FontFaceName);
+    values.add("HHTopicURL", &HHTopicURL);
     values.add("openCall", &openCall);
     values.add("saveCancelled", &saveCancelled);
     values.add("windowCounter", &windowCounter);
@@ -128,6 +129,11 @@ void Varnmain::setCommand(const std::string& entry, CommandNeeds needs, std::fun
     refreshCommands();
 }
 
+void Varnmain::explainBy(HelpDesk& desk) {
+    helpDesk_ = &desk;
+    setHelpDesk(&desk);
+}
+
 void Varnmain::run(const std::string& entry) {
     const auto found = commands_.find(entry);
     if (found == commands_.end() || !usable(found->second)) return;
@@ -146,6 +152,7 @@ void Varnmain::open(std::unique_ptr<ChildWindow> window) {
     closed_.erase(std::remove_if(closed_.begin(), closed_.end(), done), closed_.end());
     hideSplash();
     ChildWindow& opened = *window;
+    opened.setHelpDesk(helpDesk_);
     windows_.push_back(std::move(window));
     try {
         opened.load();
@@ -171,6 +178,11 @@ void Varnmain::activate(ChildWindow& window) {
         show(MessageIcon::exclamation, error.message());
     }
     refreshCommands();
+    tellWindows();
+}
+
+void Varnmain::tellWindows() const {
+    for (ChildWindow* window : windows()) window->windowsChanged();
 }
 
 void Varnmain::setActive(ChildWindow* window) {
@@ -194,6 +206,7 @@ bool Varnmain::close(ChildWindow& window) {
         if (!activationOrder_.empty()) activate(*activationOrder_.back());
     }
     refreshCommands();
+    tellWindows();
     return true;
 }
 
@@ -251,6 +264,12 @@ ChildWindow* Varnmain::find(const std::string& formName) const {
     if (active_ != nullptr && active_->formName() == formName) return active_;
     const std::vector<ChildWindow*> named = windowsNamed(formName);
     return named.empty() ? nullptr : named.back();
+}
+
+ChildWindow* Varnmain::lastActive(const std::function<bool(const ChildWindow&)>& condition) const {
+    for (auto window = activationOrder_.rbegin(); window != activationOrder_.rend(); ++window)
+        if (condition(**window)) return *window;
+    return nullptr;
 }
 
 int Varnmain::numberOf(const Form& window) const {
@@ -328,6 +347,7 @@ void Varnmain::reassignSlot(DesignKind kind, std::size_t from, std::size_t to) {
 }
 
 void Varnmain::runModal(Form& form) {
+    form.setHelpDesk(helpDesk_);
     modal_.push_back(&form);
     platform().runModal(form);
     modal_.pop_back();

@@ -38,6 +38,9 @@ class Varnmain : public Form {
     /// Whether a subsystem has registered the command.
     bool hasCommand(const std::string& entry) const { return commands_.count(entry) > 0; }
 
+    /// Who explains the controls of every window from now on.
+    void explainBy(HelpDesk& desk);
+
     // Child windows.
     /// Runs the window's set-up, shows it and makes it the active one.
     void open(std::unique_ptr<ChildWindow> window);
@@ -50,6 +53,8 @@ class Varnmain : public Form {
     std::vector<ChildWindow*> windowsNamed(const std::string& formName) const;
     /// The window of that name which is active, or else the one opened last; null for none.
     ChildWindow* find(const std::string& formName) const;
+    /// Of the windows that the condition holds for, the one that was active last; null for none.
+    ChildWindow* lastActive(const std::function<bool(const ChildWindow&)>& condition) const;
     /// Number of an open window among those of its name, from 1 in order of opening.
     int numberOf(const Form& window) const;
     bool isOpen(const Form* window) const;
@@ -111,6 +116,8 @@ class Varnmain : public Form {
     std::string TempDirectory;
     std::string FontFaceName;
     std::string helpFile;
+    /// The page of the help that was asked for last: "borehole.html#soil".
+    std::string HHTopicURL;
     /// File name chosen in the common dialog last.
     std::string commonDialogFile;
     bool openCall = false;
@@ -146,9 +153,11 @@ class Varnmain : public Form {
     void reassignSlot(DesignKind kind, std::size_t from, std::size_t to);
     void setActive(ChildWindow* window);
     void takeAway(ChildWindow& window);
+    void tellWindows() const;
     void refreshUndo();
     ChildWindow& nextToClose() const;
 
+    HelpDesk* helpDesk_ = nullptr;
     std::map<std::string, Command> commands_;
     std::vector<std::unique_ptr<ChildWindow>> windows_;
     /// Closed in the midst of their own handlers: kept until those have ended and a window opens.

@@ -11,7 +11,7 @@ namespace varnholt {
 
 // clang-format off
 inline constexpr Pair fluidPairs[] = {
-    {{"FlowRatePerTonTextLabel", shown("FLFlowRateText", "FLFlowRateUnitsLabel")}, words(Text::flowRatePerTon)},
+    {{"FlowRatePerTonTextLabel", shown("FLFlowRateText", "FLFlowRateUnitsLabel")}, words(Text::flowRateCaption)},
     {{"FluidTypeTextLabel", computed(fluidOf)}, words(Text::fluidPage)},
     {{"SpecificHeatTextLabel", shown("FLSpecificHeatText", "FLSpecificHeatUnitsLabel")}, words(Text::specificHeat)},
     {{"DensityTextLabel", shown("FLFluidDensityText", "FLDensityUnitsLabel")}, words(Text::density)},

@@ -30,6 +30,12 @@ unsigned readLocale(const std::string& text) {
     return number;
 }
 
+std::string readBrowser(const std::string& text) {
+    if (text != "text" && text != "web")
+        throw UsageError(fmt::format("{} is no engine for pages: text or web", text));
+    return text;
+}
+
 Date readToday(const std::string& text) {
     const std::optional<Date> date = readIsoDate(text);
     if (!date) throw UsageError(fmt::format("{} is not a date of the form YYYY-MM-DD", text));
@@ -80,6 +86,8 @@ class Parser {
             line_.today = readToday(value());
         else if (name == "--script" && program_ == Program::windows)
             line_.script = value();
+        else if (name == "--browser" && program_ == Program::windows)
+            line_.browser = readBrowser(value());
         else if (name == "--help" && !joined)
             line_.help = true;
         else if (name == "--version" && !joined)
@@ -133,7 +141,9 @@ std::string usageOf(Program program) {
     return fmt::format(
         "varnholt [options] [FILE ...]\n"
         "Sizes ground heat exchangers. Opens the project and zone files that are named.\n\n"
-        "  --script FILE         let a script work the windows; - is standard input\n{}",
+        "  --script FILE         let a script work the windows; - is standard input\n"
+        "  --browser text|web    what shows reference pages (default: web where it is installed,\n"
+        "                        text for a script)\n{}",
         commonOptions);
 }
 

@@ -19,6 +19,8 @@ struct CommandLine {
     std::optional<Date> today;
     /// Project and zone files to open in the windows, as absolute paths.
     std::vector<std::string> files;
+    /// The engine of browser windows, "text" or "web"; empty for the usual one.
+    std::string browser;
     bool help = false;
     bool version = false;
     /// What is wrong with the command line; empty when nothing is.

@@ -145,6 +145,7 @@ Shown propertyOf(const Form& form, const Control& control, Property property) {
         case Property::step:
         case Property::accessibleName:
         case Property::flash:
+        case Property::focus:
             break;
     }
     return control.refused();

@@ -109,14 +109,18 @@ void ScriptCommands::key(std::string& rest) {
         workable(rest, {Kind::text, Kind::richText, Kind::combo, Kind::list, Kind::date,
                         Kind::slider, Kind::upDown, Kind::button, Kind::check, Kind::option});
     const std::string key = onlyWord(rest);
-    if (key != "Enter" && key != "Ctrl+V")
-        throw ScriptFault(fmt::format("{} is no key: Enter or Ctrl+V", key));
+    if (key != "Enter" && key != "Ctrl+V" && key != "F1")
+        throw ScriptFault(fmt::format("{} is no key: Enter, Ctrl+V or F1", key));
     driver_.key(target.form, target.control, key);
 }
 
 void ScriptCommands::click(std::string& rest) {
-    const Target target = workable(rest, {Kind::button, Kind::option, Kind::menu, Kind::check});
+    const Target target =
+        workable(rest, {Kind::button, Kind::option, Kind::menu, Kind::check, Kind::label});
     requireEnd(rest);
+    if (target.control.kind() == Kind::label && !target.form.takesClicks(target.control.name()))
+        throw ScriptFault(
+            fmt::format("{} is a label and cannot be worked in this way", target.control.name()));
     if (target.control.kind() == Kind::menu && target.control.caption().empty())
         throw ScriptFault(fmt::format("{} is a line between entries", target.control.name()));
     driver_.click(target.form, target.control);

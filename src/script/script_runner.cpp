@@ -63,6 +63,7 @@ void ScriptRunner::runLine(const ScriptLine& line) {
 void ScriptRunner::execute(const ScriptLine& line) {
     if (!platform_.forms().isOpen(&main_)) throw ScriptFault("the program has been closed");
     commands_.execute(line);
+    if (afterLine_) afterLine_();
     // The frame closes once the command that asked for it has ended.
     if (platform_.takeQuit()) driver_.close(main_);
 }

@@ -27,6 +27,9 @@ class ScriptRunner : private ScriptHost {
     /// Returns the program's exit status.
     int run();
 
+    /// Called at the end of every line that has run: waits for what the line has begun.
+    void setAfterLine(std::function<void()> wait) { afterLine_ = std::move(wait); }
+
  private:
     void runModal(Form& form) override;
     void fail(const ScriptFault& fault) override;
@@ -42,6 +45,7 @@ class ScriptRunner : private ScriptHost {
     Driver& driver_;
     ScriptReader& reader_;
     std::ostream& faults_;
+    std::function<void()> afterLine_;
     ScriptCommands commands_;
     std::function<void(int)> exit_;
     ScriptStatus status_ = ScriptStatus::ran;

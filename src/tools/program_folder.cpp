@@ -20,12 +20,53 @@ void copyFiles(const std::string& from, const std::string& to, const std::string
         if (file.ends_with(extension)) copyFile(file, joinPath(to, fileNameOf(file)));
 }
 
+/// The same with the folders in it.
+void copyTree(const std::string& from, const std::string& to) {
+    copyFiles(from, to);
+    if (!isFolder(from)) return;
+    for (const std::string& folder : foldersIn(from))
+        copyTree(folder, joinPath(to, fileNameOf(folder)));
+}
+
+/// Remembers what a folder has been given, one word a line.
+const std::string suppliedFile = "Data/supplied.txt";
+const std::string suppliedWords = "tables\n";
+
 void fill(const std::string& folder, const InstalledFiles& from) {
     copyFiles(from.examples, joinPath(folder, "work files"), ".vht");
-    copyFiles(from.examples, joinPath(folder, "zones"), ".zon");
+    for (const char* extension : {".zon", ".gt1", ".gth", ".csv"})
+        copyFiles(from.examples, joinPath(folder, "zones"), extension);
     copyFiles(joinPath(from.resources, "pumps"), joinPath(folder, "pumps"));
     copyFiles(joinPath(from.resources, "help"), joinPath(folder, "OnlineHelp"));
+    copyTree(joinPath(from.resources, "tables"), joinPath(folder, "tables"));
     makeFolders(joinPath(folder, "Data"));
+    replaceWholeFile(joinPath(folder, suppliedFile), suppliedWords);
+}
+
+/// Files that an older program did not have are added; those that are there stay.
+void addFiles(const std::string& from, const std::string& to) {
+    makeFolders(to);
+    if (!isFolder(from)) return;
+    for (const std::string& file : filesIn(from)) {
+        const std::string copy = joinPath(to, fileNameOf(file));
+        if (!fileExists(copy)) copyFile(file, copy);
+    }
+    for (const std::string& folder : foldersIn(from))
+        addFiles(folder, joinPath(to, fileNameOf(folder)));
+}
+
+/// Gives the folder of a program that had no reference pages what it lacks, once.
+void supply(const std::string& folder, const InstalledFiles& from) {
+    const std::string mark = joinPath(folder, suppliedFile);
+    if (fileExists(mark)) return;
+    try {
+        addFiles(joinPath(from.resources, "tables"), joinPath(folder, "tables"));
+        addFiles(joinPath(from.resources, "help"), joinPath(folder, "OnlineHelp"));
+        makeFolders(folderOf(mark));
+        replaceWholeFile(mark, suppliedWords);
+    } catch (const RunTimeError&) {
+        return;  // The program runs without them; the browser tells what is missing.
+    }
 }
 
 /// Gives the filled folder its name, unless another start of the program was faster.
@@ -59,7 +100,7 @@ std::string userProgramFolder() {
 
 void fillProgramFolder(const std::string& path, const InstalledFiles& from) {
     const std::string folder = withoutSlashAtEnd(path);
-    if (isFolder(folder)) return;
+    if (isFolder(folder)) return supply(folder, from);
     const std::string filling = folder + ".new-" + std::to_string(processNumber());
     try {
         makeFolders(filling);

@@ -7,14 +7,14 @@ namespace varnholt {
 
 /// Where the program's own files lie, which it reads and never writes.
 struct InstalledFiles {
-    std::string resources;  ///< language, pictures, catalogue, help
+    std::string resources;  ///< language, catalogue, reference pages, help
     std::string examples;   ///< example projects, zone files and scripts
 
     std::string languageFolder() const { return resources + "/language"; }
 };
 
 /// The files that belong to the running program: share/varnholt beside the folder of the
-/// executable when it is installed, else the source tree that it was built from.
+/// executable when it is installed, else what the build has made of the source tree.
 InstalledFiles installedFiles();
 /// The same for an executable at that path.
 InstalledFiles installedFilesOf(const std::string& executable);
@@ -23,11 +23,14 @@ InstalledFiles installedFilesOf(const std::string& executable);
 std::string userProgramFolder();
 
 /// Makes a new program folder with the folders "work files", "zones", "pumps", "Data" and
-/// "OnlineHelp": the catalogue goes into pumps, the help into OnlineHelp, example zone files and
-/// projects into zones and work files. A folder that exists already is left alone, whatever it
-/// holds: what the user took away does not come back.
+/// "OnlineHelp" and "tables": the catalogue goes into pumps, the help into OnlineHelp, the
+/// reference pages into tables, example zone files and projects into zones and work files. A folder
+/// that exists already is left alone, whatever it holds: what the user took away does not come
+/// back. Only the folder of a program that had no reference pages yet is given them once, and the
+/// help that goes with them; Data/supplied.txt remembers that.
 ///
-/// The folder appears complete or not at all. Throws RunTimeError 75 when it cannot be made.
+/// The folder appears complete or not at all. Throws RunTimeError 75 when it cannot be made. What
+/// an older folder cannot be given, since it may not be written to, is left out without an error.
 void fillProgramFolder(const std::string& folder, const InstalledFiles& from);
 
 }  // namespace varnholt

@@ -33,7 +33,9 @@ class Help : public testing::Test {
         application = std::make_unique<Application>(
             platform, Application::Setup{folder, VARNHOLT_SOURCE_DIR "/resources", 0x409});
         application->start();
-        for (const char* entry : {"NewBorehole", "mnuZoneManage", "mnuAvgBlock"})
+        for (const char* entry :
+             {"NewBorehole", "mnuZoneManage", "mnuAvgBlock", "mnuMonthlyLoadsImport", "mnuDiffCalc",
+              "mnuEqvHours", "mnuPumpPowerCalc"})
             application->main().click(entry);
     }
     ~Help() override { fs::remove_all(folder); }

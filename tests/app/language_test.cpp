@@ -22,7 +22,7 @@ class Language : public testing::Test {
     /// The program with the satellite of a locale, started.
     Varnmain& start(unsigned locale) {
         application = std::make_unique<Application>(
-            platform, Application::Setup{folder, VARNHOLT_SOURCE_DIR "/resources", locale});
+            platform, Application::Setup{folder, VARNHOLT_RESOURCE_DIR, locale});
         application->start();
         return application->main();
     }

@@ -8,7 +8,10 @@
 
 #include "app/application.h"
 #include "desktop/binding/typing.h"
+#include "desktop/reading/desktop_help.h"
 #include "desktop/widgets/theme.h"
+#include "desktop/windows/desktop_pages.h"
+#include "desktop/windows/help_places.h"
 #include "desktop/windows/main_window.h"
 #include "desktop/windows/window_shelf.h"
 #include "forms/fake_platform.h"
@@ -49,15 +52,18 @@ class DeskPlatform : public FakePlatform {
 /// The whole program with its real windows, in a program folder of its own.
 class Desk {
  public:
-    Desk()
+    /// @param browser  the engine of the browser windows
+    explicit Desk(const std::string& browser = "text")
         : folder_(freshFolder()),
           shelf(false),
           platform(shelf),
-          program(platform, {folder_, installedFiles().resources, 0x409}) {
+          pages(browser),
+          program(platform, {folder_, installedFiles().resources, 0x409}, {&pages, &help}) {
         applyTheme(*qApp, Scheme::light);
         shelf.setFaultTaker([this](const std::exception_ptr& fault) { faults.push_back(fault); });
         window = std::make_unique<MainWindow>(main(), shelf.faults(), folder_ + "/recent.txt");
         shelf.setMain(*window, main());
+        help.setPlaces(helpPlaces());
         window->resize(MainWindow::usualSize());
         window->show();
         program.start();
@@ -72,6 +78,12 @@ class Desk {
     Desk& operator=(const Desk&) = delete;
 
     Varnmain& main() { return program.main(); }
+    /// Those of the program, with a cache of the test's own.
+    HelpPlaces helpPlaces() {
+        HelpPlaces places = helpPlacesOf(program, *window);
+        places.cacheFolder = folder_ + "/help cache";
+        return places;
+    }
     const std::string& folder() const { return folder_; }
     /// Lets the toolkit do what it has put off.
     static void settle() {
@@ -95,6 +107,8 @@ class Desk {
  public:
     WindowShelf shelf;
     DeskPlatform platform;
+    DesktopPages pages;
+    DesktopHelp help;
     Application program;
     std::unique_ptr<MainWindow> window;
     std::vector<std::exception_ptr> faults;

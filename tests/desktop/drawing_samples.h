@@ -13,6 +13,7 @@
 #include "desktop/drawings/field_picture.h"
 #include "desktop/drawings/link_light.h"
 #include "desktop/drawings/loads_picture.h"
+#include "desktop/drawings/months_picture.h"
 #include "desktop/drawings/trench_picture.h"
 #include "desktop/drawings/trench_plan_picture.h"
 #include "tools/text_table.h"
@@ -24,7 +25,8 @@ class PictureTexts : public Texts {
  public:
     PictureTexts() {
         for (const std::string name :
-             {"1350_desktop.txt", "2460_pictures.txt", "5000_horizontal.txt"})
+             {"1350_desktop.txt", "1500_import.txt", "2460_pictures.txt", "2800_loads.txt",
+              "5000_horizontal.txt"})
             table_.read(readWholeFile(VARNHOLT_SOURCE_DIR "/resources/language/english/" + name),
                         name);
     }
@@ -126,6 +128,19 @@ inline LoadsChart sampleLoads() {
     return chart;
 }
 
+inline MonthsChart sampleMonths(Mode mode) {
+    MonthsChart chart;
+    chart.mode = mode;
+    chart.energies = {20, 30, 60, 120, 200, 260, 300, 290, 210, 110, 50, 25};
+    chart.peaks = {30, 35, 45, 60, 72, 84, 90.5, 90.5, 80, 58, 44, 32};
+    chart.peakMonth = 6;
+    chart.names = {"January", "February", "March",     "April",   "May",      "June",
+                   "July",    "August",   "September", "October", "November", "December"};
+    chart.energyUnit = "( MBtu )";
+    chart.peakUnit = "(MBtu/Hr)";
+    return chart;
+}
+
 inline LoadsCaptions sampleCaptions() { return {{"8-12", "12-4", "4-8", "8-8"}, "MBtu/hr"}; }
 
 /// One picture of the gallery.
@@ -199,6 +214,15 @@ inline std::vector<DrawingSample> drawingSamples() {
                        }});
     samples.push_back({"loads_none", {300, 150}, [&texts](const Canvas& canvas) {
                            paintLoads(canvas, {}, sampleCaptions(), texts);
+                       }});
+    for (const Mode mode : modes)
+        samples.push_back({mode == cooling ? "months_cooling" : "months_heating",
+                           {440, 200},
+                           [mode, &texts](const Canvas& canvas) {
+                               paintMonths(canvas, sampleMonths(mode), texts);
+                           }});
+    samples.push_back({"months_none", {440, 200}, [&texts](const Canvas& canvas) {
+                           paintMonths(canvas, {}, texts);
                        }});
     for (const LinkPartner light : {LinkPartner::none, LinkPartner::zones, LinkPartner::block})
         samples.push_back({"light_" + std::to_string(static_cast<int>(light)),

@@ -163,6 +163,28 @@ TEST(TrenchPlanPicture, TellsTheFieldAndHowMuchOfItIsDrawn) {
               "inches apart. 4 of 12 trenches are drawn.");
 }
 
+TEST(MonthsPicture, TellsTheLargestMonthsOfItsMode) {
+    EXPECT_EQ(describeMonths(sampleMonths(heating), pictureTexts()).toStdString(),
+              "Heating by months: columns of energy up to 300.0 ( MBtu ) in July, marks of peaks "
+              "up to 90.5 (MBtu/Hr) in July.");
+}
+
+TEST(MonthsPicture, WithoutLoadsSaysWhatToDo) {
+    EXPECT_EQ(describeMonths({}, pictureTexts()).toStdString(),
+              "No loads yet. Type them in the table, or read a file.");
+}
+
+TEST(MonthsPicture, DrawsThePeakMonthStrong) {
+    MonthsChart flat = sampleMonths(cooling);
+    const DrawingSample none{
+        "", {440, 200}, [&](const Canvas& canvas) { paintMonths(canvas, flat, pictureTexts()); }};
+    const QColor strong = lightLook().cooling;
+    const int with = pixelsUnlike(renderedSample(none, lightLook(), 1), strong);
+    flat.peakMonth.reset();
+    const int without = pixelsUnlike(renderedSample(none, lightLook(), 1), strong);
+    EXPECT_LT(with, without);
+}
+
 TEST(LoadsPicture, NamesTheLargestLoadOfEachMode) {
     EXPECT_EQ(describeLoads(sampleLoads(), sampleCaptions(), pictureTexts()),
               "Cooling: the largest load is 42.5 MBtu/hr, in the block 12-4. Heating: the largest "

@@ -14,24 +14,32 @@ namespace varnholt {
 class StartedProgram {
  public:
     /// @param program the executable file
-    explicit StartedProgram(const std::string& program) {
+    /// @param options besides those that every run has
+    explicit StartedProgram(const std::string& program, const QStringList& options = {}) {
         const std::filesystem::path folder = temporary_.path() / "program";
         for (const char* name : {"work files", "zones", "Data", "OnlineHelp"})
             std::filesystem::create_directories(folder / name);
         std::filesystem::copy(VARNHOLT_SOURCE_DIR "/resources/pumps", folder / "pumps",
                               std::filesystem::copy_options::recursive);
+        std::filesystem::copy(VARNHOLT_RESOURCE_DIR "/tables", folder / "tables",
+                              std::filesystem::copy_options::recursive);
+        std::filesystem::copy(VARNHOLT_RESOURCE_DIR "/help", folder / "OnlineHelp");
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment.insert(QStringLiteral("XDG_CACHE_HOME"),
+                           QString::fromStdString(temporary_.path().string()));
         // What the address sanitizer keeps apart after its release would count as in use.
         environment.insert(
             QStringLiteral("ASAN_OPTIONS"),
             environment.value(QStringLiteral("ASAN_OPTIONS")) +
                 QStringLiteral(":quarantine_size_mb=1:thread_local_quarantine_size_kb=64"));
         process_.setProcessEnvironment(environment);
-        process_.start(QString::fromStdString(program),
-                       {QStringLiteral("--script"), QStringLiteral("-"), QStringLiteral("--locale"),
+        process_.start(
+            QString::fromStdString(program),
+            QStringList{QStringLiteral("--script"), QStringLiteral("-"), QStringLiteral("--locale"),
                         QStringLiteral("409"), QStringLiteral("--program-folder"),
-                        QString::fromStdString(folder.string())});
+                        QString::fromStdString(folder.string())} +
+                options);
         EXPECT_TRUE(process_.waitForStarted(10000)) << program;
     }
     ~StartedProgram() {
@@ -43,17 +51,20 @@ class StartedProgram {
 
     std::filesystem::path folder() const { return temporary_.path() / "program"; }
 
-    /// Gives the program these lines and waits until it has run them.
-    void run(const std::string& lines) {
+    /// Gives the program these lines and waits until it has run them; what it has written, with
+    /// "PROGRAM" for its folder.
+    std::string run(const std::string& lines) {
         process_.write(QByteArray::fromStdString(lines + "\nprint Varnmain.mnuHelp\n"));
-        QByteArray told;
-        while (!told.startsWith("Varnmain.mnuHelp = ")) {
+        std::string transcript;
+        for (;;) {
             if (!process_.canReadLine() && !process_.waitForReadyRead(30000)) {
-                ADD_FAILURE() << told.toStdString()
-                              << process_.readAllStandardError().toStdString();
-                return;
+                ADD_FAILURE() << transcript << process_.readAllStandardError().toStdString();
+                return transcript;
             }
-            told = process_.readLine();
+            const std::string told = process_.readLine().toStdString();
+            if (told.starts_with("Varnmain.mnuHelp = "))
+                return replaced(transcript, folder().string(), "PROGRAM");
+            transcript += told;
         }
     }
 

@@ -41,6 +41,45 @@ TEST(StartedProgram, DoesWithoutTheChartsWhereTheyAreMissing) {
     EXPECT_EQ(program.end(), 0);
 }
 
+TEST(StartedProgram, LoadsTheHelpWithItsFirstPage) {
+    StartedProgram program(windows);
+    program.run("click Varnmain.NewBorehole");
+    const std::string before = program.filesInMemory();
+    for (const char* library : {"varnholt_help", "libQt6Help", "libQt6Sql", "libQt6PrintSupport"})
+        EXPECT_EQ(before.find(library), std::string::npos) << library;
+    program.run("click Varnmain.mnuHelp");
+    EXPECT_NE(program.filesInMemory().find("varnholt_help"), std::string::npos);
+    EXPECT_EQ(program.end(), 0);
+}
+
+TEST(StartedProgram, LoadsNoWebEngineForPagesOfTheTextBrowser) {
+    StartedProgram program(windows);
+    program.run("click Varnmain.FluidProperties");
+    for (const char* library : {"varnholt_web", "libQt6WebEngine"})
+        EXPECT_EQ(program.filesInMemory().find(library), std::string::npos) << library;
+    EXPECT_EQ(program.end(), 0);
+}
+
+TEST(StartedProgram, ShowsPagesAndHelpWhereTheModulesAreMissing) {
+    const TemporaryFolder elsewhere;
+    const std::filesystem::path copy = elsewhere.path() / "bin" / "varnholt";
+    std::filesystem::create_directories(copy.parent_path());
+    std::filesystem::copy_file(windows, copy);
+    StartedProgram program(copy.string(), {QStringLiteral("--browser"), QStringLiteral("web")});
+    program.run("click Varnmain.FluidProperties");
+    EXPECT_EQ(program.run("forms"),
+              "Varnmain \"Varnholt\"\nfrmBrowser#1 \"Fluid properties\" active\n");
+    program.run(
+        "type frmBrowser.cboAddress http://varnholt.example/\nkey frmBrowser.cboAddress Enter");
+    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("system's browser"),
+              std::string::npos);
+    // The help's page opens in the browser window instead.
+    program.run("click Varnmain.mnuHelp");
+    EXPECT_NE(program.run("forms").find("frmBrowser#2 \"Varnholt help\" active"),
+              std::string::npos);
+    EXPECT_EQ(program.end(), 0);
+}
+
 /// What three rounds may leave behind in torn pages, MB; the address sanitizer's red zones tear
 /// more of them, and it tells by itself what has been lost.
 #ifdef __SANITIZE_ADDRESS__

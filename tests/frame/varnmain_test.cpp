@@ -62,7 +62,7 @@ class VarnmainTest : public testing::Test {
 TEST_F(VarnmainTest, StartsInEnglishUnitsWhenTheLanguageHasNoFont) {
     EXPECT_FALSE(main.control("Metric").checked());
     EXPECT_TRUE(main.control("English").checked());
-    EXPECT_EQ(main.helpFile, "/program/OnlineHelp/vht.chm");
+    EXPECT_EQ(main.helpFile, "/program/OnlineHelp/vht.qch");
     EXPECT_EQ(main.caption(), "[1001]");
 }
 

@@ -26,9 +26,10 @@ bool isEnabled(const Form& form, const Control& control) {
     return control.container().empty() || isEnabled(form, form.control(control.container()));
 }
 
-bool takesHands(const Control& control) {
+bool takesHands(const Form& form, const Control& control) {
     switch (control.kind()) {
         case Kind::label:
+            return form.takesClicks(control.name());
         case Kind::frame:
         case Kind::image:
             return false;
@@ -46,7 +47,7 @@ bool takesHands(const Control& control) {
 std::vector<const Control*> workableOf(const Form& form) {
     std::vector<const Control*> workable;
     for (const auto& control : form.controls())
-        if (takesHands(*control) && !control->locked() && isEnabled(form, *control) &&
+        if (takesHands(form, *control) && !control->locked() && isEnabled(form, *control) &&
             form.isShown(*control))
             workable.push_back(control.get());
     return workable;

@@ -58,7 +58,10 @@ std::optional<std::string> MonkeyPlatform::chooseFile(const FileDialog& dialog) 
 std::string MonkeyPlatform::anyFile(const FileDialog& dialog) {
     if (!dialog.saving && dice_.chance(5)) return "work files/missing.vht";
     if (!dialog.saving && dice_.chance(5)) return "pumps/PumpList.vht";
-    const bool zones = dialog.filter.find(".zon") != std::string::npos;
+    const auto offers = [&](const char* kind) {
+        return dialog.filter.find(kind) != std::string::npos;
+    };
+    const bool zones = offers(".zon") || offers(".gt1") || offers(".csv");
     const std::string subfolder = zones ? "zones" : "work files";
     std::vector<std::string> there;
     for (const auto& entry : fs::directory_iterator(fs::path(folder_) / subfolder))

@@ -205,7 +205,7 @@ INSTANTIATE_TEST_SUITE_P(
         BadLine{"leave frmEveryKind.imgBore",
                 "imgBore is a image and cannot be worked in this way"},
         BadLine{"key frmEveryKind.PlainText(0)", "the line ends too early"},
-        BadLine{"key frmEveryKind.PlainText(0) F13", "F13 is no key: Enter or Ctrl+V"},
+        BadLine{"key frmEveryKind.PlainText(0) F13", "F13 is no key: Enter, Ctrl+V or F1"},
         BadLine{"key frmEveryKind.DisabledText Enter", "DisabledText is not enabled"},
         BadLine{"click frmEveryKind.PlainText(0)",
                 "PlainText(0) is a text and cannot be worked in this way"},

@@ -106,6 +106,8 @@ class SystemScript {
             fs::create_directories(program / name);
         fs::copy(VARNHOLT_SOURCE_DIR "/resources/pumps", program / "pumps",
                  fs::copy_options::recursive);
+        fs::copy(VARNHOLT_RESOURCE_DIR "/tables", program / "tables", fs::copy_options::recursive);
+        fs::copy(VARNHOLT_RESOURCE_DIR "/help", program / "OnlineHelp");
         if (fs::is_directory(files_))
             fs::copy(files_, program,
                      fs::copy_options::recursive | fs::copy_options::overwrite_existing);

@@ -16,7 +16,7 @@
 namespace varnholt {
 namespace {
 
-const std::string languageFolder = VARNHOLT_SOURCE_DIR "/resources/language";
+const std::string languageFolder = VARNHOLT_RESOURCE_DIR "/language";
 
 std::string contentOf(const std::filesystem::path& file) {
     std::ostringstream content;

@@ -20,8 +20,12 @@ class ProgramFolder : public testing::Test {
     ProgramFolder() {
         scratch.write("from/pumps/PumpList.vht", "index");
         scratch.write("from/help/index.html", "help");
+        scratch.write("from/help/vht.qch", "compiled");
+        scratch.write("from/tables/english/FluidTables.html", "fluids");
         scratch.write("from/examples/office.zon", "zones");
         scratch.write("from/examples/office.vht", "project");
+        scratch.write("from/examples/school.gt1", "months");
+        scratch.write("from/examples/office.csv", "hours");
         scratch.write("from/examples/tour.vscript", "script");
     }
     std::string folder(const std::string& name) const {
@@ -36,8 +40,12 @@ TEST_F(ProgramFolder, IsFilledOnTheFirstStart) {
     fillProgramFolder(folder(""), from);
     EXPECT_EQ(readWholeFile(folder("pumps/PumpList.vht")), "index");
     EXPECT_EQ(readWholeFile(folder("OnlineHelp/index.html")), "help");
+    EXPECT_EQ(readWholeFile(folder("OnlineHelp/vht.qch")), "compiled");
+    EXPECT_EQ(readWholeFile(folder("tables/english/FluidTables.html")), "fluids");
     EXPECT_EQ(readWholeFile(folder("zones/office.zon")), "zones");
     EXPECT_EQ(readWholeFile(folder("work files/office.vht")), "project");
+    EXPECT_EQ(readWholeFile(folder("zones/school.gt1")), "months");
+    EXPECT_EQ(readWholeFile(folder("zones/office.csv")), "hours");
     EXPECT_TRUE(fs::is_directory(folder("Data")));
     EXPECT_FALSE(fs::exists(folder("zones/tour.vscript")));
 }
@@ -45,10 +53,35 @@ TEST_F(ProgramFolder, IsFilledOnTheFirstStart) {
 TEST_F(ProgramFolder, IsLeftAloneOnLaterStarts) {
     fillProgramFolder(scratch.path("own"), from);
     fs::remove_all(scratch.path("own/pumps"));
+    fs::remove_all(scratch.path("own/tables"));
     scratch.write("own/zones/office.zon", "changed");
     fillProgramFolder(scratch.path("own"), from);
     EXPECT_FALSE(fs::exists(scratch.path("own/pumps")));
+    EXPECT_FALSE(fs::exists(scratch.path("own/tables")));
     EXPECT_EQ(readWholeFile(scratch.path("own/zones/office.zon")), "changed");
+}
+
+TEST_F(ProgramFolder, OfAnOlderProgramIsGivenTheTablesAndTheHelpOnce) {
+    scratch.write("own/zones/office.zon", "mine");
+    scratch.write("own/OnlineHelp/index.html", "older help");
+    fillProgramFolder(scratch.path("own"), from);
+    EXPECT_EQ(readWholeFile(scratch.path("own/tables/english/FluidTables.html")), "fluids");
+    EXPECT_EQ(readWholeFile(scratch.path("own/OnlineHelp/vht.qch")), "compiled");
+    // What stands there is the user's, and what he does not want does not come back.
+    EXPECT_EQ(readWholeFile(scratch.path("own/OnlineHelp/index.html")), "older help");
+    EXPECT_FALSE(fs::exists(scratch.path("own/pumps")));
+    fs::remove_all(scratch.path("own/tables"));
+    fillProgramFolder(scratch.path("own"), from);
+    EXPECT_FALSE(fs::exists(scratch.path("own/tables")));
+}
+
+TEST_F(ProgramFolder, OfAnOlderProgramThatMayNotBeWrittenToStaysAsItIs) {
+    scratch.write("own/zones/office.zon", "mine");
+    // A file stands where the folder would be made, which no right helps against.
+    scratch.write("own/tables", "a file");
+    EXPECT_NO_THROW(fillProgramFolder(scratch.path("own"), from));
+    EXPECT_EQ(readWholeFile(scratch.path("own/tables")), "a file");
+    EXPECT_EQ(readWholeFile(scratch.path("own/zones/office.zon")), "mine");
 }
 
 TEST_F(ProgramFolder, HasItsFoldersEvenWhenNothingIsInstalled) {
@@ -86,8 +119,8 @@ TEST(InstalledFiles, LieBesideTheExecutablesFolder) {
     EXPECT_EQ(files.languageFolder(), scratch.path("usr/share/varnholt/language"));
 }
 
-TEST(InstalledFiles, OfABuiltProgramLieInItsSourceTree) {
-    EXPECT_EQ(installedFiles().resources, VARNHOLT_SOURCE_DIR "/resources");
+TEST(InstalledFiles, OfABuiltProgramLieWhereTheBuildMadeThem) {
+    EXPECT_EQ(installedFiles().resources, VARNHOLT_RESOURCE_DIR);
     EXPECT_EQ(installedFiles().examples, VARNHOLT_SOURCE_DIR "/examples");
 }
 

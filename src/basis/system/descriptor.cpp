@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 
+#include <algorithm>
 #include <cerrno>
 
 #include "basis/system/system_error.h"
@@ -13,11 +14,12 @@ Descriptor openForReading(const std::string& path) {
     return Descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
 }
 
-std::string readToEnd(const Descriptor& file, const std::string& path) {
+std::string readToEnd(const Descriptor& file, const std::string& path, std::size_t most) {
     std::string bytes;
     char buffer[65536];
     for (;;) {
-        const ssize_t got = ::read(file.number(), buffer, sizeof buffer);
+        const std::size_t wanted = std::min(sizeof buffer, most - bytes.size());
+        const ssize_t got = ::read(file.number(), buffer, wanted);
         if (got < 0 && errno == EINTR) continue;
         if (got < 0) throwFileError(errno, path);
         if (got == 0) return bytes;

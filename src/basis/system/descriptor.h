@@ -30,7 +30,9 @@ class Descriptor {
 /// Opens a file for reading; the descriptor is not open, and errno tells why, when that fails.
 Descriptor openForReading(const std::string& path);
 
-/// Everything from here to the end of the file. Throws as throwFileError.
-std::string readToEnd(const Descriptor& file, const std::string& path);
+/// Everything from here to the end of the file, but no more than so many bytes. Throws as
+/// throwFileError.
+std::string readToEnd(const Descriptor& file, const std::string& path,
+                      std::size_t most = std::string::npos);
 
 }  // namespace varnholt

@@ -44,6 +44,12 @@ bool fileExists(const std::string& path) { return DiskFiles().stamp(path).has_va
 
 std::string readWholeFile(const std::string& path) { return DiskFiles().read(path).bytes; }
 
+std::string readFileStart(const std::string& path, std::size_t most) {
+    const Descriptor file = openForReading(path);
+    if (!file.isOpen()) throwFileError(errno, path);
+    return readToEnd(file, path, most);
+}
+
 void replaceWholeFile(const std::string& path, std::string_view bytes) {
     const std::string target = resolvedTarget(path);
     struct stat old {};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <istream>
 #include <memory>
 #include <string>
@@ -16,6 +17,9 @@ bool fileExists(const std::string& path);
 /// The whole file. Throws RunTimeError 53 (no such file), 76 (no such folder), 70 or 75 (no
 /// right, or a folder), 57 (read fault).
 std::string readWholeFile(const std::string& path);
+
+/// The file's first bytes, no more than so many, however long it is. Throws as readWholeFile.
+std::string readFileStart(const std::string& path, std::size_t most);
 
 /// Replaces a file whole: the bytes go to a new file beside it, are flushed to the disk, and take
 /// the name in one step, so that at every moment either the old or the new file is there,

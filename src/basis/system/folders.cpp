@@ -16,16 +16,35 @@ bool isFolder(const std::string& path) {
     return fs::is_directory(path, ignored);
 }
 
-std::vector<std::string> filesIn(const std::string& folder) {
+namespace {
+
+/// The paths of a folder's entries that are of the kind, by name.
+template <class IsWanted>
+std::vector<std::string> entriesOf(const std::string& folder, const IsWanted& isWanted) {
     std::error_code error;
     fs::directory_iterator entries(folder, error);
-    std::vector<std::string> files;
-    std::error_code ignored;
+    std::vector<std::string> found;
     for (; !error && entries != fs::directory_iterator(); entries.increment(error))
-        if (entries->is_regular_file(ignored)) files.push_back(entries->path().string());
+        if (isWanted(*entries)) found.push_back(entries->path().string());
     if (error) throwFileError(error.value() == ENOENT ? ENOTDIR : error.value(), folder);
-    std::sort(files.begin(), files.end());
-    return files;
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
+}  // namespace
+
+std::vector<std::string> filesIn(const std::string& folder) {
+    return entriesOf(folder, [](const fs::directory_entry& entry) {
+        std::error_code ignored;
+        return entry.is_regular_file(ignored);
+    });
+}
+
+std::vector<std::string> foldersIn(const std::string& folder) {
+    return entriesOf(folder, [](const fs::directory_entry& entry) {
+        std::error_code ignored;
+        return entry.is_directory(ignored);
+    });
 }
 
 void makeFolders(const std::string& path) {

@@ -12,6 +12,9 @@ bool isFolder(const std::string& path);
 /// for a folder that is not there, 70 for one that may not be read.
 std::vector<std::string> filesIn(const std::string& folder);
 
+/// The paths of the folders in a folder, by name. Throws as filesIn does.
+std::vector<std::string> foldersIn(const std::string& folder);
+
 /// Makes a folder and those above it that are missing. Throws RunTimeError 61, 70, 75, 76.
 void makeFolders(const std::string& path);
 

@@ -357,10 +357,14 @@ QWidget* Binder::fixedPitch(const std::string& list) {
     return view;
 }
 
-QWidget* Binder::drawing(const std::string& image, Drawing* drawing) {
-    if (form_ == nullptr) throw std::logic_error("the form of the drawing " + image + " has ended");
+QWidget* Binder::picture(const std::string& image, QWidget* widget) {
+    if (form_ == nullptr) throw std::logic_error("the form of the picture " + image + " has ended");
     const Counting writing(writing_);
-    keep(bindImage(*this, form_->control(image), drawing));
+    return keep(bindImage(*this, form_->control(image), widget));
+}
+
+QWidget* Binder::drawing(const std::string& image, Drawing* drawing) {
+    picture(image, drawing);
     return this->drawing(drawing);
 }
 

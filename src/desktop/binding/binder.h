@@ -79,6 +79,8 @@ class Binder : public QObject, public FormObserver {
     QWidget* fixedPitch(const std::string& list);
     /// Shows a control of kind image by a drawing, which is refreshed after every action.
     QWidget* drawing(const std::string& image, Drawing* drawing);
+    /// Shows a control of kind image by a widget that refreshes itself.
+    QWidget* picture(const std::string& image, QWidget* widget);
     /// A drawing that no control stands for.
     Drawing* drawing(Drawing* drawing);
     /// Called after every action of the user has been handled to its end.

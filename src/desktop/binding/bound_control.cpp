@@ -86,6 +86,9 @@ void BoundControl::show(Property property) {
             asked_.bold = control_.bold();
             showBold();
             break;
+        case Property::focus:
+            takeFocus();
+            break;
         default:
             break;
     }
@@ -100,6 +103,8 @@ void BoundControl::showAll() {
         Property::refused,   Property::visible, Property::accessibleName};
     for (const Property property : all) show(property);
 }
+
+void BoundControl::takeFocus() { widget_->setFocus(Qt::OtherFocusReason); }
 
 void BoundControl::showBackcolor() {
     const bool plain =

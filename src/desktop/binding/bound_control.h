@@ -47,6 +47,7 @@ class BoundControl {
     virtual void showBackcolor();
     virtual void showForecolor();
     virtual void showBold();
+    virtual void takeFocus();
 
  private:
     /// What the control asked for last, beside which a view may have a look of its own: themed

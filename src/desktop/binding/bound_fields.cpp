@@ -53,6 +53,13 @@ class BoundText : public BoundControl {
         return BoundControl::shown(property);
     }
 
+ protected:
+    /// What is typed next takes the place of what stands there.
+    void takeFocus() override {
+        BoundControl::takeFocus();
+        edit_->selectAll();
+    }
+
  private:
     void showRefused() {
         const QString reason =

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Labels and pictures.
 #include <QLabel>
+#include <QMouseEvent>
+#include <functional>
 #include <optional>
+#include <utility>
 
 #include "desktop/binding/binder.h"
 #include "desktop/binding/bound_control.h"
@@ -11,10 +14,25 @@
 namespace varnholt {
 namespace {
 
+/// A label that can be pressed, such as a cell of a table.
+class PressedLabel : public TextLabel {
+ public:
+    explicit PressedLabel(std::function<void()> pressed) : pressed_(std::move(pressed)) {}
+
+ protected:
+    void mousePressEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton) pressed_();
+    }
+
+ private:
+    std::function<void()> pressed_;
+};
+
 class BoundLabel : public BoundControl {
  public:
     BoundLabel(Binder& binder, Control& control)
-        : BoundControl(binder, control, new TextLabel), label_(static_cast<QLabel*>(widget())) {
+        : BoundControl(binder, control, newLabel(binder, control.name())),
+          label_(static_cast<QLabel*>(widget())) {
         showAll();
     }
 
@@ -45,6 +63,16 @@ class BoundLabel : public BoundControl {
     }
 
  private:
+    static TextLabel* newLabel(Binder& binder, const std::string& name) {
+        if (binder.form() == nullptr || !binder.form()->takesClicks(name)) return new TextLabel;
+        auto* label = new PressedLabel([&binder, name] {
+            if (BoundControl* pressed = binder.find(name))
+                binder.act(*pressed, [](Form& form, const std::string& own) { form.click(own); });
+        });
+        label->setCursor(Qt::IBeamCursor);
+        return label;
+    }
+
     QLabel* label_;
     std::optional<Mode> mode_;
 };

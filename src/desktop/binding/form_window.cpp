@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/binding/form_window.h"
 
+#include <QApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
 #include <QVBoxLayout>
+#include <QWhatsThis>
+#include <utility>
 
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/layout.h"
@@ -15,17 +20,23 @@ QIcon iconOf(const std::string& formName) {
         {"frmBHDesign", "new-borehole"},      {"frmHZDesign", "new-horizontal"},
         {"frmSWDesign", "new-surface-water"}, {"frmZoneManage", "zones"},
         {"frmAvgBlock", "average-block"},     {"frmHPEdit", "heat-pump"},
+        {"frmDiffusivityCalc", "calculator"}, {"frmPumpPowerCalc", "calculator"},
+        {"frmEqvHoursCalc", "calculator"},    {"frmImport1", "import"},
     };
     const auto found = icons.find(formName);
     return houseIcon(QString::fromLatin1(found == icons.end() ? "window" : found->second));
 }
 
+bool isHelpKey(const QKeyEvent& key) {
+    return key.key() == Qt::Key_F1 && (key.modifiers() & ~Qt::ShiftModifier) == 0;
+}
+
 }  // namespace
 
-FormWindow::FormWindow(Form& form, const ViewMaker& makeView, const FaultTaker& faults)
-    : binder_(form) {
+FormWindow::FormWindow(Form& form, const ViewMaker& makeView, FaultTaker faults)
+    : faults_(std::move(faults)), binder_(form) {
     binder_.setWindow(this);
-    binder_.setFaultTaker(faults);
+    binder_.setFaultTaker(faults_);
     binder_.build([&] { view_ = makeView(binder_); });
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -39,6 +50,70 @@ FormWindow::FormWindow(Form& form, const ViewMaker& makeView, const FaultTaker& 
 void FormWindow::finish() {
     setReadingOrder(view_);
     binder_.nameTheNameless();
+}
+
+/// The control that the widget shows, or that a widget around it shows; empty for none.
+std::string FormWindow::controlOf(const QWidget* widget) const {
+    for (; widget != nullptr && widget != this; widget = widget->parentWidget()) {
+        const std::string name = plain(widget->objectName());
+        if (!name.empty() && binder_.has(name)) return name;
+    }
+    return {};
+}
+
+void FormWindow::helpFor(const QWidget* widget) {
+    Form* form = binder_.form();
+    if (form == nullptr) return;
+    try {
+        form->help(controlOf(widget));
+    } catch (...) {
+        if (!faults_) throw;
+        faults_(std::current_exception());
+    }
+}
+
+void FormWindow::showWhatsThis(const QPoint& place, const QPoint& onScreen) {
+    const Form* form = binder_.form();
+    if (form == nullptr) return;
+    const QString text = qt(form->whatsThis(controlOf(childAt(place))));
+    if (!text.isEmpty()) QWhatsThis::showText(onScreen, text.toHtmlEscaped(), this);
+}
+
+/// F1 is the window's own key before it is the menu's: it asks about the control that has the
+/// focus. A page of the web would keep the key to itself, so the window takes it before it gets
+/// there. What's This goes by the place of the pointer.
+bool FormWindow::event(QEvent* event) {
+    switch (event->type()) {
+        case QEvent::ShortcutOverride:
+            if (!isHelpKey(*static_cast<QKeyEvent*>(event))) break;
+            QMetaObject::invokeMethod(
+                this, [this, keys = static_cast<QKeyEvent*>(event)->modifiers()] { askHelp(keys); },
+                Qt::QueuedConnection);
+            event->accept();
+            return true;
+        case QEvent::KeyPress:
+            if (!isHelpKey(*static_cast<QKeyEvent*>(event))) break;
+            event->accept();
+            return true;
+        case QEvent::QueryWhatsThis:
+            event->accept();
+            return true;
+        case QEvent::WhatsThis: {
+            const auto* help = static_cast<QHelpEvent*>(event);
+            showWhatsThis(help->pos(), help->globalPos());
+            return true;
+        }
+        default:
+            break;
+    }
+    return QWidget::event(event);
+}
+
+void FormWindow::askHelp(Qt::KeyboardModifiers keys) {
+    if ((keys & Qt::ShiftModifier) != 0)
+        QWhatsThis::enterWhatsThisMode();
+    else
+        helpFor(QApplication::focusWidget());
 }
 
 FormWindow::~FormWindow() {

@@ -18,15 +18,24 @@ using ViewMaker = std::function<QWidget*(Binder& bind)>;
 /// The widgets of one form.
 class FormWindow : public QWidget {
  public:
-    FormWindow(Form& form, const ViewMaker& makeView, const FaultTaker& faults);
+    FormWindow(Form& form, const ViewMaker& makeView, FaultTaker faults);
     ~FormWindow() override;
 
     Binder& binder() { return binder_; }
     QWidget* view() const { return view_; }
+    /// Asks for the help about what the widget shows: its control, or the window.
+    void helpFor(const QWidget* widget);
+
+ protected:
+    bool event(QEvent* event) override;
 
  private:
     void finish();
+    void showWhatsThis(const QPoint& place, const QPoint& onScreen);
+    void askHelp(Qt::KeyboardModifiers keys);
+    std::string controlOf(const QWidget* widget) const;
 
+    FaultTaker faults_;
     Binder binder_;
     QWidget* view_ = nullptr;
 };

@@ -163,13 +163,17 @@ void WidgetDriver::key(Form& form, const Control& control, const std::string& ke
     work(
         form, control,
         [&](QWidget* widget) {
+            // The focus of a script's hand stands on the widget that it works.
+            if (key == "F1") return windows_.windowOf(form)->helpFor(widget);
             if (key != "Ctrl+V") return pressKey(widget, Qt::Key_Return, Qt::NoModifier);
             QGuiApplication::clipboard()->setText(qt(form.platform().clipboard()));
             if (QLineEdit* line = lineOf(widget)) line->selectAll();
             if (auto* edit = qobject_cast<QPlainTextEdit*>(widget)) edit->selectAll();
             pressKey(widget, Qt::Key_V, Qt::ControlModifier);
         },
-        [&](Form& f, const std::string& name) { f.key(name, key); });
+        [&](Form& f, const std::string& name) {
+            if (key != "F1") f.key(name, key);
+        });
 }
 
 void WidgetDriver::click(Form& form, const Control& control) {

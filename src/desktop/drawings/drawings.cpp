@@ -128,6 +128,15 @@ Drawing* newLoadsBars(std::function<LoadsChart()> source, std::function<LoadsCap
         {252, 140});
 }
 
+Drawing* newMonthsPicture(std::function<MonthsChart()> source, const Texts& texts) {
+    return new PaintedDrawing<MonthsChart>(
+        std::move(source),
+        [&texts](const Canvas& canvas, const MonthsChart& year) {
+            paintMonths(canvas, year, texts);
+        },
+        [&texts](const MonthsChart& year) { return describeMonths(year, texts); }, {420, 190});
+}
+
 Drawing* newDayChart(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,
                      const Texts& texts, ChartModuleFinder charts) {
     return new DayChart(std::move(source), std::move(captions), texts, std::move(charts));

@@ -16,6 +16,7 @@
 #include "desktop/drawings/fit_curves.h"
 #include "desktop/drawings/link_light.h"
 #include "desktop/drawings/loads_picture.h"
+#include "desktop/drawings/months_picture.h"
 #include "desktop/drawings/pump_curves.h"
 
 namespace varnholt {
@@ -39,6 +40,8 @@ Drawing* newLinkLight(LinkPartner partner, const Texts& texts);
 /// Small bars beside the numbers of a zone.
 Drawing* newLoadsBars(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,
                       const Texts& texts);
+/// The importer's year of one mode.
+Drawing* newMonthsPicture(std::function<MonthsChart()> source, const Texts& texts);
 Drawing* newDayChart(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,
                      const Texts& texts, ChartModuleFinder charts = findChartModule);
 Drawing* newPumpCurves(std::function<PumpPicture()> source, const Texts& texts,

@@ -15,6 +15,13 @@ void registerViews(ViewRegistry& views) {
     views.registerView("frmZNOptions", makeZoneReportOptionsView);
     views.registerView("frmPROptions", makeProjectReportOptionsView);
     views.registerView("frmHPEdit", makePumpEditorView);
+    views.registerView("frmImport1", makeImporterView);
+    views.registerView("frmImportTable", makeImportTableView);
+    views.registerView("frmTransferOptions", makeTransferOptionsView);
+    views.registerView("frmDiffusivityCalc", makeDiffusivityView);
+    views.registerView("frmPumpPowerCalc", makePumpPowerView);
+    views.registerView("frmEqvHoursCalc", makeEqvHoursView);
+    views.registerView("frmBrowser", makeBrowserView);
 }
 
 }  // namespace varnholt

@@ -18,5 +18,12 @@ QWidget* makeLinkOptionsView(Binder& bind);
 QWidget* makeZoneReportOptionsView(Binder& bind);
 QWidget* makeProjectReportOptionsView(Binder& bind);
 QWidget* makePumpEditorView(Binder& bind);
+QWidget* makeImporterView(Binder& bind);
+QWidget* makeImportTableView(Binder& bind);
+QWidget* makeTransferOptionsView(Binder& bind);
+QWidget* makeDiffusivityView(Binder& bind);
+QWidget* makePumpPowerView(Binder& bind);
+QWidget* makeEqvHoursView(Binder& bind);
+QWidget* makeBrowserView(Binder& bind);
 
 }  // namespace varnholt

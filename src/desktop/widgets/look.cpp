@@ -104,6 +104,11 @@ QColor backColour(int number, const Look& look) {
         default:
             break;
     }
+    if (look.dark && (number == colours::coolingCells || number == colours::heatingCells))
+        return number == colours::coolingCells ? look.coolingWash : look.heatingWash;
+    if (look.dark && (number == colours::coolingFactors || number == colours::heatingFactors))
+        return (number == colours::coolingFactors ? look.coolingWash : look.heatingWash)
+            .lighter(125);
     const QColor colour = ofNumber(number);
     return look.dark ? colour.darker(180) : colour;
 }

@@ -18,8 +18,11 @@ TextLabel::TextLabel(const QString& text, QWidget* parent) : QLabel(text, parent
 
 bool TextLabel::isOneLine() const {
     return !wordWrap() && textFormat() == Qt::PlainText && !text().isEmpty() &&
-           !text().contains(u'\n');
+           !text().contains(u'\n') && !marksKey();
 }
+
+/// A label of a field that it gives the focus to may mark the key for that.
+bool TextLabel::marksKey() const { return buddy() != nullptr && text().contains(u'&'); }
 
 const QStaticText& TextLabel::shaped() const {
     if (shaped_.text() == text() && font_ == font()) return shaped_;
@@ -67,8 +70,9 @@ void TextLabel::paintEvent(QPaintEvent* event) {
     painter.setPen(muted_ ? lookOf(palette()).muted : palette().color(foregroundRole()));
     if (isOneLine()) return painter.drawStaticText(placeOfLine().topLeft(), shaped());
     const int wraps = wordWrap() ? Qt::TextWordWrap : 0;
+    const int keys = marksKey() ? Qt::TextShowMnemonic : 0;
     const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
-    painter.drawText(contentsRect(), static_cast<int>(side) | wraps, text());
+    painter.drawText(contentsRect(), static_cast<int>(side) | wraps | keys, text());
 }
 
 void mute(QWidget* label) {

@@ -24,6 +24,7 @@ class TextLabel : public QLabel {
 
  private:
     bool isOneLine() const;
+    bool marksKey() const;
     const QStaticText& shaped() const;
 
     QRectF placeOfLine() const;

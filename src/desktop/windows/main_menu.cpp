@@ -60,7 +60,8 @@ const std::map<std::string, CommandLook> commandLooks{
     {"PipeProperties",        {"Ctrl+6", ""}},
     {"Conversions",           {"Ctrl+7", ""}},
     {"mnuHelp",               {"F1", "help"}},
-    {"mnuAbout",              {"Shift+F1", ""}},
+    {"mnuWhatsThis",          {"Shift+F1", ""}},
+    {"mnuAbout",              {"Ctrl+F1", ""}},
 };
 // clang-format on
 

@@ -11,9 +11,12 @@
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
 #include "desktop/binding/widget_driver.h"
+#include "desktop/reading/desktop_help.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/theme.h"
+#include "desktop/windows/desktop_pages.h"
 #include "desktop/windows/desktop_platform.h"
+#include "desktop/windows/help_places.h"
 #include "desktop/windows/main_window.h"
 #include "desktop/windows/report_windows.h"
 #include "desktop/windows/window_shelf.h"
@@ -52,8 +55,11 @@ int runPrepared(QApplication& application, const CommandLine& line) {
     const std::string folder = programFolderOf(line, installed);
     WindowShelf shelf(false);
     DesktopPlatform platform(shelf);
+    DesktopPages pages(line.browser);
+    DesktopHelp help;
     Application program(platform,
-                        {folder, installed.resources, localeOf(line), line.today.has_value()});
+                        {folder, installed.resources, localeOf(line), line.today.has_value()},
+                        {&pages, &help});
     Varnmain& main = program.main();
     applyTheme(application, Scheme::followDesktop, qt(main.text(Text::languageFont)));
 
@@ -65,6 +71,7 @@ int runPrepared(QApplication& application, const CommandLine& line) {
     shelf.setMain(window, main);
     const ReportWindows reports(window, platform, program.reports(), program.texts(),
                                 localeOf(line));
+    help.setPlaces(helpPlacesOf(program, window));
     window.guarded([&] { program.start(); });
     window.show();
     QTimer::singleShot(0, &window, [&] { window.openFiles(line.files); });
@@ -79,8 +86,12 @@ int runReading(QApplication& application, const CommandLine& line, std::istream&
     Transcript transcript(std::cout);
     WindowShelf shelf(true);
     ScriptPlatform platform(transcript, folder, line.today.value_or(dateOfToday()));
+    DesktopPages pages(line.browser.empty() ? "text" : line.browser);
+    DesktopHelp help;
+    help.setQuiet();
     Application program(platform,
-                        {folder, installed.resources, localeOf(line), line.today.has_value()});
+                        {folder, installed.resources, localeOf(line), line.today.has_value()},
+                        {&pages, &help});
     Varnmain& main = program.main();
     applyTheme(application, Scheme::followDesktop, qt(main.text(Text::languageFont)));
     // A script reads reports and saves them; a preview would stand in the way of its pictures.
@@ -94,6 +105,7 @@ int runReading(QApplication& application, const CommandLine& line, std::istream&
     MainWindow window(main, driver.faultTaker(), {});
     shelf.setMain(window, main);
     platform.setStage(&shelf);
+    help.setPlaces(helpPlacesOf(program, window));
     program.start();
     // Pictures are the same whatever screen there is, and none at all.
     window.resize(MainWindow::usualSize());
@@ -104,6 +116,7 @@ int runReading(QApplication& application, const CommandLine& line, std::istream&
     ScriptReader reader(input, *line.script);
     ScriptRunner runner(main, platform, driver, transcript, reader, std::cerr);
     runner.setReports(&program.reports());
+    runner.setAfterLine([&] { program.settlePages(); });
     int status = 0;
     QTimer::singleShot(0, &window, [&] {
         status = runner.run();

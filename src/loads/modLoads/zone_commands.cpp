@@ -30,6 +30,7 @@ void ZoneWindow::hookCommands() {
     onClick("LOOpenCommand", [this] { LOOpenCommand_Click(); });
     onClick("LOSaveCommand", [this] { LOSaveCommand_Click(); });
     onClick("LOPrintCommand", [this] { LOPrintCommand_Click(); });
+    onClick("LOImportCommand", [this] { LOImportCommand_Click(); });
     onClick("LOEqvHoursCommand", [this] { LOEqvHoursCommand_Click(); });
     onClick("LOZoneList", [this] { displayZone(); });
     onClick("MetricCheck", [this] { MetricCheck_Click(); });
@@ -167,8 +168,6 @@ void ZoneWindow::displayZone() {
     for (const char* prefix : {"LOGains", "LOHours", "LODays"}) fields().showAll(prefix);
     displayPump();
 }
-
-void ZoneWindow::LOEqvHoursCommand_Click() { main().click("mnuEqvHours"); }
 
 void ZoneWindow::LOPrintCommand_Click() { main().click("mnuFilePrint"); }
 

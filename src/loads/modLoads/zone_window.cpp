@@ -78,9 +78,7 @@ void ZoneWindow::registerConditions() {
 }
 
 void ZoneWindow::load() {
-    // The Units menu switches no window before one has been counted.
-    if (main().windowCounter == 0) main().windowCounter = 1;
-    control("MetricCheck").setChecked(main().units() == UnitSystem::metric);
+    startInUnitsOfMenu();
     InitializeHeatPumpLists();
     SetFluidsTabbedPaneSwitchVariables();
     forgetZoneFile();

@@ -14,6 +14,9 @@
 
 namespace varnholt {
 
+struct FullLoadHours;
+struct MonthlyLoads;
+
 /// Zones are counted in 16 bits.
 constexpr std::size_t mostZones = std::numeric_limits<std::int16_t>::max();
 
@@ -69,6 +72,14 @@ class ZoneWindow : public LoadsWindow {
     /// A command of another window changes the document: the window shows it and counts as
     /// changed.
     void change(const std::function<void(LoadsDocument&)>& change);
+
+    /// The same for the zones in the selected rows, each by itself; their display stays.
+    void changeSelectedZones(const std::function<void(Zone&)>& change);
+    /// Names of the first zones in the selected rows, one behind the other.
+    std::string selectedZoneNames() const;
+    /// Puts what the hours calculator has found into the selected zones, in one mode: design day,
+    /// hours, days a week, part load factor.
+    void TransferEqvHourCalcValues(const FullLoadHours& found, Mode m);
 
     LoadsChart loadsChart() const;
     PumpChart pumpChart() const;
@@ -184,6 +195,8 @@ class ZoneWindow : public LoadsWindow {
     void LOClearCommand_Click();
     void LOEqvHoursCommand_Click();
     void LOPrintCommand_Click();
+    void LOImportCommand_Click();
+    void importIntoSelected(const ByMode<MonthlyLoads>& years, const std::string& title);
 
     Answer askForSave();
     bool saveZonesTo(const std::string& path);

@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/help/help_viewer.h"
+
+#include <QHelpContentWidget>
+#include <QHelpIndexWidget>
+#include <QHelpLink>
+#include <QHelpSearchEngine>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QTextBrowser>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "forms/text_numbers.h"
+
+namespace varnholt {
+namespace {
+
+enum Pane { contentsPane, indexPaneNumber, searchPaneNumber };
+
+/// The topic of "…/vht.qch::/borehole.html#soil".
+QString topicOf(const HelpRequest& request) {
+    const QString address = QString::fromStdString(request.topic);
+    const qsizetype mark = address.indexOf(QLatin1String("::/"));
+    return mark < 0 ? QStringLiteral("index.html") : address.mid(mark + 3);
+}
+
+}  // namespace
+
+HelpViewer::HelpViewer(HelpPlaces places)
+    : places_(std::move(places)),
+      collection_(QString::fromStdString(places_.cacheFolder)),
+      display_(places_.newDisplay(this)),
+      panes_(new QTabWidget) {
+    setObjectName(QStringLiteral("HelpWindow"));
+    setWindowTitle(text(Text::helpTitle));
+    auto* tools = addToolBar(text(Text::helpTitle));
+    tools->setMovable(false);
+    tools->setContextMenuPolicy(Qt::PreventContextMenu);
+    tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    back_ = addTool(Text::browserBack, "back", QKeySequence::Back, &HelpViewer::back);
+    forward_ =
+        addTool(Text::browserForward, "forward", QKeySequence::Forward, &HelpViewer::forward);
+    addTool(Text::browserHome, "home", QKeySequence(QStringLiteral("Alt+Home")), &HelpViewer::home);
+    addTool(Text::helpPrint, "print", QKeySequence::Print, &HelpViewer::print);
+    auto* split = new QSplitter;
+    split->addWidget(panes_);
+    split->addWidget(display_->widget());
+    split->setStretchFactor(1, 1);
+    split->setSizes({260, 680});
+    split->setChildrenCollapsible(false);
+    setCentralWidget(split);
+    resize(940, 680);
+    display_->onLink = [this](const QUrl& link) { follow(link); };
+    display_->picture = [this](const QUrl& address) -> QVariant {
+        return collection_.engine() != nullptr ? collection_.engine()->fileData(address)
+                                               : QByteArray();
+    };
+}
+
+QString HelpViewer::text(int number) const {
+    return QString::fromStdString(places_.texts->text(number));
+}
+
+QAction* HelpViewer::addTool(int caption, const char* icon, const QKeySequence& keys,
+                             void (HelpViewer::*run)()) {
+    auto* action = new QAction(text(caption), this);
+    if (*icon != '\0') action->setIcon(places_.icon(QString::fromLatin1(icon)));
+    action->setShortcut(keys);
+    action->setToolTip(action->text() +
+                       QStringLiteral("  (%1)").arg(keys.toString(QKeySequence::NativeText)));
+    connect(action, &QAction::triggered, this, [this, run] { (this->*run)(); });
+    findChild<QToolBar*>()->addAction(action);
+    return action;
+}
+
+bool HelpViewer::openFile(const QString& file) {
+    const QHelpEngine* before = collection_.engine();
+    if (!collection_.open(file)) return false;
+    if (collection_.engine() != before) addPanes();
+    return true;
+}
+
+void HelpViewer::addPanes() {
+    panes_->clear();
+    auto* contents = collection_.engine()->contentWidget();
+    contents->setHeaderHidden(true);
+    connect(contents, &QHelpContentWidget::linkActivated, this, &HelpViewer::follow);
+    connect(contents, &QHelpContentWidget::clicked, this, [this, contents](const QModelIndex& row) {
+        const auto* model = static_cast<QHelpContentModel*>(contents->model());
+        follow(model->contentItemAt(row)->url());
+    });
+    connect(collection_.engine()->contentModel(), &QHelpContentModel::contentsCreated, contents,
+            [contents] { contents->expandAll(); });
+    panes_->addTab(contents, text(Text::helpContentsPane));
+    panes_->addTab(indexPane(), text(Text::helpIndexPane));
+    panes_->addTab(searchPane(), text(Text::helpSearchPane));
+}
+
+QWidget* HelpViewer::indexPane() {
+    auto* pane = new QWidget;
+    auto* layout = new QVBoxLayout(pane);
+    lookFor_ = new QLineEdit;
+    lookFor_->setPlaceholderText(text(Text::helpLookFor));
+    lookFor_->setAccessibleName(text(Text::helpLookFor));
+    lookFor_->setClearButtonEnabled(true);
+    index_ = collection_.engine()->indexWidget();
+    layout->addWidget(lookFor_);
+    layout->addWidget(index_, 1);
+    connect(lookFor_, &QLineEdit::textChanged, index_,
+            [this](const QString& words) { index_->filterIndices(words); });
+    connect(lookFor_, &QLineEdit::returnPressed, index_, &QHelpIndexWidget::activateCurrentItem);
+    connect(index_, &QHelpIndexWidget::documentActivated, this,
+            [this](const QHelpLink& link, const QString&) { follow(link.url); });
+    connect(index_, &QHelpIndexWidget::documentsActivated, this,
+            [this](const QList<QHelpLink>& links, const QString&) {
+                if (!links.isEmpty()) follow(links.first().url);
+            });
+    connect(index_, &QHelpIndexWidget::clicked, this,
+            [this](const QModelIndex&) { index_->activateCurrentItem(); });
+    return pane;
+}
+
+QWidget* HelpViewer::searchPane() {
+    auto* pane = new QWidget;
+    auto* layout = new QVBoxLayout(pane);
+    words_ = new QLineEdit;
+    words_->setPlaceholderText(text(Text::helpFind));
+    words_->setAccessibleName(text(Text::helpFind));
+    words_->setClearButtonEnabled(true);
+    results_ = new QListWidget;
+    results_->setAccessibleName(text(Text::helpResults));
+    told_ = new QLabel;
+    told_->setWordWrap(true);
+    layout->addWidget(words_);
+    layout->addWidget(told_);
+    layout->addWidget(results_, 1);
+    connect(words_, &QLineEdit::returnPressed, this, [this] { search(); });
+    const auto open = [this](QListWidgetItem* item) { follow(item->data(Qt::UserRole).toUrl()); };
+    connect(results_, &QListWidget::itemActivated, this, open);
+    connect(results_, &QListWidget::itemClicked, this, open);
+    return pane;
+}
+
+/// The pages are read for the search when it is first used: that takes longer than a page.
+void HelpViewer::search() {
+    QHelpSearchEngine* engine = collection_.engine()->searchEngine();
+    const QString words = words_->text();
+    if (searchable_) {
+        engine->search(words);
+        return;
+    }
+    searchable_ = true;
+    told_->setText(text(Text::helpIndexing));
+    connect(engine, &QHelpSearchEngine::indexingFinished, this,
+            [engine, this] { engine->search(words_->text()); });
+    connect(engine, &QHelpSearchEngine::searchingFinished, this,
+            [this](int) { showResults(words_->text()); });
+    engine->reindexDocumentation();
+}
+
+void HelpViewer::showResults(const QString&) {
+    const QHelpSearchEngine* engine = collection_.engine()->searchEngine();
+    results_->clear();
+    for (const QHelpSearchResult& result : engine->searchResults(0, engine->searchResultCount())) {
+        auto* item = new QListWidgetItem(result.title(), results_);
+        item->setData(Qt::UserRole, result.url());
+    }
+    told_->setText(results_->count() == 0 ? text(Text::helpNothingFound) : QString());
+    told_->setVisible(results_->count() == 0);
+}
+
+bool HelpViewer::display(const HelpRequest& request) {
+    if (!openFile(QString::fromStdString(request.file))) return false;
+    switch (request.kind) {
+        case HelpRequest::Kind::contents:
+            panes_->setCurrentIndex(contentsPane);
+            break;
+        case HelpRequest::Kind::index:
+            panes_->setCurrentIndex(indexPaneNumber);
+            break;
+        case HelpRequest::Kind::search:
+            panes_->setCurrentIndex(searchPaneNumber);
+            break;
+        case HelpRequest::Kind::keyword:
+        case HelpRequest::Kind::aLink:
+            lookUp(QString::fromStdString(request.keyword));
+            return true;
+        case HelpRequest::Kind::topicId:
+            lookUp(QString::number(request.topicId));
+            return true;
+        case HelpRequest::Kind::topic:
+            break;
+    }
+    visit(topicOf(request));
+    return true;
+}
+
+/// Shows the page of a keyword; where there are several the index shows them all.
+void HelpViewer::lookUp(const QString& keyword) {
+    const QList<QHelpLink> links = collection_.engine()->documentsForKeyword(keyword);
+    if (links.size() != 1) panes_->setCurrentIndex(indexPaneNumber);
+    lookFor_->setText(keyword);
+    if (!links.isEmpty()) follow(links.first().url);
+}
+
+std::string HelpViewer::page() const {
+    return place_ < 0 ? std::string() : history_[place_].toStdString();
+}
+
+void HelpViewer::visit(const QString& topic) {
+    if (!showTopic(topic)) return;
+    if (place_ < 0 || history_[place_] != topic) {
+        history_.resize(++place_);
+        history_.append(topic);
+    }
+    refreshTools();
+}
+
+bool HelpViewer::showTopic(const QString& topic) {
+    const QUrl url = collection_.urlOf(topic);
+    const QByteArray page = collection_.engine()->fileData(url);
+    QString html = QString::fromUtf8(page);
+    if (page.isEmpty())
+        html = QStringLiteral("<p>%1</p>").arg(text(Text::helpPageMissing).toHtmlEscaped());
+    display_->showPage(url, html);
+    return true;
+}
+
+void HelpViewer::follow(const QUrl& link) {
+    if (link.scheme() == QLatin1String("example")) {
+        if (places_.openExample) places_.openExample(link.path().toStdString());
+        return;
+    }
+    if (link.scheme() == QLatin1String("qthelp")) visit(HelpCollection::topicOf(link));
+}
+
+void HelpViewer::step(int by) {
+    const qsizetype wanted = place_ + by;
+    if (wanted < 0 || wanted >= history_.size()) return;
+    place_ = wanted;
+    showTopic(history_[place_]);
+    refreshTools();
+}
+
+void HelpViewer::refreshTools() {
+    back_->setEnabled(place_ > 0);
+    forward_->setEnabled(place_ + 1 < history_.size());
+}
+
+void HelpViewer::print() {
+    QPrinter printer;
+    QPrintDialog dialog(&printer, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    display_->completePage();
+    display_->widget()->print(&printer);
+}
+
+}  // namespace varnholt

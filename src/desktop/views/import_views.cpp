@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The importer, and the preview of a table.
+#include <QAbstractItemView>
+
+#include "desktop/drawings/drawings.h"
+#include "desktop/views/loads_pieces.h"
+#include "desktop/views/month_table.h"
+#include "desktop/views/view_pieces.h"
+#include "desktop/views/views.h"
+#include "desktop/widgets/list_view.h"
+#include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/text_label.h"
+#include "forms/text_numbers.h"
+#include "loads/import/frmImport1.h"
+
+namespace varnholt {
+namespace {
+
+const frmImport1* importerOf(const Binder& bind) {
+    return static_cast<const frmImport1*>(bind.form());
+}
+
+QWidget* caption(Binder& bind, const char* name) {
+    QWidget* label = bind.widget(name);
+    mute(label);
+    return label;
+}
+
+QWidget* commands(Binder& bind) {
+    return bar(column(buttons(bind.iconButton("cmdImport(2)", QStringLiteral("open")),
+                              bind.iconButton("cmdImport(5)", QStringLiteral("table")),
+                              bind.iconButton("cmdImport(3)", QStringLiteral("paste")),
+                              bind.widget("cmdImport(0)")),
+                      row_(bind.widget("cmdCoolHeat(0)"), bind.widget("cmdCoolHeat(1)"), gap(),
+                           bind.widget("MetricCheck"), stretch(), caption(bind, "lblTitle(4)"),
+                           bind.widget("lblTitle(9)"), gap(), caption(bind, "lblTitle(8)"),
+                           bind.widget("lblTitle(10)"))));
+}
+
+QWidget* year(Binder& bind) {
+    return bind.drawing("imgMonths", newMonthsPicture(
+                                         [&bind] {
+                                             const frmImport1* form = importerOf(bind);
+                                             return form == nullptr ? MonthsChart()
+                                                                    : form->monthsChart();
+                                         },
+                                         bind.form()->texts()));
+}
+
+LoadsCaptions dayCaptions(const Binder& bind) {
+    const frmImport1* form = importerOf(bind);
+    const bool metric = form != nullptr && form->units() == UnitSystem::metric;
+    return {{bind.text(Text::summaryEightToNoon), bind.text(Text::summaryNoonToFour),
+             bind.text(Text::summaryFourToEight), bind.text(Text::summaryEightToEight)},
+            withoutBrackets(metric ? bind.text(Text::loadUnitsMetric)
+                                   : bind.text(Text::loadUnitsEnglish))};
+}
+
+QWidget* transfer(Binder& bind) {
+    Drawing* day = newLoadsBars(
+        [&bind] {
+            const frmImport1* form = importerOf(bind);
+            return form == nullptr ? LoadsChart() : form->dayChart();
+        },
+        [&bind] { return dayCaptions(bind); }, bind.form()->texts());
+    return group(bind.frame("fraTransfer"), wrapped(bind.widget("lblTransferTarget")),
+                 row_(bind.widget("optDesignDay(0)"), bind.widget("optDesignDay(1)"), stretch()),
+                 grow(bind.drawing("imgDesignDay", day)), wrapped(bind.widget("lblNotLookedAt(0)")),
+                 wrapped(bind.widget("lblNotLookedAt(1)")),
+                 row_(stretch(), bind.primary("cmdImport(4)")));
+}
+
+QWidget* rows(Binder& bind) {
+    auto* list = static_cast<ListView*>(bind.widget("TIRowsList"));
+    list->setHeads({qt(bind.text(Text::tableLineHead)), qt(bind.text(Text::tableDateHead)),
+                    qt(bind.text(Text::cooling)), qt(bind.text(Text::heating))});
+    constexpr int listWidth = 420, listHeight = 260;
+    list->setMinimumSize(listWidth, listHeight);
+    return column(bind.widget("TIRowsLabel"), grow(list));
+}
+
+QWidget* choices(Binder& bind) {
+    return column(
+        grid(bind.row("TILayoutCombo"), bind.row("TISeparatorCombo"), bind.row("TIDecimalCombo"),
+             bind.row("TIUnitCombo"), bind.row("TIDateColumnCombo"),
+             bind.row("TICoolingColumnCombo"), bind.row("TIHeatingColumnCombo")),
+        bind.widget("TISignCheck"), stretch());
+}
+
+}  // namespace
+
+QWidget* makeImporterView(Binder& bind) {
+    return roomy(column(commands(bind),
+                        grow(new ScrollPage(
+                            page(column(row_(new MonthTable(bind), gap(),
+                                             grow(column(grow(year(bind)), grow(transfer(bind))))),
+                                        row_(stretch(), bind.widget("cmdImport(1)"))))))),
+                 {960, 640});
+}
+
+QWidget* makeImportTableView(Binder& bind) {
+    return page(column(
+        row_(bind.widget("TISourceLabel"), stretch(),
+             bind.iconButton("TIOpenCommand", QStringLiteral("open")),
+             bind.iconButton("TIPasteCommand", QStringLiteral("paste"))),
+        grow(row_(choices(bind), gap(), grow(rows(bind)))), wrapped(bind.widget("TIMessageLabel")),
+        row_(stretch(), bind.primary("TIImportCommand"), bind.widget("TICancelCommand"))));
+}
+
+}  // namespace varnholt

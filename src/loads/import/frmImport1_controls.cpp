@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The importer's controls, in their reading order.
+#include <array>
+
+#include "forms/text_numbers.h"
+#include "loads/import/frmImport1.h"
+
+namespace varnholt {
+namespace {
+
+constexpr const char* transferFrame = "fraTransfer";
+
+constexpr std::array<int, monthsOfYear> monthTexts{
+    Text::january, Text::february, Text::march,     Text::april,   Text::may,      Text::june,
+    Text::july,    Text::august,   Text::september, Text::october, Text::november, Text::december};
+
+}  // namespace
+
+void frmImport1::addControls() {
+    addBar();
+    addTable();
+    addTransfer();
+    add("cmdImport(1)", ControlKind::button, Text::closeWindow);
+}
+
+void frmImport1::addBar() {
+    add("cmdImport(2)", ControlKind::button).setTooltip(text(Text::readSimulationTip));
+    add("cmdImport(5)", ControlKind::button).setTooltip(text(Text::importTableTip));
+    add("cmdImport(3)", ControlKind::button).setTooltip(text(Text::pasteMonthsTip));
+    add("cmdImport(0)", ControlKind::button, Text::clearPump);
+    add("cmdCoolHeat(0)", ControlKind::button, Text::cooling);
+    add("cmdCoolHeat(1)", ControlKind::button, Text::heating);
+    add("MetricCheck", ControlKind::check, Text::loadsMetricSwitch);
+    add("lblTitle(4)", ControlKind::label, Text::importFile);
+    add("lblTitle(9)", ControlKind::label);
+    add("lblTitle(8)", ControlKind::label, Text::importGenerator);
+    add("lblTitle(10)", ControlKind::label);
+}
+
+void frmImport1::addTable() {
+    constexpr std::array<int, 4> heads{Text::importMonth, Text::importTotal, Text::importPeak,
+                                       Text::importFactor};
+    for (std::size_t i = 0; i < heads.size(); ++i)
+        add(elementName("lblTitle", i), ControlKind::label, heads[i]);
+    add("lblTitle(5)", ControlKind::label);
+    add("lblTitle(7)", ControlKind::label);
+    for (std::size_t month = 0; month < monthsOfYear; ++month) addMonth(month);
+    addTotals();
+    add("txtImport1", ControlKind::text).helpedBy("importing#months");
+    add("imgMonths", ControlKind::image, Text::importMonthsPicture);
+}
+
+void frmImport1::addMonth(std::size_t month) {
+    add(elementName("lblEqvHours", month), ControlKind::label, monthTexts[month]);
+    for (const char* column : {"lblTotal", "lblPeak", "lblPLF"})
+        add(elementName(column, month), ControlKind::label);
+}
+
+void frmImport1::addTotals() {
+    add("lblEqvHours(13)", ControlKind::label, Text::importTotalMax);
+    add("lblTotal(12)", ControlKind::label);
+    add("lblPeak(12)", ControlKind::label);
+    add("lblEqvHours(14)", ControlKind::label, Text::fullLoadHoursResult);
+    add("lblHours", ControlKind::label);
+}
+
+void frmImport1::addTransfer() {
+    add(transferFrame, ControlKind::frame, Text::importTransfer);
+    add("lblTransferTarget", ControlKind::label).in(transferFrame);
+    add("optDesignDay(0)", ControlKind::option, Text::designDayEven)
+        .grouped("optDesignDay")
+        .in(transferFrame)
+        .setChecked(true);
+    add("optDesignDay(1)", ControlKind::option, Text::designDayFromHours)
+        .grouped("optDesignDay")
+        .in(transferFrame)
+        .helpedBy("importing#design-day");
+    add("imgDesignDay", ControlKind::image, Text::importDayPicture).in(transferFrame);
+    for (const std::size_t mode : {cooling, heating})
+        add(elementName("lblNotLookedAt", mode), ControlKind::label,
+            mode == cooling ? Text::coolingNotLookedAt : Text::heatingNotLookedAt)
+            .in(transferFrame)
+            .setVisible(false);
+    add("cmdImport(4)", ControlKind::button, Text::importModify).in(transferFrame);
+}
+
+}  // namespace varnholt

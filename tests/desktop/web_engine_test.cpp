@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The web engine in its module: the same pages and the same history as in the text browser, what it
+// keeps pages from, and a server that never answers.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QTcpServer>
+#include <filesystem>
+#include <fstream>
+
+#include "started_program.h"
+
+namespace varnholt {
+namespace {
+
+const std::string windows = VARNHOLT_BIN_DIR "/varnholt";
+
+class WebEngine : public testing::Test {
+ protected:
+    static QStringList engine(const char* name) {
+        return {QStringLiteral("--browser"), QString::fromLatin1(name)};
+    }
+    /// Writes a page into the program's folder.
+    static void write(const StartedProgram& program, const std::string& name,
+                      const std::string& html) {
+        std::ofstream(program.folder() / name) << html;
+    }
+    static std::string go(const std::string& address) {
+        return "type frmBrowser.cboAddress " + address + "\nkey frmBrowser.cboAddress Enter\n";
+    }
+};
+
+TEST_F(WebEngine, GivesTheTranscriptOfTheTextBrowser) {
+    const std::string script = R"(click Varnmain.FluidProperties
+forms
+click Varnmain.Metric
+click Varnmain.SoilProperties
+click Varnmain.PipeProperties
+click Varnmain.Conversions
+forms
+print frmBrowser#2.cboAddress
+print frmBrowser#2.cboAddress.items
+click frmBrowser#2.tbToolBar(0)
+click frmBrowser#2.tbToolBar(3)
+click frmBrowser#2.tbToolBar(4)
+forms
+print frmBrowser#2.cboAddress.items
+click frmBrowser#2.tbToolBar(0)
+forms
+click frmBrowser#2.tbToolBar(0)
+forms
+click frmBrowser#2.tbToolBar(1)
+print frmBrowser#2.cboAddress
+click frmBrowser#2.tbToolBar(2)
+forms
+type frmBrowser#2.cboAddress javascript:alert(1)
+key frmBrowser#2.cboAddress Enter
+print frmBrowser#2.NoticeLabel
+type frmBrowser#2.cboAddress data:text/html,<title>data</title>
+key frmBrowser#2.cboAddress Enter
+print frmBrowser#2.NoticeLabel
+forms
+click Varnmain.FluidProperties
+click Varnmain.English
+click Varnmain.SoilProperties
+click Varnmain.PipeProperties
+forms
+value Varnmain.browserCount)";
+    StartedProgram text(windows, engine("text")), web(windows, engine("web"));
+    EXPECT_EQ(web.run(script), text.run(script));
+    EXPECT_NE(web.filesInMemory().find("libQt6WebEngineCore"), std::string::npos);
+    EXPECT_EQ(web.end(), 0);
+    EXPECT_EQ(text.end(), 0);
+}
+
+TEST_F(WebEngine, OpensAPathWithBlanks) {
+    StartedProgram program(windows, engine("web"));
+    write(program, "my page.html", "<title>Blank</title>");
+    program.run("click Varnmain.FluidProperties\n" +
+                go(program.folder().string() + "/my page.html"));
+    EXPECT_NE(program.run("forms").find("frmBrowser#1 \"Blank\""), std::string::npos);
+    EXPECT_EQ(program.run("print frmBrowser.cboAddress"),
+              "frmBrowser#1.cboAddress = \"PROGRAM/my page.html\"\n");
+}
+
+TEST_F(WebEngine, KeepsAPageOfThisComputerFromItsFilesAndFromTheNetwork) {
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    int asked = 0;
+    QObject::connect(&server, &QTcpServer::newConnection, &server, [&] { ++asked; });
+    const std::string port = std::to_string(server.serverPort());
+    StartedProgram program(windows, engine("web"));
+    write(program, "secret.js", "document.title = 'read a file';");
+    write(program, "spy.html",
+          "<title>Spy</title><script src=\"secret.js\"></script><script src=\"http://127.0.0.1:" +
+              port + "/x.js\"></script><img src=\"http://127.0.0.1:" + port +
+              "/x.png\"><script>fetch('file:///etc/passwd').then(() => document.title = 'fetched')"
+              "</script>");
+    program.run("click Varnmain.FluidProperties\n" + go(program.folder().string() + "/spy.html"));
+    EXPECT_NE(program.run("forms").find("frmBrowser#1 \"Spy\""), std::string::npos);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(asked, 0);
+}
+
+TEST_F(WebEngine, RefusesWindowsDownloadsAndOtherSchemesWithALine) {
+    StartedProgram program(windows, engine("web"));
+    write(program, "open.html", "<title>Open</title><script>window.open('about:blank')</script>");
+    write(program, "file.zip", "PK");
+    program.run("click Varnmain.FluidProperties\n" + go(program.folder().string() + "/open.html"));
+    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("another window"),
+              std::string::npos);
+    program.run(go(program.folder().string() + "/file.zip"));
+    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("save a file"), std::string::npos);
+    for (const char* address : {"mailto:a@b", "ftp://127.0.0.1/x", "data:text/html,x"}) {
+        program.run(go(address));
+        EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("neither a page"),
+                  std::string::npos)
+            << address;
+    }
+    EXPECT_EQ(program.run("forms").find("frmBrowser#2"), std::string::npos);
+}
+
+TEST_F(WebEngine, OfAServerThatNeverAnswersIsStopped) {
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    StartedProgram program(windows, engine("web"));
+    program.run("click Varnmain.FluidProperties\n" +
+                go("http://127.0.0.1:" + std::to_string(server.serverPort()) + "/"));
+    // The line ends after five seconds, and the page is still being waited for.
+    EXPECT_NE(program.run("forms").find("frmBrowser#1 \"Working...\""), std::string::npos);
+    program.run("click frmBrowser.tbToolBar(5)");
+    EXPECT_EQ(program.run("forms").find("Working..."), std::string::npos);
+    EXPECT_EQ(program.run("value frmBrowser.timTimer.Enabled"),
+              "value frmBrowser#1.timTimer.Enabled = false\n");
+    EXPECT_EQ(program.end(), 0);
+}
+
+TEST_F(WebEngine, OfAMissingPageShowsItsOwnErrorWithoutAMessage) {
+    StartedProgram program(windows, engine("web"));
+    program.run("click Varnmain.FluidProperties");
+    const std::string told = program.run(go("/nowhere/page.html"));
+    EXPECT_EQ(told.find("message"), std::string::npos);
+    EXPECT_EQ(program.run("print frmBrowser.cboAddress"),
+              "frmBrowser#1.cboAddress = \"/nowhere/page.html\"\n");
+    EXPECT_EQ(program.end(), 0);
+}
+
+}  // namespace
+}  // namespace varnholt
