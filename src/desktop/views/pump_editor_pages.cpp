@@ -184,9 +184,20 @@ QWidget* curves(Binder& bind, const std::string& image,
     return bind.drawing(image, drawing);
 }
 
+/// The units stand over the places of both modes; nothing over the factors and the buttons.
+FieldRow temperatureUnits(Binder& bind) {
+    FieldRow units;
+    for (const Mode mode : modes) {
+        units.fields.push_back(unit(bind, prefixOf(mode) + "ELTUnitLabel"));
+        for (std::size_t i = 0; i < fittedQuantities.size() + 1; ++i)
+            units.fields.push_back(nothing());
+    }
+    return units;
+}
+
 QWidget* correctionTable(Binder& bind, CorrectionKind kind) {
     const bool temperature = kind == byTemperature;
-    FieldRow titles, heads, units;
+    FieldRow titles, heads;
     for (const Mode mode : modes) {
         const std::string prefix = prefixOf(mode);
         const std::string title = elementName(prefix + "CorrectionsLabel", kind);
@@ -194,17 +205,15 @@ QWidget* correctionTable(Binder& bind, CorrectionKind kind) {
         bind.mark(title, mode);
         heads.fields.push_back(
             head(bind, elementName(temperature ? "ELTLabel" : "PercentNominalLabel", mode)));
-        units.fields.push_back(temperature ? unit(bind, prefix + "ELTUnitLabel") : nothing());
         for (const FittedQuantity quantity : fittedQuantities) {
             titles.fields.push_back(nothing());
             heads.fields.push_back(
                 head(bind, elementName(prefix + wordOf(quantity) + "FactorHeadLabel", kind)));
-            units.fields.push_back(nothing());
         }
-        for (FieldRow* row : {&titles, &heads, &units}) row->fields.push_back(nothing());
+        for (FieldRow* row : {&titles, &heads}) row->fields.push_back(nothing());
     }
     std::vector<FieldRow> rows{titles, heads};
-    if (temperature) rows.push_back(units);
+    if (temperature) rows.push_back(temperatureUnits(bind));
     for (std::size_t r = 0; r < mostFitPoints; ++r) {
         FieldRow row;
         for (const Mode mode : modes) {
