@@ -77,12 +77,12 @@ QWidget* pipeFields(Binder& bind) {
 QWidget* pictures(Binder& bind) {
     const Texts& texts = bind.form()->texts();
     std::vector<Piece> pieces;
-    for (const std::size_t i : {0, 1, 2})
+    for (const std::size_t i : {0U, 1U, 2U})
         pieces.push_back(
             grow(bind.drawing(elementName("PADiagramPicture", i),
                               newTrenchDrawing(sourceOf(bind, &frmHZDesign::trenchDrawing), texts)),
                  3));
-    for (const std::size_t i : {0, 1, 2, 3, 4})
+    for (const std::size_t i : {0U, 1U, 2U, 3U, 4U})
         pieces.push_back(grow(
             bind.drawing(elementName("imgConfiguration", i),
                          newTrenchPlanDrawing(sourceOf(bind, &frmHZDesign::trenchPlan), texts)),
