@@ -158,11 +158,6 @@ void frmHZDesign::registerPairTable() {
 
 void frmHZDesign::followGroundTemp() { project_.groundTempAtDepth = groundTempAtTrench(project_); }
 
-void frmHZDesign::fillDefaults() {
-    TowerDesign::fillDefaults();
-    followGroundTemp();
-}
-
 void frmHZDesign::projectRead() {
     TowerDesign::projectRead();
     followGroundTemp();

@@ -52,6 +52,7 @@ void GroundDesign::load() {
             setCaption(baseCaption() + " #" + std::to_string(main().windowCounter));
             fillDefaults();
             if (files.readINIFile) files.readINIFile();
+            defaultsRead();
         }
     }
     control("MetricCheck").setChecked(main().units() == UnitSystem::metric);
