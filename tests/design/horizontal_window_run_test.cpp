@@ -78,6 +78,24 @@ TEST_F(HorizontalRuns, LeaveTheResistanceOfACoilsPipeBehind) {
     EXPECT_EQ(textOf("PIPipeResistanceText"), "0.158");
 }
 
+TEST_F(HorizontalRuns, TellWhatTheTableOfCoilsGave) {
+    layCoils();
+    calculate();
+    // Pitch 18 at the lowest part load, as the second route has it.
+    EXPECT_NEAR(value("coilLengthPer250"), 79.572175200, 1e-8);
+    choose(0);
+    calculate();
+    EXPECT_EQ(value("coilLengthPer250"), 0);
+}
+
+TEST_F(HorizontalRuns, OfCoilsLeaveASinglePipeBehindWhateverAFileHeld) {
+    layCoils();
+    change(*design, [](HorizontalProject& project) { project.remainder.uTubeConfig = 0; });
+    calculate();
+    EXPECT_EQ(value("uTubeConfig"), 2);
+    EXPECT_NEAR(value("pipeResistance"), 0.158181102, 1e-8);
+}
+
 TEST_F(HorizontalRuns, WithoutLoadsSaySoAndDropTheTower) {
     change(*design, [](HorizontalProject& project) { project.tower.hybridPercent = 40; });
     design->setUnitLabels();
