@@ -97,13 +97,21 @@ TEST_F(HorizontalRuns, OfCoilsLeaveASinglePipeBehindWhateverAFileHeld) {
 }
 
 TEST_F(HorizontalRuns, WithoutLoadsSaySoAndDropTheTower) {
-    change(*design, [](HorizontalProject& project) { project.tower.hybridPercent = 40; });
+    change(*design, [](HorizontalProject& project) {
+        project.tower = {40,
+                         {.capacity = 30, .capacityMax = 30, .flow = 9, .range = 8, .hours = 900}};
+    });
     design->setUnitLabels();
     calculate();
     EXPECT_EQ(messages(), std::vector<std::string>{"[2814]"});
     EXPECT_EQ(platform.messages[0].icon, MessageIcon::information);
     EXPECT_EQ(value("hybridPercent"), 0);
     EXPECT_EQ(captionOf("CAPercentHybridLabel(0)"), "0 [2150]");
+    for (const char* total :
+         {"condenserCapacity", "condenserCapacityMax", "coolingTowerFlow", "coolingTowerHours"})
+        EXPECT_EQ(value(total), 0) << total;
+    EXPECT_EQ(captionOf("CACoolingTowerHoursLabel(0)"), "0");
+    EXPECT_EQ(value("coolingRange"), 8);  // entered, and no figure of the loads
     EXPECT_EQ(value("requiredLength(0)"), 0);
 }
 
