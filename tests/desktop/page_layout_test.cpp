@@ -66,6 +66,13 @@ TEST_F(PageLayout, ShowsPumpsAndTowerWithoutScrolling) {
     EXPECT_EQ(hiddenOf("BHTabs", 5), 0);
 }
 
+TEST_F(PageLayout, ShowsLoopsAndHeadersOfAPondWithoutScrolling) {
+    open("NewSurfaceWater");
+    EXPECT_EQ(hiddenOf("SWTabs", 3), 0);
+    form->click("MetricCheck");
+    EXPECT_EQ(hiddenOf("SWTabs", 3), 0);
+}
+
 TEST_F(PageLayout, PutsTheNumberOfPipesBelowTheNumberOfTrenches) {
     open("NewHorizontal");
     hiddenOf("HZTabs", 4);
