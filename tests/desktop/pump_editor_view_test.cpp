@@ -127,6 +127,12 @@ TEST(FitCurvesDrawing, TellsHowTheCurvesFit) {
     curves->refresh();
     EXPECT_EQ(curves->description(),
               "Cooling Capacity: fitted from older data. Cooling Power: 29.0 at 75.0.");
+    picture = sampleFit();
+    picture.curves.power[cooling].secondStale = true;
+    curves->refresh();
+    EXPECT_EQ(
+        curves->description(),
+        "Cooling Capacity: 3 points, met within 3.7 %. Cooling Power: fitted from older data.");
     picture.curves = {};
     curves->refresh();
     EXPECT_EQ(curves->description(), "Type the measured points and calculate the coefficients.");
