@@ -109,8 +109,8 @@ void frmHPEdit::CopyCommand_Click() {
 
 void frmHPEdit::RemoveCommand_Click() {
     const pump* shown = shownPump();
-    if (shown == nullptr || platform().question(Buttons::yesNo, text(Text::removePumpTitle),
-                                                text(Text::removePumpQuestion)) != Answer::yes)
+    if (shown == nullptr || platform().confirm(Buttons::yesNo, text(Text::removePumpTitle),
+                                               text(Text::removePumpQuestion)) != Answer::yes)
         return;
     nameStep(text(Text::removePump) + " " + shown->name);
     const int selected = selectedPump();
