@@ -27,6 +27,12 @@ class PumpEditorWindow : public testing::Test {
     }
 
     Binder& binder() { return desk.shelf.windowOf(*editor)->binder(); }
+    QPoint placeOf(const std::string& control) {
+        return binder().widget(control)->mapToGlobal(QPoint());
+    }
+    int rightOf(const std::string& control) {
+        return placeOf(control).x() + binder().widget(control)->width();
+    }
     QWindow* screen() { return desk.window->windowHandle(); }
     std::vector<std::string> pumps() { return editor->control("PumpNamesList").items(); }
 
@@ -99,6 +105,23 @@ TEST_F(PumpEditorWindow, DisablesThePagesOfAnEmptySeries) {
     editor->click("NewCommand");
     Desk::settle();
     EXPECT_TRUE(binder().widget("PumpModelText")->isEnabled());
+}
+
+TEST_F(PumpEditorWindow, StandsTheResultsOfATestBelowWhatWasTypedForThem) {
+    editor->choose("PumpDataTabs", 5);
+    Desk::settle();
+    for (const std::string mode : {"(0)", "(1)"})
+        EXPECT_EQ(rightOf("TestCapacityLabel" + mode), rightOf("TestSourceEWTText" + mode)) << mode;
+}
+
+TEST_F(PumpEditorWindow, KeepsTheRowsOfATableEquallyFarApart) {
+    editor->choose("PumpDataTabs", 3);
+    Desk::settle();
+    const auto top = [this](int row) {
+        return placeOf("CoolingELTText(" + std::to_string(row) + ")").y();
+    };
+    EXPECT_EQ(top(4) - top(3), top(1) - top(0));
+    EXPECT_EQ(top(3) - top(2), top(1) - top(0));
 }
 
 FitCurvesPicture sampleFit() {
