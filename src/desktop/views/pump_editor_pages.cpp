@@ -61,6 +61,12 @@ QWidget* figure(Binder& bind, const std::string& name) {
 
 QWidget* nothing() { return new QWidget; }
 
+/// Rows with a button stand no farther apart than rows without.
+QWidget* asHighAsFields(QWidget* button) {
+    button->setProperty("inTable", true);
+    return button;
+}
+
 /// A table without captions, which need not stand behind those of what follows it.
 QWidget* atLeft(QWidget* table) { return row_(table, stretch()); }
 
@@ -221,8 +227,8 @@ QWidget* correctionTable(Binder& bind, CorrectionKind kind) {
             for (const FittedQuantity quantity : fittedQuantities)
                 row.fields.push_back(tableField(bind, factorField(kind, mode, quantity, r), mode));
             row.fields.push_back(r < firstZeroRow ? nothing()
-                                                  : bind.widget(elementName(
-                                                        "cmdZeroZap", zeroButton(kind, mode, r))));
+                                                  : asHighAsFields(bind.widget(elementName(
+                                                        "cmdZeroZap", zeroButton(kind, mode, r)))));
         }
         rows.push_back(row);
     }
@@ -294,14 +300,15 @@ QWidget* pumpTestPage(Binder& bind) {
         return titled(bind, editor.tested(), bind.text(Text::enteringWater), degrees(bind), false,
                       Text::nothingToTest);
     });
-    QWidget* inputs = grid(bind.heads("TestModeLabel(0)", "TestModeLabel(1)"),
-                           bind.pair("TestSourceEWTText"), bind.pair("TestSourceFlowText"),
-                           bind.pair("TestLoadELTText"), bind.pair("TestLoadFlowText"));
-    QWidget* results = grid(bind.results("TestCapacityLabel"), bind.results("TestPowerLabel"),
-                            bind.results("TestCOPLabel"));
+    // One grid, so that results stand below what was typed for them.
+    QWidget* figures =
+        grid(bind.heads("TestModeLabel(0)", "TestModeLabel(1)"), bind.pair("TestSourceEWTText"),
+             bind.pair("TestSourceFlowText"), bind.pair("TestLoadELTText"),
+             bind.pair("TestLoadFlowText"), bind.wide(buttons(bind.primary("TestCommand"))),
+             bind.results("TestCapacityLabel"), bind.results("TestPowerLabel"),
+             bind.results("TestCOPLabel"));
     return group(bind.frame(pageFrames[5]),
-                 grow(row_(column(inputs, buttons(bind.primary("TestCommand")), results), gap(),
-                           grow(chart))));
+                 grow(row_(column(figures, stretch()), gap(), grow(chart))));
 }
 
 }  // namespace varnholt
