@@ -63,8 +63,10 @@ TEST_F(ProjectReports, AreAskedForInTwoForms) {
     };
     main.click("tbrMain(5)");
     EXPECT_FALSE(shelf.hasReport());
-    EXPECT_EQ(detailed().object, "rptBH");
     EXPECT_EQ(concise().object, "rptBHShort");
+    EXPECT_EQ(main.PrintOption, 1);
+    EXPECT_EQ(detailed().object, "rptBH");
+    EXPECT_EQ(main.PrintOption, 0);
 }
 
 TEST_F(ProjectReports, AreCalledAfterTheKindOfDesign) {

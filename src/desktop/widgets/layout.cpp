@@ -153,12 +153,20 @@ class CaptionAligner : public QObject {
     std::vector<FieldGrid*> grids_;
 };
 
+/// A column within another hands its grids over: two that keep different widths would never agree.
+void dissolveAligner(const QWidget* column) {
+    const QObjectList children = column->children();
+    for (QObject* child : children)
+        if (dynamic_cast<CaptionAligner*>(child) != nullptr) delete child;
+}
+
 void collectGrids(QWidget* piece, std::vector<FieldGrid*>& grids) {
     if (auto* grid = dynamic_cast<FieldGrid*>(piece)) {
         grids.push_back(grid);
     } else if (auto* group = dynamic_cast<GroupBox*>(piece)) {
         if (group->content() != nullptr) collectGrids(group->content(), grids);
     } else if (qobject_cast<QVBoxLayout*>(piece->layout()) != nullptr) {
+        dissolveAligner(piece);
         for (int i = 0; i < piece->layout()->count(); ++i)
             if (QWidget* inner = piece->layout()->itemAt(i)->widget()) collectGrids(inner, grids);
     }

@@ -165,9 +165,12 @@ TEST_F(Importer, ClearsBothModesAndTheFile) {
 }
 
 TEST_F(Importer, HasItsValuesAgainWhenItIsOpenedLater) {
-    importerWithFile().click("cmdImport(1)");
+    frmImport1& first = importerWithFile();
+    first.click("cmdCoolHeat(1)");
+    first.click("cmdImport(1)");
     frmImport1& form = importer();
-    EXPECT_EQ(caption(form, "lblTotal(12)"), "306000.0");
+    EXPECT_EQ(form.mode(), heating);
+    EXPECT_EQ(value(form, "yearTotal(0)"), 306000);
     EXPECT_EQ(value(form, "peakMax(1)"), 90000);
     // The menu names no file.
     EXPECT_EQ(form.loads().importfileName, "");
