@@ -259,7 +259,8 @@ TEST(HelpIndex, HasEveryMessageOfTheProgram) {
     std::multiset<std::string> places;
     for (const auto& [words, place] : index) places.insert(place);
     // Messages of boxes, by the numbers of their texts.
-    for (const int number : {1201, 1206, 1208, 8539, 8540, 8541, 8542, 8543, 2875, 2940})
+    for (const int number :
+         {1201, 1206, 1208, 8539, 8540, 8541, 8543, 2875, 2940, 1521, 4513, 5033})
         EXPECT_GT(places.count("messages.html#m" + std::to_string(number)), 0u) << number;
     // Errors of commands are told by number and description.
     for (const int number : {5, 6, 9, 11, 13, 53, 57, 61, 62, 70, 75, 76}) {

@@ -14,6 +14,9 @@ namespace {
 /// What is laid out at once, in characters: more than a screen of a table.
 constexpr qsizetype firstPart = 9000;
 
+/// How long the rest waits, so that the first part is painted before it, ms.
+constexpr int untilPainted = 30;
+
 /// A page without what the text browser would take for text, or cannot follow.
 QString withoutSheetsAndScripts(QString html) {
     static const QRegularExpression dropped(
@@ -54,8 +57,8 @@ PageBrowser::PageBrowser(QWidget* parent) : QTextBrowser(parent) {
     connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
         if (onLink) onLink(address_.resolved(link));
     });
-    more_.setInterval(0);
     connect(&more_, &QTimer::timeout, this, [this] {
+        more_.setInterval(0);
         if (!addSection()) more_.stop();
     });
 }
@@ -76,7 +79,7 @@ void PageBrowser::layOut() {
     QString first;
     while (!waiting_.isEmpty() && first.size() < firstPart) first += waiting_.takeFirst();
     setHtml(first);
-    if (!waiting_.isEmpty()) more_.start();
+    if (!waiting_.isEmpty()) more_.start(untilPainted);
 }
 
 bool PageBrowser::addSection() {
