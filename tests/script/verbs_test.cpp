@@ -49,7 +49,7 @@ TEST_F(Verbs, KeyPressesEnterAndCtrlV) {
 TEST_F(Verbs, CtrlVPastesTheClipboard) {
     EXPECT_EQ(transcriptOf("clipboard 1\\t2\\r\\n\\\\\nkey frmEveryKind.PlainText(1) Ctrl+V\n"
                            "print frmEveryKind.PlainText(1)\n"),
-              "frmEveryKind#1.PlainText(1) = \"1\\t2\\r\\n\\\\\"\n");
+              "frmEveryKind#1.PlainText(1) = \"1\\t2 \\\\\"\n");
 }
 
 TEST_F(Verbs, CtrlVLeavesALockedFieldAlone) {
