@@ -18,6 +18,8 @@ constexpr double logoHeight = 11 * unitsPerMillimetre;
 constexpr double runningHeight = 200;
 constexpr double footGap = 60;
 constexpr double ruleRoom = 30;
+/// Rows of a table that stays on one page where it can.
+constexpr std::size_t fewRows = 12;
 /// Rows between two looks at whether the user has had enough.
 constexpr std::size_t patience = 256;
 
@@ -33,6 +35,13 @@ QString printable(const std::string& text) {
 }
 
 std::size_t linesIn(const LaidItem& item) { return item.lines.size(); }
+
+/// A block's heading beside lines of the neighbouring block, which it must not push apart.
+bool besideOthers(const LaidRow& row, const LaidItem& heading) {
+    return heading.item->style == ItemStyle::subheading &&
+           std::any_of(row.items.begin(), row.items.end(),
+                       [](const LaidItem& laid) { return laid.item->style == ItemStyle::caption; });
+}
 
 }  // namespace
 
@@ -71,17 +80,21 @@ void PageLayout::measureAll(const Progress& progress) {
             return;
         }
         Rows& rows = rowsFor(band.section);
-        bool firstOfBand = true;
-        for (const ReportRow& row : band.rows) {
-            rows.push_back(measure(band, row));
-            if (firstOfBand && band.columns.size() > 1 && rows.back().before == 0 &&
-                band.section == ReportSection::ProjectID_Header)
-                rows.back().before = 40;
-            firstOfBand = false;
-        }
+        const std::size_t first = rows.size();
+        for (const ReportRow& row : band.rows) rows.push_back(measure(band, row));
+        if (first > 0 && first < rows.size()) setApart(band, rows[first]);
+        for (std::size_t row = first; row < rows.size(); ++row) rows[row].bandEnd = rows.size();
         if (band.section == ReportSection::ReportHeader) headRows_ = body_.size();
     }
     ruleOffPageHead();
+}
+
+/// Columns of another band begin with some room, where their first row brings none.
+void PageLayout::setApart(const ReportBand& band, LaidRow& first) {
+    if (band.columns.size() <= 1 || first.before > 0) return;
+    if (band.section == ReportSection::ProjectID_Header) first.before = 40;
+    if (band.section == ReportSection::ReportHeader) first.before = 70;
+    if (band.section == ReportSection::PageHeader) first.before = 50;
 }
 
 /// A line parts the heads of the columns from what stands below, unless the report has one there.
@@ -170,7 +183,7 @@ void PageLayout::finish(LaidRow& row) const {
         lines = std::max(lines, linesIn(laid));
         row.ascent = std::max(row.ascent, style.ascent);
         descent = std::max(descent, style.descent);
-        row.before = std::max(row.before, style.before);
+        if (!besideOthers(row, laid)) row.before = std::max(row.before, style.before);
         row.keepsNext = row.keepsNext || style.keepsNext;
         row.ruleAbove = row.ruleAbove ||
                         (laid.item->style == ItemStyle::zone && laid.item->control != "txtZoneID");
@@ -184,7 +197,7 @@ void PageLayout::finish(LaidRow& row) const {
     }
     row.lastLine = lines;
     row.height = std::max(tallest, row.ascent + descent) + rowGap;
-    if (row.items.empty()) row.height = type_.of(ItemStyle::subheading).lineHeight;
+    if (row.items.empty()) row.height = 0;
     if (row.ruleBelow) row.height += ruleRoom;
     if (row.ruleAbove) row.height += 20;
 }
@@ -205,7 +218,10 @@ std::size_t PageLayout::groupAt(std::size_t row) const {
         return end;
     }
     while (end < body_.size() && end != headRows_ && body_[end - 1].keepsNext) ++end;
-    return end;
+    // A table of a few rows is not torn.
+    const LaidRow& last = body_[end - 1];
+    const bool ofDrawings = !last.items.empty() && !isText(last.items.front().item->style);
+    return !ofDrawings && last.bandEnd - end < fewRows ? last.bandEnd : end;
 }
 
 void PageLayout::placeFixed(const Rows& rows, double top) {
@@ -232,6 +248,7 @@ void PageLayout::placePageHead(double top) {
     cursor_ = top;
     if (pageHead_.empty()) return;
     placeFixed(pageHead_, top);
+    underHead_ = true;
     cursor_ += 30;
 }
 
@@ -240,7 +257,8 @@ void PageLayout::place(std::size_t row) {
     if (!atHead_) cursor_ += laid.before;
     atHead_ = false;
     if (laid.zone > zones_.size()) zones_.push_back({pages_.size() - 1, cursor_});
-    pages_.back().rows.push_back({&laid, cursor_});
+    pages_.back().rows.push_back({&laid, cursor_, underHead_});
+    underHead_ = false;
     cursor_ += laid.height;
 }
 

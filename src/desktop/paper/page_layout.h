@@ -32,11 +32,14 @@ struct LaidRow {
     bool keepsNext = false;
     bool ruleAbove = false, ruleBelow = false;
     std::size_t zone = 0;
+    std::size_t bandEnd = 0;  ///< the row behind the last of its band
 };
 
 struct PlacedRow {
     const LaidRow* row = nullptr;
     double top = 0;  ///< of the sheet
+    /// The first below the heads of the columns, whose line parts it from them.
+    bool underHead = false;
 };
 
 struct LaidPage {
@@ -76,6 +79,7 @@ class PageLayout {
 
     void measureAll(const Progress& progress);
     void ruleOffPageHead();
+    static void setApart(const ReportBand& band, LaidRow& first);
     Rows& rowsFor(ReportSection section);
     LaidRow measure(const ReportBand& band, const ReportRow& row);
     LaidItem measureItem(const ReportBand& band, const ReportItem& item,
@@ -107,7 +111,8 @@ class PageLayout {
     std::map<std::pair<const double*, std::size_t>, int> decimals_;
     double cursor_ = 0, bottom_ = 0;
     bool complete_ = true;
-    bool atHead_ = false;  ///< nothing of the body stands on the page yet
+    bool atHead_ = false;     ///< nothing of the body stands on the page yet
+    bool underHead_ = false;  ///< the heads of the columns stand right above
 };
 
 }  // namespace varnholt
