@@ -155,9 +155,10 @@ class CaptionAligner : public QObject {
 
 /// A column within another hands its grids over: two that keep different widths would never agree.
 void dissolveAligner(const QWidget* column) {
-    const QObjectList children = column->children();
-    for (QObject* child : children)
-        if (dynamic_cast<CaptionAligner*>(child) != nullptr) delete child;
+    std::vector<CaptionAligner*> aligners;
+    for (QObject* child : column->children())
+        if (auto* aligner = dynamic_cast<CaptionAligner*>(child)) aligners.push_back(aligner);
+    for (const CaptionAligner* aligner : aligners) delete aligner;
 }
 
 void collectGrids(QWidget* piece, std::vector<FieldGrid*>& grids) {
