@@ -161,6 +161,13 @@ TEST_F(Paper, NamesItsPagesAndHasNoEmptyOne) {
     }
 }
 
+TEST_F(Paper, TellsEverySignOfItsWords) {
+    const QString text = textOf(pdf(samples.zones(1, 2))).join(QString());
+    for (const char* words : {"2026-01-15", "Unit Inlet (deg F):", "(MBtu/Hr):", "EER / COP:",
+                              "AB-036", "1 / 1", "Manufacturer:"})
+        EXPECT_TRUE(text.contains(QString::fromLatin1(words))) << words;
+}
+
 TEST_F(Paper, IsSearchableTextWithTitleAuthorAndBookmarks) {
     const std::string project = pdf(samples.borehole(0));
     EXPECT_TRUE(textOf(project).join(u' ').contains(QStringLiteral("School Östra Vånga")));

@@ -157,7 +157,9 @@ std::vector<QString> PageLayout::linesOf(const ReportItem& item, double width) c
     if (!broken && static_cast<double>(text.size()) * style.widest <= width) return {text};
     if (!broken && style.widthOf(text) <= width) return {text};
     std::vector<QString> lines;
-    for (const QString& paragraph : text.split(u'\n')) {
+    for (QString paragraph : text.split(u'\n')) {
+        // A unit such as L/min stays on one line of a column's head.
+        if (item.style == ItemStyle::columnHead) paragraph.replace(u'/', QStringLiteral("/\u2060"));
         QTextLayout layout(paragraph, style.font);
         QTextOption option;
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -166,7 +168,8 @@ std::vector<QString> PageLayout::linesOf(const ReportItem& item, double width) c
         bool any = false;
         for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
             line.setLineWidth(width);
-            lines.push_back(paragraph.mid(line.textStart(), line.textLength()).trimmed());
+            lines.push_back(
+                paragraph.mid(line.textStart(), line.textLength()).remove(u'\u2060').trimmed());
             any = true;
         }
         layout.endLayout();
