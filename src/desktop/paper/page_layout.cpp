@@ -36,6 +36,13 @@ QString printable(const std::string& text) {
 
 std::size_t linesIn(const LaidItem& item) { return item.lines.size(); }
 
+/// Words of the report itself, which stand in it again and again.
+bool isCaption(ItemStyle style) {
+    using enum ItemStyle;
+    return style == caption || style == columnHead || style == textHead || style == unit ||
+           style == subheading;
+}
+
 /// A block's heading beside lines of the neighbouring block, which it must not push apart.
 bool besideOthers(const LaidRow& row, const LaidItem& heading) {
     return heading.item->style == ItemStyle::subheading &&
@@ -133,7 +140,7 @@ LaidRow PageLayout::measure(const ReportBand& band, const ReportRow& row) {
 }
 
 LaidItem PageLayout::measureItem(const ReportBand& band, const ReportItem& item,
-                                 const std::vector<double>& edges) const {
+                                 const std::vector<double>& edges) {
     LaidItem laid{&item, edges[item.first], 0, {}, nullptr};
     const std::size_t last = std::size_t{item.first} + item.span;
     if (item.style == ItemStyle::figure) {
@@ -148,7 +155,14 @@ LaidItem PageLayout::measureItem(const ReportBand& band, const ReportItem& item,
     return laid;
 }
 
-std::vector<QString> PageLayout::linesOf(const ReportItem& item, double width) const {
+std::vector<QString> PageLayout::linesOf(const ReportItem& item, double width) {
+    if (!isCaption(item.style)) return brokenLines(item, width);
+    const auto [known, isNew] = captions_.try_emplace({item.style, width, item.text});
+    if (isNew) known->second = brokenLines(item, width);
+    return known->second;
+}
+
+std::vector<QString> PageLayout::brokenLines(const ReportItem& item, double width) const {
     const QString text = printable(item.text);
     const PaperStyle& style = type_.of(item);
     // Figures are never broken.
