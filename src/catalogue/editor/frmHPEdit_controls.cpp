@@ -52,8 +52,7 @@ void frmHPEdit::addControls() {
     add("PumpDataTabs", ControlKind::tabs)
         .in("PumpDataPicture")
         .setItems({text(Text::pumpDetailsPage), text(Text::cooling), text(Text::heating),
-                   text(Text::loadTemperaturePage), text(Text::loadFlow),
-                   text(Text::testPage)})
+                   text(Text::loadTemperaturePage), text(Text::loadFlow), text(Text::testPage)})
         .setIndex(0);
     addDetailsPage();
     for (const Mode mode : modes) addRatingPage(mode);
