@@ -151,7 +151,9 @@ TEST_F(OtherKinds, ShowTheResultsOfAPond) {
     }
     // A pond has no ground that the years change.
     EXPECT_EQ(textOf(print(window, 0), "GroundTemperatureChangeLabel"), "not printed");
-    EXPECT_EQ(textOf(print(window, 0), "TotalLengthLabel"), "not printed");
+    for (const int option : {0, 1})
+        for (const char* row : {"TotalLengthLabel", "TotalCapacityLabel"})
+            EXPECT_EQ(textOf(print(window, option), row), "not printed") << row;
 }
 
 TEST_F(OtherKinds, PrintHeadersLoopsAndWaterOfAPond) {
