@@ -118,6 +118,7 @@ TEST_F(OtherKinds, PrintSoilAndTrenchesOfAHorizontalDesign) {
               window.control("SOAirTempSwingText").text() + " [2305]");
     EXPECT_EQ(textOf(report, "TrenchDepthTextLabel"),
               window.control("PASeparationText(1)").text() + " [2512]");
+    EXPECT_EQ(textOf(report, "ThermalDiffusivityLabel"), "[5139]");
     EXPECT_EQ(textOf(report, "TrenchDepthLabel"), "[5007]");
     EXPECT_EQ(textOf(report, "NumberOfTrenchesLabel"), "[5005]");
     EXPECT_EQ(textOf(report, "PipeSizeTextLabel"),
