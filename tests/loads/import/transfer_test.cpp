@@ -116,6 +116,19 @@ TEST_F(Transfer, GoesToTheWindowThatWasActiveLast) {
     EXPECT_EQ(window.ZoneList()[0].hours[cooling], 0);
 }
 
+TEST_F(Transfer, NamesTheZonesAsTheyAreSelected) {
+    texts.known[1520] = "into %2";
+    texts.known[1522] = "none";
+    frmImport1& form = importer();
+    frmZoneManage& window = manager();
+    EXPECT_EQ(caption(form, "lblTransferTarget"), "none");
+    window.click("LONewCommand");
+    EXPECT_EQ(caption(form, "lblTransferTarget"), "into Zone 1");
+    window.click("LONewCommand");
+    window.select("LOZoneList", {0, 1});
+    EXPECT_EQ(caption(form, "lblTransferTarget"), "into Zone 1, Zone 2");
+}
+
 TEST_F(Transfer, TakesTheModeOnScreenToTheCalculatorWithoutAQuestion) {
     frmEqvHoursCalc& hours = calculator();
     frmImport1& form = importerWithFile();
