@@ -23,6 +23,14 @@ bool isWeb(const QUrl& url) {
 
 bool isFile(const QUrl& url) { return url.scheme() == QLatin1String("file"); }
 
+/// Whether it leads anywhere: to a host of the web, or to a file of this computer by its whole
+/// path.
+bool leadsSomewhere(const QUrl& url) {
+    if (isWeb(url)) return !url.host().isEmpty();
+    const bool here = url.host().isEmpty() || url.host() == QLatin1String("localhost");
+    return isFile(url) && here && url.path().startsWith(u'/');
+}
+
 /// Such a page of this computer would take all memory.
 bool isTooLarge(const QUrl& url) {
     return isFile(url) &&
@@ -53,7 +61,7 @@ QUrl urlOf(const std::string& typed, const QUrl& base) {
     static const QRegularExpression host(QStringLiteral("^[A-Za-z0-9.-]+(:[0-9]+)?(/.*)?$"));
     const bool isHost = host.match(text).hasMatch();
     const QUrl url(text);
-    if (!isHost && !url.scheme().isEmpty()) return isWeb(url) || isFile(url) ? url : QUrl();
+    if (!isHost && !url.scheme().isEmpty()) return leadsSomewhere(url) ? url : QUrl();
     if (isFile(base)) {
         const QUrl beside = base.resolved(QUrl(text));
         if (text.startsWith(u'.') || QFileInfo(beside.toLocalFile()).isFile()) return beside;
