@@ -100,6 +100,15 @@ print frmBrowser#2.NoticeLabel
 type frmBrowser#2.cboAddress data:text/html,<title>data</title>
 key frmBrowser#2.cboAddress Enter
 print frmBrowser#2.NoticeLabel
+type frmBrowser#2.cboAddress file://elsewhere/page.html
+key frmBrowser#2.cboAddress Enter
+print frmBrowser#2.NoticeLabel
+type frmBrowser#2.cboAddress file:
+key frmBrowser#2.cboAddress Enter
+print frmBrowser#2.NoticeLabel
+type frmBrowser#2.cboAddress https://
+key frmBrowser#2.cboAddress Enter
+print frmBrowser#2.NoticeLabel
 forms
 click Varnmain.FluidProperties
 click Varnmain.English

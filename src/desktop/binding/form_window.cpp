@@ -56,7 +56,7 @@ void FormWindow::finish() {
 /// The control that the widget shows, or that a widget around it shows; empty for none.
 std::string FormWindow::controlOf(const QWidget* widget) const {
     for (; widget != nullptr && widget != this; widget = widget->parentWidget()) {
-        const std::string name = plain(widget->objectName());
+        std::string name = plain(widget->objectName());
         if (!name.empty() && binder_.has(name)) return name;
     }
     return {};
