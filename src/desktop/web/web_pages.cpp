@@ -63,7 +63,7 @@ QUrl urlOf(const std::string& typed, const QUrl& base) {
     const QUrl url(text);
     if (!isHost && !url.scheme().isEmpty()) return leadsSomewhere(url) ? url : QUrl();
     if (isFile(base)) {
-        const QUrl beside = base.resolved(QUrl(text));
+        QUrl beside = base.resolved(QUrl(text));
         if (text.startsWith(u'.') || QFileInfo(beside.toLocalFile()).isFile()) return beside;
     }
     return QUrl(QStringLiteral("http://") + text);
