@@ -14,7 +14,7 @@ struct StyleRow {
     int size;  ///< tenths of a point
     QFont::Weight weight;
     bool muted;
-    double before;
+    int before;
     bool right, bottom, keepsNext;
 };
 
