@@ -12,6 +12,11 @@
 #include "basis/system/folders.h"
 #include "basis/system/process.h"
 #include "frame/menu_table.h"
+#include "loads/frmLinkOptions.h"
+#include "loads/import/frmImportTable.h"
+#include "reports/frmPROptions.h"
+#include "reports/frmZNOptions.h"
+#include "tools/frmTransferOptions.h"
 #include "tools/help_topics.h"
 #include "tools/program_folder.h"
 
@@ -89,6 +94,15 @@ class NotingPlatform : public Platform {
     Captions& captions_;
 };
 
+/// Dialogs that need data before a command raises them.
+void takeDialogs(Varnmain& main, Captions& captions) {
+    captions.take(frmPROptions(main));
+    captions.take(frmZNOptions(main));
+    captions.take(frmLinkOptions(main));
+    captions.take(frmTransferOptions(main));
+    captions.take(frmImportTable(main, {}, UnitSystem::english));
+}
+
 /// Opens every window that a command of the menu opens, twice for the questions that two windows
 /// raise, and presses what opens a dialog.
 void openAll(Varnmain& main, Captions& captions) {
@@ -104,6 +118,7 @@ void openAll(Varnmain& main, Captions& captions) {
         main.click("mnuLink");
         captions.take(*window);
     }
+    takeDialogs(main, captions);
     captions.take(main);
 }
 

@@ -109,7 +109,8 @@ def messages_page(folder):
     explained, errors = explanations()
     entries = [(f"m{number}", shown_message(text), explained.get(number, ""))
                for number, text in texts_in(folder)
-               if is_message(number, text) or number in explained]
+               if (is_message(number, text) or number in explained)
+               and explained.get(number) != "-"]
     entries += [(f"error-{number}", f"{number} - {words}", meaning)
                 for number, words, meaning in errors]
     rows = [f'<dt id="{place}">{html.escape(words)}</dt><dd>{meaning}</dd>'

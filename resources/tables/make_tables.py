@@ -43,7 +43,8 @@ class Column:
         self.convert, self.places = convert, places
 
     def title(self, metric):
-        unit = self.units[metric]
+        # A unit breaks behind its stroke and nowhere else.
+        unit = self.units[metric].replace(" ", "\N{NO-BREAK SPACE}")
         return html.escape(self.head) + (f"<br>{html.escape(unit)}" if unit else "")
 
     def is_words(self):
@@ -56,6 +57,8 @@ class Column:
             if float(text) == 0:
                 text = text.lstrip("-")
         order = f' data-order="{float(text):g}"' if is_number(text) else size_order(text)
+        if self.is_words():
+            text = text.replace("^2", "²").replace("^3", "³")
         kind = ' class="words"' if self.is_words() else ""
         return f"<td{kind}{order}>{html.escape(text)}</td>"
 
@@ -275,9 +278,9 @@ def ground_columns(title, moist=True, density=True):
 
 # Typical diffusivities of the three classes that the surface water design offers, ft²/day.
 SOIL_CLASSES = [
-    {"class": "Dry", "like": "dry sand or gravel", "diffusivity_typical_ft2_day": "0.26"},
-    {"class": "Damp", "like": "damp clay or light sand", "diffusivity_typical_ft2_day": "0.60"},
-    {"class": "Wet", "like": "heavy damp sand, or limestone",
+    {"class": "Dry soil", "like": "dry sand or gravel", "diffusivity_typical_ft2_day": "0.26"},
+    {"class": "Damp soil", "like": "damp clay or light sand", "diffusivity_typical_ft2_day": "0.60"},
+    {"class": "Wet sand or rock", "like": "heavy damp sand, or limestone",
      "diffusivity_typical_ft2_day": "0.96"},
 ]
 

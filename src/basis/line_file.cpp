@@ -112,18 +112,22 @@ void LineFileReader::skipLines(std::size_t count) {
 }
 
 void LineFileWriter::title(std::string_view prefix) {
-    text_ += prefix;
-    fixed(fileVersion);
+    fixed(std::string(prefix).append(fileVersion));
 }
 
 void LineFileWriter::text(const std::string& value) {
-    const std::size_t start = text_.size();
     if (isValidUtf8(value))
         fixed(value);
     else
         fixed(carriedText(value));
-    for (std::size_t i = start; i + 2 < text_.size(); ++i)
-        if (text_[i] == '\r' || text_[i] == '\n') text_[i] = ' ';
+}
+
+void LineFileWriter::fixed(std::string_view text) {
+    const auto start = static_cast<std::ptrdiff_t>(text_.size());
+    text_ += text;
+    std::replace_if(
+        text_.begin() + start, text_.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+    text_ += "\r\n";
 }
 
 void LineFileWriter::number(double value) { fixed(shortestText(value)); }

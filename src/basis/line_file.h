@@ -102,8 +102,7 @@ class LineFileWriter {
     void title(std::string_view prefix);
     bool since(double) const { return true; }
 
-    /// Line ends inside a text become blanks, so that a text is one line always.
-    void text(const std::string& value);
+    void text(const std::string& value) { fixed(value); }
     void number(double value);
     void integer(std::int16_t value);
     void date(const Date& value);
@@ -113,7 +112,8 @@ class LineFileWriter {
         ((line += (line.empty() ? "" : ",") + numberItem(values)), ...);
         fixed(line);
     }
-    void fixed(std::string_view text) { text_ += text, text_ += "\r\n"; }
+    /// Line ends inside a text become blanks, so that every item is one line, titles too.
+    void fixed(std::string_view text);
     std::size_t count(std::size_t written, std::size_t linesEach);
 
     const std::string& bytes() const { return text_; }

@@ -136,6 +136,7 @@ std::string formatNumber(double value, std::string_view pictureText) {
 }
 
 std::string shortestText(double value) {
+    if (value == 0) return "0";
     std::array<char, 64> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
     return {buffer.data(), end.ptr};

@@ -23,7 +23,8 @@ std::optional<double> readPlainNumber(std::string_view text);
 /// not-a-numbers show as "0" would.
 std::string formatNumber(double value, std::string_view picture);
 
-/// The shortest decimal text that reads back as the same double: decimal point, no grouping.
+/// The shortest decimal text that reads back as the same double: decimal point, no grouping. A zero
+/// carries no minus sign, whatever it is the rest of.
 std::string shortestText(double value);
 
 /// A text in a field of as many characters as the picture has "@": right-aligned, or left-aligned

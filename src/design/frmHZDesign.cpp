@@ -28,7 +28,7 @@ frmHZDesign::frmHZDesign(Varnmain& main, std::int16_t slot)
     addResults(resultRows(), Text::requiredTrenchLengths);
     addTab<FluidTab>(project_.fluid, project_.conditions);
     addTab<TrenchSoilTab>(project_.soil, project_.groundTemperature, follow);
-    addTab<TrenchPipeTab>(project_.pipe);
+    addTab<TrenchPipeTab>(project_.pipe, project_.remainder.uTubeConfig);
     addTab<TrenchTab>(project_.trench, project_.arrangement, follow);
     addTab<ExtraPowerTab>(project_.extraPower);
     addInformationControls();
@@ -128,8 +128,8 @@ void frmHZDesign::registerResults() {
             change[m] = std::abs(r.lengths.boreLength[m] - r.lengths.previousBoreLength[m]);
         return change;
     });
-    of.array(
-        "coilLengthPer250", [](R r) -> auto& { return r.coilLengthPer250; });
+    // One figure, which the modes take in turn: heating leaves it behind.
+    of.number("coilLengthPer250", [](R r) { return r.coilLengthPer250[heating]; });
     of.array(
         "requiredLength", [](R r) -> auto& { return r.requiredLength; });
     of.array(
@@ -158,18 +158,15 @@ void frmHZDesign::registerPairTable() {
 
 void frmHZDesign::followGroundTemp() { project_.groundTempAtDepth = groundTempAtTrench(project_); }
 
-void frmHZDesign::fillDefaults() {
-    TowerDesign::fillDefaults();
-    followGroundTemp();
-}
-
 void frmHZDesign::projectRead() {
     TowerDesign::projectRead();
     followGroundTemp();
 }
 
-/// A coil leaves the resistance of its equivalent pipe behind.
+/// A coil leaves the resistance of its equivalent pipe behind, which is a single one.
 void frmHZDesign::resultsFound() {
+    if (modCalculations::isCoil(project_.arrangement.trenchConfiguration))
+        project_.remainder.uTubeConfig = HorizontalFileRemainder().uTubeConfig;
     project_.pipe.pipeResistance = results().pipeResistance;
     project_.groundTempAtDepth = results().groundTempAtDepth;
     fields().showAll("PIPipe");

@@ -52,6 +52,7 @@ void GroundDesign::load() {
             setCaption(baseCaption() + " #" + std::to_string(main().windowCounter));
             fillDefaults();
             if (files.readINIFile) files.readINIFile();
+            defaultsRead();
         }
     }
     control("MetricCheck").setChecked(main().units() == UnitSystem::metric);
@@ -118,7 +119,9 @@ void GroundDesign::tellNothingToCalculate() { show(MessageIcon::information, tex
 void GroundDesign::tellNoLoads() {
     tellNothingToCalculate();
     if (parts_.tower == nullptr) return;
-    parts_.tower->tower.capacity = 0;
+    // Without a load there is nothing for a tower to take: no heat, no flow, no hours.
+    modCalculations::CoolingTower& tower = parts_.tower->tower;
+    tower.capacity = tower.flow = tower.hours = 0;
     dropTower();
     showTower();
 }

@@ -116,6 +116,9 @@ class GroundDesign : public LinkedDesign {
     virtual std::string pagesName() const = 0;
     /// Built-in values that depend on others.
     virtual void fillDefaults() {}
+    /// The designer's usual values have taken the place of built-in ones, as far as their file
+    /// goes.
+    virtual void defaultsRead() {}
     /// A project has been read from its file, and its loads found again.
     virtual void projectRead() {}
     /// Takes the tower out of the design, as a plain Calculate does before it runs.

@@ -12,9 +12,11 @@ namespace {
 using namespace modCalculations;
 
 constexpr int points = 60;
-constexpr double leastReach = 20;  // ft, where most of a year's swing has faded
 constexpr std::int16_t daysPerYear = 365;
 constexpr int daysPerPoint = 5;
+
+/// Where most of a year's swing has faded, as a round number of feet or metres.
+double leastReach(UnitSystem units) { return units == UnitSystem::metric ? 6 : 20; }
 
 double shownTemp(double temperature, UnitSystem units) {
     return quantities::temperature.shown(temperature, units);
@@ -28,13 +30,13 @@ GroundSwing onDay(GroundSwing swing, std::int16_t day) {
 
 void addOverDepth(GroundTempCurves& curves, double depth, double diffusivity,
                   const GroundSwing& swing, UnitSystem units) {
-    const double reach = std::max(leastReach, 2 * depth);
+    const double reach = std::max(leastReach(units), 2 * quantities::length.shown(depth, units));
     for (int i = 0; i <= points; ++i) {
         const double at = reach * i / points;
-        const ByMode<double> temperature = groundTempAtDepth(at, diffusivity, swing);
+        const ByMode<double> temperature =
+            groundTempAtDepth(quantities::length.stored(at, units), diffusivity, swing);
         for (const Mode mode : modes)
-            curves.overDepth[mode].push_back(
-                {quantities::length.shown(at, units), shownTemp(temperature[mode], units)});
+            curves.overDepth[mode].push_back({at, shownTemp(temperature[mode], units)});
     }
 }
 

@@ -10,11 +10,11 @@
 
 namespace varnholt {
 
-/// Numbers of a horizontal file that the design carries along and does not use. They keep the
-/// file's shape.
+/// Numbers of a horizontal file that nobody enters. All but `uTubeConfig` are carried along without
+/// a use and keep the file's shape.
 struct HorizontalFileRemainder {
     std::array<double, 2> inputNumbers{}, inputDoubles{};
-    /// How the pipe's resistance counts legs; a single pipe is laid whatever it says.
+    /// The configuration of pipeResistanceOf: a single pipe, which only a file can change.
     double uTubeConfig = 2;
     std::array<double, 3> numbers{1.9, 100, 0};
     std::array<double, 2> resultFlags{1, 0}, resultNumbers{}, resultDoubles{};

@@ -32,7 +32,7 @@ LoopTab::LoopTab(GroundDesign& design, LoopValues& loop, HeaderValues& header)
     addLoops();
     addLoopLosses();
     addFrame("PIHeaderParametersFrame", Text::headerParameters, "PIPipeParametersSSTab");
-    for (const std::size_t kind : {0, 1}) addHeaders(kind);
+    for (const std::size_t kind : {0U, 1U}) addHeaders(kind);
     addHeaderLosses();
     addMenuButton("PIPipeTablesCommand", "PIPipeParametersSSTab", Text::pipeTablesButton,
                   "PipeProperties");
@@ -200,7 +200,7 @@ void LoopTab::showChoices() {
     control("PICoilOption").setChecked(loop_.loopStyle == 0);
     control("PISlinkyOption").setChecked(loop_.loopStyle == 1);
     control("PILoopPipeSizeCombo").setIndex(entryOf(loop_.loopPipeSize, loopSizes));
-    for (const std::size_t kind : {0, 1})
+    for (const std::size_t kind : {0U, 1U})
         control(of("PIHeaderPipeSizeCombo", kind))
             .setIndex(entryOf(header_.headerPipeSize[kind], headerSizes));
 }
@@ -208,7 +208,7 @@ void LoopTab::showChoices() {
 void LoopTab::enableBranches() {
     const bool any = header_.headerCount[branches] >= 1;
     control(of("PIHeaderPipeSizeCombo", branches)).setEnabled(any);
-    for (const std::size_t index : {2, 3}) {
+    for (const std::size_t index : {2U, 3U}) {
         control(of("PIHeaderLengthText", index)).setEnabled(any);
         control(of("PIHeaderHeadLossText", index)).setEnabled(any);
     }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/soil_tab.h"
 
+#include <algorithm>
+
+#include "basis/run_time_error.h"
 #include "design/ground_design.h"
 #include "forms/text_numbers.h"
 
@@ -94,7 +97,9 @@ void SoilTab::addExtremeDay(Mode mode, std::int16_t& day, const std::string& fra
     const ByMode<int> seasons{Text::summer, Text::winter};
     const std::string field = elementName("SODayText", mode);
     addField({.control = field,
-              .stored = &day,
+              // A number that no day can hold is out of range like any other.
+              .stored = {[&day] { return static_cast<double>(day); },
+                         [&day](double typed) { day = toInteger(std::clamp(typed, -1.0, 366.0)); }},
               .highest = 365,
               .fallback = unknownDay,
               .format = "###0",

@@ -183,7 +183,7 @@ void TowerPanel::drop() {
 
 void TowerPanel::paint(int colour) {
     control("CAHybridFrame").setForecolor(colour);
-    for (const std::size_t index : {0, 1}) {
+    for (const std::size_t index : {0U, 1U}) {
         control(elementName("CAPercentHybridLabel", index)).setForecolor(colour);
         for (const Figure& figure : figures)
             control(elementName(figure.label, index)).setForecolor(colour);

@@ -5,14 +5,15 @@
 
 namespace varnholt {
 
-TrenchPipeTab::TrenchPipeTab(GroundDesign& design, PipeValues& pipe) : PipeTab(design, pipe) {
+TrenchPipeTab::TrenchPipeTab(GroundDesign& design, PipeValues& pipe, const double& uTubeConfig)
+    : PipeTab(design, pipe), uTubeConfig_(uTubeConfig) {
     addFrame("PIPipeFrame", Text::pipeSizeAndResistance);
     addPipeControls("PIPipeFrame");
 }
 
 int TrenchPipeTab::configuration() const {
-    constexpr int singlePipe = 2;
-    return singlePipe;
+    constexpr int configurations = 3;  // one pair of legs, two pairs, a single pipe
+    return entryOf(uTubeConfig_, configurations);
 }
 
 }  // namespace varnholt

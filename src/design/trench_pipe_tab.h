@@ -5,13 +5,19 @@
 
 namespace varnholt {
 
-/// The pipe in a trench: a single one, with nothing but ground around it.
+/// The pipe in a trench: a single one, with nothing but ground around it, unless a file says
+/// otherwise.
 class TrenchPipeTab : public PipeTab {
  public:
-    TrenchPipeTab(GroundDesign& design, PipeValues& pipe);
+    /// @param uTubeConfig  the configuration of pipeResistanceOf; with any other number the
+    ///                     resistance is 0
+    TrenchPipeTab(GroundDesign& design, PipeValues& pipe, const double& uTubeConfig);
 
  protected:
     int configuration() const override;
+
+ private:
+    const double& uTubeConfig_;
 };
 
 }  // namespace varnholt

@@ -180,9 +180,9 @@ void TrenchTab::addTime() {
 
 /// The trench in a cut across it, and the field from above.
 void TrenchTab::addPictures() {
-    for (const std::size_t i : {0, 1, 2})
+    for (const std::size_t i : {0U, 1U, 2U})
         add(of("PADiagramPicture", i), ControlKind::image, "PAFieldFrame");
-    for (const std::size_t i : {0, 1, 2, 3, 4})
+    for (const std::size_t i : {0U, 1U, 2U, 3U, 4U})
         add(of("imgConfiguration", i), ControlKind::image, "PAFieldFrame");
 }
 

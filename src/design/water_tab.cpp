@@ -22,7 +22,7 @@ WaterTab::WaterTab(GroundDesign& design, WaterTemperatures& water, SurfaceWaterD
     for (const Mode mode : modes)
         addTemperature("WALoopTempText", mode, water.loopWaterTemp[mode], "WALoopTempFrame",
                        Text::loopWaterTemperatures);
-    for (const std::size_t kind : {0, 1}) {
+    for (const std::size_t kind : {0U, 1U}) {
         addFrame(headerFrames[kind], headerCaptions[kind], "WAPropertiesFrame");
         for (const Mode mode : modes)
             addTemperature("WAHeaderTempText", 2 * kind + mode,

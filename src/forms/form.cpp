@@ -44,6 +44,23 @@ std::string withFullLineEnds(const std::string& text) {
     return full;
 }
 
+/// A field of one line takes a cell of a spreadsheet, which ends in a line end, and puts a blank
+/// between the lines of longer texts.
+std::string inOneLine(const std::string& text) {
+    const std::size_t end = text.find_last_not_of("\r\n") + 1;
+    std::string line;
+    for (std::size_t i = 0; i < end; ++i) {
+        if (text[i] == '\r' && text[i + 1] == '\n') continue;
+        line += text[i] == '\r' || text[i] == '\n' ? ' ' : text[i];
+    }
+    return line;
+}
+
+std::string asTaken(const Control& field, const std::string& typed) {
+    if (field.kind() == ControlKind::richText) return withFullLineEnds(typed);
+    return field.kind() == ControlKind::text ? inOneLine(typed) : typed;
+}
+
 }  // namespace
 
 /// Hands the controls' changes on to whoever shows the form.
@@ -153,7 +170,7 @@ void Form::type(const std::string& name, const std::string& text) {
     perform(Verb::type, name, [&] {
         Control& target = control(name);
         visited_ = name;
-        target.setText(target.kind() == ControlKind::richText ? withFullLineEnds(text) : text);
+        target.setText(asTaken(target, text));
         if (fields_.has(name)) fields_.textChanged(name);
         raise(handlersOf(name).change);
     });

@@ -41,6 +41,10 @@ class Platform {
     /// A message box with one button.
     virtual void message(MessageIcon icon, const std::string& title, const std::string& text) = 0;
     virtual Answer question(Buttons buttons, const std::string& title, const std::string& text) = 0;
+    /// The same under the exclamation icon, before something is taken away.
+    virtual Answer confirm(Buttons buttons, const std::string& title, const std::string& text) {
+        return question(buttons, title, text);
+    }
     /// The chosen path, or nothing when the dialog was cancelled.
     virtual std::optional<std::string> chooseFile(const FileDialog& dialog) = 0;
 

@@ -959,6 +959,7 @@ constexpr int clearPumpsTitle = 4520;
 constexpr int removePumpQuestion = 4521;
 constexpr int removePumpTitle = 4522;
 constexpr int savePumpsQuestion = 4523;
+constexpr int dropInformationQuestion = 4534;
 constexpr int seriesFileChanged = 4524;
 constexpr int damagedFileReplaced = 4525;
 constexpr int indexFileChanged = 4540;

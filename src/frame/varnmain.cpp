@@ -16,6 +16,10 @@
 namespace varnholt {
 namespace {
 
+// The character set of the language's font. Texts are UTF-8 in every language, and so none needs a
+// set of its own: 1 is a font's default set, whatever the locale's.
+constexpr double defaultCharSet = 1;
+
 bool opensWindow(const std::string& entry) {
     const auto rows = menuTable();
     return std::any_of(rows.begin(), rows.end(),
@@ -101,6 +105,7 @@ void Varnmain::registerValues() {
     values.add("MainDirectory", &MainDirectory);
     values.add("TempDirectory", &TempDirectory);
     values.add("FontFaceName", &FontFaceName);
+    values.add("LocalCharSet", 0, [](const Values::Indices&) { return defaultCharSet; });
     values.add("HHTopicURL", &HHTopicURL);
     values.add("openCall", &openCall);
     values.add("saveCancelled", &saveCancelled);

@@ -7,8 +7,6 @@
 #include "loads/import/frmImport1.h"
 
 namespace varnholt {
-namespace {}  // namespace
-
 void installLoads(Varnmain& main) {
     main.setCommand("mnuZoneManage", CommandNeeds::nothing,
                     [&main] { openOnce<frmZoneManage>(main, "frmZoneManage"); });

@@ -51,6 +51,8 @@ void LoadsWindow::switchLinkedUnits() {
 void LoadsWindow::actionEnds(const UserAction& action) {
     ChildWindow::actionEnds(action);
     refreshLinkedNotices();
+    // The importer tells which zones of this window it would fill.
+    if (ChildWindow* importer = main().find("frmImport1")) importer->windowsChanged();
 }
 
 void LoadsWindow::refreshLinkedNotices() {

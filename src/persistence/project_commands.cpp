@@ -227,7 +227,7 @@ void mnuFileSave_Click(Varnmain& main) {
         saveDesign(*design);
     else if (auto* loads = dynamic_cast<LoadsWindow*>(active))
         loads->LOSaveCommand_Click();
-    else if (active->canSave())
+    else if (active != nullptr && active->canSave())
         active->save();
 }
 

@@ -20,8 +20,9 @@ frmPROptions::frmPROptions(Varnmain& main) : Form("frmPROptions", main.platform(
     addOption(shortForm, Text::conciseForm);
     add("cmdOK", ControlKind::button, Text::projectReportOk);
     add("cmdCancel", ControlKind::button, Text::projectReportCancel);
-    onClick("cmdOK", [this] {
+    onClick("cmdOK", [this, &main] {
         chosen_ = element("PrintOption", shortForm).checked() ? shortForm : detailedForm;
+        main.PrintOption = static_cast<std::int16_t>(*chosen_);
         endModal();
     });
     onClick("cmdCancel", [this] { endModal(); });

@@ -8,10 +8,6 @@
 namespace varnholt {
 namespace {
 
-bool isOfZone(ReportSection section) {
-    return section >= ReportSection::Zones_Header && section <= ReportSection::Zones_Footer;
-}
-
 /// The report's own words stand between those of every zone report and the date.
 std::string titleOf(const ZoneReportDefinition& definition, const Texts& texts,
                     const PrintingFacts& facts) {

@@ -20,7 +20,7 @@ inline constexpr Pair fluidPairs[] = {
 inline constexpr Pair soilPairs[] = {
     {{"GroundTempTextLabel", shown("SOGroundTempText", "SOGroundTempUnitsLabel")}, words(Text::groundTemperature)},
     {{"ThermalConductivityTextLabel", shown("SOThermalConductivityText", "SOThermalConductivityUnitsLabel")}, words(Text::thermalConductivity)},
-    {{"ThermalDiffusivityTextLabel", shown("SOThermalDiffusivityText", "SOThermalDiffusivityUnitsLabel")}, words(Text::thermalDiffusivity)},
+    {{"ThermalDiffusivityTextLabel", shown("SOThermalDiffusivityText", "SOThermalDiffusivityUnitsLabel")}, words(Text::soilThermalDiffusivity)},
 };
 
 inline constexpr Pair extraPowerPairs[] = {

@@ -12,7 +12,7 @@ namespace {
 
 constexpr double headingColumns[] = {180};
 constexpr double tableColumns[] = {84, 38, 38, 20};
-constexpr double blockColumns[] = {46, 40, 8, 46, 40};
+constexpr double blockColumns[] = {54, 34, 6, 52, 34};
 constexpr std::uint8_t rightBlock = 3;
 
 /// The label of a result array that holds the row's caption.
@@ -140,6 +140,8 @@ struct AddPart {
     std::vector<ReportRow> rowsOf(std::span<const Block> blocks, std::uint8_t column) const {
         std::vector<ReportRow> rows;
         for (const Block& block : blocks) {
+            // Neighbouring columns keep their lines side by side, so a row parts the blocks.
+            if (!rows.empty()) rows.emplace_back();
             rows.emplace_back();
             if (block.heading.control != nullptr)
                 rows.back().items.push_back(

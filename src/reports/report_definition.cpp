@@ -77,8 +77,8 @@ std::size_t unitPlace(const std::string& text) {
     if (!isFigure(text[sign])) return 0;
     for (std::size_t i = sign; i < blank; ++i)
         if (!isFigure(text[i]) && text[i] != '.') return 0;
-    // "3 x 4" is a count by a count.
-    return text[blank + 1] == 'x' ? 0 : blank + 1;
+    // "3 x 4" is a count by a count, 1 1/2" a size.
+    return text[blank + 1] == 'x' || isFigure(text[blank + 1]) ? 0 : blank + 1;
 }
 
 ReportBand fillBand(const BandDefinition& definition, const FillContext& context) {

@@ -13,7 +13,6 @@ constexpr ResultLine resultLines[] = {
     {"ApproachTemp", "CAApproachTempLabel"},
     unitInletLine,
     unitOutletLine,
-    totalCapacityLine,
     peakLoadLine,
     peakDemandLine,
     pumpCopLine,

@@ -29,7 +29,7 @@ struct Svg {
         body += fmt::format("<line x1=\"{:.1f}\" y1=\"{:.1f}\" x2=\"{:.1f}\" y2=\"{:.1f}\" {}/>", x,
                             y, toX, toY, look);
     }
-    void text(double x, double y, const std::string& words, const char* anchor = "middle") {
+    void words(double x, double y, const std::string& words, const char* anchor = "middle") {
         body += fmt::format(
             "<text x=\"{:.1f}\" y=\"{:.1f}\" text-anchor=\"{}\" font-size=\"11\" "
             "fill=\"currentColor\">{}</text>",
@@ -57,7 +57,7 @@ struct Draw {
             svg.circle(x + pipe.x * scale, y - pipe.y * scale, pipe.outside / 2 * scale, wall);
             svg.circle(x + pipe.x * scale, y - pipe.y * scale, pipe.inside / 2 * scale, water);
         }
-        svg.text(x, 228, bore.boreLabel + " / " + bore.pipeLabel);
+        svg.words(x, 228, bore.boreLabel + " / " + bore.pipeLabel);
     }
 
     void operator()(const FieldPlan& field) const {
@@ -70,8 +70,8 @@ struct Draw {
             for (int column = 0; column < field.columnsDrawn; ++column)
                 svg.circle(left + column * step, top + row * step, std::min(5.0, step * 0.3),
                            outline);
-        svg.text(width / 2, 214, field.acrossLabel + " x " + field.downLabel);
-        svg.text(width / 2, 230, field.separationLabel);
+        svg.words(width / 2, 214, field.acrossLabel + " x " + field.downLabel);
+        svg.words(width / 2, 230, field.separationLabel);
     }
 
     void operator()(const TrenchDrawing& trench) const {
@@ -88,8 +88,8 @@ struct Draw {
         const double middle = top + trench.coilMiddle * scale;
         if (trench.coil && trench.standing) svg.line(x, middle - coil, x, middle + coil, outline);
         if (trench.coil && !trench.standing) svg.line(x - coil, middle, x + coil, middle, outline);
-        svg.text(x, 214, trench.widthLabel + " x " + trench.depthLabel);
-        svg.text(x, 230, trench.coilLabel);
+        svg.words(x, 214, trench.widthLabel + " x " + trench.depthLabel);
+        svg.words(x, 230, trench.coilLabel);
     }
 
     void operator()(const TrenchPlan& plan) const {
@@ -104,8 +104,8 @@ struct Draw {
                 svg.line(30, at, 330, at, outline);
             }
         }
-        svg.text(width / 2, 214, plan.separationLabel);
-        svg.text(width / 2, 230, plan.isCoil() ? plan.pitchLabel + " / " + plan.coilLabel : "");
+        svg.words(width / 2, 214, plan.separationLabel);
+        svg.words(width / 2, 230, plan.isCoil() ? plan.pitchLabel + " / " + plan.coilLabel : "");
     }
 
     void operator()(const CircuitPlan& plan) const {
@@ -115,10 +115,10 @@ struct Draw {
         svg.line(30, level - 20, shore + 60, level + 50, outline);
         for (int loop = 0; loop < 5; ++loop)
             svg.circle(shore + 80 + loop * 32, level + 60, 13, outline);
-        svg.text(60, level - 26, headers(plan.primary));
-        if (plan.branch.count > 0) svg.text(shore + 120, level + 20, headers(plan.branch));
-        svg.text(width / 2, 214, fmt::format("{} / {}", plan.loops[cooling], plan.loops[heating]));
-        svg.text(width / 2, 230, plan.loopFlow[cooling]);
+        svg.words(60, level - 26, headers(plan.primary));
+        if (plan.branch.count > 0) svg.words(shore + 120, level + 20, headers(plan.branch));
+        svg.words(width / 2, 214, fmt::format("{} / {}", plan.loops[cooling], plan.loops[heating]));
+        svg.words(width / 2, 230, plan.loopFlow[cooling]);
     }
 
     static std::string headers(const CircuitHeaders& kind) {
@@ -138,17 +138,17 @@ struct Draw {
                 svg.rectangle(x + bar * static_cast<double>(mode), base - tall, bar - 2, tall,
                               mode == cooling ? "fill=\"var(--cool)\"" : "fill=\"var(--heat)\"");
             }
-            svg.text(x + bar, base + 14, day.blocks[block]);
+            svg.words(x + bar, base + 14, day.blocks[block]);
         }
-        svg.text(left, 20, fmt::format("{:.1f} {}", largest, day.unit), "start");
+        svg.words(left, 20, fmt::format("{:.1f} {}", largest, day.unit), "start");
         legend(day);
     }
 
     void legend(const DayDrawing& day) const {
         svg.rectangle(90, 218, 10, 10, "fill=\"var(--cool)\"");
-        svg.text(106, 227, day.modeWords[cooling], "start");
+        svg.words(106, 227, day.modeWords[cooling], "start");
         svg.rectangle(210, 218, 10, 10, "fill=\"var(--heat)\"");
-        svg.text(226, 227, day.modeWords[heating], "start");
+        svg.words(226, 227, day.modeWords[heating], "start");
     }
 };
 

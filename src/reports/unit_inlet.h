@@ -8,7 +8,7 @@ namespace varnholt {
 
 // The temperatures of the source, above the columns of the reports with pumps.
 
-inline constexpr double unitInletColumns[] = {44, 24, 18, 24, 18, 52};
+inline constexpr double unitInletColumns[] = {34, 18, 14, 22, 14, 78};
 
 // clang-format off
 inline constexpr ItemDefinition unitInletItems[] = {

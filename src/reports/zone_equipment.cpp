@@ -15,7 +15,7 @@ using enum ReportSection;
 using enum ItemStyle;
 
 // Zone, units, pump, maker, series, type, mode, then the pump's figures.
-constexpr double columns[] = {8, 6, 24, 22, 22, 18, 15, 12, 9.5, 8.5, 11, 8, 9.5, 8, 8};
+constexpr double columns[] = {8, 6, 25, 29, 27, 19, 13, 12, 9.5, 8.5, 11, 8, 9.5, 8, 8};
 
 constexpr double pageWidth = std::accumulate(std::begin(columns), std::end(columns), 0.0);
 

@@ -58,7 +58,7 @@ std::string quotedText(std::string_view text) {
 
 std::string numberText(double number) {
     const double size = std::fabs(number);
-    const bool readable = number == 0 || (size >= 1e-5 && size < 1e16);
+    const bool readable = size >= 1e-5 && size < 1e16;
     if (!readable) return shortestText(number);
     std::array<char, 64> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,

@@ -56,6 +56,13 @@ std::string friendlyName(const std::string& version, std::span<const VersionName
     return name;
 }
 
+/// Whether a component is no older than the oldest version with a name. What does not know its
+/// version is as it should be.
+bool isNewEnough(const HelpComponent& component, std::span<const VersionName> table) {
+    return component.version.empty() ||
+           numbersOf(component.version) >= numbersOf(table.front().version);
+}
+
 bool isThere(const HelpComponent& component) {
     return component.path && fileExists(*component.path);
 }
@@ -213,7 +220,7 @@ bool HTMLHelp::HHVerifyMinConfig() {
             "Internet Explorer is not in its registered location.  "
             "Please reinstall Internet Explorer.");
     else
-        return true;
+        return isNewEnough(help, helpVersions) && isNewEnough(browser, browserVersions);
     return false;
 }
 

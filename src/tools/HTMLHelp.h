@@ -69,7 +69,8 @@ class HTMLHelp {
     void HHRegister(const std::string& name, const std::string& path);
     void HHUnRegister(const std::string& name);
     bool HHCheckRegistry(const std::string& name) const;
-    /// Whether the engine is complete; a message says what is missing.
+    /// Whether the engine is complete and no older than the first version of its kind; a message
+    /// says what is missing.
     bool HHVerifyMinConfig();
     /// Whether the file is there; a message says when it is not.
     bool EnsureFileExists(const std::string& path);

@@ -2,63 +2,152 @@
 #include "tools/help_topics.h"
 
 #include <algorithm>
-#include <cctype>
+#include <iterator>
 #include <span>
+#include <string_view>
 
+#include "forms/control.h"
+#include "frame/menu_table.h"
 #include "tools/page_address.h"
 
 namespace varnholt {
 namespace {
 
-/// Windows and the kinds of names in them; a row without a prefix is the window's own.
+/// Windows and the beginnings of names in them; a row without one is the window's own.
 struct TopicRow {
     const char* form;
-    const char* prefix;
+    const char* names;
     const char* topic;
 };
 
 // clang-format off
 constexpr TopicRow topics[] = {
+    {"frmBHDesign", "", "borehole"},
     {"frmBHDesign", "CA", "borehole#results"},
+    {"frmBHDesign", "CAHybrid", "tower"},
+    {"frmBHDesign", "CAPercentHybrid", "tower"},
+    {"frmBHDesign", "CACondenser", "tower"},
+    {"frmBHDesign", "CACooling", "tower"},
     {"frmBHDesign", "EKW", "borehole#power"},
     {"frmBHDesign", "PA", "borehole#pattern"},
     {"frmBHDesign", "FL", "borehole#fluid"},
     {"frmBHDesign", "SO", "borehole#soil"},
     {"frmBHDesign", "PI", "borehole#piping"},
     {"frmBHDesign", "IN", "borehole#information"},
-    {"frmBHDesign", "", "borehole"},
     {"frmHZDesign", "", "horizontal"},
+    {"frmHZDesign", "CA", "horizontal#results"},
+    {"frmHZDesign", "CAHybrid", "tower"},
+    {"frmHZDesign", "CAPercentHybrid", "tower"},
+    {"frmHZDesign", "CACondenser", "tower"},
+    {"frmHZDesign", "CACooling", "tower"},
+    {"frmHZDesign", "EKW", "horizontal#power"},
+    {"frmHZDesign", "PA", "horizontal#configuration"},
+    {"frmHZDesign", "FL", "horizontal#fluid"},
+    {"frmHZDesign", "SO", "horizontal#soil"},
+    {"frmHZDesign", "PI", "horizontal#pipe"},
+    {"frmHZDesign", "IN", "horizontal#information"},
     {"frmSWDesign", "", "surface_water"},
+    {"frmSWDesign", "CA", "surface_water#results"},
+    {"frmSWDesign", "EKW", "surface_water#power"},
+    {"frmSWDesign", "FL", "surface_water#fluid"},
+    {"frmSWDesign", "SO", "surface_water#soil"},
+    {"frmSWDesign", "PI", "surface_water#loops"},
+    {"frmSWDesign", "PIHeader", "surface_water#headers"},
+    {"frmSWDesign", "PIPrimaryHeader", "surface_water#headers"},
+    {"frmSWDesign", "PIBranchHeader", "surface_water#headers"},
+    {"frmSWDesign", "WA", "surface_water#water"},
+    {"frmSWDesign", "IN", "surface_water#information"},
     {"frmZoneManage", "", "loads"},
     {"frmAvgBlock", "", "average_block"},
     {"frmLinkOptions", "", "linking"},
     {"frmHPEdit", "", "pump_editor"},
     {"frmBrowser", "", "browser"},
+    {"frmBrowser", "cboAddress", "browser#address"},
+    {"frmBrowser", "lblAddress", "browser#address"},
+    {"frmBrowser", "tbToolBar", "browser#window"},
+    {"frmBrowser", "tbToolBar(0)", "browser#back"},
+    {"frmBrowser", "tbToolBar(1)", "browser#back"},
+    {"frmBrowser", "tbToolBar(2)", "browser#refresh"},
+    {"frmBrowser", "tbToolBar(3)", "browser#home"},
+    {"frmBrowser", "tbToolBar(4)", "browser#search"},
+    {"frmBrowser", "tbToolBar(5)", "browser#stop"},
     {"frmDiffusivityCalc", "", "calculators#diffusivity"},
     {"frmPumpPowerCalc", "", "calculators#pump-power"},
     {"frmEqvHoursCalc", "", "calculators#hours"},
-    {"frmImport1", "", "importing"},
+    {"frmImport1", "", "importing#months"},
+    {"frmImport1", "cmdImport(2)", "importing#files"},
+    {"frmImport1", "cmdImport(4)", "importing#transfer"},
+    {"frmImport1", "cmdImport(5)", "importing#tables"},
+    {"frmImport1", "fraTransfer", "importing#transfer"},
+    {"frmImport1", "lblTransferTarget", "importing#transfer"},
+    {"frmImport1", "lblNotLookedAt", "importing#transfer"},
+    {"frmImport1", "optDesignDay", "importing#design-day"},
+    {"frmImport1", "imgDesignDay", "importing#design-day"},
     {"frmImportTable", "", "importing#tables"},
-    {"frmTransferOptions", "", "importing"},
-    {"frmPROptions", "", "reports"},
-    {"frmZNOptions", "", "reports"},
+    {"frmTransferOptions", "", "calculators#hours"},
+    {"frmPROptions", "", "reports#projects"},
+    {"frmZNOptions", "", "reports#zones"},
+    {"Varnmain", "", "index"},
+    {"Varnmain", "NewBorehole", "borehole"},
+    {"Varnmain", "NewHorizontal", "horizontal"},
+    {"Varnmain", "NewSurfaceWater", "surface_water"},
+    {"Varnmain", "mnuFile", "files"},
+    {"Varnmain", "OpenProject", "files"},
+    {"Varnmain", "SaveProject", "files"},
+    {"Varnmain", "mnuFilePrint", "reports"},
+    {"Varnmain", "mnuFilePrintSetup", "reports#preview"},
+    {"Varnmain", "mnuUndo", "index#undo"},
+    {"Varnmain", "mnuRedo", "index#undo"},
+    {"Varnmain", "mnuAvgBlock", "average_block"},
+    {"Varnmain", "mnuZoneManage", "loads"},
+    {"Varnmain", "mnuLink", "linking"},
+    {"Varnmain", "mnuUnlink", "linking"},
+    {"Varnmain", "mnuMonthlyLoadsImport", "importing"},
+    {"Varnmain", "EditAdd", "pump_editor"},
+    {"Varnmain", "mnuDiffCalc", "calculators#diffusivity"},
+    {"Varnmain", "mnuEqvHours", "calculators#hours"},
+    {"Varnmain", "mnuPumpPowerCalc", "calculators#pump-power"},
+    {"Varnmain", "Metric", "index#units"},
+    {"Varnmain", "English", "index#units"},
+    {"Varnmain", "Tables", "browser"},
+    {"Varnmain", "FluidProperties", "browser"},
+    {"Varnmain", "SoilProperties", "browser"},
+    {"Varnmain", "PipeProperties", "browser"},
+    {"Varnmain", "Conversions", "browser"},
+    {"Varnmain", "mnuHelp", "keys#help-keys"},
+    {"Varnmain", "mnuWhatsThis", "keys#help-keys"},
 };
 // clang-format on
 
-/// "SO" of "SOSoilCommand": the capitals before the last one, which begins the name.
-std::string prefixOf(const std::string& control) {
-    std::size_t capitals = 0;
-    while (capitals < control.size() &&
-           std::isupper(static_cast<unsigned char>(control[capitals])) != 0)
-        ++capitals;
-    return capitals < 2 ? std::string() : control.substr(0, capitals - 1);
+/// The command that a button of the main window's tool bar runs; any other name as it is.
+std::string commandOf(const Form& form, const std::string& control) {
+    const std::span<const ToolRow> tools = toolTable();
+    for (std::size_t i = 0; form.formName() == "Varnmain" && i < tools.size(); ++i)
+        if (control == elementName("tbrMain", i)) return tools[i].command;
+    return control;
 }
 
-/// The window's row for the prefix; null for none.
-const char* topicFor(const std::string& form, const std::string& prefix) {
+/// The window's row with the longest beginning of the name; null for a window without rows.
+const TopicRow* rowFor(const std::string& form, const std::string& control) {
+    const TopicRow* best = nullptr;
     for (const TopicRow& row : topics)
-        if (form == row.form && prefix == row.prefix) return row.topic;
-    return nullptr;
+        if (form == row.form && control.starts_with(row.names) &&
+            (best == nullptr ||
+             std::string_view(row.names).size() > std::string_view(best->names).size()))
+            best = &row;
+    return best;
+}
+
+std::string pageNameOf(const std::string& topic) { return topic.substr(0, topic.find('#')); }
+
+/// Whether a topic stands on the page of another kind of window: that of a tab that several kinds
+/// share.
+bool isOfAnotherWindow(const std::string& form, const std::string& topic) {
+    const TopicRow* own = rowFor(form, {});
+    if (own == nullptr || pageNameOf(own->topic) == pageNameOf(topic)) return false;
+    return std::any_of(std::begin(topics), std::end(topics), [&](const TopicRow& row) {
+        return *row.names == '\0' && row.topic == pageNameOf(topic);
+    });
 }
 
 /// "borehole.html#soil" of "borehole#soil".
@@ -69,15 +158,17 @@ std::string pageOf(const std::string& topic) {
 }
 
 std::string topicOf(const Form& form, const std::string& name) {
+    const TopicRow* row = rowFor(form.formName(), commandOf(form, name));
     std::string around = name;
     while (!around.empty() && form.has(around)) {
         const Control& control = form.control(around);
-        if (!control.helpTopic().empty()) return control.helpTopic();
+        const std::string& topic = control.helpTopic();
+        const bool told =
+            row != nullptr && *row->names != '\0' && isOfAnotherWindow(form.formName(), topic);
+        if (!topic.empty() && !told) return topic;
         around = control.container();
     }
-    if (const char* topic = topicFor(form.formName(), prefixOf(name))) return topic;
-    if (const char* topic = topicFor(form.formName(), "")) return topic;
-    return "index";
+    return row == nullptr ? "index" : row->topic;
 }
 
 }  // namespace

@@ -85,12 +85,22 @@ PageAddress fileOf(std::string_view rest) {
         if (!host.empty() && host != "localhost") return {PageAddress::Kind::refused, {}, {}, {}};
         rest.remove_prefix(slash);
     }
+    // Without a root there is no page that it could lie beside.
+    if (rest.substr(0, 1) != "/") return {PageAddress::Kind::refused, {}, {}, {}};
     const std::size_t hash = rest.find('#');
     PageAddress address;
     address.kind = PageAddress::Kind::local;
     address.file = absolutePath(decoded(rest.substr(0, hash)));
     if (hash != std::string_view::npos) address.fragment = decoded(rest.substr(hash + 1));
     return address;
+}
+
+/// "https://host/page" behind its scheme's name; refused without a host.
+PageAddress webOf(const std::string& scheme, std::string_view rest) {
+    const std::size_t host = rest.find_first_not_of(":/");
+    if (host == std::string_view::npos || rest[host] == '?' || rest[host] == '#')
+        return {PageAddress::Kind::refused, {}, {}, {}};
+    return {PageAddress::Kind::web, {}, {}, scheme + std::string(rest)};
 }
 
 }  // namespace
@@ -105,7 +115,7 @@ PageAddress pageAddressOf(const std::string& typed, const std::string& base) {
     if (text.empty()) return {};
     const std::string scheme = schemeOf(text);
     if (scheme == "http" || scheme == "https")
-        return {PageAddress::Kind::web, {}, {}, scheme + text.substr(scheme.size())};
+        return webOf(scheme, std::string_view(text).substr(scheme.size()));
     if (scheme == "file") return fileOf(std::string_view(text).substr(5));
     if (!scheme.empty()) return {PageAddress::Kind::refused, {}, {}, {}};
     if (text.front() == '/') return localOf(text);

@@ -10,6 +10,14 @@
 namespace varnholt {
 namespace {
 
+TEST(LineFile, KeepsEveryItemOnALineOfItsOwn) {
+    LineFileWriter file;
+    file.title("Two\r\nlines List Version ");
+    file.text("first\nsecond");
+    file.fixed("one\r\n");
+    EXPECT_EQ(file.bytes(), "Two  lines List Version 3.0\r\nfirst second\r\none  \r\n");
+}
+
 TEST(LineFileRow, PutsItsNumbersOnOneLine) {
     LineFileWriter file;
     file.row(20.5, std::int16_t{-3}, 0.0);

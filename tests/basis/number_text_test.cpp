@@ -107,6 +107,11 @@ TEST(ShortestText, ReadsBackAsTheSameDouble) {
     EXPECT_EQ(shortestText(20), "20");
 }
 
+TEST(ShortestText, OfAZeroHasNoSign) {
+    EXPECT_EQ(shortestText(0.0), "0");
+    EXPECT_EQ(shortestText(-0.0), "0");  // what is left of a negative penalty without neighbours
+}
+
 TEST(FormatText, AlignsInAsManyCharactersAsThePictureHas) {
     EXPECT_EQ(formatText("7", "@@@"), "  7");
     EXPECT_EQ(formatText("7", "!@@@"), "7  ");

@@ -78,14 +78,40 @@ TEST_F(HorizontalRuns, LeaveTheResistanceOfACoilsPipeBehind) {
     EXPECT_EQ(textOf("PIPipeResistanceText"), "0.158");
 }
 
+TEST_F(HorizontalRuns, TellWhatTheTableOfCoilsGave) {
+    layCoils();
+    calculate();
+    // Pitch 18 at the lowest part load, as the second route has it.
+    EXPECT_NEAR(value("coilLengthPer250"), 79.572175200, 1e-8);
+    choose(0);
+    calculate();
+    EXPECT_EQ(value("coilLengthPer250"), 0);
+}
+
+TEST_F(HorizontalRuns, OfCoilsLeaveASinglePipeBehindWhateverAFileHeld) {
+    layCoils();
+    change(*design, [](HorizontalProject& project) { project.remainder.uTubeConfig = 0; });
+    calculate();
+    EXPECT_EQ(value("uTubeConfig"), 2);
+    EXPECT_NEAR(value("pipeResistance"), 0.158181102, 1e-8);
+}
+
 TEST_F(HorizontalRuns, WithoutLoadsSaySoAndDropTheTower) {
-    change(*design, [](HorizontalProject& project) { project.tower.hybridPercent = 40; });
+    change(*design, [](HorizontalProject& project) {
+        project.tower = {40,
+                         {.capacity = 30, .capacityMax = 30, .flow = 9, .range = 8, .hours = 900}};
+    });
     design->setUnitLabels();
     calculate();
     EXPECT_EQ(messages(), std::vector<std::string>{"[2814]"});
     EXPECT_EQ(platform.messages[0].icon, MessageIcon::information);
     EXPECT_EQ(value("hybridPercent"), 0);
     EXPECT_EQ(captionOf("CAPercentHybridLabel(0)"), "0 [2150]");
+    for (const char* total :
+         {"condenserCapacity", "condenserCapacityMax", "coolingTowerFlow", "coolingTowerHours"})
+        EXPECT_EQ(value(total), 0) << total;
+    EXPECT_EQ(captionOf("CACoolingTowerHoursLabel(0)"), "0");
+    EXPECT_EQ(value("coolingRange"), 8);  // entered, and no figure of the loads
     EXPECT_EQ(value("requiredLength(0)"), 0);
 }
 

@@ -372,6 +372,19 @@ TEST_F(HorizontalDesign, FollowsTheGroundsTemperatureAtTheTrench) {
     EXPECT_EQ(value("groundTempAtDepth(0)"), 50);
 }
 
+TEST_F(HorizontalDesign, FindsThePipesResistanceInTheConfigurationThatItsFileHolds) {
+    design->choose("PIPipeDiameterCombo", 3);
+    // A single pipe: wall ln(1.9/1.55)/(6.28318*0.225) and a turbulent film.
+    EXPECT_NEAR(value("pipeResistance"), 0.144017 + 0.014164, 1e-6);
+    change(*design, [](HorizontalProject& project) { project.remainder.uTubeConfig = 0; });
+    design->choose("PIPipeDiameterCombo", 3);
+    // A pair: ln(2.687006/2.337006)/(6.28318*0.225) and half the film.
+    EXPECT_NEAR(value("pipeResistance"), 0.098716 + 0.007082, 1e-6);
+    change(*design, [](HorizontalProject& project) { project.remainder.uTubeConfig = 7; });
+    design->choose("PIPipeDiameterCombo", 3);
+    EXPECT_EQ(value("pipeResistance"), 0);
+}
+
 TEST_F(HorizontalDesign, OfAFileWithoutAnArrangementShowsNoneAndKeepsItsTrench) {
     change(*design, [](HorizontalProject& project) {
         project.arrangement.trenchConfiguration = 7;

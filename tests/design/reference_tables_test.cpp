@@ -3,6 +3,7 @@
 // systems.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <functional>
@@ -12,6 +13,9 @@
 #include "basis/number_text.h"
 #include "basis/units.h"
 #include "design/modCalculations/bore_resistance.h"
+#include "design/modCalculations/header_pipes.h"
+#include "design/surface_water_rules.h"
+#include "forms/text_numbers.h"
 #include "tools/page_tables.h"
 #include "tools/text_table.h"
 
@@ -134,12 +138,34 @@ TEST(ReferenceTables, WaterAgreesWithTheProgramsRule) {
 }
 
 TEST(ReferenceTables, TheSoilClassesHaveTheDiffusivitiesOfTheirBox) {
-    // Dry, damp and wet soil around buried headers: 0.26, 0.6 and 0.96 ft^2/day.
     const PageTable classes = tableOf(referencePage("SoilTables"), "classes-table");
+    const TextTable texts = englishTexts("3000_surface_water.txt");
     ASSERT_EQ(classes.size(), 4u);
-    const std::array expected{0.26, 0.6, 0.96};
-    for (std::size_t i = 0; i < expected.size(); ++i)
-        EXPECT_NEAR(leadingNumber(classes[i + 1].at(2)), expected[i], 1e-9);
+    for (int soilType = 0; soilType < 3; ++soilType) {
+        HeaderSoilValues soil;
+        chooseSoilType(soil, soilType);
+        const auto& row = classes[static_cast<std::size_t>(soilType) + 1];
+        EXPECT_EQ(row.at(0), texts.text(Text::drySoil + soilType));
+        EXPECT_NEAR(leadingNumber(row.at(2)), soil.soilDiffusivity, 1e-9) << row[0];
+    }
+}
+
+TEST(ReferenceTables, ThePipesOfLoopsAndHeadersHaveTheDiametersOfTheirBoxes) {
+    constexpr std::array named{"3/4", "1", "1 1/4", "1 1/2", "2", "3", "4", "6"};
+    const PageTable table = tableOf(referencePage("PipeTables"), "sizes-table");
+    std::set<std::string> told;
+    for (const auto& row : table) {
+        const auto size = std::find(named.begin(), named.end(), row.at(0));
+        if (size == named.end()) continue;
+        const int index = static_cast<int>(size - named.begin());
+        const double outside = leadingNumber(row.at(2));
+        EXPECT_NEAR(outside, modCalculations::headerPipe(index).outsideDiameter, 1e-9) << row[0];
+        if (index < 4) {
+            EXPECT_NEAR(outside, modCalculations::loopPipeOutsideDiameter(index), 1e-9) << row[0];
+        }
+        told.insert(row[0]);
+    }
+    EXPECT_EQ(told.size(), named.size());
 }
 
 /// How a column of the metric page follows from the one of the English page.

@@ -94,6 +94,7 @@ TEST_F(PondPictures, TheGroundIsShownInMetricUnitsToo) {
     inMetric();
     const GroundTempCurves curves = design->groundTempCurves();
     EXPECT_NEAR(curves.atDepth[cooling][0].across, 1.524, 1e-9);
+    EXPECT_EQ(curves.overDepth[cooling].back().across, 6);  // where the axis ends too
     EXPECT_NEAR(curves.overDepth[heating][0].up, (34 - 32) / 1.8, 1e-9);
 }
 

@@ -57,6 +57,12 @@ TEST_F(SurfaceWaterDesign, TakesDaysOfTheYearAlone) {
     EXPECT_EQ(textOf("SODayText(0)"), "34");
     type("SODayText(1)", "-1");
     EXPECT_EQ(textOf("SODayText(1)"), "34");
+    for (const char* beyond : {"40000", "-40000", "1e300"}) {  // no 16-bit number either
+        type("SODayText(0)", "20");
+        type("SODayText(0)", beyond);
+        EXPECT_EQ(textOf("SODayText(0)"), "34") << beyond;
+        EXPECT_EQ(value("extremeDay(0)"), 34) << beyond;
+    }
     type("SODayText(1)", "20");
     typeAndLeave("SODayText(1)", "");
     EXPECT_EQ(textOf("SODayText(1)"), "34");

@@ -59,9 +59,10 @@ TEST_F(BrowserWindowTest, ShowsEveryReferencePageInBothUnits) {
 
 TEST_F(BrowserWindowTest, LaysTheWholePageOutInTheEnd) {
     ChildWindow& browser = open("PipeProperties");
-    for (int i = 0; i < 100; ++i) QCoreApplication::processEvents();
+    const QTextBrowser* page = pageOf(browser);
     // The last table of the page.
-    EXPECT_TRUE(pageOf(browser)->toPlainText().contains(QStringLiteral("Still water at 40 F")));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return page->toPlainText().contains(QStringLiteral("Still water at 40 F")); }));
 }
 
 TEST_F(BrowserWindowTest, FollowsALinkOfThePage) {

@@ -75,6 +75,19 @@ TEST_F(DesktopPlatformTest, AnswersAQuestionByTheButtonPressed) {
     }
 }
 
+TEST_F(DesktopPlatformTest, WarnsWhereAQuestionTakesSomethingAway) {
+    for (const QMessageBox::Icon expected : {QMessageBox::Question, QMessageBox::Warning}) {
+        whenShown<QMessageBox>([expected](QMessageBox& box) {
+            EXPECT_EQ(box.icon(), expected);
+            box.button(QMessageBox::No)->click();
+        });
+        const Answer answer = expected == QMessageBox::Warning
+                                  ? platform.confirm(Buttons::yesNo, "Remove", "Remove?")
+                                  : platform.question(Buttons::yesNo, "Clear", "Clear?");
+        EXPECT_EQ(answer, Answer::no);
+    }
+}
+
 TEST_F(DesktopPlatformTest, TakesAClosedQuestionForCancel) {
     whenShown<QMessageBox>([](QMessageBox& box) { box.close(); });
     EXPECT_EQ(platform.question(Buttons::yesNoCancel, "Save", "Save?"), Answer::cancel);

@@ -5,15 +5,20 @@
 #include <QHelpEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QWhatsThis>
 #include <fstream>
 
 #include "desk.h"
+#include "desktop/reading/page_browser.h"
+#include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
+#include "loads/frmLinkOptions.h"
 
 namespace varnholt {
 namespace {
@@ -36,6 +41,15 @@ class HelpWindowTest : public testing::Test {
 
     Desk desk;
 };
+
+HelpRequest requestOf(const Desk& desk, HelpRequest::Kind kind, const std::string& keyword) {
+    HelpRequest request;
+    request.kind = kind;
+    request.file = desk.folder() + "/OnlineHelp/vht.qch";
+    request.topic = request.file + "::/index.html";
+    request.keyword = keyword;
+    return request;
+}
 
 TEST_F(HelpWindowTest, ShowsTheContentsFromTheMenu) {
     desk.main().click("mnuHelp");
@@ -68,7 +82,9 @@ TEST_F(HelpWindowTest, F1OpensThePageOfTheFieldThatHasTheFocus) {
 }
 
 TEST_F(HelpWindowTest, F1OpensTheHelpInEveryWindow) {
-    for (const char* command : {"NewBorehole", "mnuZoneManage", "mnuAvgBlock", "FluidProperties"}) {
+    for (const char* command : {"NewBorehole", "NewHorizontal", "NewSurfaceWater", "mnuZoneManage",
+                                "mnuAvgBlock", "mnuMonthlyLoadsImport", "EditAdd", "mnuDiffCalc",
+                                "mnuEqvHours", "mnuPumpPowerCalc", "FluidProperties"}) {
         ChildWindow& opened = open(command);
         FormWindow* content = desk.shelf.windowOf(opened);
         desk.main().HHTopicURL.clear();
@@ -118,13 +134,28 @@ TEST_F(HelpWindowTest, ItsHistoryHasTwoEnds) {
     EXPECT_EQ(desk.help.window()->page(), "index.html");
 }
 
-HelpRequest requestOf(const Desk& desk, HelpRequest::Kind kind, const std::string& keyword) {
-    HelpRequest request;
-    request.kind = kind;
-    request.file = desk.folder() + "/OnlineHelp/vht.qch";
-    request.topic = request.file + "::/index.html";
-    request.keyword = keyword;
-    return request;
+TEST_F(HelpWindowTest, CanBeReadBesideADialogThatAsks) {
+    frmLinkOptions question(desk.main());
+    desk.shelf.modalOpened(question);
+    Desk::settle();
+    ASSERT_NE(QApplication::activeModalWidget(), nullptr);
+    HelpRequest request = requestOf(desk, HelpRequest::Kind::topic, {});
+    request.topic = request.file + "::/linking.html";
+    EXPECT_NE(desk.help.display(request), 0);
+    Desk::settle();
+    EXPECT_EQ(desk.help.window()->page(), "linking.html");
+    auto* tools = window()->findChild<QToolBar*>();
+    const QWidget* home = tools->widgetForAction(tools->actions().at(2));
+    // By way of the window system, which holds clicks back from windows that are stopped.
+    QTest::mouseClick(window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      home->mapTo(window(), home->rect().center()));
+    Desk::settle();
+    EXPECT_EQ(desk.help.window()->page(), "index.html");
+    const auto* menu = desk.window->menuBar();
+    QTest::mouseClick(desk.window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      menu->mapTo(desk.window.get(), QPoint(20, menu->height() / 2)));
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    desk.shelf.modalClosed(question);
 }
 
 TEST_F(HelpWindowTest, FindsAFieldAButtonAndAMessageByItsWords) {
@@ -165,6 +196,26 @@ TEST_F(HelpWindowTest, OpensTheExampleThatAPageOffers) {
     browser->anchorClicked(QUrl(QStringLiteral("example:../../../etc/passwd")));
     browser->anchorClicked(QUrl(QStringLiteral("file:///etc/passwd")));
     EXPECT_EQ(pageText().find("root:"), std::string::npos);
+}
+
+TEST_F(HelpWindowTest, PrintsAWholePageInDarkInk) {
+    applyTheme(*qApp, Scheme::dark);
+    desk.main().click("mnuHelp");
+    const auto* page = dynamic_cast<PageBrowser*>(window()->findChild<QTextBrowser*>());
+    ASSERT_NE(page, nullptr);
+    const auto paper = page->printable();
+    EXPECT_TRUE(paper->toPlainText().contains(QStringLiteral("Undo and redo")));
+    int colours = 0;
+    for (QTextBlock block = paper->begin(); block != paper->end(); block = block.next())
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextCharFormat format = part.fragment().charFormat();
+            if (!format.hasProperty(QTextFormat::ForegroundBrush)) continue;
+            ++colours;
+            EXPECT_GT(contrast(format.foreground().color(), Qt::white), 4.5)
+                << plain(part.fragment().text());
+        }
+    EXPECT_GT(colours, 5) << "the links";
+    applyTheme(*qApp, Scheme::light);
 }
 
 TEST_F(HelpWindowTest, MakesADamagedCollectionAnew) {

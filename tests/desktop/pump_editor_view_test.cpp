@@ -27,6 +27,12 @@ class PumpEditorWindow : public testing::Test {
     }
 
     Binder& binder() { return desk.shelf.windowOf(*editor)->binder(); }
+    QPoint placeOf(const std::string& control) {
+        return binder().widget(control)->mapToGlobal(QPoint());
+    }
+    int rightOf(const std::string& control) {
+        return placeOf(control).x() + binder().widget(control)->width();
+    }
     QWindow* screen() { return desk.window->windowHandle(); }
     std::vector<std::string> pumps() { return editor->control("PumpNamesList").items(); }
 
@@ -101,6 +107,23 @@ TEST_F(PumpEditorWindow, DisablesThePagesOfAnEmptySeries) {
     EXPECT_TRUE(binder().widget("PumpModelText")->isEnabled());
 }
 
+TEST_F(PumpEditorWindow, StandsTheResultsOfATestBelowWhatWasTypedForThem) {
+    editor->choose("PumpDataTabs", 5);
+    Desk::settle();
+    for (const std::string mode : {"(0)", "(1)"})
+        EXPECT_EQ(rightOf("TestCapacityLabel" + mode), rightOf("TestSourceEWTText" + mode)) << mode;
+}
+
+TEST_F(PumpEditorWindow, KeepsTheRowsOfATableEquallyFarApart) {
+    editor->choose("PumpDataTabs", 3);
+    Desk::settle();
+    const auto top = [this](int row) {
+        return placeOf("CoolingELTText(" + std::to_string(row) + ")").y();
+    };
+    EXPECT_EQ(top(4) - top(3), top(1) - top(0));
+    EXPECT_EQ(top(3) - top(2), top(1) - top(0));
+}
+
 FitCurvesPicture sampleFit() {
     FitCurvesPicture picture;
     picture.emptyText = 4297;
@@ -127,6 +150,12 @@ TEST(FitCurvesDrawing, TellsHowTheCurvesFit) {
     curves->refresh();
     EXPECT_EQ(curves->description(),
               "Cooling Capacity: fitted from older data. Cooling Power: 29.0 at 75.0.");
+    picture = sampleFit();
+    picture.curves.power[cooling].secondStale = true;
+    curves->refresh();
+    EXPECT_EQ(
+        curves->description(),
+        "Cooling Capacity: 3 points, met within 3.7 %. Cooling Power: fitted from older data.");
     picture.curves = {};
     curves->refresh();
     EXPECT_EQ(curves->description(), "Type the measured points and calculate the coefficients.");

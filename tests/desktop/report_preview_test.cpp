@@ -13,10 +13,10 @@
 
 #include "basis/temporary_folder.h"
 #include "desktop/paper/print_module.h"
+#include "desktop/report_samples.h"
 #include "desktop/windows/report_preview.h"
 #include "desktop/windows/report_windows.h"
 #include "forms/text_numbers.h"
-#include "desktop/report_samples.h"
 
 namespace varnholt {
 namespace {

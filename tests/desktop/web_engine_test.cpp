@@ -4,7 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QSemaphore>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QSslServer>
 #include <QTcpServer>
+#include <QThread>
 #include <filesystem>
 #include <fstream>
 
@@ -14,6 +20,41 @@ namespace varnholt {
 namespace {
 
 const std::string windows = VARNHOLT_BIN_DIR "/varnholt";
+
+/// A server that only says who it is, by a certificate that nobody vouches for. It has a thread of
+/// its own, since the test waits for the program meanwhile.
+class UnknownServer : public QThread {
+ public:
+    UnknownServer() {
+        start();
+        ready_.acquire();
+    }
+    ~UnknownServer() override {
+        quit();
+        wait();
+    }
+    int port() const { return port_; }
+
+ protected:
+    void run() override {
+        QFile file(QStringLiteral(VARNHOLT_SOURCE_DIR "/tests/files/unknown_server.pem"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray pem = file.readAll();
+        QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+        configuration.setLocalCertificate(QSslCertificate(pem));
+        configuration.setPrivateKey(QSslKey(pem, QSsl::Ec));
+        QSslServer server;
+        server.setSslConfiguration(configuration);
+        EXPECT_TRUE(server.listen(QHostAddress::LocalHost));
+        port_ = server.serverPort();
+        ready_.release();
+        exec();
+    }
+
+ private:
+    QSemaphore ready_;
+    int port_ = 0;
+};
 
 class WebEngine : public testing::Test {
  protected:
@@ -57,6 +98,15 @@ type frmBrowser#2.cboAddress javascript:alert(1)
 key frmBrowser#2.cboAddress Enter
 print frmBrowser#2.NoticeLabel
 type frmBrowser#2.cboAddress data:text/html,<title>data</title>
+key frmBrowser#2.cboAddress Enter
+print frmBrowser#2.NoticeLabel
+type frmBrowser#2.cboAddress file://elsewhere/page.html
+key frmBrowser#2.cboAddress Enter
+print frmBrowser#2.NoticeLabel
+type frmBrowser#2.cboAddress file:
+key frmBrowser#2.cboAddress Enter
+print frmBrowser#2.NoticeLabel
+type frmBrowser#2.cboAddress https://
 key frmBrowser#2.cboAddress Enter
 print frmBrowser#2.NoticeLabel
 forms
@@ -132,6 +182,32 @@ TEST_F(WebEngine, OfAServerThatNeverAnswersIsStopped) {
     EXPECT_EQ(program.run("forms").find("Working..."), std::string::npos);
     EXPECT_EQ(program.run("value frmBrowser.timTimer.Enabled"),
               "value frmBrowser#1.timTimer.Enabled = false\n");
+    EXPECT_EQ(program.end(), 0);
+}
+
+TEST_F(WebEngine, RefusesAServerThatDoesNotProveWhoItIs) {
+    const UnknownServer server;
+    ASSERT_GT(server.port(), 0);
+    StartedProgram program(windows, engine("web"));
+    program.run("click Varnmain.FluidProperties\n" +
+                go("https://127.0.0.1:" + std::to_string(server.port()) + "/"));
+    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("cannot prove"), std::string::npos);
+    EXPECT_EQ(program.run("forms").find("Working..."), std::string::npos);
+    EXPECT_EQ(program.end(), 0);
+}
+
+TEST_F(WebEngine, RefusesAPageOfAHundredMegabytes) {
+    StartedProgram program(windows, engine("web"));
+    write(program, "long.html", "<title>Long</title>");
+    std::filesystem::resize_file(program.folder() / "long.html", 100 << 20);
+    program.run("click Varnmain.FluidProperties\n" + go(program.folder().string() + "/long.html"));
+    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("too large"), std::string::npos);
+    EXPECT_NE(program.run("forms").find("frmBrowser#1 \"Fluid properties\""), std::string::npos);
+    // Nor by a link.
+    write(program, "link.html", "<title>Link</title><script>location.href = 'long.html'</script>");
+    program.run(go(program.folder().string() + "/link.html"));
+    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("too large"), std::string::npos);
+    EXPECT_LT(program.megabytes(), 400);
     EXPECT_EQ(program.end(), 0);
 }
 

@@ -41,7 +41,13 @@ class FakePlatform : public Platform {
         messages.push_back({icon, title, text});
     }
     Answer question(Buttons, const std::string& title, const std::string& text) override {
-        questions.push_back({MessageIcon::question, title, text});
+        return ask(MessageIcon::question, title, text);
+    }
+    Answer confirm(Buttons, const std::string& title, const std::string& text) override {
+        return ask(MessageIcon::exclamation, title, text);
+    }
+    Answer ask(MessageIcon icon, const std::string& title, const std::string& text) {
+        questions.push_back({icon, title, text});
         if (answers.empty()) throw std::logic_error("no answer queued for: " + text);
         const Answer answer = answers.front();
         answers.pop_front();

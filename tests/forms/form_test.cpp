@@ -241,6 +241,15 @@ TEST_F(FormTest, TheLinesOfARichTextEndInCrLf) {
     }
 }
 
+TEST_F(FormTest, AFieldOfOneLineTakesItsTextInOneLine) {
+    for (const char* typed : {"Mill Creek", "Mill Creek\r\n", "Mill\r\nCreek\n", "Mill\nCreek\r"}) {
+        form.type("NameText", typed);
+        EXPECT_EQ(form.name, "Mill Creek");
+    }
+    form.type("NameText", "\r\n");
+    EXPECT_EQ(form.name, "");
+}
+
 TEST_F(FormTest, PastingLeavesALockedFieldAlone) {
     platform.clipboardText = "Riverside";
     form.control("NameText").setLocked(true);

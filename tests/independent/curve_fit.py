@@ -116,6 +116,12 @@ def main():
     curves = fit_all()
     four = TEMPERATURE["cooling"][:4]
     show("four rows", [r[0] for r in four], [r[1] for r in four], 3)
+    # The water to water series: 10 + 0.4 x - 0.001 x^2, 1 + 0.01 x; 12 + 0.3 x, 2.
+    for mode, x, y in (("cooling capacity", (75, 85, 95), (34.375, 36.775, 38.975)),
+                       ("cooling power", (75, 85, 95), (1.75, 1.85, 1.95)),
+                       ("heating capacity", (40, 50, 60), (24, 27, 30)),
+                       ("heating power", (40, 50, 60), (2, 2, 2))):
+        show(f"water to water, {mode}", x, y, 2)
 
     for m, mode in enumerate(("cooling", "heating")):
         results = {}

@@ -71,6 +71,11 @@ def hours(name):
               "hours %.4f" % (sum(energies) / max(means)))
 
 
-simulation("school-south.gt1", True)
-simulation("school-south.gth", False)
-hours("small-office.csv")
+def main():
+    simulation("school-south.gt1", True)
+    simulation("school-south.gth", False)
+    hours("small-office.csv")
+
+
+if __name__ == "__main__":
+    main()

@@ -267,6 +267,7 @@ TEST_F(HorizontalFile, LeavesTheNextDesignOneTrenchAndAllOtherValues) {
     EXPECT_EQ(next.arrangement, saved.arrangement);
     EXPECT_EQ(next.soil, saved.soil);
     EXPECT_EQ(next.groundTemperature, saved.groundTemperature);
+    EXPECT_EQ(next.groundTempAtDepth, groundTempAtTrench(saved));
     EXPECT_EQ(next.pipe, saved.pipe);
     EXPECT_EQ(next.fluid, saved.fluid);
     EXPECT_EQ(next.tower.tower.range, 96.25 - 86.5);

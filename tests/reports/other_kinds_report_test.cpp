@@ -118,6 +118,7 @@ TEST_F(OtherKinds, PrintSoilAndTrenchesOfAHorizontalDesign) {
               window.control("SOAirTempSwingText").text() + " [2305]");
     EXPECT_EQ(textOf(report, "TrenchDepthTextLabel"),
               window.control("PASeparationText(1)").text() + " [2512]");
+    EXPECT_EQ(textOf(report, "ThermalDiffusivityLabel"), "[5139]");
     EXPECT_EQ(textOf(report, "TrenchDepthLabel"), "[5007]");
     EXPECT_EQ(textOf(report, "NumberOfTrenchesLabel"), "[5005]");
     EXPECT_EQ(textOf(report, "PipeSizeTextLabel"),
@@ -151,7 +152,9 @@ TEST_F(OtherKinds, ShowTheResultsOfAPond) {
     }
     // A pond has no ground that the years change.
     EXPECT_EQ(textOf(print(window, 0), "GroundTemperatureChangeLabel"), "not printed");
-    EXPECT_EQ(textOf(print(window, 0), "TotalLengthLabel"), "not printed");
+    for (const int option : {0, 1})
+        for (const char* row : {"TotalLengthLabel", "TotalCapacityLabel"})
+            EXPECT_EQ(textOf(print(window, option), row), "not printed") << row;
 }
 
 TEST_F(OtherKinds, PrintHeadersLoopsAndWaterOfAPond) {

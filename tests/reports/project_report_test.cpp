@@ -63,8 +63,10 @@ TEST_F(ProjectReports, AreAskedForInTwoForms) {
     };
     main.click("tbrMain(5)");
     EXPECT_FALSE(shelf.hasReport());
-    EXPECT_EQ(detailed().object, "rptBH");
     EXPECT_EQ(concise().object, "rptBHShort");
+    EXPECT_EQ(main.PrintOption, 1);
+    EXPECT_EQ(detailed().object, "rptBH");
+    EXPECT_EQ(main.PrintOption, 0);
 }
 
 TEST_F(ProjectReports, AreCalledAfterTheKindOfDesign) {
@@ -148,7 +150,9 @@ TEST_F(ProjectReports, PrintTheInputsWithTheirUnits) {
         {"DensityTextLabel", "62.4 [2221]"},
         {"GroundTempTextLabel", "55 [2305]"},
         {"ThermalConductivityTextLabel", "1.30 [2447]"},
+        {"ThermalConductivityLabel", "[2445]"},
         {"ThermalDiffusivityTextLabel", "0.75 [2309]"},
+        {"ThermalDiffusivityLabel", "[5139]"},
         {"ArrangementTextLabel", "6 x 4"},
         {"BoreholeSeparationTextLabel", "20.0 [2512]"},
         {"BoresPerCircuitTextLabel", "2"},

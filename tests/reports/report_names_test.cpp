@@ -152,5 +152,15 @@ TEST(ReportNames, StandBesideEachOther) {
         }
 }
 
+TEST(UnitPlace, StandsBehindANumberAlone) {
+    EXPECT_EQ(unitPlace("20.0 ft"), 5U);
+    EXPECT_EQ(unitPlace("-7.0 deg F"), 5U);
+    EXPECT_EQ(unitPlace("3 x 4"), 0U);
+    EXPECT_EQ(unitPlace("1 1/2\" (38 mm)"), 0U);
+    EXPECT_EQ(unitPlace("100% Water"), 0U);
+    EXPECT_EQ(unitPlace("Lake"), 0U);
+    EXPECT_EQ(unitPlace(""), 0U);
+}
+
 }  // namespace
 }  // namespace varnholt

@@ -94,6 +94,7 @@ TEST(NumberText, HasAsManyDigitsAsBringBackTheSameDouble) {
     EXPECT_EQ(numberText(100000), "100000");
     EXPECT_EQ(numberText(-0.0001), "-0.0001");
     EXPECT_EQ(numberText(0), "0");
+    EXPECT_EQ(numberText(-0.0), "0");
     EXPECT_EQ(numberText(1e300), "1e+300");
     EXPECT_EQ(numberText(1e-7), "1e-07");
 }

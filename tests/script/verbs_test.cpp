@@ -46,10 +46,10 @@ TEST_F(Verbs, KeyPressesEnterAndCtrlV) {
     EXPECT_EQ(window().log, "key Enter;key Ctrl+V;");
 }
 
-TEST_F(Verbs, CtrlVPastesTheClipboard) {
+TEST_F(Verbs, CtrlVPastesTheClipboardIntoTheOneLineOfAField) {
     EXPECT_EQ(transcriptOf("clipboard 1\\t2\\r\\n\\\\\nkey frmEveryKind.PlainText(1) Ctrl+V\n"
                            "print frmEveryKind.PlainText(1)\n"),
-              "frmEveryKind#1.PlainText(1) = \"1\\t2\\r\\n\\\\\"\n");
+              "frmEveryKind#1.PlainText(1) = \"1\\t2 \\\\\"\n");
 }
 
 TEST_F(Verbs, CtrlVLeavesALockedFieldAlone) {

@@ -58,8 +58,8 @@ struct ScriptOutcome {
 
 /// One script of tests/scripts with the transcript that it must give.
 ///
-/// It runs in a new program folder with the catalogue that the program ships with, and with the
-/// files of tests/scripts/NAME, where there is such a folder.
+/// It runs in a new program folder with the catalogue and the examples of loads that the program
+/// ships with, and with the files of tests/scripts/NAME, where there is such a folder.
 class SystemScript {
  public:
     explicit SystemScript(const std::string& name)
@@ -108,6 +108,8 @@ class SystemScript {
                  fs::copy_options::recursive);
         fs::copy(VARNHOLT_RESOURCE_DIR "/tables", program / "tables", fs::copy_options::recursive);
         fs::copy(VARNHOLT_RESOURCE_DIR "/help", program / "OnlineHelp");
+        for (const char* name : {"school-south.gt1", "school-south.gth", "small-office.csv"})
+            fs::copy(fs::path(VARNHOLT_SOURCE_DIR "/examples") / name, program / "zones");
         if (fs::is_directory(files_))
             fs::copy(files_, program,
                      fs::copy_options::recursive | fs::copy_options::overwrite_existing);

@@ -150,6 +150,12 @@ TEST_F(HTMLHelpTest, VerifiesThatTheEngineIsRegisteredAndThere) {
               "Please reinstall Internet Explorer.");
     engine.browser.path = scratch.path("vht.qch");
     EXPECT_TRUE(help.HHVerifyMinConfig());
+    // One that is too old has no text.
+    engine.help.version = "4.72.7290.0";
+    engine.browser.version = "4.70.1154.0";
+    EXPECT_FALSE(help.HHVerifyMinConfig());
+    engine.browser.version = "4.70.1155.0";
+    EXPECT_TRUE(help.HHVerifyMinConfig());
     EXPECT_TRUE(platform.messages.empty());
 }
 

@@ -114,7 +114,7 @@ TEST_F(Calculators, DiffusivityThatIsTypedStaysUntilAnInputChanges) {
     typeAndLeave(form, "txtDiffCalc(4)", "");
     EXPECT_EQ(shown(form, "txtDiffCalc(4)"), "0.00");
     form.type("txtDiffCalc(0)", "100");
-    EXPECT_EQ(value(form, "diffusivity"), 0.5);
+    EXPECT_DOUBLE_EQ(value(form, "diffusivity"), 0.5);
 }
 
 TEST_F(Calculators, DiffusivityReplacesWhatIsOutOfRange) {

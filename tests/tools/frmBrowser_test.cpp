@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "basis/run_time_error.h"
 #include "forms/fake_platform.h"
 #include "tools/modResource.h"
 #include "tools/page_reader.h"
@@ -63,12 +64,14 @@ class SlowEngine : public PageEngine {
 class SlowPages : public PageSource {
  public:
     std::unique_ptr<PageEngine> newEngine(PageEvents& events, const PagePlaces& wanted) override {
+        if (fault != 0) throw RunTimeError(fault);
         places = wanted;
         auto engine = std::make_unique<SlowEngine>(events, asked);
         last = engine.get();
         return engine;
     }
     SlowEngine* last = nullptr;
+    int fault = 0;
     std::vector<std::string> asked;
     PagePlaces places;
 };
@@ -249,6 +252,28 @@ TEST_F(BrowserTest, OpensTheReferencePagesInTheUnitsOfTheMenu) {
         EXPECT_EQ(addressOf(main), base + (hasMetric ? "Metric.html" : ".html"));
     }
     EXPECT_EQ(main.browserCount, 8);
+}
+
+TEST_F(BrowserTest, WithMetricOnFluidPropertiesOpensThePageWithMetricBehindItsName) {
+    main.click("Metric");
+    main.click("FluidProperties");
+    EXPECT_EQ(addressOf(main), "/program/tables/english/FluidTablesMetric.html");
+}
+
+TEST_F(BrowserTest, ConversionsHasNoMetricFormEvenWithMetricOn) {
+    main.click("Metric");
+    main.click("Conversions");
+    EXPECT_EQ(addressOf(main), "/program/tables/english/ConversionTable.html");
+}
+
+TEST_F(BrowserTest, TellsAFailureByItsNumberAndDescription) {
+    pages.fault = 53;
+    main.click("SoilProperties");
+    ASSERT_EQ(platform.messages.size(), 1u);
+    EXPECT_EQ(platform.messages[0].icon, MessageIcon::exclamation);
+    EXPECT_EQ(platform.messages[0].text, "53 - File not found");
+    EXPECT_EQ(main.browserCount, 0);
+    EXPECT_EQ(main.activeWindow(), nullptr);
 }
 
 TEST_F(BrowserTest, OfALanguageThatIsMissingStillOpens) {

@@ -74,6 +74,17 @@ TEST(PageAddress, OfAnyOtherSchemeIsRefused) {
         EXPECT_EQ(kindOf(typed), Kind::refused) << typed;
 }
 
+TEST(PageAddress, OfAFileWithoutARootIsRefused) {
+    for (const char* typed : {"file:", "file://", "file://localhost", "file:beside.html"})
+        EXPECT_EQ(kindOf(typed), Kind::refused) << typed;
+    EXPECT_EQ(shown("file:/"), "/");
+}
+
+TEST(PageAddress, OfTheWebWithoutAHostIsRefused) {
+    for (const char* typed : {"http:", "https://", "HTTP:///", "https://?a=b", "http://#top"})
+        EXPECT_EQ(kindOf(typed), Kind::refused) << typed;
+}
+
 TEST(PageAddress, OfNothingIsNone) {
     EXPECT_EQ(kindOf(""), Kind::none);
     EXPECT_EQ(kindOf(" \t\r\n"), Kind::none);

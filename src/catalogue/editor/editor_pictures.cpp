@@ -83,8 +83,9 @@ CurvePicture ratingCurvePicture(const pump& model, Mode mode, FittedQuantity qua
                        [&, times](double x) { return shown(x, valueOf(terms, mode, x) * times); });
     };
     curve.line = drawn(1);
-    if (!curve.secondMeasured.empty()) curve.secondLine = drawn(factor);
     curve.stale = isRatingStale(model, mode, quantity);
+    curve.secondStale = isFlowFactorStale(model, mode, quantity);
+    if (!curve.secondMeasured.empty() || curve.secondStale) curve.secondLine = drawn(factor);
     if (const auto turn = turningPoint(terms, mode, points))
         curve.turn = quantities::temperature.shown(*turn, units);
     return curve;

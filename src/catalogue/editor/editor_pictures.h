@@ -23,10 +23,11 @@ struct FitPoint {
 /// One fitted curve over the points that were measured.
 struct CurvePicture {
     std::vector<FitPoint> line, measured;
-    /// The same at the second source flow; empty where it has no data.
+    /// The same at the second source flow; empty where it has no data and no factor of older ones.
     std::vector<FitPoint> secondLine, secondMeasured;
     std::optional<FitPoint> operating;  ///< where the model is tried
     bool stale = false;                 ///< fitted from other data than these
+    bool secondStale = false;           ///< the second line's factor is
     std::optional<double> turn;         ///< where the curve turns around
 
     friend bool operator==(const CurvePicture&, const CurvePicture&) = default;

@@ -105,7 +105,7 @@ void frmHPEdit::load() {
     refreshJudgements();
 }
 
-bool frmHPEdit::queryClose() { return askForSave(); }
+bool frmHPEdit::queryClose() { return mayLeave(); }
 
 void frmHPEdit::unloaded() { main().HPEditWindowExists = false; }
 

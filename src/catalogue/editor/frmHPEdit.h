@@ -108,6 +108,7 @@ class frmHPEdit : public ChildWindow {
     void MfgCombo_Click();
     void SeriesCombo_Click();
     bool askForSave();
+    bool mayLeave();
 
     // The series in memory.
     const PumpSeriesInfo& selectedSeries() const;
@@ -132,6 +133,8 @@ class frmHPEdit : public ChildWindow {
     void ProceedCommand_Click();
     void CancelCommand_Click();
     void DeleteSeriesCommand_Click();
+    bool mayDropInformation();
+    void revealInformation(const PumpManufacturerInfo& manufacturer, const PumpSeriesInfo& series);
     void lockManufacturer(bool locked);
     void showManufacturer(const PumpManufacturerInfo& manufacturer);
     PumpManufacturerInfo typedManufacturer() const;
@@ -205,7 +208,10 @@ class frmHPEdit : public ChildWindow {
     bool changed_ = false;
     bool droppedChanges_ = false;
     std::int16_t labelledType_ = 0;
-    int shownManufacturer_ = 0, shownSeries_ = 0;
+    int shownManufacturer_ = 0, shownSeries_ = 0, shownTarget_ = 0;
+    /// What the information panel has shown first: all else in it has been typed.
+    PumpManufacturerInfo givenManufacturer_;
+    PumpSeriesInfo givenSeries_;
     std::vector<std::string> savedStale_;
 };
 

@@ -47,8 +47,32 @@ PumpSeriesInfo frmHPEdit::typedSeries() const {
             control("SeriesInfoDTPicker").date()};
 }
 
+/// Whether what has been typed into the panel may go, where anything has.
+bool frmHPEdit::mayDropInformation() {
+    const bool shown = panel() == Panel::information && control("InsidePumpInfoPicture").visible();
+    if (!shown || (typedManufacturer() == givenManufacturer_ && typedSeries() == givenSeries_))
+        return true;
+    return platform().question(Buttons::yesNo, text(Text::pumpInformation),
+                               text(Text::dropInformationQuestion)) == Answer::yes;
+}
+
+void frmHPEdit::revealInformation(const PumpManufacturerInfo& manufacturer,
+                                  const PumpSeriesInfo& series) {
+    showManufacturer(manufacturer);
+    control("SeriesInfoText(0)").setText(series.seriesName);
+    control("SeriesInfoText(1)").setText(series.FileName);
+    control("SeriesInfoDTPicker").setDate(series.currentDate);
+    givenManufacturer_ = typedManufacturer();
+    givenSeries_ = typedSeries();
+    control("InsidePumpInfoPicture").setVisible(true);
+}
+
 void frmHPEdit::SelectMfgCombo_Click() {
-    const int chosen = control("SelectMfgCombo").index();
+    if (!mayDropInformation()) {
+        control("SelectMfgCombo").setIndex(shownTarget_);
+        return;
+    }
+    const int chosen = shownTarget_ = control("SelectMfgCombo").index();
     control("InsidePumpInfoPicture").setVisible(chosen > 0);
     if (chosen <= 0) return;
     editingSeriesInfo = false;
@@ -57,10 +81,9 @@ void frmHPEdit::SelectMfgCombo_Click() {
     for (std::size_t m = 0; chosen >= hintEntries && m < index_.size() && !manufacturer; ++m)
         if (index_[m].mfgInfo.mfgName + " " == name) manufacturer = m;
     pumpInfoFrameMode = manufacturer ? "newSeries" : "newMfg";
-    showManufacturer(manufacturer ? index_[*manufacturer].mfgInfo : PumpManufacturerInfo{});
     lockManufacturer(manufacturer.has_value());
-    for (int i = 0; i < 2; ++i) element("SeriesInfoText", i).setText({});
-    control("SeriesInfoDTPicker").setDate(platform().today());
+    revealInformation(manufacturer ? index_[*manufacturer].mfgInfo : PumpManufacturerInfo{},
+                      {{}, {}, platform().today()});
     control("ProceedCommand").setCaption(text(Text::proceedWithInformation));
 }
 
@@ -74,15 +97,11 @@ void frmHPEdit::EditSeriesCommand_Click() {
         .setEnabled(false);
     SetPumpInfoFrameVariables();
     control("ProceedCommand").setCaption(text(Text::applyInformation));
-    control("InsidePumpInfoPicture").setVisible(true);
     showPanel(Panel::information);
 }
 
 void frmHPEdit::SetPumpInfoFrameVariables() {
-    showManufacturer(selectedManufacturer());
-    control("SeriesInfoText(0)").setText(selectedSeries().seriesName);
-    control("SeriesInfoText(1)").setText(selectedSeries().FileName);
-    control("SeriesInfoDTPicker").setDate(selectedSeries().currentDate);
+    revealInformation(selectedManufacturer(), selectedSeries());
 }
 
 void frmHPEdit::finishFileName() {
@@ -176,7 +195,8 @@ void frmHPEdit::changeSeries() {
         model.edit().seriesInfo = selectedSeries();
     }
     if (otherFile) file_ = {};
-    if (otherNames && !document_.pumps.empty()) setChanged(true);
+    // Under the new name there is no file yet, not even for a series without pumps.
+    if (otherFile || (otherNames && !document_.pumps.empty())) setChanged(true);
     editingSeriesInfo = false;
     fillManufacturers();
     showSelection();

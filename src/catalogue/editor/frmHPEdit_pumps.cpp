@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The pumps of the series: the list, the pump on show, and what an edit makes stale.
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "basis/number_text.h"
 #include "basis/raised_flag.h"
+#include "basis/run_time_error.h"
 #include "catalogue/editor/editor_names.h"
 #include "catalogue/editor/frmHPEdit.h"
 #include "forms/text_numbers.h"
@@ -109,8 +111,8 @@ void frmHPEdit::CopyCommand_Click() {
 
 void frmHPEdit::RemoveCommand_Click() {
     const pump* shown = shownPump();
-    if (shown == nullptr || platform().question(Buttons::yesNo, text(Text::removePumpTitle),
-                                                text(Text::removePumpQuestion)) != Answer::yes)
+    if (shown == nullptr || platform().confirm(Buttons::yesNo, text(Text::removePumpTitle),
+                                               text(Text::removePumpQuestion)) != Answer::yes)
         return;
     nameStep(text(Text::removePump) + " " + shown->name);
     const int selected = selectedPump();
@@ -210,10 +212,11 @@ void frmHPEdit::flowEdited(std::size_t flow, Mode typedIn) {
     const bool two = flows[1].flowRate != 0;
     if (two)
         for (const Mode mode : modes) ratingEdited(mode);
-    document_.test.sourceFlow[heating] =
-        two ? (flows[0].flowRate + flows[1].flowRate) / 2.0 : flows[0].flowRate;
-    fields().show("TestSourceFlowText(1)");
     markChanged();
+    const double mean = two ? (flows[0].flowRate + flows[1].flowRate) / 2.0 : flows[0].flowRate;
+    if (!std::isfinite(mean)) throw RunTimeError(6);
+    document_.test.sourceFlow[heating] = mean;
+    fields().show("TestSourceFlowText(1)");
 }
 
 /// Empties one of the rows that may be empty. Its fields show the plain number meanwhile, 0.0.

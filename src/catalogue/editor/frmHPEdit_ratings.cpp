@@ -13,7 +13,7 @@ constexpr double unlimited = 1e308;
 constexpr double usualWater = 90;  // degF
 constexpr double noFlow = -1;      // gpm
 constexpr UnitTexts sourceFlowUnits{Text::waterFlowUnitsEnglish, Text::waterFlowUnitsMetric};
-constexpr const char* helpOfPage = "pump_editor#ratings";
+constexpr const char* topic = "pump_editor#ratings";
 
 UnitTexts unitsOf(FittedQuantity quantity) {
     return quantity == fittedCapacity ? UnitTexts{Text::loadUnitsEnglish, Text::loadUnitsMetric}
@@ -68,7 +68,7 @@ void frmHPEdit::addFlowField(Mode mode, std::size_t flow) {
                          .caption = {captions[flow], captions[flow]},
                          .unitLabel = elementName(stem + "UnitLabel", flow),
                          .unit = sourceFlowUnits,
-                         .help = helpOfPage},
+                         .help = topic},
               .checkedWhenLeft = true,
               .notTaken = noFlow,
               .changed = [this, mode, flow] { flowEdited(flow, mode); }});
@@ -88,7 +88,7 @@ void frmHPEdit::addWaterField(Mode mode, std::size_t point) {
                          .caption = {Text::enteringWater, Text::enteringWater},
                          .unitLabel = prefixOf(mode) + "EWTUnitLabel",
                          .unit = degreeTexts,
-                         .help = helpOfPage,
+                         .help = topic,
                          .distinction = rowTexts[point]},
               .checkedWhenLeft = true,
               .changed = [this, mode] { ratingEdited(mode); }});
@@ -121,7 +121,7 @@ void frmHPEdit::addPointField(Mode mode, std::size_t flow, FittedQuantity quanti
                          .caption = {captions[quantity], captions[quantity]},
                          .unitLabel = column + "UnitLabel",
                          .unit = unitsOf(quantity),
-                         .help = helpOfPage,
+                         .help = topic,
                          .accessible = flow == 0 ? 0 : secondNames[quantity],
                          .distinction = rowTexts[point]},
               .checkedWhenLeft = true,

@@ -91,8 +91,11 @@ void frmHPEdit::rememberSelection() {
     shownSeries_ = control("SeriesCombo").index();
 }
 
+/// Asks for what would be lost with the panel on show and with the series in memory.
+bool frmHPEdit::mayLeave() { return mayDropInformation() && askForSave(); }
+
 void frmHPEdit::MfgCombo_Click() {
-    if (!askForSave()) {
+    if (!mayLeave()) {
         control("MfgCombo").setIndex(shownManufacturer_);
         return;
     }
@@ -110,6 +113,7 @@ void frmHPEdit::MfgCombo_Click() {
             takeSeries(*place_, readSelectedSeries());
         editingSeriesInfo = false;
         control("SelectMfgCombo").setIndex(0).setEnabled(true);
+        shownTarget_ = 0;
         control("InsidePumpInfoPicture").setVisible(false);
         showPanel(Panel::information);
     } else {
@@ -120,7 +124,7 @@ void frmHPEdit::MfgCombo_Click() {
 }
 
 void frmHPEdit::SeriesCombo_Click() {
-    if (!askForSave()) {
+    if (!mayLeave()) {
         control("SeriesCombo").setIndex(shownSeries_);
         return;
     }

@@ -111,6 +111,16 @@ bool isRatingStale(const pump& model, Mode mode, FittedQuantity quantity) {
                    usedPoints(model, mode, quantity), 2);
 }
 
+bool isFlowFactorStale(const pump& model, Mode mode, FittedQuantity quantity) {
+    if (model.ewt[firstRatingRow[cooling]].flowRate[0].flowRate == 0) return false;
+    try {
+        const double fresh = flowFactor(model, mode, quantity);
+        return std::fabs(model.flowCf[quantity][mode] - fresh) > staleFrom * std::fabs(fresh);
+    } catch (const RunTimeError&) {
+        return false;
+    }
+}
+
 bool isCorrectionStale(const pump& model, CorrectionKind kind, Mode mode, FittedQuantity quantity) {
     if (kind == byFlow && model.nominalFlow == 0) return false;
     FitPoints rows = correctionRowsOf(model, kind, mode, quantity);
@@ -124,7 +134,8 @@ StaleCurves staleCurves(const pump& model) {
     StaleCurves stale;
     for (const Mode mode : modes)
         for (const FittedQuantity quantity : fittedQuantities) {
-            stale.rating[mode] = stale.rating[mode] || isRatingStale(model, mode, quantity);
+            stale.rating[mode] = stale.rating[mode] || isRatingStale(model, mode, quantity) ||
+                                 isFlowFactorStale(model, mode, quantity);
             for (const CorrectionKind kind : {byTemperature, byFlow})
                 stale.correction[kind] =
                     stale.correction[kind] || isCorrectionStale(model, kind, mode, quantity);

@@ -41,12 +41,15 @@ struct StaleCurves {
 };
 
 /// Which curves another fit of the same data would change by more than a millionth: they were
-/// fitted from other data. Data that cannot be fitted make nothing stale, and nor do corrections by
-/// flow of a model without a nominal flow, which nothing reads.
+/// fitted from other data. A rating is stale with its flow factors too. Data that cannot be fitted
+/// make nothing stale, and nor does what nothing reads: corrections by flow of a model without a
+/// nominal flow, and flow factors of one without a first source flow.
 StaleCurves staleCurves(const pump& model);
 
 /// Whether one curve is stale, so that it can be drawn as such.
 bool isRatingStale(const pump& model, Mode mode, FittedQuantity quantity);
+/// Whether the factor is, by which the curve at the second source flow follows.
+bool isFlowFactorStale(const pump& model, Mode mode, FittedQuantity quantity);
 bool isCorrectionStale(const pump& model, CorrectionKind kind, Mode mode, FittedQuantity quantity);
 
 /// COP of a measured point; nothing while capacity or power is missing.

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMdiSubWindow>
 #include <QVBoxLayout>
 #include <QWhatsThis>
 #include <utility>
@@ -55,7 +56,7 @@ void FormWindow::finish() {
 /// The control that the widget shows, or that a widget around it shows; empty for none.
 std::string FormWindow::controlOf(const QWidget* widget) const {
     for (; widget != nullptr && widget != this; widget = widget->parentWidget()) {
-        const std::string name = plain(widget->objectName());
+        std::string name = plain(widget->objectName());
         if (!name.empty() && binder_.has(name)) return name;
     }
     return {};
@@ -98,6 +99,11 @@ bool FormWindow::event(QEvent* event) {
         case QEvent::QueryWhatsThis:
             event->accept();
             return true;
+        case QEvent::LayoutRequest: {
+            const bool done = QWidget::event(event);
+            growToContents();
+            return done;
+        }
         case QEvent::WhatsThis: {
             const auto* help = static_cast<QHelpEvent*>(event);
             showWhatsThis(help->pos(), help->globalPos());
@@ -107,6 +113,14 @@ bool FormWindow::event(QEvent* event) {
             break;
     }
     return QWidget::event(event);
+}
+
+/// A window whose words have become longer, such as those of other units, makes room for them.
+void FormWindow::growToContents() {
+    auto* frame = qobject_cast<QMdiSubWindow*>(parentWidget());
+    if (frame == nullptr || !isVisible() || frame->isMaximized() || frame->isMinimized()) return;
+    const QSize lacking = (minimumSizeHint() - size()).expandedTo(QSize(0, 0));
+    if (!lacking.isNull()) frame->resize(frame->size() + lacking);
 }
 
 void FormWindow::askHelp(Qt::KeyboardModifiers keys) {

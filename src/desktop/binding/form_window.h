@@ -31,6 +31,7 @@ class FormWindow : public QWidget {
 
  private:
     void finish();
+    void growToContents();
     void showWhatsThis(const QPoint& place, const QPoint& onScreen);
     void askHelp(Qt::KeyboardModifiers keys);
     std::string controlOf(const QWidget* widget) const;

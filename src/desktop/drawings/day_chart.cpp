@@ -44,7 +44,7 @@ bool DayChart::take() {
     LoadsChart loads = source_();
     LoadsCaptions captions = captionSource_();
     if (loads == loads_ && captions == captions_) return false;
-    loads_ = std::move(loads);
+    loads_ = loads;
     captions_ = std::move(captions);
     return true;
 }

@@ -41,6 +41,9 @@ ChartAxis axisOfValues(const Extent& extent, bool fromZero) {
     return axisAround(extent.least.y() - room, extent.most.y() + room);
 }
 
+/// Whether a line of it is: where the whole curve is, its second line is left out.
+bool isOlder(const CurvePicture& curve) { return curve.stale || curve.secondStale; }
+
 ChartPicture chartOf(const ByMode<CurvePicture>& curves, const QString& across, const QString& up,
                      bool fromZero) {
     using Sign = ChartSeries::Sign;
@@ -52,10 +55,10 @@ ChartPicture chartOf(const ByMode<CurvePicture>& curves, const QString& across, 
     };
     for (const Mode mode : modes) {
         const CurvePicture& curve = curves[mode];
-        const QList<QPointF> none, line = pointsOf(curve.line);
-        draw(Sign::thinLine, mode, curve.stale ? none : pointsOf(curve.secondLine));
+        const QList<QPointF> none, line = pointsOf(curve.line), second = pointsOf(curve.secondLine);
+        draw(Sign::thinLine, mode, isOlder(curve) ? none : second);
         draw(Sign::line, mode, curve.stale ? none : line);
-        draw(Sign::staleLine, mode, curve.stale ? line : none);
+        draw(Sign::staleLine, mode, curve.stale ? line : curve.secondStale ? second : none);
         draw(Sign::secondMeasured, mode, pointsOf(curve.secondMeasured));
         draw(Sign::measured, mode, pointsOf(curve.measured));
         draw(Sign::design, mode,
@@ -121,7 +124,7 @@ std::vector<LegendRow::Entry> FitCurves::legend() const {
         entries.push_back({LegendRow::Sign::second, qt(texts().text(Text::secondFlowLegend))});
     if (any([](const CurvePicture& curve) { return curve.operating.has_value(); }))
         entries.push_back({LegendRow::Sign::design, qt(texts().text(Text::testedLegend))});
-    if (any([](const CurvePicture& curve) { return curve.stale; }))
+    if (any(isOlder))
         entries.push_back({LegendRow::Sign::staleLine, qt(texts().text(Text::staleLegend))});
     return entries;
 }
@@ -142,7 +145,7 @@ QString FitCurves::description() const {
             told += qt(texts().text(Text::curveTested))
                         .arg(words, figure(curve.operating->y), figure(curve.operating->x)) +
                     u' ';
-        else if (curve.stale)
+        else if (isOlder(curve))
             told += qt(texts().text(Text::curveStale)).arg(words) + u' ';
         else if (!curve.measured.empty())
             told +=

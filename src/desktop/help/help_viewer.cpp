@@ -13,6 +13,7 @@
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTextBrowser>
+#include <QTextDocument>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -257,8 +258,7 @@ void HelpViewer::print() {
     QPrinter printer;
     QPrintDialog dialog(&printer, this);
     if (dialog.exec() != QDialog::Accepted) return;
-    display_->completePage();
-    display_->widget()->print(&printer);
+    display_->printable()->print(&printer);
 }
 
 }  // namespace varnholt

@@ -18,6 +18,8 @@ constexpr double logoHeight = 11 * unitsPerMillimetre;
 constexpr double runningHeight = 200;
 constexpr double footGap = 60;
 constexpr double ruleRoom = 30;
+/// Rows of a table that stays on one page where it can.
+constexpr std::size_t fewRows = 12;
 /// Rows between two looks at whether the user has had enough.
 constexpr std::size_t patience = 256;
 
@@ -33,6 +35,20 @@ QString printable(const std::string& text) {
 }
 
 std::size_t linesIn(const LaidItem& item) { return item.lines.size(); }
+
+/// Words of the report itself, which stand in it again and again.
+bool isCaption(ItemStyle style) {
+    using enum ItemStyle;
+    return style == caption || style == columnHead || style == textHead || style == unit ||
+           style == subheading;
+}
+
+/// A block's heading beside lines of the neighbouring block, which it must not push apart.
+bool besideOthers(const LaidRow& row, const LaidItem& heading) {
+    return heading.item->style == ItemStyle::subheading &&
+           std::any_of(row.items.begin(), row.items.end(),
+                       [](const LaidItem& laid) { return laid.item->style == ItemStyle::caption; });
+}
 
 }  // namespace
 
@@ -71,17 +87,21 @@ void PageLayout::measureAll(const Progress& progress) {
             return;
         }
         Rows& rows = rowsFor(band.section);
-        bool firstOfBand = true;
-        for (const ReportRow& row : band.rows) {
-            rows.push_back(measure(band, row));
-            if (firstOfBand && band.columns.size() > 1 && rows.back().before == 0 &&
-                band.section == ReportSection::ProjectID_Header)
-                rows.back().before = 40;
-            firstOfBand = false;
-        }
+        const std::size_t first = rows.size();
+        for (const ReportRow& row : band.rows) rows.push_back(measure(band, row));
+        if (first > 0 && first < rows.size()) setApart(band, rows[first]);
+        for (std::size_t row = first; row < rows.size(); ++row) rows[row].bandEnd = rows.size();
         if (band.section == ReportSection::ReportHeader) headRows_ = body_.size();
     }
     ruleOffPageHead();
+}
+
+/// Columns of another band begin with some room, where their first row brings none.
+void PageLayout::setApart(const ReportBand& band, LaidRow& first) {
+    if (band.columns.size() <= 1 || first.before > 0) return;
+    if (band.section == ReportSection::ProjectID_Header) first.before = 40;
+    if (band.section == ReportSection::ReportHeader) first.before = 70;
+    if (band.section == ReportSection::PageHeader) first.before = 50;
 }
 
 /// A line parts the heads of the columns from what stands below, unless the report has one there.
@@ -120,7 +140,7 @@ LaidRow PageLayout::measure(const ReportBand& band, const ReportRow& row) {
 }
 
 LaidItem PageLayout::measureItem(const ReportBand& band, const ReportItem& item,
-                                 const std::vector<double>& edges) const {
+                                 const std::vector<double>& edges) {
     LaidItem laid{&item, edges[item.first], 0, {}, nullptr};
     const std::size_t last = std::size_t{item.first} + item.span;
     if (item.style == ItemStyle::figure) {
@@ -135,7 +155,14 @@ LaidItem PageLayout::measureItem(const ReportBand& band, const ReportItem& item,
     return laid;
 }
 
-std::vector<QString> PageLayout::linesOf(const ReportItem& item, double width) const {
+std::vector<QString> PageLayout::linesOf(const ReportItem& item, double width) {
+    if (!isCaption(item.style)) return brokenLines(item, width);
+    const auto [known, isNew] = captions_.try_emplace({item.style, width, item.text});
+    if (isNew) known->second = brokenLines(item, width);
+    return known->second;
+}
+
+std::vector<QString> PageLayout::brokenLines(const ReportItem& item, double width) const {
     const QString text = printable(item.text);
     const PaperStyle& style = type_.of(item);
     // Figures are never broken.
@@ -144,7 +171,9 @@ std::vector<QString> PageLayout::linesOf(const ReportItem& item, double width) c
     if (!broken && static_cast<double>(text.size()) * style.widest <= width) return {text};
     if (!broken && style.widthOf(text) <= width) return {text};
     std::vector<QString> lines;
-    for (const QString& paragraph : text.split(u'\n')) {
+    for (QString paragraph : text.split(u'\n')) {
+        // A unit such as L/min stays on one line of a column's head.
+        if (item.style == ItemStyle::columnHead) paragraph.replace(u'/', QStringLiteral("/\u2060"));
         QTextLayout layout(paragraph, style.font);
         QTextOption option;
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -153,7 +182,8 @@ std::vector<QString> PageLayout::linesOf(const ReportItem& item, double width) c
         bool any = false;
         for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
             line.setLineWidth(width);
-            lines.push_back(paragraph.mid(line.textStart(), line.textLength()).trimmed());
+            lines.push_back(
+                paragraph.mid(line.textStart(), line.textLength()).remove(u'\u2060').trimmed());
             any = true;
         }
         layout.endLayout();
@@ -170,7 +200,7 @@ void PageLayout::finish(LaidRow& row) const {
         lines = std::max(lines, linesIn(laid));
         row.ascent = std::max(row.ascent, style.ascent);
         descent = std::max(descent, style.descent);
-        row.before = std::max(row.before, style.before);
+        if (!besideOthers(row, laid)) row.before = std::max(row.before, style.before);
         row.keepsNext = row.keepsNext || style.keepsNext;
         row.ruleAbove = row.ruleAbove ||
                         (laid.item->style == ItemStyle::zone && laid.item->control != "txtZoneID");
@@ -184,7 +214,7 @@ void PageLayout::finish(LaidRow& row) const {
     }
     row.lastLine = lines;
     row.height = std::max(tallest, row.ascent + descent) + rowGap;
-    if (row.items.empty()) row.height = type_.of(ItemStyle::subheading).lineHeight;
+    if (row.items.empty()) row.height = 0;
     if (row.ruleBelow) row.height += ruleRoom;
     if (row.ruleAbove) row.height += 20;
 }
@@ -205,7 +235,10 @@ std::size_t PageLayout::groupAt(std::size_t row) const {
         return end;
     }
     while (end < body_.size() && end != headRows_ && body_[end - 1].keepsNext) ++end;
-    return end;
+    // A table of a few rows is not torn.
+    const LaidRow& last = body_[end - 1];
+    const bool ofDrawings = !last.items.empty() && !isText(last.items.front().item->style);
+    return !ofDrawings && last.bandEnd - end < fewRows ? last.bandEnd : end;
 }
 
 void PageLayout::placeFixed(const Rows& rows, double top) {
@@ -232,6 +265,7 @@ void PageLayout::placePageHead(double top) {
     cursor_ = top;
     if (pageHead_.empty()) return;
     placeFixed(pageHead_, top);
+    underHead_ = true;
     cursor_ += 30;
 }
 
@@ -240,7 +274,8 @@ void PageLayout::place(std::size_t row) {
     if (!atHead_) cursor_ += laid.before;
     atHead_ = false;
     if (laid.zone > zones_.size()) zones_.push_back({pages_.size() - 1, cursor_});
-    pages_.back().rows.push_back({&laid, cursor_});
+    pages_.back().rows.push_back({&laid, cursor_, underHead_});
+    underHead_ = false;
     cursor_ += laid.height;
 }
 

@@ -7,6 +7,8 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <string>
+#include <tuple>
 #include <vector>
 
 #include "desktop/paper/paper_type.h"
@@ -32,11 +34,14 @@ struct LaidRow {
     bool keepsNext = false;
     bool ruleAbove = false, ruleBelow = false;
     std::size_t zone = 0;
+    std::size_t bandEnd = 0;  ///< the row behind the last of its band
 };
 
 struct PlacedRow {
     const LaidRow* row = nullptr;
     double top = 0;  ///< of the sheet
+    /// The first below the heads of the columns, whose line parts it from them.
+    bool underHead = false;
 };
 
 struct LaidPage {
@@ -76,11 +81,13 @@ class PageLayout {
 
     void measureAll(const Progress& progress);
     void ruleOffPageHead();
+    static void setApart(const ReportBand& band, LaidRow& first);
     Rows& rowsFor(ReportSection section);
     LaidRow measure(const ReportBand& band, const ReportRow& row);
     LaidItem measureItem(const ReportBand& band, const ReportItem& item,
-                         const std::vector<double>& edges) const;
-    std::vector<QString> linesOf(const ReportItem& item, double width) const;
+                         const std::vector<double>& edges);
+    std::vector<QString> linesOf(const ReportItem& item, double width);
+    std::vector<QString> brokenLines(const ReportItem& item, double width) const;
     void finish(LaidRow& row) const;
     void noteDecimals(const ReportBand& band, const ReportItem& item);
     std::vector<double> edgesOf(const ReportBand& band) const;
@@ -105,9 +112,12 @@ class PageLayout {
     std::vector<LaidPage> pages_;
     std::vector<ZonePlace> zones_;
     std::map<std::pair<const double*, std::size_t>, int> decimals_;
+    /// Lines of captions and heads, which every zone has alike.
+    std::map<std::tuple<ItemStyle, double, std::string>, std::vector<QString>> captions_;
     double cursor_ = 0, bottom_ = 0;
     bool complete_ = true;
-    bool atHead_ = false;  ///< nothing of the body stands on the page yet
+    bool atHead_ = false;     ///< nothing of the body stands on the page yet
+    bool underHead_ = false;  ///< the heads of the columns stand right above
 };
 
 }  // namespace varnholt

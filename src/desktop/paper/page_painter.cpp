@@ -74,7 +74,8 @@ void PagePainter::paintRow(QPainter& painter, const PlacedRow& placed, std::size
     double top = placed.top;
     painter.setPen(QPen(paperRule(), ruleWidth));
     if (row.ruleAbove) {
-        painter.drawLine(QPointF(text.left(), top), QPointF(text.right(), top));
+        if (!placed.underHead)
+            painter.drawLine(QPointF(text.left(), top), QPointF(text.right(), top));
         top += 20;
     }
     if (row.ruleBelow) {

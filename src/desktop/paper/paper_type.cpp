@@ -14,7 +14,7 @@ struct StyleRow {
     int size;  ///< tenths of a point
     QFont::Weight weight;
     bool muted;
-    double before;
+    int before;
     bool right, bottom, keepsNext;
 };
 
@@ -48,6 +48,9 @@ QFont familyFor(const QString& face) {
     QFont font;
     font.setFamilies(families);
     font.setHintingPreference(QFont::PreferNoHinting);
+    // Inter sets another hyphen or colon between figures and capitals, which a file's text would
+    // not tell for what it is. Scripts that need shaping are shaped nevertheless.
+    font.setStyleStrategy(QFont::PreferNoShaping);
     return font;
 }
 

@@ -128,18 +128,18 @@ void ReportView::arrange() {
     arranging_ = false;
 }
 
-const QPixmap& ReportView::picture(std::size_t page) {
+QPixmap ReportView::picture(std::size_t page) {
     if (const QPixmap* known = pictures_.object(page)) return *known;
     const double ratio = devicePixelRatioF();
-    auto* drawn = new QPixmap((sheet() * ratio).toSize().expandedTo({1, 1}));
-    drawn->setDevicePixelRatio(ratio);
-    drawn->fill(Qt::white);
-    QPainter painter(drawn);
+    QPixmap drawn((sheet() * ratio).toSize().expandedTo({1, 1}));
+    drawn.setDevicePixelRatio(ratio);
+    drawn.fill(Qt::white);
+    QPainter painter(&drawn);
     painter.scale(perUnit(), perUnit());
     PagePainter(*layout_, texts_).paint(painter, page);
     painter.end();
-    pictures_.insert(page, drawn);
-    return *drawn;
+    pictures_.insert(page, new QPixmap(drawn));
+    return drawn;
 }
 
 void ReportView::paintEvent(QPaintEvent*) {

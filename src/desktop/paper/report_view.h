@@ -61,7 +61,7 @@ class ReportView : public QAbstractScrollArea {
     QRectF placeOf(std::size_t page) const;
     void applyFit();
     void arrange();
-    const QPixmap& picture(std::size_t page);
+    QPixmap picture(std::size_t page);
     void showFound();
 
     const Texts& texts_;

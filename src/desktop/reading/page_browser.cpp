@@ -14,6 +14,9 @@ namespace {
 /// What is laid out at once, in characters: more than a screen of a table.
 constexpr qsizetype firstPart = 9000;
 
+/// How long the rest waits, so that the first part is painted before it, ms.
+constexpr int untilPainted = 30;
+
 /// A page without what the text browser would take for text, or cannot follow.
 QString withoutSheetsAndScripts(QString html) {
     static const QRegularExpression dropped(
@@ -35,9 +38,12 @@ QString pageSheet(const Look& look) {
                "a { color: %1; } h1 { font-size: x-large; } h2 { font-size: large; }"
                "h3 { font-size: medium; } th { color: %2; font-weight: 600; }"
                "th, td { padding: 2px 9px; text-align: right; }"
+               // A narrow column would break a figure behind its decimal point.
+               "td { white-space: nowrap; } td.words { white-space: normal; }"
                ".formula { margin-left: 24px; font-style: italic; }"
                ".button { background-color: %1; color: %3; text-decoration: none; }"
                ".source, .contents, .note { color: %2; } .words { text-align: left; }"
+               "dt { font-weight: 600; margin-top: 6px; }"
                "pre, code { font-family: monospace; }")
         .arg(look.accent.name(), look.muted.name(), look.onAccent.name());
 }
@@ -51,8 +57,8 @@ PageBrowser::PageBrowser(QWidget* parent) : QTextBrowser(parent) {
     connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
         if (onLink) onLink(address_.resolved(link));
     });
-    more_.setInterval(0);
     connect(&more_, &QTimer::timeout, this, [this] {
+        more_.setInterval(0);
         if (!addSection()) more_.stop();
     });
 }
@@ -73,7 +79,7 @@ void PageBrowser::layOut() {
     QString first;
     while (!waiting_.isEmpty() && first.size() < firstPart) first += waiting_.takeFirst();
     setHtml(first);
-    if (!waiting_.isEmpty()) more_.start();
+    if (!waiting_.isEmpty()) more_.start(untilPainted);
 }
 
 bool PageBrowser::addSection() {
@@ -85,9 +91,18 @@ bool PageBrowser::addSection() {
     return true;
 }
 
+/// Lays out what is still missing of a long page.
 void PageBrowser::completePage() {
     while (addSection()) continue;
     more_.stop();
+}
+
+std::unique_ptr<QTextDocument> PageBrowser::printable() const {
+    auto paper = std::make_unique<QTextDocument>();
+    paper->setDefaultFont(font());
+    paper->setDefaultStyleSheet(pageSheet(lightLook()));
+    paper->setHtml(html_);
+    return paper;
 }
 
 QVariant PageBrowser::loadResource(int type, const QUrl& name) {

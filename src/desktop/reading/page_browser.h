@@ -22,7 +22,7 @@ class PageBrowser : public QTextBrowser, public PageDisplay {
 
     QTextBrowser* widget() override { return this; }
     void showPage(const QUrl& address, const QString& html) override;
-    void completePage() override;
+    std::unique_ptr<QTextDocument> printable() const override;
 
  protected:
     QVariant loadResource(int type, const QUrl& name) override;
@@ -31,6 +31,7 @@ class PageBrowser : public QTextBrowser, public PageDisplay {
  private:
     void layOut();
     bool addSection();
+    void completePage();
 
     QUrl address_;
     QString html_;

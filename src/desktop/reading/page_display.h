@@ -5,8 +5,10 @@
 #include <QUrl>
 #include <QVariant>
 #include <functional>
+#include <memory>
 
 class QTextBrowser;
+class QTextDocument;
 
 namespace varnholt {
 
@@ -18,8 +20,8 @@ class PageDisplay {
     /// @param address  of the page, from which its relative addresses count; its fragment is the
     ///                 place to be shown
     virtual void showPage(const QUrl& address, const QString& html) = 0;
-    /// Lays out what is still missing of a long page.
-    virtual void completePage() = 0;
+    /// The whole page as paper takes it, in dark ink whatever the screen's colours are.
+    virtual std::unique_ptr<QTextDocument> printable() const = 0;
 
     /// A person follows a link.
     std::function<void(const QUrl& address)> onLink;

@@ -13,8 +13,13 @@ QWidget* motor(Binder& bind, std::size_t shaft, std::size_t efficiency, std::siz
                 bind.row(elementName("EKWPumpPowerText", input)));
 }
 
+QWidget* pumpPower(Binder& bind) {
+    return column(group(bind.frame("EKWCirculationFrame"), motor(bind, 1, 0, 0),
+                        buttons(bind.widget("EKWPumpPowerCommand"))),
+                  group(bind.frame("EKWAdditionalFrame"), grid(bind.row("EKWPumpPowerText(2)"))));
+}
+
 QWidget* towerPower(Binder& bind) {
-    if (!bind.has("EKWCoolingTowerFrame")) return nullptr;
     return group(bind.frame("EKWCoolingTowerFrame"),
                  group(bind.frame("EKWTowerFanFrame"), motor(bind, 4, 1, 3)),
                  group(bind.frame("EKWTowerPumpFrame"), motor(bind, 6, 2, 5)));
@@ -22,11 +27,11 @@ QWidget* towerPower(Binder& bind) {
 
 }  // namespace
 
+/// The tower stands beside the pumps, so that the whole page is in sight on a small screen.
 QWidget* extraPowerPage(Binder& bind) {
-    return column(group(bind.frame("EKWCirculationFrame"), motor(bind, 1, 0, 0),
-                        buttons(bind.widget("EKWPumpPowerCommand"))),
-                  group(bind.frame("EKWAdditionalFrame"), grid(bind.row("EKWPumpPowerText(2)"))),
-                  towerPower(bind));
+    QWidget* pumps = pumpPower(bind);
+    if (!bind.has("EKWCoolingTowerFrame")) return pumps;
+    return column(row_(grow(pumps), grow(towerPower(bind))));
 }
 
 }  // namespace varnholt

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window of a horizontal design: results with the cooling tower, and six pages of inputs.
+#include <QLabel>
 #include <QTabWidget>
 
 #include "design/frmHZDesign.h"
@@ -7,6 +8,7 @@
 #include "desktop/views/design_pages.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/views.h"
+#include "desktop/widgets/text_label.h"
 
 namespace varnholt {
 namespace {
@@ -52,37 +54,51 @@ QWidget* trenchFields(Binder& bind) {
                       bind.row("PASeparationText(2)")));
 }
 
-/// As wide as any number of pipes, so that the page does not move when it changes.
+/// Straight pipes beside slinkies.
+QWidget* arrangements(Binder& bind) {
+    return row_(
+        column(bind.widget("PAConfigurationOption(0)"), bind.widget("PAConfigurationOption(1)"),
+               bind.widget("PAConfigurationOption(2)")),
+        gap(),
+        column(bind.widget("PAConfigurationOption(3)"), bind.widget("PAConfigurationOption(4)")));
+}
+
+/// The number of pipes, with its figures below those of the fields.
 QWidget* pipeCount(Binder& bind) {
-    QWidget* count = bind.widget("PAInTrenchConfigurationLabel(3)");
-    count->setMinimumWidth(count->fontMetrics().horizontalAdvance(QStringLiteral("000")));
+    constexpr int edgeOfField = gridStep + 2;
+    auto* count = static_cast<QLabel*>(bind.widget("PAInTrenchConfigurationLabel(3)"));
+    count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    count->setFont(figureFont(count->font()));
+    count->setContentsMargins(0, 0, edgeOfField, 0);
     return count;
 }
 
-/// The number of pipes stands where a slinky has its pitch.
+/// The number of pipes stands in the place where a slinky has its pitch.
+FieldRow pitchOrPipes(Binder& bind) {
+    FieldRow row = bind.row("PAInTrenchConfigurationText(0)");
+    row.fields = {row_(row.fields.front(), grow(pipeCount(bind)))};
+    mute(row.unit);
+    row.unit = centredRow(row.unit, bind.widget("PAConfigurationUpDown(1)"));
+    return row;
+}
+
 QWidget* pipeFields(Binder& bind) {
-    return group(
-        bind.frame("PAInTrenchFrame"),
-        column(bind.widget("PAConfigurationOption(0)"), bind.widget("PAConfigurationOption(1)"),
-               bind.widget("PAConfigurationOption(2)"), bind.widget("PAConfigurationOption(3)"),
-               bind.widget("PAConfigurationOption(4)")),
-        grid(bind.row("PAInTrenchConfigurationText(0)",
-                      {pipeCount(bind), bind.widget("PAConfigurationUpDown(1)")}),
-             bind.row("PAInTrenchConfigurationText(1)"),
-             bind.row("PAInTrenchConfigurationText(2)")),
-        bind.widget("PAOffsetCheck"));
+    return group(bind.frame("PAInTrenchFrame"), arrangements(bind),
+                 grid(pitchOrPipes(bind), bind.row("PAInTrenchConfigurationText(1)"),
+                      bind.row("PAInTrenchConfigurationText(2)")),
+                 bind.widget("PAOffsetCheck"));
 }
 
 /// The pictures of all arrangements; the form shows the one of the chosen.
 QWidget* pictures(Binder& bind) {
     const Texts& texts = bind.form()->texts();
     std::vector<Piece> pieces;
-    for (const std::size_t i : {0, 1, 2})
+    for (const std::size_t i : {0U, 1U, 2U})
         pieces.push_back(
             grow(bind.drawing(elementName("PADiagramPicture", i),
                               newTrenchDrawing(sourceOf(bind, &frmHZDesign::trenchDrawing), texts)),
                  3));
-    for (const std::size_t i : {0, 1, 2, 3, 4})
+    for (const std::size_t i : {0U, 1U, 2U, 3U, 4U})
         pieces.push_back(grow(
             bind.drawing(elementName("imgConfiguration", i),
                          newTrenchPlanDrawing(sourceOf(bind, &frmHZDesign::trenchPlan), texts)),

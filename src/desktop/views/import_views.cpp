@@ -95,7 +95,7 @@ QWidget* makeImporterView(Binder& bind) {
                             page(column(row_(new MonthTable(bind), gap(),
                                              grow(column(grow(year(bind)), grow(transfer(bind))))),
                                         row_(stretch(), bind.widget("cmdImport(1)"))))))),
-                 {960, 640});
+                 {960, 720});
 }
 
 QWidget* makeImportTableView(Binder& bind) {

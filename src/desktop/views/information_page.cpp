@@ -14,6 +14,7 @@ QWidget* informationPage(Binder& bind) {
                                    bind.row("INStateText"), bind.row("INZipText"),
                                    bind.row("INPhoneText"), bind.row("INFaxText"),
                                    bind.row("INEmailText")))),
+                  gap(),
                   grow(column(grid(bind.row("INDateDTPicker"), bind.row("INStartDateDTPicker")),
                               bind.widget("INCommentsLabel"),
                               grow(bind.widget("INCommentsRichTextBox"))))))));

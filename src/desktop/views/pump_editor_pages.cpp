@@ -61,6 +61,12 @@ QWidget* figure(Binder& bind, const std::string& name) {
 
 QWidget* nothing() { return new QWidget; }
 
+/// Rows with a button stand no farther apart than rows without.
+QWidget* asHighAsFields(QWidget* button) {
+    button->setProperty("inTable", true);
+    return button;
+}
+
 /// A table without captions, which need not stand behind those of what follows it.
 QWidget* atLeft(QWidget* table) { return row_(table, stretch()); }
 
@@ -184,9 +190,20 @@ QWidget* curves(Binder& bind, const std::string& image,
     return bind.drawing(image, drawing);
 }
 
+/// The units stand over the places of both modes; nothing over the factors and the buttons.
+FieldRow temperatureUnits(Binder& bind) {
+    FieldRow units;
+    for (const Mode mode : modes) {
+        units.fields.push_back(unit(bind, prefixOf(mode) + "ELTUnitLabel"));
+        for (std::size_t i = 0; i < fittedQuantities.size() + 1; ++i)
+            units.fields.push_back(nothing());
+    }
+    return units;
+}
+
 QWidget* correctionTable(Binder& bind, CorrectionKind kind) {
     const bool temperature = kind == byTemperature;
-    FieldRow titles, heads, units;
+    FieldRow titles, heads;
     for (const Mode mode : modes) {
         const std::string prefix = prefixOf(mode);
         const std::string title = elementName(prefix + "CorrectionsLabel", kind);
@@ -194,17 +211,15 @@ QWidget* correctionTable(Binder& bind, CorrectionKind kind) {
         bind.mark(title, mode);
         heads.fields.push_back(
             head(bind, elementName(temperature ? "ELTLabel" : "PercentNominalLabel", mode)));
-        units.fields.push_back(temperature ? unit(bind, prefix + "ELTUnitLabel") : nothing());
         for (const FittedQuantity quantity : fittedQuantities) {
             titles.fields.push_back(nothing());
             heads.fields.push_back(
                 head(bind, elementName(prefix + wordOf(quantity) + "FactorHeadLabel", kind)));
-            units.fields.push_back(nothing());
         }
-        for (FieldRow* row : {&titles, &heads, &units}) row->fields.push_back(nothing());
+        for (FieldRow* row : {&titles, &heads}) row->fields.push_back(nothing());
     }
     std::vector<FieldRow> rows{titles, heads};
-    if (temperature) rows.push_back(units);
+    if (temperature) rows.push_back(temperatureUnits(bind));
     for (std::size_t r = 0; r < mostFitPoints; ++r) {
         FieldRow row;
         for (const Mode mode : modes) {
@@ -212,8 +227,8 @@ QWidget* correctionTable(Binder& bind, CorrectionKind kind) {
             for (const FittedQuantity quantity : fittedQuantities)
                 row.fields.push_back(tableField(bind, factorField(kind, mode, quantity, r), mode));
             row.fields.push_back(r < firstZeroRow ? nothing()
-                                                  : bind.widget(elementName(
-                                                        "cmdZeroZap", zeroButton(kind, mode, r))));
+                                                  : asHighAsFields(bind.widget(elementName(
+                                                        "cmdZeroZap", zeroButton(kind, mode, r)))));
         }
         rows.push_back(row);
     }
@@ -285,14 +300,15 @@ QWidget* pumpTestPage(Binder& bind) {
         return titled(bind, editor.tested(), bind.text(Text::enteringWater), degrees(bind), false,
                       Text::nothingToTest);
     });
-    QWidget* inputs = grid(bind.heads("TestModeLabel(0)", "TestModeLabel(1)"),
-                           bind.pair("TestSourceEWTText"), bind.pair("TestSourceFlowText"),
-                           bind.pair("TestLoadELTText"), bind.pair("TestLoadFlowText"));
-    QWidget* results = grid(bind.results("TestCapacityLabel"), bind.results("TestPowerLabel"),
-                            bind.results("TestCOPLabel"));
+    // One grid, so that results stand below what was typed for them.
+    QWidget* figures =
+        grid(bind.heads("TestModeLabel(0)", "TestModeLabel(1)"), bind.pair("TestSourceEWTText"),
+             bind.pair("TestSourceFlowText"), bind.pair("TestLoadELTText"),
+             bind.pair("TestLoadFlowText"), bind.wide(buttons(bind.primary("TestCommand"))),
+             bind.results("TestCapacityLabel"), bind.results("TestPowerLabel"),
+             bind.results("TestCOPLabel"));
     return group(bind.frame(pageFrames[5]),
-                 grow(row_(column(inputs, buttons(bind.primary("TestCommand")), results), gap(),
-                           grow(chart))));
+                 grow(row_(column(figures, stretch()), gap(), grow(chart))));
 }
 
 }  // namespace varnholt

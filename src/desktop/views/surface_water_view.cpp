@@ -56,20 +56,27 @@ QWidget* waterSoilPage(Binder& bind) {
                         grow(row_(fields, gap(), grow(bind.drawing("imgGroundTemp", chart))))));
 }
 
+FieldRow loopStyle(Binder& bind) {
+    FieldRow row;
+    row.caption = bind.widget("PILoopStyleLabel");
+    row.fields = {row_(bind.widget("PICoilOption"), bind.widget("PISlinkyOption"))};
+    return row;
+}
+
 QWidget* loopFields(Binder& bind) {
     for (const Mode mode : modes) {
         bind.mark(elementName("PIParallelLoopsText", mode), mode);
         bind.mark(elementName("PILoopHeadLossText", mode), mode);
     }
     Drawing* chart = newLoopChart(sourceOf(bind, &frmSWDesign::loopCurves), bind.form()->texts());
-    return group(bind.frame("PILoopPipeFrame"), bind.widget("PILoopStyleLabel"),
-                 buttons(bind.widget("PICoilOption"), bind.widget("PISlinkyOption")),
-                 grid(bind.row("PILoopPipeSizeCombo"), bind.row("PIExtraEqvLengthText"),
-                      bind.wide(bind.widget("PIParallelLoopsLabel")),
-                      bind.row("PIParallelLoopsText(0)"), bind.row("PIParallelLoopsText(1)")),
-                 group(bind.frame("PIHeadLossFrame"),
-                       grid(bind.row("PILoopHeadLossText(0)"), bind.row("PILoopHeadLossText(1)"))),
-                 grow(bind.drawing("imgLoopCurves", chart)));
+    return group(
+        bind.frame("PILoopPipeFrame"),
+        grid(loopStyle(bind), bind.row("PILoopPipeSizeCombo"), bind.row("PIExtraEqvLengthText"),
+             bind.wide(bind.widget("PIParallelLoopsLabel")), bind.row("PIParallelLoopsText(0)"),
+             bind.row("PIParallelLoopsText(1)")),
+        group(bind.frame("PIHeadLossFrame"),
+              grid(bind.row("PILoopHeadLossText(0)"), bind.row("PILoopHeadLossText(1)"))),
+        grow(bind.drawing("imgLoopCurves", chart)));
 }
 
 /// @param kind  0 main headers, 1 branches on each of them
@@ -104,7 +111,7 @@ QWidget* pipingPage(Binder& bind) {
     return column(
         group(bind.frame("PIPipeParametersSSTab"),
               grow(row_(grow(loopFields(bind), 2), gap(),
-                        grow(column(headersPanel(bind), buttons(bind.widget("PIPipeTablesCommand")),
+                        grow(column(headersPanel(bind), bind.widget("PIPipeTablesCommand"),
                                     grow(bind.drawing(circuit(bind, {440, 140})))),
                              3)))));
 }

@@ -9,6 +9,8 @@
 #include <QWebEngineHistory>
 #include <QWebEngineSettings>
 
+#include "tools/page_reader.h"
+
 namespace varnholt {
 namespace {
 
@@ -20,6 +22,20 @@ bool isWeb(const QUrl& url) {
 }
 
 bool isFile(const QUrl& url) { return url.scheme() == QLatin1String("file"); }
+
+/// Whether it leads anywhere: to a host of the web, or to a file of this computer by its whole
+/// path.
+bool leadsSomewhere(const QUrl& url) {
+    if (isWeb(url)) return !url.host().isEmpty();
+    const bool here = url.host().isEmpty() || url.host() == QLatin1String("localhost");
+    return isFile(url) && here && url.path().startsWith(u'/');
+}
+
+/// Such a page of this computer would take all memory.
+bool isTooLarge(const QUrl& url) {
+    return isFile(url) &&
+           QFileInfo(url.toLocalFile()).size() > static_cast<qint64>(PageReader::largestPage);
+}
 
 /// How the address list shows it: a page of this computer by its path.
 std::string shownAddress(const QUrl& url) {
@@ -45,9 +61,9 @@ QUrl urlOf(const std::string& typed, const QUrl& base) {
     static const QRegularExpression host(QStringLiteral("^[A-Za-z0-9.-]+(:[0-9]+)?(/.*)?$"));
     const bool isHost = host.match(text).hasMatch();
     const QUrl url(text);
-    if (!isHost && !url.scheme().isEmpty()) return isWeb(url) || isFile(url) ? url : QUrl();
+    if (!isHost && !url.scheme().isEmpty()) return leadsSomewhere(url) ? url : QUrl();
     if (isFile(base)) {
-        const QUrl beside = base.resolved(QUrl(text));
+        QUrl beside = base.resolved(QUrl(text));
         if (text.startsWith(u'.') || QFileInfo(beside.toLocalFile()).isFile()) return beside;
     }
     return QUrl(QStringLiteral("http://") + text);
@@ -95,8 +111,9 @@ bool GuardedPage::acceptNavigationRequest(const QUrl& url, NavigationType, bool 
     // What a page makes of itself in a frame is its own.
     const bool ownFrame = !isMainFrame && (url.scheme() == QLatin1String("blob") ||
                                            url.scheme() == QLatin1String("data"));
-    if (ours || ownFrame) return true;
-    refuse(PageRefusal::address, url);
+    const bool tooLarge = isTooLarge(url);
+    if ((ours || ownFrame) && !tooLarge) return true;
+    refuse(tooLarge ? PageRefusal::tooLarge : PageRefusal::address, url);
     return false;
 }
 
@@ -156,6 +173,7 @@ void WebPages::navigate(const std::string& address) {
     const QUrl url = urlOf(address, page_->url());
     if (address.find_first_not_of(" \t\r\n") == std::string::npos) return;
     if (!url.isValid()) return events_.refused(PageRefusal::address, address);
+    if (isTooLarge(url)) return events_.refused(PageRefusal::tooLarge, address);
     busy_ = true;
     page_->load(url);
 }

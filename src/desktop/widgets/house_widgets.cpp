@@ -52,7 +52,7 @@ constexpr double fineRange = 20;
 }  // namespace
 
 NumberSlider::NumberSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
-    setNumbers(0, 100);
+    NumberSlider::setNumbers(0, 100);
     setMinimumWidth(160);
     connect(this, &QSlider::valueChanged, this, [this](int position) { snap(position); });
 }

@@ -153,12 +153,21 @@ class CaptionAligner : public QObject {
     std::vector<FieldGrid*> grids_;
 };
 
+/// A column within another hands its grids over: two that keep different widths would never agree.
+void dissolveAligner(const QWidget* column) {
+    std::vector<CaptionAligner*> aligners;
+    for (QObject* child : column->children())
+        if (auto* aligner = dynamic_cast<CaptionAligner*>(child)) aligners.push_back(aligner);
+    for (const CaptionAligner* aligner : aligners) delete aligner;
+}
+
 void collectGrids(QWidget* piece, std::vector<FieldGrid*>& grids) {
     if (auto* grid = dynamic_cast<FieldGrid*>(piece)) {
         grids.push_back(grid);
     } else if (auto* group = dynamic_cast<GroupBox*>(piece)) {
         if (group->content() != nullptr) collectGrids(group->content(), grids);
     } else if (qobject_cast<QVBoxLayout*>(piece->layout()) != nullptr) {
+        dissolveAligner(piece);
         for (int i = 0; i < piece->layout()->count(); ++i)
             if (QWidget* inner = piece->layout()->itemAt(i)->widget()) collectGrids(inner, grids);
     }

@@ -145,6 +145,12 @@ void ListView::mousePressEvent(QMouseEvent* event) {
         onPicked();
 }
 
+/// Only now do its entries have the fonts of the window.
+void ListView::showEvent(QShowEvent* event) {
+    QTreeView::showEvent(event);
+    fitColumns();
+}
+
 void ListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
     QTreeView::selectionChanged(selected, deselected);
     if (writing_ || !onPicked) return;

@@ -51,6 +51,7 @@ class ListView : public QTreeView {
 
  protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
     QSize sizeHint() const override;

@@ -3,6 +3,8 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QTimer>
 #include <algorithm>
 #include <chrono>
 #include <utility>
@@ -15,6 +17,8 @@ namespace {
 
 /// How long a script waits for a page.
 constexpr std::chrono::seconds patience(5);
+/// How long after its end a page of the web may still be painting.
+constexpr std::chrono::milliseconds untilPainted(300);
 
 }  // namespace
 
@@ -31,6 +35,8 @@ class DesktopPages::Watched : public PageEngine, public PageWidget {
     void forget() { source_ = nullptr; }
     /// Something is still to come: a page, or the tick after it.
     bool isWaited() const { return engine_->busy() || ticking_; }
+    /// Whether the page is painted apart from the program's windows, in its own time.
+    bool paintsLater() const { return dynamic_cast<const TextPages*>(engine_.get()) == nullptr; }
 
     QWidget* widget() override { return dynamic_cast<PageWidget&>(*engine_).widget(); }
     void navigate(const std::string& address) override { engine_->navigate(address); }
@@ -73,10 +79,18 @@ bool DesktopPages::anyBusy() const {
 }
 
 void DesktopPages::settle() {
+    if (!anyBusy()) return;
     const QDeadlineTimer end(patience);
     while (anyBusy() && !end.hasExpired())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents |
                                         QEventLoop::ExcludeUserInputEvents);
+    if (std::none_of(engines_.begin(), engines_.end(),
+                     [](const Watched* engine) { return engine->paintsLater(); }))
+        return;
+    // So that a picture that the next line takes has the page in it.
+    QEventLoop painting;
+    QTimer::singleShot(untilPainted, &painting, &QEventLoop::quit);
+    painting.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 }  // namespace varnholt

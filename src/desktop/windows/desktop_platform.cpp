@@ -108,7 +108,17 @@ void DesktopPlatform::message(MessageIcon icon, const std::string& title, const 
 
 Answer DesktopPlatform::question(Buttons buttons, const std::string& title,
                                  const std::string& text) {
-    QMessageBox box(QMessageBox::Question, qt(title), qt(text), buttonsOf(buttons),
+    return ask(MessageIcon::question, buttons, title, text);
+}
+
+Answer DesktopPlatform::confirm(Buttons buttons, const std::string& title,
+                                const std::string& text) {
+    return ask(MessageIcon::exclamation, buttons, title, text);
+}
+
+Answer DesktopPlatform::ask(MessageIcon icon, Buttons buttons, const std::string& title,
+                            const std::string& text) {
+    QMessageBox box(iconOf(icon), qt(title), qt(text), buttonsOf(buttons),
                     shelf_.mainWindow().dialogParent());
     box.setTextFormat(Qt::PlainText);
     return answerOf(box.exec());

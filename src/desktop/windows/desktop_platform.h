@@ -20,6 +20,7 @@ class DesktopPlatform : public Platform {
 
     void message(MessageIcon icon, const std::string& title, const std::string& text) override;
     Answer question(Buttons buttons, const std::string& title, const std::string& text) override;
+    Answer confirm(Buttons buttons, const std::string& title, const std::string& text) override;
     std::optional<std::string> chooseFile(const FileDialog& dialog) override;
     void opened(Form& form) override { shelf_.opened(form); }
     void closed(Form& form) override { shelf_.closed(form); }
@@ -39,6 +40,9 @@ class DesktopPlatform : public Platform {
     void quit(Form& mainWindow) override;
 
  private:
+    Answer ask(MessageIcon icon, Buttons buttons, const std::string& title,
+               const std::string& text);
+
     WindowShelf& shelf_;
     std::unique_ptr<QProgressDialog> progress_, waiting_;
     QElapsedTimer started_, painted_;

@@ -10,7 +10,8 @@
 namespace varnholt {
 
 FormDialog::FormDialog(FormWindow* content, QWidget* parent) : QDialog(parent), content_(content) {
-    setModal(true);
+    // It stops the program's windows and not the help, which F1 opens beside it.
+    setWindowModality(Qt::WindowModal);
     setWindowTitle(qt(content->binder().form()->caption()));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -95,6 +95,7 @@ void ReportPreview::addPageTools() {
     page_ = new QSpinBox;
     page_->setAccessibleName(words(Text::previewPage));
     page_->setKeyboardTracking(false);
+    page_->setButtonSymbols(QAbstractSpinBox::NoButtons);
     pages_ = new QLabel;
     bar_->addWidget(page_);
     bar_->addWidget(pages_);

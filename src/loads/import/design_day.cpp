@@ -28,7 +28,9 @@ DayLoads designDay(double peak, double factor, std::size_t block) {
 ZoneImport zoneImportOf(const DayLoads& day, double hours) {
     const auto finite = [](double load) { return std::isfinite(load); };
     if (!std::all_of(day.begin(), day.end(), finite)) throw RunTimeError(6);
-    return {day, toInteger(hours)};
+    ZoneImport import{day, toInteger(std::max(hours, 0.0))};
+    for (double& load : import.day) load = std::max(load, 0.0);
+    return import;
 }
 
 void putInto(Zone& zone, Mode mode, const ZoneImport& import) {

@@ -38,6 +38,7 @@ struct ZoneImport {
     std::int16_t hours = 0;  ///< equivalent full-load hours
 };
 
+/// A zone holds no loads and hours below 0: such are 0.
 /// Throws RunTimeError 6 for hours beyond 16 bits and loads beyond a double.
 ZoneImport zoneImportOf(const DayLoads& day, double hours);
 

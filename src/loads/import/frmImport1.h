@@ -21,6 +21,8 @@ struct KeptImport {
     ImportedLoads loads;
     /// The mode was on screen since its values changed last.
     ByMode<bool> lookedAt{true, true};
+    /// The mode on screen.
+    Mode mode = cooling;
 };
 
 /// The importer: twelve months of energy and peak loads of both modes, from a simulation file, a
@@ -117,7 +119,7 @@ class frmImport1 : public ChildWindow {
     std::shared_ptr<KeptImport> kept_;
     ImportedLoads& loads_ = kept_->loads;
     ByMode<bool>& lookedAt_ = kept_->lookedAt;
-    Mode mode_ = cooling;
+    Mode& mode_ = kept_->mode;
     Cell cell_;
     /// The field's text is the user's, and stays while its value is taken over.
     bool typing_ = false;

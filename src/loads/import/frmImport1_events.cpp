@@ -183,7 +183,9 @@ void frmImport1::showTransfer() {
     const bool hours = loads_.peakDays.has_value();
     element("optDesignDay", 1).setEnabled(hours);
     if (!hours) preselectEvenDay();
-    for (const Mode m : modes) control(elementName("lblNotLookedAt", m)).setVisible(!lookedAt_[m]);
+    // Without load factors there is nothing to look at.
+    for (const Mode m : modes)
+        control(elementName("lblNotLookedAt", m)).setVisible(!lookedAt_[m] && !fromHours());
 }
 
 void frmImport1::preselectEvenDay() {

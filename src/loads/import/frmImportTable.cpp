@@ -17,7 +17,7 @@ namespace {
 constexpr std::array<char, 3> separators{',', ';', '\t'};
 constexpr std::array<char, 2> decimals{'.', ','};
 constexpr std::size_t linesNamed = 5;
-constexpr std::size_t longestDate = 20, longestName = 60;  // bytes
+constexpr std::size_t longestDate = 20, longestName = 100;  // bytes
 
 template <std::size_t N>
 int placeOf(const std::array<char, N>& signs, char sign) {

@@ -12,7 +12,6 @@ namespace {
 constexpr std::size_t hoursOfDayCount = 24;
 constexpr std::size_t leapDayStart = (31 + 28) * hoursOfDayCount;  // first hour of 29 February
 constexpr std::size_t rowsToShow = 48;
-constexpr std::size_t mostLinesKept = 500;
 constexpr double wattsPerKilowatt = 1000.0;
 constexpr double joulesPerKilowattHour = 3.6e6;
 
@@ -39,10 +38,6 @@ double mbtuOf(double number, TableUnit unit) {
 
 std::string_view cellOf(const TableText::Row& row, std::optional<std::size_t> column) {
     return column && *column < row.cells.size() ? row.cells[*column] : std::string_view();
-}
-
-void note(std::vector<std::size_t>& lines, std::size_t line) {
-    if (lines.size() < mostLinesKept) lines.push_back(line);
 }
 
 /// A row as it is written, before its signs are looked at.
@@ -83,15 +78,15 @@ class Reader {
             if (!columns_[m]) continue;
             const std::string_view cell = cellOf(row, columns_[m]);
             const auto number = numberIn(cell, choices_.format.decimal);
-            if (!number && !cell.empty()) return note(reading_.without, row.line);
+            if (!number && !cell.empty()) return reading_.without.push_back(row.line);
             any = any || number;
             empty = empty || !number;
             written.loads[m] = number.value_or(0);
             written.peaks[m] =
                 numberIn(cellOf(row, peakColumn(m)), choices_.format.decimal).value_or(0);
         }
-        if (!any) return note(reading_.without, row.line);
-        if (empty) note(reading_.blanks, row.line);
+        if (!any) return reading_.without.push_back(row.line);
+        if (empty) reading_.blanks.push_back(row.line);
         written_.push_back(written);
         reading_.lastLine = row.line;
     }
@@ -118,7 +113,7 @@ class Reader {
                 double& load = row.loads[m];
                 if (allBelow) load = 0 - load;
                 if (load >= 0) continue;
-                note(reading_.negative, row.row->line);
+                reading_.negative.push_back(row.row->line);
                 load = 0;
             }
             for (WrittenRow& row : written_) row.peaks[m] = std::abs(row.peaks[m]);

@@ -72,7 +72,7 @@ ByMode<MonthlyLoads> heatingFirst(const SimulationFile& file) {
     years[heating] = yearOf(file.loads[0]);
     years[cooling] = yearOf(file.loads[1]);
     for (MonthlyLoads& year : years)
-        year.eqvHours = year.peakMax == 0 ? 0 : year.yearTotal * btuPerMBtu / year.peakMax;
+        year.eqvHours = year.peakMax > 0 ? year.yearTotal * btuPerMBtu / year.peakMax : 0;
     return years;
 }
 

@@ -18,6 +18,7 @@ constexpr std::size_t longestNumber = 64;
 // memory.
 constexpr std::size_t mostLines = 100'000;
 constexpr std::size_t mostCells = 512;
+constexpr std::size_t mostCellsInAll = 8'000'000;
 constexpr char quote = '"';
 
 /// Those that are likelier for the same score come first: a semicolon parts cells where the comma
@@ -137,8 +138,11 @@ TableFormat TableText::guessedFormat() const {
 std::vector<TableText::Row> TableText::rows(const TableFormat& format) const {
     std::vector<Row> rows;
     rows.reserve(lines_.size());
-    for (std::size_t i = 0; i < lines_.size(); ++i)
+    std::size_t cells = 0;
+    for (std::size_t i = 0; i < lines_.size() && cells < mostCellsInAll; ++i) {
         rows.push_back({i + 1, cellsOf(lines_[i], format.separator)});
+        cells += rows.back().cells.size();
+    }
     return rows;
 }
 

@@ -51,7 +51,7 @@ void ZoneWindow::addCommandBar() {
     control("LONewCommand").setEnabled(true);
     control("LOOpenCommand").setEnabled(true);
     add("MetricCheck", ControlKind::check, Text::loadsMetricSwitch);
-    for (const std::size_t light : {0, 8, 6})
+    for (const std::size_t light : {0U, 8U, 6U})
         add(elementName("imgLinkLight", light), ControlKind::image).setVisible(light == 6);
     add("LOWorkingZoneLabel", ControlKind::label);
 }

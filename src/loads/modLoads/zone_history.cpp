@@ -12,13 +12,15 @@
 namespace varnholt {
 namespace {
 
-/// What undo brings back of a loads window. Which zone was on display comes along and makes no
-/// difference. Whose building it is belongs to the linked design.
+/// What undo brings back of a loads window. Which zone was on display, and whether the one block
+/// has had its import, come along and make no difference. Whose building it is belongs to the
+/// linked design.
 struct LoadsState {
     LoadsDocument document;
     std::vector<int> linkedDesigns;  ///< numbers of their windows, ascending
     std::string damage;
     int shownZone = -1;
+    bool importRests = false;
 
     friend bool operator==(const LoadsState& a, const LoadsState& b) {
         return a.document == b.document && a.damage == b.damage &&
@@ -67,10 +69,16 @@ void restoreLinks(LoadsWindow& loads, const std::vector<int>& wanted) {
     }
 }
 
+/// Whether there are zones, and the command that fills one from a file is off all the same.
+bool importRests(const ZoneWindow& window) {
+    return !window.ZoneList().empty() && !window.control("LOImportCommand").enabled();
+}
+
 }  // namespace
 
 StatePointer ZoneWindow::state() const {
-    LoadsState now{document_, designsLinkedTo(*this), damage_, selectedZone()};
+    LoadsState now{document_, designsLinkedTo(*this), damage_, selectedZone(),
+                   importRests(*this)};
     now.document.information = {};
     return std::make_shared<LoadsMoment>(std::move(now));
 }
@@ -105,6 +113,7 @@ void ZoneWindow::restore(const DocumentState& earlier) {
             document.information = std::move(information);
         },
         wanted.shownZone);
+    control("LOImportCommand").setEnabled(!ZoneList().empty() && !wanted.importRests);
     damage_ = wanted.damage;
     restoreLinks(*this, wanted.linkedDesigns);
 }
@@ -115,12 +124,14 @@ void ZoneWindow::replaceDocument(const std::function<void(LoadsDocument&)>& repl
     const Control* selectAll =
         has("LOAutoSelectAllCommand") ? &control("LOAutoSelectAllCommand") : nullptr;
     const bool selectable = selectAll == nullptr || selectAll->enabled();
+    const bool imported = importRests(*this);
     replace(document_);
     if (activeSeries() != series) InitializeHeatPumpLists();
     SetFluidsTabbedPaneSwitchVariables();
     showZones(std::min(std::max(shown, 0), static_cast<int>(ZoneList().size()) - 1));
     showFile();
-    // A selection for all zones that rests goes on resting.
+    // An import that the one block has had, and a selection for all zones, go on resting.
+    if (imported) control("LOImportCommand").setEnabled(false);
     if (!selectable && control("LOSummaryPicture").visible())
         control("LOAutoSelectAllCommand").setEnabled(false);
     rebuildSummary();

@@ -152,6 +152,17 @@ TEST_F(EditorCurves, OlderThanTheirDataAreToldOfAndCanBeFitted) {
     EXPECT_EQ(notice(window), "older: [2839], [4251]");
 }
 
+TEST_F(EditorCurves, WithOlderFlowFactorsAreToldOfToo) {
+    texts.known[4530] = "older: %1";
+    frmHPEdit& window = opened();
+    typeAndLeave(window, "HeatingFR2PowerText(1)", "1.9");
+    window.choose("PumpNamesList", 1);
+    window.choose("PumpNamesList", 0);
+    EXPECT_EQ(notice(window), "older: [2840]");
+    window.click("NoticeCommand");
+    EXPECT_EQ(notice(window), "");
+}
+
 TEST_F(EditorCurves, OlderThanTheirDataAreToldOfOnceMoreWhenSaved) {
     texts.known[4532] = "saved: %1";
     frmHPEdit& window = opened();
@@ -236,6 +247,10 @@ TEST_F(EditorCurves, HavePicturesOfPointsAndLines) {
     EXPECT_EQ(picture.capacity[cooling].measured[1].y, 29);
     EXPECT_TRUE(picture.capacity[cooling].stale);
     EXPECT_FALSE(picture.power[cooling].stale);
+    EXPECT_FALSE(picture.power[cooling].secondStale);
+    window.type("CoolingFR2PowerText(1)", "1.9");
+    EXPECT_FALSE(window.rating(cooling).power[cooling].stale);
+    EXPECT_TRUE(window.rating(cooling).power[cooling].secondStale);
     window.click("MetricCheck");
     EXPECT_DOUBLE_EQ(window.rating(cooling).capacity[cooling].measured[1].y, 29 * 0.2931);
     EXPECT_EQ(window.corrections(byTemperature).power[heating].measured.size(), 5u);

@@ -175,6 +175,17 @@ TEST_F(EditorFields, OfTheFlowsAreOnePairInBothModes) {
     EXPECT_EQ(number(window, "testSourceFlow(1)"), 7.5);
 }
 
+TEST_F(EditorFields, OfTheFlowsWhoseMeanOverflowsLeaveTheTestAsItWas) {
+    frmHPEdit& window = opened();
+    window.type("CoolingFlowRateText(0)", "1e308");
+    const double before = number(window, "testSourceFlow(1)");
+    window.type("CoolingFlowRateText(1)", "1e308");
+    EXPECT_EQ(lastMessage().substr(0, 1), "6");
+    EXPECT_EQ(number(window, "testSourceFlow(1)"), before);
+    EXPECT_EQ(number(window, "PumpList(0).ewt(3).flowRate(1).flowRate"), 1e308);
+    EXPECT_TRUE(enabled(window, "SaveCommand"));
+}
+
 TEST_F(EditorFields, OfTheFlowsTurnNoButtonRedWithoutASecondFlow) {
     frmHPEdit& window = opened();
     typeAndLeave(window, "CoolingFlowRateText(1)", "0");

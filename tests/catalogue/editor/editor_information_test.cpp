@@ -113,6 +113,7 @@ TEST_F(EditorInformation, TellsTheFirstThingThatIsWrong) {
         EXPECT_EQ(lastMessage().substr(0, 6), each.message);
         EXPECT_EQ(platform.messages.front().icon, MessageIcon::exclamation);
         EXPECT_TRUE(visible(window, "PumpInfoPicture"));
+        window.click("CancelCommand");
     }
     EXPECT_EQ(indexOnDisk(), index);
     EXPECT_EQ(written, 0);
@@ -215,6 +216,81 @@ TEST_F(EditorInformation, BringsNoChangesBackThatWereDropped) {
     EXPECT_FALSE(enabled(window, "SaveCommand"));
 }
 
+TEST_F(EditorInformation, AsksBeforeAnotherTargetDropsWhatWasTyped) {
+    frmHPEdit& window = entering();
+    window.type("ManufacturerAddressText(4)", "555-0101");
+    platform.answers = {Answer::no, Answer::yes};
+    choose(window, "SelectMfgCombo", "Dale ");
+    EXPECT_EQ(platform.questions.back().title, "[4110]");
+    EXPECT_EQ(platform.questions.back().text, "[4534]");
+    EXPECT_EQ(shown(window, "SelectMfgCombo"), "[4108] ");
+    EXPECT_EQ(shown(window, "ManufacturerAddressText(4)"), "555-0101");
+    EXPECT_EQ(window.pumpInfoFrameMode, "newMfg");
+    choose(window, "SelectMfgCombo", "Dale ");
+    EXPECT_EQ(shown(window, "ManufacturerAddressText(4)"), "555");
+    EXPECT_EQ(window.pumpInfoFrameMode, "newSeries");
+    // The address of a manufacturer has not been typed.
+    choose(window, "SelectMfgCombo", "[4108] ");
+    EXPECT_EQ(platform.questions.size(), 2u);
+    window.pickDate("SeriesInfoDTPicker", {2026, 11, 3});
+    platform.answers = {Answer::yes};
+    choose(window, "SelectMfgCombo", "[4107] ");
+    EXPECT_FALSE(visible(window, "InsidePumpInfoPicture"));
+    choose(window, "SelectMfgCombo", "Dale ");
+    EXPECT_EQ(platform.questions.size(), 3u);
+}
+
+TEST_F(EditorInformation, AsksBeforeTheListsOrTheWindowsEndDropWhatWasTyped) {
+    frmHPEdit& window = opened();
+    window.click("EditSeriesCommand");
+    window.type("SeriesInfoText(0)", "Air 2");
+    platform.answers = {Answer::no, Answer::no, Answer::no};
+    choose(window, "MfgCombo", "Dale ");
+    choose(window, "SeriesCombo", "Water ");
+    window.click("ExitCommand");
+    EXPECT_EQ(platform.questions.size(), 3u);
+    EXPECT_EQ(main.find("frmHPEdit"), &window);
+    EXPECT_EQ(shown(window, "MfgCombo"), "Brook ");
+    EXPECT_EQ(shown(window, "SeriesCombo"), "Air ");
+    EXPECT_TRUE(visible(window, "PumpInfoPicture"));
+    EXPECT_EQ(shown(window, "SeriesInfoText(0)"), "Air 2");
+    platform.answers = {Answer::yes};
+    choose(window, "SeriesCombo", "Water ");
+    EXPECT_EQ(names(window), Names{"W1"});
+    // Nothing has been typed any more.
+    window.click("EditSeriesCommand");
+    window.click("ExitCommand");
+    EXPECT_EQ(platform.questions.size(), 4u);
+    EXPECT_EQ(main.find("frmHPEdit"), nullptr);
+}
+
+TEST_F(EditorInformation, AsksForTheChangesOfThePumpsOnceTheTypedNamesMayGo) {
+    frmHPEdit& window = opened();
+    window.type("PumpModelText", "A1x");
+    window.click("EditSeriesCommand");
+    window.type("SeriesInfoText(0)", "Air 2");
+    platform.answers = {Answer::yes, Answer::cancel};
+    choose(window, "MfgCombo", "Dale ");
+    EXPECT_EQ(platform.questions.back().text, "[4523]");
+    EXPECT_EQ(shown(window, "SeriesInfoText(0)"), "Air 2");
+    EXPECT_TRUE(enabled(window, "SaveCommand"));
+}
+
+TEST_F(EditorInformation, WithLinesOfASpreadsheetStaysOnOneLineOfTheFiles) {
+    frmHPEdit& window = entering();
+    platform.clipboardText = "Mill\r\nCreek\r\n";
+    window.key("ManufacturerAddressText(0)", "Ctrl+V");
+    window.type("SeriesInfoText(0)", "S");
+    window.type("SeriesInfoText(1)", "f_new");
+    window.click("ProceedCommand");
+    window.click("NewCommand");
+    window.key("PumpModelText", "Ctrl+V");
+    window.click("SaveCommand");
+    EXPECT_EQ(indexOnDisk()[2].mfgInfo.mfgName, "Mill Creek");
+    ASSERT_EQ(onDisk("f_new").models.size(), 1u);
+    EXPECT_EQ(onDisk("f_new").models[0].name, "Mill Creek");
+}
+
 TEST_F(EditorInformation, ChangesASeriesInItsPlace) {
     frmHPEdit& window = opened();
     window.type("PumpModelText", "A1x");
@@ -285,6 +361,22 @@ TEST_F(EditorInformation, KeepsThePumpsUnderANewFileName) {
     window.click("SaveCommand");
     EXPECT_EQ(onDisk("f_other").models.size(), 3u);
     EXPECT_TRUE(fileExists(seriesFile("f_air")));
+}
+
+TEST_F(EditorInformation, OfASeriesWithoutPumpsIsToBeSavedUnderANewFileName) {
+    frmHPEdit& window = entering();
+    typeNames(window, "Creek", "Small", "f_small");
+    window.click("ProceedCommand");
+    window.click("EditSeriesCommand");
+    window.type("SeriesInfoText(0)", "Smaller");
+    window.click("ProceedCommand");
+    EXPECT_FALSE(enabled(window, "SaveCommand"));
+    window.click("EditSeriesCommand");
+    window.type("SeriesInfoText(1)", "f_smaller");
+    window.click("ProceedCommand");
+    EXPECT_TRUE(enabled(window, "SaveCommand"));
+    window.click("SaveCommand");
+    EXPECT_TRUE(onDisk("f_smaller").models.empty());
 }
 
 TEST_F(EditorInformation, AsksBeforeANewFileNameTakesAnotherFile) {

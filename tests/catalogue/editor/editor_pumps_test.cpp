@@ -84,6 +84,7 @@ TEST_F(EditorPumps, AreRemovedAfterAQuestion) {
     window.choose("PumpNamesList", 1);
     platform.answers = {Answer::no, Answer::yes, Answer::yes, Answer::yes};
     window.click("RemoveCommand");
+    EXPECT_EQ(platform.questions.back().icon, MessageIcon::exclamation);
     EXPECT_EQ(platform.questions.back().title, "[4522]");
     EXPECT_EQ(platform.questions.back().text, "[4521]");
     EXPECT_EQ(names(window).size(), 3u);

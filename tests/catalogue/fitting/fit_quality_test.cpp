@@ -88,15 +88,36 @@ TEST(StaleCurves, AreThoseWhoseDataHaveChanged) {
     EXPECT_TRUE(staleCurves(model).any());
 }
 
-TEST(StaleCurves, LeaveTheSecondFlowAside) {
+TEST(StaleCurves, AreThoseWhoseFlowFactorsAreOlderThanTheSecondFlow) {
     pump model = fittedPump();
-    model.ewt[4].flowRate[1].HeatMode[cooling].capacity = 99;
+    model.ewt[4].flowRate[1].HeatMode[cooling].capacity = 29.4;
+    StaleCurves expected;
+    expected.rating[cooling] = true;
+    EXPECT_EQ(staleCurves(model), expected);
+    EXPECT_FALSE(isRatingStale(model, cooling, fittedCapacity));
+    EXPECT_TRUE(isFlowFactorStale(model, cooling, fittedCapacity));
+    EXPECT_FALSE(isFlowFactorStale(model, cooling, fittedPower));
+    // Without a value at one of the points the factor is 1.
+    model = fittedPump();
+    model.ewt[1].flowRate[1].HeatMode[heating].watts = 0;
+    EXPECT_TRUE(isFlowFactorStale(model, heating, fittedPower));
+    model.flowCf[fittedPower][heating] = 1;
+    EXPECT_FALSE(staleCurves(model).any());
+}
+
+TEST(StaleCurves, OfFlowFactorsThatNothingReadsAreNone) {
+    pump model = fittedPump();
+    model.flowCf = {};
+    EXPECT_TRUE(staleCurves(model).any());
+    for (ewt& row : model.ewt) row.flowRate[0].flowRate = 0;
     EXPECT_FALSE(staleCurves(model).any());
 }
 
 TEST(StaleCurves, OfDataThatCannotBeFittedAreNone) {
     pump model = fittedPump();
     for (std::size_t i = 3; i < 6; ++i) model.ewt[i].temperature = 50;
+    model.ewt[0].flowRate[0].HeatMode[heating] = {};
+    for (std::size_t i = 0; i < 3; ++i) model.ewt[i].temperature = 50;
     model.eat[1].capacityCorrection = {0, 0};
     model.eat[1].wattsCorrection = {0, 0};
     EXPECT_FALSE(staleCurves(model).any());

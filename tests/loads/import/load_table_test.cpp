@@ -274,6 +274,10 @@ TEST(LoadTables, OfEndlessLinesAreReadNoFurtherThanTheyMatter) {
     const TableText wide(std::string(2'000'000, ';'));
     EXPECT_LE(wide.rows({';', '.'})[0].cells.size(), 512u);
     EXPECT_LE(TableText(std::string(2'000'000, '\n')).lines().size(), 100'000u);
+    // 16,000 lines of 512 cells are more than the 8 million cells that are kept.
+    std::string many;
+    for (int line = 0; line < 16'000; ++line) many += std::string(511, ';') + '\n';
+    EXPECT_LT(TableText(many).rows({';', '.'}).size(), 15'700u);
 }
 
 TEST(TableNumbers, MayHaveTheirThousandsGrouped) {

@@ -199,6 +199,16 @@ TEST(ZoneImport, OfAYearlyPeakThatNoMonthHasTakesTheLowestLoadFactor) {
     expectGains(zone, heating, {0, 80.0001, 0, 0});
 }
 
+TEST(ZoneImport, OfNegativeLoadsLeavesTheModeWithoutLoads) {
+    SampleYear year;
+    for (double& energy : year.energies[0]) energy = -energy;
+    for (double& peak : year.peaks[0]) peak = -peak;
+    const Zone zone = importedFrom(year);
+    expectGains(zone, heating, {0, 0, 0, 0});
+    EXPECT_EQ(zone.hours[heating], 0);
+    EXPECT_EQ(zone.hours[cooling], secondHours);
+}
+
 TEST(ZoneImport, OfTooManyHoursLeavesTheZoneAsItIs) {
     SampleYear year;
     year.energies[0][12] = 80.0 * 32768;

@@ -123,6 +123,25 @@ TEST_F(ImportIntoZone, IsOneImportInTheAverageBlock) {
     EXPECT_TRUE(enabled(window, "LOImportCommand"));
 }
 
+TEST_F(ImportIntoZone, OfTheAverageBlockStaysTheOneWhateverIsUndoneAfterIt) {
+    frmAvgBlock& window = block();
+    window.click("LONewCommand");
+    pick("a.gt1");
+    window.click("LOImportCommand");
+    window.type("LOGainsText(0)", "7");
+    window.leave("LOGainsText(0)");
+    main.click("mnuUndo");
+    EXPECT_EQ(window.ZoneList()[0].title, "a");
+    EXPECT_FALSE(enabled(window, "LOImportCommand"));
+    // Without the import there is room for one.
+    main.click("mnuUndo");
+    EXPECT_EQ(window.ZoneList()[0].title, "");
+    EXPECT_TRUE(enabled(window, "LOImportCommand"));
+    main.click("mnuRedo");
+    EXPECT_EQ(window.ZoneList()[0].title, "a");
+    EXPECT_FALSE(enabled(window, "LOImportCommand"));
+}
+
 TEST_F(ImportIntoZone, IsOneStepOfTheHistory) {
     frmZoneManage& window = manager();
     addZone(window, 5, 5);
