@@ -19,6 +19,35 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options(
         "$<$<NOT:$<CONFIG:Debug>>:-Wno-stringop-overflow;-Wno-array-bounds;-Wno-maybe-uninitialized>")
 endif()
+# What a file that is made to do harm would have to get past. The sanitizers bring their own.
+include(CheckCXXCompilerFlag)
+function(varnholt_hardening FLAG)
+    string(MAKE_C_IDENTIFIER "varnholt_has${FLAG}" known)
+    check_cxx_compiler_flag("${FLAG}" ${known})
+    if(${known})
+        add_compile_options("${FLAG}")
+    endif()
+endfunction()
+if(NOT VARNHOLT_SANITIZE AND NOT VARNHOLT_FUZZ)
+    varnholt_hardening(-fstack-protector-strong)
+    varnholt_hardening(-fstack-clash-protection)
+    if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+        varnholt_hardening(-fcf-protection=full)
+    elseif(CMAKE_SYSTEM_PROCESSOR MATCHES "aarch64")
+        varnholt_hardening(-mbranch-protection=standard)
+    endif()
+    # The checked calls need the optimiser.
+    add_compile_options("$<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+    add_link_options(-Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
+    # A module is position-independent by itself, in the stricter way.
+    set(isModule "$<STREQUAL:$<TARGET_PROPERTY:TYPE>,MODULE_LIBRARY>")
+    set(isProgram "$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>")
+    add_compile_options("$<$<NOT:${isModule}>:-fPIE>")
+    add_link_options("$<${isProgram}:-pie>")
+endif()
+# No program names the folder in which it was built.
+add_compile_options("-ffile-prefix-map=${CMAKE_BINARY_DIR}=."
+                    "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
 # Products must not be fused: the same design has the same digits on every machine.
 add_compile_options(-ffp-contract=off)
 if(VARNHOLT_SANITIZE)
