@@ -102,7 +102,8 @@ class LineFileWriter {
     void title(std::string_view prefix);
     bool since(double) const { return true; }
 
-    void text(const std::string& value) { fixed(value); }
+    /// Bytes that are not UTF-8 are carried so that reading gives them back; see carriedText.
+    void text(const std::string& value);
     void number(double value);
     void integer(std::int16_t value);
     void date(const Date& value);
