@@ -189,7 +189,7 @@ ByMode<std::string> frmSWDesign::shownFlows(const ByMode<double>& flow) const {
     if (!resultsArePresent()) return shown;
     for (const Mode mode : modes)
         shown[mode] = shownWithUnit(quantities::waterFlow, *this, flow[mode],
-                                    {Text::minimumFlowUnitsEnglish, Text::minimumFlowUnitsMetric});
+                                    {Text::loopFlowUnitsEnglish, Text::loopFlowUnitsMetric});
     return shown;
 }
 

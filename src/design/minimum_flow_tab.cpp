@@ -21,7 +21,7 @@ MinimumFlowTab::MinimumFlowTab(GroundDesign& design, ProjectConditions& conditio
                              .label = elementName("FLMinFlowLabel", mode),
                              .caption = {captions[mode], captions[mode]},
                              .unitLabel = elementName("FLMinFlowUnitsLabel", mode),
-                             .unit = {Text::minimumFlowUnitsEnglish, Text::minimumFlowUnitsMetric},
+                             .unit = {Text::loopFlowUnitsEnglish, Text::loopFlowUnitsMetric},
                              .help = "surface_water#loops",
                              .accessible = Text::minimumLoopFlow,
                              .distinction = captions[mode]}});

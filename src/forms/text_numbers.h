@@ -464,8 +464,8 @@ constexpr int headerLossMetric = 3116;
 constexpr int headerLossEnglish = 3117;
 constexpr int totalLossMetric = 3118;
 constexpr int totalLossEnglish = 3119;
-constexpr int minimumFlowUnitsMetric = 3210;
-constexpr int minimumFlowUnitsEnglish = 3211;
+constexpr int loopFlowUnitsMetric = 3210;
+constexpr int loopFlowUnitsEnglish = 3211;
 constexpr int minimumLoopFlow = 3212;
 
 // Soil around buried headers.

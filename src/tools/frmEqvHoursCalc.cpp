@@ -86,7 +86,8 @@ void frmEqvHoursCalc::addHoursField() {
                          .caption = {Text::fullLoadHoursResult, Text::fullLoadHoursResult},
                          .unitLabel = "txtEqvHoursUnitLabel(13)",
                          .unit = {Text::hoursUnits, Text::hoursUnits},
-                         .help = "calculators#hours"}})
+                         .help = "calculators#hours"},
+              .left = [this] { showHours(); }})
         .setLocked(true);
 }
 
@@ -109,14 +110,25 @@ void frmEqvHoursCalc::paste(std::size_t first) {
     }
 }
 
-void frmEqvHoursCalc::startFrom(double hours) {
+void frmEqvHoursCalc::startFrom(double hours) { setHours(hours); }
+
+void frmEqvHoursCalc::calculate() { setHours(fullLoadHoursOf(monthlyLoads_, fullLoad_)); }
+
+void frmEqvHoursCalc::setHours(double hours) {
     eqvHours_ = hours;
-    fields().show(hoursField);
+    cleared_ = false;
+    showHours();
 }
 
-void frmEqvHoursCalc::calculate() {
-    eqvHours_ = fullLoadHoursOf(monthlyLoads_, fullLoad_);
+/// Hours of 0 are a result too; a cleared window has none, in whatever units.
+void frmEqvHoursCalc::showHours() {
     fields().show(hoursField);
+    if (cleared_) control(hoursField).setText({});
+}
+
+void frmEqvHoursCalc::showValues() {
+    Calculator::showValues();
+    showHours();
 }
 
 double frmEqvHoursCalc::factor() const {
@@ -159,9 +171,10 @@ void frmEqvHoursCalc::cmdClear_Click() {
     fullLoad_ = 0;
     monthlyLoads_ = {};
     eqvHours_ = 0;
+    cleared_ = true;
     fields().forgetRefused();
     fields().showAll();
-    control(hoursField).setText({});
+    showHours();
 }
 
 void frmEqvHoursCalc::windowsChanged() {

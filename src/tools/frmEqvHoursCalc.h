@@ -37,6 +37,9 @@ class frmEqvHoursCalc : public Calculator {
 
     void windowsChanged() override;
 
+ protected:
+    void showValues() override;
+
  private:
     void addFields();
     void addHoursField();
@@ -44,6 +47,8 @@ class frmEqvHoursCalc : public Calculator {
     void fieldKey(std::size_t index, const std::string& key);
     void paste(std::size_t first);
     void calculate();
+    void setHours(double hours);
+    void showHours();
     double factor() const;
     Mode modeOfTransfer() const;
     void cmdCalculate_Click();
@@ -52,6 +57,7 @@ class frmEqvHoursCalc : public Calculator {
     double fullLoad_ = 0;    // MBtu/hr
     Months monthlyLoads_{};  // MBtu
     double eqvHours_ = 0;
+    bool cleared_ = false;  // no result stands
     HoursTaker taker_;
 };
 

@@ -67,7 +67,7 @@ void frmPumpPowerCalc::addFields() {
               .highest = largest,
               .fallback = 0.2,
               .beside = beside("(2)", Text::flowRateCaption,
-                               {Text::waterFlowUnitsEnglish, Text::waterFlowUnitsMetric}),
+                               {Text::loopFlowUnitsEnglish, Text::loopFlowUnitsMetric}),
               .lowestIsRefused = true,
               .whenEmpty = 100,
               .changed = changed});

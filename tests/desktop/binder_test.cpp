@@ -207,6 +207,17 @@ TEST_F(BinderTest, AListOfSeveralRowsTellsThemAtOnce) {
     EXPECT_EQ(form.events, (Events{"click PickList"}));
 }
 
+TEST_F(BinderTest, AHeadStandsAsTheEntriesBelowIt) {
+    ListView list(false);
+    list.setHeads({QStringLiteral("Date"), QStringLiteral("Hour"), QStringLiteral("Cooling")});
+    list.setItems({"1 January\tnoon\t12.5"});
+    const auto sideOf = [&](int column) {
+        return list.entries().headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
+    };
+    EXPECT_EQ(sideOf(1), 0);
+    EXPECT_EQ(sideOf(2), static_cast<int>(Qt::AlignRight | Qt::AlignVCenter));
+}
+
 TEST_F(BinderTest, ARenamedEntryKeepsTheSelection) {
     control("ZoneList").setIndex(1);
     control("ZoneList").setItem(1, "South wing");

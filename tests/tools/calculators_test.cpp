@@ -338,6 +338,25 @@ TEST_F(Calculators, ClearEmptiesInputsAndResults) {
     EXPECT_EQ(value(form, "eqvHours"), 0);
 }
 
+TEST_F(Calculators, AClearedResultStaysEmptyUntilHoursAreFoundAgain) {
+    frmEqvHoursCalc& form = hours();
+    form.click("cmdClear");
+    form.click("MetricCheck");
+    EXPECT_EQ(shown(form, "txtEqvHours(13)"), "");
+    main.click("English");
+    EXPECT_EQ(shown(form, "txtEqvHours(13)"), "");
+    form.leave("txtEqvHours(13)");
+    EXPECT_EQ(shown(form, "txtEqvHours(13)"), "");
+    // Without a peak the hours are 0, which is a result.
+    form.click("cmdCalculate");
+    EXPECT_EQ(shown(form, "txtEqvHours(13)"), "0");
+    form.click("MetricCheck");
+    EXPECT_EQ(shown(form, "txtEqvHours(13)"), "0");
+    form.click("cmdClear");
+    form.startFrom(1355);
+    EXPECT_EQ(shown(form, "txtEqvHours(13)"), "1355");
+}
+
 /// Hears which control is asked to take the keyboard.
 class FocusWatch : public FormObserver {
  public:

@@ -267,8 +267,10 @@ Shown WidgetDriver::read(Form& form, const Control& control, Property property) 
 bool WidgetDriver::picture(Form& form, const std::string& path) {
     QWidget* frame = windows_.frameOf(form);
     if (frame == nullptr) throw ScriptFault(form.formName() + " has no window");
-    // Layouts that have been asked for are done before the picture is taken.
-    for (int round = 0; round < 3; ++round)
+    // Layouts that have been asked for are done before the picture is taken. Each widget around the
+    // one that has changed takes a round, and the window that grows with them one more.
+    constexpr int rounds = 8;
+    for (int round = 0; round < rounds; ++round)
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     if (!frame->grab().save(qt(path), "PNG")) throw ScriptFault(path + " cannot be written");
     return true;

@@ -62,8 +62,10 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section < heads_.size())
-        return heads_[section];
+    if (orientation != Qt::Horizontal || section >= heads_.size()) return {};
+    if (role == Qt::DisplayRole) return heads_[section];
+    // A head stands as the entries below it do.
+    if (role == Qt::TextAlignmentRole && !items_.empty()) return data(index(0, section), role);
     return {};
 }
 

@@ -55,6 +55,7 @@ class Reader {
         columns_[heating] = choices.heatingColumn;
         // The one signed column counts for the mode under which it is chosen.
         if (choices.oneSignedColumn && columns_[cooling]) columns_[heating].reset();
+        if (choices.layout == TableLayout::monthly) findPeaks();
     }
 
     TableReading read() {
@@ -83,7 +84,7 @@ class Reader {
             empty = empty || !number;
             written.loads[m] = number.value_or(0);
             written.peaks[m] =
-                numberIn(cellOf(row, peakColumn(m)), choices_.format.decimal).value_or(0);
+                numberIn(cellOf(row, peaks_[m]), choices_.format.decimal).value_or(0);
         }
         if (!any) return reading_.without.push_back(row.line);
         if (empty) reading_.blanks.push_back(row.line);
@@ -91,16 +92,28 @@ class Reader {
         reading_.lastLine = row.line;
     }
 
-    /// The column to the right of a mode's energies, unless it is chosen for something else.
-    std::optional<std::size_t> peakColumn(Mode m) const {
-        if (choices_.layout != TableLayout::monthly || !columns_[m]) return std::nullopt;
-        const std::size_t beside = *columns_[m] + 1;
-        const bool taken = columns_[1 - m] == beside || choices_.dateColumn == beside;
-        const auto has = [&](const TableText::Row& row) {
-            return numberIn(cellOf(row, beside), choices_.format.decimal).has_value();
-        };
-        if (taken || std::none_of(rows_.begin(), rows_.end(), has)) return std::nullopt;
+    void findPeaks() {
+        const auto named = namedPeakColumns(rows_, choices_.format.decimal);
+        for (const Mode m : modes)
+            if (columns_[m]) peaks_[m] = peakColumn(*columns_[m], named[m], named[1 - m]);
+    }
+
+    /// The column that is named so, or else the one to the right of the mode's energies.
+    std::optional<std::size_t> peakColumn(std::size_t energies, std::optional<std::size_t> named,
+                                          std::optional<std::size_t> othersNamed) const {
+        if (named && isFree(*named)) return named;
+        const std::size_t beside = energies + 1;
+        if (othersNamed == beside || !isFree(beside)) return std::nullopt;
         return beside;
+    }
+
+    /// It holds numbers, and is chosen for nothing else.
+    bool isFree(std::size_t column) const {
+        const auto has = [&](const TableText::Row& row) {
+            return numberIn(cellOf(row, column), choices_.format.decimal).has_value();
+        };
+        return columns_[cooling] != column && columns_[heating] != column &&
+               choices_.dateColumn != column && std::any_of(rows_.begin(), rows_.end(), has);
     }
 
     void settleSigns() {
@@ -176,7 +189,7 @@ class Reader {
     void takeMonths() {
         ByMode<MonthlyLoads> years;
         for (const Mode m : modes) {
-            if (columns_[m] && !peakColumn(m)) reading_.withoutPeaks = true;
+            if (columns_[m] && !peaks_[m]) reading_.withoutPeaks = true;
             for (std::size_t month = 0; month < monthsOfYear; ++month) {
                 years[m].totalLoads[month] = written_[month].loads[m];
                 years[m].peakLoads[month] = written_[month].peaks[m];
@@ -188,7 +201,7 @@ class Reader {
 
     const std::vector<TableText::Row>& rows_;
     const TableChoices& choices_;
-    ByMode<std::optional<std::size_t>> columns_;
+    ByMode<std::optional<std::size_t>> columns_, peaks_;
     std::vector<WrittenRow> written_;
     TableReading reading_;
 };

@@ -39,6 +39,10 @@ struct TableChoices {
 /// The columns' names: of the line above the first line of numbers, or empty.
 std::vector<std::string> columnNames(const std::vector<TableText::Row>& rows, char decimal);
 
+/// The columns whose names say that they hold a mode's peaks: "Peak cooling [kW]".
+ByMode<std::optional<std::size_t>> namedPeakColumns(const std::vector<TableText::Row>& rows,
+                                                    char decimal);
+
 /// Layout, columns, sign and unit as names and numbers tell them.
 /// @param usual unit where no name tells it
 TableChoices guessedChoices(const std::vector<TableText::Row>& rows, const TableFormat& format,

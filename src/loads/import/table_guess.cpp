@@ -69,6 +69,7 @@ bool isCooling(const std::string& name) { return holds(name, {"cool", "gain"}); 
 bool isHeating(const std::string& name) {
     return holds(name, {"heat", "loss"}) && !isCooling(name);
 }
+bool isPeak(const std::string& name) { return holds(name, {"peak", "max"}); }
 
 TableUnit unitIn(const std::string& name, TableUnit usual) {
     if (holds(name, {"mbtu", "kbtu", "mbh"})) return TableUnit::mbtuPerHour;
@@ -131,7 +132,7 @@ class Guess {
         const std::vector<std::size_t> found = candidates();
         for (const std::size_t c : found) {
             const std::string& name = columns_[c].name;
-            if (holds(name, {"peak", "max"}) && found.size() > 2) continue;
+            if (isPeak(name) && found.size() > 2) continue;
             if (isCooling(name) && !choices_.coolingColumn) choices_.coolingColumn = c;
             if (isHeating(name) && !choices_.heatingColumn) choices_.heatingColumn = c;
         }
@@ -168,6 +169,19 @@ std::vector<std::string> columnNames(const Rows& rows, char decimal) {
     for (std::size_t c = 0; c < std::min(count, heads.cells.size()); ++c)
         names[c] = std::string(heads.cells[c]);
     return names;
+}
+
+ByMode<std::optional<std::size_t>> namedPeakColumns(const Rows& rows, char decimal) {
+    ByMode<std::optional<std::size_t>> found;
+    const std::vector<std::string> names = columnNames(rows, decimal);
+    for (std::size_t c = 0; c < names.size(); ++c) {
+        const std::string name = inLowerCase(names[c]);
+        // Beside a peak may stand when it was.
+        if (!isPeak(name) || holds(name, {"date", "time", "day"})) continue;
+        if (isCooling(name) && !found[cooling]) found[cooling] = c;
+        if (isHeating(name) && !found[heating]) found[heating] = c;
+    }
+    return found;
 }
 
 TableChoices guessedChoices(const Rows& rows, const TableFormat& format, TableUnit usual) {

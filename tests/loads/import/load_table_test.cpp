@@ -252,6 +252,35 @@ TEST(LoadTables, OfMonthsTakeThePeaksBesideTheEnergies) {
     EXPECT_FALSE(table.reading.peakDays);
 }
 
+TEST(LoadTables, OfMonthsTakeThePeaksWhereverTheirNamesStand) {
+    // Peaks of 29.31 and 58.62 kW are 100 and 200 MBtu/hr, by 0.2931 kW per MBtu/hr.
+    for (const auto& [names, figures] :
+         {std::pair{"Month,Cooling kWh,Heating kWh,Peak cooling kW,Peak heating kW",
+                    ",2931,586.2,29.31,58.62"},
+          std::pair{"Month,Max. heating kW,Max. cooling kW,Cooling kWh,Heating kWh",
+                    ",58.62,29.31,2931,586.2"},
+          std::pair{
+              "Month,Cooling kWh,Cooling peak day,Cooling peak kW,Heating kWh,Heating peak kW",
+              ",2931,21,29.31,586.2,58.62"}}) {
+        const Read table = read(monthsText(names, figures));
+        ASSERT_TRUE(table.reading.years) << names;
+        EXPECT_NEAR((*table.reading.years)[cooling].yearTotal, 120000, 1e-6) << names;
+        EXPECT_NEAR((*table.reading.years)[heating].yearTotal, 24000, 1e-6) << names;
+        EXPECT_NEAR((*table.reading.years)[cooling].peakMax, 100000, 1e-6) << names;
+        EXPECT_NEAR((*table.reading.years)[heating].peakMax, 200000, 1e-6) << names;
+        EXPECT_FALSE(table.reading.withoutPeaks) << names;
+    }
+}
+
+TEST(LoadTables, OfMonthsLeaveThePeaksOfTheOtherModeAlone) {
+    const Read table =
+        read(monthsText("Month,Cooling kWh,Heating kWh,Peak cooling kW", ",2931,586.2,29.31"));
+    ASSERT_TRUE(table.reading.years);
+    EXPECT_NEAR((*table.reading.years)[cooling].peakMax, 100000, 1e-6);
+    EXPECT_EQ((*table.reading.years)[heating].peakMax, 0);
+    EXPECT_TRUE(table.reading.withoutPeaks);
+}
+
 TEST(LoadTables, OfMonthsWithoutPeaksSaySo) {
     const Read table = read(monthsText("Month,Cooling kWh,Heating kWh", ",2931,586.2"));
     ASSERT_TRUE(table.reading.years);
