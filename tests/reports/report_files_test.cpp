@@ -36,6 +36,7 @@ Report zonesOf(const std::string& title) {
     Report report;
     report.object = "rptZoneNM";
     report.zones = {"Zone 1"};
+    report.fields = {"txtTitle", "txtName"};
     report.bands.push_back(
         {ReportSection::Zones_Header, columns, {{{{.control = "txtTitle", .text = title}}}}, 1});
     report.bands.push_back(
@@ -79,7 +80,7 @@ TEST(CsvReport, HasOneRowAPumpOfZones) {
 TEST(CsvReport, HasARowForAZoneWithoutAPump) {
     Report report = zonesOf("Only");
     report.bands.pop_back();
-    EXPECT_EQ(csvOf(report), "txtTitle\r\nOnly\r\n");
+    EXPECT_EQ(csvOf(report), "txtTitle,txtName\r\nOnly,\r\n");
 }
 
 TEST(HtmlText, IsNoMarkup) {

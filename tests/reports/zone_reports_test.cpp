@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "loads/loads_fixture.h"
+#include "reports/csv_report.h"
 #include "reports/install.h"
 #include "reports/report_shelf.h"
 
@@ -254,6 +255,14 @@ TEST_F(ZoneReports, OfNoZonesPrintOneEmptyZone) {
     const Report& report = print(manager(), longOption);
     EXPECT_EQ(textOf(report, "Zones_Header", "txtZoneNumber"), "");
     EXPECT_TRUE(textsOf(report, "Pumps_Detail", "txtName").empty());
+}
+
+TEST_F(ZoneReports, OfNoZonesHaveTheHeadsOfTheirTableAllTheSame) {
+    frmZoneManage& window = manager();
+    EXPECT_EQ(csvOf(print(window, names)), "txtZoneID,txtTitle,txtName,txtUnitNumber\r\n,,,\r\n");
+    addZone(window, 20, 15);
+    EXPECT_TRUE(csvOf(print(window, names))
+                    .starts_with("txtZoneID,txtTitle,txtName,txtUnitNumber\r\n1, ,"));
 }
 
 TEST_F(ZoneReports, ShowTheLogoInTheEditionOfAMaker) {
