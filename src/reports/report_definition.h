@@ -69,6 +69,8 @@ enum class Printed : std::uint8_t {
     always,
     withDays,     ///< the calling window shows the days per week
     withoutDays,  ///< it does not
+    ofAirPump,    ///< the pump at hand heats and cools air
+    ofWaterPump,  ///< it heats and cools water
     withTower,    ///< a cooling tower takes a part of the load
     withNotice,   ///< there is something that the reader must know
     withLogo,     ///< the edition of the maker has one

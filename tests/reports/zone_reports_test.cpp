@@ -51,6 +51,15 @@ class ZoneReports : public LoadsTest {
                     if (item.control == control) lengths.push_back(item.length);
         return lengths;
     }
+    /// The first columns that the control stands in.
+    static std::vector<int> columnsOf(const Report& report, const std::string& control) {
+        std::vector<int> columns;
+        for (const ReportBand& band : report.bands)
+            for (const ReportRow& row : band.rows)
+                for (const ReportItem& item : row.items)
+                    if (item.control == control) columns.push_back(item.first);
+        return columns;
+    }
 
     ReportShelf shelf;
 };
@@ -242,6 +251,23 @@ TEST_F(ZoneReports, OfTheEquipmentNameMakerSeriesAndType) {
     EXPECT_EQ(textOf(report, "PageHeader", "PumpInfoLabel"), "[4106]");
     EXPECT_EQ(textOf(report, "PageHeader", "PumpDataLabel"), "[9216]");
     EXPECT_EQ(rules(report, "Line3").size(), 1U);
+}
+
+/// Under "cfm" for a pump that moves air, under "gpm" for one that moves water.
+TEST_F(ZoneReports, PrintTheFlowOfTheLoadBelowItsUnit) {
+    frmZoneManage& window = manager();
+    addZone(window, 20, 15);
+    for (const int type : {0, 1}) {
+        window.change([type](LoadsDocument& document) {
+            document.data.zones.edit(0).pump.pumpType = static_cast<std::int16_t>(type);
+        });
+        const char* unit = type == 0 ? "LoadFlowUnitsLabel1" : "LoadFlowUnitsLabel2";
+        for (const int option : {shortOption, longOption, equipment}) {
+            const Report& report = print(window, option);
+            for (const char* flow : {"txtLoadFlowCool", "txtLoadFlowHeat"})
+                EXPECT_EQ(columnsOf(report, flow), columnsOf(report, unit)) << option << flow;
+        }
+    }
 }
 
 TEST_F(ZoneReports, OfAnAverageBlockPrintItsOneZone) {
