@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <algorithm>
 #include <filesystem>
 
 #include "basis/temporary_folder.h"
@@ -98,6 +99,34 @@ TEST_F(Previews, CopyThePageInFrontAsText) {
     const QString text = QGuiApplication::clipboard()->text();
     EXPECT_TRUE(text.contains(QStringLiteral("Borehole Design Project Report")));
     EXPECT_TRUE(text.contains(QStringLiteral("1 / ")));
+}
+
+TEST_F(Previews, CopyAPageWithItsColumns) {
+    // The second line of a zone has no number, units and pump: zone, mode, four blocks, hours,
+    // units, pump, then the pump's figures.
+    ReportPreview& preview = shown(samples.zones(1, 1));
+    trigger(preview, "copy");
+    const QStringList lines = QGuiApplication::clipboard()->text().split(u'\n');
+    const auto first = std::find_if(lines.begin(), lines.end(), [](const QString& line) {
+        return line.startsWith(QStringLiteral("1\tCooling\t10.5"));
+    });
+    ASSERT_NE(first, lines.end());
+    ASSERT_NE(first + 1, lines.end());
+    EXPECT_TRUE(first->startsWith(
+        QStringLiteral("1\tCooling\t10.5\t10.5\t10.5\t10.5\t1200\t1\tAB-036\t36.0\t")));
+    EXPECT_TRUE(
+        (first + 1)->startsWith(QStringLiteral("\tHeating\t8.3\t8.3\t8.3\t8.3\t900\t\t\t30.0\t")));
+}
+
+TEST_F(Previews, CopyWhatTheUserWroteAsItStands) {
+    ReportPreview& preview = shown(samples.borehole(0, "90%p of the load, 10%P of the hours"));
+    QString text;
+    for (std::size_t page = 0; page < preview.view().pageCount(); ++page) {
+        preview.view().goTo(page);
+        trigger(preview, "copy");
+        text += QGuiApplication::clipboard()->text();
+    }
+    EXPECT_TRUE(text.contains(QStringLiteral("90%p of the load, 10%P of the hours")));
 }
 
 TEST_F(Previews, TellThatThereIsNoPrinter) {
