@@ -76,6 +76,33 @@ TEST_F(Previews, LayTheReportOutForOtherPaper) {
     EXPECT_GT(preview.view().pages()->sheet().width(), preview.view().pages()->sheet().height());
 }
 
+TEST_F(Previews, NamePaperThatIsNotInTheirList) {
+    ReportPreview& preview = shown(samples.borehole(0));
+    const auto* paper = preview.findChild<QComboBox*>(QStringLiteral("paper"));
+    EXPECT_EQ(paper->currentText(), QStringLiteral("Letter"));
+    preview.setSetup({QPageSize(QPageSize::A3)});
+    EXPECT_EQ(paper->currentIndex(), -1);
+    EXPECT_EQ(paper->placeholderText(), QPageSize(QPageSize::A3).name());
+}
+
+TEST_F(Previews, KeepTheirPagesWhereLayingThemOutAnewIsBrokenOff) {
+    bool goesOn = true;
+    PreviewServices services;
+    services.layingOut = [&](std::size_t, std::size_t) { return goesOn; };
+    ReportPreview preview(samples.zones(300, 2), usualPage(0x409), desk.program.texts(), services);
+    const std::size_t before = preview.view().pageCount();
+    goesOn = false;
+    auto* paper = preview.findChild<QComboBox*>(QStringLiteral("paper"));
+    paper->setCurrentIndex(0);
+    Q_EMIT paper->activated(0);
+    trigger(preview, "landscape");
+    EXPECT_EQ(preview.view().pageCount(), before);
+    EXPECT_TRUE(preview.view().pages()->isComplete());
+    EXPECT_EQ(preview.setup(), usualPage(0x409));
+    EXPECT_EQ(paper->currentText(), QStringLiteral("Letter"));
+    EXPECT_FALSE(preview.findChild<QAction*>(QStringLiteral("landscape"))->isChecked());
+}
+
 TEST_F(Previews, SaveEveryKindOfFile) {
     ReportPreview& preview = shown(samples.borehole(0));
     for (const char* name : {"a.pdf", "a.html", "a.csv"}) {

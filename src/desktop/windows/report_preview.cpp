@@ -53,7 +53,7 @@ ReportPreview::ReportPreview(std::shared_ptr<const Report> report, const PageSet
     view_->setAccessibleName(windowTitle());
     view_->onChange = [this] { showState(); };
     setFocusProxy(view_);
-    layOut();
+    setSetup(setup_);
 }
 
 QString ReportPreview::words(int text) const { return qt(texts_.text(text)); }
@@ -127,16 +127,15 @@ void ReportPreview::addPaperTools() {
     continuous_ = tool("continuous", Text::previewContinuous, "", &ReportPreview::toggleContinuous);
     continuous_->setCheckable(true);
     continuous_->setChecked(true);
-    auto* paper = new QComboBox;
-    paper->setAccessibleName(words(Text::previewPaper));
-    paper->addItem(words(Text::paperA4), static_cast<int>(QPageSize::A4));
-    paper->addItem(words(Text::paperLetter), static_cast<int>(QPageSize::Letter));
-    paper->setCurrentIndex(setup_.size.id() == QPageSize::Letter ? 1 : 0);
-    paper->setObjectName(QStringLiteral("paper"));
-    bar_->addWidget(paper);
-    connect(paper, &QComboBox::activated, this, [this, paper] {
+    paper_ = new QComboBox;
+    paper_->setAccessibleName(words(Text::previewPaper));
+    paper_->addItem(words(Text::paperA4), static_cast<int>(QPageSize::A4));
+    paper_->addItem(words(Text::paperLetter), static_cast<int>(QPageSize::Letter));
+    paper_->setObjectName(QStringLiteral("paper"));
+    bar_->addWidget(paper_);
+    connect(paper_, &QComboBox::activated, this, [this] {
         PageSetup other = setup_;
-        other.size = QPageSize(static_cast<QPageSize::PageSizeId>(paper->currentData().toInt()));
+        other.size = QPageSize(static_cast<QPageSize::PageSizeId>(paper_->currentData().toInt()));
         setSetup(other);
     });
     landscape_ = tool("landscape", Text::previewLandscape, "", &ReportPreview::toggleLandscape);
@@ -159,17 +158,15 @@ void ReportPreview::addSearch() {
     connect(find, &QAction::triggered, search_, qOverload<>(&QWidget::setFocus));
 }
 
-void ReportPreview::layOut() {
-    auto pages = std::make_shared<const PageLayout>(report_, setup_.layoutFor(*report_),
-                                                    services_.layingOut);
-    view_->setPages(std::move(pages));
-    landscape_->setChecked(setup_.layoutFor(*report_).orientation() == QPageLayout::Landscape);
-    showState();
-}
-
 void ReportPreview::setSetup(const PageSetup& setup) {
-    setup_ = setup;
-    layOut();
+    auto pages =
+        std::make_shared<const PageLayout>(report_, setup.layoutFor(*report_), services_.layingOut);
+    // Half a report must not be printed or saved for the whole.
+    if (pages->isComplete() || view_->pages() == nullptr) {
+        setup_ = setup;
+        view_->setPages(std::move(pages));
+    }
+    showState();
 }
 
 void ReportPreview::showState() {
@@ -178,6 +175,10 @@ void ReportPreview::showState() {
     page_->setRange(1, std::max(1, count));
     page_->setValue(static_cast<int>(view_->page()) + 1);
     pages_->setText(QStringLiteral(" ") + words(Text::previewOfPages).arg(count));
+    // Paper that was chosen in the set-up may be none of the list.
+    paper_->setPlaceholderText(setup_.size.name());
+    paper_->setCurrentIndex(paper_->findData(static_cast<int>(setup_.size.id())));
+    landscape_->setChecked(setup_.layoutFor(*report_).orientation() == QPageLayout::Landscape);
     if (view_->fit() == ReportView::Fit::none)
         zoom_->setEditText(QStringLiteral("%1 %").arg(qRound(100 * view_->zoom())));
     else
@@ -192,7 +193,7 @@ void ReportPreview::print() {
     PrintJob job{windowTitle(), setup_.layoutFor(*report_), {}, {}};
     job.layOut = [&](const QPageLayout& paper) {
         pages = std::make_unique<PageLayout>(report_, paper, services_.layingOut);
-        return static_cast<int>(pages->pages().size());
+        return pages->isComplete() ? static_cast<int>(pages->pages().size()) : 0;
     };
     job.paint = [&](QPainter& painter, int page) {
         PagePainter(*pages, texts_).paint(painter, static_cast<std::size_t>(page));

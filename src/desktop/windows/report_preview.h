@@ -37,7 +37,7 @@ class ReportPreview : public QWidget {
 
     ReportView& view() { return *view_; }
     const PageSetup& setup() const { return setup_; }
-    /// Lays the report out for other paper.
+    /// Lays the report out for other paper. Where the user breaks that off, it stays as it is.
     void setSetup(const PageSetup& setup);
     /// Writes the report; what fails is told, and leaves nothing behind.
     void saveAs(const std::string& path);
@@ -49,7 +49,6 @@ class ReportPreview : public QWidget {
     void addPageTools();
     void addPaperTools();
     void addSearch();
-    void layOut();
     void showState();
     QString words(int text) const;
 
@@ -78,6 +77,7 @@ class ReportPreview : public QWidget {
     QSpinBox* page_ = nullptr;
     QLabel* pages_ = nullptr;
     QComboBox* zoom_ = nullptr;
+    QComboBox* paper_ = nullptr;
     QLineEdit* search_ = nullptr;
     QAction* continuous_ = nullptr;
     QAction* landscape_ = nullptr;
