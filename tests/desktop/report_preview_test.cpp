@@ -9,12 +9,14 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QToolBar>
 #include <algorithm>
 #include <filesystem>
 
 #include "basis/temporary_folder.h"
 #include "desktop/paper/print_module.h"
 #include "desktop/report_samples.h"
+#include "desktop/widgets/qt_text.h"
 #include "desktop/windows/report_preview.h"
 #include "desktop/windows/report_windows.h"
 #include "forms/text_numbers.h"
@@ -74,6 +76,17 @@ TEST_F(Previews, LayTheReportOutForOtherPaper) {
     EXPECT_LT(preview.view().pages()->sheet().width(), before);
     trigger(preview, "landscape");
     EXPECT_GT(preview.view().pages()->sheet().width(), preview.view().pages()->sheet().height());
+}
+
+TEST_F(Previews, HaveEveryToolInSight) {
+    ReportPreview& preview = shown(samples.borehole(0));
+    preview.parentWidget()->resize(900, 800);
+    Desk::settle();
+    for (const auto* bar : preview.findChildren<QToolBar*>())
+        EXPECT_LE(bar->sizeHint().width(), bar->width()) << bar->actions().size();
+    for (const auto* bar : preview.findChildren<QToolBar*>())
+        for (QAction* action : bar->actions())
+            EXPECT_TRUE(bar->widgetForAction(action)->isVisible()) << plain(action->text());
 }
 
 TEST_F(Previews, NamePaperThatIsNotInTheirList) {

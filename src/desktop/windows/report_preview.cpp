@@ -15,6 +15,7 @@
 #include "basis/run_time_error.h"
 #include "desktop/paper/pdf_file.h"
 #include "desktop/paper/print_module.h"
+#include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
@@ -40,14 +41,17 @@ ReportPreview::ReportPreview(std::shared_ptr<const Report> report, const PageSet
       setup_(setup),
       texts_(texts),
       services_(std::move(services)),
-      bar_(new QToolBar),
+      fileBar_(new QToolBar),
+      pageBar_(new QToolBar),
       view_(new ReportView(texts)) {
     setObjectName(qt(report_->object));
     setWindowTitle(qt(report_->caption).trimmed());
+    setWindowIcon(houseIcon(QStringLiteral("print")));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(bar_);
+    layout->addWidget(fileBar_);
+    layout->addWidget(pageBar_);
     layout->addWidget(view_);
     addTools();
     view_->setAccessibleName(windowTitle());
@@ -58,9 +62,9 @@ ReportPreview::ReportPreview(std::shared_ptr<const Report> report, const PageSet
 
 QString ReportPreview::words(int text) const { return qt(texts_.text(text)); }
 
-QAction* ReportPreview::tool(const char* name, int text, const char* keys,
+QAction* ReportPreview::tool(QToolBar* bar, const char* name, int text, const char* keys,
                              void (ReportPreview::*run)()) {
-    QAction* action = bar_->addAction(words(text));
+    QAction* action = bar->addAction(words(text));
     action->setObjectName(QString::fromLatin1(name));
     if (*keys != '\0') {
         action->setShortcut(QKeySequence(QString::fromLatin1(keys)));
@@ -74,37 +78,39 @@ QAction* ReportPreview::tool(const char* name, int text, const char* keys,
     return action;
 }
 
+/// What is done with the report, and below it how it is shown: in one row they would not all be in
+/// sight.
 void ReportPreview::addTools() {
-    bar_->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    tool("print", Text::previewPrint, "", &ReportPreview::print);
-    tool("savePdf", Text::previewSavePdf, "", &ReportPreview::savePdf);
-    tool("saveHtml", Text::previewSaveHtml, "", &ReportPreview::saveHtml);
-    tool("saveCsv", Text::previewSaveCsv, "", &ReportPreview::saveCsv);
-    tool("copy", Text::previewCopy, "", &ReportPreview::copy);
-    bar_->addSeparator();
-    addPageTools();
-    bar_->addSeparator();
-    addPaperTools();
-    bar_->addSeparator();
+    fileBar_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    pageBar_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    tool(fileBar_, "print", Text::previewPrint, "", &ReportPreview::print);
+    tool(fileBar_, "savePdf", Text::previewSavePdf, "", &ReportPreview::savePdf);
+    tool(fileBar_, "saveHtml", Text::previewSaveHtml, "", &ReportPreview::saveHtml);
+    tool(fileBar_, "saveCsv", Text::previewSaveCsv, "", &ReportPreview::saveCsv);
+    tool(fileBar_, "copy", Text::previewCopy, "", &ReportPreview::copy);
+    fileBar_->addSeparator();
     addSearch();
+    addPageTools();
+    pageBar_->addSeparator();
+    addPaperTools();
 }
 
 void ReportPreview::addPageTools() {
-    tool("previous", Text::previewPreviousPage, "Alt+Up", &ReportPreview::previousPage)
+    tool(pageBar_, "previous", Text::previewPreviousPage, "Alt+Up", &ReportPreview::previousPage)
         ->setText(QStringLiteral("\u2039"));
     page_ = new QSpinBox;
     page_->setAccessibleName(words(Text::previewPage));
     page_->setKeyboardTracking(false);
     page_->setButtonSymbols(QAbstractSpinBox::NoButtons);
     pages_ = new QLabel;
-    bar_->addWidget(page_);
-    bar_->addWidget(pages_);
-    tool("next", Text::previewNextPage, "Alt+Down", &ReportPreview::nextPage)
+    pageBar_->addWidget(page_);
+    pageBar_->addWidget(pages_);
+    tool(pageBar_, "next", Text::previewNextPage, "Alt+Down", &ReportPreview::nextPage)
         ->setText(QStringLiteral("\u203A"));
     connect(page_, &QSpinBox::valueChanged, this,
             [this](int page) { view_->goTo(static_cast<std::size_t>(page - 1)); });
-    bar_->addSeparator();
-    tool("smaller", Text::previewSmaller, "Ctrl+-", &ReportPreview::smaller)
+    pageBar_->addSeparator();
+    tool(pageBar_, "smaller", Text::previewSmaller, "Ctrl+-", &ReportPreview::smaller)
         ->setText(QStringLiteral("\u2212"));
     zoom_ = new QComboBox;
     zoom_->setAccessibleName(words(Text::previewZoom));
@@ -112,8 +118,8 @@ void ReportPreview::addPageTools() {
     for (const int percent : {50, 75, 100, 125, 150, 200, 300})
         zoom_->addItem(QStringLiteral("%1 %").arg(percent), percent);
     zoom_->setEditable(true);
-    bar_->addWidget(zoom_);
-    tool("larger", Text::previewLarger, "Ctrl++", &ReportPreview::larger)
+    pageBar_->addWidget(zoom_);
+    tool(pageBar_, "larger", Text::previewLarger, "Ctrl++", &ReportPreview::larger)
         ->setText(QStringLiteral("+"));
     connect(zoom_, &QComboBox::textActivated, this, [this](const QString& text) {
         if (text == zoom_->itemText(0)) return fitWidth();
@@ -124,7 +130,8 @@ void ReportPreview::addPageTools() {
 }
 
 void ReportPreview::addPaperTools() {
-    continuous_ = tool("continuous", Text::previewContinuous, "", &ReportPreview::toggleContinuous);
+    continuous_ =
+        tool(pageBar_, "continuous", Text::previewContinuous, "", &ReportPreview::toggleContinuous);
     continuous_->setCheckable(true);
     continuous_->setChecked(true);
     paper_ = new QComboBox;
@@ -132,13 +139,14 @@ void ReportPreview::addPaperTools() {
     paper_->addItem(words(Text::paperA4), static_cast<int>(QPageSize::A4));
     paper_->addItem(words(Text::paperLetter), static_cast<int>(QPageSize::Letter));
     paper_->setObjectName(QStringLiteral("paper"));
-    bar_->addWidget(paper_);
+    pageBar_->addWidget(paper_);
     connect(paper_, &QComboBox::activated, this, [this] {
         PageSetup other = setup_;
         other.size = QPageSize(static_cast<QPageSize::PageSizeId>(paper_->currentData().toInt()));
         setSetup(other);
     });
-    landscape_ = tool("landscape", Text::previewLandscape, "", &ReportPreview::toggleLandscape);
+    landscape_ =
+        tool(pageBar_, "landscape", Text::previewLandscape, "", &ReportPreview::toggleLandscape);
     landscape_->setCheckable(true);
 }
 
@@ -149,7 +157,7 @@ void ReportPreview::addSearch() {
     search_->setClearButtonEnabled(true);
     search_->setMaximumWidth(180);
     search_->setObjectName(QStringLiteral("search"));
-    bar_->addWidget(search_);
+    fileBar_->addWidget(search_);
     connect(search_, &QLineEdit::returnPressed, this, &ReportPreview::search);
     auto* find = new QAction(this);
     find->setShortcut(QKeySequence(QKeySequence::Find));

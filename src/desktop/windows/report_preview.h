@@ -45,7 +45,8 @@ class ReportPreview : public QWidget {
 
  private:
     void addTools();
-    QAction* tool(const char* name, int text, const char* keys, void (ReportPreview::*run)());
+    QAction* tool(QToolBar* bar, const char* name, int text, const char* keys,
+                  void (ReportPreview::*run)());
     void addPageTools();
     void addPaperTools();
     void addSearch();
@@ -72,7 +73,7 @@ class ReportPreview : public QWidget {
     PageSetup setup_;
     const Texts& texts_;
     PreviewServices services_;
-    QToolBar* bar_;
+    QToolBar *fileBar_, *pageBar_;
     ReportView* view_;
     QSpinBox* page_ = nullptr;
     QLabel* pages_ = nullptr;
