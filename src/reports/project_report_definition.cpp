@@ -44,6 +44,7 @@ struct AddPart {
     }
 
     void operator()(const Heading& heading) const {
+        if (!isPrinted(heading.printed, context)) return;
         band(headingColumns)
             .rows.push_back({{itemOf(heading.label, heading.style, 0, 1, context)}});
     }

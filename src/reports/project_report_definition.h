@@ -22,6 +22,7 @@ struct Labelled {
 struct Heading {
     Labelled label;
     ItemStyle style = ItemStyle::heading;
+    Printed printed = Printed::always;
 };
 
 /// One row of a table: a caption and a value in each of two columns.
@@ -78,7 +79,7 @@ struct Note {
     Labelled label;
 };
 
-/// The drawings that the window has.
+/// The drawings that the report has; those of a short form are none.
 struct Drawings {
     Labelled heading;
 };
@@ -91,7 +92,7 @@ struct ProjectReportDefinition {
     int option;  ///< of `PrintOption` in `frmPROptions`
     const char* object;
     int titleText;
-    std::span<const Part> parts;
+    std::span<const Part> parts;  ///< before those that end every project report
 };
 
 constexpr int detailedForm = 0;

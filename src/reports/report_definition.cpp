@@ -74,6 +74,8 @@ bool isPrinted(Printed printed, const FillContext& context) {
             return isWaterPump(context);
         case Printed::withTower:
             return context.tower;
+        case Printed::inDetail:
+            return context.detailed;
         case Printed::withNotice:
             return !context.notice.empty();
         case Printed::withLogo:

@@ -113,7 +113,7 @@ constexpr Part headerTable = Table{{{{{"PrimaryHeaderLabel", words(Text::primary
                                      {{"BranchHeaderLabel", words(Text::branchColumn)}}}},
                                    headerRows};
 
-constexpr Part detailedParts[] = {
+constexpr Part parts[] = {
     resultsHeading,
     Results{resultLines},
     inputsHeading,
@@ -125,41 +125,13 @@ constexpr Part detailedParts[] = {
     pipingHeading,
     headersHeading,
     headerTable,
-    heatPumpPart,
-    loadTempsHeading,
-    loadTempsPart,
-    loadsFileHeading,
-    loadsFilePart,
-    commentsHeading,
-    commentsPart,
-    drawingsPart,
-};
-
-constexpr Part shortParts[] = {
-    resultsHeading,
-    Results{resultLines},
-    inputsHeading,
-    Blocks{fluidAndPower, soil},
-    Blocks{circuit, water},
-    modeTable,
-    seasonTable,
-    pipingHeading,
-    headersHeading,
-    headerTable,
-    heatPumpPart,
-    loadTempsHeading,
-    loadTempsPart,
-    loadsFileHeading,
-    loadsFilePart,
-    commentsHeading,
-    commentsPart,
 };
 
 }  // namespace
 
 constinit const std::array<ProjectReportDefinition, 2> surfaceWaterReports{{
-    {"frmSWDesign", detailedForm, "rptSW", Text::surfaceWaterDesignTitle, detailedParts},
-    {"frmSWDesign", shortForm, "rptSWShort", Text::surfaceWaterDesignTitle, shortParts},
+    {"frmSWDesign", detailedForm, "rptSW", Text::surfaceWaterDesignTitle, parts},
+    {"frmSWDesign", shortForm, "rptSWShort", Text::surfaceWaterDesignTitle, parts},
 }};
 
 }  // namespace varnholt
