@@ -12,10 +12,10 @@ namespace varnholt {
 // What the project reports are built from, as data: headings, tables of two columns of values,
 // blocks of captions with values side by side, and long texts.
 
-/// A control by name and what it prints.
+/// A control by name and what it prints; without a name there is none.
 struct Labelled {
-    const char* control;
-    Source source;
+    const char* control = nullptr;
+    Source source = nothing();
 };
 
 /// The heading of a part.
@@ -25,9 +25,10 @@ struct Heading {
     Printed printed = Printed::always;
 };
 
-/// One row of a table: a caption and a value in each of two columns.
+/// One row of a table: a caption and a value in each of two columns, or a caption of the rows
+/// below.
 struct TableRow {
-    Labelled caption, first, second;
+    Labelled caption, first{}, second{};
 };
 
 struct TableColumn {
