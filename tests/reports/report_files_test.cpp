@@ -95,6 +95,15 @@ TEST(HtmlReport, HoldsNoMarkupOfAName) {
     EXPECT_NE(page.find("&lt;script&gt;"), std::string::npos);
 }
 
+TEST(HtmlReport, IsSetInTheFontOfTheLanguage) {
+    Report report = reportOf("42");
+    EXPECT_EQ(htmlOf(report).find("body{font-family"), std::string::npos);
+    report.font = "Noto Serif";
+    EXPECT_NE(htmlOf(report).find("body{font-family:\"Noto Serif\","), std::string::npos);
+    report.font = "a\"}</style><script>";
+    EXPECT_NE(htmlOf(report).find("body{font-family:\"a/stylescript\","), std::string::npos);
+}
+
 TEST(HtmlReport, NeedsNothingBesideItself) {
     const std::string page = htmlOf(reportOf("42"));
     EXPECT_TRUE(page.starts_with("<!DOCTYPE html>\n<html lang="));
