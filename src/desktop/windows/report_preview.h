@@ -73,7 +73,8 @@ class ReportPreview : public QWidget {
     PageSetup setup_;
     const Texts& texts_;
     PreviewServices services_;
-    QToolBar *fileBar_, *pageBar_;
+    QToolBar* fileBar_;
+    QToolBar* pageBar_;
     ReportView* view_;
     QSpinBox* page_ = nullptr;
     QLabel* pages_ = nullptr;
