@@ -51,7 +51,7 @@ constexpr Block piping[] = {{{"PipingLabel", words(Text::loopPipingPage)}, pipin
 constexpr Block pattern[] = {{{"PatternLabel", words(Text::patternPage)}, patternPairs}};
 constexpr Block timeAndPower[] = {predictionBlock, extraPowerBlock};
 
-constexpr Part detailedParts[] = {
+constexpr Part parts[] = {
     resultsHeading,
     Results{resultLines, longTermRows},
     towerPart,
@@ -59,37 +59,13 @@ constexpr Part detailedParts[] = {
     Blocks{fluidAndSoil, piping},
     inputsContHeading,
     Blocks{pattern, timeAndPower},
-    heatPumpPart,
-    loadTempsHeading,
-    loadTempsPart,
-    loadsFileHeading,
-    loadsFilePart,
-    commentsHeading,
-    commentsPart,
-    drawingsPart,
-};
-
-constexpr Part shortParts[] = {
-    resultsHeading,
-    Results{resultLines, longTermRows},
-    towerPart,
-    inputsHeading,
-    Blocks{fluidAndSoil, piping},
-    Blocks{pattern, timeAndPower},
-    heatPumpPart,
-    loadTempsHeading,
-    loadTempsPart,
-    loadsFileHeading,
-    loadsFilePart,
-    commentsHeading,
-    commentsPart,
 };
 
 }  // namespace
 
 constinit const std::array<ProjectReportDefinition, 2> boreholeReports{{
-    {"frmBHDesign", detailedForm, "rptBH", Text::boreholeDesignTitle, detailedParts},
-    {"frmBHDesign", shortForm, "rptBHShort", Text::boreholeDesignTitle, shortParts},
+    {"frmBHDesign", detailedForm, "rptBH", Text::boreholeDesignTitle, parts},
+    {"frmBHDesign", shortForm, "rptBHShort", Text::boreholeDesignTitle, parts},
 }};
 
 }  // namespace varnholt

@@ -32,35 +32,20 @@ void append(std::string& file, const Line& line) {
     file += "\r\n";
 }
 
-bool isField(ItemStyle style) {
-    return style == ItemStyle::value || style == ItemStyle::figure || style == ItemStyle::zone;
-}
-
-/// The fields of the zones' bands, in the order in which they are first printed.
+/// The columns of a table of zones: a field each.
 class FieldColumns {
  public:
-    explicit FieldColumns(const Report& report) {
-        for (const ReportBand& band : report.bands)
-            if (band.zone > 0)
-                forFields(band, [this](const ReportItem& item) { add(item.control); });
+    explicit FieldColumns(const Report& report) : names_(report.fields) {
+        for (std::size_t i = 0; i < names_.size(); ++i) places_.emplace(names_[i], i);
     }
     const Line& names() const { return names_; }
     void write(const ReportBand& band, Line& line) const {
-        forFields(band,
-                  [&](const ReportItem& item) { line[places_.at(item.control)] = item.text; });
+        for (const ReportRow& row : band.rows)
+            for (const ReportItem& item : row.items)
+                if (isField(item.style)) line[places_.at(item.control)] = item.text;
     }
 
  private:
-    template <class Take>
-    static void forFields(const ReportBand& band, const Take& take) {
-        for (const ReportRow& row : band.rows)
-            for (const ReportItem& item : row.items)
-                if (isField(item.style)) take(item);
-    }
-    void add(const std::string& control) {
-        if (places_.emplace(control, names_.size()).second) names_.push_back(control);
-    }
-
     Line names_;
     std::map<std::string, std::size_t> places_;
 };

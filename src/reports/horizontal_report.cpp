@@ -71,7 +71,7 @@ constexpr Part seasonTable =
     Table{{{{{"SummerLabel", words(Text::inSummer)}}, {{"WinterLabel", words(Text::inWinter)}}}},
           seasonRows};
 
-constexpr Part detailedParts[] = {
+constexpr Part parts[] = {
     resultsHeading,
     Results{resultLines},
     towerPart,
@@ -80,38 +80,13 @@ constexpr Part detailedParts[] = {
     seasonTable,
     inputsContHeading,
     Blocks{layoutAndTime, configuration},
-    heatPumpPart,
-    loadTempsHeading,
-    loadTempsPart,
-    loadsFileHeading,
-    loadsFilePart,
-    commentsHeading,
-    commentsPart,
-    drawingsPart,
-};
-
-constexpr Part shortParts[] = {
-    resultsHeading,
-    Results{resultLines},
-    towerPart,
-    inputsHeading,
-    Blocks{fluidAndPower, soilAndPiping},
-    seasonTable,
-    Blocks{layoutAndTime, configuration},
-    heatPumpPart,
-    loadTempsHeading,
-    loadTempsPart,
-    loadsFileHeading,
-    loadsFilePart,
-    commentsHeading,
-    commentsPart,
 };
 
 }  // namespace
 
 constinit const std::array<ProjectReportDefinition, 2> horizontalReports{{
-    {"frmHZDesign", detailedForm, "rptHZ", Text::horizontalDesignTitle, detailedParts},
-    {"frmHZDesign", shortForm, "rptHZShort", Text::horizontalDesignTitle, shortParts},
+    {"frmHZDesign", detailedForm, "rptHZ", Text::horizontalDesignTitle, parts},
+    {"frmHZDesign", shortForm, "rptHZShort", Text::horizontalDesignTitle, parts},
 }};
 
 }  // namespace varnholt

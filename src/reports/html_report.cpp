@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <string_view>
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
@@ -224,6 +225,17 @@ class Page {
     std::string html_;
 };
 
+/// The language's font before the house's own; a name that is none cannot end the rule.
+std::string fontRule(const std::string& font) {
+    std::string name;
+    for (const char c : font)
+        if (static_cast<unsigned char>(c) >= 0x20 &&
+            std::string_view("\"\\<>{};").find(c) == std::string_view::npos)
+            name += c;
+    if (name.empty()) return {};
+    return "body{font-family:\"" + name + "\",Inter,\"Segoe UI\",\"Noto Sans\",sans-serif}\n";
+}
+
 }  // namespace
 
 std::string htmlText(const std::string& text) {
@@ -251,9 +263,10 @@ std::string htmlOf(const Report& report) {
     return fmt::format(
         "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
         "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
-        "<title>{}</title>\n<meta name=\"author\" content=\"{}\">\n<style>{}</style>\n</head>\n"
+        "<title>{}</title>\n<meta name=\"author\" content=\"{}\">\n<style>{}{}</style>\n</head>\n"
         "<body>\n<main>\n{}</main>\n</body>\n</html>\n",
-        htmlText(report.caption), htmlText(report.designer), style, Page(report).write());
+        htmlText(report.caption), htmlText(report.designer), style, fontRule(report.font),
+        Page(report).write());
 }
 
 }  // namespace varnholt

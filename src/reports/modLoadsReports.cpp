@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reports/modLoadsReports.h"
 
+#include <algorithm>
+
 #include "basis/run_time_error.h"
 #include "forms/text_numbers.h"
 #include "reports/shared_bands.h"
@@ -30,6 +32,20 @@ void addBands(Report& report, std::span<const BandDefinition> definitions, Repor
         report.bands.push_back(fillBand(definition, context));
         report.bands.back().zone = zone;
     }
+}
+
+/// The fields that the bands of each zone print.
+std::vector<std::string> fieldsOf(std::span<const BandDefinition> definitions,
+                                  const FillContext& context) {
+    std::vector<std::string> fields;
+    for (const BandDefinition& definition : definitions) {
+        if (definition.section == ReportSection::PageHeader) continue;
+        for (const ItemDefinition& item : definition.items)
+            if (isField(item.style) && isPrinted(item.printed, context) &&
+                std::find(fields.begin(), fields.end(), item.control) == fields.end())
+                fields.emplace_back(item.control);
+    }
+    return fields;
 }
 
 void addZone(Report& report, std::span<const BandDefinition> definitions, const ZoneRow& row,
@@ -72,6 +88,7 @@ Report zoneReport(const ZoneReportDefinition& definition, const ZoneWindow& wind
     context.file = shownFile(window.file().folder, window.file().name, facts);
     context.printedAt = printedAt(facts);
 
+    report.fields = fieldsOf(definition.bands, context);
     for (const BandDefinition& head : reportHead) report.bands.push_back(fillBand(head, context));
     addBands(report, definition.bands, ReportSection::PageHeader, context);
     report.bands.push_back({ReportSection::ProjectID_Header, {}, {}, 0});

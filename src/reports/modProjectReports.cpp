@@ -8,6 +8,7 @@
 #include "design/frmSWDesign.h"
 #include "forms/text_numbers.h"
 #include "loads/loads_window.h"
+#include "reports/project_report_blocks.h"
 #include "reports/shared_bands.h"
 
 namespace varnholt {
@@ -51,11 +52,12 @@ bool towerIsShown(const GroundDesign& window) {
     return values.has("hybridPercent") && std::get<double>(values.read("hybridPercent")) > 0;
 }
 
-FillContext contextOf(const GroundDesign& window, const std::string& title,
+FillContext contextOf(const GroundDesign& window, const std::string& title, bool detailed,
                       const PrintingFacts& facts) {
     FillContext context{.window = window, .project = window.information()};
     context.metric = window.units() == UnitSystem::metric;
     context.tower = towerIsShown(window);
+    context.detailed = detailed;
     context.title = title;
     if (window.showsOlderResults()) context.notice = window.text(Text::reportOutOfDate);
     context.file = shownFile(window.directoryName, window.FileName, facts);
@@ -79,13 +81,14 @@ Report FillProjectReport(const ProjectReportDefinition& definition, const Ground
     report.projectName = window.information().projectName;
     report.designer = window.information().designerName;
     report.numbered = definition.option == detailedForm;
-    FillContext context = contextOf(window, report.caption, facts);
+    FillContext context = contextOf(window, report.caption, report.numbered, facts);
     takeFromLanguage(report, context);
     if (report.numbered) report.drawings = drawingsOf(window);
 
     addHead(report, report.numbered, context);
     report.bands.push_back({ReportSection::PageHeader, {}, {}, 0});
     addParts(report, definition.parts, context);
+    addParts(report, lastParts, context);
     for (int section = static_cast<int>(ReportSection::Zones_Header);
          section < static_cast<int>(ReportSection::PageFooter); ++section)
         report.bands.push_back({static_cast<ReportSection>(section), {}, {}, 0});

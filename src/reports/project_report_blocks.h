@@ -79,23 +79,24 @@ inline constexpr Part inputsHeading =
     Heading{{"InputParametersLabel", words(Text::inputParameters)}};
 /// Where the input parameters of a detailed form go on.
 inline constexpr Part inputsContHeading =
-    Heading{{"InputParametersContLabel", computed(inputParametersContOf)}};
-inline constexpr Part heatPumpPart = Blocks{heatPumpLeft, heatPumpRight};
-inline constexpr Part loadTempsHeading =
-    Heading{{"LoadTempsLabel", words(Text::loadInletTemperatures)}, ItemStyle::subheading};
-inline constexpr Part loadTempsPart =
+    Heading{{"InputParametersContLabel", computed(inputParametersContOf)},
+            ItemStyle::heading,
+            Printed::inDetail};
+
+/// What ends every project report: pumps, loads, comments and drawings.
+inline constexpr Part lastParts[] = {
+    Blocks{heatPumpLeft, heatPumpRight},
+    Heading{{"LoadTempsLabel", words(Text::loadInletTemperatures)}, ItemStyle::subheading},
     Table{{{{{"CoolingLabel2", words(Text::resultsCooling)}, Tint::cooling},
             {{"HeatingLabel2", words(Text::resultsHeating)}, Tint::heating}}},
           loadTempRows,
-          ItemStyle::figure};
-inline constexpr Part loadsFileHeading =
-    Heading{{"LoadsFileLabel", words(Text::loadsFile)}, ItemStyle::subheading};
-inline constexpr Part loadsFilePart = Note{{"LoadsFilenameLabel", computed(loadsFileOf)}};
-inline constexpr Part commentsHeading =
-    Heading{{"CommentsLabel", words(Text::reportComments)}, ItemStyle::subheading};
-inline constexpr Part commentsPart =
-    Note{{"CommentsTextLabel", project(&ProjectInformation::comments)}};
-inline constexpr Part drawingsPart = Drawings{{"DrawingsLabel", words(Text::reportDrawings)}};
+          ItemStyle::figure},
+    Heading{{"LoadsFileLabel", words(Text::loadsFile)}, ItemStyle::subheading},
+    Note{{"LoadsFilenameLabel", computed(loadsFileOf)}},
+    Heading{{"CommentsLabel", words(Text::reportComments)}, ItemStyle::subheading},
+    Note{{"CommentsTextLabel", project(&ProjectInformation::comments)}},
+    Drawings{{"DrawingsLabel", words(Text::reportDrawings)}},
+};
 
 // The rows of results that every kind has.
 inline constexpr ResultLine unitInletLine{"UnitInlet", "CAUnitInletLabel"};

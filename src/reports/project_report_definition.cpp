@@ -44,6 +44,7 @@ struct AddPart {
     }
 
     void operator()(const Heading& heading) const {
+        if (!isPrinted(heading.printed, context)) return;
         band(headingColumns)
             .rows.push_back({{itemOf(heading.label, heading.style, 0, 1, context)}});
     }
@@ -108,11 +109,14 @@ struct AddPart {
     }
 
     void addRow(ReportBand& table, const TableRow& row, ItemStyle style) const {
-        ReportRow line{{itemOf(row.caption, ItemStyle::caption, 0, 1, context),
-                        itemOf(row.first, style, 1, 1, context),
-                        itemOf(row.second, style, 2, 1, context)}};
-        for (ReportItem& item : line.items)
-            if (item.style != ItemStyle::caption) item.unitAt = unitPlace(item.text);
+        ReportRow line{{itemOf(row.caption, ItemStyle::caption, 0, 1, context)}};
+        int column = 0;
+        for (const Labelled* value : {&row.first, &row.second}) {
+            ++column;
+            if (value->control == nullptr) continue;
+            line.items.push_back(itemOf(*value, style, column, 1, context));
+            line.items.back().unitAt = unitPlace(line.items.back().text);
+        }
         table.rows.push_back(std::move(line));
     }
 

@@ -12,21 +12,23 @@ namespace varnholt {
 // What the project reports are built from, as data: headings, tables of two columns of values,
 // blocks of captions with values side by side, and long texts.
 
-/// A control by name and what it prints.
+/// A control by name and what it prints; without a name there is none.
 struct Labelled {
-    const char* control;
-    Source source;
+    const char* control = nullptr;
+    Source source = nothing();
 };
 
 /// The heading of a part.
 struct Heading {
     Labelled label;
     ItemStyle style = ItemStyle::heading;
+    Printed printed = Printed::always;
 };
 
-/// One row of a table: a caption and a value in each of two columns.
+/// One row of a table: a caption and a value in each of two columns, or a caption of the rows
+/// below.
 struct TableRow {
-    Labelled caption, first, second;
+    Labelled caption, first{}, second{};
 };
 
 struct TableColumn {
@@ -78,7 +80,7 @@ struct Note {
     Labelled label;
 };
 
-/// The drawings that the window has.
+/// The drawings that the report has; those of a short form are none.
 struct Drawings {
     Labelled heading;
 };
@@ -91,7 +93,7 @@ struct ProjectReportDefinition {
     int option;  ///< of `PrintOption` in `frmPROptions`
     const char* object;
     int titleText;
-    std::span<const Part> parts;
+    std::span<const Part> parts;  ///< before those that end every project report
 };
 
 constexpr int detailedForm = 0;

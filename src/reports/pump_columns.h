@@ -10,7 +10,7 @@
 namespace varnholt {
 
 // The columns of a pump's figures as several reports print them: captions over units, cooling over
-// heating. The last figure takes two columns, one for each of its units.
+// heating. The flow of the load side has two columns: its figure stands below the unit of the pump.
 
 /// Number of the columns.
 constexpr int pumpColumns = 8;
@@ -49,14 +49,16 @@ constexpr auto pumpFigures(int column) {
         ItemDefinition{0, column + 3, 1, "txtFlowRateCool", figure, pumpField("FlowRate Cool")},
         ItemDefinition{0, column + 4, 1, "txtPLFCool", figure, pumpField("PLF Cool")},
         ItemDefinition{0, column + 5, 1, "txtLoadTempCool", figure, pumpField("LoadTemp Cool")},
-        ItemDefinition{0, column + 6, 2, "txtLoadFlowCool", figure, pumpField("LoadFlow Cool")},
+        ItemDefinition{0, column + 6, 1, "txtLoadFlowCool", figure, pumpField("LoadFlow Cool"), Tint::none, Printed::ofAirPump},
+        ItemDefinition{0, column + 7, 1, "txtLoadFlowCool", figure, pumpField("LoadFlow Cool"), Tint::none, Printed::ofWaterPump},
         ItemDefinition{1, column, 1, "txtCapacityHeat", figure, pumpField("Capacity Heat")},
         ItemDefinition{1, column + 1, 1, "txtWattsHeat", figure, pumpField("Watts Heat")},
         ItemDefinition{1, column + 2, 1, "txtCOPHeat", figure, pumpField("COP Heat")},
         ItemDefinition{1, column + 3, 1, "txtFlowRateHeat", figure, pumpField("FlowRate Heat")},
         ItemDefinition{1, column + 4, 1, "txtPLFHeat", figure, pumpField("PLF Heat")},
         ItemDefinition{1, column + 5, 1, "txtLoadTempHeat", figure, pumpField("LoadTemp Heat")},
-        ItemDefinition{1, column + 6, 2, "txtLoadFlowHeat", figure, pumpField("LoadFlow Heat")},
+        ItemDefinition{1, column + 6, 1, "txtLoadFlowHeat", figure, pumpField("LoadFlow Heat"), Tint::none, Printed::ofAirPump},
+        ItemDefinition{1, column + 7, 1, "txtLoadFlowHeat", figure, pumpField("LoadFlow Heat"), Tint::none, Printed::ofWaterPump},
     };
     // clang-format on
 }

@@ -31,6 +31,10 @@ std::string withPages(const std::string& text, std::size_t page, std::size_t pag
 
 bool isText(ItemStyle style) { return style != ItemStyle::rule && style != ItemStyle::drawing; }
 
+bool isField(ItemStyle style) {
+    return style == ItemStyle::value || style == ItemStyle::figure || style == ItemStyle::zone;
+}
+
 std::vector<ReportEntry> entriesOf(const Report& report) {
     std::vector<ReportEntry> entries;
     for (const ReportBand& band : report.bands)

@@ -108,6 +108,8 @@ struct Report {
     std::vector<ReportDrawing> drawings;
     /// Titles of the zones, in their order.
     std::vector<std::string> zones;
+    /// Controls of the zones' bands that print a field, in their order; whatever zones there are.
+    std::vector<std::string> fields;
 };
 
 /// What a page number prints; the places are filled for each page.
@@ -117,6 +119,8 @@ std::string withPages(const std::string& text, std::size_t page, std::size_t pag
 
 /// Whether the style is printed as text.
 bool isText(ItemStyle style);
+/// Whether it is a field's value, and not a word of the report itself.
+bool isField(ItemStyle style);
 
 /// Band by band, row by row, what is printed. Bands of a page stand once, as on the first of one
 /// page.

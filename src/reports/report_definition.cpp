@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "basis/date.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -29,6 +30,13 @@ struct TextOf {
     }
     std::string operator()(const Computed& rule) const { return rule.text(context); }
 };
+
+/// Whether the load side of the pump at hand is water.
+bool isWaterPump(const FillContext& context) {
+    constexpr std::size_t type = fieldNamed(pumpFields, "PumpType");
+    return context.pump != nullptr &&
+           printedText((*context.pump)[type]) == context.window.text(Text::reportWaterToWater);
+}
 
 bool isFigure(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 
@@ -60,8 +68,14 @@ bool isPrinted(Printed printed, const FillContext& context) {
             return context.days;
         case Printed::withoutDays:
             return !context.days;
+        case Printed::ofAirPump:
+            return !isWaterPump(context);
+        case Printed::ofWaterPump:
+            return isWaterPump(context);
         case Printed::withTower:
             return context.tower;
+        case Printed::inDetail:
+            return context.detailed;
         case Printed::withNotice:
             return !context.notice.empty();
         case Printed::withLogo:

@@ -69,7 +69,10 @@ enum class Printed : std::uint8_t {
     always,
     withDays,     ///< the calling window shows the days per week
     withoutDays,  ///< it does not
+    ofAirPump,    ///< the pump at hand heats and cools air
+    ofWaterPump,  ///< it heats and cools water
     withTower,    ///< a cooling tower takes a part of the load
+    inDetail,     ///< the report is the detailed form
     withNotice,   ///< there is something that the reader must know
     withLogo,     ///< the edition of the maker has one
 };
@@ -99,6 +102,7 @@ struct FillContext {
     bool metric = false;
     bool days = true;  ///< the window shows the days per week
     bool tower = false;
+    bool detailed = false;
     std::string title{};    ///< of the report
     std::string notice{};   ///< empty for none
     std::string maker{};    ///< web address of the maker whose logo is printed, empty for none

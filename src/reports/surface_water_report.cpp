@@ -74,14 +74,14 @@ constexpr TableRow headerRows[] = {
      {"NumberOfHeadersTextLabel", shown("PIHeaderNumberText(0)")}, {"NumberOfBranchHeadersTextLabel", shown("PIHeaderNumberText(1)")}},
     {{"HeaderPipeSizeLabel", words(Text::reportHeaderPipeSize)},
      {"HeaderPipeSizeTextLabel", shown("PIHeaderPipeSizeCombo(0)")}, {"SubHeaderPipeSizeTextLabel", shown("PIHeaderPipeSizeCombo(1)")}},
-    {{"HeaderLengthLabel", words(Text::headerLength)}, {"PrimaryHeaderLengthLabel", nothing()}, {"BranchHeaderLengthLabel", nothing()}},
+    {{"HeaderLengthLabel", words(Text::headerLength)}},
     {{"InWaterLabel", words(Text::inWaterColumn)},
      {"InWaterTextLabel", shown("PIHeaderLengthText(0)", "PIHeaderLengthUnitsLabel(0)")},
      {"InWaterSubHeaderTextLabel", shown("PIHeaderLengthText(2)", "PIHeaderLengthUnitsLabel(2)")}},
     {{"InSoilLabel", words(Text::inSoilColumn)},
      {"InSoilTextLabel", shown("PIHeaderLengthText(1)", "PIHeaderLengthUnitsLabel(1)")},
      {"InSoilSubHeaderTextLabel", shown("PIHeaderLengthText(3)", "PIHeaderLengthUnitsLabel(3)")}},
-    {{"HeaderHeadLossLabel", shown("PIHeaderHeadLossFrame")}, {"PrimaryHeaderHeadLossLabel", nothing()}, {"BranchHeaderHeadLossLabel", nothing()}},
+    {{"HeaderHeadLossLabel", shown("PIHeaderHeadLossFrame")}},
     {{"HeaderHeadLossCoolingLabel", words(Text::coolingColumn)},
      {"CoolingTextLabel5", shown("PIHeaderHeadLossText(0)", "PIHeaderHeadLossUnitsLabel(0)")},
      {"SubHeaderCoolingTextLabel", shown("PIHeaderHeadLossText(2)", "PIHeaderHeadLossUnitsLabel(2)")}},
@@ -92,11 +92,11 @@ constexpr TableRow headerRows[] = {
 // clang-format on
 
 constexpr Block fluidAndPower[] = {fluidBlock, extraPowerBlock};
-constexpr Block soil[] = {{{"SoilLabel", words(Text::soilPage)}, waterSoilPairs}};
+constexpr Block soilAndWater[] = {
+    {{"SoilLabel", words(Text::soilPage)}, waterSoilPairs},
+    {{"SurfaceWaterPropertiesLabel", words(Text::surfaceWaterProperties)}, waterPairs}};
 constexpr Block circuit[] = {
     {{"CircuitParametersLabel", words(Text::circuitParameters)}, circuitPairs}};
-constexpr Block water[] = {
-    {{"SurfaceWaterPropertiesLabel", words(Text::surfaceWaterProperties)}, waterPairs}};
 
 constexpr Part pipingHeading =
     Heading{{"PipingLabel", words(Text::loopPipingPage)}, ItemStyle::subheading};
@@ -113,53 +113,26 @@ constexpr Part headerTable = Table{{{{{"PrimaryHeaderLabel", words(Text::primary
                                      {{"BranchHeaderLabel", words(Text::branchColumn)}}}},
                                    headerRows};
 
-constexpr Part detailedParts[] = {
+constexpr Part parts[] = {
     resultsHeading,
     Results{resultLines},
     inputsHeading,
-    Blocks{fluidAndPower, soil},
-    Blocks{circuit, water},
-    modeTable,
+    Blocks{fluidAndPower, soilAndWater},
+    // Of the soil and of the water.
+    seasonTable,
     inputsContHeading,
-    seasonTable,
     pipingHeading,
-    headersHeading,
-    headerTable,
-    heatPumpPart,
-    loadTempsHeading,
-    loadTempsPart,
-    loadsFileHeading,
-    loadsFilePart,
-    commentsHeading,
-    commentsPart,
-    drawingsPart,
-};
-
-constexpr Part shortParts[] = {
-    resultsHeading,
-    Results{resultLines},
-    inputsHeading,
-    Blocks{fluidAndPower, soil},
-    Blocks{circuit, water},
+    Blocks{circuit, {}},
     modeTable,
-    seasonTable,
-    pipingHeading,
     headersHeading,
     headerTable,
-    heatPumpPart,
-    loadTempsHeading,
-    loadTempsPart,
-    loadsFileHeading,
-    loadsFilePart,
-    commentsHeading,
-    commentsPart,
 };
 
 }  // namespace
 
 constinit const std::array<ProjectReportDefinition, 2> surfaceWaterReports{{
-    {"frmSWDesign", detailedForm, "rptSW", Text::surfaceWaterDesignTitle, detailedParts},
-    {"frmSWDesign", shortForm, "rptSWShort", Text::surfaceWaterDesignTitle, shortParts},
+    {"frmSWDesign", detailedForm, "rptSW", Text::surfaceWaterDesignTitle, parts},
+    {"frmSWDesign", shortForm, "rptSWShort", Text::surfaceWaterDesignTitle, parts},
 }};
 
 }  // namespace varnholt

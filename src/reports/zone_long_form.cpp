@@ -10,7 +10,7 @@ namespace {
 using enum ReportSection;
 using enum ItemStyle;
 
-// Captions, units, then eight columns of figures, the last two of which one figure shares.
+// Captions, units, then eight columns of figures; the last two are a pump's flow in air or water.
 constexpr double columns[] = {24, 16, 19.5, 19.5, 19.5, 19.5, 19.5, 19.5, 11.5, 11.5};
 
 // clang-format off
@@ -73,7 +73,8 @@ constexpr ItemDefinition pumpItems[] = {
     {4, 5, 1, "txtFlowRateCool",     figure, pumpField("FlowRate Cool")},
     {4, 6, 1, "txtPLFCool",          figure, pumpField("PLF Cool")},
     {4, 7, 1, "txtLoadTempCool",     figure, pumpField("LoadTemp Cool")},
-    {4, 8, 2, "txtLoadFlowCool",     figure, pumpField("LoadFlow Cool")},
+    {4, 8, 1, "txtLoadFlowCool",     figure, pumpField("LoadFlow Cool"), Tint::none, Printed::ofAirPump},
+    {4, 9, 1, "txtLoadFlowCool",     figure, pumpField("LoadFlow Cool"), Tint::none, Printed::ofWaterPump},
     {5, 0, 2, "HeatingLabel1",       caption, words(Text::heating), Tint::heating},
     {5, 2, 1, "txtCapacityHeat",     figure, pumpField("Capacity Heat")},
     {5, 3, 1, "txtWattsHeat",        figure, pumpField("Watts Heat")},
@@ -81,7 +82,8 @@ constexpr ItemDefinition pumpItems[] = {
     {5, 5, 1, "txtFlowRateHeat",     figure, pumpField("FlowRate Heat")},
     {5, 6, 1, "txtPLFHeat",          figure, pumpField("PLF Heat")},
     {5, 7, 1, "txtLoadTempHeat",     figure, pumpField("LoadTemp Heat")},
-    {5, 8, 2, "txtLoadFlowHeat",     figure, pumpField("LoadFlow Heat")},
+    {5, 8, 1, "txtLoadFlowHeat",     figure, pumpField("LoadFlow Heat"), Tint::none, Printed::ofAirPump},
+    {5, 9, 1, "txtLoadFlowHeat",     figure, pumpField("LoadFlow Heat"), Tint::none, Printed::ofWaterPump},
 };
 // clang-format on
 

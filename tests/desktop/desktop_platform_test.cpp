@@ -49,6 +49,11 @@ class DesktopPlatformTest : public testing::Test {
     std::unique_ptr<MainWindow> window;
 };
 
+TEST_F(DesktopPlatformTest, TakesTheDayThatItIsGivenForToday) {
+    EXPECT_EQ(DesktopPlatform(shelf, Date{2026, 1, 15}).today(), (Date{2026, 1, 15}));
+    EXPECT_EQ(platform.today(), dateOfToday());
+}
+
 TEST_F(DesktopPlatformTest, ShowsAMessageAsItStandsWithItsIcon) {
     QString shown;
     QMessageBox::Icon icon = QMessageBox::NoIcon;

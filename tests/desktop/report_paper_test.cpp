@@ -75,6 +75,19 @@ TEST_F(Paper, LiesAsTheReportWantsUnlessTheUserTurnsIt) {
     EXPECT_EQ(setup.layoutFor(*samples.zones(1, 2)).orientation(), QPageLayout::Landscape);
 }
 
+TEST_F(Paper, IsTurnedAndTurnedBackInItsSetUp) {
+    const auto sheet = [](QPageSize::PageSizeId size, QPageLayout::Orientation way) {
+        return QPageLayout(QPageSize(size), way, {});
+    };
+    PageSetup setup;
+    setup.take(sheet(QPageSize::Letter, QPageLayout::Portrait));
+    EXPECT_EQ(setup, PageSetup{QPageSize(QPageSize::Letter)});
+    setup.take(sheet(QPageSize::A4, QPageLayout::Landscape));
+    EXPECT_EQ(setup.layoutFor(*samples.zones(1, 2)).orientation(), QPageLayout::Landscape);
+    setup.take(sheet(QPageSize::A4, QPageLayout::Portrait));
+    EXPECT_EQ(setup.layoutFor(*samples.zones(1, 2)).orientation(), QPageLayout::Portrait);
+}
+
 TEST_F(Paper, HoldsEveryRowWithinItsMargins) {
     for (int option = 1; option <= 5; ++option)
         for (const QPageSize::PageSizeId size : {QPageSize::A4, QPageSize::Letter}) {

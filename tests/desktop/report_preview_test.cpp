@@ -9,11 +9,14 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QToolBar>
+#include <algorithm>
 #include <filesystem>
 
 #include "basis/temporary_folder.h"
 #include "desktop/paper/print_module.h"
 #include "desktop/report_samples.h"
+#include "desktop/widgets/qt_text.h"
 #include "desktop/windows/report_preview.h"
 #include "desktop/windows/report_windows.h"
 #include "forms/text_numbers.h"
@@ -75,6 +78,44 @@ TEST_F(Previews, LayTheReportOutForOtherPaper) {
     EXPECT_GT(preview.view().pages()->sheet().width(), preview.view().pages()->sheet().height());
 }
 
+TEST_F(Previews, HaveEveryToolInSight) {
+    ReportPreview& preview = shown(samples.borehole(0));
+    preview.parentWidget()->resize(900, 800);
+    Desk::settle();
+    for (const auto* bar : preview.findChildren<QToolBar*>())
+        EXPECT_LE(bar->sizeHint().width(), bar->width()) << bar->actions().size();
+    for (const auto* bar : preview.findChildren<QToolBar*>())
+        for (QAction* action : bar->actions())
+            EXPECT_TRUE(bar->widgetForAction(action)->isVisible()) << plain(action->text());
+}
+
+TEST_F(Previews, NamePaperThatIsNotInTheirList) {
+    ReportPreview& preview = shown(samples.borehole(0));
+    const auto* paper = preview.findChild<QComboBox*>(QStringLiteral("paper"));
+    EXPECT_EQ(paper->currentText(), QStringLiteral("Letter"));
+    preview.setSetup({QPageSize(QPageSize::A3)});
+    EXPECT_EQ(paper->currentIndex(), -1);
+    EXPECT_EQ(paper->placeholderText(), QPageSize(QPageSize::A3).name());
+}
+
+TEST_F(Previews, KeepTheirPagesWhereLayingThemOutAnewIsBrokenOff) {
+    bool goesOn = true;
+    PreviewServices services;
+    services.layingOut = [&](std::size_t, std::size_t) { return goesOn; };
+    ReportPreview preview(samples.zones(300, 2), usualPage(0x409), desk.program.texts(), services);
+    const std::size_t before = preview.view().pageCount();
+    goesOn = false;
+    auto* paper = preview.findChild<QComboBox*>(QStringLiteral("paper"));
+    paper->setCurrentIndex(0);
+    Q_EMIT paper->activated(0);
+    trigger(preview, "landscape");
+    EXPECT_EQ(preview.view().pageCount(), before);
+    EXPECT_TRUE(preview.view().pages()->isComplete());
+    EXPECT_EQ(preview.setup(), usualPage(0x409));
+    EXPECT_EQ(paper->currentText(), QStringLiteral("Letter"));
+    EXPECT_FALSE(preview.findChild<QAction*>(QStringLiteral("landscape"))->isChecked());
+}
+
 TEST_F(Previews, SaveEveryKindOfFile) {
     ReportPreview& preview = shown(samples.borehole(0));
     for (const char* name : {"a.pdf", "a.html", "a.csv"}) {
@@ -98,6 +139,34 @@ TEST_F(Previews, CopyThePageInFrontAsText) {
     const QString text = QGuiApplication::clipboard()->text();
     EXPECT_TRUE(text.contains(QStringLiteral("Borehole Design Project Report")));
     EXPECT_TRUE(text.contains(QStringLiteral("1 / ")));
+}
+
+TEST_F(Previews, CopyAPageWithItsColumns) {
+    // The second line of a zone has no number, units and pump: zone, mode, four blocks, hours,
+    // units, pump, then the pump's figures.
+    ReportPreview& preview = shown(samples.zones(1, 1));
+    trigger(preview, "copy");
+    const QStringList lines = QGuiApplication::clipboard()->text().split(u'\n');
+    const auto first = std::find_if(lines.begin(), lines.end(), [](const QString& line) {
+        return line.startsWith(QStringLiteral("1\tCooling\t10.5"));
+    });
+    ASSERT_NE(first, lines.end());
+    ASSERT_NE(first + 1, lines.end());
+    EXPECT_TRUE(first->startsWith(
+        QStringLiteral("1\tCooling\t10.5\t10.5\t10.5\t10.5\t1200\t1\tAB-036\t36.0\t")));
+    EXPECT_TRUE(
+        (first + 1)->startsWith(QStringLiteral("\tHeating\t8.3\t8.3\t8.3\t8.3\t900\t\t\t30.0\t")));
+}
+
+TEST_F(Previews, CopyWhatTheUserWroteAsItStands) {
+    ReportPreview& preview = shown(samples.borehole(0, "90%p of the load, 10%P of the hours"));
+    QString text;
+    for (std::size_t page = 0; page < preview.view().pageCount(); ++page) {
+        preview.view().goTo(page);
+        trigger(preview, "copy");
+        text += QGuiApplication::clipboard()->text();
+    }
+    EXPECT_TRUE(text.contains(QStringLiteral("90%p of the load, 10%P of the hours")));
 }
 
 TEST_F(Previews, TellThatThereIsNoPrinter) {

@@ -33,6 +33,10 @@ TEST(StartedProgram, DoesWithoutTheChartsWhereTheyAreMissing) {
     const std::filesystem::path copy = elsewhere.path() / "bin" / "varnholt";
     std::filesystem::create_directories(copy.parent_path());
     std::filesystem::copy_file(windows, copy);
+    // Beside it, as an installation has it, what the program shows; but not its modules.
+    std::filesystem::create_directory(elsewhere.path() / "share");
+    std::filesystem::create_directory_symlink(VARNHOLT_RESOURCE_DIR,
+                                              elsewhere.path() / "share" / "varnholt");
     StartedProgram program(copy.string());
     const std::filesystem::path picture = elsewhere.path() / "curves.png";
     program.run(showCurves + "\nshot frmZoneManage " + picture.string());
@@ -65,6 +69,10 @@ TEST(StartedProgram, ShowsPagesAndHelpWhereTheModulesAreMissing) {
     const std::filesystem::path copy = elsewhere.path() / "bin" / "varnholt";
     std::filesystem::create_directories(copy.parent_path());
     std::filesystem::copy_file(windows, copy);
+    // Beside it, as an installation has it, what the program shows; but not its modules.
+    std::filesystem::create_directory(elsewhere.path() / "share");
+    std::filesystem::create_directory_symlink(VARNHOLT_RESOURCE_DIR,
+                                              elsewhere.path() / "share" / "varnholt");
     StartedProgram program(copy.string(), {QStringLiteral("--browser"), QStringLiteral("web")});
     program.run("click Varnmain.FluidProperties");
     EXPECT_EQ(program.run("forms"),

@@ -36,6 +36,7 @@ Report zonesOf(const std::string& title) {
     Report report;
     report.object = "rptZoneNM";
     report.zones = {"Zone 1"};
+    report.fields = {"txtTitle", "txtName"};
     report.bands.push_back(
         {ReportSection::Zones_Header, columns, {{{{.control = "txtTitle", .text = title}}}}, 1});
     report.bands.push_back(
@@ -79,7 +80,7 @@ TEST(CsvReport, HasOneRowAPumpOfZones) {
 TEST(CsvReport, HasARowForAZoneWithoutAPump) {
     Report report = zonesOf("Only");
     report.bands.pop_back();
-    EXPECT_EQ(csvOf(report), "txtTitle\r\nOnly\r\n");
+    EXPECT_EQ(csvOf(report), "txtTitle,txtName\r\nOnly,\r\n");
 }
 
 TEST(HtmlText, IsNoMarkup) {
@@ -92,6 +93,15 @@ TEST(HtmlReport, HoldsNoMarkupOfAName) {
     const std::string page = htmlOf(reportOf("<script>alert('x')</script>"));
     EXPECT_EQ(page.find("<script"), std::string::npos);
     EXPECT_NE(page.find("&lt;script&gt;"), std::string::npos);
+}
+
+TEST(HtmlReport, IsSetInTheFontOfTheLanguage) {
+    Report report = reportOf("42");
+    EXPECT_EQ(htmlOf(report).find("body{font-family"), std::string::npos);
+    report.font = "Noto Serif";
+    EXPECT_NE(htmlOf(report).find("body{font-family:\"Noto Serif\","), std::string::npos);
+    report.font = "a\"}</style><script>";
+    EXPECT_NE(htmlOf(report).find("body{font-family:\"a/stylescript\","), std::string::npos);
 }
 
 TEST(HtmlReport, NeedsNothingBesideItself) {

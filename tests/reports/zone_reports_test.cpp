@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "loads/loads_fixture.h"
+#include "reports/csv_report.h"
 #include "reports/install.h"
 #include "reports/report_shelf.h"
 
@@ -49,6 +50,15 @@ class ZoneReports : public LoadsTest {
                 for (const ReportItem& item : row.items)
                     if (item.control == control) lengths.push_back(item.length);
         return lengths;
+    }
+    /// The first columns that the control stands in.
+    static std::vector<int> columnsOf(const Report& report, const std::string& control) {
+        std::vector<int> columns;
+        for (const ReportBand& band : report.bands)
+            for (const ReportRow& row : band.rows)
+                for (const ReportItem& item : row.items)
+                    if (item.control == control) columns.push_back(item.first);
+        return columns;
     }
 
     ReportShelf shelf;
@@ -243,6 +253,23 @@ TEST_F(ZoneReports, OfTheEquipmentNameMakerSeriesAndType) {
     EXPECT_EQ(rules(report, "Line3").size(), 1U);
 }
 
+/// Under "cfm" for a pump that moves air, under "gpm" for one that moves water.
+TEST_F(ZoneReports, PrintTheFlowOfTheLoadBelowItsUnit) {
+    frmZoneManage& window = manager();
+    addZone(window, 20, 15);
+    for (const int type : {0, 1}) {
+        window.change([type](LoadsDocument& document) {
+            document.data.zones.edit(0).pump.pumpType = static_cast<std::int16_t>(type);
+        });
+        const char* unit = type == 0 ? "LoadFlowUnitsLabel1" : "LoadFlowUnitsLabel2";
+        for (const int option : {shortOption, longOption, equipment}) {
+            const Report& report = print(window, option);
+            for (const char* flow : {"txtLoadFlowCool", "txtLoadFlowHeat"})
+                EXPECT_EQ(columnsOf(report, flow), columnsOf(report, unit)) << option << flow;
+        }
+    }
+}
+
 TEST_F(ZoneReports, OfAnAverageBlockPrintItsOneZone) {
     frmAvgBlock& window = block();
     addZone(window, 200, 150);
@@ -254,6 +281,14 @@ TEST_F(ZoneReports, OfNoZonesPrintOneEmptyZone) {
     const Report& report = print(manager(), longOption);
     EXPECT_EQ(textOf(report, "Zones_Header", "txtZoneNumber"), "");
     EXPECT_TRUE(textsOf(report, "Pumps_Detail", "txtName").empty());
+}
+
+TEST_F(ZoneReports, OfNoZonesHaveTheHeadsOfTheirTableAllTheSame) {
+    frmZoneManage& window = manager();
+    EXPECT_EQ(csvOf(print(window, names)), "txtZoneID,txtTitle,txtName,txtUnitNumber\r\n,,,\r\n");
+    addZone(window, 20, 15);
+    EXPECT_TRUE(csvOf(print(window, names))
+                    .starts_with("txtZoneID,txtTitle,txtName,txtUnitNumber\r\n1, ,"));
 }
 
 TEST_F(ZoneReports, ShowTheLogoInTheEditionOfAMaker) {

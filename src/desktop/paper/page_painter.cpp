@@ -34,6 +34,16 @@ struct PaintWhat {
     }
 };
 
+/// What of an item stands on a page: all of it, or the lines of a text that goes on over pages.
+QString wordsOn(const LaidRow& row, const LaidItem& laid, std::size_t page, std::size_t pages) {
+    if (laid.item->text == pageNumberText) return qt(withPages(laid.item->text, page + 1, pages));
+    const std::size_t end = std::min(row.lastLine, laid.lines.size());
+    if (row.firstLine == 0 && end == laid.lines.size()) return qt(laid.item->text);
+    QStringList lines;
+    for (std::size_t line = row.firstLine; line < end; ++line) lines << laid.lines[line];
+    return lines.join(u'\n');
+}
+
 QString numberOf(const ReportItem& item) {
     return qt(item.unitAt == 0 ? item.text : item.text.substr(0, item.unitAt - 1));
 }
@@ -204,11 +214,15 @@ QString wordsOf(const PageLayout& layout, std::size_t page) {
                      [](const PlacedRow& a, const PlacedRow& b) { return a.top < b.top; });
     QString words;
     for (const PlacedRow& placed : rows) {
-        QStringList cells;
-        for (const LaidItem& laid : placed.row->items)
-            if (isText(laid.item->style))
-                cells << qt(withPages(laid.item->text, page + 1, layout.pages().size()));
-        words += cells.join(u'\t') + u'\n';
+        qsizetype column = 0;
+        for (const LaidItem& laid : placed.row->items) {
+            if (!isText(laid.item->style)) continue;
+            // Columns that are empty are passed over, so that a row stays below the heads.
+            words += QString(laid.item->first - column, u'\t');
+            column = laid.item->first;
+            words += wordsOn(*placed.row, laid, page, layout.pages().size());
+        }
+        words += u'\n';
     }
     return words;
 }

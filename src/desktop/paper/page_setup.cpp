@@ -18,6 +18,12 @@ QPageLayout PageSetup::layoutFor(const Report& report) const {
     return {size, orientation.value_or(own), margins, QPageLayout::Millimeter};
 }
 
+void PageSetup::take(const QPageLayout& chosen) {
+    if (chosen.orientation() != layoutFor(Report()).orientation())
+        orientation = chosen.orientation();
+    size = chosen.pageSize();
+}
+
 PageSetup usualPage(unsigned localeNumber) {
     // The countries of the Unicode consortium's list whose paper is Letter, by language and region.
     constexpr unsigned letterLocales[] = {

@@ -17,6 +17,9 @@ struct PageSetup {
 
     /// The sheet with its margins for a report.
     QPageLayout layoutFor(const Report& report) const;
+    /// Takes a sheet that was chosen in place of that of an upright report. Reports keep their own
+    /// way until the user turns the sheet.
+    void take(const QPageLayout& chosen);
     bool operator==(const PageSetup&) const = default;
 };
 

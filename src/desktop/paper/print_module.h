@@ -15,7 +15,8 @@ namespace varnholt {
 struct PrintJob {
     QString title;
     QPageLayout paper;
-    /// Lays the report out for the printer's paper; the number of its pages.
+    /// Lays the report out for the printer's paper; the number of its pages, 0 where the user has
+    /// broken it off.
     std::function<int(const QPageLayout& paper)> layOut;
     /// Paints a page, from 0; the painter measures in tenths of a point from the sheet's corner.
     std::function<void(QPainter& painter, int page)> paint;

@@ -24,6 +24,7 @@ void printPages(QPrinter& printer, const PrintJob& job) {
     QPageLayout paper = printer.pageLayout();
     paper.setMode(QPageLayout::StandardMode);
     const int pages = job.layOut(paper);
+    if (pages == 0) return;
     const auto [from, to] = rangeOf(printer, pages);
     printer.setFullPage(true);
     QPainter painter(&printer);
@@ -43,12 +44,14 @@ void printPages(QPrinter& printer, const PrintJob& job) {
 bool Printing::hasPrinter() const { return !QPrinterInfo::availablePrinterNames().isEmpty(); }
 
 void Printing::print(QWidget* parent, const PrintJob& job) {
+    const int pages = job.layOut(job.paper);
+    if (pages == 0) return;
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(job.title);
     printer.setPageLayout(job.paper);
     QPrintDialog dialog(&printer, parent);
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
-    dialog.setMinMax(1, std::max(1, job.layOut(job.paper)));
+    dialog.setMinMax(1, pages);
     if (dialog.exec() == QDialog::Accepted) printPages(printer, job);
 }
 

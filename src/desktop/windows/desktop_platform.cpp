@@ -95,7 +95,8 @@ constexpr int repaintEvery = 40;
 
 }  // namespace
 
-DesktopPlatform::DesktopPlatform(WindowShelf& shelf) : shelf_(shelf) {}
+DesktopPlatform::DesktopPlatform(WindowShelf& shelf, const std::optional<Date>& today)
+    : shelf_(shelf), today_(today) {}
 
 DesktopPlatform::~DesktopPlatform() = default;
 

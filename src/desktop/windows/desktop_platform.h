@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "desktop/windows/window_shelf.h"
@@ -15,7 +16,8 @@ namespace varnholt {
 /// The platform of a person at a desktop: message boxes, file dialogs, windows, the clipboard.
 class DesktopPlatform : public Platform {
  public:
-    explicit DesktopPlatform(WindowShelf& shelf);
+    /// @param today  the day to take for today; the computer's without one
+    explicit DesktopPlatform(WindowShelf& shelf, const std::optional<Date>& today = {});
     ~DesktopPlatform() override;
 
     void message(MessageIcon icon, const std::string& title, const std::string& text) override;
@@ -28,7 +30,7 @@ class DesktopPlatform : public Platform {
     void runModal(Form& form) override { shelf_.runModal(form); }
     std::string clipboard() override;
     void setClipboard(const std::string& text) override;
-    Date today() override { return dateOfToday(); }
+    Date today() override { return today_.value_or(dateOfToday()); }
     void edit(EditCommand command) override;
     void progress(const std::string& what, std::size_t done, std::size_t total) override;
     bool waitFor(const std::string& path, std::chrono::milliseconds waited) override;
@@ -44,6 +46,7 @@ class DesktopPlatform : public Platform {
                const std::string& text);
 
     WindowShelf& shelf_;
+    std::optional<Date> today_;
     std::unique_ptr<QProgressDialog> progress_, waiting_;
     QElapsedTimer started_, painted_;
 };

@@ -57,7 +57,7 @@ int runPrepared(QApplication& application, const CommandLine& line) {
     const InstalledFiles installed = installedFiles();
     const std::string folder = programFolderOf(line, installed);
     WindowShelf shelf(false);
-    DesktopPlatform platform(shelf);
+    DesktopPlatform platform(shelf, line.today);
     DesktopPages pages(line.browser);
     DesktopHelp help;
     Application program(platform,

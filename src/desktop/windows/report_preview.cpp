@@ -15,6 +15,7 @@
 #include "basis/run_time_error.h"
 #include "desktop/paper/pdf_file.h"
 #include "desktop/paper/print_module.h"
+#include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
@@ -40,27 +41,30 @@ ReportPreview::ReportPreview(std::shared_ptr<const Report> report, const PageSet
       setup_(setup),
       texts_(texts),
       services_(std::move(services)),
-      bar_(new QToolBar),
+      fileBar_(new QToolBar),
+      pageBar_(new QToolBar),
       view_(new ReportView(texts)) {
     setObjectName(qt(report_->object));
     setWindowTitle(qt(report_->caption).trimmed());
+    setWindowIcon(houseIcon(QStringLiteral("print")));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(bar_);
+    layout->addWidget(fileBar_);
+    layout->addWidget(pageBar_);
     layout->addWidget(view_);
     addTools();
     view_->setAccessibleName(windowTitle());
     view_->onChange = [this] { showState(); };
     setFocusProxy(view_);
-    layOut();
+    setSetup(setup_);
 }
 
 QString ReportPreview::words(int text) const { return qt(texts_.text(text)); }
 
-QAction* ReportPreview::tool(const char* name, int text, const char* keys,
+QAction* ReportPreview::tool(QToolBar* bar, const char* name, int text, const char* keys,
                              void (ReportPreview::*run)()) {
-    QAction* action = bar_->addAction(words(text));
+    QAction* action = bar->addAction(words(text));
     action->setObjectName(QString::fromLatin1(name));
     if (*keys != '\0') {
         action->setShortcut(QKeySequence(QString::fromLatin1(keys)));
@@ -74,37 +78,39 @@ QAction* ReportPreview::tool(const char* name, int text, const char* keys,
     return action;
 }
 
+/// What is done with the report, and below it how it is shown: in one row they would not all be in
+/// sight.
 void ReportPreview::addTools() {
-    bar_->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    tool("print", Text::previewPrint, "", &ReportPreview::print);
-    tool("savePdf", Text::previewSavePdf, "", &ReportPreview::savePdf);
-    tool("saveHtml", Text::previewSaveHtml, "", &ReportPreview::saveHtml);
-    tool("saveCsv", Text::previewSaveCsv, "", &ReportPreview::saveCsv);
-    tool("copy", Text::previewCopy, "", &ReportPreview::copy);
-    bar_->addSeparator();
-    addPageTools();
-    bar_->addSeparator();
-    addPaperTools();
-    bar_->addSeparator();
+    fileBar_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    pageBar_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    tool(fileBar_, "print", Text::previewPrint, "", &ReportPreview::print);
+    tool(fileBar_, "savePdf", Text::previewSavePdf, "", &ReportPreview::savePdf);
+    tool(fileBar_, "saveHtml", Text::previewSaveHtml, "", &ReportPreview::saveHtml);
+    tool(fileBar_, "saveCsv", Text::previewSaveCsv, "", &ReportPreview::saveCsv);
+    tool(fileBar_, "copy", Text::previewCopy, "", &ReportPreview::copy);
+    fileBar_->addSeparator();
     addSearch();
+    addPageTools();
+    pageBar_->addSeparator();
+    addPaperTools();
 }
 
 void ReportPreview::addPageTools() {
-    tool("previous", Text::previewPreviousPage, "Alt+Up", &ReportPreview::previousPage)
+    tool(pageBar_, "previous", Text::previewPreviousPage, "Alt+Up", &ReportPreview::previousPage)
         ->setText(QStringLiteral("\u2039"));
     page_ = new QSpinBox;
     page_->setAccessibleName(words(Text::previewPage));
     page_->setKeyboardTracking(false);
     page_->setButtonSymbols(QAbstractSpinBox::NoButtons);
     pages_ = new QLabel;
-    bar_->addWidget(page_);
-    bar_->addWidget(pages_);
-    tool("next", Text::previewNextPage, "Alt+Down", &ReportPreview::nextPage)
+    pageBar_->addWidget(page_);
+    pageBar_->addWidget(pages_);
+    tool(pageBar_, "next", Text::previewNextPage, "Alt+Down", &ReportPreview::nextPage)
         ->setText(QStringLiteral("\u203A"));
     connect(page_, &QSpinBox::valueChanged, this,
             [this](int page) { view_->goTo(static_cast<std::size_t>(page - 1)); });
-    bar_->addSeparator();
-    tool("smaller", Text::previewSmaller, "Ctrl+-", &ReportPreview::smaller)
+    pageBar_->addSeparator();
+    tool(pageBar_, "smaller", Text::previewSmaller, "Ctrl+-", &ReportPreview::smaller)
         ->setText(QStringLiteral("\u2212"));
     zoom_ = new QComboBox;
     zoom_->setAccessibleName(words(Text::previewZoom));
@@ -112,8 +118,8 @@ void ReportPreview::addPageTools() {
     for (const int percent : {50, 75, 100, 125, 150, 200, 300})
         zoom_->addItem(QStringLiteral("%1 %").arg(percent), percent);
     zoom_->setEditable(true);
-    bar_->addWidget(zoom_);
-    tool("larger", Text::previewLarger, "Ctrl++", &ReportPreview::larger)
+    pageBar_->addWidget(zoom_);
+    tool(pageBar_, "larger", Text::previewLarger, "Ctrl++", &ReportPreview::larger)
         ->setText(QStringLiteral("+"));
     connect(zoom_, &QComboBox::textActivated, this, [this](const QString& text) {
         if (text == zoom_->itemText(0)) return fitWidth();
@@ -124,22 +130,23 @@ void ReportPreview::addPageTools() {
 }
 
 void ReportPreview::addPaperTools() {
-    continuous_ = tool("continuous", Text::previewContinuous, "", &ReportPreview::toggleContinuous);
+    continuous_ =
+        tool(pageBar_, "continuous", Text::previewContinuous, "", &ReportPreview::toggleContinuous);
     continuous_->setCheckable(true);
     continuous_->setChecked(true);
-    auto* paper = new QComboBox;
-    paper->setAccessibleName(words(Text::previewPaper));
-    paper->addItem(words(Text::paperA4), static_cast<int>(QPageSize::A4));
-    paper->addItem(words(Text::paperLetter), static_cast<int>(QPageSize::Letter));
-    paper->setCurrentIndex(setup_.size.id() == QPageSize::Letter ? 1 : 0);
-    paper->setObjectName(QStringLiteral("paper"));
-    bar_->addWidget(paper);
-    connect(paper, &QComboBox::activated, this, [this, paper] {
+    paper_ = new QComboBox;
+    paper_->setAccessibleName(words(Text::previewPaper));
+    paper_->addItem(words(Text::paperA4), static_cast<int>(QPageSize::A4));
+    paper_->addItem(words(Text::paperLetter), static_cast<int>(QPageSize::Letter));
+    paper_->setObjectName(QStringLiteral("paper"));
+    pageBar_->addWidget(paper_);
+    connect(paper_, &QComboBox::activated, this, [this] {
         PageSetup other = setup_;
-        other.size = QPageSize(static_cast<QPageSize::PageSizeId>(paper->currentData().toInt()));
+        other.size = QPageSize(static_cast<QPageSize::PageSizeId>(paper_->currentData().toInt()));
         setSetup(other);
     });
-    landscape_ = tool("landscape", Text::previewLandscape, "", &ReportPreview::toggleLandscape);
+    landscape_ =
+        tool(pageBar_, "landscape", Text::previewLandscape, "", &ReportPreview::toggleLandscape);
     landscape_->setCheckable(true);
 }
 
@@ -150,7 +157,7 @@ void ReportPreview::addSearch() {
     search_->setClearButtonEnabled(true);
     search_->setMaximumWidth(180);
     search_->setObjectName(QStringLiteral("search"));
-    bar_->addWidget(search_);
+    fileBar_->addWidget(search_);
     connect(search_, &QLineEdit::returnPressed, this, &ReportPreview::search);
     auto* find = new QAction(this);
     find->setShortcut(QKeySequence(QKeySequence::Find));
@@ -159,17 +166,15 @@ void ReportPreview::addSearch() {
     connect(find, &QAction::triggered, search_, qOverload<>(&QWidget::setFocus));
 }
 
-void ReportPreview::layOut() {
-    auto pages = std::make_shared<const PageLayout>(report_, setup_.layoutFor(*report_),
-                                                    services_.layingOut);
-    view_->setPages(std::move(pages));
-    landscape_->setChecked(setup_.layoutFor(*report_).orientation() == QPageLayout::Landscape);
-    showState();
-}
-
 void ReportPreview::setSetup(const PageSetup& setup) {
-    setup_ = setup;
-    layOut();
+    auto pages =
+        std::make_shared<const PageLayout>(report_, setup.layoutFor(*report_), services_.layingOut);
+    // Half a report must not be printed or saved for the whole.
+    if (pages->isComplete() || view_->pages() == nullptr) {
+        setup_ = setup;
+        view_->setPages(std::move(pages));
+    }
+    showState();
 }
 
 void ReportPreview::showState() {
@@ -178,6 +183,10 @@ void ReportPreview::showState() {
     page_->setRange(1, std::max(1, count));
     page_->setValue(static_cast<int>(view_->page()) + 1);
     pages_->setText(QStringLiteral(" ") + words(Text::previewOfPages).arg(count));
+    // Paper that was chosen in the set-up may be none of the list.
+    paper_->setPlaceholderText(setup_.size.name());
+    paper_->setCurrentIndex(paper_->findData(static_cast<int>(setup_.size.id())));
+    landscape_->setChecked(setup_.layoutFor(*report_).orientation() == QPageLayout::Landscape);
     if (view_->fit() == ReportView::Fit::none)
         zoom_->setEditText(QStringLiteral("%1 %").arg(qRound(100 * view_->zoom())));
     else
@@ -192,7 +201,7 @@ void ReportPreview::print() {
     PrintJob job{windowTitle(), setup_.layoutFor(*report_), {}, {}};
     job.layOut = [&](const QPageLayout& paper) {
         pages = std::make_unique<PageLayout>(report_, paper, services_.layingOut);
-        return static_cast<int>(pages->pages().size());
+        return pages->isComplete() ? static_cast<int>(pages->pages().size()) : 0;
     };
     job.paint = [&](QPainter& painter, int page) {
         PagePainter(*pages, texts_).paint(painter, static_cast<std::size_t>(page));

@@ -37,7 +37,7 @@ class ReportPreview : public QWidget {
 
     ReportView& view() { return *view_; }
     const PageSetup& setup() const { return setup_; }
-    /// Lays the report out for other paper.
+    /// Lays the report out for other paper. Where the user breaks that off, it stays as it is.
     void setSetup(const PageSetup& setup);
     /// Writes the report; what fails is told, and leaves nothing behind.
     void saveAs(const std::string& path);
@@ -45,11 +45,11 @@ class ReportPreview : public QWidget {
 
  private:
     void addTools();
-    QAction* tool(const char* name, int text, const char* keys, void (ReportPreview::*run)());
+    QAction* tool(QToolBar* bar, const char* name, int text, const char* keys,
+                  void (ReportPreview::*run)());
     void addPageTools();
     void addPaperTools();
     void addSearch();
-    void layOut();
     void showState();
     QString words(int text) const;
 
@@ -73,11 +73,13 @@ class ReportPreview : public QWidget {
     PageSetup setup_;
     const Texts& texts_;
     PreviewServices services_;
-    QToolBar* bar_;
+    QToolBar* fileBar_;
+    QToolBar* pageBar_;
     ReportView* view_;
     QSpinBox* page_ = nullptr;
     QLabel* pages_ = nullptr;
     QComboBox* zoom_ = nullptr;
+    QComboBox* paper_ = nullptr;
     QLineEdit* search_ = nullptr;
     QAction* continuous_ = nullptr;
     QAction* landscape_ = nullptr;

@@ -119,12 +119,8 @@ bool ReportWindows::progress(int what, std::size_t done, std::size_t total) {
 void ReportWindows::setUpPrinter() {
     PrintModule* module = findPrintModule();
     if (module == nullptr) return tell(texts_.text(Text::printPartMissing));
-    const Report none;
-    QPageLayout paper = setup_.layoutFor(none);
-    if (!module->setUp(window_.dialogParent(), paper)) return;
-    setup_.size = paper.pageSize();
-    // Each report keeps its own way unless the user has turned the sheet.
-    if (paper.orientation() == QPageLayout::Landscape) setup_.orientation = paper.orientation();
+    QPageLayout paper = setup_.layoutFor(Report());
+    if (module->setUp(window_.dialogParent(), paper)) setup_.take(paper);
 }
 
 }  // namespace varnholt
