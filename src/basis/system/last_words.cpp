@@ -13,11 +13,6 @@
 
 namespace varnholt {
 
-struct LastWords::Words {
-    std::string fresh, path;
-    std::shared_ptr<const std::string> bytes;
-};
-
 namespace {
 
 constexpr int fatalSignals[] = {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
@@ -30,7 +25,6 @@ struct Laid {
     std::size_t size;
 };
 std::array<std::atomic<const Laid*>, LastWords::most> laid;
-std::array<Laid, LastWords::most> laidRows;
 
 void writeLaid(const Laid& words) {
     const int file =
@@ -50,6 +44,16 @@ void writeAllLaid(int signal) {
 
 }  // namespace
 
+struct LastWords::Words {
+    struct Laying {
+        std::string fresh, path;
+        std::shared_ptr<const std::string> bytes;
+        Laid row{};
+    };
+    std::array<Laying, 2> turns;
+    std::size_t turn = 0;
+};
+
 LastWords::LastWords() : words_(new Words[most]) {
     struct sigaction action {};
     action.sa_handler = writeAllLaid;
@@ -65,20 +69,19 @@ LastWords::~LastWords() {
 void LastWords::lay(std::size_t place, const std::string& path,
                     std::shared_ptr<const std::string> bytes) {
     if (place >= most) return;
-    take(place);
     Words& words = words_[place];
-    words.path = path;
-    words.fresh = path + ".last";
-    words.bytes = std::move(bytes);
-    laidRows[place] = {words.fresh.c_str(), words.path.c_str(), words.bytes->data(),
-                       words.bytes->size()};
-    laid[place].store(&laidRows[place]);
+    words.turn = 1 - words.turn;
+    Words::Laying& laying = words.turns[words.turn];
+    laying.path = path;
+    laying.fresh = path + ".last";
+    laying.bytes = std::move(bytes);
+    laying.row = {laying.fresh.c_str(), laying.path.c_str(), laying.bytes->data(),
+                  laying.bytes->size()};
+    laid[place].store(&laying.row);
 }
 
 void LastWords::take(std::size_t place) {
-    if (place >= most) return;
-    laid[place].store(nullptr);
-    words_[place].bytes.reset();
+    if (place < most) laid[place].store(nullptr);
 }
 
 }  // namespace varnholt

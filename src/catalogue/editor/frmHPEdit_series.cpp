@@ -243,10 +243,13 @@ void frmHPEdit::closeSeries() {
     startHistory();
 }
 
-PumpSeries frmHPEdit::seriesToWrite() const {
+std::function<std::string()> frmHPEdit::seriesText() const {
     PumpSeries series{selectedSeries(), selectedManufacturer(), {}};
-    for (const Shared<pump>& model : document_.pumps) series.models.push_back(*model);
-    return series;
+    return [series = std::move(series), pumps = document_.pumps]() mutable {
+        series.models.clear();
+        for (const Shared<pump>& model : pumps) series.models.push_back(*model);
+        return pumpSeriesText(series);
+    };
 }
 
 namespace {
@@ -285,7 +288,7 @@ void frmHPEdit::SaveCommand_Click() {
     if (!staysInFolder(FileName))
         return show(MessageIcon::exclamation, filledIn(text(Text::fileNameUnusable), {FileName}));
     if (!mayReplaceFile()) return;
-    std::string bytes = pumpSeriesText(seriesToWrite());
+    std::string bytes = seriesText()();
     if (!attemptToWrite(seriesPath(), [&] { replaceWholeFile(seriesPath(), bytes); })) return;
     file_ = {};
     file_.bytes = std::move(bytes);
