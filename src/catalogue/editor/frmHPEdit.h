@@ -197,7 +197,7 @@ class frmHPEdit : public ChildWindow {
     std::function<void()> catalogueWritten_;
     CatalogueIndex index_;
     FileDamage damagedIndex_;
-    std::optional<std::string> indexBytes_;  ///< of its file, as read or written last
+    std::optional<std::uint64_t> indexKnown_;  ///< of its file, as read or written last
     std::optional<SeriesPlace> place_;
     EditedSeries document_;
     TestResults results_;
