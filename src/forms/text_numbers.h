@@ -996,6 +996,7 @@ constexpr int unsavedTitle = 8555;
 constexpr int noticeOpenElsewhere = 8556;
 constexpr int noticeSetAside = 8557;
 constexpr int readingFile = 8558;
+constexpr int noticeStillKept = 8559;
 
 // The importer.
 constexpr int importTitle = 1502;

@@ -113,6 +113,28 @@ TEST_P(Fatal, SignalsWriteNothingThatHasBeenDropped) {
     EXPECT_EQ(written(), "");
 }
 
+/// More calls than any stack holds.
+int callWithoutEnd(int depth) {
+    volatile char room[4096];
+    room[0] = static_cast<char>(depth);
+    return depth >= 0 ? callWithoutEnd(depth + 1) + room[0] : 0;
+}
+
+TEST_F(KeptWorkTest, IsWrittenThoughTheStackHasOverflowed) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const rlimit none{};
+        ::setrlimit(RLIMIT_CORE, &none);
+        kept.makeFolder();
+        kept.make(workWith("one"));
+        ::_exit(callWithoutEnd(0) == 0 ? 1 : 0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(written(), "one");
+}
+
 INSTANTIATE_TEST_SUITE_P(OfAllKinds, Fatal,
                          testing::Values(SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT));
 

@@ -69,7 +69,8 @@ class UnsavedWork : public ProjectTest {
                             {8552, "Older: %1."},
                             {8553, "No file."},
                             {8554, "Open?"},
-                            {8557, "Set aside: %1"}});
+                            {8557, "Set aside: %1"},
+                            {8559, "Still kept: %1"}});
         saveAs(newDesign(), "work files/school.vht");
     }
 
@@ -210,6 +211,29 @@ TEST_F(UnsavedWork, ThatIsDamagedIsSetAside) {
     EXPECT_EQ(filesKept(), 1U);
     EXPECT_TRUE(main.control("NoticeLabel").caption().starts_with("Set aside: "));
     EXPECT_TRUE(main.control("NoticeLabel").caption().ends_with(".damaged"));
+}
+
+TEST_F(UnsavedWork, OfAWindowThatIsInUseIsKeptAndThatIsTold) {
+    // Two programs have ended with zones of their own; there is one loads window.
+    for (const char* file : {"zones/north.zon", "zones/south.zon"}) {
+        writeZones(folder / file, 1);
+        main.click("mnuZoneManage");
+        crashAfter([&] {
+            loads().LOOpenZoneFile(folder / file);
+            loads().unsaved = true;
+        });
+        closeAll();
+    }
+    platform.questions.clear();
+    answer(Answer::yes);
+    answer(Answer::yes);
+    Recovery recovery(main);
+    recovery.offer();
+    EXPECT_EQ(platform.questions.size(), 2U);
+    EXPECT_EQ(main.windows().size(), 1U);
+    EXPECT_EQ(main.control("NoticeLabel").caption(), "Still kept: south.zon");
+    recovery.keepNow();
+    EXPECT_EQ(filesKept(), 2U);
 }
 
 TEST_F(UnsavedWork, IsReadableByItsOwnerAlone) {

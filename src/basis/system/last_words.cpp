@@ -54,7 +54,30 @@ struct LastWords::Words {
     std::size_t turn = 0;
 };
 
+namespace {
+
+/// A stack that has overflowed is no place for a handler.
+alignas(16) std::array<char, 65'536> ownStack;
+
+/// Gives this thread's handlers a stack of their own, unless they have one.
+void giveStack() {
+    stack_t present{};
+    if (::sigaltstack(nullptr, &present) != 0 || (present.ss_flags & SS_DISABLE) == 0) return;
+    const stack_t own{ownStack.data(), 0, ownStack.size()};
+    ::sigaltstack(&own, nullptr);
+}
+
+void takeStack() {
+    stack_t present{};
+    if (::sigaltstack(nullptr, &present) != 0 || present.ss_sp != ownStack.data()) return;
+    const stack_t none{nullptr, SS_DISABLE, 0};
+    ::sigaltstack(&none, nullptr);
+}
+
+}  // namespace
+
 LastWords::LastWords() : words_(new Words[most]) {
+    giveStack();
     struct sigaction action {};
     action.sa_handler = writeAllLaid;
     action.sa_flags = SA_RESETHAND | SA_NODEFER | SA_ONSTACK;
@@ -64,6 +87,7 @@ LastWords::LastWords() : words_(new Words[most]) {
 LastWords::~LastWords() {
     for (std::size_t place = 0; place < most; ++place) take(place);
     for (const int signal : fatalSignals) ::signal(signal, SIG_DFL);
+    takeStack();
 }
 
 void LastWords::lay(std::size_t place, const std::string& path,

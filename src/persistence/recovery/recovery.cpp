@@ -93,24 +93,31 @@ void Recovery::offer() {
     std::stable_partition(found.begin(), found.end(), [](const RecoveryFolder::Found& each) {
         return !isDesignForm(each.record.form);
     });
-    for (const RecoveryFolder::Found& each : found) offer(each);
-    if (!setAside.empty())
-        main_.setNotice(filledIn(main_.text(Text::noticeSetAside), {setAside.front()}));
+    std::vector<std::string> told;
+    for (const std::string& path : setAside)
+        told.push_back(filledIn(main_.text(Text::noticeSetAside), {path}));
+    for (const RecoveryFolder::Found& each : found) told.push_back(offer(each));
+    std::string notice;
+    for (const std::string& sentence : told)
+        if (!sentence.empty()) notice += (notice.empty() ? "" : " ") + sentence;
+    if (!notice.empty()) main_.setNotice(notice);
     main_.refreshCommands();
 }
 
-void Recovery::offer(const RecoveryFolder::Found& found) {
+std::string Recovery::offer(const RecoveryFolder::Found& found) {
     const Answer answer = main_.platform().question(
         Buttons::yesNoCancel, main_.text(Text::unsavedTitle), questionAbout(found.record));
     if (answer == Answer::no) {
         removeFile(found.path);
-        return folder_.removeIfEmpty();
+        folder_.removeIfEmpty();
     }
-    if (answer != Answer::yes) return;
+    if (answer != Answer::yes) return {};
+    const ChildWindow* window = openRecovered(main_, found.record);
+    if (window == nullptr) return filledIn(main_.text(Text::noticeStillKept), {found.record.name});
     // What was found stays until the window's own record takes its place.
-    if (const ChildWindow* window = openRecovered(main_, found.record))
-        kept_[window->serial()] = std::make_shared<KeptWork>(found.path, lastWords_, freePlace(),
-                                                             fingerprintOf(found.record));
+    kept_[window->serial()] = std::make_shared<KeptWork>(found.path, lastWords_, freePlace(),
+                                                         fingerprintOf(found.record));
+    return {};
 }
 
 std::string Recovery::questionAbout(const RecoveryRecord& record) const {

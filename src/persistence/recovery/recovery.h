@@ -53,7 +53,8 @@ class Recovery {
     void writeWaiting();
     void drop(int serial);
     std::size_t freePlace() const;
-    void offer(const RecoveryFolder::Found& found);
+    /// What there is to tell afterwards; empty for nothing.
+    std::string offer(const RecoveryFolder::Found& found);
     std::string questionAbout(const RecoveryRecord& record) const;
 
     Varnmain& main_;
