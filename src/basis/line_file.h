@@ -55,7 +55,7 @@ class LineFileReader {
         (readItem(values), ...);
     }
     /// A line with no meaning to the reader.
-    void fixed(std::string_view) { line(); }
+    void fixed(std::string_view) { lineAsItStands(); }
 
     /// A count of items that take at least `linesEach` lines each: bounded by what the file can
     /// hold, so that a false count cannot exhaust the memory. A negative count is 0; a count that
@@ -78,6 +78,8 @@ class LineFileReader {
 
  private:
     std::string_view takeLine();
+    /// The line's bytes, in whichever encoding: a number needs no copy of a line that is long.
+    std::string_view lineAsItStands();
     /// How many lines are left, at most so many.
     std::size_t linesLeft(std::size_t most) const;
     std::string_view item();

@@ -8,6 +8,9 @@
 
 namespace varnholt {
 
+/// What the list of a file consists of.
+enum class Entries { zones, pumps, manufacturers };
+
 /// How the reading of a file went, for a window to tell.
 struct ReadingReport {
     int error = 0;            ///< number of the RunTimeError that ended the reading; 0 for none
@@ -16,6 +19,7 @@ struct ReadingReport {
     std::size_t stated = 0;   ///< entries of its list, such as zones, by the file's own word
     std::size_t found = 0;    ///< how many of them could be read whole
     std::size_t leftOut = 0;  ///< how many are beyond what the program counts
+    Entries entries = Entries::zones;
 
     /// Everything that the file holds has been read.
     bool isWhole() const { return error == 0 && !leftover && leftOut == 0; }

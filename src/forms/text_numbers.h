@@ -169,6 +169,8 @@ constexpr int noticeNumberTooLarge = 1243;
 constexpr int noticeLeftoverLines = 1244;
 constexpr int noticeReadingFailed = 1245;
 constexpr int noticeZonesRead = 1246;
+constexpr int noticePumpsRead = 1258;
+constexpr int noticeManufacturersRead = 1259;
 constexpr int noticeZonesLeftOut = 1247;
 constexpr int noticeDoubtedResults = 1248;
 constexpr int noticeSaveAsksForName = 1249;
@@ -994,6 +996,7 @@ constexpr int unsavedTitle = 8555;
 constexpr int noticeOpenElsewhere = 8556;
 constexpr int noticeSetAside = 8557;
 constexpr int readingFile = 8558;
+constexpr int noticeStillKept = 8559;
 
 // The importer.
 constexpr int importTitle = 1502;

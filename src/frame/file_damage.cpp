@@ -40,6 +40,18 @@ std::string endOfReading(const Texts& texts, const ReadingReport& report) {
     return filledIn(texts.text(Text::noticeReadingFailed), {RunTimeError(report.error).message()});
 }
 
+int wordsFor(Entries entries) {
+    switch (entries) {
+        case Entries::pumps:
+            return Text::noticePumpsRead;
+        case Entries::manufacturers:
+            return Text::noticeManufacturersRead;
+        case Entries::zones:
+            break;
+    }
+    return Text::noticeZonesRead;
+}
+
 }  // namespace
 
 std::string damageText(const Texts& texts, const FileDamage& damage) {
@@ -53,7 +65,7 @@ std::string damageText(const Texts& texts, const FileDamage& damage) {
     };
     append(endOfReading(texts, report));
     if (report.stated != report.found && report.leftOut == 0)
-        append(filledIn(texts.text(Text::noticeZonesRead),
+        append(filledIn(texts.text(wordsFor(report.entries)),
                         {std::to_string(report.found), std::to_string(report.stated)}));
     if (report.leftOut > 0)
         append(filledIn(texts.text(Text::noticeZonesLeftOut), {std::to_string(report.leftOut)}));
