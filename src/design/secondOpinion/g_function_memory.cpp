@@ -9,24 +9,28 @@ namespace varnholt::secondOpinion {
 namespace {
 
 constexpr std::size_t mostKept = 16;
-constexpr double lowestDepth = 10, greatestDepth = 2000;  // ft
+constexpr double leastDepth = 10, greatestDepth = 2000;  // ft
 
 double stepOfLadder() {
-    return std::log(greatestDepth / lowestDepth) / static_cast<double>(rungOfGreatestDepth);
+    return std::log(greatestDepth / leastDepth) /
+           static_cast<double>(rungOfGreatestDepth - rungOfLeastDepth);
 }
 
-/// How many rungs a depth lies above the lowest.
-double placeOf(double depth) { return std::log(depth / lowestDepth) / stepOfLadder(); }
+/// The rung of a depth, as a number with decimals.
+double placeOf(double depth) {
+    return static_cast<double>(rungOfLeastDepth) + std::log(depth / leastDepth) / stepOfLadder();
+}
 
 }  // namespace
 
 double depthOfRung(std::size_t rung) {
     if (rung == rungOfGreatestDepth) return greatestDepth;
-    return lowestDepth * std::exp(stepOfLadder() * static_cast<double>(rung));
+    const double above = static_cast<double>(rung) - static_cast<double>(rungOfLeastDepth);
+    return leastDepth * std::exp(stepOfLadder() * above);
 }
 
 std::size_t rungAbove(double depth) {
-    if (!(depth > lowestDepth)) return 0;
+    if (!(depth > leastDepth)) return rungOfLeastDepth;
     return static_cast<std::size_t>(std::min(placeOf(depth), static_cast<double>(lastRung)));
 }
 
@@ -91,9 +95,9 @@ std::shared_ptr<const RungFunction> GFunctionMemory::atRung(std::size_t rung) {
 }
 
 std::optional<DepthFunction> GFunctionMemory::atDepth(double depth) {
-    const double atLeast = std::max(depth, lowestDepth);
+    const double atLeast = std::max(depth, leastDepth);
     const std::size_t above = rungAbove(atLeast);
-    const std::size_t first = std::clamp<std::size_t>(above, 1, lastRung - 2) - 1;
+    const std::size_t first = std::min(above, lastRung - 2) - 1;
     DepthFunction::Rungs rungs;
     for (std::size_t i = 0; i < rungs.size(); ++i) {
         rungs[i] = atRung(first + i);

@@ -27,13 +27,14 @@ struct FieldSite {
 constexpr double hoursPerMonth = 730;
 
 // G-functions are computed for certain depths, the rungs of a ladder, in equal steps of their
-// logarithm: the lowest of 10 ft, the 24th above it of 2,000 ft.
-constexpr std::size_t rungOfGreatestDepth = 24;
-constexpr std::size_t lastRung = 48;
+// logarithm: rung 1 of 10 ft, below which no function is taken, rung 25 of 2,000 ft.
+constexpr std::size_t rungOfLeastDepth = 1;
+constexpr std::size_t rungOfGreatestDepth = 25;
+constexpr std::size_t lastRung = 49;
 
 /// ft
 double depthOfRung(std::size_t rung);
-/// The last rung that is no deeper.
+/// The last rung that is no deeper, from rungOfLeastDepth to lastRung.
 std::size_t rungAbove(double depth);
 
 /// A g-function with its values after whole months.
@@ -43,7 +44,7 @@ struct RungFunction {
 };
 
 /// The g-function of a field between the rungs: the cubic through the four nearest in the logarithm
-/// of the depth. It lies within 1E-5 of the function of the depth itself.
+/// of the depth. It lies within a few 1E-5 of the function of the depth itself.
 class DepthFunction {
  public:
     using Rungs = std::array<std::shared_ptr<const RungFunction>, 4>;

@@ -41,7 +41,7 @@ class Search {
                 low_ = trial;
                 lowRung_ = rung;
             } else {
-                if (rung == 0) return {SettledDepth::settled, length};
+                if (rung == rungOfLeastDepth) return {SettledDepth::settled, length};
                 high_ = trial;
                 highRung_ = rung;
             }
@@ -54,7 +54,7 @@ class Search {
     std::size_t nextRung(const Trial& trial) const {
         const double guess =
             low_ && high_ ? rootBetween(*low_, *high_) : trial.depth + overshoot * trial.excess;
-        const std::size_t least = low_ ? lowRung_ + 1 : 0;
+        const std::size_t least = low_ ? lowRung_ + 1 : rungOfLeastDepth;
         const std::size_t most = high_ ? highRung_ - 1 : search_.deepestRung;
         return std::clamp(rungAbove(guess), least, std::max(least, most));
     }
