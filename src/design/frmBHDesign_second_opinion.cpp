@@ -168,8 +168,6 @@ void frmBHDesign::restore(const DocumentState& earlier) {
     if (opinionWindow_ != nullptr) opinionWindow_->showDocument();
 }
 
-void frmBHDesign::actionDone() { fallBehind(); }
-
 void frmBHDesign::unloaded() {
     if (opinionWindow_ != nullptr) main().close(*opinionWindow_);
     TowerDesign::unloaded();

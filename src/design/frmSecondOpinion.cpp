@@ -93,7 +93,7 @@ void frmSecondOpinion::typedMonth() {
 
 void frmSecondOpinion::typedDepth() {
     inputs().depthChoice = depthAsTyped;
-    showInputs();
+    showDepthChoice();
 }
 
 const SecondOpinion& frmSecondOpinion::opinion() const {

@@ -30,6 +30,7 @@ class frmSecondOpinion : public ChildWindow {
     UnitSystem units() const override;
     void actionBegins() override;
     void actionDone() override;
+    void windowsChanged() override { fallBehind(); }
     std::string descriptionOf(const std::string& image) const override;
 
     /// The design has switched its units.
@@ -74,6 +75,7 @@ class frmSecondOpinion : public ChildWindow {
     // What they show.
     void showCaptions();
     void showInputs();
+    void showDepthChoice();
     void showFigures();
     void showSizes();
     void showParts();

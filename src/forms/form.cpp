@@ -267,9 +267,8 @@ void Form::fallBehind() {
     tellObservers([this](FormObserver& observer) { observer.fellBehind(*this); });
 }
 
-void Form::catchUp() {
-    if (behind_) behind_ = !workLate(true);
-}
+/// A reader is told what holds now, whether or not it is known to have changed.
+void Form::catchUp() { behind_ = !workLate(true); }
 
 void Form::catchUpABit() {
     if (behind_) behind_ = !workLate(false);
