@@ -2,6 +2,7 @@
 // The second opinion in the real windows: found while nobody types, shown in reading order, drawn.
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QMouseEvent>
 
 #include "design/frmBHDesign.h"
@@ -33,9 +34,10 @@ class SecondOpinionView : public testing::Test {
     }
     /// Lets the loop turn until the figures have been found.
     void idle() {
-        for (int round = 0; round < 10'000 && (design().isBehind() || opinion().isBehind());
-             ++round)
-            QCoreApplication::processEvents();
+        const QDeadlineTimer patience(5000);
+        while ((design().isBehind() || opinion().isBehind()) && !patience.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+        QCoreApplication::processEvents();
     }
     QWidget* widget(const std::string& name) {
         return desk.shelf.windowOf(opinion())->binder().widget(name);

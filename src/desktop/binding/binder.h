@@ -160,6 +160,7 @@ class Binder : public QObject, public FormObserver {
     void recolour();
     void refreshLater();
     bool showsLate() const;
+    void workLateIn(int milliseconds);
     void workLate();
     bool buildNext();
 
