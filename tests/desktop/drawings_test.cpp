@@ -8,7 +8,10 @@
 #include <memory>
 
 #include "design/modCalculations/trench_layout.h"
+#include "design/picture_sentences.h"
+#include "desktop/widgets/qt_text.h"
 #include "drawing_samples.h"
+#include "loads/import/month_pictures.h"
 
 namespace varnholt {
 namespace {
@@ -32,6 +35,12 @@ std::vector<int> runsOf(const QImage& image, const QColor& colour, int y) {
         inside = match;
     }
     return runs;
+}
+
+/// What a screen reader tells of a picture.
+template <class Picture>
+QString told(const Picture& picture) {
+    return qt(describe(picture, pictureTexts()));
 }
 
 PumpPicture samplePump() {
@@ -78,15 +87,14 @@ TEST(BorePicture, IsToScale) {
 }
 
 TEST(BorePicture, IsDescribed) {
-    EXPECT_EQ(describeBore(sampleBore(5, 1.9, 1.55, 0, 1), pictureTexts()),
+    EXPECT_EQ(told(sampleBore(5, 1.9, 1.55, 0, 1)),
               "Cross-section of a borehole of 5.00 in with one U-tube, to scale. The pipe's outer "
               "diameter is 1.90 in.");
-    EXPECT_TRUE(describeBore(sampleBore(6, 1.315, 1.08, 1, 1), pictureTexts())
-                    .contains(QStringLiteral("two U-tubes")));
+    EXPECT_TRUE(told(sampleBore(6, 1.315, 1.08, 1, 1)).contains(QStringLiteral("two U-tubes")));
 }
 
 TEST(BorePicture, SaysThatThePipesDoNotFit) {
-    EXPECT_TRUE(describeBore(sampleBore(3, 1.9, 1.55, 0, 1), pictureTexts())
+    EXPECT_TRUE(told(sampleBore(3, 1.9, 1.55, 0, 1))
                     .endsWith(QStringLiteral("The pipes do not fit into the borehole.")));
 }
 
@@ -99,20 +107,19 @@ TEST(BorePicture, OfNothingIsEmpty) {
 
 TEST(FieldPicture, CountsTheBoresOfEachClass) {
     // 6 by 4: 4 * 2 inside, 2 * (4 + 2) at the edges, 4 corners.
-    EXPECT_EQ(describeField(sampleField(6, 4), pictureTexts()),
+    EXPECT_EQ(told(sampleField(6, 4)),
               "Plan of 6 by 4 boreholes, 20.0 ft apart. From the first to the last the field is "
               "100.0 ft wide and 60.0 ft deep. Inside, 4 neighbours: 8. Edge, 3 neighbours: 12. "
               "Corner, 2 neighbours: 4.");
-    EXPECT_TRUE(describeField(sampleField(8, 1), pictureTexts())
+    EXPECT_TRUE(told(sampleField(8, 1))
                     .endsWith(QStringLiteral("In line, 2 neighbours: 6. End, 1 neighbour: 2.")));
-    EXPECT_TRUE(describeField(sampleField(1, 1), pictureTexts())
-                    .endsWith(QStringLiteral("No neighbour: 1.")));
-    EXPECT_TRUE(describeField(sampleField(100, 100), pictureTexts())
-                    .contains(QStringLiteral("Inside, 4 neighbours: 9604.")));
+    EXPECT_TRUE(told(sampleField(1, 1)).endsWith(QStringLiteral("No neighbour: 1.")));
+    EXPECT_TRUE(
+        told(sampleField(100, 100)).contains(QStringLiteral("Inside, 4 neighbours: 9604.")));
 }
 
 TEST(FieldPicture, WithoutRowsSaysWhatToDo) {
-    EXPECT_EQ(describeField(sampleField(0, 4), pictureTexts()),
+    EXPECT_EQ(told(sampleField(0, 4)),
               "Enter at least one row across and one row down to see the field.");
 }
 
@@ -129,13 +136,13 @@ TEST(FieldPicture, OfAnySizeIsDrawn) {
 }
 
 TEST(TrenchPicture, TellsTheTrenchAndWhatLiesInIt) {
-    EXPECT_EQ(describeTrench(sampleTrench(samplePipes(1, 6), 6, 18), pictureTexts()),
+    EXPECT_EQ(told(sampleTrench(samplePipes(1, 6), 6, 18)),
               "Section of a trench to scale, 18.0 inches wide and 6.0 ft deep, with 6 pipes.");
     EXPECT_EQ(
-        describeTrench(sampleTrench(samplePipes(3, 1), 5, 8), pictureTexts()),
+        told(sampleTrench(samplePipes(3, 1), 5, 8)),
         "Section of a trench to scale, 8.0 inches wide and 5.0 ft deep, with a slinky of 36.0 "
         "inches lying flat. The slinky is wider than the trench.");
-    EXPECT_EQ(describeTrench(sampleTrench(samplePipes(0, 1), 0, 8), pictureTexts()),
+    EXPECT_EQ(told(sampleTrench(samplePipes(0, 1), 0, 8)),
               "Enter the depth and the width of the trench to see it.");
 }
 
@@ -156,22 +163,21 @@ TEST(TrenchPicture, OfAnyTrenchIsDrawn) {
 }
 
 TEST(TrenchPlanPicture, TellsTheFieldAndHowMuchOfItIsDrawn) {
-    EXPECT_EQ(describeTrenches(sampleTrenchPlan(samplePipes(2, 6), 3), pictureTexts()),
+    EXPECT_EQ(told(sampleTrenchPlan(samplePipes(2, 6), 3)),
               "Plan of 3 trenches, 12.0 ft apart, with pipes side by side.");
-    EXPECT_EQ(describeTrenches(sampleTrenchPlan(samplePipes(3, 1), 12), pictureTexts()),
+    EXPECT_EQ(told(sampleTrenchPlan(samplePipes(3, 1), 12)),
               "Plan of 12 trenches, 12.0 ft apart, with a slinky of 36.0 inches, its loops 18.0 "
               "inches apart. 4 of 12 trenches are drawn.");
 }
 
 TEST(MonthsPicture, TellsTheLargestMonthsOfItsMode) {
-    EXPECT_EQ(describeMonths(sampleMonths(heating), pictureTexts()).toStdString(),
+    EXPECT_EQ(told(sampleMonths(heating)),
               "Heating by months: columns of energy up to 300.0 ( MBtu ) in July, marks of peaks "
               "up to 90.5 (MBtu/Hr) in July.");
 }
 
 TEST(MonthsPicture, WithoutLoadsSaysWhatToDo) {
-    EXPECT_EQ(describeMonths({}, pictureTexts()).toStdString(),
-              "No loads yet. Type them in the table, or read a file.");
+    EXPECT_EQ(told(MonthsChart()), "No loads yet. Type them in the table, or read a file.");
 }
 
 TEST(MonthsPicture, DrawsThePeakMonthStrong) {
