@@ -78,7 +78,7 @@ class SecondOpinionFile : public ProjectTest {
         texts.known.insert({{1236, "Not all of %1 could be read."},
                             {1244, "More from line %1 on."},
                             {1249, "Saving asks for a name."},
-                            {1258, "Part %1 from line %2."}});
+                            {1260, "Part %1 from line %2."}});
     }
 
     frmBHDesign& openText(const std::string& text) {

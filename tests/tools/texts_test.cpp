@@ -35,8 +35,14 @@ const std::set<int> shownNowhere{
 
 /// Numbers of a source that stand for themselves: pixels of a window, positions of a slider.
 const std::map<std::string, std::set<int>> plainNumbers{
+    {"design/secondOpinion/field_sizing.cpp", {1000}},
+    {"design/secondOpinion/g_function_memory.cpp", {2000}},
+    {"design/secondOpinion/opinion_case.cpp", {1000}},
+    {"design/secondOpinion/second_opinion.h", {2000, 2500}},
+    {"design/secondOpinion/shown_fluid.cpp", {1000}},
     {"desktop/views/average_block_view.cpp", {1220}},
     {"desktop/views/pump_editor_view.cpp", {1240}},
+    {"desktop/views/second_opinion_view.cpp", {1040}},
     {"desktop/views/zone_manager_view.cpp", {1220}},
     {"desktop/widgets/house_widgets.cpp", {1000}},
     {"desktop/windows/main_window.h", {1280}},
