@@ -166,6 +166,7 @@ TEST(SettledDepth, BelowTenFeetIsTheLengthWithTheFunctionOfTenFeet) {
     EXPECT_NEAR(settle(4 * 77.7).length, 4 * 77.7, 1e-3);
     EXPECT_NEAR(settle(4 * 1999.9).length, 4 * 1999.9, 1e-2);
     EXPECT_EQ(settle(4 * 2000.1).state, SettledDepth::tooDeep);
+    EXPECT_NEAR(settle(4 * 10.5).length, 4 * 10.5, 1e-3);
     EXPECT_EQ(settle(std::nan("")).state, SettledDepth::notComputable);
 }
 
@@ -173,6 +174,29 @@ DepthFunction functionAt(GFunctionMemory& memory, double depth) {
     for (;;) {
         if (auto function = memory.atDepth(depth)) return *function;
         while (memory.isComputing()) memory.computeMore();
+    }
+}
+
+TEST(SettledDepth, IsFoundWhereTheNeedHardlyFallsBehindTheDepth) {
+    // The length asked for is 998 thousandths of the depth and 1 ft more, so 500 ft agree.
+    GFunctionMemory memory;
+    memory.select({{{0, 0}}, 0.2, 0.03, 4, 438744});
+    for (const double start : {10.0, 490.0, 2000.0}) {
+        int lengths = 0;
+        double found = 0;
+        for (bool waiting = true; waiting;) {
+            lengths = 0;
+            const SettledDepth settled =
+                settleDepth(memory, {1, start}, [&](const DepthFunction& g) {
+                    ++lengths;
+                    return 1 + 0.998 * g.depth();
+                });
+            while (memory.isComputing()) memory.computeMore();
+            waiting = settled.state == SettledDepth::waiting;
+            found = settled.length;
+        }
+        EXPECT_NEAR(found, 500, 0.05) << start;
+        EXPECT_LT(lengths, 20) << start;
     }
 }
 
