@@ -41,6 +41,7 @@ class frmBHDesign : public TowerDesign<BoreholeKind> {
     /// degF
     double GetGroundTemp() const { return project_.soil.groundTemp; }
 
+    std::vector<std::string> warnings() const override;
     /// What `imgBore` shows.
     BoreDrawing boreDrawing() const;
     /// What `imgField` shows.
