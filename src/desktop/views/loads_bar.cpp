@@ -4,6 +4,7 @@
 
 #include "desktop/views/loads_pieces.h"
 #include "desktop/views/view_pieces.h"
+#include "desktop/views/zone_columns.h"
 
 namespace varnholt {
 namespace {
@@ -27,6 +28,7 @@ QWidget* loadsBar(Binder& bind) {
 }
 
 QWidget* zoneList(Binder& bind) {
+    if (bind.has("LOCopyCommand")) return zoneColumns(bind);
     constexpr int listWidth = 136;
     auto* list = static_cast<QAbstractItemView*>(bind.widget("LOZoneList"));
     list->setFixedWidth(listWidth);
