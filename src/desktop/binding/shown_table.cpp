@@ -28,13 +28,16 @@ QString textOf(const QWidget* cell) {
 struct GridRow {
     QString caption, unit;
     QStringList cells;
+    bool hasFields = false;
 
     bool isEmpty() const { return caption.isEmpty() && cells.join(QString()).isEmpty(); }
-    /// Units of the columns below a row of heads.
-    bool isUnits() const {
-        return caption.isEmpty() && !isEmpty() &&
-               std::all_of(cells.begin(), cells.end(), [](const QString& cell) {
-                   return cell.isEmpty() || (cell.startsWith(u'(') && cell.endsWith(u')'));
+    /// Heads of the columns, or their units below them.
+    bool isWords() const {
+        return !cells.isEmpty() && !hasFields &&
+               std::none_of(cells.begin(), cells.end(), [](const QString& cell) {
+                   bool isNumber = false;
+                   cell.toDouble(&isNumber);
+                   return isNumber;
                });
     }
 };
@@ -53,6 +56,7 @@ GridRow rowOf(const QGridLayout& grid, int line) {
         if (cell == nullptr) continue;
         if (column > 0 && item == grid.itemAtPosition(line, column - 1)) continue;
         const QString text = textOf(cell).simplified();
+        row.hasFields = row.hasFields || qobject_cast<const QLineEdit*>(cell) != nullptr;
         if (cell->property(unitProperty).toBool())
             row.unit = text;
         else if (column == 0)
@@ -68,7 +72,8 @@ void appendRows(const QGridLayout& grid, QStringList& lines) {
     for (int line = 0; line < grid.rowCount(); ++line) {
         GridRow row = rowOf(grid, line);
         if (row.isEmpty()) continue;
-        if (row.isUnits() && !rows.empty() && rows.back().cells.size() == row.cells.size()) {
+        if (row.caption.isEmpty() && row.isWords() && !rows.empty() && rows.back().isWords() &&
+            rows.back().cells.size() == row.cells.size()) {
             for (qsizetype i = 0; i < row.cells.size(); ++i)
                 rows.back().cells[i] = withUnit(rows.back().cells[i], row.cells[i]);
             continue;
