@@ -65,6 +65,7 @@ class frmBHDesign : public TowerDesign<BoreholeKind> {
     void forgetSecondOpinionWindow() { opinionWindow_ = nullptr; }
 
     std::string descriptionOf(const std::string& image) const override;
+    std::vector<std::string> warnings() const override;
 
     /// What `imgBore` shows.
     BoreDrawing boreDrawing() const;

@@ -89,6 +89,9 @@ class GroundDesign : public LinkedDesign {
         return !damage_.isNone() || openFile.readOnly || openFile.asksForName;
     }
 
+    /// What an engineer would look at, in sentences.
+    virtual std::vector<std::string> warnings() const { return {}; }
+
     void activated() override;
     bool queryClose() override;
     void unloaded() override;

@@ -172,6 +172,13 @@ QButtonGroup* Binder::optionGroup(const std::string& group) {
 
 void Binder::act(BoundControl& bound, const Verb& verb) {
     if (writing_ > 0 || form_ == nullptr) return;
+    if (refusal_) refusal_->hide();
+    if (onAction) onAction();
+    perform(bound, verb);
+}
+
+void Binder::perform(BoundControl& bound, const Verb& verb) {
+    if (writing_ > 0 || form_ == nullptr) return;
     ++actions_;
     // The handler may take the form and its controls away.
     const std::string name = bound.control().name();
@@ -187,7 +194,7 @@ void Binder::act(BoundControl& bound, const Verb& verb) {
 }
 
 void Binder::leave(BoundControl& bound) {
-    act(bound, [](Form& form, const std::string& name) { form.leave(name); });
+    perform(bound, [](Form& form, const std::string& name) { form.leave(name); });
     if (form_ == nullptr) return;
     const Counting writing(writing_);
     forgetTyping(*bound.widget());
@@ -257,6 +264,7 @@ void Binder::workLate() {
 
 void Binder::settled(Form&) {
     refreshDue_ = false;
+    showRefusal();
     refreshDrawings();
     const auto refreshers = refreshers_;
     for (const auto& refresh : refreshers) refresh();

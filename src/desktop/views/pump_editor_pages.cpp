@@ -88,16 +88,22 @@ QWidget* ratingTable(Binder& bind, Mode mode) {
             units.fields.push_back(COP ? nothing() : unit(bind, column + "UnitLabel"));
         }
     std::vector<FieldRow> rows{heads, units};
+    std::vector<std::vector<std::string>> names(ratingPoints);
     for (std::size_t i = 0; i < ratingPoints; ++i) {
+        names[i].push_back(elementName(prefix + "EWTText", i));
         FieldRow row = tableRow({tableField(bind, elementName(prefix + "EWTText", i), mode)});
         for (std::size_t flow = 0; flow < 2; ++flow) {
-            for (const FittedQuantity quantity : fittedQuantities)
-                row.fields.push_back(tableField(bind, ratingField(mode, flow, quantity, i), mode));
+            for (const FittedQuantity quantity : fittedQuantities) {
+                names[i].push_back(ratingField(mode, flow, quantity, i));
+                row.fields.push_back(tableField(bind, names[i].back(), mode));
+            }
             row.fields.push_back(
                 figure(bind, elementName(ratingColumn(mode, flow, "COP") + "Label", i)));
         }
         rows.push_back(row);
     }
+    // A data sheet's points can be pasted as they stand there.
+    bind.block(std::move(names));
     return gridOf(rows);
 }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The results of a design, with the command that calculates them.
+#include "design/ground_design.h"
 #include "desktop/views/design_pages.h"
 #include "desktop/views/view_pieces.h"
 #include "forms/text_numbers.h"
-#include "loads/linked_design.h"
 
 namespace varnholt {
 namespace {
@@ -11,6 +11,11 @@ namespace {
 bool hasNoLoads(const Binder& bind) {
     const auto* design = static_cast<const LinkedDesign*>(bind.form());
     return design != nullptr && design->loads().zoneNumber == 0;
+}
+
+std::vector<std::string> warningsOf(const Binder& bind) {
+    const auto* design = static_cast<const GroundDesign*>(bind.form());
+    return design == nullptr ? std::vector<std::string>() : design->warnings();
 }
 
 }  // namespace
@@ -23,6 +28,7 @@ QWidget* resultsPanel(Binder& bind, const std::vector<FieldRows>& parts) {
     }
     return group(bind.frame("CACalculationFrame"), gridOf(rows),
                  buttons(bind.primary("CACalculateCommand")),
+                 warningLines(bind, [&bind] { return warningsOf(bind); }),
                  hint(bind, Text::enterLoadsFirst, [&bind] { return hasNoLoads(bind); }));
 }
 

@@ -33,7 +33,19 @@ FieldRow blockRow(Binder& bind, std::size_t block) {
     return row;
 }
 
+/// A block of a spreadsheet goes on over the loads, the hours and the days.
+void takeBlocks(Binder& bind) {
+    std::vector<std::vector<std::string>> rows;
+    for (std::size_t block = 0; block < timeBlocks; ++block)
+        rows.push_back(
+            {elementName("LOGainsText", block), elementName("LOGainsText", block + timeBlocks)});
+    rows.push_back({elementName("LOHoursText", 0), elementName("LOHoursText", 1)});
+    rows.push_back({"LODaysperWeekText"});
+    bind.block(std::move(rows));
+}
+
 QWidget* loads(Binder& bind) {
+    takeBlocks(bind);
     Drawing* bars = newLoadsBars(
         [&bind] {
             const ZoneWindow* window = zoneWindowOf(bind);

@@ -110,6 +110,7 @@ void FieldGrid::addRow(int line, const FieldRow& row, int fieldColumns) {
     }
     if (row.unit != nullptr) {
         mute(row.unit);
+        row.unit->setProperty(unitProperty, true);
         layout_->addWidget(row.unit, line, unitColumn, Qt::AlignLeft | Qt::AlignVCenter);
     }
     if (row.more.empty()) return;

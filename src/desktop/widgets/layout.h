@@ -10,6 +10,9 @@
 
 namespace varnholt {
 
+/// Marks the widget behind a field that tells its unit.
+constexpr const char* unitProperty = "unit";
+
 /// A piece of a layout: a widget, or a stretch that takes the place left over. A null widget is
 /// passed over, so that what a form does not have leaves no gap.
 struct Piece {

@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QPainter>
 #include <QScrollArea>
+#include <QTabWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -98,6 +99,20 @@ QWidget* gap() {
 QWidget* rule() { return new Rule; }
 
 QWidget* roomy(QWidget* view, const QSize& least) { return new Roomy(view, least); }
+
+void bringToSight(QWidget* widget) {
+    for (QWidget* around = widget->parentWidget(); around != nullptr;
+         around = around->parentWidget()) {
+        auto* tabs = qobject_cast<QTabWidget*>(around);
+        for (int page = 0; tabs != nullptr && page < tabs->count(); ++page)
+            if (tabs->widget(page)->isAncestorOf(widget)) tabs->setCurrentIndex(page);
+    }
+    // The places of what has just come to the front are known once it has been laid out.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    for (QWidget* around = widget->parentWidget(); around != nullptr;
+         around = around->parentWidget())
+        if (auto* area = qobject_cast<QScrollArea*>(around)) area->ensureWidgetVisible(widget);
+}
 
 void revealWhenOpened(QWidget* panel) { new Revealer(panel); }
 

@@ -21,6 +21,9 @@ QWidget* rule();
 /// type, though it may be made smaller: what it shows later finds its place.
 QWidget* roomy(QWidget* view, const QSize& least);
 
+/// Brings the pages of tabs around a widget to the front and scrolls it into sight.
+void bringToSight(QWidget* widget);
+
 /// Scrolls a panel into sight when it opens.
 void revealWhenOpened(QWidget* panel);
 

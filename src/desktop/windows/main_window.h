@@ -17,7 +17,10 @@ class QStackedWidget;
 
 namespace varnholt {
 
+class ChildFrame;
 class StartPage;
+struct NamedThing;
+struct StartFiles;
 class Varnmain;
 
 /// The main window: menus, toolbar, status bar, and the area of the child windows.
@@ -39,8 +42,12 @@ class MainWindow : public QMainWindow {
     void openFiles(const std::vector<std::string>& paths);
     /// Runs something of the forms; what it throws goes to the taker of faults.
     void guarded(const std::function<void()>& action);
+    /// Says a sentence in the status bar until something else is done; an empty one ends it.
+    void tell(const std::string& sentence);
     /// What the progress of a file that comes slowly says.
     std::string reading(const std::string& file) const;
+    /// The widgets of the window in front; null where there is none.
+    FormWindow* activeContent() const;
     /// The window that a dialog belongs to: the innermost dialog on show, else this one.
     QWidget* dialogParent();
 
@@ -51,6 +58,12 @@ class MainWindow : public QMainWindow {
     void dropEvent(QDropEvent* event) override;
 
  private:
+    StartFiles startFiles();
+    void addGivingOutEntries();
+    void addFinder();
+    void findByName();
+    void addControlsOf(ChildFrame& frame, std::vector<NamedThing>& things);
+    void giveOut(void (*run)(const Form&, QWidget*), QWidget* (*subject)(QWidget&));
     void addWindowMenu();
     void fillWindowMenu();
     void addRecentMenu();
@@ -67,6 +80,7 @@ class MainWindow : public QMainWindow {
     QMdiArea* area_;
     StartPage* start_;
     QLabel* units_;
+    QLabel* told_;
     QLabel* notice_;
     std::unique_ptr<MainMenu> menu_;
     QMenu* recentMenu_ = nullptr;

@@ -44,7 +44,10 @@ void WindowShelf::setMain(MainWindow& window, Varnmain& main) {
     main_ = &main;
     QObject::connect(&window.area(), &QMdiArea::subWindowActivated, &window,
                      [this](QMdiSubWindow* frame) { userActivated(frame); });
-    window.menu().beforeCommand = [this] { endVisit(); };
+    window.menu().beforeCommand = [this] {
+        window_->tell({});
+        endVisit();
+    };
     window.menu().afterCommand = [this] { refreshTitles(); };
 }
 
@@ -58,6 +61,8 @@ void WindowShelf::endVisit() {
 FormWindow* WindowShelf::makeContent(Form& form) {
     auto* content = new FormWindow(form, views_.maker(), faults_);
     if (scripted_) content->binder().setScripted();
+    content->binder().onAction = [this] { window_->tell({}); };
+    content->binder().onRefused = [this](const std::string& why) { window_->tell(why); };
     content->binder().onCaption = [this, &form] { refreshTitle(form); };
     places_[&form].content = content;
     return content;
