@@ -41,6 +41,7 @@ class frmBHDesign : public TowerDesign<BoreholeKind> {
     /// degF
     double GetGroundTemp() const { return project_.soil.groundTemp; }
 
+    LengthSummary lengthSummary() const override;
     /// What `imgBore` shows.
     BoreDrawing boreDrawing() const;
     /// What `imgField` shows.
@@ -54,6 +55,10 @@ class frmBHDesign : public TowerDesign<BoreholeKind> {
 
  private:
     std::vector<ResultRow> resultRows() const;
+    /// In the field that the results are of.
+    double boresOnShow() const;
+    /// Of each bore, ft; 0 where there are none.
+    double lengthOfEach(Mode mode) const;
     void registerBoreholeValues();
     void addResultValues(Values& values);
     void addAccessors(Values& values);
