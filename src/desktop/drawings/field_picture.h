@@ -12,6 +12,9 @@ namespace varnholt {
 /// are shown as areas.
 void paintField(const Canvas& canvas, const FieldPlan& field, const Texts& texts);
 
+/// The same in small: no legend, and its measures in one line below it.
+void paintSmallField(const Canvas& canvas, const FieldPlan& field, const Texts& texts);
+
 /// What the picture shows, for a screen reader.
 QString describeField(const FieldPlan& field, const Texts& texts);
 
