@@ -4,6 +4,7 @@
 #include "basis/number_text.h"
 #include "design/arrangement_tab.h"
 #include "design/bore_tab.h"
+#include "design/borehole_warnings.h"
 #include "design/extra_power_tab.h"
 #include "design/fluid_tab.h"
 #include "design/modCalculations/bore_resistance.h"
@@ -11,6 +12,7 @@
 #include "design/result_values.h"
 #include "design/shared_values.h"
 #include "design/soil_tab.h"
+#include "forms/quantity.h"
 #include "forms/text_numbers.h"
 
 namespace varnholt {
@@ -38,14 +40,10 @@ std::vector<int> frmBHDesign::pageCaptions() const {
 }
 
 std::vector<ResultRow> frmBHDesign::resultRows() const {
-    const auto bores = [this] {
-        const auto& rows = inputsOnShow().arrangement.patternRows;
-        return rows[0] * rows[1];
-    };
     const auto total = [this](Mode mode) { return shownAs(quantities::length, *this, GetL(mode)); };
-    const auto number = [bores](Mode) { return formatNumber(bores(), "###0"); };
-    const auto each = [this, bores](Mode mode) {
-        return shownAs(quantities::length, *this, bores() == 0 ? 0 : GetL(mode) / bores());
+    const auto number = [this](Mode) { return formatNumber(boresOnShow(), "###0"); };
+    const auto each = [this](Mode mode) {
+        return shownAs(quantities::length, *this, lengthOfEach(mode));
     };
     std::vector<ResultRow> rows{
         {"CATotalLengthLabel", {Text::totalLengthEnglish, Text::totalLengthMetric}, total, true},
@@ -61,6 +59,33 @@ std::vector<ResultRow> frmBHDesign::resultRows() const {
     for (ResultRow& row : unitRows(*this, rollUp, inputs)) rows.push_back(std::move(row));
     rows.push_back(soilChangeRow(*this, [this](Mode mode) { return GetTemperaturePenalty(mode); }));
     return rows;
+}
+
+double frmBHDesign::boresOnShow() const {
+    const auto& rows = inputsOnShow().arrangement.patternRows;
+    return rows[0] * rows[1];
+}
+
+double frmBHDesign::lengthOfEach(Mode mode) const {
+    const double bores = boresOnShow();
+    return bores == 0 ? 0 : GetL(mode) / bores;
+}
+
+LengthSummary frmBHDesign::lengthSummary() const {
+    constexpr LoopWords words{{Text::coolingGovernsBores, Text::heatingGovernsBores},
+                              Text::manyBores,
+                              Text::oneBore,
+                              Text::aBore};
+    const double bores = boresOnShow();
+    LengthSummary summary = summaryOf(*this,
+                                      {lengths(),
+                                       {lengthOfEach(cooling), lengthOfEach(heating)},
+                                       {bores, bores},
+                                       governingMode(),
+                                       resultsState()},
+                                      words);
+    summary.parts = groundParts(*this, results().lengthShares, lengths(), Text::boreResistancePart);
+    return summary;
 }
 
 void frmBHDesign::registerBoreholeValues() {
@@ -150,6 +175,45 @@ FieldPlan frmBHDesign::fieldPlan() const {
     plan.acrossLabel = label(fieldExtent(plan.across, plan.separation));
     plan.downLabel = label(fieldExtent(plan.down, plan.separation));
     return plan;
+}
+
+std::vector<std::string> frmBHDesign::warnings() const {
+    const auto shown = [this](const Quantity& quantity, double value, const char* picture) {
+        return formatNumber(quantity.shown(value, units()), picture);
+    };
+    const bool metric = units() == UnitSystem::metric;
+    const auto unit = [&](int english, int metricText) {
+        return text(metric ? metricText : english);
+    };
+    const std::string degrees =
+        unit(Text::groundTemperatureUnitsEnglish, Text::groundTemperatureUnitsMetric);
+    std::vector<std::string> sentences;
+    for (const BoreholeWarning& warning : warningsOf(project())) {
+        const std::string mode = text(warning.mode == cooling ? Text::cooling : Text::heating);
+        switch (warning.concern) {
+            case BoreholeWarning::Concern::groundNearFluid:
+                sentences.push_back(filledIn(
+                    text(Text::warningGround),
+                    {shown(quantities::temperature, project().soil.groundTemp, "###0.0"),
+                     shown(quantities::temperature, warning.figure, "###0.0"), mode, degrees,
+                     shown(quantities::temperatureDifference, warning.limit, "###0.0")}));
+                break;
+            case BoreholeWarning::Concern::boresTouch:
+                sentences.push_back(filledIn(text(Text::warningTouch),
+                                             {shown(quantities::diameter, warning.figure, "###0.0"),
+                                              shown(quantities::length, warning.limit, "###0.00"),
+                                              unit(Text::warningInches, Text::warningMillimetres),
+                                              unit(Text::warningFeet, Text::warningMetres)}));
+                break;
+            case BoreholeWarning::Concern::boreTooDeep:
+                sentences.push_back(filledIn(text(Text::warningDeep),
+                                             {shown(quantities::length, warning.figure, "###0"),
+                                              shown(quantities::length, warning.limit, "###0"),
+                                              unit(Text::warningFeet, Text::warningMetres)}));
+                break;
+        }
+    }
+    return sentences;
 }
 
 }  // namespace varnholt

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "basis/number_text.h"
 #include "basis/run_time_error.h"
 #include "forms/text_numbers.h"
 
@@ -182,6 +183,42 @@ void Form::leave(const std::string& name) {
         if (fields_.has(name)) fields_.left(name);
         raise(handlersOf(name).leave);
     });
+}
+
+Form::FilledCells Form::fill(const std::vector<TypedCell>& cells) {
+    FilledCells filled;
+    if (cells.empty()) return filled;
+    perform(Verb::type, cells.front().control, [&] {
+        for (const TypedCell& cell : cells) {
+            const Control& field = control(cell.control);
+            if (cell.text.empty() || !field.enabled() || field.locked() || !isShown(field))
+                continue;
+            ++filled.typed;
+            if (fields_.has(cell.control) && !readPlainNumber(cell.text)) {
+                fields_.refuseText(cell.control, cell.text);
+                ++filled.refused;
+                continue;
+            }
+            type(cell.control, cell.text);
+            if (field.refused())
+                ++filled.refused;
+            else
+                leave(cell.control);
+        }
+        visited_.clear();
+    });
+    return filled;
+}
+
+std::string Form::whyRefused(const RefusedValue& refused) const {
+    const int words = refused.noNumber          ? Text::noticeValueNoNumber
+                      : refused.tooLarge        ? Text::noticeValueTooLarge
+                      : refused.single          ? Text::noticeValueNotTaken
+                      : refused.lowestIsRefused ? Text::noticeValueNotAbove
+                      : refused.highest.empty() ? Text::noticeValueTooSmall
+                                                : Text::noticeValueOutsideRange;
+    return filledIn(text(words), {control(refused.control).accessibleName(), refused.typed,
+                                  refused.lowest, refused.highest, refused.taken});
 }
 
 void Form::key(const std::string& name, const std::string& key) {

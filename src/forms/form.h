@@ -54,6 +54,14 @@ struct UserAction {
 /// the property instead and raises nothing.
 class Form {
  public:
+    /// A text for one of several fields.
+    struct TypedCell {
+        std::string control, text;
+    };
+    struct FilledCells {
+        int typed = 0, refused = 0;
+    };
+
     /// @param formName the window's own name, "frmBHDesign"
     Form(std::string formName, Platform& platform, const Texts& texts);
     virtual ~Form();
@@ -85,6 +93,10 @@ class Form {
     void select(const std::string& control, std::vector<int> rows);
     void slide(const std::string& control, double value);
     void pickDate(const std::string& control, const Date& date);
+    /// Puts a block of texts into fields, each as if typed and left, as one action. An empty text
+    /// and a field that cannot be typed into are passed over; what is no number is refused where
+    /// one belongs. Fields that refuse theirs keep their marks.
+    FilledCells fill(const std::vector<TypedCell>& cells);
     /// A drag of a slider begins or ends: its many moves are one change.
     void beginGesture(const std::string& control) {
         gesture_ = control;
@@ -98,6 +110,8 @@ class Form {
     /// The field in which something has been typed and which has not been left since; empty for
     /// none.
     const std::string& visitedField() const { return visited_; }
+    /// Why a field holds another value than was typed, in a sentence.
+    std::string whyRefused(const RefusedValue& refused) const;
     /// Whether keys in the control have a meaning of their own.
     bool takesKeys(const std::string& control) const;
     /// Whether clicks on the control have a meaning.

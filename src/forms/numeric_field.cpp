@@ -126,14 +126,38 @@ bool NumericFields::applyRange(const NumericFieldRow& row) {
     const double value = row.stored.get();
     const std::string& text = form_.control(row.control).text();
     if (text.empty() || (row.unparsable && !readLeadingNumber(text))) return false;
-    const bool between = row.leastBesideZero && value > row.lowest && value < *row.leastBesideZero;
-    const bool below =
-        value < row.lowest || between || (row.lowestIsRefused && value == row.lowest);
     // Written so that a value that is no number is refused too.
-    if (!below && value <= row.highest) return false;
-    row.stored.set((below ? row.ifBelow : row.ifAbove).value_or(fallbackOf(row)));
+    if (!isBelow(row, value) && value <= row.highest) return false;
+    row.stored.set(instead(row, value));
     show(row.control);
     return true;
+}
+
+bool NumericFields::isBelow(const NumericFieldRow& row, double value) {
+    const bool between = row.leastBesideZero && value > row.lowest && value < *row.leastBesideZero;
+    return value < row.lowest || between || (row.lowestIsRefused && value == row.lowest);
+}
+
+double NumericFields::instead(const NumericFieldRow& row, double value) {
+    return (isBelow(row, value) ? row.ifBelow : row.ifAbove).value_or(fallbackOf(row));
+}
+
+void NumericFields::refuseText(const std::string& control, const std::string& text) {
+    refuse(rows_.at(control), text, false);
+    refused_.back().noNumber = true;
+}
+
+std::optional<NumericFields::WouldStore> NumericFields::wouldStore(const std::string& control,
+                                                                   const std::string& text) const {
+    const NumericFieldRow& row = rows_.at(control);
+    const std::optional<double> typed = readPlainNumber(text);
+    if (!typed) return std::nullopt;
+    const double value = row.quantity->stored(*typed, units());
+    if (!isBelow(row, value) && value <= row.highest) {
+        if (std::abs(value) > row.stored.largest()) return std::nullopt;
+        return WouldStore{value, false};
+    }
+    return WouldStore{instead(row, value), true};
 }
 
 void NumericFields::left(const std::string& control) {

@@ -97,6 +97,7 @@ struct RefusedValue {
     bool lowestIsRefused = false;
     bool tooLarge = false;  ///< for the field to hold at all, whatever its limits
     bool single = false;    ///< it takes any other value
+    bool noNumber = false;  ///< what came was no number at all
 };
 
 /// What the fields of one form have in common.
@@ -131,6 +132,16 @@ class NumericFields {
     void showCaptions();
     /// The last refused value, as long as its field carries the mark.
     std::optional<RefusedValue> refused() const;
+    /// What the field refuses of a text that is no number as a whole: it keeps its value and is
+    /// marked.
+    void refuseText(const std::string& control, const std::string& text);
+    /// What would be stored for a text if it were typed into the field and left, by the field's own
+    /// range; nothing for a text that is no number or more than the stored value can be.
+    struct WouldStore {
+        double value = 0;
+        bool refused = false;  ///< the value stands in place of one out of range
+    };
+    std::optional<WouldStore> wouldStore(const std::string& control, const std::string& text) const;
     /// Takes the mark of refused values away.
     void forgetRefused();
 
@@ -140,6 +151,8 @@ class NumericFields {
     void checkLeft(const NumericFieldRow& row);
     static double fallbackOf(const NumericFieldRow& row);
     bool applyRange(const NumericFieldRow& row);
+    static bool isBelow(const NumericFieldRow& row, double value);
+    static double instead(const NumericFieldRow& row, double value);
     void refuse(const NumericFieldRow& row, const std::string& typed, bool tooLarge);
     std::string shownAs(const NumericFieldRow& row, double value) const;
     UnitSystem units() const;

@@ -59,6 +59,11 @@ class Platform {
 
     virtual std::string clipboard() = 0;
     virtual void setClipboard(const std::string& text) = 0;
+    /// What parts the fraction from the whole in numbers that the user writes elsewhere.
+    virtual char decimalMark() { return '.'; }
+    /// Says in a line what came of a command, or why it did nothing; it stands there until
+    /// something else is done. A program without such a line says nothing.
+    virtual void tell(const std::string& /*sentence*/) {}
     virtual Date today() = 0;
     /// Does it with the field that has the focus, if any has.
     virtual void edit(EditCommand command) = 0;

@@ -136,13 +136,7 @@ void ChildWindow::endVisitOfField() {
 }
 
 Notice ChildWindow::refusedNotice(const RefusedValue& refused) const {
-    const int words = refused.tooLarge          ? Text::noticeValueTooLarge
-                      : refused.single          ? Text::noticeValueNotTaken
-                      : refused.lowestIsRefused ? Text::noticeValueNotAbove
-                      : refused.highest.empty() ? Text::noticeValueTooSmall
-                                                : Text::noticeValueOutsideRange;
-    return {filledIn(text(words), {control(refused.control).accessibleName(), refused.typed,
-                                   refused.lowest, refused.highest, refused.taken})};
+    return {whyRefused(refused)};
 }
 
 void ChildWindow::addNotice() {

@@ -42,7 +42,23 @@ void frmZoneManage::hookListCommands() {
     onClick("LOSummaryCommand", [this] { LOSummaryCommand_Click(); });
     onClick("LOReturnFromSummaryCommand", [this] { LOReturnFromSummaryCommand_Click(); });
     onClick("LOAutoSelectCommand", [this] { LOAutoSelectCommand_Click(); });
+    onKey("LOZoneList", [this](const std::string& key) {
+        if (key == "Ctrl+V") pasteFromClipboard();
+    });
     onClick("LOAutoSelectAllCommand", [this] { LOAutoSelectAllCommand_Click(); });
+}
+
+/// The summary suspends the commands that add zones, and this is one of them.
+void frmZoneManage::pasteFromClipboard() {
+    if (!control("LONewCommand").enabled()) return;
+    nameStep(text(Text::pasteZones));
+    const PastedBlock block = readBlock(platform().clipboard(), platform().decimalMark());
+    const PastedZones pasted = pasteZones(block);
+    if (pasted.zones == 0) return platform().tell(text(Text::noZonesToPaste));
+    std::string told = filledIn(text(Text::zonesPasted), {std::to_string(pasted.zones)});
+    if (pasted.refused > 0)
+        told += " " + filledIn(text(Text::zoneCellsRefused), {std::to_string(pasted.refused)});
+    platform().tell(told);
 }
 
 std::string frmZoneManage::zoneFrameCaption(const Zone& zone) const {

@@ -17,6 +17,13 @@ class frmZoneManage : public ZoneWindow {
     /// The whole building's loads by time block.
     LoadsChart buildingDayChart() const;
 
+    /// The summary as a table for elsewhere: heads with their units, and the cells of a line of
+    /// `LOZoneSummaryList`; zone, label and mode come first.
+    std::vector<std::string> summaryTableHeads() const;
+    std::vector<std::string> summaryTableCells(std::size_t line) const;
+    /// The zone of such a line.
+    static std::size_t zoneOfSummaryLine(std::size_t line) { return line / 2; }
+
  protected:
     MiniPump evaluated(const pump& model, std::int16_t units, const Zone& zone) const override;
     std::string zoneFrameCaption(const Zone& zone) const override;
@@ -27,6 +34,7 @@ class frmZoneManage : public ZoneWindow {
     void addSummaryHeadings();
     void hookListCommands();
 
+    void pasteFromClipboard();
     void LOCopyCommand_Click();
     void LORemoveCommand_Click();
     void LORenumberCommand_Click();

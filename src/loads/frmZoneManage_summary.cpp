@@ -106,6 +106,35 @@ LoadsChart frmZoneManage::buildingDayChart() const {
     return chartOf(totalsOf(ZoneList()).gains, units());
 }
 
+std::vector<std::string> frmZoneManage::summaryTableHeads() const {
+    const auto head = [this](std::size_t index) {
+        const Heading& heading = headings[index];
+        return text(units() == UnitSystem::metric ? heading.metricText : heading.englishText);
+    };
+    std::vector<std::string> heads{head(0), text(Text::zoneColumnLabel), text(Text::modeHead),
+                                   head(1), text(Text::numberOfUnits)};
+    constexpr std::size_t loads = 2, firstBlock = 3, capacity = 7, power = 9, cop = 11, factor = 13;
+    for (std::size_t block = 0; block < timeBlocks; ++block)
+        heads.push_back(head(firstBlock + block) + " " + head(loads));
+    heads.push_back(head(capacity) + " " + head(capacity + 1));
+    heads.push_back(head(power) + " " + head(power + 1));
+    const bool metric = units() == UnitSystem::metric;
+    heads.push_back(metric ? head(cop) : head(cop) + " " + head(cop + 1));
+    heads.push_back(head(factor));
+    return heads;
+}
+
+std::vector<std::string> frmZoneManage::summaryTableCells(std::size_t line) const {
+    const std::size_t position = zoneOfSummaryLine(line);
+    if (position >= ZoneList().size()) return {};
+    const Zone& zone = ZoneList()[position];
+    const Mode m = line % 2 == 0 ? cooling : heating;
+    std::vector<std::string> cells = summaryCells(numberOfZone(zone), zone, m, units());
+    const int mode = m == cooling ? Text::cooling : Text::heating;
+    cells.insert(cells.begin() + 1, {zone.title, text(mode)});
+    return cells;
+}
+
 void frmZoneManage::showSummaryCaptions() {
     const bool metric = units() == UnitSystem::metric;
     int index = 0;

@@ -40,9 +40,16 @@ void shareSeries(LinkedDesign& design, LoadsWindow& loads) {
     loads.takeSeries(design.loads().activeSeries);
 }
 
+bool isLoadsWindowOpen(const Varnmain& main) {
+    return main.find("frmZoneManage") != nullptr || main.find("frmAvgBlock") != nullptr;
+}
+
+void tell(const Varnmain& main, int sentence) { main.platform().tell(main.text(sentence)); }
+
 void linkDesign(LinkedDesign& design) {
-    if (design.link() != nullptr) return;
     Varnmain& main = design.main();
+    if (design.link() != nullptr) return tell(main, Text::linkedAlready);
+    if (!isLoadsWindowOpen(main)) return tell(main, Text::linkNeedsLoads);
     LoadsWindow* loads = chooseLoadsWindow(main);
     if (loads == nullptr || !main.isOpen(&design)) return;
     const DocumentStep step({&design, loads}, design.text(Text::linkLoads));
@@ -55,12 +62,15 @@ void linkDesign(LinkedDesign& design) {
 void linkLoadsWindow(LoadsWindow& loads) {
     LinkedDesign* partner = nullptr;
     int freeDesigns = 0;
-    for (LinkedDesign* design : linkableDesigns(loads.main())) {
+    const std::vector<LinkedDesign*> designs = linkableDesigns(loads.main());
+    for (LinkedDesign* design : designs) {
         if (design->link() != nullptr) continue;
         ++freeDesigns;
         partner = design;
     }
-    if (freeDesigns != 1) return;
+    if (designs.empty()) return tell(loads.main(), Text::linkNeedsDesign);
+    if (freeDesigns == 0) return tell(loads.main(), Text::linkNeedsFreeDesign);
+    if (freeDesigns > 1) return tell(loads.main(), Text::linkIsNotClear);
     const DocumentStep step({&loads, partner}, loads.text(Text::linkLoads));
     partner->switchUnits(loads.units());
     linkWithTransfer(*partner, loads);
@@ -106,7 +116,9 @@ void mnuUnlink_Click(Varnmain& main) {
     ChildWindow* active = main.activeWindow();
     if (active == nullptr) return;
     std::vector<ChildWindow*> changed{active};
-    for (LinkedDesign* design : designsLinkedBy(*active)) {
+    const std::vector<LinkedDesign*> linked = designsLinkedBy(*active);
+    if (linked.empty()) tell(main, Text::noLinkToEnd);
+    for (LinkedDesign* design : linked) {
         changed.push_back(design);
         changed.push_back(design->LoadsHome());
     }

@@ -180,6 +180,21 @@ void openProjectFile(Varnmain& main, const std::string& path) {
     main.fileUsed(whole);
 }
 
+void openTemplate(Varnmain& main, const std::string& path) {
+    main.hideSplash();
+    main.setNotice({});
+    ProjectSource source{absolutePath(main, path), {}, {}};
+    const DesignFileKind* kind = prepareToOpen(main, source);
+    if (kind == nullptr) return;
+    source.as = OpenAs::copy;
+    source.file = {};
+    {
+        const RaisedFlag opening(main.openCall);
+        openDesign(main, *kind, &source);
+    }
+    main.refreshCommands();
+}
+
 GroundDesign* openRecoveredDesign(Varnmain& main, const DesignFileKind& kind,
                                   const RecoveryRecord& record) {
     ProjectSource source{record.path, {record.document, {}}, {}};

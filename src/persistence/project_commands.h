@@ -25,6 +25,8 @@ void mnuFileSaveAs_Click(Varnmain& main);
 /// Opens a project file without a dialog: from the command line, dropped on the window, or one of
 /// the recent files. A file that is open already stays in its window, with a message.
 void openProjectFile(Varnmain& main, const std::string& path);
+/// Opens a design that starts with what a project file holds; it has no file of its own yet.
+void openTemplate(Varnmain& main, const std::string& path);
 /// Opens a zone file in the Zone Manager, after that window's own question when it has changes.
 void openZoneFile(Varnmain& main, const std::string& path);
 /// Opens the design of a record of unsaved work, which counts as changed, under its own name where

@@ -63,6 +63,7 @@ SavedAs write(GroundDesign& design, const std::string& path) {
     design.noteSaved();
     design.refreshNotice();
     main.fileUsed(path);
+    main.platform().tell(filledIn(main.text(Text::savedAs), {path}));
     return saved;
 }
 

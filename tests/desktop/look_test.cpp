@@ -37,6 +37,23 @@ TEST(Look, OfEitherSchemeHasEnoughContrast) {
     }
 }
 
+TEST(Look, ShowsTheFocusByARingThatStandsOutFromGroundAndRestingEdge) {
+    constexpr double ring = 3;  // level AA for what is no text
+    for (const Look* look : {&lightLook(), &darkLook()}) {
+        SCOPED_TRACE(look->dark ? "dark" : "light");
+        for (const QColor& ground : {look->window, look->surface, look->field, look->line})
+            EXPECT_GE(contrast(look->accent, ground), ring) << ground.name().toStdString();
+        EXPECT_GE(contrast(look->ink, look->accent), ring);  // around the primary button
+        EXPECT_GE(contrast(look->onStale, look->stale), ring);
+        EXPECT_GE(contrast(look->alarm, look->heatingWash), ring);
+    }
+}
+
+TEST(Look, HasReadableHintsAndWarnings) {
+    for (const Look* look : {&lightLook(), &darkLook()})
+        EXPECT_GE(contrast(look->ink, look->heatingWash), enough);
+}
+
 TEST(Look, KeepsTheNumbersOfTheFormsInTheLightScheme) {
     const Look& look = lightLook();
     // Blue-green-red: 7829367 is 0x777777, 5263547 is 0x5050BB, 8925232 is 0x883030,

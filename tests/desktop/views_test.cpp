@@ -2,11 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <functional>
+#include <map>
 #include <set>
 
 #include "desk.h"
@@ -242,6 +244,33 @@ TEST(Accessibility, GivesEveryFieldAName) {
             if (!takesTheKeyboard(form, *control)) continue;
             EXPECT_FALSE(window.binder().widget(control->name())->accessibleName().isEmpty())
                 << control->name();
+        }
+    });
+}
+
+/// What a screen reader tells of a widget: what it is, and what it is called.
+std::pair<int, std::string> toldOf(QWidget& widget) {
+    const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&widget);
+    if (told == nullptr) return {};
+    return {told->role(), plain(told->text(QAccessible::Name))};
+}
+
+TEST(Accessibility, CallsNoTwoControlsOfAWindowAlikeAndNoneNothing) {
+    Desk desk;
+    ViewRegistry views;
+    forEveryForm(desk, [&](Form& form) {
+        FormWindow window(form, views.maker(), {});
+        window.binder().buildAll();
+        dress(window);
+        window.show();
+        std::map<std::pair<int, std::string>, std::string> names;
+        for (const auto& control : form.controls()) {
+            if (!takesTheKeyboard(form, *control)) continue;
+            const auto told = toldOf(*window.binder().widget(control->name()));
+            EXPECT_NE(told.second, "") << control->name();
+            const auto [other, isNew] = names.emplace(told, control->name());
+            EXPECT_TRUE(isNew) << control->name() << " and " << other->second << " are both "
+                               << told.second;
         }
     });
 }

@@ -68,6 +68,8 @@ class FakePlatform : public Platform {
     }
     std::string clipboard() override { return clipboardText; }
     void setClipboard(const std::string& text) override { clipboardText = text; }
+    void tell(const std::string& sentence) override { told.push_back(sentence); }
+    char decimalMark() override { return mark; }
     Date today() override { return day; }
     void edit(EditCommand command) override { edits.push_back(command); }
     void progress(const std::string&, std::size_t done, std::size_t) override {
@@ -90,6 +92,8 @@ class FakePlatform : public Platform {
     std::function<void(Form&)> onModal;
     /// What the user does while the program waits: once.
     std::string clipboardText;
+    std::vector<std::string> told;
+    char mark = '.';
     Date day{2026, 1, 15};
     std::vector<EditCommand> edits;
     std::vector<std::size_t> progressSteps;

@@ -299,6 +299,7 @@ void frmHPEdit::SaveCommand_Click() {
     markSaved();
     for (const Shared<pump>& model : document_.pumps)
         if (staleCurves(*model).any()) savedStale_.push_back(model->name);
+    platform().tell(filledIn(text(Text::savedAs), {seriesPath()}));
     catalogueWritten_();
 }
 

@@ -17,6 +17,7 @@
 #include "desktop/binding/typing.h"
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/text_label.h"
 #include "forms/texts.h"
 
 namespace varnholt {
@@ -172,6 +173,13 @@ QButtonGroup* Binder::optionGroup(const std::string& group) {
 
 void Binder::act(BoundControl& bound, const Verb& verb) {
     if (writing_ > 0 || form_ == nullptr) return;
+    if (refusal_) refusal_->hide();
+    if (onAction) onAction();
+    perform(bound, verb);
+}
+
+void Binder::perform(BoundControl& bound, const Verb& verb) {
+    if (writing_ > 0 || form_ == nullptr) return;
     ++actions_;
     // The handler may take the form and its controls away.
     const std::string name = bound.control().name();
@@ -187,7 +195,7 @@ void Binder::act(BoundControl& bound, const Verb& verb) {
 }
 
 void Binder::leave(BoundControl& bound) {
-    act(bound, [](Form& form, const std::string& name) { form.leave(name); });
+    perform(bound, [](Form& form, const std::string& name) { form.leave(name); });
     if (form_ == nullptr) return;
     const Counting writing(writing_);
     forgetTyping(*bound.widget());
@@ -257,6 +265,7 @@ void Binder::workLate() {
 
 void Binder::settled(Form&) {
     refreshDue_ = false;
+    showRefusal();
     refreshDrawings();
     const auto refreshers = refreshers_;
     for (const auto& refresh : refreshers) refresh();
@@ -331,7 +340,7 @@ FieldRow Binder::results(const std::string& array) {
     for (const std::size_t mode : {0U, 1U}) {
         auto* figure = static_cast<QLabel*>(widget(elementName(array, mode)));
         figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        figure->setFont(figureFont(figure->font()));
+        asFigures(figure);
         row.fields.push_back(figure);
         nameBy(elementName(array, mode), elementName(array, 2));
     }
@@ -344,7 +353,7 @@ FieldRow Binder::figure(const std::string& caption, const std::string& value,
     row.caption = widget(caption);
     auto* figure = static_cast<QLabel*>(widget(value));
     figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    figure->setFont(figureFont(figure->font()));
+    asFigures(figure);
     row.fields = {figure};
     nameBy(value, caption);
     row.more = more;

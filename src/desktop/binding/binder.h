@@ -18,9 +18,12 @@
 #include "desktop/widgets/field_row.h"
 #include "desktop/widgets/house_widgets.h"
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/refusal_hint.h"
 #include "forms/form.h"
 
 class QButtonGroup;
+class QKeyEvent;
+class QMenu;
 class QTabWidget;
 
 namespace varnholt {
@@ -66,6 +69,9 @@ class Binder : public QObject, public FormObserver {
                     std::initializer_list<QWidget*> more = {});
     /// Heads over the two columns of results or pairs.
     FieldRow heads(const std::string& cooling, const std::string& heating);
+    /// Fields that a block of a spreadsheet goes on over when it is pasted into one of them: rows
+    /// down, columns across. Empty names are gaps.
+    void block(std::vector<std::vector<std::string>> rows) { blocks_.push_back(std::move(rows)); }
     /// One widget over the whole width.
     FieldRow wide(QWidget* widget) const;
 
@@ -106,6 +112,8 @@ class Binder : public QObject, public FormObserver {
     bool isScripted() const { return scripted_; }
     /// Lays out the view; parts that nobody looks at yet follow later.
     void build(const std::function<void()>& view);
+    /// What a view offers besides in the menu of a control, by its name.
+    std::function<void(QMenu& menu, const std::string& control)> addToMenu;
     /// Called when a part has been built after the view.
     std::function<void()> onBuilt;
     /// Builds the parts that are still missing.
@@ -144,6 +152,10 @@ class Binder : public QObject, public FormObserver {
     bool eventFilter(QObject* watched, QEvent* event) override;
     void customEvent(QEvent* event) override;
 
+    /// A person begins to do something in the window; leaving a field is none of it.
+    std::function<void()> onAction;
+    /// A field holds another value than was typed, and why.
+    std::function<void(const std::string&)> onRefused;
     /// The window's caption has changed.
     std::function<void()> onCaption;
 
@@ -155,6 +167,10 @@ class Binder : public QObject, public FormObserver {
     void nameBy(const std::string& name, const std::string& label);
     void showName(const std::string& name, const std::string& label);
     bool keyPressed(BoundControl& bound, int key, Qt::KeyboardModifiers modifiers);
+    void perform(BoundControl& bound, const Verb& verb);
+    bool pasteBlock(const std::string& field);
+    bool takesKey(const BoundControl& bound, const QKeyEvent& key, QObject* keyboard);
+    void showRefusal();
     void stepCompanion(const BoundControl& bound, int steps);
     void refreshDrawings();
     void recolour();
@@ -176,6 +192,8 @@ class Binder : public QObject, public FormObserver {
     std::map<std::string, std::string> figures_;
     std::vector<Drawing*> drawings_;
     std::vector<std::function<void()>> refreshers_;
+    std::vector<std::vector<std::vector<std::string>>> blocks_;
+    std::unique_ptr<RefusalHint> refusal_;
     std::function<void(std::exception_ptr)> faults_;
     bool scripted_ = false;
     bool leavesByFocus_ = true;

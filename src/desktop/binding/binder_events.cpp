@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the binder learns from the widgets' own events: keys, the focus, the colour scheme.
+#include <QCoreApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <algorithm>
 
 #include "desktop/binding/binder.h"
+#include "desktop/binding/pasted_places.h"
 #include "desktop/binding/typing.h"
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -56,6 +60,7 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
     if (found == keyboards_.end()) return false;
     BoundControl& bound = *found->second;
     if (event->type() == QEvent::FocusOut && leavesByFocus_ &&
+        bound.control().kind() != ControlKind::list &&
         !comesBack(static_cast<QFocusEvent*>(event)->reason())) {
         leave(bound);
     } else if (event->type() == QEvent::ShortcutOverride) {
@@ -66,6 +71,7 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
         return true;
     } else if (event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
+        if (!takesKey(bound, *key, watched)) return true;
         return keyPressed(bound, key->key(), key->modifiers());
     }
     return false;
@@ -99,6 +105,9 @@ bool Binder::keyPressed(BoundControl& bound, int key, Qt::KeyboardModifiers modi
         if (mine) act(bound, [](Form& f, const std::string& name) { f.key(name, "Enter"); });
         return done;
     }
+    if (key == Qt::Key_V && held == Qt::ControlModifier && !mine && control.enabled() &&
+        !control.locked() && pasteBlock(control.name()))
+        return true;
     if (key == Qt::Key_V && held == Qt::ControlModifier && control.enabled() && !control.locked() &&
         (mine || (takesText(control) && replacesAll(bound.widget())))) {
         act(bound, [](Form& f, const std::string& name) { f.key(name, "Ctrl+V"); });
@@ -110,6 +119,60 @@ bool Binder::keyPressed(BoundControl& bound, int key, Qt::KeyboardModifiers modi
         return true;
     }
     return false;
+}
+
+/// Whether a pressed key may be typed into the field. What can be no part of a number goes nowhere,
+/// and a comma is the point where the user's locale has it for one.
+bool Binder::takesKey(const BoundControl& bound, const QKeyEvent& key, QObject* keyboard) {
+    const std::string& name = bound.control().name();
+    constexpr Qt::KeyboardModifiers command =
+        Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const QString typed = key.text();
+    if (scripted_ || !form_->fields().has(name) || bound.control().locked() || typed.isEmpty() ||
+        (key.modifiers() & command) != 0 || !typed.front().isPrint())
+        return true;
+    if (typed == u"," && form_->platform().decimalMark() == ',') {
+        QKeyEvent point(QEvent::KeyPress, Qt::Key_Period, Qt::NoModifier, QStringLiteral("."));
+        QCoreApplication::sendEvent(keyboard, &point);
+        return false;
+    }
+    const bool part = std::all_of(typed.begin(), typed.end(), [](QChar c) {
+        return (c >= u'0' && c <= u'9') || QStringView(u"+-.eE").contains(c);
+    });
+    if (!part) form_->platform().tell(form_->text(Text::numberWanted));
+    return part;
+}
+
+/// The field's own cell of a block of fields takes the first cell of what is pasted.
+bool Binder::pasteBlock(const std::string& field) {
+    if (scripted_) return false;
+    Platform& platform = form_->platform();
+    const std::string text = platform.clipboard();
+    if (!isBlock(text)) return false;
+    for (const auto& rows : blocks_) {
+        const std::optional<PastedPlaces> places =
+            placesOf(rows, field, readBlock(text, platform.decimalMark()));
+        if (!places) continue;
+        Form::FilledCells filled;
+        act(*find(field),
+            [&](Form& form, const std::string&) { filled = form.fill(places->cells); });
+        if (form_ != nullptr) platform.tell(toldOf(*form_, filled, places->beyond));
+        return true;
+    }
+    return false;
+}
+
+/// Why the field that has just refused a value holds another one, beside it.
+void Binder::showRefusal() {
+    if (scripted_ || form_ == nullptr) return;
+    const std::optional<RefusedValue> refused = form_->fields().refused();
+    const BoundControl* field = refused ? find(refused->control) : nullptr;
+    if (field == nullptr || !field->widget()->isVisible()) return;
+    const std::string why = form_->whyRefused(*refused);
+    if (refusal_ == nullptr) refusal_ = std::make_unique<RefusalHint>();
+    if (refusal_->isShownFor(field->widget(), why)) return;
+    refusal_->show(field->widget(), why);
+    if (onRefused) onRefused(why);
 }
 
 void Binder::stepCompanion(const BoundControl& bound, int steps) {

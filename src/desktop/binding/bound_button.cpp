@@ -2,6 +2,7 @@
 #include "desktop/binding/bound_button.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QPushButton>
 
 #include "desktop/binding/binder.h"
@@ -10,8 +11,24 @@
 #include "forms/text_numbers.h"
 
 namespace varnholt {
+namespace {
+
+/// Enter presses it as the space bar does.
+class PressButton : public QPushButton {
+ protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (enter && (event->modifiers() & ~Qt::KeypadModifier) == 0)
+            click();
+        else
+            QPushButton::keyPressEvent(event);
+    }
+};
+
+}  // namespace
+
 BoundButton::BoundButton(Binder& binder, Control& control)
-    : BoundControl(binder, control, new QPushButton), button_(static_cast<QPushButton*>(widget())) {
+    : BoundControl(binder, control, new PressButton), button_(static_cast<QPushButton*>(widget())) {
     button_->setAutoDefault(false);
     button_->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     QObject::connect(button_, &QPushButton::clicked, &binder, [this] {

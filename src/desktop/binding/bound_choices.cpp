@@ -81,6 +81,8 @@ class BoundList : public BoundControl {
         : BoundControl(binder, control, new ListView(control.multiple())),
           list_(static_cast<ListView*>(widget())) {
         list_->onPicked = [this] { picked(); };
+        if (binder.form() != nullptr && binder.form()->takesKeys(control.name()))
+            binder.watchKeys(*this, list_);
         showAll();
     }
 

@@ -61,9 +61,14 @@ class BoundText : public BoundControl {
     }
 
  private:
+    QString reasonOf() const {
+        const Form* form = binder().form();
+        const auto refused = form == nullptr ? std::nullopt : form->fields().refused();
+        const bool mine = refused && refused->control == control().name();
+        return qt(mine ? form->whyRefused(*refused) : binder().text(Text::refusedValue));
+    }
     void showRefused() {
-        const QString reason =
-            control().refused() ? qt(binder().text(Text::refusedValue)) : QString();
+        const QString reason = control().refused() ? reasonOf() : QString();
         if (edit_->property("refused").toBool() == control().refused()) return;
         setStyleProperty("refused", control().refused());
         edit_->setMark(control().refused() ? houseIcon(QStringLiteral("refused")) : QIcon(),

@@ -5,10 +5,12 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QVBoxLayout>
 #include <QWhatsThis>
 #include <utility>
 
+#include "desktop/binding/giving_out.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/layout.h"
 #include "desktop/widgets/qt_text.h"
@@ -121,6 +123,26 @@ void FormWindow::growToContents() {
     if (frame == nullptr || !isVisible() || frame->isMaximized() || frame->isMinimized()) return;
     const QSize lacking = (minimumSizeHint() - size()).expandedTo(QSize(0, 0));
     if (!lacking.isNull()) frame->resize(frame->size() + lacking);
+}
+
+/// Tables and pictures under the pointer can be taken away.
+void FormWindow::contextMenuEvent(QContextMenuEvent* event) {
+    const Form* form = binder_.form();
+    QWidget* widget = childAt(event->pos());
+    if (form == nullptr || widget == nullptr) return;
+    QMenu menu(this);
+    if (binder_.addToMenu) binder_.addToMenu(menu, controlOf(widget));
+    addGivingOut(menu, *form, widget);
+    if (!menu.isEmpty()) menu.exec(event->globalPos());
+}
+
+/// What has no text of its own to copy gives its table.
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    const Form* form = binder_.form();
+    if (form != nullptr && event->matches(QKeySequence::Copy) && !binder_.isScripted() &&
+        copyShown(*form, QApplication::focusWidget()))
+        return event->accept();
+    QWidget::keyPressEvent(event);
 }
 
 void FormWindow::askHelp(Qt::KeyboardModifiers keys) {

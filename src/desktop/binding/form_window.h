@@ -28,6 +28,8 @@ class FormWindow : public QWidget {
 
  protected:
     bool event(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
  private:
     void finish();

@@ -16,6 +16,10 @@ constexpr double barGap = 3;  // between the two bars of a block
 
 QString figure(double load) { return qt(formatNumber(load, "##0.0")); }
 
+double largestOf(const ByMode<double>& figures) {
+    return std::max(figures[cooling], figures[heating]);
+}
+
 QString modeWord(Mode mode, const Texts& texts) {
     return qt(mode == cooling ? texts.text(Text::chartCooling) : texts.text(Text::chartHeating));
 }
@@ -63,8 +67,29 @@ void drawBlockNames(const Canvas& canvas, const QRectF& foot, const LoadsCaption
                                 Qt::AlignCenter, qt(captions.blocks[block]));
 }
 
-void drawBar(const Canvas& canvas, Mode mode, const QRectF& bar) {
+/// Whether the pump's capacity finds its place beside the loads: one that is many times larger
+/// would leave nothing to be seen of them.
+bool showsCapacity(const LoadsChart& loads, Mode mode) {
+    constexpr double mostTimes = 2;
+    return loads.capacity[mode] && loads.largest[mode] > 0 &&
+           *loads.capacity[mode] <= mostTimes * largestOf(loads.largest);
+}
+
+/// What the height of the picture stands for.
+double scaleOf(const LoadsChart& loads) {
+    double scale = largestOf(loads.largest);
+    for (const Mode mode : modes)
+        if (showsCapacity(loads, mode)) scale = std::max(scale, *loads.capacity[mode]);
+    return scale;
+}
+
+bool exceeds(const LoadsChart& loads, Mode mode, double load) {
+    return loads.capacity[mode] && load > *loads.capacity[mode];
+}
+
+void drawBar(const Canvas& canvas, Mode mode, const QRectF& bar, bool exceeded) {
     setBarStyle(canvas, mode);
+    if (exceeded) canvas.painter.setPen(QPen(canvas.look.alarm, 2.4));
     const QRectF place(QPointF(canvas.crisp(bar.left()), canvas.crisp(bar.top())),
                        QPointF(canvas.crisp(bar.right()), canvas.crisp(bar.bottom())));
     canvas.painter.drawRect(place);
@@ -73,7 +98,7 @@ void drawBar(const Canvas& canvas, Mode mode, const QRectF& bar) {
 /// The place of a load's bar.
 QRectF barOf(const QRectF& plot, double textHeight, const LoadsChart& loads, Mode mode,
              std::size_t block) {
-    const double largest = std::max(loads.largest[cooling], loads.largest[heating]);
+    const double largest = scaleOf(loads);
     const double group = plot.width() / timeBlocks;
     const double width = std::min(widestBar, (group - barGap) / 2 - 4);
     const double middle = plot.left() + group * (static_cast<double>(block) + 0.5);
@@ -97,12 +122,29 @@ void drawFigure(const Canvas& canvas, Mode mode, const QRectF& bar, double load)
     canvas.painter.drawText(place, Qt::AlignCenter, text);
 }
 
+/// The pump's capacity as a line across: solid for cooling and dashed for heating, in the colour of
+/// the alarm where a load is more.
+void drawCapacity(const Canvas& canvas, const QRectF& plot, const LoadsChart& loads, Mode mode) {
+    if (!showsCapacity(loads, mode)) return;
+    const double height =
+        *loads.capacity[mode] / scaleOf(loads) * (plot.height() - canvas.textHeight() - 2);
+    const double y = canvas.crisp(plot.bottom() - height);
+    const bool exceeded = exceeds(loads, mode, loads.largest[mode]);
+    const QColor own = mode == cooling ? canvas.look.cooling : canvas.look.heating;
+    QPen pen(exceeded ? canvas.look.alarm : own, exceeded ? 2 : 1.2);
+    if (mode == heating) pen.setDashPattern({5, 3});
+    canvas.painter.setPen(pen);
+    canvas.painter.drawLine(QPointF(plot.left(), y), QPointF(plot.right(), y));
+}
+
 void drawBars(const Canvas& canvas, const QRectF& plot, const LoadsChart& loads) {
     const double textHeight = canvas.textHeight();
     for (std::size_t block = 0; block < timeBlocks; ++block)
         for (const Mode mode : modes)
             if (loads.loads[mode][block] > 0)
-                drawBar(canvas, mode, barOf(plot, textHeight, loads, mode, block));
+                drawBar(canvas, mode, barOf(plot, textHeight, loads, mode, block),
+                        exceeds(loads, mode, loads.loads[mode][block]));
+    for (const Mode mode : modes) drawCapacity(canvas, plot, loads, mode);
     for (const Mode mode : modes)
         if (const auto peak = loads.peakBlock[mode])
             drawFigure(canvas, mode, barOf(plot, textHeight, loads, mode, *peak),
@@ -139,6 +181,10 @@ QString describeLoads(const LoadsChart& loads, const LoadsCaptions& captions, co
         sentences << qt(texts.text(Text::dayChartLargestLoad))
                          .arg(modeWord(mode, texts), figure(loads.largest[mode]), qt(captions.unit),
                               qt(captions.blocks[*loads.peakBlock[mode]]));
+        if (!loads.capacity[mode]) continue;
+        const int words = exceeds(loads, mode, loads.largest[mode]) ? Text::chartCapacityShort
+                                                                    : Text::chartCapacity;
+        sentences << qt(texts.text(words)).arg(figure(*loads.capacity[mode]), qt(captions.unit));
     }
     return sentences.join(u' ');
 }

@@ -5,12 +5,14 @@
 #include "desktop/views/loads_pieces.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/views.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
 
 QWidget* blockPage(Binder& bind) {
-    return row_(zoneList(bind), grow(new ScrollPage(column(zonePanel(bind)))));
+    return row_(zoneList(bind),
+                grow(new ScrollPage(column(firstZone(bind, Text::noBlockYet), zonePanel(bind)))));
 }
 
 }  // namespace

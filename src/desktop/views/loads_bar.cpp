@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What stands above and beside the pages of a loads window.
 #include <QAbstractItemView>
+#include <QLineEdit>
+#include <QPushButton>
 
 #include "desktop/views/loads_pieces.h"
 #include "desktop/views/view_pieces.h"
+#include "desktop/views/zone_columns.h"
+#include "desktop/widgets/icons.h"
+#include "desktop/widgets/qt_text.h"
+#include "loads/modLoads/zone_window.h"
 
 namespace varnholt {
 namespace {
@@ -12,9 +18,45 @@ QWidget* withIcon(Binder& bind, const std::string& name, const char* icon) {
     return bind.has(name) ? bind.iconButton(name, QString::fromLatin1(icon)) : nullptr;
 }
 
+/// A button that does what one of the window's own does, at a place where it is looked for.
+QWidget* second(Binder& bind, const std::string& name, const char* icon) {
+    auto* button = new QPushButton(houseIcon(QString::fromLatin1(icon)),
+                                   qt(bind.form()->control(name).caption()));
+    button->setAutoDefault(false);
+    auto* own = static_cast<QAbstractButton*>(bind.widget(name));
+    QObject::connect(button, &QPushButton::clicked, own, &QAbstractButton::click);
+    return button;
+}
+
+/// What is typed after New is the new zone's label.
+void beginAfterNew(Binder& bind) {
+    auto* button = static_cast<QAbstractButton*>(bind.widget("LONewCommand"));
+    QObject::connect(button, &QAbstractButton::clicked, &bind, [&bind] {
+        const BoundControl* label = bind.find("LOZoneReferenceText");
+        if (bind.isScripted() || label == nullptr || !label->widget()->isVisible()) return;
+        label->widget()->setFocus(Qt::OtherFocusReason);
+        static_cast<QLineEdit*>(label->widget())->selectAll();
+    });
+}
+
 }  // namespace
 
+QWidget* firstZone(Binder& bind, int text) {
+    QWidget* first = column(
+        hint(bind, text, [] { return true; }),
+        buttons(second(bind, "LONewCommand", "zones"), second(bind, "LOOpenCommand", "open")));
+    const auto refresh = [&bind, first] {
+        const ZoneWindow* window = zoneWindowOf(bind);
+        const bool shown = window != nullptr && window->ZoneList().empty();
+        if (!shown || first->parentWidget() != nullptr) first->setVisible(shown);
+    };
+    refresh();
+    bind.onSettled(refresh);
+    return first;
+}
+
 QWidget* loadsBar(Binder& bind) {
+    beginAfterNew(bind);
     return bar(column(
         buttons(bind.widget("LONewCommand"), ifAny(bind, "LOCopyCommand"),
                 ifAny(bind, "LORemoveCommand"), ifAny(bind, "LORenumberCommand"),
@@ -27,6 +69,7 @@ QWidget* loadsBar(Binder& bind) {
 }
 
 QWidget* zoneList(Binder& bind) {
+    if (bind.has("LOCopyCommand")) return zoneColumns(bind);
     constexpr int listWidth = 136;
     auto* list = static_cast<QAbstractItemView*>(bind.widget("LOZoneList"));
     list->setFixedWidth(listWidth);

@@ -17,6 +17,8 @@ class ZoneWindow;
 QWidget* loadsBar(Binder& bind);
 /// The zones by their names.
 QWidget* zoneList(Binder& bind);
+/// What to do first while there is no zone, with the buttons for it.
+QWidget* firstZone(Binder& bind, int text);
 /// Loads and heat pump of the zone on display.
 QWidget* zonePanel(Binder& bind);
 /// Design conditions, and the catalogue with the curves of its pumps.

@@ -54,7 +54,7 @@ QWidget* unit(Binder& bind, const std::string& name) {
 QWidget* figure(Binder& bind, const std::string& name) {
     constexpr int room = 5 * gridStep;
     QLabel* label = atRight(bind.widget(name));
-    label->setFont(figureFont(label->font()));
+    asFigures(label);
     label->setMinimumWidth(room);
     return label;
 }
@@ -88,16 +88,22 @@ QWidget* ratingTable(Binder& bind, Mode mode) {
             units.fields.push_back(COP ? nothing() : unit(bind, column + "UnitLabel"));
         }
     std::vector<FieldRow> rows{heads, units};
+    std::vector<std::vector<std::string>> names(ratingPoints);
     for (std::size_t i = 0; i < ratingPoints; ++i) {
+        names[i].push_back(elementName(prefix + "EWTText", i));
         FieldRow row = tableRow({tableField(bind, elementName(prefix + "EWTText", i), mode)});
         for (std::size_t flow = 0; flow < 2; ++flow) {
-            for (const FittedQuantity quantity : fittedQuantities)
-                row.fields.push_back(tableField(bind, ratingField(mode, flow, quantity, i), mode));
+            for (const FittedQuantity quantity : fittedQuantities) {
+                names[i].push_back(ratingField(mode, flow, quantity, i));
+                row.fields.push_back(tableField(bind, names[i].back(), mode));
+            }
             row.fields.push_back(
                 figure(bind, elementName(ratingColumn(mode, flow, "COP") + "Label", i)));
         }
         rows.push_back(row);
     }
+    // A data sheet's points can be pasted as they stand there.
+    bind.block(std::move(names));
     return gridOf(rows);
 }
 
@@ -257,7 +263,7 @@ QWidget* pumpDetailsPage(Binder& bind) {
                       false, Text::nothingMeasured);
     });
     return group(bind.frame(pageFrames[0]),
-                 grow(row_(grid(bind.row("PumpModelText"), type), gap(), grow(chart))));
+                 grow(reflow(grid(bind.row("PumpModelText"), type), grow(chart))));
 }
 
 QWidget* ratingPageOf(Binder& bind, Mode mode) {
@@ -270,7 +276,7 @@ QWidget* ratingPageOf(Binder& bind, Mode mode) {
         column(flowPair(bind, mode), atLeft(ratingTable(bind, mode)),
                buttons(bind.widget(elementName("CopyTableCommand", ratingPage[mode]))),
                ratingCurves(bind, mode));
-    return group(bind.frame(pageFrames[ratingPage[mode]]), grow(row_(figures, gap(), grow(chart))));
+    return group(bind.frame(pageFrames[ratingPage[mode]]), grow(reflow(figures, grow(chart))));
 }
 
 QWidget* correctionPageOf(Binder& bind, CorrectionKind kind) {
@@ -292,7 +298,7 @@ QWidget* correctionPageOf(Binder& bind, CorrectionKind kind) {
     QWidget* figures = column(nominal, atLeft(correctionTable(bind, kind)),
                               buttons(bind.widget(elementName("CopyTableCommand", page))),
                               correctionCurves(bind, kind));
-    return group(bind.frame(pageFrames[page]), grow(row_(figures, gap(), grow(chart))));
+    return group(bind.frame(pageFrames[page]), grow(reflow(figures, grow(chart))));
 }
 
 QWidget* pumpTestPage(Binder& bind) {
@@ -307,8 +313,7 @@ QWidget* pumpTestPage(Binder& bind) {
              bind.pair("TestLoadFlowText"), bind.wide(buttons(bind.primary("TestCommand"))),
              bind.results("TestCapacityLabel"), bind.results("TestPowerLabel"),
              bind.results("TestCOPLabel"));
-    return group(bind.frame(pageFrames[5]),
-                 grow(row_(column(figures, stretch()), gap(), grow(chart))));
+    return group(bind.frame(pageFrames[5]), grow(reflow(column(figures, stretch()), grow(chart))));
 }
 
 }  // namespace varnholt

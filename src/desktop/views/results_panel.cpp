@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The results of a design, with the command that calculates them.
+// The results of a design.
+#include "design/ground_design.h"
 #include "desktop/views/design_pages.h"
+#include "desktop/views/length_pieces.h"
 #include "desktop/views/view_pieces.h"
+#include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
-#include "loads/linked_design.h"
 
 namespace varnholt {
 namespace {
@@ -13,8 +15,12 @@ bool hasNoLoads(const Binder& bind) {
     return design != nullptr && design->loads().zoneNumber == 0;
 }
 
-}  // namespace
+std::vector<std::string> warningsOf(const Binder& bind) {
+    const auto* design = static_cast<const GroundDesign*>(bind.form());
+    return design == nullptr ? std::vector<std::string>() : design->warnings();
+}
 
+/// The results in two columns. While the design has no loads a line tells where these come from.
 QWidget* resultsPanel(Binder& bind, const std::vector<FieldRows>& parts) {
     FieldRows rows{bind.heads("CATopLabel(0)", "CATopLabel(1)")};
     for (const FieldRows& part : parts) {
@@ -22,8 +28,24 @@ QWidget* resultsPanel(Binder& bind, const std::vector<FieldRows>& parts) {
         rows.insert(rows.end(), part.begin(), part.end());
     }
     return group(bind.frame("CACalculationFrame"), gridOf(rows),
-                 buttons(bind.primary("CACalculateCommand")),
+                 warningLines(bind, [&bind] { return warningsOf(bind); }),
                  hint(bind, Text::enterLoadsFirst, [&bind] { return hasNoLoads(bind); }));
+}
+
+}  // namespace
+
+QWidget* resultsPageOf(Binder& bind, const std::vector<FieldRows>& table,
+                       const std::vector<Piece>& beside) {
+    return column(lengthHeadline(bind),
+                  grow(reflow(grow(resultsPanel(bind, table), 2),
+                              grow(column(grow(lengthPanel(bind)), grow(reflowOf(beside))), 3))));
+}
+
+QWidget* smallPlan(Binder& bind, Drawing* plan) {
+    auto* box = new GroupBox;
+    box->setTitle(qt(bind.text(Text::smallField)));
+    plan->setAccessibleName(box->title());
+    return group(box, grow(bind.drawing(plan)));
 }
 
 FieldRows unitTemperatures(Binder& bind) {

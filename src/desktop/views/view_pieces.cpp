@@ -9,6 +9,7 @@
 #include "desktop/widgets/notice_bar.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/text_label.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -35,6 +36,26 @@ QWidget* hint(Binder& bind, int text, std::function<bool()> condition) {
         // A label without a parent would open as a window of its own.
         const bool shown = condition();
         if (!shown || label->parentWidget() != nullptr) label->setVisible(shown);
+    };
+    refresh();
+    bind.onSettled(refresh);
+    return label;
+}
+
+QWidget* warningLines(Binder& bind, std::function<std::vector<std::string>()> source) {
+    auto* label = new TextLabel;
+    label->setObjectName(QStringLiteral("warningLines"));
+    label->setWordWrap(true);
+    const QString title = qt(bind.text(Text::warningsTitle));
+    const auto refresh = [label, title, source = std::move(source)] {
+        QStringList lines;
+        for (const std::string& warning : source()) lines << qt(warning);
+        label->setText(lines.isEmpty() ? QString()
+                                       : title + QStringLiteral(": ") + lines.join(u' '));
+        label->setAccessibleName(label->text());
+        // A label without a parent would open as a window of its own.
+        if (lines.isEmpty() || label->parentWidget() != nullptr)
+            label->setVisible(!lines.isEmpty());
     };
     refresh();
     bind.onSettled(refresh);

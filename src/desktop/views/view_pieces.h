@@ -18,6 +18,9 @@ QWidget* ifAny(Binder& bind, const std::string& name);
 /// A line that tells what to do first, shown while the condition holds.
 QWidget* hint(Binder& bind, int text, std::function<bool()> condition);
 
+/// What an engineer would look at, a line each, behind a sign; unseen while there is nothing.
+QWidget* warningLines(Binder& bind, std::function<std::vector<std::string>()> source);
+
 /// What a person must know of the window, and what can be done about it; unseen while there is
 /// nothing. It stands between what else is above the pages, where its place costs none.
 QWidget* noticeBar(Binder& bind);

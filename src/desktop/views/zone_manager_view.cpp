@@ -10,6 +10,9 @@
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/views.h"
 #include "desktop/widgets/column_heads.h"
+#include "desktop/widgets/list_view.h"
+#include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 #include "loads/frmZoneManage.h"
 
 namespace varnholt {
@@ -20,7 +23,7 @@ constexpr int summaryWidth = 490;
 /// Lines come in pairs, a zone's cooling and its heating: told by the colours of the modes.
 class ModeLines : public QStyledItemDelegate {
  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    ModeLines(Binder& bind, QObject* parent) : QStyledItemDelegate(parent), bind_(bind) {}
 
  protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
@@ -28,11 +31,38 @@ class ModeLines : public QStyledItemDelegate {
         const Look& look = lookOf(option->palette);
         option->palette.setColor(QPalette::Text,
                                  index.row() % 2 == 0 ? look.cooling : look.heating);
+        const auto* window = static_cast<const frmZoneManage*>(bind_.form());
+        if (window != nullptr && index.row() % 2 == 0)
+            option->text += behindLine(*window, static_cast<std::size_t>(index.row()));
     }
+
+ private:
+    /// A zone's label, and that there is something to be checked.
+    static QString behindLine(const frmZoneManage& window, std::size_t line) {
+        const std::size_t zone = frmZoneManage::zoneOfSummaryLine(line);
+        if (zone >= window.ZoneList().size()) return {};
+        QString told = QStringLiteral("  ") + qt(window.ZoneList()[zone].title);
+        if (!window.warningsOfZone(zone).empty())
+            told += QStringLiteral("  \u25B2 ") + qt(window.text(Text::zoneWarned));
+        return told;
+    }
+
+    Binder& bind_;
 };
 
-void colourModes(QWidget* list) {
-    static_cast<QAbstractItemView*>(list)->setItemDelegate(new ModeLines(list));
+void colourModes(Binder& bind, QWidget* list) {
+    static_cast<QAbstractItemView*>(list)->setItemDelegate(new ModeLines(bind, list));
+}
+
+/// A line of the summary opens its zone.
+void openZones(Binder& bind) {
+    static_cast<ListView*>(bind.widget("LOZoneSummaryList"))->onOpened = [&bind](int line) {
+        const auto zone =
+            static_cast<int>(frmZoneManage::zoneOfSummaryLine(static_cast<std::size_t>(line)));
+        bind.act(*bind.find("LOZoneList"),
+                 [zone](Form& form, const std::string& name) { form.select(name, {zone}); });
+        bringToSight(bind.widget("LOZoneReferenceText"));
+    };
 }
 
 /// Captions over the columns of the summary's lines: 3 characters for the zone, 8 for the pump, 2
@@ -70,6 +100,22 @@ QWidget* totals(Binder& bind) {
                        total(bind, "LOPeakLoadPeriod")));
 }
 
+QStringList qtList(const std::vector<std::string>& texts) {
+    QStringList list;
+    for (const std::string& text : texts) list << qt(text);
+    return list;
+}
+
+/// Copied, the summary has a cell for each of its figures.
+void giveTable(Binder& bind) {
+    const auto window = [&bind] { return static_cast<const frmZoneManage*>(bind.form()); };
+    static_cast<ListView*>(bind.widget("LOZoneSummaryList"))
+        ->setCells({[window](int row) {
+                        return qtList(window()->summaryTableCells(static_cast<std::size_t>(row)));
+                    },
+                    [window] { return qtList(window()->summaryTableHeads()); }});
+}
+
 QWidget* summaryFields(Binder& bind) {
     Drawing* day = newDayChart(
         [&bind] {
@@ -78,10 +124,12 @@ QWidget* summaryFields(Binder& bind) {
         },
         [&bind] { return loadsCaptions(bind); }, bind.form()->texts());
     bind.widget("LOZoneSummaryList")->setMinimumWidth(summaryWidth);
-    colourModes(bind.fixedPitch("LOZoneSummaryList"));
+    colourModes(bind, bind.fixedPitch("LOZoneSummaryList"));
+    openZones(bind);
+    giveTable(bind);
     return column(
-        grow(row_(column(summaryHeads(bind), grow(bind.widget("LOZoneSummaryList"))), gap(),
-                  grow(column(totals(bind), grow(bind.drawing("LOBuildingDayChart", day)))))),
+        grow(reflow(column(summaryHeads(bind), grow(bind.widget("LOZoneSummaryList"))),
+                    grow(column(totals(bind), grow(bind.drawing("LOBuildingDayChart", day)))))),
         buttons(bind.widget("LOReturnFromSummaryCommand")));
 }
 
@@ -92,7 +140,11 @@ QWidget* summary(Binder& bind) {
 
 /// The summary above the zone, where it is seen as soon as it opens.
 QWidget* zonesPage(Binder& bind) {
-    return row_(zoneList(bind), grow(new ScrollPage(column(grow(summary(bind)), zonePanel(bind)))));
+    constexpr int listShare = 1, zoneShare = 3;
+    return split(zoneList(bind),
+                 new ScrollPage(column(firstZone(bind, Text::noZonesYet), grow(summary(bind)),
+                                       zonePanel(bind))),
+                 listShare, zoneShare);
 }
 
 }  // namespace

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/widgets/list_view.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QItemSelection>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <algorithm>
+#include <numeric>
 
 #include "desktop/widgets/qt_text.h"
 
@@ -37,12 +40,44 @@ void ListModel::setHeads(QStringList heads) {
     endResetModel();
 }
 
+void ListModel::setColumns(ListColumns columns) {
+    beginResetModel();
+    further_ = std::move(columns);
+    endResetModel();
+}
+
+void ListModel::refreshColumns() {
+    if (items_.empty()) return;
+    dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
+void ListOrder::setText(const QString& text) {
+    text_ = text;
+    invalidateFilter();
+}
+
+bool ListOrder::holds(int sourceRow, const QString& text) const {
+    for (int column = 0; column < sourceModel()->columnCount(); ++column)
+        if (sourceModel()
+                ->index(sourceRow, column)
+                .data()
+                .toString()
+                .contains(text, Qt::CaseInsensitive))
+            return true;
+    return false;
+}
+
+bool ListOrder::filterAcceptsRow(int sourceRow, const QModelIndex&) const {
+    return text_.isEmpty() || holds(sourceRow, text_);
+}
+
 int ListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(items_.size());
 }
 
 int ListModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : std::max(columns_, static_cast<int>(heads_.size()));
+    const auto further = static_cast<int>(std::max(heads_.size(), further_.heads.size()));
+    return parent.isValid() ? 0 : std::max(columns_, further);
 }
 
 QString ListModel::cell(const QModelIndex& index) const {
@@ -52,6 +87,8 @@ QString ListModel::cell(const QModelIndex& index) const {
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
+    if (further_.data && (index.column() > 0 || role != Qt::DisplayRole))
+        return further_.data(index.row(), index.column(), role);
     if (role == Qt::DisplayRole) return cell(index);
     if (role == Qt::TextAlignmentRole && index.column() > 0) {
         bool isNumber = false;
@@ -62,7 +99,10 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || section >= heads_.size()) return {};
+    if (orientation != Qt::Horizontal) return {};
+    if (section < further_.heads.size())
+        return role == Qt::DisplayRole ? QVariant(further_.heads[section]) : QVariant();
+    if (section >= heads_.size()) return {};
     if (role == Qt::DisplayRole) return heads_[section];
     // A head stands as the entries below it do.
     if (role == Qt::TextAlignmentRole && !items_.empty()) return data(index(0, section), role);
@@ -70,8 +110,13 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
 }
 
 ListView::ListView(bool multiple, QWidget* parent)
-    : QTreeView(parent), model_(new ListModel(this)) {
-    setModel(model_);
+    : QTreeView(parent), model_(new ListModel(this)), order_(new ListOrder(this)) {
+    order_->setSourceModel(model_);
+    order_->setSortRole(Qt::UserRole);
+    setModel(order_);
+    connect(this, &QTreeView::activated, this, [this](const QModelIndex& opened) {
+        if (onOpened) onOpened(order_->mapToSource(opened).row());
+    });
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true);
@@ -96,6 +141,53 @@ void ListView::fitColumns() {
         resizeColumnToContents(column);
 }
 
+void ListView::setColumns(ListColumns columns) {
+    model_->setColumns(std::move(columns));
+    setHeaderHidden(false);
+    header()->setSortIndicatorClearable(true);
+    header()->setSortIndicator(-1, Qt::AscendingOrder);
+    setSortingEnabled(true);
+    fitColumns();
+}
+
+void ListView::refreshColumns() {
+    writing_ = true;
+    model_->refreshColumns();
+    writing_ = false;
+}
+
+void ListView::setFilter(const QString& text) {
+    writing_ = true;
+    order_->setText(text);
+    select(picked_);
+    writing_ = false;
+}
+
+QModelIndex ListView::shownIndex(int row) const {
+    return order_->mapFromSource(model_->index(row, 0));
+}
+
+int ListView::rowAt(const QPoint& place) const {
+    const QModelIndex at = indexAt(place);
+    return at.isValid() ? order_->mapToSource(at).row() : -1;
+}
+
+/// Looks on from the row in front, which itself counts while one goes on typing.
+void ListView::keyboardSearch(const QString& typed) {
+    const bool goesOn =
+        lastKey_.isValid() && lastKey_.elapsed() < QApplication::keyboardInputInterval();
+    lastKey_.start();
+    searched_ = goesOn ? searched_ + typed : typed;
+    const int rows = order_->rowCount();
+    const int first = std::max(0, currentIndex().row()) + (goesOn ? 0 : 1);
+    for (int step = 0; step < rows; ++step) {
+        const QModelIndex at = order_->index((first + step) % rows, 0);
+        if (!order_->holds(order_->mapToSource(at).row(), searched_)) continue;
+        setCurrentIndex(at);
+        return;
+    }
+}
+
 void ListView::setHeads(const QStringList& heads) {
     model_->setHeads(heads);
     setHeaderHidden(heads.isEmpty());
@@ -103,6 +195,7 @@ void ListView::setHeads(const QStringList& heads) {
 }
 
 void ListView::setRows(const std::vector<int>& rows) {
+    picked_ = rows;
     if (rows == this->rows()) return;
     writing_ = true;
     select(rows);
@@ -120,11 +213,11 @@ void ListView::pick(const std::vector<int>& rows) {
 void ListView::select(const std::vector<int>& rows) {
     QItemSelection selection;
     for (const int row : rows) {
-        const QModelIndex at = model_->index(row, 0);
+        const QModelIndex at = shownIndex(row);
         if (at.isValid()) selection.select(at, at);
     }
     if (!rows.empty()) {
-        const QModelIndex first = model_->index(rows.front(), 0);
+        const QModelIndex first = shownIndex(rows.front());
         selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
         scrollTo(first);
     }
@@ -134,9 +227,29 @@ void ListView::select(const std::vector<int>& rows) {
 
 std::vector<int> ListView::rows() const {
     std::vector<int> rows;
-    for (const QModelIndex& index : selectionModel()->selectedRows()) rows.push_back(index.row());
+    for (const QModelIndex& index : selectionModel()->selectedRows())
+        rows.push_back(order_->mapToSource(index).row());
     std::sort(rows.begin(), rows.end());
     return rows;
+}
+
+QStringList ListView::cellsOf(int row) const {
+    if (cells_.ofRow) return cells_.ofRow(row);
+    return qt(model_->items()[static_cast<std::size_t>(row)]).split(u'\t');
+}
+
+QString ListView::tableOf(const std::vector<int>& rows) const {
+    QStringList lines;
+    const QStringList heads = cells_.heads ? cells_.heads() : model_->heads();
+    if (!heads.isEmpty()) lines << heads.join(u'\t');
+    for (const int row : rows) lines << cellsOf(row).join(u'\t');
+    return lines.join(u'\n');
+}
+
+QString ListView::table() const {
+    std::vector<int> all(model_->items().size());
+    std::iota(all.begin(), all.end(), 0);
+    return tableOf(all);
 }
 
 void ListView::mousePressEvent(QMouseEvent* event) {
@@ -147,6 +260,14 @@ void ListView::mousePressEvent(QMouseEvent* event) {
         onPicked();
 }
 
+/// Copying is its window's, which gives whole lines away.
+void ListView::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy))
+        event->ignore();
+    else
+        QTreeView::keyPressEvent(event);
+}
+
 /// Only now do its entries have the fonts of the window.
 void ListView::showEvent(QShowEvent* event) {
     QTreeView::showEvent(event);
@@ -155,7 +276,9 @@ void ListView::showEvent(QShowEvent* event) {
 
 void ListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
     QTreeView::selectionChanged(selected, deselected);
-    if (writing_ || !onPicked) return;
+    if (writing_) return;
+    picked_ = rows();
+    if (!onPicked) return;
     told_ = true;
     onPicked();
 }

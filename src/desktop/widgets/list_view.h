@@ -2,12 +2,22 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QElapsedTimer>
+#include <QSortFilterProxyModel>
 #include <QTreeView>
 #include <functional>
 #include <string>
 #include <vector>
 
 namespace varnholt {
+
+/// Columns that a view has beside the entries of a list, with heads over all of them.
+struct ListColumns {
+    QStringList heads;  ///< of the entries, and of the further columns
+    /// What a cell of a further column, from 1, says for a role of the toolkit; of column 0, what
+    /// is not the entry's own text. Sorting goes by Qt::UserRole.
+    std::function<QVariant(int row, int column, int role)> data;
+};
 
 /// The entries of a list box. An entry's tabs part it into columns; columns of figures stand right.
 class ListModel : public QAbstractTableModel {
@@ -18,6 +28,9 @@ class ListModel : public QAbstractTableModel {
     const std::vector<std::string>& items() const { return items_; }
     void setHeads(QStringList heads);
     const QStringList& heads() const { return heads_; }
+    void setColumns(ListColumns columns);
+    /// What the further columns say has changed.
+    void refreshColumns();
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -29,7 +42,23 @@ class ListModel : public QAbstractTableModel {
 
     std::vector<std::string> items_;
     QStringList heads_;
+    ListColumns further_;
     int columns_ = 1;
+};
+
+/// The rows that hold a text somewhere, in an order to look at; the list's own stays.
+class ListOrder : public QSortFilterProxyModel {
+ public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    void setText(const QString& text);
+    bool holds(int sourceRow, const QString& text) const;
+
+ protected:
+    bool filterAcceptsRow(int sourceRow, const QModelIndex& parent) const override;
+
+ private:
+    QString text_;
 };
 
 /// A list box.
@@ -43,14 +72,36 @@ class ListView : public QTreeView {
     std::vector<int> rows() const;
     /// Selects exactly these rows as a person would.
     void pick(const std::vector<int>& rows);
+    /// The rows as lines with tabs between their cells; heads, where there are any, come first.
+    QString tableOf(const std::vector<int>& rows) const;
+    QString table() const;
+    /// For entries whose columns are made of blanks: the cells of a row, and those of the head.
+    struct Cells {
+        std::function<QStringList(int row)> ofRow;
+        std::function<QStringList()> heads;
+    };
+    void setCells(Cells cells) { cells_ = std::move(cells); }
     /// Puts heads over the columns.
     void setHeads(const QStringList& heads);
 
+    /// Puts columns beside the entries that can be sized and sorted by.
+    void setColumns(ListColumns columns);
+    void refreshColumns();
+    /// Shows only the rows that hold the text. What is selected stays selected.
+    void setFilter(const QString& text);
+    /// What is typed goes to the next row that holds it.
+    void keyboardSearch(const QString& typed) override;
+    /// The row that stands at a place; -1 for none.
+    int rowAt(const QPoint& place) const;
+
+    /// A person has opened a row, by a double click or Enter.
+    std::function<void(int row)> onOpened;
     /// A person has picked rows, possibly the same as before.
     std::function<void()> onPicked;
 
  protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
@@ -58,10 +109,18 @@ class ListView : public QTreeView {
 
  private:
     void fitColumns();
+    QStringList cellsOf(int row) const;
     int longestEntry() const;
     void select(const std::vector<int>& rows);
 
+    QModelIndex shownIndex(int row) const;
+
     ListModel* model_;
+    ListOrder* order_;
+    std::vector<int> picked_;
+    QString searched_;
+    QElapsedTimer lastKey_;
+    Cells cells_;
     bool writing_ = false;
     bool told_ = false;
 };

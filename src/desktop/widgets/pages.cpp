@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QPainter>
 #include <QScrollArea>
+#include <QTabWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -25,6 +26,23 @@ class Rule : public QWidget {
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         painter.fillRect(0, height() / 2, width(), 1, lookOf(palette()).hairline);
+    }
+};
+
+class Foot : public QWidget {
+ public:
+    explicit Foot(QWidget* content) {
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(2 * gridStep, gridStep / 2 + 1, 2 * gridStep, gridStep / 2);
+        layout->addWidget(content);
+    }
+
+ protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const Look& look = lookOf(palette());
+        painter.fillRect(rect(), look.surface);
+        painter.fillRect(0, 0, width(), 1, look.hairline);
     }
 };
 
@@ -89,6 +107,8 @@ QWidget* bar(QWidget* content) {
     return content;
 }
 
+QWidget* foot(QWidget* content) { return new Foot(content); }
+
 QWidget* gap() {
     auto* room = new QWidget;
     room->setFixedWidth(gridStep);
@@ -98,6 +118,20 @@ QWidget* gap() {
 QWidget* rule() { return new Rule; }
 
 QWidget* roomy(QWidget* view, const QSize& least) { return new Roomy(view, least); }
+
+void bringToSight(QWidget* widget) {
+    for (QWidget* around = widget->parentWidget(); around != nullptr;
+         around = around->parentWidget()) {
+        auto* tabs = qobject_cast<QTabWidget*>(around);
+        for (int page = 0; tabs != nullptr && page < tabs->count(); ++page)
+            if (tabs->widget(page)->isAncestorOf(widget)) tabs->setCurrentIndex(page);
+    }
+    // The places of what has just come to the front are known once it has been laid out.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    for (QWidget* around = widget->parentWidget(); around != nullptr;
+         around = around->parentWidget())
+        if (auto* area = qobject_cast<QScrollArea*>(around)) area->ensureWidgetVisible(widget);
+}
 
 void revealWhenOpened(QWidget* panel) { new Revealer(panel); }
 

@@ -11,6 +11,9 @@ namespace varnholt {
 QWidget* page(QWidget* content);
 QWidget* bar(QWidget* content);
 
+/// The bar below the pages, which a hairline parts from them.
+QWidget* foot(QWidget* content);
+
 /// Room between two columns of a page.
 QWidget* gap();
 
@@ -20,6 +23,9 @@ QWidget* rule();
 /// A view that opens no smaller than so much in the usual size of type, and larger with larger
 /// type, though it may be made smaller: what it shows later finds its place.
 QWidget* roomy(QWidget* view, const QSize& least);
+
+/// Brings the pages of tabs around a widget to the front and scrolls it into sight.
+void bringToSight(QWidget* widget);
 
 /// Scrolls a panel into sight when it opens.
 void revealWhenOpened(QWidget* panel);

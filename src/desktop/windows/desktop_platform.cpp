@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QLocale>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QTimer>
@@ -142,6 +143,12 @@ std::string DesktopPlatform::clipboard() { return plain(QGuiApplication::clipboa
 void DesktopPlatform::setClipboard(const std::string& text) {
     QGuiApplication::clipboard()->setText(qt(text));
 }
+
+char DesktopPlatform::decimalMark() {
+    return QLocale().decimalPoint() == QLatin1String(",") ? ',' : '.';
+}
+
+void DesktopPlatform::tell(const std::string& sentence) { shelf_.mainWindow().tell(sentence); }
 
 void DesktopPlatform::edit(EditCommand command) { editFocusedField(command); }
 

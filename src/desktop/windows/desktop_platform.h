@@ -30,6 +30,8 @@ class DesktopPlatform : public Platform {
     void runModal(Form& form) override { shelf_.runModal(form); }
     std::string clipboard() override;
     void setClipboard(const std::string& text) override;
+    char decimalMark() override;
+    void tell(const std::string& sentence) override;
     Date today() override { return today_.value_or(dateOfToday()); }
     void edit(EditCommand command) override;
     void progress(const std::string& what, std::size_t done, std::size_t total) override;

@@ -184,6 +184,9 @@ void MainMenu::markKeys() {
     for (const MenuRow& row : menuTable())
         if (row.captionText != 0)
             entries[row.menu == nullptr ? std::string() : row.menu].emplace_back(row.control);
+    // Alt and H is the help everywhere: no menu before it takes the letter.
+    std::vector<std::string>& bar = entries[{}];
+    std::rotate(bar.begin(), std::find(bar.begin(), bar.end(), "Help"), bar.end());
     for (const auto& [menu, names] : entries) {
         std::vector<std::string> captions;
         for (const std::string& name : names) captions.push_back(main_.control(name).caption());

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPointer>
 #include <QScreen>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -18,14 +19,21 @@
 #include <QVBoxLayout>
 
 #include "basis/file_system.h"
+#include "desktop/binding/giving_out.h"
 #include "desktop/binding/mnemonics.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/theme.h"
+#include "desktop/windows/child_frame.h"
+#include "desktop/windows/named_things.h"
 #include "desktop/windows/start_page.h"
+#include "desktop/windows/window_keys.h"
+#include "desktop/windows/window_order.h"
 #include "forms/text_numbers.h"
 #include "frame/varnmain.h"
+#include "loads/linked_design.h"
+#include "loads/loads_window.h"
 #include "persistence/project_commands.h"
 
 namespace varnholt {
@@ -45,7 +53,8 @@ MainWindow::MainWindow(Varnmain& main, FaultTaker faults, const std::string& rec
       recent_(recentFile),
       pages_(new QStackedWidget),
       area_(new QMdiArea),
-      units_(new QLabel) {
+      units_(new QLabel),
+      told_(new QLabel) {
     setObjectName(QStringLiteral("Varnmain"));
     setWindowIcon(applicationIcon());
     setAcceptDrops(true);
@@ -53,8 +62,8 @@ MainWindow::MainWindow(Varnmain& main, FaultTaker faults, const std::string& rec
     area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    start_ =
-        new StartPage(main, [this](const std::string& entry) { menu_->action(entry)->trigger(); });
+    start_ = new StartPage(
+        main, [this](const std::string& entry) { menu_->action(entry)->trigger(); }, startFiles());
     pages_->addWidget(start_);
     pages_->addWidget(area_);
     notice_ = new QLabel;
@@ -82,13 +91,18 @@ MainWindow::MainWindow(Varnmain& main, FaultTaker faults, const std::string& rec
         [this](const std::function<void()>& command) { guarded(command); });
     menu_->onChange = [this] { refresh(); };
     addRecentMenu();
+    addGivingOutEntries();
+    addFinder();
+    addWindowKeys(*this);
     main.fileUsed = [this](const std::string& file) { recent_.add(file); };
     addWindowMenu();
     statusBar()->setSizeGripEnabled(true);
+    told_->setObjectName(QStringLiteral("toldLabel"));
+    told_->setTextFormat(Qt::PlainText);
+    told_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    statusBar()->addWidget(told_, 1);
     statusBar()->addPermanentWidget(units_);
-    // What the desktop will put around the window, its title above all, is on the screen too.
-    constexpr QSize frame(2 * gridStep, 6 * gridStep);
-    resize(usualSize().boundedTo(screen()->availableSize() - frame));
+    resize(usualSize().boundedTo(screen()->availableSize().shrunkBy(frameMargins())));
     refresh();
     area_->setBackground(QApplication::palette().brush(QPalette::Window));
     dress(*this);
@@ -111,7 +125,30 @@ void MainWindow::showArea(bool area) {
     pages_->setCurrentWidget(area ? static_cast<QWidget*>(area_) : start_);
 }
 
+StartFiles MainWindow::startFiles() {
+    return {[this] { return recent_.files(); },
+            [this] { return exampleFiles(main_.MainDirectory); },
+            [this](const std::string& path) { openFiles({path}); },
+            [this](const std::string& path) {
+                commandBegins();
+                guarded([&] { openTemplate(main_, path); });
+            }};
+}
+
 void MainWindow::showStartPicture(QWidget* picture) { start_->setPicture(picture); }
+
+void MainWindow::tell(const std::string& sentence) {
+    const QString text = qt(sentence);
+    if (text == told_->text()) return;
+    told_->setText(text);
+    told_->setToolTip(text);
+    told_->setAccessibleName(text);
+    if (text.isEmpty()) return;
+    // A hint of the menu that called the command would cover it.
+    statusBar()->clearMessage();
+    QAccessibleEvent alert(told_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
 
 std::string MainWindow::reading(const std::string& file) const {
     return filledIn(main_.text(Text::readingFile), {file});
@@ -199,18 +236,105 @@ void MainWindow::fillRecentMenu() {
     if (place == 0) recentMenu_->addAction(qt(main_.text(Text::noRecentFiles)))->setEnabled(false);
 }
 
+/// Everything that has a name, narrowed by typing.
+void MainWindow::addFinder() {
+    QMenu* edit = menu_->menu("mnuEdit");
+    edit->addSeparator();
+    QAction* action = edit->addAction(qt(main_.text(Text::findByName)));
+    action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_K));
+    action->setStatusTip(qt(main_.text(Text::findByNameHint)));
+    connect(action, &QAction::triggered, this, [this] {
+        commandBegins();
+        findByName();
+    });
+}
+
+void MainWindow::findByName() {
+    std::vector<NamedThing> things;
+    addMenuCommands(*menuBar(), things);
+    // The window in front comes first.
+    const QList<QMdiSubWindow*> frames = area_->subWindowList(QMdiArea::ActivationHistoryOrder);
+    for (auto frame = frames.rbegin(); frame != frames.rend(); ++frame)
+        if (auto* child = dynamic_cast<ChildFrame*>(*frame)) addControlsOf(*child, things);
+    for (const ExampleFile& example : exampleFiles(main_.MainDirectory))
+        things.push_back(
+            {NamedThing::Kind::example, example.name, {}, {}, true, [this, path = example.path] {
+                 openFiles({path});
+             }});
+    const auto word = [this](int number) { return qt(main_.text(number)); };
+    auto* finder = new NameFinder(
+        this, std::move(things),
+        {word(Text::findByName), word(Text::findByNamePrompt), word(Text::nothingOfThatName),
+         word(Text::kindCommand), word(Text::kindField), word(Text::kindExample)});
+    finder->show();
+}
+
+void MainWindow::addControlsOf(ChildFrame& frame, std::vector<NamedThing>& things) {
+    const std::size_t before = things.size();
+    addControls(frame.content(), things);
+    for (std::size_t i = before; i < things.size(); ++i)
+        things[i].run = [this, kept = QPointer(&frame), run = things[i].run] {
+            if (kept == nullptr) return;
+            area_->setActiveSubWindow(kept);
+            guarded(run);
+        };
+}
+
+FormWindow* MainWindow::activeContent() const {
+    auto* frame = dynamic_cast<ChildFrame*>(area_->activeSubWindow());
+    return frame == nullptr || frame->content().binder().form() == nullptr ? nullptr
+                                                                           : &frame->content();
+}
+
+void MainWindow::giveOut(void (*run)(const Form&, QWidget*), QWidget* (*subject)(QWidget&)) {
+    if (FormWindow* content = activeContent())
+        run(*content->binder().form(), subject(*content));
+    else
+        run(main_, nullptr);
+}
+
+/// Tables and pictures can be taken away from the menu as by the pointer.
+void MainWindow::addGivingOutEntries() {
+    struct Row {
+        int caption, hint;
+        const char* shortcut;
+        void (*run)(const Form&, QWidget*);
+        QWidget* (*subject)(QWidget&);
+    };
+    static constexpr Row rows[] = {
+        {Text::copyWholeTable, Text::copyWholeTableHint, "Ctrl+Alt+C",
+         [](const Form& form, QWidget* widget) { copyTable(form, widget); }, tableSubject},
+        {Text::copyPicture, Text::copyPictureHint, "Ctrl+Alt+Shift+C", copyPicture, pictureSubject},
+        {Text::savePicture, Text::savePictureHint, "Ctrl+Alt+Shift+S", savePicture,
+         pictureSubject}};
+    QMenu* edit = menu_->menu("mnuEdit");
+    edit->addSeparator();
+    for (const Row& row : rows) {
+        QAction* action = edit->addAction(qt(main_.text(row.caption)));
+        action->setShortcut(QKeySequence(QString::fromLatin1(row.shortcut)));
+        action->setStatusTip(qt(main_.text(row.hint)));
+        connect(action, &QAction::triggered, this, [this, row] {
+            commandBegins();
+            guarded([&] { giveOut(row.run, row.subject); });
+        });
+    }
+}
+
 void MainWindow::addWindowMenu() {
     QMenu* menu = menu_->menu("Window");
     struct Row {
         int caption, hint;
         const char* shortcut;
-        void (QMdiArea::*run)();
+        std::function<void()> run;
     };
-    static constexpr Row rows[] = {
-        {Text::tileWindows, Text::tileWindowsHint, "Ctrl+Shift+T", &QMdiArea::tileSubWindows},
-        {Text::cascadeWindows, Text::cascadeWindowsHint, "Ctrl+Shift+C",
-         &QMdiArea::cascadeSubWindows},
-        {Text::nextWindow, Text::nextWindowHint, "Ctrl+Tab", &QMdiArea::activateNextSubWindow}};
+    const Row rows[] = {{Text::tileWindows, Text::tileWindowsHint, "Ctrl+Shift+T",
+                         [this] { area_->tileSubWindows(); }},
+                        {Text::cascadeWindows, Text::cascadeWindowsHint, "Ctrl+Shift+C",
+                         [this] { cascade(*area_); }},
+                        {Text::loadsBesideDesign, Text::loadsBesideDesignHint, "Ctrl+Shift+D",
+                         [this] { setLoadsBesideDesign(); }},
+                        {Text::nextWindow, Text::nextWindowHint, "Ctrl+Tab",
+                         [this] { area_->activateNextSubWindow(); }}};
     std::vector<std::string> captions;
     for (const Row& row : rows) captions.push_back(main_.text(row.caption));
     const std::vector<QString> marked = withMnemonics(captions);
@@ -219,10 +343,23 @@ void MainWindow::addWindowMenu() {
         QAction* action = menu->addAction(marked[place++]);
         action->setShortcut(QKeySequence(QString::fromLatin1(row.shortcut)));
         action->setStatusTip(qt(main_.text(row.hint)));
-        connect(action, &QAction::triggered, area_, row.run);
+        connect(action, &QAction::triggered, area_, [run = row.run] { run(); });
     }
     menu->addSeparator();
     connect(menu, &QMenu::aboutToShow, this, [this] { fillWindowMenu(); });
+}
+
+/// The pair of the window in front; of several designs that share the loads the one that they are
+/// named after.
+void MainWindow::setLoadsBesideDesign() {
+    const auto* design = dynamic_cast<const LinkedDesign*>(main_.activeWindow());
+    const auto* loads = dynamic_cast<const LoadsWindow*>(main_.activeWindow());
+    if (design != nullptr) loads = design->LoadsHome();
+    if (design == nullptr && loads != nullptr && loads->links().named() != nullptr)
+        design = &loads->links().named()->design();
+    if (design == nullptr || loads == nullptr || !frameOf)
+        return statusBar()->showMessage(qt(main_.text(Text::noLinkedPair)));
+    setSideBySide(*area_, *frameOf(*loads), *frameOf(*design));
 }
 
 void MainWindow::fillWindowMenu() {

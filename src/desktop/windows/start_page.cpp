@@ -4,8 +4,12 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <iterator>
 
+#include "basis/file_system.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
@@ -72,20 +76,48 @@ class StartButton : public QPushButton {
     QString command_, hint_;
 };
 
+TextLabel* titleOf(const QString& text, double size) {
+    auto* title = new TextLabel(text);
+    QFont font = title->font();
+    font.setPointSizeF(font.pointSizeF() * size);
+    font.setWeight(QFont::DemiBold);
+    title->setFont(font);
+    return title;
+}
+
+/// A project of the program's folder that the page tells something of.
+struct KnownExample {
+    const char* name;
+    const char* icon;
+    int caption;  ///< 0 for the file's own name
+    int hint;
+};
+
+constexpr KnownExample templates[] = {
+    {"office", "new-borehole", Text::templateOffice, Text::exampleOffice},
+    {"school-north", "new-borehole", Text::templateSchool, Text::exampleSchool},
+    {"house", "new-borehole", Text::templateHouse, Text::exampleHouse}};
+constexpr KnownExample knownExamples[] = {
+    {"office", "new-borehole", 0, Text::exampleOffice},
+    {"school-north", "new-borehole", 0, Text::exampleSchool},
+    {"house", "new-borehole", 0, Text::exampleHouse},
+    {"trench-office", "new-horizontal", 0, Text::exampleTrench},
+    {"school-pond", "new-surface-water", 0, Text::examplePond}};
+
 }  // namespace
 
-StartPage::StartPage(const Varnmain& main, std::function<void(const std::string&)> run)
-    : run_(std::move(run)) {
-    auto* across = new QHBoxLayout(this);
+StartPage::StartPage(const Varnmain& main, std::function<void(const std::string&)> run,
+                     StartFiles files)
+    : main_(main), run_(std::move(run)), files_(std::move(files)), fileCard_(new QWidget) {
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    auto* whole = new QWidget;
+    across_ = new QBoxLayout(QBoxLayout::LeftToRight, whole);
+    across_->setSpacing(4 * gridStep);
     auto* card = new QWidget;
     card_ = new QVBoxLayout(card);
     card_->setSpacing(gridStep);
-    auto* title = new TextLabel(qt(main.text(Text::startPageTitle)));
-    QFont font = title->font();
-    font.setPointSizeF(font.pointSizeF() * 1.3);
-    font.setWeight(QFont::DemiBold);
-    title->setFont(font);
-    card_->addWidget(title);
+    card_->addWidget(titleOf(qt(main.text(Text::startPageTitle)), 1.3));
     card_->addWidget(line(main, "NewBorehole", "new-borehole", Text::startPageBorehole));
     card_->addWidget(line(main, "NewHorizontal", "new-horizontal", Text::startPageHorizontal));
     card_->addWidget(
@@ -95,9 +127,70 @@ StartPage::StartPage(const Varnmain& main, std::function<void(const std::string&
     auto* drop = new TextLabel(qt(main.text(Text::startPageDrop)));
     drop->setMuted();
     card_->addWidget(drop);
-    across->addStretch(1);
-    across->addWidget(card, 0, Qt::AlignCenter);
-    across->addStretch(1);
+    fileLines_ = new QVBoxLayout(fileCard_);
+    fileLines_->setSpacing(gridStep / 2);
+    across_->addStretch(1);
+    across_->addWidget(card, 0, Qt::AlignCenter);
+    across_->addWidget(fileCard_, 0, Qt::AlignCenter);
+    across_->addStretch(1);
+    setWidget(whole);
+}
+
+void StartPage::addHead(int text) { fileLines_->addWidget(titleOf(qt(main_.text(text)), 1)); }
+
+void StartPage::addFile(const QIcon& icon, const QString& name, const QString& hint,
+                        const std::function<void()>& open) {
+    auto* button = new StartButton(icon, name, hint);
+    // The page goes with the first window that opens: not from under the button's own hands.
+    connect(button, &QPushButton::clicked, this, open, Qt::QueuedConnection);
+    fileLines_->addWidget(button);
+}
+
+/// The files are those of the moment.
+void StartPage::fillFiles() {
+    while (QLayoutItem* item = fileLines_->takeAt(0)) {
+        if (item->widget() != nullptr) item->widget()->deleteLater();
+        delete item;
+    }
+    constexpr std::size_t mostRecent = 4;
+    std::vector<std::string> recent = files_.recent();
+    if (recent.size() > mostRecent) recent.resize(mostRecent);
+    if (!recent.empty()) addHead(Text::startPageRecent);
+    for (const std::string& path : recent)
+        addFile(houseIcon(QStringLiteral("recent")), qt(fileNameOf(path)), qt(folderOf(path)),
+                [this, path] { files_.open(path); });
+    const std::vector<ExampleFile> examples = files_.examples();
+    const auto find = [&](const char* name) -> const ExampleFile* {
+        for (const ExampleFile& example : examples)
+            if (example.name == QLatin1String(name)) return &example;
+        return nullptr;
+    };
+    const bool any = std::any_of(std::begin(templates), std::end(templates),
+                                 [&](const KnownExample& known) { return find(known.name); });
+    if (any) addHead(Text::startPageTemplates);
+    for (const KnownExample& known : templates)
+        if (const ExampleFile* file = find(known.name))
+            addFile(houseIcon(QString::fromLatin1(known.icon)), qt(main_.text(known.caption)),
+                    qt(main_.text(known.hint)),
+                    [this, path = file->path] { files_.openAsTemplate(path); });
+    if (!examples.empty()) addHead(Text::startPageExamples);
+    for (const KnownExample& known : knownExamples)
+        if (const ExampleFile* file = find(known.name))
+            addFile(houseIcon(QString::fromLatin1(known.icon)), file->name,
+                    qt(main_.text(known.hint)), [this, path = file->path] { files_.open(path); });
+    fileCard_->setVisible(fileLines_->count() > 0);
+}
+
+void StartPage::showEvent(QShowEvent* event) {
+    fillFiles();
+    QScrollArea::showEvent(event);
+}
+
+void StartPage::resizeEvent(QResizeEvent* event) {
+    constexpr int besideEachOther = 110 * gridStep;
+    across_->setDirection(event->size().width() < besideEachOther ? QBoxLayout::TopToBottom
+                                                                  : QBoxLayout::LeftToRight);
+    QScrollArea::resizeEvent(event);
 }
 
 QWidget* StartPage::line(const Varnmain& main, const std::string& entry, const char* icon,

@@ -19,6 +19,8 @@ namespace varnholt {
 struct LoadsChart {
     ByMode<std::array<double, timeBlocks>> loads{};  ///< MBtu/hr or kW
     ByMode<double> largest{};
+    /// What the zone's pump gives in a mode; none where there is none.
+    ByMode<std::optional<double>> capacity{};
     /// Block of the largest load; none where there is no load.
     ByMode<std::optional<std::size_t>> peakBlock{};
 

@@ -5,24 +5,35 @@
 #include "forms/quantity.h"
 
 namespace varnholt {
+namespace {
+
+/// The columns' widths in characters; those of words stand left.
+constexpr const char* columns[] = {"!@@@",   "!@@@@@@@@", "@@",    "@@@@@@", "@@@@@@", "@@@@@@",
+                                   "@@@@@@", "@@@@@@@",   "@@@@@", "@@@@@@", "@@@@"};
+
+}  // namespace
+
+std::vector<std::string> summaryCells(const std::string& zoneNumber, const Zone& zone, Mode mode,
+                                      UnitSystem units) {
+    const auto number = [](double value) { return formatNumber(value, "##0.0"); };
+    const auto load = [&](double value) { return number(quantities::load.shown(value, units)); };
+    const MiniPump& pump = zone.pump;
+    const bool asEer = mode == cooling && units == UnitSystem::english;
+    std::vector<std::string> cells{zoneNumber, pump.name, std::to_string(pump.number)};
+    for (const ByMode<double>& block : zone.gains) cells.push_back(load(block[mode]));
+    cells.push_back(load(pump.capacity[mode]));
+    cells.push_back(number(pump.watts[mode]));
+    cells.push_back(number(pump.efficiency[mode] * (asEer ? mbtuPerKilowatt : 1)));
+    cells.push_back(formatNumber(pump.plf[mode], "#.00"));
+    return cells;
+}
 
 std::string summaryLine(const std::string& zoneNumber, const Zone& zone, Mode mode,
                         UnitSystem units) {
-    const auto number = [](double value, std::string_view column) {
-        return formatText(formatNumber(value, "##0.0"), column);
-    };
-    const auto load = [&](double value, std::string_view column) {
-        return number(quantities::load.shown(value, units), column);
-    };
-    const MiniPump& pump = zone.pump;
-    const bool asEer = mode == cooling && units == UnitSystem::english;
-    std::string line = formatText(zoneNumber, "!@@@") + formatText(pump.name, "!@@@@@@@@") +
-                       formatText(std::to_string(pump.number), "@@");
-    for (const ByMode<double>& block : zone.gains) line += load(block[mode], "@@@@@@");
-    line += load(pump.capacity[mode], "@@@@@@@");
-    line += number(pump.watts[mode], "@@@@@");
-    line += number(pump.efficiency[mode] * (asEer ? mbtuPerKilowatt : 1), "@@@@@@");
-    line += formatText(formatNumber(pump.plf[mode], "#.00"), "@@@@");
+    std::string line;
+    const char* const* column = columns;
+    for (const std::string& cell : summaryCells(zoneNumber, zone, mode, units))
+        line += formatText(cell, *column++);
     return line;
 }
 

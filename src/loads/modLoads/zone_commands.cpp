@@ -61,7 +61,9 @@ std::string ZoneWindow::numberOfZone(const Zone& zone) const {
     return zone.name.starts_with(word) ? zone.name.substr(word.size()) : zone.name;
 }
 
-void ZoneWindow::LONewCommand_Click() {
+void ZoneWindow::LONewCommand_Click() { addZone(newZone()); }
+
+Zone ZoneWindow::newZone() {
     Zone zone;
     zone.pump.name = text(Text::noPumpSelected);
     // The slot may still hold another series that was browsed.
@@ -74,7 +76,7 @@ void ZoneWindow::LONewCommand_Click() {
     }
     zone.pump.elt = designLoadTemps(conditions(), zone.pump.pumpType);
     zone.name = nameOfZone(static_cast<std::size_t>(document_.zoneCount) + 1);
-    addZone(std::move(zone));
+    return zone;
 }
 
 void ZoneWindow::addZone(Zone zone) {

@@ -166,6 +166,7 @@ void ZoneWindow::savedUnder(const std::string& path) {
     markSaved();
     setChanged(false);
     main().fileUsed(path);
+    platform().tell(filledIn(text(Text::savedAs), {path}));
 }
 
 SavedAs ZoneWindow::saveZonesTo(const std::string& path) {

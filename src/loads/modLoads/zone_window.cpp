@@ -7,6 +7,7 @@
 #include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
 #include "catalogue/catalogue_values.h"
+#include "forms/quantity.h"
 #include "frame/varnmain.h"
 #include "loads/links.h"
 #include "loads/zone_values.h"
@@ -134,7 +135,12 @@ void ZoneWindow::attempt(const std::function<void()>& command) {
 
 LoadsChart ZoneWindow::loadsChart() const {
     const Zone* zone = shownZone();
-    return zone == nullptr ? LoadsChart{} : chartOf(zone->gains, units());
+    if (zone == nullptr) return {};
+    LoadsChart chart = chartOf(zone->gains, units());
+    for (const Mode m : modes)
+        if (zone->pump.capacity[m] > 0)
+            chart.capacity[m] = quantities::load.shown(zone->pump.capacity[m], units());
+    return chart;
 }
 
 PumpChart ZoneWindow::pumpChart() const {

@@ -10,6 +10,7 @@
 #include "frame/file_damage.h"
 #include "frame/open_file.h"
 #include "loads/ModLoadsIO.h"
+#include "loads/import/pasted_block.h"
 #include "loads/loads_window.h"
 #include "loads/modLoads/loads_pictures.h"
 
@@ -83,6 +84,27 @@ class ZoneWindow : public LoadsWindow {
     /// hours, days a week, part load factor.
     void TransferEqvHourCalcValues(const FullLoadHours& found, Mode m);
 
+    struct PastedZones {
+        int zones = 0;
+        int refused = 0;  ///< cells whose zones hold another value than they say
+    };
+    /// Appends a zone for each line of the block: label, four gains, four losses, and where they
+    /// are there hours of cooling and heating, or one for both, and days a week; in the units
+    /// shown, by the ranges of the fields. Lines without any load are heads. The last zone is then
+    /// on display.
+    PastedZones pasteZones(const PastedBlock& block);
+    /// What several zones are to have from now on; what is absent stays.
+    struct ZoneEdits {
+        ByMode<std::optional<std::string>> hours{};  ///< as typed
+        std::optional<std::string> days{};
+        std::optional<std::string> label{};
+        bool numbered = false;  ///< the labels carry numbers from 1
+    };
+    /// Puts them into the zones in these rows, as one step. Returns how many zones are another now.
+    int editZones(const std::vector<int>& rows, const ZoneEdits& edits);
+
+    /// What an engineer would look at in a zone of the list, in sentences.
+    std::vector<std::string> warningsOfZone(std::size_t position) const;
     LoadsChart loadsChart() const;
     PumpChart pumpChart() const;
 
@@ -136,6 +158,8 @@ class ZoneWindow : public LoadsWindow {
     void displayPump();
     /// Appends a zone, selects and displays it.
     void addZone(Zone zone);
+    /// A zone without loads under the next number, with what the catalogue begins with.
+    Zone newZone();
     /// The list, its commands and the zone on display, after `ZoneList` has changed as a whole.
     void showZones(int selected);
     void enableZoneCommands();
@@ -161,6 +185,8 @@ class ZoneWindow : public LoadsWindow {
     std::optional<std::size_t> modelNamed(const std::string& name, SeriesSlot slot) const;
 
  private:
+    Zone zoneOf(Zone zone, const std::vector<std::string>& cells, int& refused) const;
+    int putIntoZones(const std::vector<int>& rows, const ZoneEdits& edits);
     void registerValues();
     void registerConditions();
     void InitializeVariables();

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace varnholt {
+
+class MainWindow;
+
+/// The keys that work whatever window is in front: F9 calculates, Ctrl and PageUp or PageDown turn
+/// the pages, F6 goes from pane to pane, Escape leaves an open panel.
+void addWindowKeys(MainWindow& window);
+
+}  // namespace varnholt

@@ -1,0 +1,318 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a person is told, and what finds its way by keys and names.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTest>
+#include <set>
+
+#include "desk.h"
+#include "desktop/widgets/qt_text.h"
+#include "desktop/windows/name_finder.h"
+#include "desktop/windows/start_page.h"
+#include "frame/design_document.h"
+
+namespace varnholt {
+namespace {
+
+class Feedback : public testing::Test {
+ protected:
+    Feedback() {
+        desk.main().click("NewBorehole");
+        design = desk.main().activeWindow();
+        desk.window->activateWindow();
+        Desk::settle();
+    }
+    ~Feedback() override { EXPECT_TRUE(desk.faults.empty()); }
+
+    QWidget& widget(const std::string& name) {
+        return *desk.shelf.windowOf(*design)->binder().require(name)->widget();
+    }
+    QLineEdit& field(const std::string& name) {
+        design->choose("BHTabs", 2);
+        Desk::settle();
+        auto& edit = static_cast<QLineEdit&>(widget(name));
+        edit.setFocus();
+        edit.selectAll();
+        Desk::settle();
+        return edit;
+    }
+    QLabel* hint() { return desk.window->findChild<QLabel*>(QStringLiteral("refusalHint")); }
+    std::string told() {
+        return plain(desk.window->findChild<QLabel*>(QStringLiteral("toldLabel"))->text());
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers held = {}) {
+        QTest::keyClick(desk.window.get(), key, held);
+        Desk::settle();
+    }
+    QTabWidget& tabs() { return static_cast<QTabWidget&>(widget("BHTabs")); }
+
+    Desk desk;
+    ChildWindow* design = nullptr;
+    const std::string ground = "SOGroundTempText";
+};
+
+TEST_F(Feedback, TellsBesideTheFieldAndInTheStatusBarWhyAValueWasRefused) {
+    QTest::keyClicks(&field(ground), QStringLiteral("500"));
+    Desk::settle();
+    ASSERT_NE(hint(), nullptr);
+    EXPECT_TRUE(hint()->isVisible());
+    const std::string why =
+        "Ground Temperature: 500 is refused, for it takes 0.0 to 212.0. It is 62.0 now.";
+    EXPECT_EQ(plain(hint()->text()), why);
+    EXPECT_EQ(told(), why);
+    QTest::keyClick(&widget(ground), Qt::Key_Tab);
+    Desk::settle();
+    EXPECT_TRUE(hint()->isVisible());
+    EXPECT_EQ(told(), why);
+    QTest::keyClicks(&field(ground), QStringLiteral("60"));
+    EXPECT_FALSE(hint()->isVisible());
+    EXPECT_EQ(told(), "");
+}
+
+TEST_F(Feedback, TakesNoKeyThatIsNoPartOfANumber) {
+    QLineEdit& edit = field(ground);
+    QTest::keyClicks(&edit, QStringLiteral("5x5 ,"));
+    EXPECT_EQ(edit.text(), QStringLiteral("55"));
+    EXPECT_EQ(design->control(ground).text(), "55");
+    ASSERT_FALSE(desk.platform.told.empty());
+    EXPECT_EQ(desk.platform.told.back(), "Only a number can be typed here.");
+    edit.selectAll();
+    QTest::keyClicks(&edit, QStringLiteral("-1.5e1"));
+    EXPECT_EQ(edit.text().isEmpty(), false);
+}
+
+TEST_F(Feedback, TakesACommaForThePointWhereTheLocaleDoes) {
+    desk.platform.mark = ',';
+    QLineEdit& edit = field(ground);
+    QTest::keyClicks(&edit, QStringLiteral("55,5"));
+    EXPECT_EQ(edit.text(), QStringLiteral("55.5"));
+    EXPECT_EQ(design->control(ground).text(), "55.5");
+}
+
+TEST_F(Feedback, LeavesTextsOfWordsAlone) {
+    design->choose("BHTabs", 6);
+    Desk::settle();
+    auto& name = static_cast<QLineEdit&>(widget("INProjectNameText"));
+    name.setFocus();
+    QTest::keyClicks(&name, QStringLiteral("River, 1"));
+    EXPECT_EQ(name.text(), QStringLiteral("River, 1"));
+}
+
+TEST_F(Feedback, SaysWhereTheProjectHasBeenSaved) {
+    const std::string path = desk.folder() + "/work files/river.vht";
+    desk.platform.picks.emplace_back(path);
+    desk.window->menu().action("mnuFileSaveAs")->trigger();
+    ASSERT_FALSE(desk.platform.told.empty());
+    EXPECT_EQ(desk.platform.told.back(), "Saved as " + path + ".");
+}
+
+TEST_F(Feedback, SaysWhyALinkIsNotMade) {
+    desk.window->menu().action("mnuLink")->trigger();
+    EXPECT_EQ(desk.platform.told.back(),
+              "Nothing is linked: open the Zone Manager or the Average Block first.");
+    desk.main().click("NewBorehole");
+    desk.main().click("mnuZoneManage");
+    desk.window->menu().action("mnuLink")->trigger();
+    EXPECT_TRUE(desk.platform.told.back().starts_with("Nothing is linked: several designs"));
+}
+
+TEST_F(Feedback, EndsWithTheNextThingThatIsDone) {
+    desk.window->tell("Something.");
+    EXPECT_EQ(told(), "Something.");
+    QTest::keyClicks(&field(ground), QStringLiteral("6"));
+    EXPECT_EQ(told(), "");
+}
+
+TEST_F(Feedback, PutsTheStarOfUnsavedChangesIntoTheTitle) {
+    QWidget* frame = desk.shelf.frameOf(*design);
+    EXPECT_FALSE(frame->isWindowModified());
+    const std::string caption = design->caption();
+    QTest::keyClicks(&field(ground), QStringLiteral("60"));
+    Desk::settle();
+    EXPECT_TRUE(frame->isWindowModified());
+    EXPECT_EQ(design->caption(), caption);
+}
+
+using Keys = Feedback;
+
+TEST_F(Keys, EnterPressesTheButtonWithTheKeyboard) {
+    QWidget& metric = widget("CACalculateCommand");
+    metric.setFocus();
+    desk.platform.messages.clear();
+    QTest::keyClick(&metric, Qt::Key_Return);
+    // There are no loads: the command says so.
+    EXPECT_FALSE(desk.platform.messages.empty());
+}
+
+TEST_F(Keys, F9Calculates) {
+    desk.platform.messages.clear();
+    press(Qt::Key_F9);
+    EXPECT_FALSE(desk.platform.messages.empty());
+}
+
+TEST_F(Keys, ControlAndPageKeysTurnThePages) {
+    const int pages = tabs().count();
+    const int first = tabs().currentIndex();
+    press(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(tabs().currentIndex(), (first + 1) % pages);
+    EXPECT_EQ(design->control("BHTabs").index(), tabs().currentIndex());
+    press(Qt::Key_PageUp, Qt::ControlModifier);
+    press(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(tabs().currentIndex(), (first + pages - 1) % pages);
+}
+
+TEST_F(Keys, F6GoesFromPaneToPaneAndRound) {
+    field(ground);
+    std::vector<QWidget*> visited;
+    for (int i = 0; i < 4; ++i) {
+        press(Qt::Key_F6);
+        visited.push_back(QApplication::focusWidget());
+    }
+    EXPECT_EQ(visited[0], tabs().tabBar());
+    EXPECT_EQ(plain(visited[1]->objectName()), "MetricCheck");
+    EXPECT_TRUE(tabs().currentWidget()->isAncestorOf(visited[3]))
+        << visited[3]->metaObject()->className();
+}
+
+TEST_F(Keys, EscapeLeavesAnOpenPanel) {
+    desk.main().click("mnuZoneManage");
+    Form* loads = desk.main().activeWindow();
+    loads->click("LONewCommand");
+    loads->click("LOSummaryCommand");
+    ASSERT_TRUE(loads->control("LOSummaryPicture").visible());
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(loads->control("LOSummaryPicture").visible());
+}
+
+TEST_F(Keys, AltAndHAreTheHelpAndNoMenusShareALetter) {
+    std::set<QString> letters;
+    for (const QAction* menu : desk.window->menuBar()->actions()) {
+        const qsizetype at = menu->text().indexOf(u'&');
+        ASSERT_GE(at, 0) << plain(menu->text());
+        EXPECT_TRUE(letters.insert(menu->text().mid(at + 1, 1).toLower()).second);
+    }
+    EXPECT_TRUE(desk.window->menu().menu("Help")->title().startsWith(QStringLiteral("&H")));
+}
+
+TEST(Names, AreFoundByEveryWordAndThoseThatBeginWithItComeFirst) {
+    const auto thing = [](const char* name, const char* place) {
+        return NamedThing{NamedThing::Kind::field,
+                          QString::fromLatin1(name),
+                          QString::fromLatin1(place),
+                          {},
+                          true,
+                          {}};
+    };
+    const std::vector<NamedThing> things{thing("Bore Diameter", "New Borehole"),
+                                         thing("Diameter of the Pipe", "New Borehole"),
+                                         thing("Save", "File")};
+    const auto both = found(things, QStringLiteral("diam"));
+    ASSERT_EQ(both.size(), 2U);
+    EXPECT_EQ(both[0].name, QStringLiteral("Diameter of the Pipe"));
+    EXPECT_EQ(found(things, QStringLiteral("bore  dia")).size(), 2U);
+    EXPECT_EQ(found(things, QStringLiteral("xyz")).size(), 0U);
+    EXPECT_EQ(found(things, QString()).size(), 3U);
+}
+
+class Finder : public Feedback {
+ protected:
+    NameFinder* open() {
+        press(Qt::Key_K, Qt::ControlModifier);
+        return desk.window->findChild<NameFinder*>();
+    }
+};
+
+TEST_F(Finder, GoesToAFieldWhereverItIs) {
+    design->choose("BHTabs", 0);
+    NameFinder* finder = open();
+    ASSERT_NE(finder, nullptr);
+    QTest::keyClicks(&finder->typed(), QStringLiteral("ground temp"));
+    ASSERT_GT(finder->list().count(), 0);
+    QTest::keyClick(&finder->typed(), Qt::Key_Return);
+    Desk::settle();
+    EXPECT_EQ(design->control("BHTabs").index(), 2);
+    EXPECT_EQ(plain(QApplication::focusWidget()->objectName()), ground);
+}
+
+TEST_F(Finder, RunsACommandOfTheMenus) {
+    NameFinder* finder = open();
+    QTest::keyClicks(&finder->typed(), QStringLiteral("zone manager"));
+    QTest::keyClick(&finder->typed(), Qt::Key_Return);
+    Desk::settle();
+    EXPECT_NE(desk.main().find("frmZoneManage"), nullptr);
+}
+
+TEST_F(Finder, OpensAnExample) {
+    NameFinder* finder = open();
+    QTest::keyClicks(&finder->typed(), QStringLiteral("trench-office"));
+    QTest::keyClick(&finder->typed(), Qt::Key_Return);
+    Desk::settle();
+    EXPECT_NE(desk.main().find("frmHZDesign"), nullptr);
+}
+
+TEST_F(Finder, SaysSoWhereNothingHasTheName) {
+    NameFinder* finder = open();
+    QTest::keyClicks(&finder->typed(), QStringLiteral("no such thing"));
+    EXPECT_EQ(finder->list().count(), 0);
+    QTest::keyClick(&finder->typed(), Qt::Key_Escape);
+    Desk::settle();
+    EXPECT_EQ(desk.window->findChild<NameFinder*>(), nullptr);
+}
+
+QAbstractButton* buttonNamed(QWidget& page, const char* name) {
+    for (auto* button : page.findChildren<QAbstractButton*>())
+        if (button->isVisible() && button->accessibleName() == QLatin1String(name)) return button;
+    return nullptr;
+}
+
+class FirstMinutes : public testing::Test {
+ protected:
+    FirstMinutes() { Desk::settle(); }
+    ~FirstMinutes() override { EXPECT_TRUE(desk.faults.empty()); }
+    StartPage& page() { return *desk.window->findChild<StartPage*>(); }
+
+    Desk desk;
+};
+
+TEST_F(FirstMinutes, OpenATemplateThatHasNoFileOfItsOwn) {
+    QAbstractButton* office = buttonNamed(page(), "Office");
+    ASSERT_NE(office, nullptr);
+    office->click();
+    Desk::settle();
+    auto* design = dynamic_cast<DesignDocument*>(desk.main().find("frmBHDesign"));
+    ASSERT_NE(design, nullptr);
+    EXPECT_FALSE(design->currentFileCheck);
+    EXPECT_EQ(design->FileName, "");
+}
+
+TEST_F(FirstMinutes, OpenAnExampleAndOfferItAsRecentAfterwards) {
+    QAbstractButton* example = buttonNamed(page(), "trench-office");
+    ASSERT_NE(example, nullptr);
+    example->click();
+    Desk::settle();
+    ASSERT_NE(desk.main().find("frmHZDesign"), nullptr);
+    for (ChildWindow* window : desk.main().windows()) desk.main().close(*window);
+    Desk::settle();
+    EXPECT_NE(buttonNamed(page(), "trench-office.vht"), nullptr);
+}
+
+TEST_F(FirstMinutes, StandBelowEachOtherInANarrowWindow) {
+    const auto placeOf = [this](const char* name) {
+        return buttonNamed(page(), name)->mapTo(&page(), QPoint());
+    };
+    EXPECT_GT(placeOf("Office").x(), placeOf("New Borehole").x());
+    desk.window->resize(683, 700);
+    Desk::settle();
+    EXPECT_GT(placeOf("Office").y(), placeOf("New Borehole").y());
+}
+
+}  // namespace
+}  // namespace varnholt

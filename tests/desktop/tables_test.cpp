@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Tables and pictures on their way in and out, by a person's own keys.
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImage>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSvgRenderer>
+#include <QTest>
+#include <filesystem>
+
+#include "basis/file_system.h"
+#include "desk.h"
+#include "desktop/binding/giving_out.h"
+#include "desktop/binding/pasted_places.h"
+#include "desktop/binding/shown_table.h"
+#include "desktop/drawings/picture_out.h"
+#include "desktop/widgets/list_view.h"
+#include "desktop/widgets/qt_text.h"
+#include "loads/frmZoneManage.h"
+
+namespace varnholt {
+namespace {
+
+const std::vector<std::vector<std::string>> places{{"A0", "B0"}, {"A1", "B1"}, {"A2"}};
+
+TEST(PastedPlaces, GoDownAndAcrossFromTheField) {
+    const auto found = placesOf(places, "A1", {{"1", "2"}, {"3", "4"}, {"5"}});
+    ASSERT_TRUE(found);
+    ASSERT_EQ(found->cells.size(), 3U);
+    EXPECT_EQ(found->cells[0].control, "A1");
+    EXPECT_EQ(found->cells[1].control, "B1");
+    EXPECT_EQ(found->cells[2].control, "A2");
+    EXPECT_EQ(found->cells[2].text, "3");
+    EXPECT_EQ(found->beyond, 2);  // 4 and 5
+    EXPECT_FALSE(placesOf(places, "C0", {{"1"}}));
+}
+
+class Tables : public testing::Test {
+ protected:
+    Tables() {
+        desk.main().click("mnuZoneManage");
+        loads = dynamic_cast<frmZoneManage*>(desk.main().find("frmZoneManage"));
+        loads->click("LONewCommand");
+        desk.window->activateWindow();
+        Desk::settle();
+    }
+    ~Tables() override { EXPECT_TRUE(desk.faults.empty()); }
+
+    QWidget& widget(const std::string& name) {
+        return *desk.shelf.windowOf(*loads)->binder().widget(name);
+    }
+    ListView& list() { return static_cast<ListView&>(widget("LOZoneList")); }
+    void press(QWidget& on, Qt::Key key) {
+        on.setFocus();
+        Desk::settle();
+        QTest::keyClick(&on, key, Qt::ControlModifier);
+        Desk::settle();
+    }
+    std::string text(const std::string& name) const { return loads->control(name).text(); }
+
+    Desk desk;
+    frmZoneManage* loads = nullptr;
+};
+
+TEST_F(Tables, OfLoadsGoOnOverTheFieldsFromTheOneWithTheKeyboard) {
+    desk.platform.setClipboard("12,5\t4\r\n20\t5\r\n-1\t6\r\n");
+    press(widget("LOGainsText(1)"), Qt::Key_V);
+    EXPECT_EQ(text("LOGainsText(1)"), "12.5");
+    EXPECT_EQ(text("LOGainsText(5)"), "4.0");
+    EXPECT_EQ(text("LOGainsText(2)"), "20.0");
+    EXPECT_EQ(text("LOGainsText(7)"), "6.0");
+    EXPECT_TRUE(loads->control("LOGainsText(3)").refused());
+    EXPECT_EQ(desk.platform.told.back(),
+              "1 of 6 pasted values were refused; their fields are marked.");
+    loads->undo();
+    EXPECT_EQ(text("LOGainsText(1)"), "0.0");
+    EXPECT_EQ(text("LOGainsText(7)"), "0.0");
+}
+
+TEST_F(Tables, OfOneCellArePastedAsBefore) {
+    desk.platform.setClipboard("12.5\r\n");
+    static_cast<QLineEdit&>(widget("LOGainsText(1)")).selectAll();
+    press(widget("LOGainsText(1)"), Qt::Key_V);
+    EXPECT_EQ(text("LOGainsText(1)"), "12.5");
+    EXPECT_EQ(text("LOGainsText(2)"), "0.0");
+}
+
+TEST_F(Tables, OfZonesBecomeZonesInTheirList) {
+    desk.platform.setClipboard("Foyer\t1\t2\t3\t4\t5\t6\t7\t8\n");
+    press(list(), Qt::Key_V);
+    EXPECT_EQ(loads->zoneNumber(), 2);
+    EXPECT_EQ(loads->ZoneList()[1].title, "Foyer");
+}
+
+TEST_F(Tables, OfAListAreCopiedByLinesAndAsAWhole) {
+    loads->type("LOZoneReferenceText", "Foyer");
+    loads->click("LONewCommand");
+    Desk::settle();
+    press(list(), Qt::Key_C);
+    // The second zone is the one selected.
+    EXPECT_TRUE(desk.platform.clipboardText.starts_with("Zone 2\t\t0.0 / 0.0\t"))
+        << desk.platform.clipboardText;
+    copyTable(*loads, &list());
+    const QStringList lines = qt(desk.platform.clipboardText).split(u'\n');
+    ASSERT_EQ(lines.size(), 4);  // heads, two zones, the end of the last line
+    EXPECT_EQ(plain(lines[0]), "Zone\tLabel\tLoad\tPump");
+    EXPECT_TRUE(lines[1].startsWith(QStringLiteral("Zone 1\tFoyer\t")));
+}
+
+TEST_F(Tables, OfFieldsHaveTheirUnitsInTheHead) {
+    loads->type("LOGainsText(0)", "10");
+    const QStringList lines = tableAround(&widget("LOGainsText(0)")).split(u'\n');
+    const QString head = lines[lines.indexOf(QRegularExpression(QStringLiteral("Heat Gains.*")))];
+    EXPECT_EQ(plain(head), "Time of Day\tHeat Gains (MBtu/hr)\tHeat Losses (MBtu/hr)");
+    EXPECT_TRUE(lines.contains(QStringLiteral("8 a.m. - Noon\t10.0\t0.0")))
+        << plain(lines.join(u'|'));
+}
+
+TEST_F(Tables, AreNotThereForAWidgetThatStandsInNone) {
+    EXPECT_TRUE(tableAround(&widget("LOSaveCommand")).isEmpty());
+    copyTable(*loads, &widget("LOSaveCommand"));
+    EXPECT_EQ(desk.platform.told.back(), "There is no table here to copy.");
+}
+
+TEST_F(Tables, OfResultsAreCopiedFromTheEditMenu) {
+    desk.main().click("NewBorehole");
+    Desk::settle();
+    QTest::keyClick(desk.window.get(), Qt::Key_C, Qt::ControlModifier | Qt::AltModifier);
+    Desk::settle();
+    EXPECT_NE(desk.platform.clipboardText.find("Total Length"), std::string::npos)
+        << desk.platform.clipboardText;
+}
+
+TEST_F(Tables, OfAnEmptyListBeginWithTheButtonsForTheFirstZone) {
+    loads->click("LORemoveCommand");
+    Desk::settle();
+    QPushButton* first = nullptr;
+    for (auto* button : desk.shelf.windowOf(*loads)->findChildren<QPushButton*>())
+        if (button->objectName().isEmpty() && button->isVisible() &&
+            qt(loads->control("LONewCommand").caption()) == button->text())
+            first = button;
+    ASSERT_NE(first, nullptr);
+    first->click();
+    Desk::settle();
+    EXPECT_EQ(loads->zoneNumber(), 1);
+    EXPECT_FALSE(first->isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), &widget("LOZoneReferenceText"));
+}
+
+class Pictures : public Tables {
+ protected:
+    Drawing& drawing() { return *drawingAround(&widget("LOLoadsChart")); }
+};
+
+TEST_F(Pictures, AreCopiedAtThreeTimesTheScreensResolution) {
+    loads->type("LOGainsText(0)", "10");
+    Desk::settle();
+    copyPicture(*loads, &widget("LOLoadsChart"));
+    const QImage copied = QGuiApplication::clipboard()->image();
+    EXPECT_EQ(copied.size(), drawing().size() * 3);
+    bool drawn = false;
+    for (int x = 0; x < copied.width() && !drawn; ++x)
+        drawn = copied.pixel(x, copied.height() / 2) != copied.pixel(0, 0);
+    EXPECT_TRUE(drawn);
+}
+
+TEST_F(Pictures, AreSavedByLinesByPixelsAndAsAPage) {
+    loads->type("LOGainsText(0)", "10");
+    Desk::settle();
+    const std::string folder = desk.folder();
+    for (const char* ending : {"svg", "png", "pdf"}) {
+        const std::string path = folder + "/chart." + ending;
+        desk.platform.picks.emplace_back(path);
+        savePicture(*loads, &widget("LOLoadsChart"));
+        EXPECT_EQ(desk.platform.told.back(), "Saved as " + path + ".");
+    }
+    QSvgRenderer svg(qt(folder + "/chart.svg"));
+    EXPECT_TRUE(svg.isValid());
+    EXPECT_EQ(svg.defaultSize(), drawing().size());
+    EXPECT_EQ(QImage(qt(folder + "/chart.png")).size(), drawing().size() * 3);
+    EXPECT_TRUE(readWholeFile(folder + "/chart.pdf").starts_with("%PDF-"));
+}
+
+TEST_F(Pictures, ThatCannotBeSavedSaySo) {
+    desk.platform.picks.emplace_back(desk.folder() + "/no such folder/chart.svg");
+    savePicture(*loads, &widget("LOLoadsChart"));
+    EXPECT_TRUE(desk.platform.told.back().starts_with("The picture could not be saved"));
+    EXPECT_FALSE(writePicture(drawing(), qt(desk.folder() + "/chart.doc")));
+}
+
+TEST_F(Pictures, AreNoLightsOfALink) {
+    EXPECT_EQ(drawingAround(&widget("imgLinkLight(0)")), nullptr);
+}
+
+class ZoneColumnsTest : public Tables {
+ protected:
+    ZoneColumnsTest() {
+        for (int i = 0; i < 3; ++i) loads->click("LONewCommand");
+        loads->select("LOZoneList", {1});
+        loads->type("LOZoneReferenceText", "Gym");
+        loads->type("LOGainsText(0)", "50");
+        loads->select("LOZoneList", {2});
+        loads->type("LOGainsText(0)", "70");
+        Desk::settle();
+    }
+    int shownRows() { return list().model()->rowCount(); }
+};
+
+TEST_F(ZoneColumnsTest, AreSortedToLookAtAndTheListsOwnOrderStays) {
+    list().sortByColumn(2, Qt::DescendingOrder);
+    EXPECT_EQ(list().model()->index(0, 0).data().toString(), QStringLiteral("Zone 3"));
+    EXPECT_EQ(list().entries().items()[0], "Zone 1");
+    // What is chosen by the place of the screen is the zone that stands there.
+    QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
+                      list().visualRect(list().model()->index(1, 0)).center());
+    EXPECT_EQ(loads->control("LOZoneList").selected(), std::vector<int>{1});
+}
+
+TEST_F(ZoneColumnsTest, ShowTheZonesThatHoldATextAndKeepTheSelection) {
+    auto* filter = desk.shelf.windowOf(*loads)->findChild<QLineEdit*>(QStringLiteral("zoneFilter"));
+    ASSERT_NE(filter, nullptr);
+    filter->setText(QStringLiteral("gym"));
+    EXPECT_EQ(shownRows(), 1);
+    EXPECT_EQ(loads->control("LOZoneList").selected(), std::vector<int>{2});
+    filter->clear();
+    EXPECT_EQ(shownRows(), 4);
+    EXPECT_EQ(list().rows(), std::vector<int>{2});
+}
+
+TEST_F(ZoneColumnsTest, GoToTheZoneThatHoldsWhatIsTyped) {
+    list().setFocus();
+    QTest::keyClicks(&list(), QStringLiteral("gy"));
+    EXPECT_EQ(loads->control("LOZoneList").selected(), std::vector<int>{1});
+}
+
+TEST_F(ZoneColumnsTest, CarryASignForWhatIsToBeChecked) {
+    const QModelIndex zone = list().model()->index(1, 0);
+    EXPECT_FALSE(zone.data(Qt::DecorationRole).isNull());  // loads and no pump
+    EXPECT_EQ(plain(zone.data(Qt::ToolTipRole).toString()), "Zone 2 has loads and no pump.");
+    EXPECT_TRUE(list().model()->index(0, 0).data(Qt::DecorationRole).isNull());
+}
+
+TEST_F(ZoneColumnsTest, AreOpenedFromTheSummary) {
+    loads->click("LOSummaryCommand");
+    Desk::settle();
+    auto& summary = static_cast<ListView&>(widget("LOZoneSummaryList"));
+    summary.onOpened(3);  // the second line of the second zone
+    EXPECT_EQ(loads->selectedZone(), 1);
+}
+
+}  // namespace
+}  // namespace varnholt
