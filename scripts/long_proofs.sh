@@ -6,15 +6,35 @@
 # The proofs draw other numbers each time; a seed that is given repeats them.
 seed=${VARNHOLT_SEED:-$(date +%s)}
 # Seconds for each fuzzing program.
-fuzz_seconds=${VARNHOLT_FUZZ_SECONDS:-120}
+fuzz_seconds=${VARNHOLT_FUZZ_SECONDS:-600}
+# Wrong values that each byte of a file is given in turn, 255 for all there are.
+damage_values=${VARNHOLT_DAMAGE:-8}
 # Random users whose sessions both programs have to repeat.
 random_users=${VARNHOLT_RANDOM_USERS:-40}
 
 monkey_at_length() {
-    build_preset asan varnholt-monkey
+    build_preset asan varnholt-monkey varnholt-monkey-windows
     say "A random user presses 100,000 times and undoes and redoes 100,000 steps under the sanitizers, seed $seed"
     build/asan/bin/varnholt-monkey --seed "$seed" --presses 100000 --undone 100000 \
         --trace build/long/monkey.vscript
+    say "Another one presses the widgets of the real windows 100,000 times"
+    QT_QPA_PLATFORM=offscreen build/asan/bin/varnholt-monkey-windows --seed "$seed" \
+        --presses 100000 --trace build/long/monkey-windows.vscript
+}
+
+# Both programs read every kind of file, cut at every byte and with every byte changed: as released,
+# with their time and memory, and under the sanitizers.
+damage_at_length() {
+    build_preset release test_damage test_catalogue
+    say "Damaged files in the released programs, $damage_values values a byte"
+    VARNHOLT_DAMAGE=$damage_values build/release/bin/test_damage --gtest_brief=1 \
+        --gtest_output="xml:$PWD/build/long/damage.xml"
+    say "Every value of every byte of the catalogue's files"
+    VARNHOLT_DAMAGE=255 build/release/bin/test_catalogue --gtest_brief=1 \
+        --gtest_filter='DamagedCatalogue.*'
+    build_preset asan test_damage
+    say "Damaged files under the sanitizers"
+    VARNHOLT_DAMAGE=1 build/asan/bin/test_damage --gtest_brief=1
 }
 
 kills_at_length() {
@@ -36,6 +56,7 @@ fuzz_examples() {
         load_table) echo examples ;;
         project_file | horizontal_file | surface_water_file) echo tests/files/projects examples ;;
         recovery_record) echo tests/files ;;
+        fields) echo fuzz/corpus/fields ;;
         script) echo tests/scripts -dict=fuzz/fuzz_script.dict ;;
     esac
 }
@@ -101,6 +122,7 @@ random_users_at_length() {
 long_proofs() {
     mkdir -p build/long
     monkey_at_length
+    damage_at_length
     kills_at_length
     fuzzing_at_length
     random_users_at_length

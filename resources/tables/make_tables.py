@@ -9,6 +9,7 @@ agree in both unit systems.
 import csv
 import html
 import pathlib
+import re
 import sys
 
 HERE = pathlib.Path(__file__).resolve().parent
@@ -60,7 +61,9 @@ class Column:
         if self.is_words():
             text = text.replace("^2", "²").replace("^3", "³")
         kind = ' class="words"' if self.is_words() else ""
-        return f"<td{kind}{order}>{html.escape(text)}</td>"
+        # A figure at the end, such as that of "SDR 13.5", stays on the line of its word.
+        shown = re.sub(r" (?=[\d.]+$)", "&nbsp;", html.escape(text))
+        return f"<td{kind}{order}>{shown}</td>"
 
 
 def words(field, head):

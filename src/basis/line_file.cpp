@@ -46,12 +46,14 @@ void LineFileReader::title(std::string_view) {
 }
 
 void LineFileReader::number(double& value) {
-    const double read = leadingNumber(line());
+    const double read = leadingNumber(lineAsItStands());
     if (!std::isfinite(read)) throw RunTimeError(6);
     value = read;
 }
 
-void LineFileReader::integer(std::int16_t& value) { value = toInteger(leadingNumber(line())); }
+void LineFileReader::integer(std::int16_t& value) {
+    value = toInteger(leadingNumber(lineAsItStands()));
+}
 
 void LineFileReader::date(Date& value) { value = readDate(line()).value_or(Date{}); }
 
@@ -62,7 +64,7 @@ std::size_t LineFileReader::linesLeft(std::size_t most) const {
 }
 
 std::size_t LineFileReader::count(std::size_t, std::size_t linesEach) {
-    const double stated = leadingNumber(line());
+    const double stated = leadingNumber(lineAsItStands());
     statedCount_ = 0;
     if (!(stated >= 1)) return 0;
     // No count larger than the number of bytes can be true.
@@ -98,12 +100,20 @@ void LineFileReader::readItem(std::int16_t& value) { value = toInteger(leadingNu
 std::string_view LineFileReader::takeLine() {
     if (left_.empty()) throw RunTimeError(62);
     ++lineNumber_;
-    return takeFirstLine(left_);
+    const std::size_t before = left_.size();
+    const std::string_view line = takeFirstLine(left_);
+    lineEnded_ = before > left_.size() + line.size();
+    return line;
+}
+
+std::string_view LineFileReader::lineAsItStands() {
+    const std::string_view found = rest_ ? *rest_ : takeLine();
+    rest_.reset();
+    return found;
 }
 
 std::string LineFileReader::line() {
-    const std::string_view found = rest_ ? *rest_ : takeLine();
-    rest_.reset();
+    const std::string_view found = lineAsItStands();
     return isUtf8_ ? std::string(found) : windows1252Text(found);
 }
 

@@ -55,7 +55,7 @@ class LineFileReader {
         (readItem(values), ...);
     }
     /// A line with no meaning to the reader.
-    void fixed(std::string_view) { line(); }
+    void fixed(std::string_view) { lineAsItStands(); }
 
     /// A count of items that take at least `linesEach` lines each: bounded by what the file can
     /// hold, so that a false count cannot exhaust the memory. A negative count is 0; a count that
@@ -73,11 +73,21 @@ class LineFileReader {
     bool atEnd() const { return left_.empty(); }
     /// Whether anything but blanks and line ends is left.
     bool holdsMore() const { return left_.find_first_not_of(" \t\r\n") != left_.npos; }
+    /// What is left, from the next line on.
+    std::string_view rest() const { return left_; }
+    /// Whether something ends the line read last, or the file just stops there.
+    bool isLineEnded() const { return lineEnded_; }
+    /// A part behind the body, by its name, is there but cannot be read.
+    void noteUnread(std::string_view part) { unread_ = part; }
+    /// Name of that part; empty for none.
+    const std::string& unread() const { return unread_; }
     /// Number of the line read last, from 1; 0 before the first.
     std::size_t lineNumber() const { return lineNumber_; }
 
  private:
     std::string_view takeLine();
+    /// The line's bytes, in whichever encoding: a number needs no copy of a line that is long.
+    std::string_view lineAsItStands();
     /// How many lines are left, at most so many.
     std::size_t linesLeft(std::size_t most) const;
     std::string_view item();
@@ -92,6 +102,8 @@ class LineFileReader {
     std::size_t lineNumber_ = 0;
     std::size_t statedCount_ = 0;
     double version_ = 0;
+    bool lineEnded_ = false;
+    std::string unread_;
 };
 
 /// Composes a line-oriented text file in memory.

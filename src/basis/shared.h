@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <atomic>
 #include <memory>
 #include <utility>
 
 namespace varnholt {
 
 /// A value that its copies share until one of them is written to, so that copying it costs the
-/// same whatever its size.
+/// same whatever its size. A copy may be read by another thread than the one that writes to its own.
 template <class T>
 class Shared {
  public:
@@ -22,6 +23,8 @@ class Shared {
     /// this object is copied.
     T& edit() {
         if (value_.use_count() > 1) value_ = std::make_shared<T>(*value_);
+        // What another thread has read of a copy that is gone comes before what is written now.
+        std::atomic_thread_fence(std::memory_order_acquire);
         return *value_;
     }
 

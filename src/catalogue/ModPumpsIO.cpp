@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/ModPumpsIO.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "basis/file_system.h"
@@ -13,6 +14,8 @@ namespace {
 constexpr std::size_t linesOfManufacturer = 7;
 constexpr std::size_t linesOfSeries = 3;
 constexpr std::size_t linesOfModel = 154;
+/// As many as 16 bits count.
+constexpr std::size_t mostModels = 32'767;
 
 // One description of each file, run with a reader or with a writer.
 
@@ -49,10 +52,12 @@ void describeManufacturer(File& file, Manufacturer& manufacturer) {
     }
 }
 
+/// @param stated  is told how many manufacturers a file that is read states
 template <class File, class Manufacturers>
-void describeIndex(File& file, Manufacturers& manufacturers) {
+void describeIndex(File& file, Manufacturers& manufacturers, std::size_t& stated) {
     file.title("Pump List File Version ");
     const std::size_t count = file.count(manufacturers.size(), linesOfManufacturer);
+    if constexpr (File::reading) stated = file.statedCount();
     for (std::size_t i = 0; i < count; ++i) {
         if constexpr (File::reading) toInteger(static_cast<double>(i + 1));
         if constexpr (File::reading) manufacturers.emplace_back();
@@ -164,6 +169,8 @@ std::size_t describeHead(File& file, Series& series) {
 template <class File, class Series>
 void describeSeries(File& file, Series& series) {
     const std::size_t count = describeHead(file, series);
+    // A list that grows bit by bit would take twice the memory on its way.
+    if constexpr (File::reading) series.models.reserve(std::min(count, mostModels));
     for (std::size_t i = 0; i < count; ++i) {
         if constexpr (File::reading) {
             toInteger(static_cast<double>(i + 1));
@@ -180,15 +187,27 @@ void describeSeries(File& file, Series& series) {
     for (auto& model : series.models) describeAdditions(file, model);
 }
 
+void tellEntries(ReadingReport* report, Entries entries, std::size_t stated, std::size_t found) {
+    if (report == nullptr) return;
+    report->entries = entries;
+    report->stated = stated;
+    report->found = found;
+}
+
 }  // namespace
 
 void readPumpIndex(std::string_view bytes, std::vector<PumpList>& manufacturers,
                    ReadingReport* report) {
     manufacturers.clear();
     LineFileReader file(bytes);
+    std::size_t stated = 0;
     try {
-        reportReading(file, report, [&] { describeIndex(file, manufacturers); });
+        reportReading(file, report, [&] { describeIndex(file, manufacturers, stated); });
+        tellEntries(report, Entries::manufacturers, stated, manufacturers.size());
     } catch (const RunTimeError&) {
+        // The last one is not whole.
+        tellEntries(report, Entries::manufacturers, stated,
+                    manufacturers.empty() ? 0 : manufacturers.size() - 1);
         if (!manufacturers.empty() && manufacturers.back() == PumpList{}) manufacturers.pop_back();
         throw;
     }
@@ -197,12 +216,19 @@ void readPumpIndex(std::string_view bytes, std::vector<PumpList>& manufacturers,
 void readPumpSeries(std::string_view bytes, PumpSeries& series, ReadingReport* report) {
     series = {};
     LineFileReader file(bytes);
-    reportReading(file, report, [&] { describeSeries(file, series); });
+    try {
+        reportReading(file, report, [&] { describeSeries(file, series); });
+    } catch (const RunTimeError&) {
+        tellEntries(report, Entries::pumps, file.statedCount(), series.models.size());
+        throw;
+    }
+    tellEntries(report, Entries::pumps, file.statedCount(), series.models.size());
 }
 
 std::string pumpIndexText(const std::vector<PumpList>& manufacturers) {
     LineFileWriter file;
-    describeIndex(file, manufacturers);
+    std::size_t stated = 0;
+    describeIndex(file, manufacturers, stated);
     return file.bytes();
 }
 

@@ -299,6 +299,18 @@ void Form::pickDate(const std::string& name, const Date& date) {
     });
 }
 
+void Form::fallBehind() {
+    behind_ = true;
+    tellObservers([this](FormObserver& observer) { observer.fellBehind(*this); });
+}
+
+/// A reader is told what holds now, whether or not it is known to have changed.
+void Form::catchUp() { behind_ = !workLate(true); }
+
+void Form::catchUpABit() {
+    if (behind_) behind_ = !workLate(false);
+}
+
 void Form::addObserver(FormObserver* observer) {
     observers_.push_back(observer);
     observer->observed_.push_back(this);

@@ -134,7 +134,8 @@ bool NumericFields::applyRange(const NumericFieldRow& row) {
 }
 
 bool NumericFields::isBelow(const NumericFieldRow& row, double value) {
-    return value < row.lowest || (row.lowestIsRefused && value == row.lowest);
+    const bool between = row.leastBesideZero && value > row.lowest && value < *row.leastBesideZero;
+    return value < row.lowest || between || (row.lowestIsRefused && value == row.lowest);
 }
 
 double NumericFields::instead(const NumericFieldRow& row, double value) {
@@ -167,7 +168,8 @@ void NumericFields::left(const std::string& control) {
     const bool neutral = value == 0 || (temperature && value == 32);
     const bool empty = form_.control(control).text().empty();
     const bool unparsable = row.unparsable && value == *row.unparsable;
-    if (unparsable || (neutral && empty)) {
+    const bool tooSmall = row.leastWhenLeft && value < *row.leastWhenLeft;
+    if (unparsable || tooSmall || (neutral && empty)) {
         row.stored.set(row.whenEmpty.value_or(fallbackOf(row)));
         if (row.changed) row.changed();
         if (manner_.changed) manner_.changed();

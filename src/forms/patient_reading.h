@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 #include "basis/system/file_source.h"
@@ -24,5 +25,19 @@ inline FileSource::Content readFor(Platform& platform, const std::string& path,
                                       return platform.waitFor(path, waited);
                                   }});
 }
+
+/// The files of the disk, read as long as the platform waits for them.
+class PatientFiles : public FileSource {
+ public:
+    explicit PatientFiles(Platform& platform) : platform_(platform) {}
+
+    std::optional<FileStamp> stamp(const std::string& path) const override {
+        return DiskFiles().stamp(path);
+    }
+    Content read(const std::string& path) const override { return readFor(platform_, path); }
+
+ private:
+    Platform& platform_;
+};
 
 }  // namespace varnholt

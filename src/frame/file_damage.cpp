@@ -30,6 +30,9 @@ int nameOf(FileKind kind) {
 /// Where the reading ended, and why.
 std::string endOfReading(const Texts& texts, const ReadingReport& report) {
     constexpr int overflow = 6, inputPastEnd = 62;
+    if (!report.unread.empty())
+        return filledIn(texts.text(Text::noticeUnreadPart),
+                        {report.unread, std::to_string(report.line)});
     if (report.leftover)
         return filledIn(texts.text(Text::noticeLeftoverLines), {std::to_string(report.line)});
     if (report.error == inputPastEnd)
@@ -38,6 +41,18 @@ std::string endOfReading(const Texts& texts, const ReadingReport& report) {
         return filledIn(texts.text(Text::noticeNumberTooLarge), {std::to_string(report.line)});
     if (report.error == 0) return {};
     return filledIn(texts.text(Text::noticeReadingFailed), {RunTimeError(report.error).message()});
+}
+
+int wordsFor(Entries entries) {
+    switch (entries) {
+        case Entries::pumps:
+            return Text::noticePumpsRead;
+        case Entries::manufacturers:
+            return Text::noticeManufacturersRead;
+        case Entries::zones:
+            break;
+    }
+    return Text::noticeZonesRead;
 }
 
 }  // namespace
@@ -53,7 +68,7 @@ std::string damageText(const Texts& texts, const FileDamage& damage) {
     };
     append(endOfReading(texts, report));
     if (report.stated != report.found && report.leftOut == 0)
-        append(filledIn(texts.text(Text::noticeZonesRead),
+        append(filledIn(texts.text(wordsFor(report.entries)),
                         {std::to_string(report.found), std::to_string(report.stated)}));
     if (report.leftOut > 0)
         append(filledIn(texts.text(Text::noticeZonesLeftOut), {std::to_string(report.leftOut)}));

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "loads/loads_window.h"
 
+#include <memory>
 #include <utility>
 
+#include "forms/patient_reading.h"
 #include "frame/varnmain.h"
 #include "loads/linked_design.h"
 #include "loads/links.h"
@@ -11,8 +13,10 @@ namespace varnholt {
 
 LoadsWindow::LoadsWindow(std::string formName, Varnmain& main)
     : ChildWindow(std::move(formName), main),
-      catalogue(main.MainDirectory, main.texts(), document_.data.activeSeries,
-                [this](const std::string& message) { show(MessageIcon::exclamation, message); }) {}
+      catalogue(
+          main.MainDirectory, main.texts(), document_.data.activeSeries,
+          [this](const std::string& message) { show(MessageIcon::exclamation, message); },
+          std::make_shared<CatalogueFiles>(std::make_unique<PatientFiles>(platform()))) {}
 
 LoadsWindow::~LoadsWindow() {
     while (!links_.all().empty()) links_.all().back()->design().dropLink();

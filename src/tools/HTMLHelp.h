@@ -36,8 +36,8 @@ class HTMLHelp {
     long HHPopupCustomTextColor = 0;  ///< taken with HHPopupCustomColors
     long HHPopupCustomBackColor = 0xFFFFFF;
     bool HHPopupCustomColors = false;
-    std::string HHPopupTextFont;  ///< "Arial" when it is empty
-    int HHPopupTextSize = 10;     ///< points
+    std::string HHPopupTextFont = "Arial";  ///< its default also stands for an empty one
+    int HHPopupTextSize = 10;               ///< points
     bool HHPopupTextBold = false;
     bool HHPopupTextItalic = false;
     bool HHPopupTextUnderline = false;

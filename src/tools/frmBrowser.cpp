@@ -150,7 +150,9 @@ void frmBrowser::navigateComplete(const std::string& address) {
     browserLoading_ = false;
     Control& list = control("cboAddress");
     std::vector<std::string> items = list.items();
-    if (std::find(items.begin(), items.end(), address) != items.end()) return;
+    const bool listed = std::find(items.begin(), items.end(), address) != items.end();
+    // The first page may be refused before there is any address.
+    if (listed || address.empty()) return;
     items.insert(items.begin(), address);
     list.setItems(items).setText(address);
 }

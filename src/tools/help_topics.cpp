@@ -24,6 +24,7 @@ struct TopicRow {
 constexpr TopicRow topics[] = {
     {"frmBHDesign", "", "borehole"},
     {"frmBHDesign", "CA", "borehole#results"},
+    {"frmBHDesign", "CASecond", "second_opinion#row"},
     {"frmBHDesign", "CAHybrid", "tower"},
     {"frmBHDesign", "CAPercentHybrid", "tower"},
     {"frmBHDesign", "CACondenser", "tower"},
@@ -34,6 +35,13 @@ constexpr TopicRow topics[] = {
     {"frmBHDesign", "SO", "borehole#soil"},
     {"frmBHDesign", "PI", "borehole#piping"},
     {"frmBHDesign", "IN", "borehole#information"},
+    {"frmSecondOpinion", "", "second_opinion#window"},
+    {"frmSecondOpinion", "img", "second_opinion#pictures"},
+    {"frmSecondOpinion", "SETable", "second_opinion#pictures"},
+    {"frmSecondOpinion", "SEDepth", "second_opinion#pictures"},
+    {"frmSecondOpinion", "SEYearFrame", "second_opinion#year"},
+    {"frmSecondOpinion", "SEInputs", "second_opinion#inputs"},
+    {"frmSecondOpinion", "SENote", "second_opinion#limits"},
     {"frmHZDesign", "", "horizontal"},
     {"frmHZDesign", "CA", "horizontal#results"},
     {"frmHZDesign", "CAHybrid", "tower"},
@@ -179,19 +187,28 @@ std::string helpPageOf(const Form& form, const std::string& control) {
 
 namespace {
 
+/// What a tag stands for between the words around it: nothing within a sentence, a colon behind
+/// the caption of a table's row.
+const char* textOf(std::string_view tag) {
+    constexpr std::string_view inSentence[] = {"a", "b", "i", "em", "code", "sub", "sup", "span"};
+    std::string_view name = tag.substr(0, tag.find_first_of(" \n"));
+    if (name == "/th") return ": ";
+    if (name.starts_with("/")) name.remove_prefix(1);
+    const bool within =
+        std::find(std::begin(inSentence), std::end(inSentence), name) != std::end(inSentence);
+    return within ? "" : " ";
+}
+
 /// The text between tags, its blanks joined.
 std::string withoutTags(const std::string& html) {
     std::string text;
-    bool inTag = false;
-    for (const char c : html) {
-        if (c == '<') {
-            inTag = true;
-            text += ' ';
-        } else if (c == '>') {
-            inTag = false;
-        } else if (!inTag) {
-            text += c;
-        }
+    for (std::size_t at = 0; at < html.size();) {
+        const std::size_t open = std::min(html.find('<', at), html.size());
+        text.append(html, at, open - at);
+        if (open == html.size()) break;
+        const std::size_t close = std::min(html.find('>', open), html.size());
+        text += textOf(std::string_view(html).substr(open + 1, close - open - 1));
+        at = close + 1;
     }
     return plainTextOf(text);
 }
@@ -203,6 +220,16 @@ std::string elementAt(const std::string& page, std::size_t open) {
     const std::string name = page.substr(open + 1, nameEnd - open - 1);
     const std::size_t end = page.find("</" + name, nameEnd);
     return page.substr(open, end == std::string::npos ? end : end - open);
+}
+
+/// The first paragraph from a place on, and the next one as well where it ends in a colon; none
+/// where a heading comes before it.
+std::string paragraphAfter(const std::string& page, std::size_t place) {
+    const std::size_t first = page.find("<p", place);
+    if (first == std::string::npos || page.find("<h", place + 1) < first) return {};
+    const std::string text = withoutTags(elementAt(page, first));
+    if (!text.ends_with(':')) return text;
+    return text + " " + paragraphAfter(page, first + 1);
 }
 
 }  // namespace
@@ -218,10 +245,8 @@ std::string sectionText(const std::string& page, const std::string& section) {
     const std::size_t open = page.rfind('<', mark);
     std::string text = withoutTags(elementAt(page, open));
     // A heading says little without what follows it.
-    if (page.compare(open, 2, "<h") == 0) {
-        const std::size_t next = page.find("<p", mark);
-        if (next != std::string::npos) text += ". " + withoutTags(elementAt(page, next));
-    }
+    if (page.compare(open, 2, "<h") == 0)
+        if (const std::string next = paragraphAfter(page, mark); !next.empty()) text += ". " + next;
     return text;
 }
 

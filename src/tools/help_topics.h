@@ -13,8 +13,9 @@ namespace varnholt {
 /// each window's own page. An empty name asks for the window's page.
 std::string helpPageOf(const Form& form, const std::string& control);
 
-/// What a page says in its section, as plain text: the element of that name with what it holds; of
-/// a page without a section the first paragraph. Empty when there is no such section.
+/// What a page says in its section, as plain text: the element of that name with what it holds, the
+/// caption of a table's row set apart by a colon; of a heading the paragraph below it as well; of a
+/// page without a section the first paragraph. Empty when there is no such section.
 std::string sectionText(const std::string& page, const std::string& section);
 
 }  // namespace varnholt

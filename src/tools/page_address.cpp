@@ -95,12 +95,14 @@ PageAddress fileOf(std::string_view rest) {
     return address;
 }
 
-/// "https://host/page" behind its scheme's name; refused without a host.
+/// The web page of "host/page", with or without slashes before it; refused without a host, and with
+/// blanks in its name.
 PageAddress webOf(const std::string& scheme, std::string_view rest) {
-    const std::size_t host = rest.find_first_not_of(":/");
-    if (host == std::string_view::npos || rest[host] == '?' || rest[host] == '#')
+    rest.remove_prefix(std::min(rest.find_first_not_of(":/"), rest.size()));
+    const std::string_view host = rest.substr(0, rest.find_first_of("/?#"));
+    if (host.empty() || std::any_of(host.begin(), host.end(), isBlank))
         return {PageAddress::Kind::refused, {}, {}, {}};
-    return {PageAddress::Kind::web, {}, {}, scheme + std::string(rest)};
+    return {PageAddress::Kind::web, {}, {}, scheme + "://" + std::string(rest)};
 }
 
 }  // namespace
@@ -122,7 +124,7 @@ PageAddress pageAddressOf(const std::string& typed, const std::string& base) {
     if (text.front() == '#' && !base.empty()) return localOf(base + text);
     const PageAddress beside = localOf(joinPath(folderOf(base), text));
     if (!base.empty() && (fileExists(beside.file) || text.starts_with("."))) return beside;
-    return {PageAddress::Kind::web, {}, {}, "http://" + text};
+    return webOf("http", text);
 }
 
 namespace {

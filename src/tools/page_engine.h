@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
+
+#include "tools/page_address.h"
 
 namespace varnholt {
 
@@ -57,6 +60,12 @@ struct PagePlaces {
     std::string helpFolder;    ///< whose files local pages may be made of
     std::string errorTitle;    ///< of the page in place of one that cannot be shown
     std::string errorText;     ///< with %1 for its address
+    /// Reads what is typed, beside the page on show: pageAddressOf, which an engine in a library of
+    /// its own cannot call by its name.
+    std::function<PageAddress(const std::string& typed, const std::string& base)> addressOf =
+        pageAddressOf;
+    /// Opens an example that a page of the help offers, by the name of its file; may be empty.
+    std::function<void(const std::string& file)> openExample = {};
 };
 
 /// Where engines come from.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/soil_diffusivity.h"
 
+#include <cmath>
+
 namespace varnholt {
 namespace {
 
@@ -14,7 +16,8 @@ double diffusivityOf(const DampSoil& soil) {
     const double specificHeat = (soil.moisture + dry * soil.specificHeat) / 100;
     const double density = (soil.moisture * waterDensity + dry * soil.dryDensity) / 100;
     if (specificHeat == 0 || density == 0) return 0;
-    return soil.conductivity * hoursOfDay / (specificHeat * density);
+    const double diffusivity = soil.conductivity * hoursOfDay / (specificHeat * density);
+    return std::isfinite(diffusivity) ? diffusivity : 0;
 }
 
 }  // namespace varnholt

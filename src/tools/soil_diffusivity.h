@@ -22,7 +22,8 @@ struct DampSoil {
 /// Source: the definition of thermal diffusivity, conductivity over heat capacity by volume, in
 /// Kavanaugh and Rafferty, "Ground-Source Heat Pumps" (ASHRAE, 1997), chapter 3.
 ///
-/// @return ft^2/day; 0 where the substance holds no heat
+/// @return ft^2/day; 0 where the substance holds no heat, or so little that no double holds
+///         the quotient
 double diffusivityOf(const DampSoil& soil);
 
 }  // namespace varnholt

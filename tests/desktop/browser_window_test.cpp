@@ -127,6 +127,21 @@ TEST_F(BrowserWindowTest, OfAPageThatMayNotBeReadShowsItsOwnError) {
     EXPECT_TRUE(desk.platform.messages.empty());
 }
 
+TEST_F(BrowserWindowTest, OpensAnExampleFromAPageOfTheHelpAlone) {
+    ChildWindow& browser = open("FluidProperties");
+    const QUrl example(QStringLiteral("example:school-south.vht"));
+    pageOf(browser)->anchorClicked(example);
+    desk.pages.settle();
+    EXPECT_TRUE(desk.main().windowsNamed("frmBHDesign").empty());
+    EXPECT_TRUE(browser.control("NoticeLabel").visible());
+    goTo(browser, desk.folder() + "/OnlineHelp/first_steps.html");
+    pageOf(browser)->anchorClicked(example);
+    desk.pages.settle();
+    EXPECT_EQ(desk.main().windowsNamed("frmBHDesign").size(), 1u);
+    EXPECT_FALSE(browser.control("NoticeLabel").visible());
+    EXPECT_TRUE(desk.faults.empty());
+}
+
 TEST_F(BrowserWindowTest, CanBeClosedWhileAPageIsLoading) {
     desk.main().click("FluidProperties");
     EXPECT_TRUE(desk.main().close(*desk.main().activeWindow()));

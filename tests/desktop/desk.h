@@ -64,6 +64,7 @@ class Desk {
         window = std::make_unique<MainWindow>(main(), shelf.faults(), folder_ + "/recent.txt");
         shelf.setMain(*window, main());
         help.setPlaces(helpPlaces());
+        pages.openExamplesBy(helpPlaces().openExample);
         window->resize(MainWindow::usualSize());
         window->show();
         program.start();

@@ -12,8 +12,13 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTimer>
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <thread>
 
 #include "app/application.h"
+#include "basis/system/patience.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/theme.h"
 #include "desktop/windows/main_window.h"
@@ -165,6 +170,69 @@ TEST_F(DesktopPlatformTest, ShowsProgressOnlyOfWhatLastsAQuarterOfASecond) {
     EXPECT_GE(clock.elapsed(), 250);
     EXPECT_EQ(plain(dialog()->labelText()), "Selecting");
     platform.progress("Selecting", 1000, 1000);
+    EXPECT_EQ(dialog(), nullptr);
+}
+
+class SlowFile : public DesktopPlatformTest {
+ protected:
+    ~SlowFile() override { release->store(true); }
+
+    /// Reads as from a folder that does not answer, for as long as the platform waits.
+    std::optional<int> read() {
+        const Patience patience = [this](std::chrono::milliseconds waited) {
+            return platform.waitFor("/net/plans/school.vht", waited);
+        };
+        const auto result = patiently<int>(patience, [release = release] {
+            while (!release->load()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            return 7;
+        });
+        platform.waitingEnded();
+        return result;
+    }
+    static QProgressDialog* dialog() {
+        return dynamic_cast<QProgressDialog*>(QApplication::activeModalWidget());
+    }
+
+    std::shared_ptr<std::atomic<bool>> release = std::make_shared<std::atomic<bool>>(false);
+};
+
+TEST_F(SlowFile, IsWaitedForWithoutAWordForAQuarterOfASecond) {
+    release->store(true);
+    EXPECT_EQ(read(), 7);
+    EXPECT_TRUE(platform.waitFor("/net/plans/school.vht", std::chrono::milliseconds(249)));
+    EXPECT_EQ(dialog(), nullptr);
+}
+
+TEST_F(SlowFile, IsNamedInADialogThatGoesWhenItHasBeenRead) {
+    QString shown;
+    whenShown<QProgressDialog>([&](QProgressDialog& dialog) {
+        shown = dialog.labelText();
+        EXPECT_EQ(dialog.windowModality(), Qt::ApplicationModal);
+        // How long it takes nobody knows.
+        EXPECT_EQ(dialog.maximum(), 0);
+        release->store(true);
+    });
+    EXPECT_EQ(read(), 7);
+    EXPECT_EQ(plain(shown), "Reading school.vht \xE2\x80\xA6");
+    EXPECT_EQ(dialog(), nullptr);
+}
+
+TEST_F(SlowFile, IsGivenUpByCancelThoughItNeverAnswers) {
+    whenShown<QProgressDialog>([](QProgressDialog& dialog) {
+        auto* cancel = dialog.findChild<QPushButton*>();
+        ASSERT_NE(cancel, nullptr);
+        cancel->click();
+    });
+    EXPECT_EQ(read(), std::nullopt);
+    EXPECT_EQ(dialog(), nullptr);
+}
+
+TEST_F(SlowFile, IsGivenUpByEscape) {
+    whenShown<QProgressDialog>([](QProgressDialog& dialog) {
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(&dialog, &escape);
+    });
+    EXPECT_EQ(read(), std::nullopt);
     EXPECT_EQ(dialog(), nullptr);
 }
 

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QTest>
 #include <algorithm>
+#include <filesystem>
 #include <map>
 
 #include "desk.h"
@@ -155,6 +156,52 @@ TEST_F(NoticeLine, HasEnoughContrastInBothSchemes) {
         EXPECT_GE(contrast(text, ground), 4.5);
     }
     applyTheme(*qApp, Scheme::light);
+}
+
+/// What no window is there to tell stands in the main window, above all others.
+class MainNotice : public testing::Test {
+ protected:
+    ~MainNotice() override { EXPECT_TRUE(desk.faults.empty()); }
+
+    QLabel& label() { return *desk.window->centralWidget()->findChild<QLabel*>("NoticeLabel"); }
+    void open(const std::string& file) {
+        desk.window->openFiles({VARNHOLT_SOURCE_DIR "/examples/" + file});
+        Desk::settle();
+    }
+    /// A zone file under the name of a project.
+    void openMistaken() {
+        const std::string mistaken = desk.folder() + "/work files/mistaken.vht";
+        std::filesystem::copy_file(VARNHOLT_SOURCE_DIR "/examples/office.zon", mistaken);
+        desk.window->openFiles({mistaken});
+        Desk::settle();
+    }
+
+    Desk desk;
+};
+
+TEST_F(MainNotice, TakesNoPlaceWhileThereIsNothingToTell) {
+    EXPECT_FALSE(label().isVisible());
+    open("office.vht");
+    EXPECT_FALSE(label().isVisible());
+}
+
+TEST_F(MainNotice, NamesAFileOfAnotherKindAboveThePages) {
+    openMistaken();
+    EXPECT_TRUE(desk.main().windows().empty());
+    ASSERT_TRUE(label().isVisible());
+    EXPECT_EQ(plain(label().text()), "mistaken.vht was not opened: it is a zone file.");
+    EXPECT_EQ(plain(label().text()), desk.main().control("NoticeLabel").caption());
+    EXPECT_EQ(label().textFormat(), Qt::PlainText);
+    // The whole of it, at the top of the window.
+    EXPECT_EQ(label().mapTo(desk.window->centralWidget(), QPoint()).y(), 0);
+    EXPECT_GE(label().height(), label().heightForWidth(label().width()));
+}
+
+TEST_F(MainNotice, GoesWithTheNextFileOrCommand) {
+    openMistaken();
+    open("office.vht");
+    EXPECT_FALSE(label().isVisible());
+    EXPECT_FALSE(desk.main().windows().empty());
 }
 
 }  // namespace

@@ -66,6 +66,12 @@ class WebEngine : public testing::Test {
                       const std::string& html) {
         std::ofstream(program.folder() / name) << html;
     }
+    /// A page that follows its only link by itself, as soon as it stands.
+    static std::string pageThatClicks(const std::string& link) {
+        return "<title>From</title><a href=\"" + link +
+               "\">link</a><script>onload = () => setTimeout(() => document.links[0].click(), 0)"
+               "</script>";
+    }
     static std::string go(const std::string& address) {
         return "type frmBrowser.cboAddress " + address + "\nkey frmBrowser.cboAddress Enter\n";
     }
@@ -94,6 +100,16 @@ click frmBrowser#2.tbToolBar(1)
 print frmBrowser#2.cboAddress
 click frmBrowser#2.tbToolBar(2)
 forms
+type frmBrowser#2.cboAddress #units
+key frmBrowser#2.cboAddress Enter
+forms
+print frmBrowser#2.cboAddress.items
+click frmBrowser#2.tbToolBar(0)
+forms
+print frmBrowser#2.cboAddress
+type frmBrowser#2.cboAddress two words
+key frmBrowser#2.cboAddress Enter
+print frmBrowser#2.NoticeLabel
 type frmBrowser#2.cboAddress javascript:alert(1)
 key frmBrowser#2.cboAddress Enter
 print frmBrowser#2.NoticeLabel
@@ -121,6 +137,61 @@ value Varnmain.browserCount)";
     EXPECT_NE(web.filesInMemory().find("libQt6WebEngineCore"), std::string::npos);
     EXPECT_EQ(web.end(), 0);
     EXPECT_EQ(text.end(), 0);
+}
+
+TEST_F(WebEngine, GoesToPlacesInThePageOnShowWithoutWaiting) {
+    StartedProgram program(windows, engine("web"));
+    const std::string page = program.folder().string() + "/tables/english/SoilTables.html";
+    program.run("click Varnmain.SoilProperties\n" + go(page + "#swing"));
+    const std::string after = program.run("forms\nvalue frmBrowser.timTimer.Enabled");
+    EXPECT_NE(after.find("frmBrowser#1 \"Soil properties\""), std::string::npos) << after;
+    EXPECT_NE(after.find("timTimer.Enabled = false"), std::string::npos) << after;
+    EXPECT_EQ(program.run("print frmBrowser.cboAddress.items"),
+              "frmBrowser#1.cboAddress.items = [\"PROGRAM/tables/english/SoilTables.html#swing\", "
+              "\"PROGRAM/tables/english/SoilTables.html\"]\n");
+    program.run("click frmBrowser.tbToolBar(0)");
+    EXPECT_EQ(program.run("forms").find("Working..."), std::string::npos);
+    EXPECT_EQ(program.end(), 0);
+}
+
+TEST_F(WebEngine, FollowsALinkFromPageToPageOfThisComputer) {
+    StartedProgram program(windows, engine("web"));
+    write(program, "to.html", "<title>To</title>");
+    write(program, "from.html", pageThatClicks("to.html"));
+    program.run("click Varnmain.FluidProperties\n" + go(program.folder().string() + "/from.html"));
+    program.run("forms");
+    EXPECT_NE(program.run("forms").find("frmBrowser#1 \"To\""), std::string::npos);
+    EXPECT_EQ(program.run("print frmBrowser.cboAddress"),
+              "frmBrowser#1.cboAddress = \"PROGRAM/to.html\"\n");
+    EXPECT_EQ(program.end(), 0);
+}
+
+TEST_F(WebEngine, OpensAnExampleFromAPageOfTheHelpAlone) {
+    StartedProgram program(windows, engine("web"));
+    std::filesystem::copy(VARNHOLT_SOURCE_DIR "/examples/house.zon",
+                          program.folder() / "zones/house.zon");
+    for (const char* page : {"try.html", "OnlineHelp/try.html"})
+        write(program, page, pageThatClicks("example:house.zon"));
+    program.run("click Varnmain.FluidProperties\n" + go(program.folder().string() + "/try.html"));
+    EXPECT_EQ(program.run("forms").find("frmZoneManage"), std::string::npos);
+    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("neither a page"),
+              std::string::npos);
+    program.run(go(program.folder().string() + "/OnlineHelp/try.html"));
+    program.run("forms");
+    EXPECT_NE(program.run("forms").find("frmZoneManage#1"), std::string::npos);
+    EXPECT_EQ(program.end(), 0);
+}
+
+TEST_F(WebEngine, ListsNoFolder) {
+    StartedProgram program(windows, engine("web"));
+    program.run("click Varnmain.FluidProperties");
+    for (const char* folder : {"/etc", "/etc/", "file:///"}) {
+        EXPECT_EQ(program.run(go(folder)).find("message"), std::string::npos);
+        const std::string after = program.run("forms");
+        EXPECT_EQ(after.find("Index of"), std::string::npos) << after;
+        EXPECT_EQ(after.find("Working..."), std::string::npos) << after;
+    }
+    EXPECT_EQ(program.end(), 0);
 }
 
 TEST_F(WebEngine, OpensAPathWithBlanks) {
@@ -167,6 +238,11 @@ TEST_F(WebEngine, RefusesWindowsDownloadsAndOtherSchemesWithALine) {
                   std::string::npos)
             << address;
     }
+    // Nor does a page lead there by itself.
+    write(program, "mail.html", "<title>Mail</title><script>location.href = 'mailto:a@b'</script>");
+    program.run(go(program.folder().string() + "/mail.html"));
+    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("neither a page"),
+              std::string::npos);
     EXPECT_EQ(program.run("forms").find("frmBrowser#2"), std::string::npos);
 }
 

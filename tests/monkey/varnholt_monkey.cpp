@@ -1,155 +1,36 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <fmt/format.h>
-#include <unistd.h>
-
-#include <charconv>
-#include <filesystem>
-#include <fstream>
-#include <iostream>
+// The random user of the forms, without a screen.
 #include <sstream>
-#include <stdexcept>
-#include <string>
-#include <vector>
 
 #include "app/application.h"
 #include "monkey/monkey.h"
+#include "monkey/session.h"
 #include "script/form_driver.h"
 #include "tools/program_folder.h"
 
 namespace varnholt {
 namespace {
 
-namespace fs = std::filesystem;
-
-constexpr const char* usage =
-    "varnholt-monkey [--seed N] [--presses N] [--undone N] [--trace FILE] [--aloud]\n"
-    "A random user of every window, who now and then undoes a document to its beginning and\n"
-    "redoes it to its end. Plays on until at least so many steps are undone and redone. The\n"
-    "last session, which is the failed one after a failure, is written to FILE as a script.\n";
-
-struct Options {
-    std::uint64_t seed = 1;
-    std::size_t presses = 2000;
-    std::size_t undone = 0;
-    std::string trace;
-    bool aloud = false;
-};
-
-std::uint64_t readWhole(const std::string& text) {
-    std::uint64_t number = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (result.ec != std::errc{} || result.ptr != text.data() + text.size())
-        throw std::invalid_argument(text + " is not a whole number");
-    return number;
-}
-
-Options readOptions(const std::vector<std::string>& arguments) {
-    Options options;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        const std::string& name = arguments[i];
-        const auto value = [&] { return i + 1 < arguments.size() ? arguments[++i] : ""; };
-        if (name == "--seed")
-            options.seed = readWhole(value());
-        else if (name == "--presses")
-            options.presses = readWhole(value());
-        else if (name == "--undone")
-            options.undone = readWhole(value());
-        else if (name == "--trace")
-            options.trace = value();
-        else if (name == "--aloud")
-            options.aloud = true;
-        else
-            throw std::invalid_argument(name + " is no option\n" + usage);
-    }
-    return options;
-}
-
-/// A program folder of one session, which goes with it.
-class SessionFolder {
- public:
-    explicit SessionFolder(std::uint64_t seed)
-        : path_(fs::temp_directory_path() / fmt::format("varnholt-monkey-{}-{}", seed, getpid())) {
-        fs::remove_all(path_);
-        fillProgramFolder(path_.string(), installedFiles());
-    }
-    SessionFolder(const SessionFolder&) = delete;
-    SessionFolder& operator=(const SessionFolder&) = delete;
-    ~SessionFolder() {
-        std::error_code ignored;
-        fs::remove_all(path_, ignored);
-    }
-    std::string path() const { return path_.string(); }
-
- private:
-    fs::path path_;
-};
-
-/// What has been done: by hand, and to prove that it can be undone.
-struct Played {
-    std::size_t presses = 0, undone = 0;
-};
-
-/// The program from its start to its end, or to so many presses.
-Played playSession(std::size_t presses, std::uint64_t seed, Dice& dice, MonkeyLog& log) {
-    const SessionFolder folder(seed);
-    const unsigned locale = dice.chance(70) ? 0x409 : 0x407;
-    log.clear();
-    log.action(fmt::format("# --today 2026-01-15 --locale {:x}", locale));
+Played playForms(const SessionToPlay& session) {
     std::ostringstream unheard;
     Transcript transcript(unheard);
-    MonkeyPlatform platform(transcript, folder.path(), dice, log);
-    Application application(platform, {folder.path(), installedFiles().resources, locale});
+    MonkeyPlatform platform(transcript, session.programFolder, session.dice, session.log);
+    Application application(platform,
+                            {session.programFolder, installedFiles().resources, session.locale});
     application.start();
     FormDriver driver(application.main());
-    Monkey monkey(application.main(), platform, driver, dice, log);
-    while (monkey.running() && monkey.presses() < presses) {
+    Monkey monkey(application.main(), platform, driver, session.dice, session.log);
+    while (monkey.running() && monkey.presses() < session.presses) {
         monkey.press();
         unheard.str("");
     }
     return {monkey.presses(), monkey.stepsProved()};
 }
 
-void writeTrace(const std::string& path, const MonkeyLog& log) {
-    if (path.empty()) return;
-    std::ofstream file(path);
-    for (const std::string& line : log.lines()) file << line << '\n';
-}
-
-int play(const Options& options) {
-    Dice dice(options.seed);
-    MonkeyLog log(options.aloud);
-    Played done;
-    std::size_t sessions = 0;
-    try {
-        for (; done.presses < options.presses || done.undone < options.undone; ++sessions) {
-            std::size_t presses = 200 + dice.below(1800);
-            if (done.presses < options.presses)
-                presses = std::min(presses, options.presses - done.presses);
-            const Played more = playSession(presses, options.seed, dice, log);
-            done.presses += more.presses;
-            done.undone += more.undone;
-        }
-    } catch (const std::exception& exception) {
-        writeTrace(options.trace, log);
-        std::cerr << fmt::format("seed {}, after {} presses: {}\n", options.seed, done.presses,
-                                 exception.what());
-        return 1;
-    }
-    writeTrace(options.trace, log);
-    std::cout << fmt::format("{} presses in {} sessions, {} steps undone and redone\n",
-                             done.presses, sessions, done.undone);
-    return 0;
-}
-
 }  // namespace
 }  // namespace varnholt
 
 int main(int count, char** arguments) {
-    using namespace varnholt;
-    try {
-        return play(readOptions({arguments + 1, arguments + count}));
-    } catch (const std::exception& exception) {
-        std::cerr << "varnholt-monkey: " << exception.what() << '\n';
-        return 2;
-    }
+    return varnholt::playAsAsked("varnholt-monkey", {arguments + 1, arguments + count},
+                                 varnholt::playForms);
 }

@@ -3,11 +3,14 @@
 #include "persistence/recovery/recovery.h"
 
 #include <signal.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <functional>
+#include <thread>
 
 #include "persistence/project_fixture.h"
 
@@ -66,7 +69,8 @@ class UnsavedWork : public ProjectTest {
                             {8552, "Older: %1."},
                             {8553, "No file."},
                             {8554, "Open?"},
-                            {8557, "Set aside: %1"}});
+                            {8557, "Set aside: %1"},
+                            {8559, "Still kept: %1"}});
         saveAs(newDesign(), "work files/school.vht");
     }
 
@@ -98,7 +102,26 @@ class UnsavedWork : public ProjectTest {
         return files;
     }
     void offer() { Recovery(main).offer(); }
+    /// Whether the clock keeps the work within ten seconds of a person's, as fast as can be.
+    bool isKeptByTheClock(Recovery& recovery, Recovery::Time& now) const {
+        for (int second = 0; second < 10; ++second) {
+            recovery.tick(now += Recovery::step);
+            for (int moment = 0; moment < 50 && filesKept() == 0; ++moment)
+                std::this_thread::sleep_for(std::chrono::milliseconds(2));
+            if (filesKept() > 0) return true;
+        }
+        return false;
+    }
 };
+
+/// As on a full disk, no file of this process can take a byte.
+void fillDisk(bool full) {
+    ::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    ::getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = full ? 0 : limit.rlim_max;
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+}
 
 TEST_F(UnsavedWork, IsOfferedAndOpensAsChangedUnderItsName) {
     crashWithChanges();
@@ -190,6 +213,29 @@ TEST_F(UnsavedWork, ThatIsDamagedIsSetAside) {
     EXPECT_TRUE(main.control("NoticeLabel").caption().ends_with(".damaged"));
 }
 
+TEST_F(UnsavedWork, OfAWindowThatIsInUseIsKeptAndThatIsTold) {
+    // Two programs have ended with zones of their own; there is one loads window.
+    for (const char* file : {"zones/north.zon", "zones/south.zon"}) {
+        writeZones(folder / file, 1);
+        main.click("mnuZoneManage");
+        crashAfter([&] {
+            loads().LOOpenZoneFile(folder / file);
+            loads().unsaved = true;
+        });
+        closeAll();
+    }
+    platform.questions.clear();
+    answer(Answer::yes);
+    answer(Answer::yes);
+    Recovery recovery(main);
+    recovery.offer();
+    EXPECT_EQ(platform.questions.size(), 2U);
+    EXPECT_EQ(main.windows().size(), 1U);
+    EXPECT_EQ(main.control("NoticeLabel").caption(), "Still kept: south.zon");
+    recovery.keepNow();
+    EXPECT_EQ(filesKept(), 2U);
+}
+
 TEST_F(UnsavedWork, IsReadableByItsOwnerAlone) {
     crashWithChanges();
     for (const auto& entry : std::filesystem::recursive_directory_iterator(folder / "recovery")) {
@@ -218,6 +264,51 @@ TEST_F(UnsavedWork, IsKeptByTheClockInAPauseOrAfterAFewSeconds) {
     recovery.tick(start + std::chrono::seconds(2));  // nothing more has happened
     recovery.keepNow();
     EXPECT_EQ(filesKept(), 1U);
+}
+
+TEST_F(UnsavedWork, IsKeptOnceADiskThatWasFullHasRoomAgain) {
+    crashAfter([this] {
+        Recovery recovery(main);
+        Recovery::Time now{};
+        fillDisk(true);
+        design().type("INProjectNameText", "Unsaved");
+        for (int second = 0; second < 5; ++second) recovery.tick(now += Recovery::step);
+        recovery.keepNow();
+        if (filesKept() != 0) ::_exit(1);
+        fillDisk(false);
+        // Nothing more is typed.
+        if (!isKeptByTheClock(recovery, now)) ::_exit(2);
+        ::_exit(0);
+    });
+    closeAll();
+    platform.questions.clear();
+    answer(Answer::yes);
+    Recovery recovery(main);
+    recovery.offer();
+    ASSERT_EQ(platform.questions.size(), 1U);
+    EXPECT_EQ(design().control("INProjectNameText").text(), "Unsaved");
+}
+
+TEST_F(UnsavedWork, IsKeptOnceItsFolderCanBeMade) {
+    writeBytes(folder / "recovery", "in the way");
+    Recovery recovery(main);
+    Recovery::Time now{};
+    design().type("INProjectNameText", "Unsaved");
+    for (int second = 0; second < 5; ++second) recovery.tick(now += Recovery::step);
+    EXPECT_TRUE(std::filesystem::is_regular_file(folder / "recovery"));
+    recovery.keepNow();
+    std::filesystem::remove(folder / "recovery");
+    EXPECT_TRUE(isKeptByTheClock(recovery, now));
+}
+
+TEST_F(UnsavedWork, IsKeptAgainAfterItsFolderHasBeenTakenAway) {
+    Recovery recovery(main);
+    Recovery::Time now{};
+    design().type("INProjectNameText", "Unsaved");
+    EXPECT_TRUE(isKeptByTheClock(recovery, now));
+    std::filesystem::remove_all(folder / "recovery");
+    design().type("INProjectNameText", "Unsaved too");
+    EXPECT_TRUE(isKeptByTheClock(recovery, now));
 }
 
 TEST_F(UnsavedWork, WithChangesOnTheDiskSinceIsNotSavedOverThem) {

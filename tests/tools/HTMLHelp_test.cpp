@@ -215,6 +215,9 @@ TEST_F(HTMLHelpTest, UnregistersNothingThatIsNotRegistered) {
 }
 
 TEST_F(HTMLHelpTest, FormsThePopupsFontAsOneParameter) {
+    EXPECT_EQ(help.HHPopupTextFont, "Arial");
+    EXPECT_EQ(help.popupFont(), "Arial,10,,");
+    help.HHPopupTextFont.clear();
     EXPECT_EQ(help.popupFont(), "Arial,10,,");
     help.HHPopupTextFont = "Inter";
     help.HHPopupTextSize = 8;

@@ -89,6 +89,15 @@ TEST(Diffusivity, IsZeroWhereNothingConductsOrHoldsHeat) {
     EXPECT_EQ(diffusivityOf({0, 0, 0.2, 1.3}), 0);
 }
 
+TEST(Diffusivity, IsANumberHoweverLittleHeatIsHeld) {
+    // 1e-320 times 1e-300 is less than the least double: nothing over nothing, and
+    // something over nothing.
+    EXPECT_EQ(diffusivityOf({0, 1e-300, 1e-320, 0}), 0);
+    EXPECT_EQ(diffusivityOf({0, 1e-300, 1e-320, 1.3}), 0);
+    // 31.2/1e-310 is beyond a double.
+    EXPECT_EQ(diffusivityOf({0, 1, 1e-310, 1.3}), 0);
+}
+
 TEST_F(Calculators, DiffusivityStartsWithItsUsualValues) {
     ChildWindow& form = diffusivity();
     const char* expected[] = {"0.0", "100.0", "0.20", "1.30", "0.00"};

@@ -159,6 +159,15 @@ TEST_F(BrowserTest, ListsEachAddressOnceNewestFirst) {
     EXPECT_TRUE(pages.asked.empty()) << "the list starts no navigation";
 }
 
+TEST_F(BrowserTest, AFirstPageThatEndsNowhereIsNotListed) {
+    frmBrowser& browser = open("/a.zip");
+    engine().end("", "");
+    EXPECT_TRUE(browser.control("cboAddress").items().empty());
+    EXPECT_EQ(browser.control("cboAddress").text(), "/a.zip");
+    browser.key("cboAddress", "Enter");
+    EXPECT_EQ(pages.asked.size(), 2u) << "the window is not loading any more";
+}
+
 TEST_F(BrowserTest, AnAddressPickedFromTheListIsGoneTo) {
     frmBrowser& browser = open("/a.html");
     engine().end("/a.html", "Page A");

@@ -85,6 +85,17 @@ TEST(PageAddress, OfTheWebWithoutAHostIsRefused) {
         EXPECT_EQ(kindOf(typed), Kind::refused) << typed;
 }
 
+TEST(PageAddress, OfTheWebIsWrittenWithTwoSlashes) {
+    EXPECT_EQ(shown("http:varnholt.example/a"), "http://varnholt.example/a");
+    EXPECT_EQ(shown("https:///varnholt.example"), "https://varnholt.example");
+}
+
+TEST(PageAddress, OfAHostWithBlanksIsRefused) {
+    for (const char* typed : {"no such page.html", "http://two words/x", "two words:80"})
+        EXPECT_EQ(kindOf(typed), Kind::refused) << typed;
+    EXPECT_EQ(shown("varnholt.example/two words"), "http://varnholt.example/two words");
+}
+
 TEST(PageAddress, OfNothingIsNone) {
     EXPECT_EQ(kindOf(""), Kind::none);
     EXPECT_EQ(kindOf(" \t\r\n"), Kind::none);

@@ -13,11 +13,6 @@
 
 namespace varnholt {
 
-struct LastWords::Words {
-    std::string fresh, path;
-    std::shared_ptr<const std::string> bytes;
-};
-
 namespace {
 
 constexpr int fatalSignals[] = {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
@@ -30,7 +25,6 @@ struct Laid {
     std::size_t size;
 };
 std::array<std::atomic<const Laid*>, LastWords::most> laid;
-std::array<Laid, LastWords::most> laidRows;
 
 void writeLaid(const Laid& words) {
     const int file =
@@ -50,7 +44,40 @@ void writeAllLaid(int signal) {
 
 }  // namespace
 
+struct LastWords::Words {
+    struct Laying {
+        std::string fresh, path;
+        std::shared_ptr<const std::string> bytes;
+        Laid row{};
+    };
+    std::array<Laying, 2> turns;
+    std::size_t turn = 0;
+};
+
+namespace {
+
+/// A stack that has overflowed is no place for a handler.
+alignas(16) std::array<char, 65'536> ownStack;
+
+/// Gives this thread's handlers a stack of their own, unless they have one.
+void giveStack() {
+    stack_t present{};
+    if (::sigaltstack(nullptr, &present) != 0 || (present.ss_flags & SS_DISABLE) == 0) return;
+    const stack_t own{ownStack.data(), 0, ownStack.size()};
+    ::sigaltstack(&own, nullptr);
+}
+
+void takeStack() {
+    stack_t present{};
+    if (::sigaltstack(nullptr, &present) != 0 || present.ss_sp != ownStack.data()) return;
+    const stack_t none{nullptr, SS_DISABLE, 0};
+    ::sigaltstack(&none, nullptr);
+}
+
+}  // namespace
+
 LastWords::LastWords() : words_(new Words[most]) {
+    giveStack();
     struct sigaction action {};
     action.sa_handler = writeAllLaid;
     action.sa_flags = SA_RESETHAND | SA_NODEFER | SA_ONSTACK;
@@ -60,25 +87,25 @@ LastWords::LastWords() : words_(new Words[most]) {
 LastWords::~LastWords() {
     for (std::size_t place = 0; place < most; ++place) take(place);
     for (const int signal : fatalSignals) ::signal(signal, SIG_DFL);
+    takeStack();
 }
 
 void LastWords::lay(std::size_t place, const std::string& path,
                     std::shared_ptr<const std::string> bytes) {
     if (place >= most) return;
-    take(place);
     Words& words = words_[place];
-    words.path = path;
-    words.fresh = path + ".last";
-    words.bytes = std::move(bytes);
-    laidRows[place] = {words.fresh.c_str(), words.path.c_str(), words.bytes->data(),
-                       words.bytes->size()};
-    laid[place].store(&laidRows[place]);
+    words.turn = 1 - words.turn;
+    Words::Laying& laying = words.turns[words.turn];
+    laying.path = path;
+    laying.fresh = path + ".last";
+    laying.bytes = std::move(bytes);
+    laying.row = {laying.fresh.c_str(), laying.path.c_str(), laying.bytes->data(),
+                  laying.bytes->size()};
+    laid[place].store(&laying.row);
 }
 
 void LastWords::take(std::size_t place) {
-    if (place >= most) return;
-    laid[place].store(nullptr);
-    words_[place].bytes.reset();
+    if (place < most) laid[place].store(nullptr);
 }
 
 }  // namespace varnholt

@@ -88,9 +88,9 @@ void frmHPEdit::load() {
     if (main().windowCounter == 0) main().windowCounter = 1;
     control("MetricCheck").setChecked(main().units() == UnitSystem::metric);
     const std::string path = pumpIndexPath(joinPath(main().MainDirectory, "pumps"));
-    IndexFile file = readIndexFile(path);
+    IndexFile file = readIndexFile(platform(), path);
     index_ = std::move(file.index);
-    indexBytes_ = std::move(file.bytes);
+    indexKnown_ = file.fingerprint;
     damagedIndex_ = {fileNameOf(path), file.report, file.other};
     if (file.error != 0 && !file.missing) damagedIndex_.report.error = file.error;
     if (file.missing)

@@ -37,9 +37,10 @@ class frmHPEdit : public ChildWindow {
     StatePointer state() const override;
     /// The pumps differ from their file.
     bool hasUnsavedPumps() const { return changed_ && place_.has_value(); }
-    /// The file of the series in memory, and what it would hold.
+    /// The file of the series in memory.
     std::string seriesFile() const { return seriesPath(); }
-    std::string seriesText() const { return pumpSeriesText(seriesToWrite()); }
+    /// Makes what the file would hold now, wherever and whenever it is called.
+    std::function<std::string()> seriesText() const;
     /// Takes pumps that were never saved, as a series file holds them; they count as changed. False
     /// where the catalogue does not list the file.
     bool takeRecovered(std::string_view bytes, const std::string& path);
@@ -122,7 +123,6 @@ class frmHPEdit : public ChildWindow {
     void markChanged();
     void SaveCommand_Click();
     bool mayReplaceFile();
-    PumpSeries seriesToWrite() const;
     bool attemptToWrite(const std::string& path, const std::function<void()>& write);
     bool writeIndex(const CatalogueIndex& index);
 
@@ -197,7 +197,7 @@ class frmHPEdit : public ChildWindow {
     std::function<void()> catalogueWritten_;
     CatalogueIndex index_;
     FileDamage damagedIndex_;
-    std::optional<std::string> indexBytes_;  ///< of its file, as read or written last
+    std::optional<std::uint64_t> indexKnown_;  ///< of its file, as read or written last
     std::optional<SeriesPlace> place_;
     EditedSeries document_;
     TestResults results_;

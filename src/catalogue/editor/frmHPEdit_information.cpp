@@ -161,7 +161,7 @@ void frmHPEdit::enterSeries() {
         return;
     if (!writeIndex(index)) return;
     index_ = std::move(index);
-    SeriesFile file = readSeriesFile(path);
+    SeriesFile file = readSeriesFile(platform(), path);
     const int error = file.error;
     const bool otherHead =
         found && (file.series.mfgInfo != maker || file.series.seriesInfo != series);

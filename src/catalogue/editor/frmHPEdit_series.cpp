@@ -5,6 +5,7 @@
 #include "basis/file_system.h"
 #include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
+#include "basis/system/fingerprint.h"
 #include "catalogue/editor/editor_names.h"
 #include "catalogue/editor/frmHPEdit.h"
 #include "catalogue/fitting/fit_quality.h"
@@ -175,7 +176,8 @@ std::string frmHPEdit::seriesPath() const {
 
 /// No name in the index leads out of the folder.
 SeriesFile frmHPEdit::readSelectedSeries() const {
-    return staysInFolder(selectedSeries().FileName) ? readSeriesFile(seriesPath()) : SeriesFile{};
+    return staysInFolder(selectedSeries().FileName) ? readSeriesFile(platform(), seriesPath())
+                                                    : SeriesFile{};
 }
 
 /// Reads the file of a series; what there is of it comes into memory.
@@ -185,7 +187,7 @@ void frmHPEdit::openSeries(const SeriesPlace& place) {
     editingSeriesInfo = false;
     SeriesFile file = readSelectedSeries();
     const int error = file.error;
-    const bool missing = !file.bytes && error == 0;
+    const bool missing = !file.fingerprint && error == 0;
     takeSeries(place, std::move(file));
     showPanel(document_.pumps.empty() ? Panel::nothing : Panel::data);
     if (missing)
@@ -243,10 +245,13 @@ void frmHPEdit::closeSeries() {
     startHistory();
 }
 
-PumpSeries frmHPEdit::seriesToWrite() const {
+std::function<std::string()> frmHPEdit::seriesText() const {
     PumpSeries series{selectedSeries(), selectedManufacturer(), {}};
-    for (const Shared<pump>& model : document_.pumps) series.models.push_back(*model);
-    return series;
+    return [series = std::move(series), pumps = document_.pumps]() mutable {
+        series.models.clear();
+        for (const Shared<pump>& model : pumps) series.models.push_back(*model);
+        return pumpSeriesText(series);
+    };
 }
 
 namespace {
@@ -260,9 +265,10 @@ bool isDamaged(const SeriesFile& file) {
 /// A file that is not as it was read, or not all of which was read, goes only when the user says
 /// so.
 bool frmHPEdit::mayReplaceFile() {
-    const int question = isDamaged(file_)                        ? Text::damagedFileReplaced
-                         : holdsOther(seriesPath(), file_.bytes) ? Text::seriesFileChanged
-                                                                 : 0;
+    const int question = isDamaged(file_) ? Text::damagedFileReplaced
+                         : holdsOther(platform(), seriesPath(), file_.fingerprint)
+                             ? Text::seriesFileChanged
+                             : 0;
     return question == 0 ||
            platform().question(Buttons::yesNo, text(Text::replaceFileTitle),
                                filledIn(text(question), {seriesPath()})) == Answer::yes;
@@ -285,10 +291,10 @@ void frmHPEdit::SaveCommand_Click() {
     if (!staysInFolder(FileName))
         return show(MessageIcon::exclamation, filledIn(text(Text::fileNameUnusable), {FileName}));
     if (!mayReplaceFile()) return;
-    std::string bytes = pumpSeriesText(seriesToWrite());
+    const std::string bytes = seriesText()();
     if (!attemptToWrite(seriesPath(), [&] { replaceWholeFile(seriesPath(), bytes); })) return;
     file_ = {};
-    file_.bytes = std::move(bytes);
+    file_.fingerprint = fingerprint(bytes);
     setChanged(false);
     markSaved();
     for (const Shared<pump>& model : document_.pumps)
@@ -299,16 +305,16 @@ void frmHPEdit::SaveCommand_Click() {
 
 bool frmHPEdit::writeIndex(const CatalogueIndex& index) {
     const std::string path = pumpIndexPath(joinPath(main().MainDirectory, "pumps"));
-    const int question = !damagedIndex_.isNone()         ? Text::damagedFileReplaced
-                         : holdsOther(path, indexBytes_) ? Text::indexFileChanged
-                                                         : 0;
+    const int question = !damagedIndex_.isNone()                     ? Text::damagedFileReplaced
+                         : holdsOther(platform(), path, indexKnown_) ? Text::indexFileChanged
+                                                                     : 0;
     if (question != 0 && platform().question(Buttons::yesNo, text(Text::replaceFileTitle),
                                              filledIn(text(question), {path})) != Answer::yes)
         return false;
-    std::string bytes = pumpIndexText(index);
+    const std::string bytes = pumpIndexText(index);
     if (!attemptToWrite(path, [&] { replaceWholeFile(path, bytes); })) return false;
     damagedIndex_ = {};
-    indexBytes_ = std::move(bytes);
+    indexKnown_ = fingerprint(bytes);
     return true;
 }
 

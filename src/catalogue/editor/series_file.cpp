@@ -3,44 +3,49 @@
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
+#include "basis/system/fingerprint.h"
+#include "forms/patient_reading.h"
 
 namespace varnholt {
 
-SeriesFile readSeriesFile(const std::string& path) {
+SeriesFile readSeriesFile(Platform& platform, const std::string& path) {
     SeriesFile file;
     try {
         if (!fileExists(path)) return file;
-        file.bytes = readWholeFile(path);
-        const FileKind kind = fileKind(*file.bytes);
+        const std::string bytes = readFor(platform, path).bytes;
+        file.fingerprint = fingerprint(bytes);
+        const FileKind kind = fileKind(bytes);
         if (isCertainlyOther(kind, FileKind::pumpSeries))
             file.other = kind;
         else
-            readPumpSeries(*file.bytes, file.series, &file.report);
+            readPumpSeries(bytes, file.series, &file.report);
     } catch (const RunTimeError& error) {
         file.error = error.number();
     }
     return file;
 }
 
-bool holdsOther(const std::string& path, const std::optional<std::string>& bytes) {
+bool holdsOther(Platform& platform, const std::string& path,
+                const std::optional<std::uint64_t>& known) {
     try {
-        return fileExists(path) && readWholeFile(path) != bytes;
+        return fileExists(path) && fingerprint(readFor(platform, path).bytes) != known;
     } catch (const RunTimeError&) {
         return false;
     }
 }
 
-IndexFile readIndexFile(const std::string& path) {
+IndexFile readIndexFile(Platform& platform, const std::string& path) {
     IndexFile file;
     try {
         file.missing = !fileExists(path);
         if (file.missing) return file;
-        file.bytes = readWholeFile(path);
-        const FileKind kind = fileKind(*file.bytes);
+        const std::string bytes = readFor(platform, path).bytes;
+        file.fingerprint = fingerprint(bytes);
+        const FileKind kind = fileKind(bytes);
         if (isCertainlyOther(kind, FileKind::pumpList))
             file.other = kind;
         else
-            readPumpIndex(*file.bytes, file.index, &file.report);
+            readPumpIndex(bytes, file.index, &file.report);
     } catch (const RunTimeError& error) {
         file.error = error.number();
     }

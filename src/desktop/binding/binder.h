@@ -148,6 +148,7 @@ class Binder : public QObject, public FormObserver {
     void propertyChanged(Control& control, Property property) override;
     void captionChanged(Form& form) override;
     void settled(Form& form) override;
+    void fellBehind(Form& form) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void customEvent(QEvent* event) override;
 
@@ -174,6 +175,9 @@ class Binder : public QObject, public FormObserver {
     void refreshDrawings();
     void recolour();
     void refreshLater();
+    bool showsLate() const;
+    void workLateIn(int milliseconds);
+    void workLate();
     bool buildNext();
 
     Form* form_;
@@ -194,6 +198,7 @@ class Binder : public QObject, public FormObserver {
     bool scripted_ = false;
     bool leavesByFocus_ = true;
     bool refreshDue_ = false;
+    bool lateDue_ = false;
     int writing_ = 0;
     int building_ = 0;
     int actions_ = 0;

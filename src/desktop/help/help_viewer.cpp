@@ -17,6 +17,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "desktop/reading/help_folder.h"
 #include "forms/text_numbers.h"
 
 namespace varnholt {
@@ -234,7 +235,7 @@ bool HelpViewer::showTopic(const QString& topic) {
 }
 
 void HelpViewer::follow(const QUrl& link) {
-    if (link.scheme() == QLatin1String("example")) {
+    if (link.scheme() == exampleScheme) {
         if (places_.openExample) places_.openExample(link.path().toStdString());
         return;
     }

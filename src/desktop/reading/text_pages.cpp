@@ -6,6 +6,7 @@
 #include <QUrl>
 
 #include "basis/text_encoding.h"
+#include "desktop/reading/help_folder.h"
 #include "desktop/reading/page_browser.h"
 #include "desktop/widgets/qt_text.h"
 
@@ -16,9 +17,8 @@ constexpr int tickEvery = 100;  // ms
 
 /// A picture of the help's folder; nothing for any other file.
 QVariant pictureOf(const QUrl& address, const QString& folder) {
-    const QString path = QFileInfo(address.toLocalFile()).canonicalFilePath();
-    if (folder.isEmpty() || !path.startsWith(folder + u'/')) return {};
-    QFile file(path);
+    if (!isOfHelp(address, folder)) return {};
+    QFile file(address.toLocalFile());
     return file.open(QIODevice::ReadOnly) ? QVariant(file.readAll()) : QVariant();
 }
 
@@ -28,10 +28,7 @@ TextPages::TextPages(PageEvents& events, const PagePlaces& places)
     : PageReader(events, places), browser_(new PageBrowser) {
     const QString folder = QFileInfo(qt(places.helpFolder)).canonicalFilePath();
     browser_->picture = [folder](const QUrl& address) { return pictureOf(address, folder); };
-    browser_->onLink = [this](const QUrl& link) {
-        runTimer(true);
-        navigate(plain(QString::fromUtf8(link.toEncoded())));
-    };
+    browser_->onLink = [this, folder](const QUrl& link) { follow(link, folder); };
     load_.setSingleShot(true);
     load_.setInterval(0);
     QObject::connect(&load_, &QTimer::timeout, &load_, [this] { finish(); });
@@ -45,6 +42,14 @@ TextPages::~TextPages() {
 }
 
 QWidget* TextPages::widget() { return browser_; }
+
+void TextPages::follow(const QUrl& link, const QString& helpFolder) {
+    const bool offered = link.scheme() == exampleScheme && places().openExample &&
+                         isOfHelp(QUrl::fromLocalFile(qt(base())), helpFolder);
+    if (offered) return places().openExample(plain(link.path()));
+    runTimer(true);
+    navigate(plain(QString::fromUtf8(link.toEncoded())));
+}
 
 void TextPages::runTimer(bool on) {
     PageReader::runTimer(on);

@@ -3,6 +3,7 @@
 
 #include <QPointer>
 #include <QTimer>
+#include <QUrl>
 
 #include "desktop/reading/page_widget.h"
 #include "tools/page_reader.h"
@@ -27,6 +28,9 @@ class TextPages : public PageReader, public PageWidget {
     void show(const PageAddress& address, const std::string& bytes) override;
 
  private:
+    /// A person's click on a link. An example opens from a page of the help alone.
+    void follow(const QUrl& link, const QString& helpFolder);
+
     QPointer<PageBrowser> browser_;
     QTimer load_, timer_;
 };

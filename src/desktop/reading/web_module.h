@@ -23,4 +23,4 @@ WebModule* findWebModule();
 
 }  // namespace varnholt
 
-Q_DECLARE_INTERFACE(varnholt::WebModule, "varnholt.WebModule/1")
+Q_DECLARE_INTERFACE(varnholt::WebModule, "varnholt.WebModule/2")

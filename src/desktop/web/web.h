@@ -10,7 +10,7 @@ namespace varnholt {
 /// What the program finds when it loads the library for pages of the web.
 class Web : public QObject, public WebModule {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID "varnholt.WebModule/1")
+    Q_PLUGIN_METADATA(IID "varnholt.WebModule/2")
     Q_INTERFACES(varnholt::WebModule)
 
  public:

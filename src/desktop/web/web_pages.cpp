@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/web/web_pages.h"
 
-#include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QWebEngineCertificateError>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineHistory>
 #include <QWebEngineSettings>
 
+#include "desktop/reading/help_folder.h"
 #include "tools/page_reader.h"
 
 namespace varnholt {
@@ -22,14 +21,6 @@ bool isWeb(const QUrl& url) {
 }
 
 bool isFile(const QUrl& url) { return url.scheme() == QLatin1String("file"); }
-
-/// Whether it leads anywhere: to a host of the web, or to a file of this computer by its whole
-/// path.
-bool leadsSomewhere(const QUrl& url) {
-    if (isWeb(url)) return !url.host().isEmpty();
-    const bool here = url.host().isEmpty() || url.host() == QLatin1String("localhost");
-    return isFile(url) && here && url.path().startsWith(u'/');
-}
 
 /// Such a page of this computer would take all memory.
 bool isTooLarge(const QUrl& url) {
@@ -45,28 +36,17 @@ std::string shownAddress(const QUrl& url) {
     return path.toStdString();
 }
 
-/// An address as it is typed or pasted: a path, an address, or a bare host name. Invalid for what
-/// is neither a page of the web nor one of this computer.
-QUrl urlOf(const std::string& typed, const QUrl& base) {
-    QString text = QString::fromStdString(typed).trimmed();
-    if (text.size() > 1 && text.startsWith(u'"') && text.endsWith(u'"'))
-        text = text.mid(1, text.size() - 2);
-    if (text.startsWith(u'/')) {
-        if (QFileInfo::exists(text) || !text.contains(u'#'))
-            return QUrl::fromLocalFile(QDir::cleanPath(text));
-        QUrl url = QUrl::fromLocalFile(QDir::cleanPath(text.section(u'#', 0, 0)));
-        url.setFragment(text.section(u'#', 1));
-        return url;
+/// As the engine addresses it; invalid for what leads nowhere.
+QUrl urlOf(const PageAddress& address) {
+    if (address.kind == PageAddress::Kind::web) {
+        const QUrl url(QString::fromStdString(address.url));
+        return url.host().isEmpty() ? QUrl() : url;
     }
-    static const QRegularExpression host(QStringLiteral("^[A-Za-z0-9.-]+(:[0-9]+)?(/.*)?$"));
-    const bool isHost = host.match(text).hasMatch();
-    const QUrl url(text);
-    if (!isHost && !url.scheme().isEmpty()) return leadsSomewhere(url) ? url : QUrl();
-    if (isFile(base)) {
-        QUrl beside = base.resolved(QUrl(text));
-        if (text.startsWith(u'.') || QFileInfo(beside.toLocalFile()).isFile()) return beside;
-    }
-    return QUrl(QStringLiteral("http://") + text);
+    if (address.kind != PageAddress::Kind::local) return {};
+    QUrl url = QUrl::fromLocalFile(QString::fromStdString(address.file));
+    if (!address.fragment.empty())
+        url.setFragment(QString::fromStdString(address.fragment), QUrl::DecodedMode);
+    return url;
 }
 
 }  // namespace
@@ -74,18 +54,17 @@ QUrl urlOf(const std::string& typed, const QUrl& base) {
 void PageGuard::interceptRequest(QWebEngineUrlRequestInfo& info) {
     const QUrl url = info.requestUrl(), page = info.firstPartyUrl(), asker = info.initiator();
     if (info.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame) {
-        // A page of the web must not lead to a file.
-        info.block(isFile(url) && isWeb(asker));
+        // A page of the web must not lead to a file, and a folder is no page: the engine would list
+        // what lies in it.
+        const bool folder = isFile(url) && QFileInfo(url.toLocalFile()).isDir();
+        info.block(folder || (isFile(url) && isWeb(asker)));
         return;
     }
     if (!isFile(page)) {
         info.block(isFile(url));
         return;
     }
-    const QString path = QFileInfo(url.toLocalFile()).canonicalFilePath();
-    const bool ofHelp =
-        isFile(url) && !helpFolder_.isEmpty() && path.startsWith(helpFolder_ + u'/');
-    info.block(!ofHelp && url.scheme() != QLatin1String("data"));
+    info.block(!isOfHelp(url, helpFolder_) && url.scheme() != QLatin1String("data"));
 }
 
 GuardedPage::GuardedPage(QWebEngineProfile* profile, PageEvents& events, QObject* parent)
@@ -105,7 +84,9 @@ void GuardedPage::refuse(PageRefusal why, const QUrl& url) {
     if (events_ != nullptr) events_->refused(why, shownAddress(url));
 }
 
-bool GuardedPage::acceptNavigationRequest(const QUrl& url, NavigationType, bool isMainFrame) {
+bool GuardedPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
+    if (isMainFrame && type == NavigationTypeLinkClicked && takesLink && takesLink(url))
+        return false;
     const bool ours = isWeb(url) || isFile(url) || url.scheme() == QLatin1String("about") ||
                       url.scheme() == QLatin1String("chrome-error");
     // What a page makes of itself in a frame is its own.
@@ -140,28 +121,44 @@ WebPages::WebPages(PageEvents& events, const PagePlaces& places)
     settings->setAttribute(QWebEngineSettings::JavascriptCanOpenWindows, true);
     settings->setAttribute(QWebEngineSettings::PluginsEnabled, false);
     settings->setAttribute(QWebEngineSettings::PdfViewerEnabled, false);
+    // So that the page is asked about every one of them, and refuses it with a line.
+    settings->setUnknownUrlSchemePolicy(QWebEngineSettings::AllowAllUnknownUrlSchemes);
+    page_->takesLink = [this](const QUrl& link) { return takesLink(link); };
     view_->setPage(page_);
     view_->setContextMenuPolicy(Qt::NoContextMenu);
+    watchLoading();
+    timer_.setInterval(tickEvery);
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { events_.tick(); });
+}
+
+void WebPages::watchLoading() {
     QObject::connect(page_, &QWebEnginePage::loadStarted, &timer_, [this] {
-        busy_ = true;
+        late_.stop();
+        busy_ = loading_ = true;
         runTimer(true);
     });
     QObject::connect(page_, &QWebEnginePage::loadFinished, &timer_, [this](bool shown) {
+        loading_ = false;
         // What turns out to be a file to be saved fails first and asks then.
         if (shown)
             ended();
         else
             late_.start();
     });
+    // To a place in the page on show the engine goes without a load, and tells the address alone.
+    QObject::connect(page_, &QWebEnginePage::urlChanged, &timer_, [this] {
+        if (loading_) return;
+        busy_ = true;
+        ended();
+    });
     late_.setSingleShot(true);
     late_.setInterval(untilItAsks);
     QObject::connect(&late_, &QTimer::timeout, &timer_, [this] { ended(); });
-    timer_.setInterval(tickEvery);
-    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { events_.tick(); });
 }
 
 WebPages::~WebPages() {
     page_->detach();
+    QObject::disconnect(page_, nullptr, &timer_, nullptr);
     // The page goes before the profile that it belongs to; the widget may outlive both.
     if (view_ != nullptr) view_->setPage(nullptr);
     delete page_;
@@ -169,13 +166,37 @@ WebPages::~WebPages() {
 
 QWidget* WebPages::widget() { return view_; }
 
-void WebPages::navigate(const std::string& address) {
-    const QUrl url = urlOf(address, page_->url());
-    if (address.find_first_not_of(" \t\r\n") == std::string::npos) return;
-    if (!url.isValid()) return events_.refused(PageRefusal::address, address);
-    if (isTooLarge(url)) return events_.refused(PageRefusal::tooLarge, address);
+void WebPages::navigate(const std::string& typed) {
+    const QUrl here = page_->url();
+    const std::string base = isFile(here) ? here.toLocalFile().toStdString() : std::string();
+    const PageAddress address = places_.addressOf(typed, base);
+    if (address.kind == PageAddress::Kind::none) return;
+    const QUrl url = urlOf(address);
+    if (!url.isValid()) return events_.refused(PageRefusal::address, typed);
+    if (isTooLarge(url)) return events_.refused(PageRefusal::tooLarge, typed);
+    load(url);
+}
+
+void WebPages::load(const QUrl& url) {
+    late_.stop();
     busy_ = true;
     page_->load(url);
+}
+
+/// Takes a link that is clicked in a page of this computer. The engine lets no such page lead to
+/// another file, so the window goes there itself, as if the address had been typed.
+bool WebPages::takesLink(const QUrl& link) {
+    if (!isFile(page_->url())) return false;
+    if (link.scheme() == exampleScheme) {
+        if (!places_.openExample || !isOfHelp(page_->url(), guard_.helpFolder())) return false;
+        // Opening may ask questions, for which the engine must not wait.
+        QTimer::singleShot(0, &timer_,
+                           [this, file = link.path().toStdString()] { places_.openExample(file); });
+        return true;
+    }
+    if (!isFile(link) || isTooLarge(link)) return false;
+    QTimer::singleShot(0, &timer_, [this, link] { load(link); });
+    return true;
 }
 
 bool WebPages::goBack() {

@@ -7,6 +7,7 @@
 #include <QWebEngineProfile>
 #include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
+#include <functional>
 
 #include "desktop/reading/page_widget.h"
 #include "tools/page_engine.h"
@@ -19,6 +20,7 @@ class PageGuard : public QWebEngineUrlRequestInterceptor {
  public:
     explicit PageGuard(QString helpFolder) : helpFolder_(std::move(helpFolder)) {}
     void interceptRequest(QWebEngineUrlRequestInfo& info) override;
+    const QString& helpFolder() const { return helpFolder_; }
 
  private:
     QString helpFolder_;
@@ -30,7 +32,12 @@ class GuardedPage : public QWebEnginePage {
  public:
     GuardedPage(QWebEngineProfile* profile, PageEvents& events, QObject* parent);
     /// No more is told from now on.
-    void detach() { events_ = nullptr; }
+    void detach() {
+        events_ = nullptr;
+        takesLink = nullptr;
+    }
+    /// Asked about every link that is clicked: true for one that is gone to in another way.
+    std::function<bool(const QUrl& link)> takesLink;
 
  protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
@@ -71,6 +78,9 @@ class WebPages : public PageEngine, public PageWidget {
     void runTimer(bool on) override;
 
  private:
+    void watchLoading();
+    void load(const QUrl& url);
+    bool takesLink(const QUrl& link);
     void ended();
 
     PageEvents& events_;
@@ -81,6 +91,7 @@ class WebPages : public PageEngine, public PageWidget {
     QPointer<QWebEngineView> view_;
     QTimer timer_, late_;
     bool busy_ = false;
+    bool loading_ = false;  ///< from the start of a load to its end, as the engine tells them
 };
 
 }  // namespace varnholt

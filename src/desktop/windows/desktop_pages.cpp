@@ -63,7 +63,9 @@ DesktopPages::~DesktopPages() {
     for (Watched* engine : engines_) engine->forget();
 }
 
-std::unique_ptr<PageEngine> DesktopPages::newEngine(PageEvents& events, const PagePlaces& places) {
+std::unique_ptr<PageEngine> DesktopPages::newEngine(PageEvents& events, const PagePlaces& wanted) {
+    PagePlaces places = wanted;
+    places.openExample = openExample_;
     std::unique_ptr<PageEngine> engine;
     WebModule* web = wanted_ == "text" ? nullptr : findWebModule();
     if (web != nullptr)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,11 @@ class DesktopPages : public PageSource {
     explicit DesktopPages(std::string wanted) : wanted_(std::move(wanted)) {}
     ~DesktopPages() override;
 
+    /// How an example opens that a page of the help offers, before the first engine.
+    void openExamplesBy(std::function<void(const std::string& file)> open) {
+        openExample_ = std::move(open);
+    }
+
     std::unique_ptr<PageEngine> newEngine(PageEvents& events, const PagePlaces& places) override;
     /// Handles events until no engine is busy, for 5 seconds at most.
     void settle() override;
@@ -25,6 +31,7 @@ class DesktopPages : public PageSource {
     bool anyBusy() const;
 
     std::string wanted_;
+    std::function<void(const std::string& file)> openExample_;
     std::vector<Watched*> engines_;
 };
 

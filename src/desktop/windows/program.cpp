@@ -74,7 +74,9 @@ int runPrepared(QApplication& application, const CommandLine& line) {
     shelf.setMain(window, main);
     const ReportWindows reports(window, platform, program.reports(), program.texts(),
                                 localeOf(line));
-    help.setPlaces(helpPlacesOf(program, window));
+    const HelpPlaces places = helpPlacesOf(program, window);
+    help.setPlaces(places);
+    pages.openExamplesBy(places.openExample);
     window.guarded([&] { program.start(); });
     window.show();
     const WorkKeeper keeper(application, *program.recovery());
@@ -113,7 +115,9 @@ int runReading(QApplication& application, const CommandLine& line, std::istream&
     MainWindow window(main, driver.faultTaker(), {});
     shelf.setMain(window, main);
     platform.setStage(&shelf);
-    help.setPlaces(helpPlacesOf(program, window));
+    const HelpPlaces places = helpPlacesOf(program, window);
+    help.setPlaces(places);
+    pages.openExamplesBy(places.openExample);
     program.start();
     // Pictures are the same whatever screen there is, and none at all.
     window.resize(MainWindow::usualSize());

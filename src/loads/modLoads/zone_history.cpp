@@ -77,8 +77,7 @@ bool importRests(const ZoneWindow& window) {
 }  // namespace
 
 StatePointer ZoneWindow::state() const {
-    LoadsState now{document_, designsLinkedTo(*this), damage_, selectedZone(),
-                   importRests(*this)};
+    LoadsState now{document_, designsLinkedTo(*this), damage_, selectedZone(), importRests(*this)};
     now.document.information = {};
     return std::make_shared<LoadsMoment>(std::move(now));
 }

@@ -16,40 +16,42 @@
 namespace varnholt {
 namespace {
 
-RecoveryRecord workOf(const GroundDesign& design) {
-    RecoveryRecord record;
-    record.path = design.filePath();
-    record.name = design.FileName.empty() ? design.caption() : design.FileName;
-    record.known = design.openFile.known;
-    record.isStale = design.isStale();
-    record.savesUnderNewName = design.savesUnderNewName();
-    record.document = projectText(design);
-    return record;
+UnsavedWork workOf(const GroundDesign& design) {
+    UnsavedWork work;
+    work.record.path = design.filePath();
+    work.record.name = design.FileName.empty() ? design.caption() : design.FileName;
+    work.record.known = design.openFile.known;
+    work.record.isStale = design.isStale();
+    work.record.savesUnderNewName = design.savesUnderNewName();
+    // A project is short: making its bytes takes no longer than copying it.
+    work.document = [text = projectText(design)] { return text; };
+    return work;
 }
 
-RecoveryRecord workOf(const LoadsWindow& loads) {
-    RecoveryRecord record;
-    if (loads.file().exists) record.path = joinPath(loads.file().folder, loads.file().name);
-    record.name = record.path.empty() ? loads.caption() : loads.file().name;
-    if (!record.path.empty()) record.known = loads.knownFile();
-    record.document = zonesText(loads.document().data);
-    return record;
+UnsavedWork workOf(const LoadsWindow& loads) {
+    UnsavedWork work;
+    const LoadsDocument& document = loads.document();
+    if (document.file.exists) work.record.path = joinPath(document.file.folder, document.file.name);
+    work.record.name = work.record.path.empty() ? loads.caption() : document.file.name;
+    if (!work.record.path.empty()) work.record.known = loads.knownFile();
+    work.document = [data = document.data] { return zonesText(data); };
+    return work;
 }
 
-RecoveryRecord workOf(const frmHPEdit& editor) {
-    RecoveryRecord record;
-    record.path = editor.seriesFile();
-    record.name = fileNameOf(record.path);
-    record.document = editor.seriesText();
-    return record;
+UnsavedWork workOf(const frmHPEdit& editor) {
+    UnsavedWork work;
+    work.record.path = editor.seriesFile();
+    work.record.name = fileNameOf(work.record.path);
+    work.document = editor.seriesText();
+    return work;
 }
 
 /// The importer has no file; what it holds is nobody else's.
-RecoveryRecord workOf(const frmImport1& importer) {
-    RecoveryRecord record;
-    record.name = importer.caption();
-    record.document = importedLoadsText(importer.loads());
-    return record;
+UnsavedWork workOf(const frmImport1& importer) {
+    UnsavedWork work;
+    work.record.name = importer.caption();
+    work.document = [loads = importer.loads()] { return importedLoadsText(loads); };
+    return work;
 }
 
 const DesignFileKind* kindOfForm(const std::string& form) {
@@ -94,19 +96,19 @@ ChildWindow* openImporter(Varnmain& main, const RecoveryRecord& record) {
 
 }  // namespace
 
-std::optional<RecoveryRecord> unsavedWorkOf(const ChildWindow& window) {
-    std::optional<RecoveryRecord> record;
+std::optional<UnsavedWork> unsavedWorkOf(const ChildWindow& window) {
+    std::optional<UnsavedWork> work;
     if (const auto* design = dynamic_cast<const GroundDesign*>(&window)) {
-        if (design->isChanged()) record = workOf(*design);
+        if (design->isChanged()) work = workOf(*design);
     } else if (const auto* loads = dynamic_cast<const LoadsWindow*>(&window)) {
-        if (loads->hasUnsavedChanges()) record = workOf(*loads);
+        if (loads->hasUnsavedChanges()) work = workOf(*loads);
     } else if (const auto* editor = dynamic_cast<const frmHPEdit*>(&window)) {
-        if (editor->hasUnsavedPumps()) record = workOf(*editor);
+        if (editor->hasUnsavedPumps()) work = workOf(*editor);
     } else if (const auto* importer = dynamic_cast<const frmImport1*>(&window)) {
-        if (importer->loads() != ImportedLoads{}) record = workOf(*importer);
+        if (importer->loads() != ImportedLoads{}) work = workOf(*importer);
     }
-    if (record) record->form = window.formName();
-    return record;
+    if (work) work->record.form = window.formName();
+    return work;
 }
 
 bool isDesignForm(const std::string& form) { return kindOfForm(form) != nullptr; }

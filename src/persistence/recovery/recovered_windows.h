@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "persistence/recovery/recovery_record.h"
+#include "persistence/recovery/kept_work.h"
 
 namespace varnholt {
 
@@ -13,7 +13,7 @@ class Varnmain;
 
 /// The work in a window that closing it would lose; nothing where there is none. The time of the
 /// change is left to the caller.
-std::optional<RecoveryRecord> unsavedWorkOf(const ChildWindow& window);
+std::optional<UnsavedWork> unsavedWorkOf(const ChildWindow& window);
 
 bool isDesignForm(const std::string& form);
 

@@ -7,23 +7,11 @@
 
 #include "basis/date.h"
 #include "basis/file_system.h"
-#include "basis/run_time_error.h"
-#include "basis/system/fingerprint.h"
 #include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 #include "persistence/recovery/recovered_windows.h"
 
 namespace varnholt {
-namespace {
-
-/// The same for records that would open the same document in the same way.
-std::uint64_t fingerprintOf(const RecoveryRecord& record) {
-    const std::string flags{record.isStale ? 's' : '-', record.savesUnderNewName ? 'n' : '-'};
-    return fingerprint(record.document + flags + record.path);
-}
-
-}  // namespace
-
 Recovery::Recovery(Varnmain& main, std::chrono::milliseconds pace)
     : main_(main), folder_(main.MainDirectory), pace_(pace) {}
 
@@ -37,66 +25,65 @@ void Recovery::tick(Time now) {
     if (!pause) look();
     if (!written_) written_ = now;
     if (!pause && now - *written_ < pace_) return;
-    writePending();
+    writeWaiting();
     written_ = now;
 }
 
 void Recovery::keepNow() {
+    constexpr std::chrono::seconds most(5);
     look();
-    writePending();
-    writer_.finish(std::chrono::seconds(5));
+    maker_.finish(most);
+    // A write that failed may succeed the second time; where none did, there is nothing to do.
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        writeWaiting();
+        writer_.finish(most);
+    }
 }
 
-/// Makes bytes of the documents that are unsaved, and forgets those that are not any more.
+/// Copies the documents that are unsaved, and forgets those that are not any more.
 void Recovery::look() {
     seen_ = main_.actionsSoFar();
     std::vector<int> gone;
     for (const auto& [serial, kept] : kept_) gone.push_back(serial);
     for (const ChildWindow* window : main_.windows()) {
-        std::optional<RecoveryRecord> record = unsavedWorkOf(*window);
-        if (!record) continue;
+        std::optional<UnsavedWork> work = unsavedWorkOf(*window);
+        if (!work) continue;
         std::erase(gone, window->serial());
-        keep(*window, std::move(*record));
+        keep(*window, std::move(*work));
     }
     for (const int serial : gone) drop(serial);
 }
 
-void Recovery::keep(const ChildWindow& window, RecoveryRecord record) {
-    const std::uint64_t present = fingerprintOf(record);
-    const auto known = kept_.find(window.serial());
-    if (known != kept_.end() && known->second.fingerprint == present) return;
-    try {
-        if (known == kept_.end())
-            kept_[window.serial()] = {folder_.newPath(), 0, freePlace(), nullptr};
-    } catch (const RunTimeError&) {
-        // Nothing can be kept where nothing can be written; the next look tries again.
-        return;
+void Recovery::keep(const ChildWindow& window, UnsavedWork work) {
+    std::shared_ptr<KeptWork>& kept = kept_[window.serial()];
+    if (kept == nullptr) {
+        kept = std::make_shared<KeptWork>(folder_.newPath(), lastWords_, freePlace());
+        writer_.post([kept] { kept->makeFolder(); });
     }
-    Kept& kept = kept_[window.serial()];
-    record.changed = presentMoment();
-    kept.fingerprint = present;
-    kept.bytes = std::make_shared<const std::string>(recordBytes(record));
-    lastWords_.lay(kept.place, kept.path, kept.bytes);
+    work.record.changed = presentMoment();
+    maker_.post([kept, work = std::move(work)] { kept->make(work); });
 }
 
 std::size_t Recovery::freePlace() const {
     std::size_t place = 0;
-    const auto isTaken = [&](const auto& kept) { return kept.second.place == place; };
+    const auto isTaken = [&](const auto& kept) {
+        return kept.second != nullptr && kept.second->place() == place;
+    };
     while (std::any_of(kept_.begin(), kept_.end(), isTaken)) ++place;
     return place;
 }
 
-void Recovery::writePending() {
-    for (auto& [serial, kept] : kept_)
-        if (kept.bytes) writer_.write(kept.path, std::exchange(kept.bytes, nullptr));
+void Recovery::writeWaiting() {
+    for (const auto& [serial, kept] : kept_)
+        if (kept->isWaiting()) writer_.post([kept = kept] { kept->write(); });
 }
 
 /// The document has been saved, or its changes refused.
 void Recovery::drop(int serial) {
-    const auto kept = kept_.find(serial);
-    lastWords_.take(kept->second.place);
-    writer_.remove(kept->second.path);
-    kept_.erase(kept);
+    const auto found = kept_.find(serial);
+    found->second->drop();
+    writer_.post([path = found->second->path()] { removeFile(path); });
+    kept_.erase(found);
 }
 
 void Recovery::offer() {
@@ -106,23 +93,31 @@ void Recovery::offer() {
     std::stable_partition(found.begin(), found.end(), [](const RecoveryFolder::Found& each) {
         return !isDesignForm(each.record.form);
     });
-    for (const RecoveryFolder::Found& each : found) offer(each);
-    if (!setAside.empty())
-        main_.setNotice(filledIn(main_.text(Text::noticeSetAside), {setAside.front()}));
+    std::vector<std::string> told;
+    for (const std::string& path : setAside)
+        told.push_back(filledIn(main_.text(Text::noticeSetAside), {path}));
+    for (const RecoveryFolder::Found& each : found) told.push_back(offer(each));
+    std::string notice;
+    for (const std::string& sentence : told)
+        if (!sentence.empty()) notice += (notice.empty() ? "" : " ") + sentence;
+    if (!notice.empty()) main_.setNotice(notice);
     main_.refreshCommands();
 }
 
-void Recovery::offer(const RecoveryFolder::Found& found) {
+std::string Recovery::offer(const RecoveryFolder::Found& found) {
     const Answer answer = main_.platform().question(
         Buttons::yesNoCancel, main_.text(Text::unsavedTitle), questionAbout(found.record));
     if (answer == Answer::no) {
         removeFile(found.path);
-        return folder_.removeIfEmpty();
+        folder_.removeIfEmpty();
     }
-    if (answer != Answer::yes) return;
+    if (answer != Answer::yes) return {};
+    const ChildWindow* window = openRecovered(main_, found.record);
+    if (window == nullptr) return filledIn(main_.text(Text::noticeStillKept), {found.record.name});
     // What was found stays until the window's own record takes its place.
-    if (const ChildWindow* window = openRecovered(main_, found.record))
-        kept_[window->serial()] = {found.path, fingerprintOf(found.record), freePlace(), nullptr};
+    kept_[window->serial()] = std::make_shared<KeptWork>(found.path, lastWords_, freePlace(),
+                                                         fingerprintOf(found.record));
+    return {};
 }
 
 std::string Recovery::questionAbout(const RecoveryRecord& record) const {

@@ -37,20 +37,24 @@ std::optional<ProcessIdentity> processOf(const std::string& name) {
     return process;
 }
 
+/// The number that the file's name begins with; 0 for none.
+int numberOf(const std::string& file) {
+    const std::string name = fileNameOf(file);
+    int number = 0;
+    std::from_chars(name.data(), name.data() + name.size(), number);
+    return number;
+}
+
 }  // namespace
 
 RecoveryFolder::RecoveryFolder(const std::string& programFolder)
-    : folder_(joinPath(programFolder, "recovery")),
-      own_(joinPath(folder_, nameOf(thisProcess()))) {}
+    : folder_(joinPath(programFolder, "recovery")), own_(joinPath(folder_, nameOf(thisProcess()))) {
+    if (!isFolder(own_)) return;
+    for (const std::string& file : filesIn(own_)) last_ = std::max(last_, numberOf(file));
+}
 
 std::string RecoveryFolder::newPath() {
-    makePrivateFolder(folder_);
-    makePrivateFolder(own_);
-    std::string path;
-    do {
-        path = joinPath(own_, std::to_string(++last_) + std::string(extension));
-    } while (fileExists(path));
-    return path;
+    return joinPath(own_, std::to_string(++last_) + std::string(extension));
 }
 
 void RecoveryFolder::removeIfEmpty() const {
@@ -60,6 +64,8 @@ void RecoveryFolder::removeIfEmpty() const {
 
 /// Two programs may start at once: each file goes to the one that renames it.
 void RecoveryFolder::takeFrom(const std::string& folder, std::vector<std::string>& taken) {
+    makePrivateFolder(folder_);
+    makePrivateFolder(own_);
     removeLeftovers(folder);
     for (const std::string& file : filesIn(folder)) {
         if (!file.ends_with(extension)) continue;

@@ -25,8 +25,7 @@ class RecoveryFolder {
     /// set aside under another name, and its path added to `setAside`. Does not throw.
     std::vector<Found> take(std::vector<std::string>& setAside);
 
-    /// A path in the own folder that nothing has yet. Throws RunTimeError where the folder cannot
-    /// be made.
+    /// A path in the own folder, which need not exist yet, that nothing has and nothing was given.
     std::string newPath();
     /// Takes the own folder away when nothing is left in it.
     void removeIfEmpty() const;

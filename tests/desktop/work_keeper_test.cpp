@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Unsaved work of a person's windows: typed into real fields, kept by the clock and at the signals
+// that ask the program to end.
+#include "desktop/windows/work_keeper.h"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+
+#include "desk.h"
+#include "desktop/binding/form_window.h"
+#include "frame/design_document.h"
+#include "persistence/recovery/recovery.h"
+
+namespace varnholt {
+namespace {
+
+class WorkKeeperTest : public testing::Test {
+ protected:
+    WorkKeeperTest() {
+        desk.main().click("NewBorehole");
+        Desk::settle();
+    }
+    ~WorkKeeperTest() override { EXPECT_TRUE(desk.faults.empty()); }
+
+    void type(const char* text) {
+        const Form& design = *desk.main().find("frmBHDesign");
+        auto* field = static_cast<QLineEdit*>(
+            desk.shelf.windowOf(design)->binder().widget("INProjectNameText"));
+        QTest::keyClicks(field, QString::fromLatin1(text));
+    }
+    std::size_t filesKept() const {
+        namespace fs = std::filesystem;
+        const std::string folder = desk.folder() + "/recovery";
+        std::size_t files = 0;
+        if (fs::exists(folder))
+            for (const auto& entry : fs::recursive_directory_iterator(folder))
+                files += entry.path().extension() == ".unsaved" ? 1 : 0;
+        return files;
+    }
+    /// What a start that follows would offer.
+    std::vector<RecoveryRecord> kept() const {
+        std::vector<std::string> setAside;
+        std::vector<RecoveryRecord> records;
+        for (auto& found : RecoveryFolder(desk.folder()).take(setAside))
+            records.push_back(std::move(found.record));
+        EXPECT_TRUE(setAside.empty());
+        return records;
+    }
+
+    Desk desk;
+};
+
+TEST_F(WorkKeeperTest, KeepsWorkByTheClockWithinTenSeconds) {
+    Recovery recovery(desk.main());
+    const WorkKeeper keeper(*qApp, recovery);
+    type("Kept by the clock");
+    EXPECT_EQ(filesKept(), 0U);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return filesKept() == 1; }, 10'000));
+}
+
+class EndSignal : public WorkKeeperTest, public testing::WithParamInterface<int> {};
+
+TEST_P(EndSignal, KeepsWorkAtOnceAndEndsTheProgramAsItDoesByItself) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        Recovery recovery(desk.main());
+        const WorkKeeper keeper(*qApp, recovery);
+        // The signal comes before the clock has ticked once.
+        QTimer::singleShot(0, [this] {
+            type("Kept at the end");
+            ::raise(GetParam());
+        });
+        QApplication::exec();
+        ::_exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status)) << status;
+    EXPECT_EQ(WTERMSIG(status), GetParam());
+    const std::vector<RecoveryRecord> records = kept();
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].form, "frmBHDesign");
+    EXPECT_NE(records[0].document.find("Kept at the end"), std::string::npos);
+}
+
+TEST_P(EndSignal, KeepsWorkWhileADialogWaitsForThePerson) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        Recovery recovery(desk.main());
+        const WorkKeeper keeper(*qApp, recovery);
+        type("Kept behind a dialog");
+        QTimer::singleShot(0, [] { ::raise(GetParam()); });
+        QDialog dialog(desk.window.get());
+        dialog.exec();
+        ::_exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status)) << status;
+    ASSERT_EQ(kept().size(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfAllKinds, EndSignal, testing::Values(SIGTERM, SIGHUP, SIGINT),
+                         [](const testing::TestParamInfo<int>& each) {
+                             return each.param == SIGTERM  ? "Terminate"
+                                    : each.param == SIGHUP ? "HangUp"
+                                                           : "Interrupt";
+                         });
+
+}  // namespace
+}  // namespace varnholt
