@@ -44,9 +44,7 @@ class frmBHDesign : public TowerDesign<BoreholeKind> {
     /// degF
     double GetGroundTemp() const { return project_.soil.groundTemp; }
 
-<<<<<<< HEAD
     std::vector<std::string> warnings() const override;
-=======
     void load() override;
     void MetricCheck_Click() override;
     void actionDone() override { fallBehind(); }
@@ -69,7 +67,6 @@ class frmBHDesign : public TowerDesign<BoreholeKind> {
 
     std::string descriptionOf(const std::string& image) const override;
 
->>>>>>> trust
     /// What `imgBore` shows.
     BoreDrawing boreDrawing() const;
     /// What `imgField` shows.
