@@ -136,7 +136,9 @@ void ListView::setItems(const std::vector<std::string>& items) {
     writing_ = false;
 }
 
+/// Columns beside the entries have widths of their own, which a person sets.
 void ListView::fitColumns() {
+    if (model_->hasColumns()) return;
     for (int column = 0; column + 1 < model_->columnCount(); ++column)
         resizeColumnToContents(column);
 }

@@ -29,6 +29,7 @@ class ListModel : public QAbstractTableModel {
     void setHeads(QStringList heads);
     const QStringList& heads() const { return heads_; }
     void setColumns(ListColumns columns);
+    bool hasColumns() const { return !further_.heads.isEmpty(); }
     /// What the further columns say has changed.
     void refreshColumns();
 

@@ -17,7 +17,7 @@ QWidget* pageOf(QWidget* field) {
         page = page->parentWidget();
         const QWidget* around = page->parentWidget();
         if (around == nullptr || around->inherits("QStackedWidget") ||
-            around->inherits("QMdiSubWindow") || page->inherits("varnholt::GroupBox"))
+            around->inherits("QMdiSubWindow"))
             break;
         if (around->objectName() == QLatin1String("qt_scrollarea_viewport")) break;
     }
@@ -44,14 +44,15 @@ void RefusalHint::show(QWidget* field, const std::string& why) {
         label_->setTextFormat(Qt::PlainText);
         label_->setAttribute(Qt::WA_TransparentForMouseEvents);
         label_->setWordWrap(true);
+        label_->setMargin(gridStep / 2);
     }
     field_ = field;
     label_->setParent(page);
     label_->setText(qt(why));
     constexpr int widest = 45 * gridStep;
     const int wide = label_->fontMetrics().horizontalAdvance(label_->text()) + 3 * gridStep;
-    label_->setFixedWidth(std::min({wide, widest, std::max(1, page->width())}));
-    label_->adjustSize();
+    const int width = std::min({wide, widest, std::max(1, page->width())});
+    label_->resize(width, label_->heightForWidth(width));
     label_->move(placeFor(field, page, label_->size()));
     label_->show();
     label_->raise();
