@@ -17,6 +17,7 @@
 #include "desktop/binding/typing.h"
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/text_label.h"
 #include "forms/texts.h"
 
 namespace varnholt {
@@ -331,7 +332,7 @@ FieldRow Binder::results(const std::string& array) {
     for (const std::size_t mode : {0U, 1U}) {
         auto* figure = static_cast<QLabel*>(widget(elementName(array, mode)));
         figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        figure->setFont(figureFont(figure->font()));
+        asFigures(figure);
         row.fields.push_back(figure);
         nameBy(elementName(array, mode), elementName(array, 2));
     }
@@ -344,7 +345,7 @@ FieldRow Binder::figure(const std::string& caption, const std::string& value,
     row.caption = widget(caption);
     auto* figure = static_cast<QLabel*>(widget(value));
     figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    figure->setFont(figureFont(figure->font()));
+    asFigures(figure);
     row.fields = {figure};
     nameBy(value, caption);
     row.more = more;

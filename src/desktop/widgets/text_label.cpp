@@ -32,11 +32,22 @@ const QStaticText& TextLabel::shaped() const {
     return shaped_;
 }
 
+/// Figures whose signs the face lacks are shaped by the toolkit.
+bool TextLabel::showsFigures() const {
+    if (!figures_) return false;
+    if (!figureText_.isOf(text(), font())) figureText_ = FigureText(text(), font());
+    return figureText_.isWhole();
+}
+
+QSizeF TextLabel::sizeOfLine() const {
+    return showsFigures() ? figureText_.size() : shaped().size();
+}
+
 QSize TextLabel::sizeHint() const {
     if (!isOneLine()) return QLabel::sizeHint();
     ensurePolished();
     const QMargins edges = contentsMargins();
-    const QSizeF size = shaped().size();
+    const QSizeF size = sizeOfLine();
     return QSize(static_cast<int>(std::ceil(size.width())),
                  static_cast<int>(std::ceil(size.height())))
         .grownBy(edges);
@@ -46,14 +57,35 @@ QSize TextLabel::minimumSizeHint() const {
     return isOneLine() ? sizeHint() : QLabel::minimumSizeHint();
 }
 
-void TextLabel::setMuted() {
-    muted_ = true;
+void TextLabel::setTone(Tone tone) {
+    if (tone_ == tone) return;
+    tone_ = tone;
     update();
+}
+
+void TextLabel::setFigures() {
+    figures_ = true;
+    updateGeometry();
+    update();
+}
+
+QColor TextLabel::colour() const {
+    const Look& look = lookOf(palette());
+    switch (tone_) {
+        case Tone::muted:
+            return look.muted;
+        case Tone::cooling:
+            return look.cooling;
+        case Tone::heating:
+            return look.heating;
+        default:
+            return palette().color(foregroundRole());
+    }
 }
 
 QRectF TextLabel::placeOfLine() const {
     const QRectF place = contentsRect();
-    const QSizeF size = shaped().size();
+    const QSizeF size = sizeOfLine();
     const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
     const double across = place.width() - size.width(), down = place.height() - size.height();
     QPointF corner = place.topLeft();
@@ -64,11 +96,19 @@ QRectF TextLabel::placeOfLine() const {
     return {corner, size};
 }
 
+void TextLabel::drawLine(QPainter& painter) const {
+    const QPointF corner = placeOfLine().topLeft();
+    if (showsFigures())
+        figureText_.draw(painter, corner);
+    else
+        painter.drawStaticText(corner, shaped());
+}
+
 void TextLabel::paintEvent(QPaintEvent* event) {
     if (!pixmap(Qt::ReturnByValue).isNull()) return QLabel::paintEvent(event);
     QPainter painter(this);
-    painter.setPen(muted_ ? lookOf(palette()).muted : palette().color(foregroundRole()));
-    if (isOneLine()) return painter.drawStaticText(placeOfLine().topLeft(), shaped());
+    painter.setPen(colour());
+    if (isOneLine()) return drawLine(painter);
     const int wraps = wordWrap() ? Qt::TextWordWrap : 0;
     const int keys = marksKey() ? Qt::TextShowMnemonic : 0;
     const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
@@ -77,6 +117,10 @@ void TextLabel::paintEvent(QPaintEvent* event) {
 
 void mute(QWidget* label) {
     if (auto* text = dynamic_cast<TextLabel*>(label)) text->setMuted();
+}
+
+void asFigures(QWidget* label) {
+    if (auto* text = dynamic_cast<TextLabel*>(label)) text->setFigures();
 }
 
 }  // namespace varnholt

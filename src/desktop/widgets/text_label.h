@@ -4,6 +4,9 @@
 #include <QLabel>
 #include <QStaticText>
 
+#include "basis/mode.h"
+#include "desktop/widgets/figure_text.h"
+
 namespace varnholt {
 
 /// A label of plain text. A single line is shaped once and serves the layouts and every painting:
@@ -14,7 +17,13 @@ class TextLabel : public QLabel {
     explicit TextLabel(const QString& text, QWidget* parent = nullptr);
 
     /// Shows it as something beside the point: a unit, a hint.
-    void setMuted();
+    void setMuted() { setTone(Tone::muted); }
+    /// Shows it in a mode's colour.
+    void setMode(Mode mode) { setTone(mode == cooling ? Tone::cooling : Tone::heating); }
+    /// Shows it in the colour of all texts again.
+    void setPlain() { setTone(Tone::plain); }
+    /// Shows the figures in it grouped and in columns; its text stays as it is.
+    void setFigures();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -23,18 +32,28 @@ class TextLabel : public QLabel {
     void paintEvent(QPaintEvent* event) override;
 
  private:
+    enum class Tone { plain, muted, cooling, heating };
+
+    void setTone(Tone tone);
+    QColor colour() const;
     bool isOneLine() const;
     bool marksKey() const;
+    bool showsFigures() const;
     const QStaticText& shaped() const;
-
+    QSizeF sizeOfLine() const;
     QRectF placeOfLine() const;
+    void drawLine(QPainter& painter) const;
 
-    bool muted_ = false;
+    Tone tone_ = Tone::plain;
+    bool figures_ = false;
     mutable QStaticText shaped_;
     mutable QFont font_;
+    mutable FigureText figureText_;
 };
 
 /// Mutes a label, if it is one of these.
 void mute(QWidget* label);
+/// Makes it one of figures, if it is one of these.
+void asFigures(QWidget* label);
 
 }  // namespace varnholt
