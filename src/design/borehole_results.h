@@ -7,6 +7,7 @@
 #include "design/ground_roll_up.h"
 #include "design/modCalculations/bore_grid.h"
 #include "design/modCalculations/ground_resistance.h"
+#include "design/modCalculations/length_shares.h"
 #include "design/modCalculations/settling.h"
 
 namespace varnholt {
@@ -30,6 +31,8 @@ struct BoreholeResults : GroundRollUp {
     modCalculations::GroundResistances groundResistance;
     modCalculations::NeighbourCount neighbourCount{};
     modCalculations::SettledLengths lengths;
+    /// Where the lengths come from; files hold nothing of it.
+    ByMode<modCalculations::LengthShares> lengthShares;
 
     friend bool operator==(const BoreholeResults&, const BoreholeResults&) = default;
 };

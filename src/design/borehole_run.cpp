@@ -48,6 +48,7 @@ void settleLengths(const BoreholeInputs& inputs, BoreholeResults& results) {
     lengths =
         calcBoreLengths(terms, calcTemperaturePenalty(site, results.annualGroundLoad, lengths));
     results.lengths = settleBoreLengths(terms, site, lengths);
+    results.lengthShares = lengthShares(terms, results.lengths.boreLength);
 }
 
 }  // namespace

@@ -38,14 +38,10 @@ std::vector<int> frmBHDesign::pageCaptions() const {
 }
 
 std::vector<ResultRow> frmBHDesign::resultRows() const {
-    const auto bores = [this] {
-        const auto& rows = inputsOnShow().arrangement.patternRows;
-        return rows[0] * rows[1];
-    };
     const auto total = [this](Mode mode) { return shownAs(quantities::length, *this, GetL(mode)); };
-    const auto number = [bores](Mode) { return formatNumber(bores(), "###0"); };
-    const auto each = [this, bores](Mode mode) {
-        return shownAs(quantities::length, *this, bores() == 0 ? 0 : GetL(mode) / bores());
+    const auto number = [this](Mode) { return formatNumber(boresOnShow(), "###0"); };
+    const auto each = [this](Mode mode) {
+        return shownAs(quantities::length, *this, lengthOfEach(mode));
     };
     std::vector<ResultRow> rows{
         {"CATotalLengthLabel", {Text::totalLengthEnglish, Text::totalLengthMetric}, total, true},
@@ -61,6 +57,33 @@ std::vector<ResultRow> frmBHDesign::resultRows() const {
     for (ResultRow& row : unitRows(*this, rollUp, inputs)) rows.push_back(std::move(row));
     rows.push_back(soilChangeRow(*this, [this](Mode mode) { return GetTemperaturePenalty(mode); }));
     return rows;
+}
+
+double frmBHDesign::boresOnShow() const {
+    const auto& rows = inputsOnShow().arrangement.patternRows;
+    return rows[0] * rows[1];
+}
+
+double frmBHDesign::lengthOfEach(Mode mode) const {
+    const double bores = boresOnShow();
+    return bores == 0 ? 0 : GetL(mode) / bores;
+}
+
+LengthSummary frmBHDesign::lengthSummary() const {
+    constexpr LoopWords words{{Text::coolingGovernsBores, Text::heatingGovernsBores},
+                              Text::manyBores,
+                              Text::oneBore,
+                              Text::aBore};
+    const double bores = boresOnShow();
+    LengthSummary summary = summaryOf(*this,
+                                      {lengths(),
+                                       {lengthOfEach(cooling), lengthOfEach(heating)},
+                                       {bores, bores},
+                                       governingMode(),
+                                       resultsState()},
+                                      words);
+    summary.parts = groundParts(*this, results().lengthShares, lengths(), Text::boreResistancePart);
+    return summary;
 }
 
 void frmBHDesign::registerBoreholeValues() {

@@ -66,6 +66,7 @@ class frmBHDesign : public TowerDesign<BoreholeKind> {
 
     std::string descriptionOf(const std::string& image) const override;
 
+    LengthSummary lengthSummary() const override;
     /// What `imgBore` shows.
     BoreDrawing boreDrawing() const;
     /// What `imgField` shows.
@@ -88,6 +89,10 @@ class frmBHDesign : public TowerDesign<BoreholeKind> {
     std::string secondOpinionTip() const;
 
     std::vector<ResultRow> resultRows() const;
+    /// In the field that the results are of.
+    double boresOnShow() const;
+    /// Of each bore, ft; 0 where there are none.
+    double lengthOfEach(Mode mode) const;
     void registerBoreholeValues();
     void addResultValues(Values& values);
     void addAccessors(Values& values);

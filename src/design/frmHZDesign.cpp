@@ -55,26 +55,53 @@ std::vector<ResultRow> frmHZDesign::lengthRows() const {
                          },
                          true};
     };
-    const auto pipes = [this] { return inputsOnShow().arrangement.pipesPerTrench; };
     const auto trenches = [this] { return inputsOnShow().trench.trenchCount; };
-    const auto required = [this](Mode mode) { return results().requiredLength[mode]; };
     const auto pipe = [this](Mode mode) { return results().totalPipeLength[mode]; };
     using namespace modCalculations;
-    return {
-        length("CATotalPipeLengthLabel",
-               {Text::totalPipeLengthEnglish, Text::totalPipeLengthMetric}, pipe, "####0.0"),
-        length("CATotalLengthLabel",
-               {Text::totalTrenchLengthEnglish, Text::totalTrenchLengthMetric},
-               [=](Mode mode) { return totalTrenchLength(required(mode), pipes()); }),
-        length("CATrenchLengthLabel",
-               {Text::singleTrenchLengthEnglish, Text::singleTrenchLengthMetric},
-               [=](Mode mode) { return singleTrenchLength(required(mode), pipes(), trenches()); }),
-        {"CATrenchNumberLabel",
-         {Text::trenchNumberResult, Text::trenchNumberResult},
-         [=](Mode) { return formatNumber(trenches(), "###0"); }},
-        length("CAPipeLengthPerTrenchLabel",
-               {Text::pipeLengthPerTrenchEnglish, Text::pipeLengthPerTrenchMetric},
-               [=](Mode mode) { return pipeLengthPerTrench(pipe(mode), trenches()); })};
+    return {length("CATotalPipeLengthLabel",
+                   {Text::totalPipeLengthEnglish, Text::totalPipeLengthMetric}, pipe, "####0.0"),
+            length("CATotalLengthLabel",
+                   {Text::totalTrenchLengthEnglish, Text::totalTrenchLengthMetric},
+                   [this](Mode mode) { return totalLength(mode); }),
+            length("CATrenchLengthLabel",
+                   {Text::singleTrenchLengthEnglish, Text::singleTrenchLengthMetric},
+                   [this](Mode mode) { return trenchLength(mode); }),
+            {"CATrenchNumberLabel",
+             {Text::trenchNumberResult, Text::trenchNumberResult},
+             [=](Mode) { return formatNumber(trenches(), "###0"); }},
+            length("CAPipeLengthPerTrenchLabel",
+                   {Text::pipeLengthPerTrenchEnglish, Text::pipeLengthPerTrenchMetric},
+                   [=](Mode mode) { return pipeLengthPerTrench(pipe(mode), trenches()); })};
+}
+
+double frmHZDesign::totalLength(Mode mode) const {
+    return modCalculations::totalTrenchLength(results().requiredLength[mode],
+                                              inputsOnShow().arrangement.pipesPerTrench);
+}
+
+double frmHZDesign::trenchLength(Mode mode) const {
+    const HorizontalInputs inputs = inputsOnShow();
+    return modCalculations::singleTrenchLength(results().requiredLength[mode],
+                                               inputs.arrangement.pipesPerTrench,
+                                               inputs.trench.trenchCount);
+}
+
+LengthSummary frmHZDesign::lengthSummary() const {
+    constexpr LoopWords words{{Text::coolingGovernsTrenches, Text::heatingGovernsTrenches},
+                              Text::manyTrenches,
+                              Text::oneTrench,
+                              Text::aTrench};
+    const double trenches = inputsOnShow().trench.trenchCount;
+    const ByMode<double> total{totalLength(cooling), totalLength(heating)};
+    LengthSummary summary = summaryOf(*this,
+                                      {total,
+                                       {trenchLength(cooling), trenchLength(heating)},
+                                       {trenches, trenches},
+                                       governingMode(),
+                                       resultsState()},
+                                      words);
+    summary.parts = groundParts(*this, results().lengthShares, total, Text::pipeResistancePart);
+    return summary;
 }
 
 std::vector<ResultRow> frmHZDesign::resultRows() const {

@@ -35,6 +35,7 @@ class frmHZDesign : public TowerDesign<HorizontalKind> {
 
     std::string descriptionOf(const std::string& image) const override;
 
+    LengthSummary lengthSummary() const override;
     /// What `PADiagramPicture` shows. It follows what is typed.
     TrenchDrawing trenchDrawing() const;
     /// What `imgConfiguration` shows.
@@ -56,6 +57,10 @@ class frmHZDesign : public TowerDesign<HorizontalKind> {
 
  private:
     std::vector<ResultRow> lengthRows() const;
+    /// Of all trenches together, ft.
+    double totalLength(Mode mode) const;
+    /// Of one of them, ft.
+    double trenchLength(Mode mode) const;
     std::vector<ResultRow> resultRows() const;
     void registerInputs();
     void registerResults();

@@ -102,6 +102,40 @@ std::vector<ResultRow> frmSWDesign::resultRows() const {
     return rows;
 }
 
+/// The table's length, and what the flow of the design makes of it.
+std::vector<LengthSegment> frmSWDesign::lengthParts() const {
+    const ByMode<double>& length = results().loopLength;
+    ByMode<double> atTableFlow = results().lengthAtTableFlow;
+    if (atTableFlow == ByMode<double>{}) return {};
+    ByMode<double> rest{};
+    for (const Mode mode : modes) {
+        if (!(length[mode] > 0)) atTableFlow[mode] = 0;
+        rest[mode] = length[mode] - atTableFlow[mode];
+    }
+    const UnitTexts tableFlow{Text::tableFlowPartEnglish, Text::tableFlowPartMetric};
+    return {partOf(*this, tableFlow.in(units()), atTableFlow),
+            partOf(*this, Text::designFlowPart, rest)};
+}
+
+LengthSummary frmSWDesign::lengthSummary() const {
+    constexpr LoopWords words{{Text::coolingGovernsLoops, Text::heatingGovernsLoops},
+                              Text::manyLoops,
+                              Text::oneLoop,
+                              Text::aLoop};
+    FoundLengths found;
+    found.total = lengths();
+    found.governing = governingMode();
+    found.state = resultsState();
+    for (const Mode mode : modes) {
+        const double loops = inputsOnShow().loop.parallelLoops[mode];
+        found.number[mode] = loops;
+        found.each[mode] = loops == 0 ? 0 : found.total[mode] / loops;
+    }
+    LengthSummary summary = summaryOf(*this, found, words);
+    summary.parts = lengthParts();
+    return summary;
+}
+
 void frmSWDesign::registerInputs() {
     Values& values = publicValues();
     const HeaderSoilValues& soil = project_.soil;

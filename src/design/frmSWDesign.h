@@ -44,6 +44,7 @@ class frmSWDesign : public ProjectDesign<SurfaceWaterKind> {
     using GroundDesign::showGoverningMode;
     void showGoverningMode(Mode greyed) override;
 
+    LengthSummary lengthSummary() const override;
     /// What `imgCircuit` shows. It follows what is typed; flows are those of results that are not
     std::string descriptionOf(const std::string& image) const override;
 
@@ -66,6 +67,7 @@ class frmSWDesign : public ProjectDesign<SurfaceWaterKind> {
 
  private:
     std::vector<ResultRow> resultRows() const;
+    std::vector<LengthSegment> lengthParts() const;
     void registerInputs();
     void registerResults();
     /// An approach that did not settle carries a colour of its own.

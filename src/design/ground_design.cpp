@@ -131,6 +131,11 @@ Mode GroundDesign::governingMode() const {
     return length[cooling] > length[heating] ? cooling : heating;
 }
 
+LengthSummary::State GroundDesign::resultsState() const {
+    if (!hasResults()) return LengthSummary::State::none;
+    return showsOlderResults() ? LengthSummary::State::stale : LengthSummary::State::fresh;
+}
+
 void GroundDesign::showGoverningMode() {
     showGoverningMode(governingMode() == cooling ? heating : cooling);
 }

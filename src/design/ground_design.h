@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "design/design_values.h"
+#include "design/length_summary.h"
 #include "design/loads_roll_up.h"
 #include "frame/file_damage.h"
 #include "frame/open_file.h"
@@ -60,6 +61,8 @@ class GroundDesign : public LinkedDesign {
     /// The results on show come from other inputs or loads than the present ones, or the last run
     /// has ended without any.
     bool showsOlderResults() const { return droppedError_ != 0 || resultsAreOlder(); }
+    /// What the results on show come to.
+    virtual LengthSummary lengthSummary() const = 0;
 
     // Form_Load, in the order in which a window is set up.
     void load() override;
@@ -102,6 +105,8 @@ class GroundDesign : public LinkedDesign {
     virtual void rollUp() = 0;
     /// Total lengths on show, ft.
     virtual ByMode<double> lengths() const = 0;
+    /// Whether there are results, and whether they answer the present inputs.
+    LengthSummary::State resultsState() const;
     /// By the lengths at hand: the longer one governs.
     virtual Mode governingMode() const;
     /// Whether a box tells a run's error of that number.

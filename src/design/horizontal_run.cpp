@@ -74,6 +74,7 @@ void settleLengths(const HorizontalInputs& inputs, HorizontalResults& results) {
         calcBoreLengths(terms, calcTemperaturePenalty(site, results.annualGroundLoad, lengths));
     results.lengths = settleTrenchLengths(terms, site, lengths);
     lengths = results.lengths.boreLength;
+    results.lengthShares = lengthShares(terms, lengths);
     results.governingMode = lengths[cooling] > lengths[heating] ? cooling : heating;
 }
 

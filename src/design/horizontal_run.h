@@ -8,6 +8,7 @@
 #include "design/horizontal_values.h"
 #include "design/modCalculations/bore_grid.h"
 #include "design/modCalculations/ground_resistance.h"
+#include "design/modCalculations/length_shares.h"
 #include "design/modCalculations/settling.h"
 #include "design/modCalculations/trench_resistance.h"
 
@@ -39,6 +40,8 @@ struct HorizontalResults : GroundRollUp {
     ByMode<double> groundTempAtDepth{};  ///< at the mean depth of the pipes, degF
     modCalculations::NeighbourCount neighbourCount{};
     modCalculations::SettledLengths lengths;  ///< of single pipe, and the penalties, which last
+    /// Where the lengths of single pipe come from; files hold nothing of it.
+    ByMode<modCalculations::LengthShares> lengthShares;
     /// The mode that needs more single pipe. The coil correction may turn the lengths round where
     /// a part-load factor is 0, and does not change what governs.
     Mode governingMode = heating;

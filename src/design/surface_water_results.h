@@ -34,6 +34,8 @@ struct SurfaceWaterResults : LoadsRollUp {
     modCalculations::PipeFlows flows;
     modCalculations::Approach approach;
     ByMode<double> loopLength{};  ///< of all loops together, ft
+    /// What they would be at the flow of the loops' table, ft; files hold nothing of it.
+    ByMode<double> lengthAtTableFlow{};
     modCalculations::HeadLoss headLoss;
 
     friend bool operator==(const SurfaceWaterResults&, const SurfaceWaterResults&) = default;

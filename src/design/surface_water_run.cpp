@@ -26,8 +26,10 @@ void sizeField(const SurfaceWaterInputs& inputs, SurfaceWaterResults& results) {
     const Headers headers = headersOf(inputs.header, inputs.water);
     results.flows = calculateFlows(results.outlet.systemFlow, results.loops.parallelLoops, headers);
     results.approach = calculateApproach(approachTermsOf(inputs, headers, results.outlet));
-    results.loopLength = calculateLoopLength({inputs.loop.loopStyle, inputs.loop.loopPipeSize},
-                                             lengthTermsOf(inputs.loads, results));
+    const LoopPipe pipe{inputs.loop.loopStyle, inputs.loop.loopPipeSize};
+    const LoopLengthTerms terms = lengthTermsOf(inputs.loads, results);
+    results.loopLength = calculateLoopLength(pipe, terms);
+    results.lengthAtTableFlow = lengthAtTableFlow(pipe, terms);
     results.headLoss = calculateHeadLoss({results.loopLength, results.loops.parallelLoops,
                                           inputs.loop.extraEqvLength, inputs.loop.loopHeadLoss},
                                          headers);

@@ -93,4 +93,11 @@ ByMode<double> calculateLoopLength(const LoopPipe& pipe, const LoopLengthTerms& 
     return length;
 }
 
+ByMode<double> lengthAtTableFlow(const LoopPipe& pipe, const LoopLengthTerms& terms) {
+    ByMode<double> length{};
+    for (Mode m : modes)
+        length[m] = terms.peakLoad[m] / mbtuPerTon * feetPerTon(pipe, m, terms.approachTemp[m]);
+    return length;
+}
+
 }  // namespace varnholt::modCalculations

@@ -44,4 +44,8 @@ struct LoopLengthTerms {
 /// specific heat, 6 for an overflow, and as feetPerTon does.
 ByMode<double> calculateLoopLength(const LoopPipe& pipe, const LoopLengthTerms& terms);
 
+/// What that length would be at the flow of the table, 3 gpm per ton, ft.
+/// Equation: L = tons f. Throws as feetPerTon does.
+ByMode<double> lengthAtTableFlow(const LoopPipe& pipe, const LoopLengthTerms& terms);
+
 }  // namespace varnholt::modCalculations
