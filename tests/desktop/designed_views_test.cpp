@@ -43,6 +43,11 @@ class DesignedViews : public testing::Test {
         std::erase_if(walked, [&](const std::string& name) {
             return form.control(name).container() == "LOSummaryPicture";
         });
+        // Calculate stands in the strip below the pages, in sight from all of them: it comes last.
+        if (form.has("CACalculateCommand")) {
+            ASSERT_EQ(walked.back(), "CACalculateCommand");
+            walked.pop_back();
+        }
         std::vector<std::string> added;
         for (const auto& control : form.controls())
             if (std::find(walked.begin(), walked.end(), control->name()) != walked.end())

@@ -11,6 +11,7 @@
 #include "desktop/drawings/bore_picture.h"
 #include "desktop/drawings/circuit_picture.h"
 #include "desktop/drawings/field_picture.h"
+#include "desktop/drawings/length_picture.h"
 #include "desktop/drawings/link_light.h"
 #include "desktop/drawings/loads_picture.h"
 #include "desktop/drawings/months_picture.h"
@@ -25,7 +26,7 @@ class PictureTexts : public Texts {
  public:
     PictureTexts() {
         for (const std::string name : {"1350_desktop.txt", "1500_import.txt", "2460_pictures.txt",
-                                       "2800_loads.txt", "5000_horizontal.txt"})
+                                       "2551_lengths.txt", "2800_loads.txt", "5000_horizontal.txt"})
             table_.read(readWholeFile(VARNHOLT_SOURCE_DIR "/resources/language/english/" + name),
                         name);
     }
@@ -67,6 +68,27 @@ inline FieldPlan sampleField(double across, double down) {
     plan.acrossLabel = feet(fieldExtent(across, 20)).toStdString();
     plan.downLabel = feet(fieldExtent(down, 20)).toStdString();
     return plan;
+}
+
+/// Lengths of 2029.1 and 1420.1 ft, heating relieved by the year's heat and the warmer ground.
+inline LengthSummary sampleLengths() {
+    LengthSummary lengths;
+    lengths.state = LengthSummary::State::fresh;
+    lengths.governing = cooling;
+    lengths.feet = {2029.1, 1420.1};
+    lengths.length = {"2029.1 ft", "1420.1 ft"};
+    lengths.each = {"338.2 ft", "236.7 ft"};
+    lengths.eachWord = "a bore";
+    const auto part = [](const char* name, double cool, double heat) {
+        const auto feet = [](double length) {
+            return QString::number(length, 'f', 1).toStdString() + " ft";
+        };
+        return LengthSegment{name, {cool, heat}, {feet(cool), feet(heat)}};
+    };
+    lengths.parts = {part("Long-term heat", 20, -46.2), part("Monthly heat", 447.1, 253.4),
+                     part("Short-term pulse", 465, 527), part("Bore resistance", 894.1, 1013.5),
+                     part("Temperature penalty", 202.9, -327.6)};
+    return lengths;
 }
 
 /// A pond as it stands after a run.
@@ -208,6 +230,15 @@ inline std::vector<DrawingSample> drawingSamples() {
     pond("pond_one_loop", samplePond(1, 0, 1, false));
     pond("pond_many", samplePond(40, 30, 9000, true));
     pond("pond_none", {});
+    samples.push_back({"lengths", {520, 130}, [&texts](const Canvas& canvas) {
+                           paintLengths(canvas, sampleLengths(), texts);
+                       }});
+    samples.push_back({"lengths_none", {520, 130}, [&texts](const Canvas& canvas) {
+                           paintLengths(canvas, {}, texts);
+                       }});
+    samples.push_back({"field_small", {220, 150}, [&texts](const Canvas& canvas) {
+                           paintSmallField(canvas, sampleField(10, 14), texts);
+                       }});
     samples.push_back({"loads", {300, 150}, [&texts](const Canvas& canvas) {
                            paintLoads(canvas, sampleLoads(), sampleCaptions(), texts);
                        }});

@@ -10,6 +10,8 @@
 #include "desktop/drawings/day_chart.h"
 #include "desktop/drawings/field_picture.h"
 #include "desktop/drawings/ground_temp_chart.h"
+#include "desktop/drawings/length_picture.h"
+#include "desktop/drawings/length_strip.h"
 #include "desktop/drawings/loop_chart.h"
 #include "desktop/drawings/painted_drawing.h"
 #include "desktop/drawings/trench_picture.h"
@@ -72,6 +74,29 @@ Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts) 
             paintField(canvas, field, texts);
         },
         [&texts](const FieldPlan& field) { return qt(describe(field, texts)); }, {380, 320});
+}
+
+Drawing* newSmallFieldDrawing(std::function<FieldPlan()> source, const Texts& texts) {
+    return new PaintedDrawing<FieldPlan>(
+        std::move(source),
+        [&texts](const Canvas& canvas, const FieldPlan& field) {
+            paintSmallField(canvas, field, texts);
+        },
+        [&texts](const FieldPlan& field) { return qt(describe(field, texts)); }, {220, 150});
+}
+
+Drawing* newLengthDrawing(std::function<LengthSummary()> source, const Texts& texts) {
+    return new PaintedDrawing<LengthSummary>(
+        std::move(source),
+        [&texts](const Canvas& canvas, const LengthSummary& lengths) {
+            paintLengths(canvas, lengths, texts);
+        },
+        [&texts](const LengthSummary& lengths) { return qt(describe(lengths, texts)); },
+        {460, 120});
+}
+
+Drawing* newLengthStrip(std::function<LengthSummary()> source, const Texts& texts) {
+    return new LengthStrip(std::move(source), texts);
 }
 
 Drawing* newTrenchDrawing(std::function<TrenchDrawing()> source, const Texts& texts) {

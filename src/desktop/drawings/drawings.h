@@ -8,6 +8,7 @@
 #include "design/circuit_plan.h"
 #include "design/field_plan.h"
 #include "design/ground_temp_curves.h"
+#include "design/length_summary.h"
 #include "design/loop_curves.h"
 #include "design/trench_drawing.h"
 #include "design/trench_plan.h"
@@ -26,6 +27,12 @@ namespace varnholt {
 
 Drawing* newBoreDrawing(std::function<BoreDrawing()> source, const Texts& texts);
 Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts);
+/// The same in small, with a line of words for its measures.
+Drawing* newSmallFieldDrawing(std::function<FieldPlan()> source, const Texts& texts);
+/// The lengths as bars made of their parts.
+Drawing* newLengthDrawing(std::function<LengthSummary()> source, const Texts& texts);
+/// The lengths in a strip of text.
+Drawing* newLengthStrip(std::function<LengthSummary()> source, const Texts& texts);
 Drawing* newTrenchDrawing(std::function<TrenchDrawing()> source, const Texts& texts);
 Drawing* newTrenchPlanDrawing(std::function<TrenchPlan()> source, const Texts& texts);
 /// @param usual  its size where nothing else decides

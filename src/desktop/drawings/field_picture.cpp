@@ -105,11 +105,11 @@ struct Grid {
     QRectF plot() const { return bores.adjusted(-margin(), -margin(), margin(), margin()); }
 };
 
-Grid gridIn(const Canvas& canvas, const QRectF& room, const FieldPlan& field) {
-    constexpr double ground = 16;
+constexpr double groundAround = 16;
+
+/// @param inner  room for the bores' middles
+Grid gridIn(const Canvas& canvas, const QRectF& inner, const FieldPlan& field) {
     const double ratio = canvas.painter.device()->devicePixelRatioF();
-    const QRectF inner = room.adjusted(dimensionRoom + ground, dimensionRoom + ground, -ground,
-                                       -dimensionRoom - ground);
     Grid grid{std::floor(field.across), std::floor(field.down), widestPitch, {}};
     if (grid.columns > 1) grid.pitch = std::min(grid.pitch, inner.width() / (grid.columns - 1));
     if (grid.rows > 1) grid.pitch = std::min(grid.pitch, inner.height() / (grid.rows - 1));
@@ -214,25 +214,46 @@ void drawDimensions(const Canvas& canvas, const Grid& grid, const FieldPlan& fie
                              plot.right() + away, qt(field.separationLabel));
 }
 
-}  // namespace
+bool isNone(const FieldPlan& field) { return field.across < 1 || field.down < 1; }
 
-void paintField(const Canvas& canvas, const FieldPlan& field, const Texts& texts) {
-    if (field.across < 1 || field.down < 1) {
-        canvas.painter.setPen(canvas.look.muted);
-        canvas.painter.setFont(canvas.words);
-        canvas.painter.drawText(canvas.area, Qt::AlignCenter | Qt::TextWordWrap,
-                                qt(texts.text(Text::fieldPictureEmpty)));
-        return;
-    }
-    const QRectF room = drawLegend(canvas, fieldClasses(field, texts));
-    const Grid grid = gridIn(canvas, room, field);
+void drawNone(const Canvas& canvas, const Texts& texts) {
+    canvas.painter.setPen(canvas.look.muted);
+    canvas.painter.setFont(canvas.words);
+    canvas.painter.drawText(canvas.area, Qt::AlignCenter | Qt::TextWordWrap,
+                            qt(texts.text(Text::fieldPictureEmpty)));
+}
+
+void drawPlan(const Canvas& canvas, const Grid& grid) {
     drawGround(canvas, grid);
     const double lines = std::max(grid.columns, grid.rows);
     if (lines > 1 && grid.pitch < narrowestPitch)
         drawClasses(canvas, grid);
     else
         drawBores(canvas, grid);
+}
+
+}  // namespace
+
+void paintField(const Canvas& canvas, const FieldPlan& field, const Texts& texts) {
+    if (isNone(field)) return drawNone(canvas, texts);
+    const QRectF room = drawLegend(canvas, fieldClasses(field, texts));
+    constexpr double around = dimensionRoom + groundAround;
+    const Grid grid = gridIn(canvas, room.adjusted(around, around, -groundAround, -around), field);
+    drawPlan(canvas, grid);
     drawDimensions(canvas, grid, field);
+}
+
+void paintSmallField(const Canvas& canvas, const FieldPlan& field, const Texts& texts) {
+    if (isNone(field)) return drawNone(canvas, texts);
+    const double line = canvas.textHeight();
+    const QRectF room = canvas.area.adjusted(groundAround, groundAround, -groundAround,
+                                             -groundAround - line - gridStep / 2.0);
+    drawPlan(canvas, gridIn(canvas, room, field));
+    canvas.painter.setPen(canvas.look.muted);
+    canvas.painter.setFont(canvas.words);
+    canvas.painter.drawText(
+        QRectF(canvas.area.left(), canvas.area.bottom() - line, canvas.area.width(), line),
+        Qt::AlignCenter, qt(fieldMeasures(field, texts)));
 }
 
 }  // namespace varnholt

@@ -12,4 +12,7 @@ namespace varnholt {
 /// are shown as areas.
 void paintField(const Canvas& canvas, const FieldPlan& field, const Texts& texts);
 
+/// The same in small: no legend, and its measures in one line below it.
+void paintSmallField(const Canvas& canvas, const FieldPlan& field, const Texts& texts);
+
 }  // namespace varnholt

@@ -16,6 +16,14 @@ const frmBHDesign* designOf(const Binder& bind) {
     return static_cast<const frmBHDesign*>(bind.form());
 }
 
+/// What the plans of the field ask the design for.
+std::function<FieldPlan()> fieldOf(const Binder& bind) {
+    return [&bind] {
+        const frmBHDesign* design = designOf(bind);
+        return design == nullptr ? FieldPlan() : design->fieldPlan();
+    };
+}
+
 QWidget* resultsPage(Binder& bind) {
     QWidget* stands = bind.widget("CASecondStandsLabel");
     mute(stands);
@@ -27,7 +35,8 @@ QWidget* resultsPage(Binder& bind) {
         unitTemperatures(bind),
         systemPerformance(bind),
         {bind.results("CAFlowRateLabel"), bind.results("CASoilTempChangeLabel")}};
-    return row_(grow(resultsPanel(bind, parts)), grow(towerPanel(bind)));
+    Drawing* plan = newSmallFieldDrawing(fieldOf(bind), bind.form()->texts());
+    return resultsPageOf(bind, parts, {grow(smallPlan(bind, plan)), grow(towerPanel(bind))});
 }
 
 QWidget* pipeFields(Binder& bind) {
@@ -56,7 +65,7 @@ QWidget* boreFields(Binder& bind) {
 
 QWidget* pipePage(Binder& bind) {
     return column(group(bind.frame("PIPipeFrame"),
-                        grow(row_(grow(pipeFields(bind)), gap(), grow(boreFields(bind))))));
+                        grow(reflow(grow(pipeFields(bind)), grow(boreFields(bind))))));
 }
 
 QWidget* arrangementFields(Binder& bind) {
@@ -69,15 +78,10 @@ QWidget* arrangementFields(Binder& bind) {
 }
 
 QWidget* arrangementPage(Binder& bind) {
-    Drawing* plan = newFieldDrawing(
-        [&bind] {
-            const frmBHDesign* design = designOf(bind);
-            return design == nullptr ? FieldPlan() : design->fieldPlan();
-        },
-        bind.form()->texts());
+    Drawing* plan = newFieldDrawing(fieldOf(bind), bind.form()->texts());
     return column(
         group(bind.frame("PAFieldFrame"),
-              grow(row_(arrangementFields(bind), gap(), grow(bind.drawing("imgField", plan))))));
+              grow(reflow(arrangementFields(bind), grow(bind.drawing("imgField", plan))))));
 }
 
 }  // namespace

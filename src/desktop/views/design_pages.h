@@ -4,23 +4,30 @@
 #include <vector>
 
 #include "desktop/widgets/field_row.h"
+#include "desktop/widgets/layout.h"
 
 class QWidget;
 
 namespace varnholt {
 
 class Binder;
+class Drawing;
 
 // Pages and panels that the windows of several kinds of design share.
 
 using FieldRows = std::vector<FieldRow>;
 
-/// The window around a design's pages: unit switch, lights of the link, notice.
+/// The window around a design's pages: unit switch, lights of the link and notice above them, below
+/// them the lengths and the command that calculates them.
 QWidget* designWindow(Binder& bind, QWidget* pages);
 
-/// The results in two columns, the parts of their table divided by hairlines, and the command that
-/// calculates them. While the design has no loads a line tells where these come from.
-QWidget* resultsPanel(Binder& bind, const std::vector<FieldRows>& parts);
+/// The page of the results: the length that the design is made for, its table, where the lengths
+/// come from, and what stands beside that in the kind's own window.
+/// @param table  parts of the table, which hairlines divide
+QWidget* resultsPageOf(Binder& bind, const std::vector<FieldRows>& table,
+                       const std::vector<Piece>& beside);
+/// A plan of what is to be laid, in small.
+QWidget* smallPlan(Binder& bind, Drawing* plan);
 /// Parts of that table which every kind of design has.
 FieldRows unitTemperatures(Binder& bind);
 FieldRows systemPerformance(Binder& bind);

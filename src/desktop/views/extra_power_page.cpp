@@ -31,7 +31,7 @@ QWidget* towerPower(Binder& bind) {
 QWidget* extraPowerPage(Binder& bind) {
     QWidget* pumps = pumpPower(bind);
     if (!bind.has("EKWCoolingTowerFrame")) return pumps;
-    return column(row_(grow(pumps), grow(towerPower(bind))));
+    return column(reflow(grow(pumps), grow(towerPower(bind))));
 }
 
 }  // namespace varnholt

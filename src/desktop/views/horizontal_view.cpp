@@ -30,7 +30,9 @@ QWidget* resultsPage(Binder& bind) {
         unitTemperatures(bind),
         systemPerformance(bind),
         {bind.results("CAFlowRateLabel"), bind.results("CASoilTempChangeLabel")}};
-    return row_(grow(resultsPanel(bind, parts)), grow(towerPanel(bind)));
+    Drawing* plan =
+        newTrenchPlanDrawing(sourceOf(bind, &frmHZDesign::trenchPlan), bind.form()->texts());
+    return resultsPageOf(bind, parts, {grow(smallPlan(bind, plan)), grow(towerPanel(bind))});
 }
 
 QWidget* trenchSoilPage(Binder& bind) {
@@ -39,7 +41,7 @@ QWidget* trenchSoilPage(Binder& bind) {
     QWidget* fields =
         column(groundTempPanel(bind), soilPropertiesPanel(bind), groundSwingPanel(bind));
     return column(group(bind.frame("SOSoilFrame"),
-                        grow(row_(fields, gap(), grow(bind.drawing("imgGroundTemp", chart))))));
+                        grow(reflow(fields, grow(bind.drawing("imgGroundTemp", chart))))));
 }
 
 QWidget* trenchPipePage(Binder& bind) {
@@ -68,7 +70,7 @@ QWidget* pipeCount(Binder& bind) {
     constexpr int edgeOfField = gridStep + 2;
     auto* count = static_cast<QLabel*>(bind.widget("PAInTrenchConfigurationLabel(3)"));
     count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    count->setFont(figureFont(count->font()));
+    asFigures(count);
     count->setContentsMargins(0, 0, edgeOfField, 0);
     return count;
 }
@@ -109,9 +111,9 @@ QWidget* pictures(Binder& bind) {
 QWidget* configurationPage(Binder& bind) {
     return column(
         group(bind.frame("PAFieldFrame"),
-              grow(row_(column(trenchFields(bind), pipeFields(bind),
-                               group(bind.frame("PATimeFrame"), grid(bind.row("PATimeText")))),
-                        gap(), grow(pictures(bind))))));
+              grow(reflow(column(trenchFields(bind), pipeFields(bind),
+                                 group(bind.frame("PATimeFrame"), grid(bind.row("PATimeText")))),
+                          grow(pictures(bind))))));
 }
 
 }  // namespace

@@ -8,16 +8,15 @@ namespace varnholt {
 QWidget* informationPage(Binder& bind) {
     return column(group(
         bind.frame("INProjectFrame"),
-        grow(row_(grow(column(grid(bind.row("INProjectNameText"), bind.row("INDesignerNameText"),
-                                   bind.row("INClientNameText"), bind.row("INAddressLine1Text"),
-                                   bind.row("INAddressLine2Text"), bind.row("INCityText"),
-                                   bind.row("INStateText"), bind.row("INZipText"),
-                                   bind.row("INPhoneText"), bind.row("INFaxText"),
-                                   bind.row("INEmailText")))),
-                  gap(),
-                  grow(column(grid(bind.row("INDateDTPicker"), bind.row("INStartDateDTPicker")),
-                              bind.widget("INCommentsLabel"),
-                              grow(bind.widget("INCommentsRichTextBox"))))))));
+        grow(reflow(grow(column(grid(bind.row("INProjectNameText"), bind.row("INDesignerNameText"),
+                                     bind.row("INClientNameText"), bind.row("INAddressLine1Text"),
+                                     bind.row("INAddressLine2Text"), bind.row("INCityText"),
+                                     bind.row("INStateText"), bind.row("INZipText"),
+                                     bind.row("INPhoneText"), bind.row("INFaxText"),
+                                     bind.row("INEmailText")))),
+                    grow(column(grid(bind.row("INDateDTPicker"), bind.row("INStartDateDTPicker")),
+                                bind.widget("INCommentsLabel"),
+                                grow(bind.widget("INCommentsRichTextBox"))))))));
 }
 
 }  // namespace varnholt

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The results of a design, with the command that calculates them.
+// The results of a design.
 #include "desktop/views/design_pages.h"
+#include "desktop/views/length_pieces.h"
 #include "desktop/views/view_pieces.h"
+#include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
 #include "loads/linked_design.h"
 
@@ -13,8 +15,7 @@ bool hasNoLoads(const Binder& bind) {
     return design != nullptr && design->loads().zoneNumber == 0;
 }
 
-}  // namespace
-
+/// The results in two columns. While the design has no loads a line tells where these come from.
 QWidget* resultsPanel(Binder& bind, const std::vector<FieldRows>& parts) {
     FieldRows rows{bind.heads("CATopLabel(0)", "CATopLabel(1)")};
     for (const FieldRows& part : parts) {
@@ -22,8 +23,23 @@ QWidget* resultsPanel(Binder& bind, const std::vector<FieldRows>& parts) {
         rows.insert(rows.end(), part.begin(), part.end());
     }
     return group(bind.frame("CACalculationFrame"), gridOf(rows),
-                 buttons(bind.primary("CACalculateCommand")),
                  hint(bind, Text::enterLoadsFirst, [&bind] { return hasNoLoads(bind); }));
+}
+
+}  // namespace
+
+QWidget* resultsPageOf(Binder& bind, const std::vector<FieldRows>& table,
+                       const std::vector<Piece>& beside) {
+    return column(lengthHeadline(bind),
+                  grow(reflow(grow(resultsPanel(bind, table), 2),
+                              grow(column(grow(lengthPanel(bind)), grow(reflowOf(beside))), 3))));
+}
+
+QWidget* smallPlan(Binder& bind, Drawing* plan) {
+    auto* box = new GroupBox;
+    box->setTitle(qt(bind.text(Text::smallField)));
+    plan->setAccessibleName(box->title());
+    return group(box, grow(bind.drawing(plan)));
 }
 
 FieldRows unitTemperatures(Binder& bind) {

@@ -36,10 +36,10 @@ QWidget* resultsPage(Binder& bind) {
         unitTemperatures(bind),
         systemPerformance(bind),
         {bind.results("CAFlowRateLabel")}};
-    return row_(grow(resultsPanel(bind, parts), 4),
-                grow(group(bind.frame("CACircuitFrame"),
-                           grow(bind.drawing("imgCircuit", circuit(bind, {440, 320})))),
-                     5));
+    return resultsPageOf(
+        bind, parts,
+        {grow(group(bind.frame("CACircuitFrame"),
+                    grow(bind.drawing("imgCircuit", circuit(bind, {440, 260})))))});
 }
 
 QWidget* headersInSoil(Binder& bind) {
@@ -53,7 +53,7 @@ QWidget* waterSoilPage(Binder& bind) {
     QWidget* fields = column(groundTempPanel(bind), headersInSoil(bind),
                              groundSwingPanel(bind, {bind.pair("SOCorrectedTempText")}));
     return column(group(bind.frame("SOSoilFrame"),
-                        grow(row_(fields, gap(), grow(bind.drawing("imgGroundTemp", chart))))));
+                        grow(reflow(fields, grow(bind.drawing("imgGroundTemp", chart))))));
 }
 
 FieldRow loopStyle(Binder& bind) {
@@ -101,19 +101,19 @@ QWidget* headerLosses(Binder& bind, std::size_t kind) {
 
 QWidget* headersPanel(Binder& bind) {
     return group(bind.frame("PIHeaderParametersFrame"),
-                 row_(grow(headerFields(bind, "PIPrimaryHeaderFrame", 0)), gap(),
-                      grow(headerFields(bind, "PIBranchHeaderFrame", 1))),
+                 reflow(grow(headerFields(bind, "PIPrimaryHeaderFrame", 0)),
+                        grow(headerFields(bind, "PIBranchHeaderFrame", 1))),
                  group(bind.frame("PIHeaderHeadLossFrame"),
-                       row_(grow(headerLosses(bind, 0)), gap(), grow(headerLosses(bind, 1)))));
+                       reflow(grow(headerLosses(bind, 0)), grow(headerLosses(bind, 1)))));
 }
 
 QWidget* pipingPage(Binder& bind) {
     return column(
         group(bind.frame("PIPipeParametersSSTab"),
-              grow(row_(grow(loopFields(bind), 2), gap(),
-                        grow(column(headersPanel(bind), bind.widget("PIPipeTablesCommand"),
-                                    grow(bind.drawing(circuit(bind, {440, 140})))),
-                             3)))));
+              grow(reflow(grow(loopFields(bind), 2),
+                          grow(column(headersPanel(bind), bind.widget("PIPipeTablesCommand"),
+                                      grow(bind.drawing(circuit(bind, {440, 140})))),
+                               3)))));
 }
 
 QWidget* temperatures(Binder& bind, const char* frame, const char* array, std::size_t first) {

@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "desktop/widgets/flow_layout.h"
+#include "desktop/widgets/reflow_layout.h"
 #include "desktop/widgets/text_label.h"
 
 namespace varnholt {
@@ -268,6 +269,23 @@ QWidget* rowOf(const std::vector<Piece>& pieces) {
     }
     row->setProperty(expandsProperty, grows);
     return row;
+}
+
+QWidget* reflowOf(const std::vector<Piece>& pieces) {
+    auto* around = new QWidget;
+    auto* layout = new ReflowLayout(around);
+    bool grows = false;
+    for (const Piece& piece : pieces) {
+        if (piece.widget == nullptr) continue;
+        const bool tall = expands({piece.widget});
+        grows = grows || tall;
+        layout->addPiece(piece.widget, piece.stretch, tall);
+    }
+    around->setProperty(expandsProperty, grows);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    around->setSizePolicy(policy);
+    return around;
 }
 
 QWidget* centredRowOf(const std::vector<Piece>& pieces) {

@@ -27,6 +27,7 @@ Piece grow(QWidget* widget, int share = 1);
 
 QWidget* columnOf(const std::vector<Piece>& pieces);
 QWidget* rowOf(const std::vector<Piece>& pieces);
+QWidget* reflowOf(const std::vector<Piece>& pieces);
 QWidget* centredRowOf(const std::vector<Piece>& pieces);
 QWidget* gridOf(const std::vector<FieldRow>& rows);
 
@@ -41,6 +42,13 @@ QWidget* column(P... pieces) {
 template <class... P>
 QWidget* row_(P... pieces) {
     return rowOf({Piece(pieces)...});
+}
+
+/// Pieces beside one another where the window is wide enough for them, else below one another.
+/// Those that grow share the width; the height that is left over is filled.
+template <class... P>
+QWidget* reflow(P... pieces) {
+    return reflowOf({Piece(pieces)...});
 }
 
 /// Pieces beside one another in one line, each in the middle of its height.

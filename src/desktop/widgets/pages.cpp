@@ -28,6 +28,23 @@ class Rule : public QWidget {
     }
 };
 
+class Foot : public QWidget {
+ public:
+    explicit Foot(QWidget* content) {
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(2 * gridStep, gridStep / 2 + 1, 2 * gridStep, gridStep / 2);
+        layout->addWidget(content);
+    }
+
+ protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const Look& look = lookOf(palette());
+        painter.fillRect(rect(), look.surface);
+        painter.fillRect(0, 0, width(), 1, look.hairline);
+    }
+};
+
 class Roomy : public QWidget {
  public:
     Roomy(QWidget* view, const QSize& least) : least_(least) {
@@ -88,6 +105,8 @@ QWidget* bar(QWidget* content) {
     content->layout()->setContentsMargins(2 * gridStep, gridStep, 2 * gridStep, 0);
     return content;
 }
+
+QWidget* foot(QWidget* content) { return new Foot(content); }
 
 QWidget* gap() {
     auto* room = new QWidget;

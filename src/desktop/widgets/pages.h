@@ -11,6 +11,9 @@ namespace varnholt {
 QWidget* page(QWidget* content);
 QWidget* bar(QWidget* content);
 
+/// The bar below the pages, which a hairline parts from them.
+QWidget* foot(QWidget* content);
+
 /// Room between two columns of a page.
 QWidget* gap();
 
