@@ -40,14 +40,15 @@ PumpPicture pumpPicture(const Binder& bind) {
 
 QWidget* catalogue(Binder& bind) {
     Drawing* curves = newPumpCurves([&bind] { return pumpPicture(bind); }, bind.form()->texts());
-    return group(bind.frame("HPCatalogueFrame"),
-                 grid(bind.row("HPManufacturerCombo"), bind.row("HPSeriesCombo")),
-                 bind.widget("HPPumpListLabel"),
-                 grow(row_(bind.widget("HPPumpList"), grow(bind.drawing("LOPumpChart", curves)))));
+    return group(
+        bind.frame("HPCatalogueFrame"),
+        grid(bind.row("HPManufacturerCombo"), bind.row("HPSeriesCombo")),
+        bind.widget("HPPumpListLabel"),
+        grow(reflow(bind.widget("HPPumpList"), grow(bind.drawing("LOPumpChart", curves)))));
 }
 
 }  // namespace
 
-QWidget* heatPumpPage(Binder& bind) { return row_(conditions(bind), grow(catalogue(bind))); }
+QWidget* heatPumpPage(Binder& bind) { return reflow(conditions(bind), grow(catalogue(bind))); }
 
 }  // namespace varnholt

@@ -90,12 +90,13 @@ QWidget* choices(Binder& bind) {
 }  // namespace
 
 QWidget* makeImporterView(Binder& bind) {
-    return roomy(column(commands(bind),
-                        grow(new ScrollPage(
-                            page(column(row_(new MonthTable(bind), gap(),
-                                             grow(column(grow(year(bind)), grow(transfer(bind))))),
-                                        row_(stretch(), bind.widget("cmdImport(1)"))))))),
-                 {960, 720});
+    return roomy(
+        column(
+            commands(bind),
+            grow(new ScrollPage(page(column(
+                reflow(new MonthTable(bind), grow(column(grow(year(bind)), grow(transfer(bind))))),
+                row_(stretch(), bind.widget("cmdImport(1)"))))))),
+        {960, 720});
 }
 
 QWidget* makeImportTableView(Binder& bind) {

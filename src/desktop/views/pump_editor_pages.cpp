@@ -54,7 +54,7 @@ QWidget* unit(Binder& bind, const std::string& name) {
 QWidget* figure(Binder& bind, const std::string& name) {
     constexpr int room = 5 * gridStep;
     QLabel* label = atRight(bind.widget(name));
-    label->setFont(figureFont(label->font()));
+    asFigures(label);
     label->setMinimumWidth(room);
     return label;
 }
@@ -257,7 +257,7 @@ QWidget* pumpDetailsPage(Binder& bind) {
                       false, Text::nothingMeasured);
     });
     return group(bind.frame(pageFrames[0]),
-                 grow(row_(grid(bind.row("PumpModelText"), type), gap(), grow(chart))));
+                 grow(reflow(grid(bind.row("PumpModelText"), type), grow(chart))));
 }
 
 QWidget* ratingPageOf(Binder& bind, Mode mode) {
@@ -270,7 +270,7 @@ QWidget* ratingPageOf(Binder& bind, Mode mode) {
         column(flowPair(bind, mode), atLeft(ratingTable(bind, mode)),
                buttons(bind.widget(elementName("CopyTableCommand", ratingPage[mode]))),
                ratingCurves(bind, mode));
-    return group(bind.frame(pageFrames[ratingPage[mode]]), grow(row_(figures, gap(), grow(chart))));
+    return group(bind.frame(pageFrames[ratingPage[mode]]), grow(reflow(figures, grow(chart))));
 }
 
 QWidget* correctionPageOf(Binder& bind, CorrectionKind kind) {
@@ -292,7 +292,7 @@ QWidget* correctionPageOf(Binder& bind, CorrectionKind kind) {
     QWidget* figures = column(nominal, atLeft(correctionTable(bind, kind)),
                               buttons(bind.widget(elementName("CopyTableCommand", page))),
                               correctionCurves(bind, kind));
-    return group(bind.frame(pageFrames[page]), grow(row_(figures, gap(), grow(chart))));
+    return group(bind.frame(pageFrames[page]), grow(reflow(figures, grow(chart))));
 }
 
 QWidget* pumpTestPage(Binder& bind) {
@@ -307,8 +307,7 @@ QWidget* pumpTestPage(Binder& bind) {
              bind.pair("TestLoadFlowText"), bind.wide(buttons(bind.primary("TestCommand"))),
              bind.results("TestCapacityLabel"), bind.results("TestPowerLabel"),
              bind.results("TestCOPLabel"));
-    return group(bind.frame(pageFrames[5]),
-                 grow(row_(column(figures, stretch()), gap(), grow(chart))));
+    return group(bind.frame(pageFrames[5]), grow(reflow(column(figures, stretch()), grow(chart))));
 }
 
 }  // namespace varnholt

@@ -23,8 +23,8 @@ QWidget* commands(Binder& bind) {
 }
 
 QWidget* lists(Binder& bind) {
-    return centredRow(grid(bind.row("MfgCombo")), gap(), grid(bind.row("SeriesCombo")), stretch(),
-                      bind.widget("MetricCheck"));
+    return reflow(grow(grid(bind.row("MfgCombo"))), grow(grid(bind.row("SeriesCombo"))),
+                  bind.widget("MetricCheck"));
 }
 
 QWidget* nothing(Binder& bind) {

@@ -80,8 +80,8 @@ QWidget* summaryFields(Binder& bind) {
     bind.widget("LOZoneSummaryList")->setMinimumWidth(summaryWidth);
     colourModes(bind.fixedPitch("LOZoneSummaryList"));
     return column(
-        grow(row_(column(summaryHeads(bind), grow(bind.widget("LOZoneSummaryList"))), gap(),
-                  grow(column(totals(bind), grow(bind.drawing("LOBuildingDayChart", day)))))),
+        grow(reflow(column(summaryHeads(bind), grow(bind.widget("LOZoneSummaryList"))),
+                    grow(column(totals(bind), grow(bind.drawing("LOBuildingDayChart", day)))))),
         buttons(bind.widget("LOReturnFromSummaryCommand")));
 }
 

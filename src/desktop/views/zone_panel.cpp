@@ -42,13 +42,14 @@ QWidget* loads(Binder& bind) {
         [&bind] { return loadsCaptions(bind); }, bind.form()->texts());
     return group(
         bind.frame("LODesignLoadsFrame"),
-        row_(column(grid(bind.row("LOZoneReferenceText"), bind.wide(bind.widget("LOLoadsLabel(0)")),
-                         headRow(bind, "LOTimeOfDayLabel", "LOHeatGainsLabel", "LOHeatLossesLabel"),
-                         unitRow(bind, "LOHeatGainsUnitLabel", "LOHeatLossesUnitLabel"),
-                         blockRow(bind, 0), blockRow(bind, 1), blockRow(bind, 2), blockRow(bind, 3),
-                         bind.pair("LOHoursText"), bind.row("LODaysperWeekText")),
-                    buttons(bind.widget("LOEqvHoursCommand"))),
-             grow(bind.drawing("LOLoadsChart", bars))));
+        reflow(
+            column(grid(bind.row("LOZoneReferenceText"), bind.wide(bind.widget("LOLoadsLabel(0)")),
+                        headRow(bind, "LOTimeOfDayLabel", "LOHeatGainsLabel", "LOHeatLossesLabel"),
+                        unitRow(bind, "LOHeatGainsUnitLabel", "LOHeatLossesUnitLabel"),
+                        blockRow(bind, 0), blockRow(bind, 1), blockRow(bind, 2), blockRow(bind, 3),
+                        bind.pair("LOHoursText"), bind.row("LODaysperWeekText")),
+                   buttons(bind.widget("LOEqvHoursCommand"))),
+            grow(bind.drawing("LOLoadsChart", bars))));
 }
 
 FieldRow pumpName(Binder& bind) {
@@ -81,8 +82,8 @@ void narrow(QWidget* field) {
 QWidget* selectionFields(Binder& bind) {
     narrow(bind.widget("LONumberOfUnitsText(0)"));
     return column(
-        row_(grid(bind.row("LOMfgCombo"), bind.row("LOSeriesCombo")), gap(),
-             grid(bind.row("LOPumpNameCombo"), bind.row("LONumberOfUnitsText(0)")), stretch()),
+        reflow(grid(bind.row("LOMfgCombo"), bind.row("LOSeriesCombo")),
+               grow(grid(bind.row("LOPumpNameCombo"), bind.row("LONumberOfUnitsText(0)")))),
         buttons(bind.primary("LOSelectPumpCommand"), bind.widget("LOCancelCommand")));
 }
 
@@ -114,9 +115,9 @@ QWidget* loadSide(Binder& bind, const char* frame, std::size_t first) {
 
 QWidget* detailsFields(Binder& bind) {
     return column(
-        row_(grid(detail(bind, 0), detail(bind, 1), detail(bind, 2)), gap(),
-             column(loadSide(bind, "LOInletAirFrame", 0), loadSide(bind, "LOInletWaterFrame", 2)),
-             gap(), grid(bind.row("LONominalFlowText")), stretch()),
+        reflow(grid(detail(bind, 0), detail(bind, 1), detail(bind, 2)),
+               column(loadSide(bind, "LOInletAirFrame", 0), loadSide(bind, "LOInletWaterFrame", 2)),
+               grow(column(grid(bind.row("LONominalFlowText"))))),
         buttons(bind.widget("LOReturnCommand")));
 }
 
@@ -128,10 +129,10 @@ QWidget* details(Binder& bind) {
 }  // namespace
 
 QWidget* zonePanel(Binder& bind) {
-    return group(bind.frame("LOZoneFrame"),
-                 row_(grow(loads(bind), 3), gap(),
-                      grow(column(specifications(bind), pumpCommands(bind)), 2)),
-                 selection(bind), details(bind));
+    return group(
+        bind.frame("LOZoneFrame"),
+        reflow(grow(loads(bind), 3), grow(column(specifications(bind), pumpCommands(bind)), 2)),
+        selection(bind), details(bind));
 }
 
 }  // namespace varnholt
