@@ -13,6 +13,25 @@ void ChildFrame::setContent(FormWindow* content) {
     setWindowIcon(content->windowIcon());
 }
 
+void ChildFrame::setOwnPlace(const QRect& place) {
+    ownPlace_ = place;
+    setGeometry(place);
+}
+
+void ChildFrame::notePlace() {
+    if (!isMaximized() && !isMinimized()) ownPlace_ = geometry();
+}
+
+void ChildFrame::moveEvent(QMoveEvent* event) {
+    QMdiSubWindow::moveEvent(event);
+    notePlace();
+}
+
+void ChildFrame::resizeEvent(QResizeEvent* event) {
+    QMdiSubWindow::resizeEvent(event);
+    notePlace();
+}
+
 void ChildFrame::closeEvent(QCloseEvent* event) {
     // The main window takes the frame away, after the form's question.
     event->ignore();

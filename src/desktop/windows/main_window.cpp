@@ -24,8 +24,11 @@
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/theme.h"
 #include "desktop/windows/start_page.h"
+#include "desktop/windows/window_order.h"
 #include "forms/text_numbers.h"
 #include "frame/varnmain.h"
+#include "loads/linked_design.h"
+#include "loads/loads_window.h"
 #include "persistence/project_commands.h"
 
 namespace varnholt {
@@ -86,9 +89,7 @@ MainWindow::MainWindow(Varnmain& main, FaultTaker faults, const std::string& rec
     addWindowMenu();
     statusBar()->setSizeGripEnabled(true);
     statusBar()->addPermanentWidget(units_);
-    // What the desktop will put around the window, its title above all, is on the screen too.
-    constexpr QSize frame(2 * gridStep, 6 * gridStep);
-    resize(usualSize().boundedTo(screen()->availableSize() - frame));
+    resize(usualSize().boundedTo(screen()->availableSize().shrunkBy(frameMargins())));
     refresh();
     area_->setBackground(QApplication::palette().brush(QPalette::Window));
     dress(*this);
@@ -204,13 +205,16 @@ void MainWindow::addWindowMenu() {
     struct Row {
         int caption, hint;
         const char* shortcut;
-        void (QMdiArea::*run)();
+        std::function<void()> run;
     };
-    static constexpr Row rows[] = {
-        {Text::tileWindows, Text::tileWindowsHint, "Ctrl+Shift+T", &QMdiArea::tileSubWindows},
-        {Text::cascadeWindows, Text::cascadeWindowsHint, "Ctrl+Shift+C",
-         &QMdiArea::cascadeSubWindows},
-        {Text::nextWindow, Text::nextWindowHint, "Ctrl+Tab", &QMdiArea::activateNextSubWindow}};
+    const Row rows[] = {{Text::tileWindows, Text::tileWindowsHint, "Ctrl+Shift+T",
+                         [this] { area_->tileSubWindows(); }},
+                        {Text::cascadeWindows, Text::cascadeWindowsHint, "Ctrl+Shift+C",
+                         [this] { cascade(*area_); }},
+                        {Text::loadsBesideDesign, Text::loadsBesideDesignHint, "Ctrl+Shift+D",
+                         [this] { setLoadsBesideDesign(); }},
+                        {Text::nextWindow, Text::nextWindowHint, "Ctrl+Tab",
+                         [this] { area_->activateNextSubWindow(); }}};
     std::vector<std::string> captions;
     for (const Row& row : rows) captions.push_back(main_.text(row.caption));
     const std::vector<QString> marked = withMnemonics(captions);
@@ -219,10 +223,23 @@ void MainWindow::addWindowMenu() {
         QAction* action = menu->addAction(marked[place++]);
         action->setShortcut(QKeySequence(QString::fromLatin1(row.shortcut)));
         action->setStatusTip(qt(main_.text(row.hint)));
-        connect(action, &QAction::triggered, area_, row.run);
+        connect(action, &QAction::triggered, area_, [run = row.run] { run(); });
     }
     menu->addSeparator();
     connect(menu, &QMenu::aboutToShow, this, [this] { fillWindowMenu(); });
+}
+
+/// The pair of the window in front; of several designs that share the loads the one that they are
+/// named after.
+void MainWindow::setLoadsBesideDesign() {
+    const auto* design = dynamic_cast<const LinkedDesign*>(main_.activeWindow());
+    const auto* loads = dynamic_cast<const LoadsWindow*>(main_.activeWindow());
+    if (design != nullptr) loads = design->LoadsHome();
+    if (design == nullptr && loads != nullptr && loads->links().named() != nullptr)
+        design = &loads->links().named()->design();
+    if (design == nullptr || loads == nullptr || !frameOf)
+        return statusBar()->showMessage(qt(main_.text(Text::noLinkedPair)));
+    setSideBySide(*area_, *frameOf(*loads), *frameOf(*design));
 }
 
 void MainWindow::fillWindowMenu() {

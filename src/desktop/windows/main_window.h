@@ -13,6 +13,7 @@
 
 class QLabel;
 class QMdiArea;
+class QMdiSubWindow;
 class QStackedWidget;
 
 namespace varnholt {
@@ -28,11 +29,15 @@ class MainWindow : public QMainWindow {
     ~MainWindow() override;
     /// Its first size, where the screen has room for it.
     static QSize usualSize() { return {1280, 860}; }
+    /// What the desktop puts around the window, its title above all, which is on the screen too.
+    static QMargins frameMargins() { return {8, 40, 8, 8}; }
 
     QMdiArea& area() { return *area_; }
     MainMenu& menu() { return *menu_; }
     /// The child windows' area, or the page that says what to do first.
     void showArea(bool area);
+    /// The frame of a child window, null for none; who keeps the frames tells.
+    std::function<QMdiSubWindow*(const Form&)> frameOf;
     /// The start picture; null takes it away.
     void showStartPicture(QWidget* picture);
     /// Opens project and zone files, as named on the command line or dropped on the window.
@@ -53,6 +58,7 @@ class MainWindow : public QMainWindow {
  private:
     void addWindowMenu();
     void fillWindowMenu();
+    void setLoadsBesideDesign();
     void addRecentMenu();
     void fillRecentMenu();
     void refresh();

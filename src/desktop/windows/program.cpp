@@ -71,6 +71,8 @@ int runPrepared(QApplication& application, const CommandLine& line) {
     };
     shelf.setFaultTaker(faults);
     MainWindow window(main, faults, joinPath(folder, "recent files.txt"));
+    WindowPlaces places(joinPath(folder, "window places.ini"));
+    shelf.rememberPlaces(places);
     shelf.setMain(window, main);
     const ReportWindows reports(window, platform, program.reports(), program.texts(),
                                 localeOf(line));
@@ -84,7 +86,9 @@ int runPrepared(QApplication& application, const CommandLine& line) {
         window.guarded([&] { program.recovery()->offer(); });
         window.openFiles(line.files);
     });
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    shelf.keepMainPlace();
+    return status;
 }
 
 int runReading(QApplication& application, const CommandLine& line, std::istream& input) {

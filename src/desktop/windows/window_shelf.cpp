@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QScreen>
+#include <QTabWidget>
 #include <algorithm>
 
 #include "desktop/widgets/qt_text.h"
@@ -46,6 +48,29 @@ void WindowShelf::setMain(MainWindow& window, Varnmain& main) {
                      [this](QMdiSubWindow* frame) { userActivated(frame); });
     window.menu().beforeCommand = [this] { endVisit(); };
     window.menu().afterCommand = [this] { refreshTitles(); };
+    window.frameOf = [this](const Form& form) {
+        return qobject_cast<QMdiSubWindow*>(frameOf(form));
+    };
+    placeMain();
+}
+
+void WindowShelf::placeMain() {
+    const auto place = rememberedPlace(*main_);
+    if (!place) return;
+    const QScreen* screen = QGuiApplication::screenAt(place->geometry.center());
+    if (screen == nullptr) screen = window_->screen();
+    const QRect room = screen->availableGeometry().marginsRemoved(MainWindow::frameMargins());
+    window_->setGeometry(fittedInto(room, place->geometry));
+    if (place->maximised) window_->setWindowState(window_->windowState() | Qt::WindowMaximized);
+}
+
+void WindowShelf::keepMainPlace() {
+    if (remembered_ == nullptr) return;
+    remembered_->keep(main_->formName(), {window_->normalGeometry(), window_->isMaximized(), {}});
+}
+
+std::optional<WindowPlace> WindowShelf::rememberedPlace(const Form& form) const {
+    return remembered_ == nullptr ? std::nullopt : remembered_->placeOf(form.formName());
 }
 
 /// A half-typed field is part of what the command works with.
@@ -81,14 +106,60 @@ void WindowShelf::openChild(ChildWindow& form) {
     frame->onCloseBox = [this, &form] { closeByBox(&form); };
     frame->content().binder().onSettled([this] { refreshTitles(); });
     place(*frame);
-    frame->show();
+    const auto remembered = rememberedPlace(form);
+    if (remembered && remembered->maximised)
+        frame->showMaximized();
+    else
+        frame->show();
     // The frame measures its title with every change of its shape.
     refreshTitle(form);
+    if (remembered) showPages(form, remembered->pages);
+}
+
+/// Turns to the pages that were in front, as a person does: once the window is the active one.
+void WindowShelf::showPages(Form& form, const std::map<std::string, int>& pages) {
+    const Place& place = places_.at(&form);
+    const auto turn = [&binder = place.content->binder(), pages] {
+        for (const auto& [pane, page] : pages) {
+            if (!binder.has(pane)) continue;
+            if (auto* tabs = qobject_cast<QTabWidget*>(binder.widget(pane)))
+                if (page < tabs->count()) tabs->setCurrentIndex(page);
+        }
+    };
+    QMetaObject::invokeMethod(place.content, turn, Qt::QueuedConnection);
+}
+
+void WindowShelf::keepPlace(const Form& form, const ChildFrame& frame) {
+    if (remembered_ == nullptr || !frame.ownPlace().isValid()) return;
+    WindowPlace place{frame.ownPlace(), frame.isMaximized(), {}};
+    for (const auto& control : form.controls())
+        if (control->kind() == ControlKind::tabs && control->index() >= 0)
+            place.pages[control->name()] = control->index();
+    remembered_->keep(form.formName(), place);
+}
+
+/// Where a person has left the last of its kind, within the area; else in the usual place.
+void WindowShelf::place(ChildFrame& frame) {
+    const QRect room(QPoint(0, 0), window_->area().viewport()->size());
+    const auto remembered = rememberedPlace(*frame.content().binder().form());
+    if (remembered)
+        frame.setOwnPlace(freeOfOthers(fittedInto(room, remembered->geometry), frame));
+    else
+        frame.setOwnPlace(usualPlace(frame));
+}
+
+/// A step further for each window that stands there already.
+QRect WindowShelf::freeOfOthers(QRect place, const ChildFrame& frame) const {
+    const QRect room(QPoint(0, 0), window_->area().viewport()->size());
+    for (const QMdiSubWindow* open : window_->area().subWindowList(QMdiArea::CreationOrder))
+        if (open != &frame && open->pos() == place.topLeft())
+            place = fittedInto(room, place.translated(4 * gridStep, 4 * gridStep));
+    return place;
 }
 
 /// As large as what it shows, within the area: beside the windows that are open where there is
 /// room, else a step below and to the right of the last one.
-void WindowShelf::place(ChildFrame& frame) {
+QRect WindowShelf::usualPlace(const ChildFrame& frame) const {
     const QSize room = window_->area().viewport()->size();
     const QSize size = frame.sizeHint().boundedTo(room).expandedTo(QSize(320, 200));
     QPoint corner;
@@ -103,7 +174,7 @@ void WindowShelf::place(ChildFrame& frame) {
     const QPoint last(std::max(0, room.width() - size.width()),
                       std::max(0, room.height() - size.height()));
     corner = QPoint(std::min(corner.x(), last.x()), std::min(corner.y(), last.y()));
-    frame.setGeometry({corner, size});
+    return {corner, size};
 }
 
 void WindowShelf::closed(Form& form) {
@@ -112,6 +183,7 @@ void WindowShelf::closed(Form& form) {
     const Place place = found->second;
     places_.erase(found);
     const Quiet quiet(quiet_);
+    if (place.child != nullptr) keepPlace(form, *place.child);
     place.content->binder().detach();
     if (place.child == nullptr) {
         window_->showStartPicture(nullptr);

@@ -9,6 +9,7 @@
 #include "desktop/views/view_registry.h"
 #include "desktop/windows/child_frame.h"
 #include "desktop/windows/form_dialog.h"
+#include "desktop/windows/window_places.h"
 #include "script/script_platform.h"
 
 class QMdiSubWindow;
@@ -26,6 +27,10 @@ class WindowShelf : public WindowStage, public OpenWindows {
     explicit WindowShelf(bool scripted);
     ~WindowShelf() override;
 
+    /// Windows open where a person has left them, and are remembered there.
+    void rememberPlaces(WindowPlaces& places) { remembered_ = &places; }
+    /// Remembers the main window's place, at the end of the session.
+    void keepMainPlace();
     void setFaultTaker(FaultTaker faults) { faults_ = std::move(faults); }
     /// The main window, before anything opens.
     void setMain(MainWindow& window, Varnmain& main);
@@ -57,6 +62,12 @@ class WindowShelf : public WindowStage, public OpenWindows {
     FormWindow* makeContent(Form& form);
     void openChild(ChildWindow& form);
     void place(ChildFrame& frame);
+    QRect usualPlace(const ChildFrame& frame) const;
+    QRect freeOfOthers(QRect place, const ChildFrame& frame) const;
+    void placeMain();
+    void showPages(Form& form, const std::map<std::string, int>& pages);
+    void keepPlace(const Form& form, const ChildFrame& frame);
+    std::optional<WindowPlace> rememberedPlace(const Form& form) const;
     void closeByBox(Form* form);
     void endVisit();
     void userActivated(QMdiSubWindow* frame);
@@ -66,6 +77,7 @@ class WindowShelf : public WindowStage, public OpenWindows {
     bool isMain(const Form& form) const;
 
     bool scripted_;
+    WindowPlaces* remembered_ = nullptr;
     FaultTaker faults_;
     ViewRegistry views_;
     MainWindow* window_ = nullptr;
