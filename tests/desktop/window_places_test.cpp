@@ -11,6 +11,7 @@
 #include <QStatusBar>
 #include <QTabWidget>
 
+#include "basis/file_system.h"
 #include "desk.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/windows/window_order.h"
