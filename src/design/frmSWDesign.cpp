@@ -103,7 +103,7 @@ std::vector<ResultRow> frmSWDesign::resultRows() const {
 }
 
 /// The table's length, and what the flow of the design makes of it.
-std::vector<LengthPart> frmSWDesign::lengthParts() const {
+std::vector<LengthSegment> frmSWDesign::lengthParts() const {
     const ByMode<double>& length = results().loopLength;
     ByMode<double> atTableFlow = results().lengthAtTableFlow;
     if (atTableFlow == ByMode<double>{}) return {};

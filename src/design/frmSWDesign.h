@@ -67,7 +67,7 @@ class frmSWDesign : public ProjectDesign<SurfaceWaterKind> {
 
  private:
     std::vector<ResultRow> resultRows() const;
-    std::vector<LengthPart> lengthParts() const;
+    std::vector<LengthSegment> lengthParts() const;
     void registerInputs();
     void registerResults();
     /// An approach that did not settle carries a colour of its own.

@@ -68,12 +68,13 @@ LengthSummary summaryOf(const GroundDesign& design, const FoundLengths& found,
     return summary;
 }
 
-LengthPart partOf(const GroundDesign& design, int name, const ByMode<double>& feet) {
+LengthSegment partOf(const GroundDesign& design, int name, const ByMode<double>& feet) {
     return {design.text(name), feet, shownLengths(design, feet)};
 }
 
-std::vector<LengthPart> groundParts(const GroundDesign& design, const ByMode<LengthShares>& shares,
-                                    const ByMode<double>& total, int resistanceName) {
+std::vector<LengthSegment> groundParts(const GroundDesign& design,
+                                       const ByMode<LengthShares>& shares,
+                                       const ByMode<double>& total, int resistanceName) {
     if (shares[cooling].empty() && shares[heating].empty()) return {};
     const ByMode<LengthShares> shown{scaled(shares[cooling], total[cooling]),
                                      scaled(shares[heating], total[heating])};

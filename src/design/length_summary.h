@@ -12,12 +12,12 @@ namespace varnholt {
 class GroundDesign;
 
 /// A part of both modes' lengths.
-struct LengthPart {
+struct LengthSegment {
     std::string name;
     ByMode<double> feet{};         ///< negative where it makes the length shorter
     ByMode<std::string> length{};  ///< the same in the active units, with the unit's word
 
-    friend bool operator==(const LengthPart&, const LengthPart&) = default;
+    friend bool operator==(const LengthSegment&, const LengthSegment&) = default;
 };
 
 /// What a design comes to: how long the loop must be in each mode, which mode governs, and where
@@ -27,12 +27,12 @@ struct LengthSummary {
 
     State state = State::none;
     Mode governing = heating;
-    ByMode<double> feet{};          ///< in all
-    ByMode<std::string> length{};   ///< the same with the unit's word
-    ByMode<std::string> each{};     ///< of one bore, trench or loop
-    std::string eachWord;           ///< "a bore"
-    std::string sentence;           ///< what governs; empty before a run
-    std::vector<LengthPart> parts;  ///< none before a run of this session
+    ByMode<double> feet{};             ///< in all
+    ByMode<std::string> length{};      ///< the same with the unit's word
+    ByMode<std::string> each{};        ///< of one bore, trench or loop
+    std::string eachWord;              ///< "a bore"
+    std::string sentence;              ///< what governs; empty before a run
+    std::vector<LengthSegment> parts;  ///< none before a run of this session
 
     bool found() const { return state != State::none; }
     friend bool operator==(const LengthSummary&, const LengthSummary&) = default;
@@ -58,7 +58,7 @@ LengthSummary summaryOf(const GroundDesign& design, const FoundLengths& found,
                         const LoopWords& words);
 
 /// A part by the text of its name, ft.
-LengthPart partOf(const GroundDesign& design, int name, const ByMode<double>& feet);
+LengthSegment partOf(const GroundDesign& design, int name, const ByMode<double>& feet);
 
 /// The parts of lengths in the ground.
 /// @param shares          of lengths of bore or pipe, ft
@@ -66,8 +66,8 @@ LengthPart partOf(const GroundDesign& design, int name, const ByMode<double>& fe
 ///                        the place of the pipe, ft
 /// @param resistanceName  text of what lies between fluid and ground
 /// @return                none where there are no shares
-std::vector<LengthPart> groundParts(const GroundDesign& design,
-                                    const ByMode<modCalculations::LengthShares>& shares,
-                                    const ByMode<double>& total, int resistanceName);
+std::vector<LengthSegment> groundParts(const GroundDesign& design,
+                                       const ByMode<modCalculations::LengthShares>& shares,
+                                       const ByMode<double>& total, int resistanceName);
 
 }  // namespace varnholt

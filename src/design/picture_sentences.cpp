@@ -159,4 +159,44 @@ std::string describe(const LoopCurves& curves, const Texts& texts) {
     return shown;
 }
 
+std::string fieldMeasures(const FieldPlan& field, const Texts& texts) {
+    return filledIn(texts.text(Text::smallFieldWords),
+                    {counted(std::floor(field.across)), counted(std::floor(field.down)),
+                     field.separationLabel});
+}
+
+std::string describe(const LengthSummary& lengths, const Texts& texts) {
+    if (lengths.parts.empty()) return texts.text(Text::lengthPartsEmpty);
+    std::string sentences;
+    for (const Mode mode : modes) {
+        if (!(lengths.feet[mode] > 0)) continue;
+        std::string parts;
+        for (const LengthSegment& part : lengths.parts)
+            parts += (parts.empty() ? "" : ", ") +
+                     filledIn(texts.text(Text::lengthPart), {part.name, part.length[mode]});
+        sentences += (sentences.empty() ? "" : " ") +
+                     filledIn(texts.text(Text::lengthPartsOfMode),
+                              {modeWord(mode, texts), lengths.length[mode], parts});
+    }
+    return sentences;
+}
+
+std::string stateWords(LengthSummary::State state, const Texts& texts) {
+    switch (state) {
+        case LengthSummary::State::fresh:
+            return texts.text(Text::lengthsFresh);
+        case LengthSummary::State::stale:
+            return texts.text(Text::lengthsStale);
+        default:
+            return texts.text(Text::lengthsNone);
+    }
+}
+
+std::string stripSentence(const LengthSummary& lengths, const Texts& texts) {
+    const std::string state = stateWords(lengths.state, texts);
+    if (!lengths.found()) return state;
+    return filledIn(texts.text(Text::lengthStrip),
+                    {lengths.length[cooling], lengths.length[heating], state});
+}
+
 }  // namespace varnholt

@@ -9,6 +9,7 @@
 #include "design/circuit_plan.h"
 #include "design/field_plan.h"
 #include "design/ground_temp_curves.h"
+#include "design/length_summary.h"
 #include "design/loop_curves.h"
 #include "design/trench_drawing.h"
 #include "design/trench_plan.h"
@@ -26,6 +27,8 @@ std::string describe(const TrenchPlan& plan, const Texts& texts);
 std::string describe(const CircuitPlan& plan, const Texts& texts);
 std::string describe(const GroundTempCurves& curves, const Texts& texts);
 std::string describe(const LoopCurves& curves, const Texts& texts);
+/// Each mode's length with its parts.
+std::string describe(const LengthSummary& lengths, const Texts& texts);
 
 /// Bores of a field with so many neighbours, in words with their number.
 struct FieldClass {
@@ -34,6 +37,14 @@ struct FieldClass {
 };
 /// The classes that the field has, those with most neighbours first.
 std::vector<FieldClass> fieldClasses(const FieldPlan& field, const Texts& texts);
+
+/// Its rows and their separation, in one line.
+std::string fieldMeasures(const FieldPlan& field, const Texts& texts);
+
+/// Whether lengths are those of the inputs.
+std::string stateWords(LengthSummary::State state, const Texts& texts);
+/// Both lengths and that, in a sentence.
+std::string stripSentence(const LengthSummary& lengths, const Texts& texts);
 
 /// What stands below a part of a circuit's diagram; empty where there is nothing to tell.
 struct CircuitCaption {

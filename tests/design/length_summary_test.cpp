@@ -36,7 +36,7 @@ const std::map<int, std::string>& words() {
 /// The parts of a mode together, ft.
 double sumOf(const LengthSummary& lengths, Mode mode) {
     double sum = 0;
-    for (const LengthPart& part : lengths.parts) sum += part.feet[mode];
+    for (const LengthSegment& part : lengths.parts) sum += part.feet[mode];
     return sum;
 }
 
@@ -89,7 +89,7 @@ TEST_F(BoreholeLengths, SayOneBore) {
 TEST_F(BoreholeLengths, ComeFromTheTermsOfTheRun) {
     enterHandCheck();
     calculate();
-    const std::vector<LengthPart> parts = design->lengthSummary().parts;
+    const std::vector<LengthSegment> parts = design->lengthSummary().parts;
     ASSERT_EQ(parts.size(), 5U);
     EXPECT_EQ(parts.front().name, "Long-term heat");
     EXPECT_EQ(parts.back().name, "Temperature penalty");

@@ -83,7 +83,7 @@ inline LengthSummary sampleLengths() {
         const auto feet = [](double length) {
             return QString::number(length, 'f', 1).toStdString() + " ft";
         };
-        return LengthPart{name, {cool, heat}, {feet(cool), feet(heat)}};
+        return LengthSegment{name, {cool, heat}, {feet(cool), feet(heat)}};
     };
     lengths.parts = {part("Long-term heat", 20, -46.2), part("Monthly heat", 447.1, 253.4),
                      part("Short-term pulse", 465, 527), part("Bore resistance", 894.1, 1013.5),

@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QTabWidget>
 
+#include "design/picture_sentences.h"
 #include "desk.h"
 #include "desktop/binding/form_window.h"
 #include "desktop/drawings/drawings.h"
@@ -27,7 +28,7 @@ int pixelsOf(const QImage& image, const QColor& colour, const QRect& place) {
 
 TEST(LengthPicture, TellsEachModesPartsInASentence) {
     EXPECT_EQ(
-        plain(describeLengths(sampleLengths(), pictureTexts())),
+        describe(sampleLengths(), pictureTexts()),
         "Cooling, 2029.1 ft: Long-term heat 20.0 ft, Monthly heat 447.1 ft, Short-term pulse "
         "465.0 ft, Bore resistance 894.1 ft, Temperature penalty 202.9 ft. "
         "Heating, 1420.1 ft: Long-term heat -46.2 ft, Monthly heat 253.4 ft, Short-term pulse "
@@ -35,7 +36,7 @@ TEST(LengthPicture, TellsEachModesPartsInASentence) {
 }
 
 TEST(LengthPicture, SaysWhatToDoBeforeARun) {
-    EXPECT_EQ(plain(describeLengths({}, pictureTexts())),
+    EXPECT_EQ(describe(LengthSummary(), pictureTexts()),
               pictureTexts().text(Text::lengthPartsEmpty));
 }
 

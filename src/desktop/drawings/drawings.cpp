@@ -91,7 +91,7 @@ Drawing* newLengthDrawing(std::function<LengthSummary()> source, const Texts& te
         [&texts](const Canvas& canvas, const LengthSummary& lengths) {
             paintLengths(canvas, lengths, texts);
         },
-        [&texts](const LengthSummary& lengths) { return describeLengths(lengths, texts); },
+        [&texts](const LengthSummary& lengths) { return qt(describe(lengths, texts)); },
         {460, 120});
 }
 

@@ -249,15 +249,11 @@ void paintSmallField(const Canvas& canvas, const FieldPlan& field, const Texts& 
     const QRectF room = canvas.area.adjusted(groundAround, groundAround, -groundAround,
                                              -groundAround - line - gridStep / 2.0);
     drawPlan(canvas, gridIn(canvas, room, field));
-    const QString words =
-        qt(texts.text(Text::smallFieldWords))
-            .arg(QString::number(std::floor(field.across), 'f', 0),
-                 QString::number(std::floor(field.down), 'f', 0), qt(field.separationLabel));
     canvas.painter.setPen(canvas.look.muted);
     canvas.painter.setFont(canvas.words);
     canvas.painter.drawText(
         QRectF(canvas.area.left(), canvas.area.bottom() - line, canvas.area.width(), line),
-        Qt::AlignCenter, words);
+        Qt::AlignCenter, qt(fieldMeasures(field, texts)));
 }
 
 }  // namespace varnholt

@@ -76,7 +76,7 @@ struct Scale {
 std::pair<double, double> reachOf(const LengthSummary& lengths, Mode mode) {
     double shorter = 0;
     double longer = 0;
-    for (const LengthPart& part : lengths.parts)
+    for (const LengthSegment& part : lengths.parts)
         (part.feet[mode] < 0 ? shorter : longer) += part.feet[mode];
     return {shorter, longer};
 }
@@ -114,7 +114,7 @@ void drawBar(const Canvas& canvas, const LengthSummary& lengths, Mode mode, cons
     double shorter = 0;
     double longer = 0;
     for (std::size_t i = 0; i < lengths.parts.size(); ++i) {
-        const LengthPart& part = lengths.parts[i];
+        const LengthSegment& part = lengths.parts[i];
         const double feet = part.feet[mode];
         if (feet == 0) continue;
         double& end = feet < 0 ? shorter : longer;
@@ -232,21 +232,6 @@ void paintLengths(const Canvas& canvas, const LengthSummary& lengths, const Text
     canvas.painter.setPen(QPen(canvas.look.line, 1));
     canvas.painter.drawLine(QPointF(zero, plot.top()), QPointF(zero, plot.bottom()));
     drawLegend(canvas, lengths, legend);
-}
-
-QString describeLengths(const LengthSummary& lengths, const Texts& texts) {
-    if (lengths.parts.empty()) return qt(texts.text(Text::lengthPartsEmpty));
-    QStringList sentences;
-    for (const Mode mode : modes) {
-        if (!(lengths.feet[mode] > 0)) continue;
-        QStringList parts;
-        for (const LengthPart& part : lengths.parts)
-            parts << qt(texts.text(Text::lengthPart)).arg(qt(part.name), qt(part.length[mode]));
-        sentences << qt(texts.text(Text::lengthPartsOfMode))
-                         .arg(wordOf(mode, texts), qt(lengths.length[mode]),
-                              parts.join(QStringLiteral(", ")));
-    }
-    return sentences.join(u' ');
 }
 
 }  // namespace varnholt

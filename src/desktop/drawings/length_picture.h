@@ -12,7 +12,4 @@ namespace varnholt {
 /// up to the length.
 void paintLengths(const Canvas& canvas, const LengthSummary& lengths, const Texts& texts);
 
-/// What the picture shows, for a screen reader: each mode's length with its parts.
-QString describeLengths(const LengthSummary& lengths, const Texts& texts);
-
 }  // namespace varnholt

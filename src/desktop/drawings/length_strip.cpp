@@ -8,6 +8,7 @@
 #include <cmath>
 #include <utility>
 
+#include "design/picture_sentences.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
@@ -22,14 +23,7 @@ constexpr double betweenModes = 3 * gridStep;  // from one mode to the next
 constexpr double smallType = 0.9;              // of the words over the figures
 
 QString stateText(LengthSummary::State state, const Texts& texts) {
-    switch (state) {
-        case LengthSummary::State::fresh:
-            return qt(texts.text(Text::lengthsFresh));
-        case LengthSummary::State::stale:
-            return qt(texts.text(Text::lengthsStale));
-        default:
-            return qt(texts.text(Text::lengthsNone));
-    }
+    return qt(stateWords(state, texts));
 }
 
 QString wordOf(Mode mode, const Texts& texts) {
@@ -68,12 +62,7 @@ void LengthStrip::refresh() {
     update();
 }
 
-QString LengthStrip::description() const {
-    if (!lengths_.found()) return stateText(lengths_.state, texts_);
-    return qt(texts_.text(Text::lengthStrip))
-        .arg(qt(lengths_.length[cooling]), qt(lengths_.length[heating]),
-             stateText(lengths_.state, texts_));
-}
+QString LengthStrip::description() const { return qt(stripSentence(lengths_, texts_)); }
 
 QFont LengthStrip::strong() const {
     QFont font = this->font();

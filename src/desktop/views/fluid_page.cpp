@@ -24,15 +24,17 @@ QWidget* minimumFlow(Binder& bind) {
 
 QWidget* fluidPage(Binder& bind) {
     bind.mark("FLInletTempText(0)", cooling).mark("FLInletTempText(1)", heating);
-    return column(group(
-        bind.frame("FLFluidFrame"),
-        group(bind.frame("FLInletTempFrame"),
-              grid(bind.row("FLInletTempText(0)"), bind.row("FLInletTempText(1)"))),
-        group(bind.frame("FLFlowRateFrame"), grid(bind.row("FLFlowRateText"))),
+    QWidget* temperaturesAndFlow =
+        column(group(bind.frame("FLInletTempFrame"),
+                     grid(bind.row("FLInletTempText(0)"), bind.row("FLInletTempText(1)"))),
+               group(bind.frame("FLFlowRateFrame"), grid(bind.row("FLFlowRateText"))));
+    QWidget* solution =
         group(bind.frame("FLSolutionFrame"),
               grid(fluidType(bind), bind.row("FLSpecificHeatText"), bind.row("FLFluidDensityText")),
-              buttons(bind.widget("FLTablesButton"))),
-        minimumFlow(bind)));
+              buttons(bind.widget("FLTablesButton")));
+    return column(
+        group(bind.frame("FLFluidFrame"),
+              reflow(grow(temperaturesAndFlow), grow(column(solution, minimumFlow(bind))))));
 }
 
 }  // namespace varnholt

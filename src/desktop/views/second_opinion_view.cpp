@@ -155,12 +155,12 @@ QWidget* table(Binder& bind) {
 }  // namespace
 
 QWidget* makeSecondOpinionView(Binder& bind) {
-    QWidget* figures = row_(sizes(bind), gap(), grow(parts(bind)));
+    QWidget* figures = reflow(sizes(bind), grow(parts(bind)));
     QWidget* choices = column(inputs(bind), depth(bind), noticeBar(bind), stretch());
     QWidget* pictures =
-        column(grow(history(bind)), grow(row_(grow(months(bind)), gap(), grow(gFunction(bind)))));
-    QWidget* middle = row_(choices, gap(), grow(pictures));
-    QWidget* below = row_(year(bind), gap(), grow(table(bind)));
+        column(grow(history(bind)), grow(reflow(grow(months(bind)), grow(gFunction(bind)))));
+    QWidget* middle = reflow(choices, grow(pictures));
+    QWidget* below = reflow(year(bind), grow(table(bind)));
     return roomy(column(grow(new ScrollPage(page(column(figures, grow(middle), below))))),
                  {1040, 760});
 }

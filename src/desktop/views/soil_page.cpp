@@ -6,8 +6,8 @@
 namespace varnholt {
 
 QWidget* soilPage(Binder& bind) {
-    return column(
-        group(bind.frame("SOSoilFrame"), groundTempPanel(bind), soilPropertiesPanel(bind)));
+    return column(group(bind.frame("SOSoilFrame"),
+                        reflow(grow(groundTempPanel(bind)), grow(soilPropertiesPanel(bind)))));
 }
 
 QWidget* groundTempPanel(Binder& bind) {

@@ -124,13 +124,15 @@ QWidget* temperatures(Binder& bind, const char* frame, const char* array, std::s
 }
 
 QWidget* waterPage(Binder& bind) {
+    QWidget* details = group(bind.frame("WADetailsFrame"),
+                             grid(bind.row("WASurfaceWaterTypeCombo"),
+                                  bind.row("WASurfaceAreaText"), bind.row("WALoopPipeDepthText")));
     return column(group(
-        bind.frame("WAPropertiesFrame"), temperatures(bind, "WALoopTempFrame", "WALoopTempText", 0),
-        temperatures(bind, "WAPrimaryHeaderFrame", "WAHeaderTempText", 0),
-        temperatures(bind, "WABranchHeaderFrame", "WAHeaderTempText", 2),
-        group(bind.frame("WADetailsFrame"),
-              grid(bind.row("WASurfaceWaterTypeCombo"), bind.row("WASurfaceAreaText"),
-                   bind.row("WALoopPipeDepthText")))));
+        bind.frame("WAPropertiesFrame"),
+        reflow(grow(column(temperatures(bind, "WALoopTempFrame", "WALoopTempText", 0),
+                           temperatures(bind, "WAPrimaryHeaderFrame", "WAHeaderTempText", 0))),
+               grow(column(temperatures(bind, "WABranchHeaderFrame", "WAHeaderTempText", 2),
+                           details)))));
 }
 
 }  // namespace
