@@ -161,8 +161,9 @@ QWidget* makeSecondOpinionView(Binder& bind) {
         column(grow(history(bind)), grow(row_(grow(months(bind)), gap(), grow(gFunction(bind)))));
     QWidget* middle = row_(choices, gap(), grow(pictures));
     QWidget* below = row_(year(bind), gap(), grow(table(bind)));
+    constexpr int width = 130 * gridStep, height = 95 * gridStep;
     return roomy(column(grow(new ScrollPage(page(column(figures, grow(middle), below))))),
-                 {1040, 760});
+                 {width, height});
 }
 
 }  // namespace varnholt
