@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "design/result_values.h"
 #include "design/second_opinion_pictures.h"
 #include "frame/child_window.h"
 
@@ -71,6 +72,9 @@ class frmSecondOpinion : public ChildWindow {
     void hookInputs();
     void registerValues();
     void registerInputs(Values& values);
+    void registerYear(ResultValues<SecondOpinion>& of);
+    void registerSizes(ResultValues<SecondOpinion>& of);
+    void registerShown(ResultValues<SecondOpinion>& of);
 
     // What they show.
     void showCaptions();

@@ -4,6 +4,7 @@
 
 #include <QDeadlineTimer>
 #include <QMouseEvent>
+#include <filesystem>
 
 #include "design/frmBHDesign.h"
 #include "design/frmSecondOpinion.h"
@@ -20,6 +21,11 @@ namespace {
 class SecondOpinionView : public testing::Test {
  protected:
     SecondOpinionView() {
+        const std::filesystem::path examples = VARNHOLT_SOURCE_DIR "/examples";
+        const std::filesystem::path program = desk.folder();
+        constexpr auto replacing = std::filesystem::copy_options::overwrite_existing;
+        std::filesystem::copy(examples / "school-south.vht", program / "work files", replacing);
+        std::filesystem::copy(examples / "school-south.zon", program / "zones", replacing);
         desk.platform.picks.push_back("work files/school-south.vht");
         desk.main().click("mnuFileOpen");
         desk.main().activate(design());

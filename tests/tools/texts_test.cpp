@@ -35,14 +35,8 @@ const std::set<int> shownNowhere{
 
 /// Numbers of a source that stand for themselves: pixels of a window, positions of a slider.
 const std::map<std::string, std::set<int>> plainNumbers{
-    {"design/secondOpinion/field_sizing.cpp", {1000}},
-    {"design/secondOpinion/g_function_memory.cpp", {2000}},
-    {"design/secondOpinion/opinion_case.cpp", {1000}},
-    {"design/secondOpinion/second_opinion.h", {2000, 2500}},
-    {"design/secondOpinion/shown_fluid.cpp", {1000}},
     {"desktop/views/average_block_view.cpp", {1220}},
     {"desktop/views/pump_editor_view.cpp", {1240}},
-    {"desktop/views/second_opinion_view.cpp", {1040}},
     {"desktop/views/zone_manager_view.cpp", {1220}},
     {"desktop/widgets/house_widgets.cpp", {1000}},
     {"desktop/windows/main_window.h", {1280}},
@@ -136,7 +130,8 @@ std::set<int> numbersFetchedIn(const std::string& code) {
 /// Forms hold the texts of their controls in tables and calls of their own: there every whole
 /// number in the ranges is taken for one.
 bool holdsTables(const std::string& path) {
-    return !path.starts_with("design/modCalculations/") && !path.starts_with("basis/");
+    return !path.starts_with("design/modCalculations/") &&
+           !path.starts_with("design/secondOpinion/") && !path.starts_with("basis/");
 }
 
 /// Numbers of texts that stand in the code as numbers: fetched, kept or in a table.

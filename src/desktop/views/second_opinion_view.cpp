@@ -161,8 +161,9 @@ QWidget* makeSecondOpinionView(Binder& bind) {
         column(grow(history(bind)), grow(reflow(grow(months(bind)), grow(gFunction(bind)))));
     QWidget* middle = reflow(choices, grow(pictures));
     QWidget* below = reflow(year(bind), grow(table(bind)));
+    constexpr int width = 130 * gridStep, height = 95 * gridStep;
     return roomy(column(grow(new ScrollPage(page(column(figures, grow(middle), below))))),
-                 {1040, 760});
+                 {width, height});
 }
 
 }  // namespace varnholt

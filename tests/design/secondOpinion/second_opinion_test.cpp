@@ -3,8 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <numbers>
+#include <tuple>
+#include <utility>
 
 #include "design/borehole_project.h"
 #include "design/borehole_run.h"
@@ -24,6 +27,24 @@ TEST(SecondOpinion, AgreesWithThreePublicToolsOnTheirField) {
         EXPECT_EQ(opinion.soMonth[heating], 19 * 12 + 1);
         EXPECT_EQ(opinion.groupCount, 6u);
         EXPECT_NEAR(opinion.soLength[heating], opinion.soDepth[heating] * across * down, 1e-6);
+    }
+}
+
+TEST(SecondOpinion, AgreesWithASecondRouteOnThatField) {
+    // tests/independent/g_function_road.py prints g of 80 and 87 m, the depth and the month.
+    const std::array<double, 10> of80{0.3590, 1.1080,  1.7751,  2.7336,  3.4575,
+                                      6.9368, 13.5558, 16.8974, 19.7461, 22.1987};
+    const std::array<double, 10> of87{0.3590, 1.1081,  1.7754,  2.7345,  3.4597,
+                                      6.9622, 13.7269, 17.2223, 20.2797, 23.0220};
+    SecondOpinionCase theCase = peersCase(6, 4);
+    theCase.window.depthChoice = depthAsTyped;
+    for (const auto& [depth, expected] : {std::pair{80, of80}, {87, of87}}) {
+        theCase.window.typedDepth = feet(depth);
+        const SecondOpinion opinion = opinionOn(theCase);
+        for (std::size_t i = 0; i < expected.size(); ++i)
+            EXPECT_NEAR(opinion.gValue[i], expected[i], 0.0012 * expected[i]) << depth << " " << i;
+        EXPECT_NEAR(opinion.soDepth[heating] * metresPerFoot, 83.52, 0.04);
+        EXPECT_EQ(opinion.soMonth[heating], 229);
     }
 }
 
