@@ -45,6 +45,10 @@ class FileLoads : public PlainLoads {
         saveZoneFile(savePath, document_.data);
         takeFile(savePath);
     }
+    void takeRecovered(std::string_view, const std::string&,
+                       const std::optional<KnownFile>&) override {
+        unsaved = true;
+    }
     bool CheckForSave() override { return checkForSave; }
     bool queryClose() override { return mayClose; }
 
