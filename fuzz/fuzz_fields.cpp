@@ -58,21 +58,23 @@ class Hands : public ScriptPlatform {
 struct Opening {
     const char* command;
     const char* form;
-    /// What brings its fields to life.
-    const char* then;
+    /// What brings its fields to life, or opens a further window.
+    const char* then = "";
+    const char* further = "";
 };
 
 constexpr Opening openings[] = {
-    {"NewBorehole", "frmBHDesign", ""},
-    {"NewHorizontal", "frmHZDesign", ""},
-    {"NewSurfaceWater", "frmSWDesign", ""},
+    {"NewBorehole", "frmBHDesign"},
+    {"NewHorizontal", "frmHZDesign"},
+    {"NewSurfaceWater", "frmSWDesign"},
     {"mnuZoneManage", "frmZoneManage", "LONewCommand"},
-    {"mnuAvgBlock", "frmAvgBlock", ""},
-    {"EditAdd", "frmHPEdit", ""},
-    {"mnuMonthlyLoadsImport", "frmImport1", ""},
-    {"mnuDiffCalc", "frmDiffusivityCalc", ""},
-    {"mnuPumpPowerCalc", "frmPumpPowerCalc", ""},
-    {"mnuEqvHours", "frmEqvHoursCalc", ""},
+    {"mnuAvgBlock", "frmAvgBlock"},
+    {"EditAdd", "frmHPEdit"},
+    {"mnuMonthlyLoadsImport", "frmImport1"},
+    {"mnuDiffCalc", "frmDiffusivityCalc"},
+    {"mnuPumpPowerCalc", "frmPumpPowerCalc"},
+    {"mnuEqvHours", "frmEqvHoursCalc"},
+    {"NewBorehole", "frmBHDesign", "CASecondOpinionCommand", "frmSecondOpinion"},
 };
 
 std::size_t placeOf(char letter) { return static_cast<unsigned char>(letter) - std::size_t{'a'}; }
@@ -84,6 +86,7 @@ Form& openWindow(Varnmain& main, const std::string& line) {
     main.click(opening.command);
     Form& form = *main.find(opening.form);
     if (*opening.then != '\0') form.click(opening.then);
+    if (*opening.further != '\0') return *main.find(opening.further);
     if (std::string(opening.form) == "frmHPEdit") {
         form.choose("MfgCombo", 2);
         form.choose("SeriesCombo", 1);
