@@ -191,7 +191,8 @@ bool DesktopPlatform::waitFor(const std::string& path, std::chrono::milliseconds
         waiting_->show();
     }
     QCoreApplication::processEvents();
-    return !waiting_->wasCanceled();
+    // A dialog that was sent away in another way than by its button waits for nothing either.
+    return !waiting_->wasCanceled() && !waiting_->isHidden();
 }
 
 void DesktopPlatform::openOutside(const std::string& address) {
