@@ -56,6 +56,7 @@ unsigned localeOf(const CommandLine& line) { return line.localeNumber.value_or(p
 int runPrepared(QApplication& application, const CommandLine& line) {
     const InstalledFiles installed = installedFiles();
     const std::string folder = programFolderOf(line, installed);
+    WindowPlaces windowPlaces(joinPath(folder, "window places.ini"));
     WindowShelf shelf(false);
     DesktopPlatform platform(shelf, line.today);
     DesktopPages pages(line.browser);
@@ -71,8 +72,7 @@ int runPrepared(QApplication& application, const CommandLine& line) {
     };
     shelf.setFaultTaker(faults);
     MainWindow window(main, faults, joinPath(folder, "recent files.txt"));
-    WindowPlaces places(joinPath(folder, "window places.ini"));
-    shelf.rememberPlaces(places);
+    shelf.rememberPlaces(windowPlaces);
     shelf.setMain(window, main);
     const ReportWindows reports(window, platform, program.reports(), program.texts(),
                                 localeOf(line));
