@@ -40,9 +40,9 @@ double sumOf(const LengthSummary& lengths, Mode mode) {
     return sum;
 }
 
-class BoreholeLengths : public BoreholeWindow {
+class BoreholeLengthSummary : public BoreholeWindow {
  protected:
-    BoreholeLengths() { texts.known.insert(words().begin(), words().end()); }
+    BoreholeLengthSummary() { texts.known.insert(words().begin(), words().end()); }
     void enterHandCheck() {
         takeZones(handCheckZones());
         typeAndLeave("PAPatternRowsText(0)", "3");
@@ -52,7 +52,7 @@ class BoreholeLengths : public BoreholeWindow {
     }
 };
 
-TEST_F(BoreholeLengths, AreNoneBeforeARun) {
+TEST_F(BoreholeLengthSummary, AreNoneBeforeARun) {
     const LengthSummary lengths = design->lengthSummary();
     EXPECT_EQ(lengths.state, State::none);
     EXPECT_FALSE(lengths.found());
@@ -60,7 +60,7 @@ TEST_F(BoreholeLengths, AreNoneBeforeARun) {
     EXPECT_EQ(lengths.sentence, "");
 }
 
-TEST_F(BoreholeLengths, SayWhatGoverns) {
+TEST_F(BoreholeLengthSummary, SayWhatGoverns) {
     enterHandCheck();
     calculate();
     const LengthSummary lengths = design->lengthSummary();
@@ -77,7 +77,7 @@ TEST_F(BoreholeLengths, SayWhatGoverns) {
               "Cooling governs: 97 m a bore, 6 bores; heating would need 51 m.");
 }
 
-TEST_F(BoreholeLengths, SayOneBore) {
+TEST_F(BoreholeLengthSummary, SayOneBore) {
     enterHandCheck();
     typeAndLeave("PAPatternRowsText(0)", "1");
     typeAndLeave("PAPatternRowsText(1)", "1");
@@ -86,7 +86,7 @@ TEST_F(BoreholeLengths, SayOneBore) {
     EXPECT_NE(sentence.find(" ft a bore, 1 bore; heating"), std::string::npos) << sentence;
 }
 
-TEST_F(BoreholeLengths, ComeFromTheTermsOfTheRun) {
+TEST_F(BoreholeLengthSummary, ComeFromTheTermsOfTheRun) {
     enterHandCheck();
     calculate();
     const std::vector<LengthSegment> parts = design->lengthSummary().parts;
@@ -107,7 +107,7 @@ TEST_F(BoreholeLengths, ComeFromTheTermsOfTheRun) {
         EXPECT_NEAR(sumOf(design->lengthSummary(), mode), design->GetL(mode), 1e-9);
 }
 
-TEST_F(BoreholeLengths, BesideATowerComeFromWhatItLeaves) {
+TEST_F(BoreholeLengthSummary, BesideATowerComeFromWhatItLeaves) {
     enterHandCheck();
     calculate();
     slide(25);
@@ -119,7 +119,7 @@ TEST_F(BoreholeLengths, BesideATowerComeFromWhatItLeaves) {
     EXPECT_NEAR(lengths.parts[3].feet[cooling], 528.54, 0.01);
 }
 
-TEST_F(BoreholeLengths, AreStaleOnceAnInputHasChanged) {
+TEST_F(BoreholeLengthSummary, AreStaleOnceAnInputHasChanged) {
     enterHandCheck();
     calculate();
     const LengthSummary before = design->lengthSummary();
@@ -134,12 +134,12 @@ TEST_F(BoreholeLengths, AreStaleOnceAnInputHasChanged) {
     EXPECT_EQ(design->lengthSummary().state, State::fresh);
 }
 
-class TrenchLengths : public HorizontalWindow {
+class TrenchLengthSummary : public HorizontalWindow {
  protected:
-    TrenchLengths() { texts.known.insert(words().begin(), words().end()); }
+    TrenchLengthSummary() { texts.known.insert(words().begin(), words().end()); }
 };
 
-TEST_F(TrenchLengths, SayWhatGoverns) {
+TEST_F(TrenchLengthSummary, SayWhatGoverns) {
     takeSample();
     setPipes(4);
     typeAndLeave("PAInTrenchConfigurationText(1)", "9");
@@ -155,7 +155,7 @@ TEST_F(TrenchLengths, SayWhatGoverns) {
     for (const Mode mode : modes) EXPECT_NEAR(sumOf(lengths, mode), lengths.feet[mode], 1e-9);
 }
 
-TEST_F(TrenchLengths, OfCoilsAddUpToTheTrenches) {
+TEST_F(TrenchLengthSummary, OfCoilsAddUpToTheTrenches) {
     takeSample();
     choose(3);
     calculate();
@@ -167,12 +167,12 @@ TEST_F(TrenchLengths, OfCoilsAddUpToTheTrenches) {
     }
 }
 
-class LoopLengths : public SurfaceWaterWindow {
+class LoopLengthSummary : public SurfaceWaterWindow {
  protected:
-    LoopLengths() { texts.known.insert(words().begin(), words().end()); }
+    LoopLengthSummary() { texts.known.insert(words().begin(), words().end()); }
 };
 
-TEST_F(LoopLengths, ComeFromTheTableAndTheFlow) {
+TEST_F(LoopLengthSummary, ComeFromTheTableAndTheFlow) {
     take(coilPond());
     EXPECT_FALSE(design->lengthSummary().found());
     calculate();
