@@ -141,10 +141,9 @@ QWidget* summary(Binder& bind) {
 /// The summary above the zone, where it is seen as soon as it opens.
 QWidget* zonesPage(Binder& bind) {
     constexpr int listShare = 1, zoneShare = 3;
-    return split(zoneList(bind),
-                 new ScrollPage(column(firstZone(bind, Text::noZonesYet), grow(summary(bind)),
-                                       zonePanel(bind))),
-                 listShare, zoneShare);
+    QWidget* zone = new ScrollPage(
+        column(firstZone(bind, Text::noZonesYet), grow(summary(bind)), zonePanel(bind)));
+    return column(grow(split(zoneList(bind), zone, listShare, zoneShare)));
 }
 
 }  // namespace
