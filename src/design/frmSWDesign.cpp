@@ -121,16 +121,13 @@ LengthSummary frmSWDesign::lengthSummary() const {
     constexpr LoopWords words{{Text::coolingGovernsLoops, Text::heatingGovernsLoops},
                               Text::manyLoops,
                               Text::oneLoop,
-                              Text::aLoop};
+                              Text::ofPipe};
     FoundLengths found;
-    found.total = lengths();
+    // The modes may have different numbers of loops: what they need in all compares.
+    found.total = found.each = lengths();
     found.governing = governingMode();
     found.state = resultsState();
-    for (const Mode mode : modes) {
-        const double loops = inputsOnShow().loop.parallelLoops[mode];
-        found.number[mode] = loops;
-        found.each[mode] = loops == 0 ? 0 : found.total[mode] / loops;
-    }
+    for (const Mode mode : modes) found.number[mode] = inputsOnShow().loop.parallelLoops[mode];
     LengthSummary summary = summaryOf(*this, found, words);
     summary.parts = lengthParts();
     return summary;

@@ -27,11 +27,11 @@ struct LengthSummary {
 
     State state = State::none;
     Mode governing = heating;
-    ByMode<double> feet{};             ///< in all
-    ByMode<std::string> length{};      ///< the same with the unit's word
-    ByMode<std::string> each{};        ///< of one bore, trench or loop
-    std::string eachWord;              ///< "a bore"
-    std::string sentence;              ///< what governs; empty before a run
+    ByMode<double> feet{};         ///< in all
+    ByMode<std::string> length{};  ///< the same with the unit's word
+    ByMode<std::string> each{};    ///< of one bore or trench; of loops, which differ, all of them
+    std::string eachWord;          ///< "a bore"
+    std::string sentence;          ///< what governs; empty before a run
     std::vector<LengthSegment> parts;  ///< none before a run of this session
 
     bool found() const { return state != State::none; }

@@ -20,7 +20,7 @@ const std::map<int, std::string>& words() {
         {Text::coolingGovernsBores, "Cooling governs: %1 a bore, %2"},
         {Text::heatingGovernsBores, "Heating governs: %1 a bore, %2"},
         {Text::heatingGovernsTrenches, "Heating governs: %1 a trench, %2"},
-        {Text::coolingGovernsLoops, "Cooling governs: %1 a loop, %2"},
+        {Text::coolingGovernsLoops, "Cooling governs: %1 of pipe, %2"},
         {Text::heatingWouldNeed, "%1; heating would need %2."},
         {Text::coolingWouldNeed, "%1; cooling would need %2."},
         {Text::governsAlone, "%1."},
@@ -183,9 +183,9 @@ TEST_F(LoopLengthSummary, ComeFromTheTableAndTheFlow) {
     EXPECT_NEAR(lengths.parts[0].feet[heating], 1946.787, 1e-2);
     EXPECT_NEAR(lengths.parts[1].feet[cooling], 87.159, 1e-2);
     EXPECT_NEAR(lengths.parts[1].feet[heating], 72.715, 1e-2);
-    // 2359.476/9 = 262.16, 2019.502/4 = 504.88
+    // The four loops of heating are longer each, 505 ft against 262, and shorter in all.
     EXPECT_EQ(lengths.sentence,
-              "Cooling governs: 262 ft a loop, 9 loops; heating would need 505 ft.");
+              "Cooling governs: 2359 ft of pipe, 9 loops; heating would need 2020 ft.");
 }
 
 }  // namespace

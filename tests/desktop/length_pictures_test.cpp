@@ -96,7 +96,8 @@ TEST(LengthStrips, TellTheLengthsAndWhetherTheyAreThoseOfTheInputs) {
 }
 
 TEST(LengthStrips, MakeRoomForTheirFigures) {
-    LengthSummary lengths;
+    LengthSummary lengths = sampleLengths();
+    lengths.length = {"9.1 ft", "0.1 ft"};
     LengthStrip strip([&] { return lengths; }, pictureTexts());
     strip.refresh();
     const int before = strip.minimumSizeHint().width();

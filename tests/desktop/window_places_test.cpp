@@ -53,6 +53,11 @@ TEST(WindowPlaces, AreFittedIntoTheRoomThatThereIs) {
 
 class Windows : public testing::Test {
  protected:
+    Windows() { std::filesystem::remove(placesFile()); }
+    ~Windows() override { std::filesystem::remove(placesFile()); }
+    static std::string placesFile() {
+        return (std::filesystem::temp_directory_path() / "varnholt-windows-test.ini").string();
+    }
     ChildWindow& open(const char* entry) {
         desk.window->menu().action(entry)->trigger();
         Desk::settle();
@@ -68,11 +73,12 @@ class Windows : public testing::Test {
     }
     QRect room() { return {QPoint(0, 0), desk.window->area().viewport()->size()}; }
 
+    /// Outlives the windows, which are kept in it when they close.
+    WindowPlaces places{placesFile()};
     Desk desk;
 };
 
 TEST_F(Windows, OpenWhereAPersonHasLeftTheLastOfTheirKind) {
-    WindowPlaces places(desk.folder() + "/places.ini");
     desk.shelf.rememberPlaces(places);
     ChildWindow& first = open("NewBorehole");
     frameOf(first)->setGeometry(60, 40, 720, 480);
@@ -87,7 +93,6 @@ TEST_F(Windows, OpenWhereAPersonHasLeftTheLastOfTheirKind) {
 }
 
 TEST_F(Windows, OpenMaximisedWhereTheyWereAndKeepTheirOwnSize) {
-    WindowPlaces places(desk.folder() + "/places.ini");
     desk.shelf.rememberPlaces(places);
     ChildWindow& first = open("NewBorehole");
     frameOf(first)->setGeometry(60, 40, 720, 480);

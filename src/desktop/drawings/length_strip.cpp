@@ -64,6 +64,9 @@ void LengthStrip::refresh() {
 
 QString LengthStrip::description() const { return qt(stripSentence(lengths_, texts_)); }
 
+/// Where it would say the same as the length itself it is left out.
+bool LengthStrip::hasEach() const { return lengths_.found() && lengths_.each != lengths_.length; }
+
 QFont LengthStrip::strong() const {
     QFont font = this->font();
     font.setBold(true);
@@ -86,7 +89,7 @@ double LengthStrip::widthOf(Mode mode, bool withEach) const {
     const Figures figures = figuresOf(mode);
     const QFontMetricsF words(smaller(font()));
     double width = figures.length.size().width();
-    if (withEach && lengths_.found())
+    if (withEach && hasEach())
         width += 2 * gridStep + figures.each.size().width() + gridStep / 2.0 +
                  QFontMetricsF(font()).horizontalAdvance(figures.eachWord);
     return std::max(width, signRoom + words.horizontalAdvance(wordOf(mode, texts_)));
@@ -134,7 +137,7 @@ double LengthStrip::drawMode(const Canvas& canvas, Mode mode, double x, bool wit
     const double line = top + wordHeight;
     painter.setPen(governs ? canvas.look.ink : canvas.look.muted);
     figures.length.draw(painter, {x, line});
-    if (withEach && lengths_.found()) {
+    if (withEach && hasEach()) {
         painter.setPen(canvas.look.muted);
         const double behind = x + figures.length.size().width() + 2 * gridStep;
         figures.each.draw(painter, {behind, line});

@@ -35,6 +35,7 @@ class LengthStrip : public Drawing {
         QString eachWord;
     };
 
+    bool hasEach() const;
     QFont strong() const;
     Figures figuresOf(Mode mode) const;
     double widthOf(Mode mode, bool withEach) const;

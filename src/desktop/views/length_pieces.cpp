@@ -42,7 +42,7 @@ void showHeadline(const LengthSummary& lengths, TextLabel& figure, TextLabel& wo
     const bool found = lengths.found();
     show(figure, found ? lengths.each[lengths.governing] : "\u2013");
     show(word, found ? lengths.eachWord : std::string());
-    show(sentence, found ? lengths.sentence : untilThen);
+    show(sentence, plain(groupedThousands(qt(found ? lengths.sentence : untilThen))));
     if (found)
         figure.setMode(lengths.governing);
     else
