@@ -114,7 +114,8 @@ void GFunctionWork::integrate() {
             continue;
         }
         ofField_.responses.push_back(segmentResponses(table.ofGroups.data(), pairs_->pairCount()));
-        ofOneBore_.responses.push_back(segmentResponses(table.ofOneBore.data(), 1));
+        if (field_.size() > 1)
+            ofOneBore_.responses.push_back(segmentResponses(table.ofOneBore.data(), 1));
     }
 }
 
@@ -122,7 +123,7 @@ void GFunctionWork::march() {
     const std::size_t last = std::min(times_.size(), nextStep_ + stepsPerSlice);
     for (; nextStep_ < last; ++nextStep_) {
         marchOne(ofField_);
-        marchOne(ofOneBore_);
+        if (field_.size() > 1) marchOne(ofOneBore_);
     }
 }
 
@@ -150,8 +151,10 @@ void GFunctionWork::finish() {
     for (const double hours : evenTimes_) logarithms.push_back(std::log(hours));
     for (const double hours : times_) logarithms.push_back(std::log(hours));
     const bool marches = !times_.empty();
-    result_ = GFunction(std::move(logarithms), marches ? extrapolated(ofField_) : evenG_,
-                        marches ? extrapolated(ofOneBore_) : evenG_, pairs_->groupCount());
+    std::vector<double> g = marches ? extrapolated(ofField_) : evenG_;
+    std::vector<double> ofOneBore = marches && field_.size() > 1 ? extrapolated(ofOneBore_) : g;
+    result_ =
+        GFunction(std::move(logarithms), std::move(g), std::move(ofOneBore), pairs_->groupCount());
     done_ = true;
 }
 

@@ -48,6 +48,7 @@ HeatMarch::HeatMarch(const std::vector<double>& groupSize,
     for (const double weight : weights_) totalLength_ += weight;
     given_.emplace_back(unknowns(), 0);
     past_.resize(unknowns());
+    step_.resize(groups_ * (groups_ + 1) / 2 * square);
     unit_ = mean_ = earlier_ = later_ = past_;
 }
 
@@ -75,19 +76,17 @@ void HeatMarch::setSystem(double duration) {
     std::size_t k = 0;
     while (k < done_ && endOf(k) < duration) ++k;
     const double share = (duration - beginOf(k)) / (endOf(k) - beginOf(k));
-    const double* lower = before(k) == nullptr ? nullptr : before(k)->data();
-    const double* upper = at(k).data();
+    const SegmentResponses& upper = at(k);
+    for (std::size_t i = 0; i < step_.size(); ++i) step_[i] = share * upper[i];
+    if (const SegmentResponses* lower = before(k))
+        for (std::size_t i = 0; i < step_.size(); ++i) step_[i] += (1 - share) * (*lower)[i];
+    const double* block = step_.data();
     for (std::size_t b = 0; b < groups_; ++b)
-        for (std::size_t a = 0; a <= b; ++a) {
-            const std::size_t block = PairCounts::pairOf(a, b) * square;
-            for (std::size_t i = 0; i < square; ++i) {
-                const std::size_t row = b * segmentCount + i % segmentCount;
-                const std::size_t column = a * segmentCount + i / segmentCount;
-                if (row < column) continue;
-                const double base = lower == nullptr ? 0 : lower[block + i];
-                system_.at(row, column) = base + share * (upper[block + i] - base);
+        for (std::size_t a = 0; a <= b; ++a)
+            for (std::size_t u = 0; u < segmentCount; ++u, block += segmentCount) {
+                double* column = system_.column(a * segmentCount + u) + b * segmentCount;
+                std::copy(block, block + segmentCount, column);
             }
-        }
 }
 
 /// What the heat of the past does at the end of this step, which has given none yet.

@@ -63,6 +63,7 @@ class HeatMarch {
     std::size_t done_ = 0;                    ///< steps
     std::vector<std::vector<double>> given_;  ///< heat up to the beginning of each step
     // Of one step.
+    SegmentResponses step_;
     std::vector<double> past_, unit_, mean_, earlier_, later_;
 };
 

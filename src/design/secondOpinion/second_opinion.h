@@ -47,7 +47,8 @@ enum class OpinionFailure {
     noDepthHoldsLimit,    ///< no depth up to greatestOpinionDepth; `waterAtGreatest` tells the rest
     notComputable,        ///< an overflow, or a result that is not finite
     noDesignLength,       ///< of what is shown: the classical run has no length
-    noOpinionLength       ///< of what is shown: no mode has one
+    noOpinionLength,      ///< of what is shown: no mode has one
+    noShownDepth          ///< of what is shown: the depth that is typed is 0
 };
 
 constexpr std::size_t mostBoresOfOpinion = 2500;
@@ -160,7 +161,9 @@ struct SecondOpinion {
     friend bool operator==(const SecondOpinion&, const SecondOpinion&) = default;
 };
 
+namespace secondOpinion {
 class GFunctionMemory;
+}
 
 /// What is kept from one second opinion to the next: the g-functions of the last sixteen depths of
 /// a field. A changed load, temperature or bore resistance needs no new one.
@@ -171,10 +174,10 @@ class SecondOpinionMemory {
     SecondOpinionMemory(SecondOpinionMemory&&) noexcept;
     SecondOpinionMemory& operator=(SecondOpinionMemory&&) noexcept;
 
-    GFunctionMemory& gFunctions() { return *gFunctions_; }
+    secondOpinion::GFunctionMemory& gFunctions() { return *gFunctions_; }
 
  private:
-    std::unique_ptr<GFunctionMemory> gFunctions_;
+    std::unique_ptr<secondOpinion::GFunctionMemory> gFunctions_;
 };
 
 /// A second opinion on the way, computed in slices so that whoever waits for a key can go on

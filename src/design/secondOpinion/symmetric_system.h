@@ -13,8 +13,9 @@ class SymmetricSystem {
         : unknowns_(unknowns), columns_(unknowns * unknowns) {}
 
     std::size_t unknowns() const { return unknowns_; }
-    /// Element of the lower triangle, row >= column, to be set before factorize().
-    double& at(std::size_t row, std::size_t column) { return columns_[column * unknowns_ + row]; }
+    /// A column of the matrix, of which the elements from the diagonal down count. They are to be
+    /// set before factorize().
+    double* column(std::size_t index) { return &columns_[index * unknowns_]; }
     /// False when the system is not positive definite.
     bool factorize();
     /// Puts the solution in the place of the right side.
