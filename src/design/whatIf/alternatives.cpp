@@ -40,8 +40,8 @@ LoopAlternative loopOf(const HorizontalResults& results) {
     const double pipes = results.inputs->arrangement.pipesPerTrench;
     loop.trench = modCalculations::totalTrenchLength(results.requiredLength[mode], pipes);
     const double percent = results.inputs->loads.hybridOn ? results.inputs->loads.hybridPercent : 0;
-    loop.year.towerTons = towerTons(loop.year.peakLoad[cooling], loop.year.heatPumpCOP[cooling],
-                                    percent);
+    loop.year.towerTons =
+        towerTons(loop.year.peakLoad[cooling], loop.year.heatPumpCOP[cooling], percent);
     loop.year.towerHours = percent > 0 ? results.tower.hours : 0;
     return loop;
 }
@@ -63,8 +63,8 @@ AlternativeFigures withoutFigures(const Alternative& alternative, Reason reason)
     AlternativeFigures figures;
     figures.name = alternative.name;
     figures.kind = alternative.kind;
-    figures.reason = reason.holds() ? std::move(reason)
-                                    : Reason{Text::alternativeWithoutLength, {}};
+    figures.reason =
+        reason.holds() ? std::move(reason) : Reason{Text::alternativeWithoutLength, {}};
     return figures;
 }
 
@@ -94,11 +94,11 @@ AlternativeFigures loopAlternative(const Alternative& alternative, const Prices&
     result.name = alternative.name;
     result.kind = alternative.kind;
     result.length = loop.pipe;
-    result.first = loopCost(loop.trench, loop.pipe, prices) +
-                   loop.year.towerTons * prices.costTower;
+    result.first =
+        loopCost(loop.trench, loop.pipe, prices) + loop.year.towerTons * prices.costTower;
     result.energy = yearlyEnergy(loop.year, prices);
-    result.life = lifeCost(result.first, yearlyCost(result.energy, loop.year.towerTons, prices),
-                           prices);
+    result.life =
+        lifeCost(result.first, yearlyCost(result.energy, loop.year.towerTons, prices), prices);
     return result;
 }
 

@@ -42,11 +42,11 @@ struct AlternativeFigures {
     AlternativeKind kind = AlternativeKind::borehole;
     double length = 0;  ///< of bore or pipe, ft
     double bores = 0;
-    double depth = 0;  ///< of a bore, ft
-    double first = 0;  ///< first cost
-    double life = 0;   ///< cost over life
-    double energy = 0; ///< kWh a year
-    Reason reason;     ///< why there is no length
+    double depth = 0;   ///< of a bore, ft
+    double first = 0;   ///< first cost
+    double life = 0;    ///< cost over life
+    double energy = 0;  ///< kWh a year
+    Reason reason;      ///< why there is no length
 
     friend bool operator==(const AlternativeFigures&, const AlternativeFigures&) = default;
 };

@@ -20,13 +20,19 @@ std::vector<double> gathered(const Sets& sets, Figure figure) {
     return numbers;
 }
 
+/// Place of a quantile among sorted numbers. A share such as 0.1 of 10 is one of them, whatever the
+/// product rounds to.
+std::size_t placeOf(double share, std::size_t numbers) {
+    const auto count = static_cast<double>(numbers);
+    return static_cast<std::size_t>(std::clamp(std::ceil(share * count - 1e-9), 1.0, count)) - 1;
+}
+
 /// The element that quantileOf would find in the numbers sorted, which are left partly sorted.
 double quantileAmong(std::vector<double>& numbers, double share) {
-    const auto count = static_cast<double>(numbers.size());
-    const auto place =
-        static_cast<std::ptrdiff_t>(std::clamp(std::ceil(share * count - 1e-9), 1.0, count) - 1);
-    std::nth_element(numbers.begin(), numbers.begin() + place, numbers.end());
-    return numbers[static_cast<std::size_t>(place)];
+    const std::size_t place = placeOf(share, numbers.size());
+    std::nth_element(numbers.begin(), numbers.begin() + static_cast<std::ptrdiff_t>(place),
+                     numbers.end());
+    return numbers[place];
 }
 
 Deciles decilesAmong(std::vector<double> numbers) {
@@ -58,20 +64,22 @@ double shareWithin(const std::vector<double>& numbers, double limit) {
 }  // namespace
 
 double quantileOf(const std::vector<double>& sorted, double share) {
-    const auto count = static_cast<double>(sorted.size());
-    // A share such as 0.1 of 10 cases is one case, whatever the product rounds to.
-    const double place = std::clamp(std::ceil(share * count - 1e-9), 1.0, count);
-    return sorted[static_cast<std::size_t>(place) - 1];
+    return sorted[placeOf(share, sorted.size())];
 }
 
 void CertaintySum::add(std::vector<CaseFigures> set) { sets_.push_back(std::move(set)); }
+
+std::vector<double> CertaintySum::needs() const {
+    std::vector<double> needs = gathered(sets_, [](const CaseFigures& c) { return c.need(); });
+    std::sort(needs.begin(), needs.end());
+    return needs;
+}
 
 Certainty CertaintySum::certainty(double drawnLength, double confidence) const {
     Certainty result;
     if (sets_.empty()) return result;
     std::vector<double>& needs = result.needs;
-    needs = gathered(sets_, [](const CaseFigures& c) { return c.need(); });
-    std::sort(needs.begin(), needs.end());
+    needs = this->needs();
     result.sampleCount = needs.size();
     const auto firstFailed = std::lower_bound(needs.begin(), needs.end(), noLength);
     result.failedSamples = static_cast<std::size_t>(needs.end() - firstFailed);

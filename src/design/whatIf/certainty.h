@@ -47,6 +47,7 @@ class CertaintySum {
     /// @param drawnLength  of all bores, ft
     /// @param confidence   share of the cases
     Certainty certainty(double drawnLength, double confidence) const;
+    std::vector<double> needs() const;  ///< sorted, ft
 
  private:
     std::vector<std::vector<CaseFigures>> sets_;

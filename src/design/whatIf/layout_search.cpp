@@ -206,6 +206,11 @@ void LayoutSearch::computeClassical() {
     conclude();
 }
 
+double LayoutSearch::estimatedDepth(const Candidate& candidate) const {
+    const double ratio = candidate.weights > 0 ? candidate.ratios / candidate.weights : 1;
+    return depthOf(candidate.field, candidate.classical * ratio);
+}
+
 /// The uncomputed field of the cheapest estimate within the depths; where there is none, the one of
 /// the least depth.
 std::optional<std::size_t> LayoutSearch::cheapestEstimate() const {
@@ -214,8 +219,7 @@ std::optional<std::size_t> LayoutSearch::cheapestEstimate() const {
     for (std::size_t i = 0; i < candidates_.size(); ++i) {
         const Candidate& candidate = candidates_[i];
         if (candidate.computed) continue;
-        const double ratio = candidate.weights > 0 ? candidate.ratios / candidate.weights : 1;
-        const double depth = depthOf(candidate.field, candidate.classical * ratio);
+        const double depth = estimatedDepth(candidate);
         if (!leastDeep || depth < leastDepth) {
             leastDeep = i;
             leastDepth = depth;
@@ -230,9 +234,12 @@ std::optional<std::size_t> LayoutSearch::cheapestEstimate() const {
     return cheapest ? cheapest : leastDeep;
 }
 
-bool LayoutSearch::computeByGFunctions(std::size_t index) {
+std::optional<bool> LayoutSearch::computeByGFunctions(std::size_t index) {
     const LatticeField& field = candidates_[index].field;
-    const double need = byGFunctions_(boresOf(land_, field), field);
+    const std::optional<double> computed =
+        byGFunctions_(boresOf(land_, field), field, estimatedDepth(candidates_[index]));
+    if (!computed) return std::nullopt;
+    const double need = *computed;
     candidates_[index].computed = true;
     const double classical = candidates_[index].classical;
     if (need < noLength && classical > 0)
@@ -250,9 +257,13 @@ bool LayoutSearch::computeByGFunctions(std::size_t index) {
 }
 
 void LayoutSearch::computeNext() {
-    const std::optional<std::size_t> next = cheapestEstimate();
+    if (!waiting_) waiting_ = cheapestEstimate();
+    const std::optional<std::size_t> next = waiting_;
     if (next) {
-        fruitless_ = computeByGFunctions(*next) ? 0 : fruitless_ + 1;
+        const std::optional<bool> fruitful = computeByGFunctions(*next);
+        if (!fruitful) return;
+        waiting_.reset();
+        fruitless_ = *fruitful ? 0 : fruitless_ + 1;
         ++computed_;
     }
     if (next && computed_ < mostComputed && fruitless_ < mostFruitless) return;
@@ -290,8 +301,8 @@ void LayoutSearch::queueNeighbours() {
 
 void LayoutSearch::computeNeighbour() {
     if (next_ < neighbours_.size()) {
-        const std::size_t index = neighbours_[next_++];
-        if (!candidates_[index].computed) computeByGFunctions(index);
+        const std::size_t index = neighbours_[next_];
+        if (candidates_[index].computed || computeByGFunctions(index)) ++next_;
         return;
     }
     conclude();
@@ -314,9 +325,12 @@ void LayoutSearch::conclude() {
 void LayoutSearch::computeOther() {
     const std::size_t listed = std::min(result_.fields.size(), listedFields);
     if (next_ < listed) {
-        LayoutField& field = result_.fields[next_++];
-        const double need = byGFunctions_(boresOf(land_, field.field), field.field);
-        if (need < noLength) field.otherDepth = depthOf(field.field, need);
+        LayoutField& field = result_.fields[next_];
+        const std::optional<double> need =
+            byGFunctions_(boresOf(land_, field.field), field.field, field.depth);
+        if (!need) return;
+        if (*need < noLength) field.otherDepth = depthOf(field.field, *need);
+        ++next_;
     }
     if (next_ == listed) stage_ = Stage::done;
 }

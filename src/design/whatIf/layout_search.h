@@ -68,10 +68,12 @@ struct LayoutCase {
 /// The land as it is typed or drawn.
 Land landOf(const LandValues& values);
 
-/// The need of a field by g-functions, ft; noLength where there is none.
-/// @param bores  their places, ft
-using NeedByGFunctions =
-    std::function<double(const std::vector<Point>& bores, const LatticeField& field)>;
+/// The need of a field by g-functions, ft; noLength where there is none. None while it is being
+/// computed: asked again, it works on it for some milliseconds.
+/// @param bores       their places, ft
+/// @param startDepth  a guess, ft
+using NeedByGFunctions = std::function<std::optional<double>(
+    const std::vector<Point>& bores, const LatticeField& field, double startDepth)>;
 
 /// Finds the cheapest fields of bores that a land allows, in slices.
 ///
@@ -112,7 +114,9 @@ class LayoutSearch {
     double depthOf(const LatticeField& field, double need) const;
     double costOf(const LatticeField& field, double depth) const;
     bool take(const LatticeField& field, double need);
-    bool computeByGFunctions(std::size_t index);
+    /// None while the field's need is being computed.
+    std::optional<bool> computeByGFunctions(std::size_t index);
+    double estimatedDepth(const Candidate& candidate) const;
     std::optional<std::size_t> cheapestEstimate() const;
     std::optional<std::size_t> candidateLike(double separation, std::size_t rows,
                                              std::size_t columns) const;
@@ -127,6 +131,7 @@ class LayoutSearch {
     std::optional<FieldFinder> finder_;
     double towerTons_ = 0;
     std::vector<Candidate> candidates_;
+    std::optional<std::size_t> waiting_;  ///< whose need is being computed
     std::size_t next_ = 0;
     int computed_ = 0, fruitless_ = 0;
     std::vector<std::size_t> neighbours_;

@@ -38,6 +38,7 @@ SettledMode settledMode(const modCalculations::LengthTerms& terms, Mode mode,
 struct CaseFigures {
     ByMode<double> length{};    ///< ft; 0 without load, noLength where there is none
     ByMode<double> entering{};  ///< water entering the units at a given length, degF
+    bool computed = true;       ///< the arithmetic came to figures
 
     double need() const;  ///< the greater of the lengths
     bool hasNeed() const { return need() < noLength; }

@@ -37,6 +37,15 @@ void ShareSum::add(const Drivers& first, const Drivers& second,
     failed_ = failed_ || !std::isfinite(ofFirst) || !std::isfinite(ofSecond);
 }
 
+void ShareSum::add(const ShareSum& other) {
+    failed_ = failed_ || other.failed_;
+    ends_.insert(ends_.end(), other.ends_.begin(), other.ends_.end());
+    for (std::size_t j = 0; j < quantityCount; ++j) {
+        fromFirst_[j] += other.fromFirst_[j];
+        fromSecond_[j] += other.fromSecond_[j];
+    }
+}
+
 Shares ShareSum::shares() const {
     Shares result;
     if (failed_ || ends_.empty()) return result;

@@ -34,6 +34,8 @@ class ShareSum {
     /// @param f  the length of a case by its drivers, ft
     void add(const Drivers& first, const Drivers& second,
              const std::function<double(const Drivers&)>& f);
+    /// Takes over what another sum has.
+    void add(const ShareSum& other);
     Shares shares() const;
 
  private:

@@ -30,9 +30,9 @@ struct WhatIfCase {
 
 /// What is asked for: a page asks for what it shows. The base is always there.
 struct WhatIfWanted {
-    bool decides = false;       ///< tornado, levers and shares
-    bool sure = false;          ///< the distribution, what a test would save, the other method
-    bool cost = false;          ///< of the design at its drawn depth
+    bool decides = false;  ///< tornado, levers and shares
+    bool sure = false;     ///< the distribution, what a test would save, the other method
+    bool cost = false;     ///< of the design at its drawn depth
     bool tower = false;
     bool alternatives = false;
 
@@ -49,22 +49,22 @@ struct WhatIf {
     Reason reasonOfOther;  ///< why the other method has no need
 
     // The design as it stands.
-    ByMode<double> needLength{};      ///< ft
-    double needGoverning = 0;         ///< the greater, ft; 0 where a loaded mode has none
-    std::optional<Mode> governing;    ///< none without a need
-    double boreDepth = 0;             ///< needGoverning over the bores, ft
+    ByMode<double> needLength{};    ///< ft
+    double needGoverning = 0;       ///< the greater, ft; 0 where a loaded mode has none
+    std::optional<Mode> governing;  ///< none without a need
+    double boreDepth = 0;           ///< needGoverning over the bores, ft
     double bores = 0;
-    double drawnDepth = 0;            ///< of a bore, as drawn or as needed, ft
-    double otherNeed = 0;             ///< needGoverning by the other method, ft
+    double drawnDepth = 0;  ///< of a bore, as drawn or as needed, ft
+    double otherNeed = 0;   ///< needGoverning by the other method, ft
     /// The mode has a length here that a run of the design does not show, because the other mode
     /// does not settle there.
     ByMode<bool> hiddenByRun{};
 
     // What decides.
-    std::array<double, quantityCount> tornadoLow{}, tornadoHigh{};     ///< ft
-    std::array<std::size_t, quantityCount> tornadoRank{};              ///< longest bar first
-    std::array<double, leverCount> leverLow{}, leverHigh{};            ///< ft
-    std::array<double, quantityCount> share{}, shareAlone{};           ///< fractions
+    std::array<double, quantityCount> tornadoLow{}, tornadoHigh{};  ///< ft
+    std::array<std::size_t, quantityCount> tornadoRank{};           ///< longest bar first
+    std::array<double, leverCount> leverLow{}, leverHigh{};         ///< ft
+    std::array<double, quantityCount> share{}, shareAlone{};        ///< fractions
 
     // How sure.
     double needP10 = 0, needP50 = 0, needP90 = 0, needMean = 0, needError = 0;  ///< ft
@@ -89,6 +89,9 @@ struct WhatIf {
     friend bool operator==(const WhatIf&, const WhatIf&) = default;
 };
 
+struct WhatIfKept;
+class WhatIfWork;
+
 /// What is kept from one computation to the next: the drivers of the cases, which are the same for
 /// every design, and g-functions.
 class WhatIfMemory {
@@ -98,10 +101,10 @@ class WhatIfMemory {
     WhatIfMemory(WhatIfMemory&&) noexcept;
     WhatIfMemory& operator=(WhatIfMemory&&) noexcept;
 
+    WhatIfKept& kept() { return *kept_; }
+
  private:
-    friend class WhatIfRun;
-    struct Kept;
-    std::unique_ptr<Kept> kept_;
+    std::unique_ptr<WhatIfKept> kept_;
 };
 
 /// The window's figures on the way, computed in slices so that whoever waits for a key can go on
@@ -124,11 +127,10 @@ class WhatIfRun {
     bool step();
     bool isFinal() const;
     /// What is known so far: figures of the distribution come from the sets that are done.
-    const WhatIf& result() const;
+    const WhatIf& result();
 
  private:
-    class Work;
-    std::unique_ptr<Work> work_;
+    std::unique_ptr<WhatIfWork> work_;
 };
 
 /// All that is wanted at once.

@@ -24,8 +24,8 @@ struct WhatIfNumber {
 /// A choice among some options, counted from 0.
 struct WhatIfChoice {
     std::string name;
-    std::int16_t WhatIfInputs::* direct = nullptr;
-    std::int16_t LayoutValues::* ofLayout = nullptr;
+    std::int16_t WhatIfInputs::*direct = nullptr;
+    std::int16_t LayoutValues::*ofLayout = nullptr;
     std::int16_t most = 0;
 
     std::int16_t& in(WhatIfInputs& inputs) const;
