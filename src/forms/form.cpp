@@ -267,6 +267,12 @@ void Form::fallBehind() {
     tellObservers([this](FormObserver& observer) { observer.fellBehind(*this); });
 }
 
+bool Form::hasIdleTime() const {
+    return std::any_of(observers_.begin(), observers_.end(), [](const FormObserver* observer) {
+        return observer != nullptr && observer->worksBetweenActions();
+    });
+}
+
 void Form::catchUp() {
     if (behind_) behind_ = !workLate(true);
 }

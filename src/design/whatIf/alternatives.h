@@ -21,6 +21,8 @@ struct LoopAlternative {
     double pipe = 0;    ///< total length of the governing mode, ft; 0 for none
     double trench = 0;  ///< total length, ft; none in a pond
     EnergyYear year;
+
+    friend bool operator==(const LoopAlternative&, const LoopAlternative&) = default;
 };
 LoopAlternative loopOf(const HorizontalResults& results);
 LoopAlternative loopOf(const SurfaceWaterResults& results);
@@ -31,6 +33,8 @@ struct Alternative {
     AlternativeKind kind = AlternativeKind::borehole;
     std::optional<BoreholeInputs> design;  ///< of bores
     LoopAlternative loop;                  ///< of all else
+
+    friend bool operator==(const Alternative&, const Alternative&) = default;
 };
 
 /// A kept design with the present loads, its tower as a move of the slider has it.

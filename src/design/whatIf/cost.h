@@ -71,6 +71,8 @@ struct EnergyYear {
     modCalculations::ExtraPower extraPower{};
     double towerTons = 0;
     double towerHours = 0;  ///< hr a year at full capacity
+
+    friend bool operator==(const EnergyYear&, const EnergyYear&) = default;
 };
 
 /// Electric energy of a year, kWh: heat pumps, circulation through their hours at full load, tower.

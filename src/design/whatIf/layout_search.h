@@ -63,6 +63,8 @@ struct LayoutCase {
     LayoutValues layout;
     Prices prices;
     WhatIfMeasure measure = classicalMethod;
+
+    friend bool operator==(const LayoutCase&, const LayoutCase&) = default;
 };
 
 /// The land as it is typed or drawn.

@@ -26,6 +26,8 @@ struct WhatIfCase {
     SecondOpinionInputs secondOpinion;             ///< for the method by g-functions
     std::optional<ByMode<MonthlyLoads>> imported;  ///< of the importer, where it is open
     std::vector<Alternative> others;               ///< other open designs, in that order
+
+    friend bool operator==(const WhatIfCase&, const WhatIfCase&) = default;
 };
 
 /// What is asked for: a page asks for what it shows. The base is always there.
