@@ -98,7 +98,10 @@ void LineFileReader::readItem(std::int16_t& value) { value = toInteger(leadingNu
 std::string_view LineFileReader::takeLine() {
     if (left_.empty()) throw RunTimeError(62);
     ++lineNumber_;
-    return takeFirstLine(left_);
+    const std::size_t before = left_.size();
+    const std::string_view line = takeFirstLine(left_);
+    lineEnded_ = before > left_.size() + line.size();
+    return line;
 }
 
 std::string LineFileReader::line() {

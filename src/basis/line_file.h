@@ -73,6 +73,14 @@ class LineFileReader {
     bool atEnd() const { return left_.empty(); }
     /// Whether anything but blanks and line ends is left.
     bool holdsMore() const { return left_.find_first_not_of(" \t\r\n") != left_.npos; }
+    /// What is left, from the next line on.
+    std::string_view rest() const { return left_; }
+    /// Whether something ends the line read last, or the file just stops there.
+    bool isLineEnded() const { return lineEnded_; }
+    /// A part behind the body, by its name, is there but cannot be read.
+    void noteUnread(std::string_view part) { unread_ = part; }
+    /// Name of that part; empty for none.
+    const std::string& unread() const { return unread_; }
     /// Number of the line read last, from 1; 0 before the first.
     std::size_t lineNumber() const { return lineNumber_; }
 
@@ -92,6 +100,8 @@ class LineFileReader {
     std::size_t lineNumber_ = 0;
     std::size_t statedCount_ = 0;
     double version_ = 0;
+    bool lineEnded_ = false;
+    std::string unread_;
 };
 
 /// Composes a line-oriented text file in memory.
@@ -102,7 +112,8 @@ class LineFileWriter {
     void title(std::string_view prefix);
     bool since(double) const { return true; }
 
-    void text(const std::string& value) { fixed(value); }
+    /// Bytes that are not UTF-8 are carried so that reading gives them back; see carriedText.
+    void text(const std::string& value);
     void number(double value);
     void integer(std::int16_t value);
     void date(const Date& value);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 
 #include "basis/line_file.h"
 #include "basis/run_time_error.h"
@@ -13,6 +14,7 @@ struct ReadingReport {
     int error = 0;            ///< number of the RunTimeError that ended the reading; 0 for none
     std::size_t line = 0;     ///< the line read last, from 1
     bool leftover = false;    ///< lines follow that nothing in the file accounts for
+    std::string unread;       ///< a part behind the body that is there and cannot be read
     std::size_t stated = 0;   ///< entries of its list, such as zones, by the file's own word
     std::size_t found = 0;    ///< how many of them could be read whole
     std::size_t leftOut = 0;  ///< how many are beyond what the program counts
@@ -32,6 +34,7 @@ void reportReading(const LineFileReader& file, ReadingReport* report, const Read
     }
     if (report == nullptr || !file.holdsMore()) return;
     report->leftover = true;
+    report->unread = file.unread();
     report->line = file.lineNumber() + 1;
 }
 

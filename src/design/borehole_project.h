@@ -8,6 +8,7 @@
 #include "basis/shared.h"
 #include "design/borehole_results.h"
 #include "design/design_values.h"
+#include "design/secondOpinion/second_opinion_inputs.h"
 #include "loads/design_project.h"
 
 namespace varnholt {
@@ -33,6 +34,7 @@ struct BoreholeProject : DesignProject {
     ArrangementValues arrangement;
     ExtraPowerValues extraPower;
     TowerValues tower;
+    SecondOpinionInputs secondOpinion;
     Shared<BoreholeResults> results;
     BoreholeFileRemainder remainder;
 

@@ -127,6 +127,11 @@ Control& Control::helpedBy(std::string topic) {
     return *this;
 }
 
+Control& Control::foundLate() {
+    late_ = true;
+    return *this;
+}
+
 std::string elementName(const std::string& array, std::size_t index) {
     return array + "(" + std::to_string(index) + ")";
 }

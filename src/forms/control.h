@@ -50,6 +50,7 @@ enum class Property {
     date,
     refused,
     accessibleName,
+    description,
     flash,
     focus,
 };
@@ -138,6 +139,8 @@ class Control {
     const std::string& upDown() const { return upDown_; }
     /// What a screen reader calls the control, where that is not its label's or its own caption.
     const std::string& accessibleName() const { return accessibleName_; }
+    /// What it shows is found only when somebody reads it; see Form::catchUp.
+    bool isLate() const { return late_; }
     /// Page of the help that explains it, with its section: "soil#temperature". Empty for none.
     const std::string& helpTopic() const { return helpTopic_; }
 
@@ -177,6 +180,7 @@ class Control {
     Control& unitsIn(std::string unitLabel);
     Control& steppedBy(std::string upDown);
     Control& helpedBy(std::string topic);
+    Control& foundLate();
 
     void setObserver(ControlObserver* observer) { observer_ = observer; }
 
@@ -198,6 +202,7 @@ class Control {
     int backcolor_, forecolor_ = colours::black;
     bool enabled_ = true, visible_ = true, locked_ = false, checked_ = false, bold_ = false;
     bool refused_ = false, editable_ = false, multiple_ = false, repeating_ = false;
+    bool late_ = false;
 };
 
 /// "CATopLabel(1)": the name of an element of a control array.

@@ -262,6 +262,19 @@ void Form::pickDate(const std::string& name, const Date& date) {
     });
 }
 
+void Form::fallBehind() {
+    behind_ = true;
+    tellObservers([this](FormObserver& observer) { observer.fellBehind(*this); });
+}
+
+void Form::catchUp() {
+    if (behind_) behind_ = !workLate(true);
+}
+
+void Form::catchUpABit() {
+    if (behind_) behind_ = !workLate(false);
+}
+
 void Form::addObserver(FormObserver* observer) {
     observers_.push_back(observer);
     observer->observed_.push_back(this);

@@ -29,6 +29,9 @@ class FormObserver : public ControlObserver {
     virtual void captionChanged(Form& form) = 0;
     /// Something the user did has been handled to its end: pictures drawn from the model are due.
     virtual void settled(Form& form) = 0;
+    /// Figures that are found late are due: whoever shows them has the form find them, when there
+    /// is nothing else to do.
+    virtual void fellBehind(Form&) {}
 
  private:
     friend class Form;
@@ -107,6 +110,17 @@ class Form {
     /// A handler of the user's action is still running: the form must not end yet.
     bool isHandling() const { return depth_ > 0; }
 
+    /// What a picture shows, in a sentence; empty for one that only its drawing can tell of.
+    virtual std::string descriptionOf(const std::string& /*image*/) const { return {}; }
+
+    // Figures that take long are found when somebody looks at them, and not by every action.
+    /// Whether some are due.
+    bool isBehind() const { return behind_; }
+    /// Somebody reads: finds them all.
+    void catchUp();
+    /// Finds a part of them, in a few milliseconds.
+    void catchUpABit();
+
     /// The window came to the front.
     virtual void activated() {}
     /// The user or the frame wants to close the window. False stops the close.
@@ -147,6 +161,11 @@ class Form {
     /// those who show the form hear of it after this.
     virtual void actionBegins() {}
     virtual void actionEnds(const UserAction&) {}
+    /// What the late figures come from may have changed.
+    void fallBehind();
+    /// Does a part of the work that is due, or all of it, and shows what has been found. True when
+    /// nothing is left to do.
+    virtual bool workLate(bool /*whole*/) { return true; }
     /// Code has put another state into the form: no field is being visited any more.
     void endVisit() { visited_.clear(); }
 
@@ -196,6 +215,7 @@ class Form {
     int gestures_ = 0;
     int depth_ = 0;
     bool modalEnded_ = false;
+    bool behind_ = false;
 };
 
 }  // namespace varnholt

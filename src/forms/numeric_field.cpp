@@ -126,7 +126,9 @@ bool NumericFields::applyRange(const NumericFieldRow& row) {
     const double value = row.stored.get();
     const std::string& text = form_.control(row.control).text();
     if (text.empty() || (row.unparsable && !readLeadingNumber(text))) return false;
-    const bool below = value < row.lowest || (row.lowestIsRefused && value == row.lowest);
+    const bool between = row.leastBesideZero && value > row.lowest && value < *row.leastBesideZero;
+    const bool below =
+        value < row.lowest || between || (row.lowestIsRefused && value == row.lowest);
     // Written so that a value that is no number is refused too.
     if (!below && value <= row.highest) return false;
     row.stored.set((below ? row.ifBelow : row.ifAbove).value_or(fallbackOf(row)));
@@ -142,7 +144,8 @@ void NumericFields::left(const std::string& control) {
     const bool neutral = value == 0 || (temperature && value == 32);
     const bool empty = form_.control(control).text().empty();
     const bool unparsable = row.unparsable && value == *row.unparsable;
-    if (unparsable || (neutral && empty)) {
+    const bool tooSmall = row.leastWhenLeft && value < *row.leastWhenLeft;
+    if (unparsable || tooSmall || (neutral && empty)) {
         row.stored.set(row.whenEmpty.value_or(fallbackOf(row)));
         if (row.changed) row.changed();
         if (manner_.changed) manner_.changed();

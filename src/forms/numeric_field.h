@@ -71,13 +71,15 @@ struct NumericFieldRow {
     FieldCompanions beside{};
 
     // What only some fields need.
-    std::optional<double> ifBelow{};        ///< instead of the fallback, below the lowest
-    std::optional<double> ifAbove{};        ///< instead of the fallback, above the highest
-    bool lowestIsRefused = false;           ///< the lowest value itself is refused
-    std::optional<double> unparsable{};     ///< stored for text that is no number (0 otherwise)
-    std::optional<double> whileEmpty{};     ///< stored while the field stands empty (0 otherwise)
-    std::optional<double> whenEmpty{};      ///< instead of the fallback, for a field left empty
-    std::function<double()> fallbackNow{};  ///< the fallback, where it varies
+    std::optional<double> ifBelow{};          ///< instead of the fallback, below the lowest
+    std::optional<double> ifAbove{};          ///< instead of the fallback, above the highest
+    bool lowestIsRefused = false;             ///< the lowest value itself is refused
+    std::optional<double> leastBesideZero{};  ///< below it only the lowest is taken
+    std::optional<double> leastWhenLeft{};    ///< below it the fallback takes its place on leaving
+    std::optional<double> unparsable{};       ///< stored for text that is no number (0 otherwise)
+    std::optional<double> whileEmpty{};       ///< stored while the field stands empty (0 otherwise)
+    std::optional<double> whenEmpty{};        ///< instead of the fallback, for a field left empty
+    std::function<double()> fallbackNow{};    ///< the fallback, where it varies
     /// Text that is not a number as a whole leaves the stored value alone, and the range is looked
     /// at when the field is left: the field may hold anything while one types.
     bool checkedWhenLeft = false;

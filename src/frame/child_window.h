@@ -35,15 +35,21 @@ class ChildWindow : public Form {
     /// There are reports of the window.
     bool canPrint() const { return isDesign() || isLoads(); }
 
+    /// The window whose document this one shows a part of. While this one is in front, the commands
+    /// that save, undo and switch units work on that one.
+    virtual ChildWindow& owner() { return *this; }
+
     /// Whether the window has a unit switch, the check box `MetricCheck`.
     bool hasUnitSwitch() const { return has("MetricCheck"); }
     /// The units in which the window shows its values.
-    UnitSystem units() const;
+    virtual UnitSystem units() const;
     /// Puts `MetricCheck` to the value and runs MetricCheck_Click when that changes it.
     void switchUnits(UnitSystem units);
     virtual void MetricCheck_Click() {}
     /// Other windows have been opened or closed, or another one is active.
     virtual void windowsChanged() {}
+    /// The user's action in some window has been handled to its end, whatever it changed.
+    virtual void actionDone() {}
 
     /// Fields are being rewritten by code: text changes must not be treated as the user's.
     bool settingUnits = false;

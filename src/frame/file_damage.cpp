@@ -30,6 +30,9 @@ int nameOf(FileKind kind) {
 /// Where the reading ended, and why.
 std::string endOfReading(const Texts& texts, const ReadingReport& report) {
     constexpr int overflow = 6, inputPastEnd = 62;
+    if (!report.unread.empty())
+        return filledIn(texts.text(Text::noticeUnreadPart),
+                        {report.unread, std::to_string(report.line)});
     if (report.leftover)
         return filledIn(texts.text(Text::noticeLeftoverLines), {std::to_string(report.line)});
     if (report.error == inputPastEnd)

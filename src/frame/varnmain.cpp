@@ -203,7 +203,7 @@ void Varnmain::setActive(ChildWindow* window) {
     activationOrder_.erase(std::remove(activationOrder_.begin(), activationOrder_.end(), window),
                            activationOrder_.end());
     activationOrder_.push_back(window);
-    if (window->hasUnitSwitch()) unitsSwitched(*window);
+    if (window->owner().hasUnitSwitch()) unitsSwitched(window->owner());
 }
 
 bool Varnmain::close(ChildWindow& window) {
@@ -254,6 +254,7 @@ void Varnmain::endAction(const std::string& name, const std::string& visit, bool
     if (--actions_ > 0) return;
     for (ChildWindow* window : std::exchange(touched_, {}))
         window->changedByAnother(name, visit, visitEnds, number);
+    for (const auto& window : windows_) window->actionDone();
     refreshUndo();
 }
 
@@ -381,21 +382,22 @@ bool Varnmain::queryClose() {
 }
 
 bool Varnmain::usable(const Command& command) const {
+    const ChildWindow* owner = ownerInFront();
     switch (command.needs) {
         case CommandNeeds::nothing:
             return true;
         case CommandNeeds::anyWindow:
             return active_ != nullptr;
         case CommandNeeds::design:
-            return active_ != nullptr && active_->isDesign();
+            return owner != nullptr && owner->isDesign();
         case CommandNeeds::designOrLoads:
-            return active_ != nullptr && active_->canSave();
+            return owner != nullptr && owner->canSave();
         case CommandNeeds::printable:
             return active_ != nullptr && active_->canPrint();
         case CommandNeeds::undo:
-            return active_ != nullptr && active_->history().canUndo();
+            return owner != nullptr && owner->history().canUndo();
         case CommandNeeds::redo:
-            return active_ != nullptr && active_->history().canRedo();
+            return owner != nullptr && owner->history().canRedo();
     }
     return false;
 }
@@ -423,13 +425,13 @@ void Varnmain::refreshUndo() {
             .setEnabled(can);
     };
     const DocumentHistory none;
-    const DocumentHistory& history = active_ == nullptr ? none : active_->history();
+    const DocumentHistory& history = active_ == nullptr ? none : ownerInFront()->history();
     show("mnuUndo", Text::undo, history.canUndo(), history.undoName());
     show("mnuRedo", Text::redo, history.canRedo(), history.redoName());
 }
 
 void Varnmain::unitsSwitched(ChildWindow& window) {
-    if (&window != active_) return;
+    if (&window != ownerInFront()) return;
     control("Metric").setChecked(window.units() == UnitSystem::metric);
     control("English").setChecked(window.units() == UnitSystem::english);
 }
@@ -442,14 +444,14 @@ void Varnmain::Metric_Click() {
     if (control("Metric").checked()) return;
     control("Metric").setChecked(true);
     control("English").setChecked(false);
-    if (windowCounter != 0 && active_ != nullptr) active_->switchUnits(UnitSystem::metric);
+    if (windowCounter != 0 && active_ != nullptr) ownerInFront()->switchUnits(UnitSystem::metric);
 }
 
 void Varnmain::English_Click() {
     if (control("English").checked()) return;
     control("English").setChecked(true);
     control("Metric").setChecked(false);
-    if (windowCounter != 0 && active_ != nullptr) active_->switchUnits(UnitSystem::english);
+    if (windowCounter != 0 && active_ != nullptr) ownerInFront()->switchUnits(UnitSystem::english);
 }
 
 void Varnmain::mnuAbout_Click() {
@@ -463,8 +465,8 @@ void Varnmain::mnuShowToolbar_Click() {
     control("tbrMain").setVisible(entry.checked());
 }
 
-void Varnmain::mnuUndo_Click() { active_->undo(); }
-void Varnmain::mnuRedo_Click() { active_->redo(); }
+void Varnmain::mnuUndo_Click() { ownerInFront()->undo(); }
+void Varnmain::mnuRedo_Click() { ownerInFront()->redo(); }
 
 void Varnmain::mnuFileExit_Click() { platform().quit(*this); }
 

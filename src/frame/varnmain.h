@@ -48,6 +48,8 @@ class Varnmain : public Form {
     /// Asks the window, and takes it away unless it refuses. False when it stays.
     bool close(ChildWindow& window);
     ChildWindow* activeWindow() const { return active_; }
+    /// The window whose document the one in front shows; null where none is open.
+    ChildWindow* ownerInFront() const { return active_ == nullptr ? nullptr : &active_->owner(); }
     /// Open windows in the order in which they were opened.
     std::vector<ChildWindow*> windows() const;
     std::vector<ChildWindow*> windowsNamed(const std::string& formName) const;

@@ -45,7 +45,7 @@ template <class File, class Data>
 std::size_t describeZones(File& file, const ZoneFileContext& context, Data& data) {
     file.title("Zone Data File Version ");
     const std::size_t inFile = file.count(data.zones.size(), linesOfZone);
-    const std::size_t count = std::min(inFile, mostZones);
+    const std::size_t count = File::reading ? std::min(inFile, mostZones) : inFile;
     if constexpr (File::reading) data.zones.clear();
     for (std::size_t i = 0; i < count; ++i) {
         if constexpr (File::reading) {

@@ -6,6 +6,7 @@
 #include "basis/mode.h"
 #include "design/borehole_project.h"
 #include "persistence/file_items.h"
+#include "persistence/second_opinion_block.h"
 
 namespace varnholt {
 
@@ -96,6 +97,7 @@ void describeBoreholeProject(File& file, Project& project) {
     else if constexpr (File::reading)
         project.loads.linkType.clear();
     describeTower(file, project);
+    describeSecondOpinion(file, project.secondOpinion);
 }
 
 /// The body of the defaults file: what is entered, without the project, its results and its loads.

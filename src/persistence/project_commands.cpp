@@ -222,7 +222,7 @@ void openFile(Varnmain& main, const std::string& path) {
 }
 
 void mnuFileSave_Click(Varnmain& main) {
-    ChildWindow* active = main.activeWindow();
+    ChildWindow* active = main.ownerInFront();
     if (auto* design = dynamic_cast<GroundDesign*>(active))
         saveDesign(*design);
     else if (auto* loads = dynamic_cast<LoadsWindow*>(active))
@@ -232,7 +232,7 @@ void mnuFileSave_Click(Varnmain& main) {
 }
 
 void mnuFileSaveAs_Click(Varnmain& main) {
-    if (auto* design = dynamic_cast<GroundDesign*>(main.activeWindow())) saveDesignAs(*design);
+    if (auto* design = dynamic_cast<GroundDesign*>(main.ownerInFront())) saveDesignAs(*design);
 }
 
 }  // namespace varnholt

@@ -20,7 +20,7 @@ struct PropertyRow {
 };
 
 // clang-format off
-const std::array<PropertyRow, 16> rows{{
+const std::array<PropertyRow, 17> rows{{
     {"text",      Property::text,      {Kind::text, Kind::richText, Kind::combo, Kind::list,
                                         Kind::date, Kind::tabs}},
     {"caption",   Property::caption,   {Kind::label, Kind::button, Kind::frame, Kind::check,
@@ -40,6 +40,7 @@ const std::array<PropertyRow, 16> rows{{
     {"forecolor", Property::forecolor, {}},
     {"bold",      Property::bold,      {}},
     {"tooltip",   Property::tooltip,   {}},
+    {"description", Property::description, {Kind::image}},
 }};
 // clang-format on
 
@@ -141,6 +142,8 @@ Shown propertyOf(const Form& form, const Control& control, Property property) {
             return control.tooltip();
         case Property::date:
             return control.date();
+        case Property::description:
+            return form.descriptionOf(control.name());
         case Property::refused:
         case Property::step:
         case Property::accessibleName:

@@ -211,6 +211,7 @@ void ScriptCommands::print(std::string& rest) {
     const Property wanted = property.value_or(usual);
     if (!hasProperty(kind, wanted))
         throw ScriptFault(fmt::format("a {} has no {}", varnholt::nameOf(kind), nameOf(wanted)));
+    if (target.control.isLate()) target.form.catchUp();
     const std::string suffix = wanted == usual ? "" : std::string(".") + nameOf(wanted);
     transcript_.line(fmt::format("{}.{}{} = {}", platform_.forms().nameOf(target.form),
                                  target.control.name(), suffix,
@@ -255,6 +256,7 @@ void ScriptCommands::controls(std::string& rest) {
 
 void ScriptCommands::shot(std::string& rest) {
     Form& form = find(readWindowName(takeWord(rest)));
+    form.catchUp();
     if (!driver_.picture(form, pathFrom(startFolder_, rest)) && notes_)
         notes_(fmt::format("no picture of {}: skipped, there are no windows",
                            platform_.forms().nameOf(form)));

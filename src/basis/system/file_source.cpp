@@ -28,7 +28,8 @@ std::int64_t inNanoseconds(const timespec& time) {
 /// Nothing for a folder.
 std::optional<FileStamp> stampBehind(const Descriptor& file) {
     struct stat status {};
-    if (!file.isOpen() || ::fstat(file.number(), &status) != 0 || S_ISDIR(status.st_mode))
+    if (!file.isOpen() || uninterrupted([&] { return ::fstat(file.number(), &status); }) != 0 ||
+        S_ISDIR(status.st_mode))
         return std::nullopt;
     return stampOf(status);
 }
@@ -71,7 +72,11 @@ FileSource::Content DiskFiles::read(const std::string& path, const ReadingLimits
     const auto readAll = [path, most = limits.mostBytes] {
         const Descriptor file = openForReading(path);
         if (!file.isOpen()) throwFileError(errno, path);
-        const FileStamp stamp = stampBehind(file).value_or(FileStamp{});
+        struct stat status {};
+        // Without it nobody could tell later whether the file is still the same.
+        if (uninterrupted([&] { return ::fstat(file.number(), &status); }) != 0)
+            throwFileError(errno, path);
+        const FileStamp stamp = stampOf(status);
         if (stamp.size > static_cast<std::int64_t>(most)) throwFileError(EOVERFLOW, path);
         // A file that grows meanwhile is no longer than it was allowed to be.
         return Content{readToEnd(file, path, most), stamp};

@@ -169,6 +169,8 @@ void DesktopPlatform::progress(const std::string& what, std::size_t done, std::s
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
+void DesktopPlatform::waitingEnded() { waiting_.reset(); }
+
 bool DesktopPlatform::waitFor(const std::string& path, std::chrono::milliseconds waited) {
     if (waited.count() < patience) return true;
     if (!waiting_) {

@@ -32,7 +32,7 @@ class DesktopPlatform : public Platform {
     void edit(EditCommand command) override;
     void progress(const std::string& what, std::size_t done, std::size_t total) override;
     bool waitFor(const std::string& path, std::chrono::milliseconds waited) override;
-    void waitingEnded() override { waiting_.reset(); }
+    void waitingEnded() override;
     void openOutside(const std::string& address) override;
     std::optional<std::string> GetKeyValue(const std::string&, const std::string&) override {
         return std::nullopt;

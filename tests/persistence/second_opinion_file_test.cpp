@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The second opinion's inputs in a project's file.
+#include <algorithm>
+
+#include "persistence/project_fixture.h"
+
+namespace varnholt {
+namespace {
+
+/// Every input differs from its default and from every other.
+SecondOpinionInputs unusual() {
+    SecondOpinionInputs inputs;
+    inputs.buriedDepth = 6.5;
+    inputs.pulseHours = 5.25;
+    inputs.yearsShown = 33;
+    inputs.shape = typedYear;
+    inputs.southern = true;
+    inputs.cylinder = true;
+    for (std::size_t month = 0; month < 12; ++month)
+        for (const Mode mode : modes) {
+            const double number = static_cast<double>(2 * month + mode);
+            inputs.monthEnergy[month][mode] = 100 + number;
+            inputs.monthTop[month][mode] = 200 + number;
+        }
+    inputs.depthChoice = depthAsTyped;
+    inputs.typedDepth = 312.5;
+    return inputs;
+}
+
+BoreholeProject projectWith(const SecondOpinionInputs& inputs) {
+    BoreholeProject project;
+    project.secondOpinion = inputs;
+    return project;
+}
+
+std::string blockOf(const SecondOpinionInputs& inputs) {
+    const std::string without = projectText(BoreholeProject{});
+    const std::string with = projectText(projectWith(inputs));
+    EXPECT_TRUE(with.starts_with(without));
+    return with.substr(without.size());
+}
+
+TEST(SecondOpinionBlock, IsNotWrittenWhileEveryInputIsItsDefault) {
+    EXPECT_EQ(blockOf({}), "");
+    EXPECT_EQ(projectText(projectWith({})).find("Second Opinion"), std::string::npos);
+}
+
+TEST(SecondOpinionBlock, HasALineForEachInputInTheOrderOfTheWindow) {
+    std::string lines = "Second Opinion 1.0\r\n6.5\r\n5.25\r\n33\r\n2\r\n1\r\n1\r\n";
+    for (const int from : {100, 101, 200, 201})
+        for (int month = 0; month < 12; ++month) lines += std::to_string(from + 2 * month) + "\r\n";
+    EXPECT_EQ(blockOf(unusual()), lines + "2\r\n312.5\r\n");
+}
+
+TEST(SecondOpinionBlock, IsWrittenAsSoonAsOneInputDiffers) {
+    SecondOpinionInputs inputs;
+    inputs.monthTop[11][heating] = 0.1;
+    const std::string block = blockOf(inputs);
+    EXPECT_TRUE(block.starts_with("Second Opinion 1.0\r\n4\r\n0\r\n20\r\n0\r\n0\r\n0\r\n"));
+    EXPECT_EQ(std::count(block.begin(), block.end(), '\n'), 1 + 6 + 48 + 2);
+}
+
+TEST(SecondOpinionBlock, IsReadAsItWasWritten) {
+    BoreholeProject read;
+    readProjectText(projectText(projectWith(unusual())), read);
+    EXPECT_EQ(read.secondOpinion, unusual());
+}
+
+TEST(SecondOpinionBlock, LeavesTheDefaultsToAProjectWithoutIt) {
+    BoreholeProject read = projectWith(unusual());
+    readProjectText(projectText(BoreholeProject{}), read);
+    EXPECT_EQ(read.secondOpinion, SecondOpinionInputs{});
+}
+
+class SecondOpinionFile : public ProjectTest {
+ protected:
+    SecondOpinionFile() {
+        texts.known.insert({{1236, "Not all of %1 could be read."},
+                            {1244, "More from line %1 on."},
+                            {1249, "Saving asks for a name."},
+                            {1258, "Part %1 from line %2."}});
+    }
+
+    frmBHDesign& openText(const std::string& text) {
+        replaceWholeFile(folder / "work files/opinion.vht", text);
+        return open("work files/opinion.vht");
+    }
+    std::string notice() { return design().control("NoticeLabel").caption(); }
+    std::string bytes(const std::string& name) { return readWholeFile(folder / name); }
+    const std::string whole = projectText(projectWith(unusual()));
+    const std::string plain = projectText(BoreholeProject{});
+};
+
+TEST_F(SecondOpinionFile, IsOpenedWithoutAWord) {
+    EXPECT_EQ(openText(whole).project().secondOpinion, unusual());
+    EXPECT_EQ(notice(), "");
+    EXPECT_FALSE(design().isChanged());
+    EXPECT_FALSE(design().isStale());
+    EXPECT_EQ(messages(), 0U);
+}
+
+TEST_F(SecondOpinionFile, ComesBackByteForByte) {
+    openText(whole);
+    main.click("mnuFileSave");
+    EXPECT_EQ(bytes("work files/opinion.vht"), whole);
+}
+
+TEST_F(SecondOpinionFile, IsAnOrdinaryProjectAgainOnceTheInputsAreTheDefaults) {
+    frmBHDesign& opened = openText(whole);
+    opened.secondOpinionInputs() = {};
+    main.click("mnuFileSave");
+    EXPECT_EQ(bytes("work files/opinion.vht"), plain);
+}
+
+/// Wherever the block is cut, it is whole or all of it is the defaults; and what is not whole is
+/// told, and stays as it is on the disk.
+TEST_F(SecondOpinionFile, TakesTheDefaultsWhereverItIsCut) {
+    for (std::size_t length = plain.size(); length < whole.size(); ++length) {
+        SCOPED_TRACE(length);
+        const frmBHDesign& opened = openText(whole.substr(0, length));
+        // Nothing of the block, and a return without its feed, which ends a line as well.
+        const bool without = length == plain.size();
+        const bool complete = length + 1 == whole.size();
+        EXPECT_EQ(opened.project().secondOpinion, complete ? unusual() : SecondOpinionInputs{});
+        EXPECT_EQ(notice().empty(), without || complete) << notice();
+        EXPECT_EQ(opened.savesUnderNewName(), !without && !complete);
+        EXPECT_EQ(opened.project().arrangement, BoreholeProject{}.arrangement);
+        EXPECT_EQ(messages(), 0U);
+        closeAll();
+    }
+}
+
+TEST_F(SecondOpinionFile, TellsADamagedOrANewerBlockAndSavesItUnderAnotherName) {
+    const std::string_view title = "Second Opinion 1.0";
+    const auto changed = [&](const std::string& from, const std::string& to) {
+        std::string text = whole;
+        return text.replace(text.find(from, plain.size()), from.size(), to);
+    };
+    const auto line = std::count(plain.begin(), plain.end(), '\n') + 1;
+    for (const std::string& text :
+         {changed(std::string(title), "Second Opinion 1.1"),
+          changed(std::string(title), "Second Opinion 2.0"), changed("\r\n6.5\r\n", "\r\nabc\r\n"),
+          changed("\r\n6.5\r\n", "\r\n6.5x\r\n"), changed("\r\n6.5\r\n", "\r\n\r\n"),
+          changed("\r\n33\r\n2\r\n", "\r\n33\r\n3\r\n"),
+          changed("\r\n33\r\n2\r\n", "\r\n33\r\n1.5\r\n"), changed("\r\n312.5", "\r\n1e999"),
+          changed("\r\n2\r\n312.5", "\r\n-1\r\n312.5")}) {
+        SCOPED_TRACE(text.substr(plain.size(), 60));
+        const frmBHDesign& opened = openText(text);
+        EXPECT_EQ(opened.project().secondOpinion, SecondOpinionInputs{});
+        EXPECT_NE(notice().find("Part Second Opinion from line " + std::to_string(line) + "."),
+                  std::string::npos)
+            << notice();
+        pick("work files/other.vht");
+        main.click("mnuFileSave");
+        EXPECT_EQ(bytes("work files/opinion.vht"), text);
+        EXPECT_EQ(bytes("work files/other.vht"), plain);
+        EXPECT_EQ(notice(), "");
+        EXPECT_EQ(messages(), 0U);
+        closeAll();
+        std::filesystem::remove(folder / "work files/other.vht");
+    }
+}
+
+TEST_F(SecondOpinionFile, TellsLinesBehindItAsBehindAnyBody) {
+    EXPECT_EQ(openText(whole + "more\r\n").project().secondOpinion, unusual());
+    EXPECT_NE(notice().find("More from line"), std::string::npos) << notice();
+}
+
+TEST_F(SecondOpinionFile, IsSavedFromTheWindowThatIsInFront) {
+    frmBHDesign& opened = openText(plain);
+    opened.click("CASecondOpinionCommand");
+    ChildWindow& window = *main.activeWindow();
+    ASSERT_EQ(window.formName(), "frmSecondOpinion");
+    EXPECT_EQ(window.caption(), "[2630] - opinion.vht");
+    window.type("SEBuriedDepthText", "6");
+    EXPECT_TRUE(opened.isChanged());
+    main.click("mnuFileSave");
+    EXPECT_FALSE(opened.isChanged());
+    EXPECT_NE(bytes("work files/opinion.vht").find("Second Opinion 1.0\r\n6\r\n"),
+              std::string::npos);
+    pick("work files/renamed.vht");
+    main.click("mnuFileSaveAs");
+    EXPECT_EQ(window.caption(), "[2630] - renamed.vht");
+}
+
+TEST_F(SecondOpinionFile, IsNoDefaultOfANewDesign) {
+    openText(whole);
+    main.click("mnuFileSave");
+    closeAll();
+    EXPECT_EQ(newDesign().project().secondOpinion, SecondOpinionInputs{});
+}
+
+}  // namespace
+}  // namespace varnholt
