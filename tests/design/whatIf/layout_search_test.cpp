@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "design/whatIf/field_method.h"
+#include "design/whatIf/layout_run.h"
 #include "design/whatIf/office.h"
 #include "design/whatIf/tower_curve.h"
 #include "forms/text_numbers.h"
@@ -221,6 +223,59 @@ TEST(LayoutSearch, ComputesTheLeastDeepWhereNoEstimateIsShallowEnough) {
     // The shallowest has most bores: 7 by 5 at 15 ft, of the 100 by 60 ft within the clearances.
     EXPECT_EQ(layouts.reason.figures[0].value, 7);
     EXPECT_EQ(layouts.reason.figures[1].value, 5);
+}
+
+Layouts searched(const WhatIfCase& theCase) {
+    LayoutSearch search = layoutSearchOf(theCase);
+    while (!search.step()) {
+    }
+    return search.result();
+}
+
+TEST(LayoutSearch, ByGFunctionsComesWithinTenFieldsOfTheBestOfAll) {
+    // A small plot, of which every field is sized: the search computes some of them.
+    WhatIfCase theCase;
+    theCase.design = officeInputs();
+    theCase.inputs.land.across = 130;
+    theCase.inputs.land.down = 90;
+    theCase.inputs.layout.spacingStep = 5;
+    theCase.inputs.layout.mostBores = 40;
+    const Layouts layouts = searched(theCase);
+    FieldSizer sizer({}, theCase.design);
+    FieldFinder finder(landOf(theCase.inputs.land), theCase.inputs.layout);
+    while (!finder.step()) {
+    }
+    std::vector<double> costs;
+    for (const LatticeField& field : finder.fields()) {
+        std::vector<secondOpinion::BorePosition> bores;
+        for (const Point& bore : boresOf(landOf(theCase.inputs.land), field))
+            bores.push_back({bore.x, bore.y});
+        std::optional<double> need;
+        while (!need) need = sizer.need(bores, field.separation, 300);
+        const auto count = static_cast<double>(field.bores);
+        const double depth = std::max(100.0, *need / count);
+        if (depth <= 400)
+            costs.push_back(sumOf(costParts({count, depth, field.separation, 0}, {})));
+    }
+    std::sort(costs.begin(), costs.end());
+    ASSERT_GT(costs.size(), 20u);
+    ASSERT_FALSE(layouts.fields.empty());
+    EXPECT_LE(layouts.fields.front().firstCost, costs[9]);
+    EXPECT_NEAR(layouts.fields.front().firstCost, costs[0], 0.005 * costs[0]);
+}
+
+TEST(LayoutSearch, ByTheClassicalMethodTellsTheOthersDepthOfTheListedFields) {
+    WhatIfCase theCase;
+    theCase.design = officeInputs();
+    theCase.inputs.measure = classicalMethod;
+    theCase.inputs.land.across = 160;
+    theCase.inputs.layout.spacingStep = 5;
+    const Layouts layouts = searched(theCase);
+    ASSERT_GT(layouts.fields.size(), listedFields);
+    for (std::size_t i = 0; i < layouts.fields.size(); ++i)
+        EXPECT_EQ(layouts.fields[i].otherDepth > 0, i < listedFields);
+    // Rings flatter the field: by g-functions it has to be deeper.
+    EXPECT_GT(layouts.fields.front().otherDepth, layouts.fields.front().depth);
 }
 
 }  // namespace
