@@ -113,6 +113,8 @@ void openAll(Varnmain& main, Captions& captions) {
             if (entry == "mnuFileExit" || !main.control(entry).enabled()) continue;
             main.click(entry);
         }
+    for (ChildWindow* window : main.windows())
+        if (window->has("CASecondOpinionCommand")) window->click("CASecondOpinionCommand");
     for (ChildWindow* window : main.windows()) {
         main.activate(*window);
         main.click("mnuLink");

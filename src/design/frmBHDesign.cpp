@@ -7,6 +7,7 @@
 #include "design/extra_power_tab.h"
 #include "design/fluid_tab.h"
 #include "design/modCalculations/bore_resistance.h"
+#include "design/picture_sentences.h"
 #include "design/result_values.h"
 #include "design/shared_values.h"
 #include "design/soil_tab.h"
@@ -17,7 +18,7 @@ frmBHDesign::frmBHDesign(Varnmain& main, std::int16_t slot)
     : TowerDesign("frmBHDesign", DesignKind::borehole, main, slot, project_,
                   {project_.fluid, project_.extraPower, &project_.tower}) {
     addWindowControls();
-    addResults(resultRows(), Text::requiredBoreLengths);
+    addResults(resultRows(), Text::requiredBoreLengths, [this] { addSecondOpinion(); });
     // The number of bores stands once, though there is a label for each mode.
     element("CABoreholeNumberLabel", heating).setVisible(false);
     addTab<FluidTab>(project_.fluid, project_.conditions);
@@ -54,6 +55,7 @@ std::vector<ResultRow> frmBHDesign::resultRows() const {
          each,
          true},
     };
+    for (ResultRow& row : secondOpinionRows()) rows.push_back(std::move(row));
     const auto rollUp = [this]() -> const LoadsRollUp& { return results(); };
     const auto inputs = [this] { return inputsOnShow().loads; };
     for (ResultRow& row : unitRows(*this, rollUp, inputs)) rows.push_back(std::move(row));
@@ -79,6 +81,7 @@ void frmBHDesign::registerBoreholeValues() {
     values.add("boreSeparation", &arrangement.boreSeparation);
     values.add("boresPerCircuit", &arrangement.boresPerCircuit);
     values.add("predictionTime", &arrangement.predictionTime);
+    addSecondOpinionValues();
 }
 
 void frmBHDesign::addResultValues(Values& values) {
@@ -118,6 +121,12 @@ void frmBHDesign::addAccessors(Values& values) {
 bool frmBHDesign::tellsError(int number) const {
     constexpr int divisionByZero = 11;
     return number == divisionByZero;
+}
+
+std::string frmBHDesign::descriptionOf(const std::string& image) const {
+    if (image == "imgBore") return describe(boreDrawing(), texts());
+    if (image == "imgField") return describe(fieldPlan(), texts());
+    return TowerDesign::descriptionOf(image);
 }
 
 BoreDrawing frmBHDesign::boreDrawing() const {

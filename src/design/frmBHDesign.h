@@ -8,9 +8,12 @@
 #include "design/bore_drawing.h"
 #include "design/borehole_run.h"
 #include "design/field_plan.h"
+#include "design/late_second_opinion.h"
 #include "design/tower_design.h"
 
 namespace varnholt {
+
+class frmSecondOpinion;
 
 /// The values and the run of a field of vertical bores.
 struct BoreholeKind {
@@ -41,6 +44,27 @@ class frmBHDesign : public TowerDesign<BoreholeKind> {
     /// degF
     double GetGroundTemp() const { return project_.soil.groundTemp; }
 
+    void load() override;
+    void MetricCheck_Click() override;
+    void actionDone() override;
+    void unloaded() override;
+
+    // The second opinion, which stands beside the design's own figures and never in their place.
+    SecondOpinionInputs& secondOpinionInputs() { return project_.secondOpinion; }
+    /// What it is found from as the inputs stand now, calculated or not.
+    SecondOpinionCase presentCase() const;
+    /// Goes on finding it; see LateSecondOpinion.
+    bool advanceSecondOpinion(bool whole) { return late_.advance(presentCase(), whole); }
+    const LateSecondOpinion& lateSecondOpinion() const { return late_; }
+    /// The opinion of the inputs as they stand now, found first where it is not known.
+    const SecondOpinion& secondOpinion();
+    /// Opens its window, or brings it to the front.
+    void CASecondOpinionCommand_Click();
+    /// The window has gone.
+    void forgetSecondOpinionWindow() { opinionWindow_ = nullptr; }
+
+    std::string descriptionOf(const std::string& image) const override;
+
     /// What `imgBore` shows.
     BoreDrawing boreDrawing() const;
     /// What `imgField` shows.
@@ -51,12 +75,24 @@ class frmBHDesign : public TowerDesign<BoreholeKind> {
     bool tellsError(int number) const override;
     std::vector<int> pageCaptions() const override;
     std::string pagesName() const override { return "BHTabs"; }
+    void restore(const DocumentState& earlier) override;
+    bool workLate(bool whole) override;
 
  private:
+    std::vector<ResultRow> secondOpinionRows() const;
+    void addSecondOpinion();
+    void addSecondOpinionValues();
+    void showSecondOpinion();
+    void paintSecondOpinion();
+    std::string secondOpinionTip() const;
+
     std::vector<ResultRow> resultRows() const;
     void registerBoreholeValues();
     void addResultValues(Values& values);
     void addAccessors(Values& values);
+
+    LateSecondOpinion late_;
+    frmSecondOpinion* opinionWindow_ = nullptr;
 };
 
 }  // namespace varnholt

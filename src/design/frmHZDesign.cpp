@@ -10,6 +10,7 @@
 #include "design/fluid_tab.h"
 #include "design/labelled_ground_temp.h"
 #include "design/modCalculations/trench_lengths.h"
+#include "design/picture_sentences.h"
 #include "design/result_values.h"
 #include "design/shared_values.h"
 #include "design/trench_pipe_tab.h"
@@ -192,6 +193,13 @@ std::string frmHZDesign::shownWidth(double inches) const {
     return shownWithUnit(quantities::width, *this, inches,
                          {Text::widthUnitsEnglish, Text::widthUnitsMetric},
                          inCentimetres ? "###0" : "###0.0");
+}
+
+std::string frmHZDesign::descriptionOf(const std::string& image) const {
+    if (image.starts_with("PADiagramPicture")) return describe(trenchDrawing(), texts());
+    if (image.starts_with("imgConfiguration")) return describe(trenchPlan(), texts());
+    if (image == "imgGroundTemp") return describe(groundTempCurves(), texts());
+    return TowerDesign::descriptionOf(image);
 }
 
 TrenchDrawing frmHZDesign::trenchDrawing() const {

@@ -33,6 +33,8 @@ class frmHZDesign : public TowerDesign<HorizontalKind> {
 
     std::string baseCaption() const override;
 
+    std::string descriptionOf(const std::string& image) const override;
+
     /// What `PADiagramPicture` shows. It follows what is typed.
     TrenchDrawing trenchDrawing() const;
     /// What `imgConfiguration` shows.

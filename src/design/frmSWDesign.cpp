@@ -11,6 +11,7 @@
 #include "design/labelled_ground_temp.h"
 #include "design/loop_tab.h"
 #include "design/minimum_flow_tab.h"
+#include "design/picture_sentences.h"
 #include "design/result_values.h"
 #include "design/shared_values.h"
 #include "design/surface_water_rules.h"
@@ -191,6 +192,13 @@ ByMode<std::string> frmSWDesign::shownFlows(const ByMode<double>& flow) const {
         shown[mode] = shownWithUnit(quantities::waterFlow, *this, flow[mode],
                                     {Text::minimumFlowUnitsEnglish, Text::minimumFlowUnitsMetric});
     return shown;
+}
+
+std::string frmSWDesign::descriptionOf(const std::string& image) const {
+    if (image == "imgCircuit") return describe(circuitPlan(), texts());
+    if (image == "imgGroundTemp") return describe(groundTempCurves(), texts());
+    if (image == "imgLoopCurves") return describe(loopCurves(), texts());
+    return ProjectDesign::descriptionOf(image);
 }
 
 CircuitPlan frmSWDesign::circuitPlan() const {

@@ -45,6 +45,8 @@ class frmSWDesign : public ProjectDesign<SurfaceWaterKind> {
     void showGoverningMode(Mode greyed) override;
 
     /// What `imgCircuit` shows. It follows what is typed; flows are those of results that are not
+    std::string descriptionOf(const std::string& image) const override;
+
     /// older than it.
     CircuitPlan circuitPlan() const;
     /// What `imgGroundTemp` shows.

@@ -114,6 +114,13 @@ class ProjectDesign : protected HoldsProject<typename Kind::Project>, public Gro
         return results().inputs ? *results().inputs : Kind::inputsOf(project(), towerIsOn());
     }
 
+    /// What a run would take now, with the loads that it would transfer first.
+    Inputs presentInputs() const {
+        Inputs now = Kind::inputsOf(project(), hybridOn);
+        if (link() != nullptr) now.loads.zones = presentZones();
+        return now;
+    }
+
  private:
     /// What undo brings back of the design.
     struct State {
@@ -132,13 +139,6 @@ class ProjectDesign : protected HoldsProject<typename Kind::Project>, public Gro
     }
     static StatePointer moment(State value) {
         return std::make_shared<StateOf<State>>(std::move(value));
-    }
-
-    /// What a run would take now, with the loads that it would transfer first.
-    Inputs presentInputs() const {
-        Inputs now = Kind::inputsOf(project(), hybridOn);
-        if (link() != nullptr) now.loads.zones = presentZones();
-        return now;
     }
 
     /// What the results answer: the inputs of the last run, unless a box has told why it failed.

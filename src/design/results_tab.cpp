@@ -27,7 +27,8 @@ std::string shownWithUnit(const Quantity& quantity, const GroundDesign& design, 
     return shownAs(quantity, design, value, format) + " " + design.text(unit.in(design.units()));
 }
 
-ResultsTab::ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int frameCaption)
+ResultsTab::ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int frameCaption,
+                       const std::function<void()>& addMore)
     : DesignTab(design) {
     addFrame(frame, frameCaption);
     top_ = {&add("CATopLabel(0)", ControlKind::label, frame, Text::resultsCooling),
@@ -37,6 +38,7 @@ ResultsTab::ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int fr
         const ByMode<Control*> labels{&addValue(row.label, cooling), &addValue(row.label, heating)};
         rows_.push_back({std::move(row), labels});
     }
+    if (addMore) addMore();
     add("CACalculateCommand", ControlKind::button, frame, Text::calculate);
     onClick("CACalculateCommand", [this] { this->design().CACalculateCommand_Click(); });
 }

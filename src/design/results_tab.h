@@ -24,7 +24,9 @@ struct ResultRow {
 /// The results by mode, and the Calculate button.
 class ResultsTab : public DesignTab {
  public:
-    ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int frameCaption);
+    /// @param addMore  adds what else stands between the rows and the Calculate button
+    ResultsTab(GroundDesign& design, std::vector<ResultRow> rows, int frameCaption,
+               const std::function<void()>& addMore = {});
 
     void setUnitLabels() override;
     /// Shows the figures of the last run. Their labels follow the units alone.

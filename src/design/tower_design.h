@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -37,8 +38,9 @@ class TowerDesign : public ProjectDesign<Kind> {
     using ProjectDesign<Kind>::ProjectDesign;
 
     /// The first page: the rows, the Calculate button, the tower.
-    void addResults(std::vector<ResultRow> rows, int frameCaption) {
-        resultsTab_ = std::make_unique<ResultsTab>(*this, std::move(rows), frameCaption);
+    void addResults(std::vector<ResultRow> rows, int frameCaption,
+                    const std::function<void()>& addMore = {}) {
+        resultsTab_ = std::make_unique<ResultsTab>(*this, std::move(rows), frameCaption, addMore);
         towerPanel_ = std::make_unique<TowerPanel>(*this, this->project_.tower, [this] {
             return modCalculations::TowerYear{this->results().cop.heatPumpCOP[cooling],
                                               this->results().annualTonHours[cooling],

@@ -164,6 +164,8 @@ class EveryWindow : public testing::Test {
             if (row.opensWindow && row.control != std::string("mnuFileOpen") &&
                 row.control != std::string("OpenProject"))
                 program->main().click(row.control);
+        for (ChildWindow* window : program->main().windows())
+            if (window->has("CASecondOpinionCommand")) window->click("CASecondOpinionCommand");
         visitDialogs(each);
         each(program->main());
         for (Form* form : std::vector<Form*>(platform.forms)) each(*form);

@@ -5,7 +5,9 @@
 
 namespace varnholt::secondOpinion {
 
-/// The natural cubic spline through some points. Outside them it keeps the value of the nearest.
+/// The cubic spline through some points, with no knot at the second and the last but one of them: a
+/// cubic comes out as it is. Through three points it is the natural one, through two a line.
+/// Outside the points it keeps the value of the nearest.
 class CubicSpline {
  public:
     CubicSpline() = default;

@@ -44,12 +44,12 @@ Cases::Cases(const Spreads& spreads) {
     for (std::size_t n = 0; n < tieCount; ++n) rest_[n] = std::sqrt(1 - tie_[n] * tie_[n]);
 }
 
-double Cases::factor(Quantity quantity, double driver) const {
+double Cases::factor(DoubtfulQuantity quantity, double driver) const {
     return std::exp(driver * (driver < 0 ? below_ : above_)[quantity]);
 }
 
 CaseFactors Cases::at(const Drivers& z) const {
-    const auto tied = [&](Tie n, Quantity leader, Quantity follower) {
+    const auto tied = [&](Tie n, DoubtfulQuantity leader, DoubtfulQuantity follower) {
         return tie_[n] * z[leader] + rest_[n] * z[follower];
     };
     CaseFactors factors;
@@ -68,7 +68,7 @@ CaseFactors Cases::at(const Drivers& z) const {
     return factors;
 }
 
-Drivers driverAlone(Quantity quantity, double value) {
+Drivers driverAlone(DoubtfulQuantity quantity, double value) {
     Drivers drivers{};
     drivers[quantity] = value;
     return drivers;

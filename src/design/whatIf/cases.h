@@ -44,7 +44,7 @@ class Cases {
     CaseFactors at(const Drivers& drivers) const;
 
  private:
-    double factor(Quantity quantity, double driver) const;
+    double factor(DoubtfulQuantity quantity, double driver) const;
 
     /// Of the logarithm of a factor for a unit of its driver; degF for the ground's temperature.
     std::array<double, quantityCount> below_, above_;
@@ -52,7 +52,7 @@ class Cases {
 };
 
 /// One driver alone, the others in the middle.
-Drivers driverAlone(Quantity quantity, double value);
+Drivers driverAlone(DoubtfulQuantity quantity, double value);
 
 constexpr std::size_t caseSets = 8;
 constexpr std::size_t casesOfSet = std::size_t{1} << 11;

@@ -10,7 +10,7 @@ namespace varnholt {
 Ends<quantityCount> tornado(const Cases& cases, const NeedOfCase& need) {
     Ends<quantityCount> ends;
     for (std::size_t j = 0; j < quantityCount; ++j) {
-        const auto quantity = static_cast<Quantity>(j);
+        const auto quantity = static_cast<DoubtfulQuantity>(j);
         ends.low[j] = need(cases.at(driverAlone(quantity, -oneInTen)));
         ends.high[j] = need(cases.at(driverAlone(quantity, oneInTen)));
     }

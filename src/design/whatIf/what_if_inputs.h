@@ -27,7 +27,7 @@ enum GroundKnowledge : std::int16_t {
 };
 
 /// The quantities that are in doubt. Two fields tell how far each of them may be off.
-enum Quantity : std::size_t {
+enum DoubtfulQuantity : std::size_t {
     conductivity = 0,
     heatCapacity = 1,  ///< by volume
     groundTemperature = 2,

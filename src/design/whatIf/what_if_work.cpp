@@ -264,7 +264,7 @@ void WhatIfWork::planTornado() {
         const std::size_t j = i / 2;
         const bool low = i % 2 == 0;
         const double driver = low ? -oneInTen : oneInTen;
-        const auto need = needOf(cases_.at(driverAlone(static_cast<Quantity>(j), driver)));
+        const auto need = needOf(cases_.at(driverAlone(static_cast<DoubtfulQuantity>(j), driver)));
         if (!need) return false;
         (low ? ends->low : ends->high)[j] = *need;
         if (i + 1 < 2 * quantityCount) return true;

@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTimer>
+#include <algorithm>
 #include <stdexcept>
 
 #include "desktop/binding/bound_button.h"
@@ -60,6 +62,7 @@ QWidget* Binder::widget(const std::string& name) {
 QWidget* Binder::keep(std::unique_ptr<BoundControl> bound) {
     const BoundControl& kept = *bound;
     const Control& control = kept.control();
+    if (control.isLate()) kept.widget()->installEventFilter(this);
     bound_[control.name()] = std::move(bound);
     if (has(control.label())) nameBy(control.name(), control.label());
     return kept.widget();
@@ -213,6 +216,37 @@ void Binder::refreshLater() {
 
 void Binder::customEvent(QEvent*) {
     if (refreshDue_ && form_ != nullptr) settled(*form_);
+}
+
+/// Late figures are found once the keys and repaints that wait have had their turn. A script reads
+/// when it wants to, and has them found then.
+void Binder::fellBehind(Form&) {
+    if (scripted_ || std::exchange(lateDue_, true)) return;
+    QTimer::singleShot(0, this, [this] { workLate(); });
+}
+
+/// What nobody sees is left alone until it comes into sight.
+bool Binder::showsLate() const {
+    return std::any_of(bound_.begin(), bound_.end(), [](const auto& named) {
+        return named.second->control().isLate() && named.second->widget()->isVisible();
+    });
+}
+
+/// One slice, and so on as long as nothing else has come up.
+void Binder::workLate() {
+    lateDue_ = false;
+    if (form_ == nullptr || !form_->isBehind() || !showsLate()) return;
+    try {
+        form_->catchUpABit();
+    } catch (...) {
+        if (!faults_) throw;
+        faults_(std::current_exception());
+        return;
+    }
+    if (form_->isBehind())
+        fellBehind(*form_);
+    else
+        refreshLater();
 }
 
 void Binder::settled(Form&) {

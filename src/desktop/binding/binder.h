@@ -140,6 +140,7 @@ class Binder : public QObject, public FormObserver {
     void propertyChanged(Control& control, Property property) override;
     void captionChanged(Form& form) override;
     void settled(Form& form) override;
+    void fellBehind(Form& form) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void customEvent(QEvent* event) override;
 
@@ -158,6 +159,8 @@ class Binder : public QObject, public FormObserver {
     void refreshDrawings();
     void recolour();
     void refreshLater();
+    bool showsLate() const;
+    void workLate();
     bool buildNext();
 
     Form* form_;
@@ -176,6 +179,7 @@ class Binder : public QObject, public FormObserver {
     bool scripted_ = false;
     bool leavesByFocus_ = true;
     bool refreshDue_ = false;
+    bool lateDue_ = false;
     int writing_ = 0;
     int building_ = 0;
     int actions_ = 0;

@@ -44,6 +44,7 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
         return false;
     }
     if (event->type() == QEvent::Show) {
+        if (form_->isBehind()) fellBehind(*form_);
         for (Drawing* drawing : drawings_) {
             if (drawing != watched) continue;
             drawing->refresh();

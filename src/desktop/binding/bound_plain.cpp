@@ -96,6 +96,7 @@ class BoundImage : public BoundControl {
     }
     Shown shown(Property property) const override {
         if (property == Property::caption) return control().caption();
+        if (property == Property::description) return description();
         return BoundControl::shown(property);
     }
 
@@ -105,6 +106,17 @@ class BoundImage : public BoundControl {
     void showForecolor() override {}
 
  private:
+    /// The sentence that the drawing tells, of what is to be drawn now; where only a screen reader
+    /// has one, a script has none.
+    std::string description() const {
+        auto* drawing = dynamic_cast<Drawing*>(widget());
+        const bool told =
+            binder().form() != nullptr && !binder().form()->descriptionOf(control().name()).empty();
+        if (drawing == nullptr || !told) return {};
+        drawing->refresh();
+        return plain(drawing->description());
+    }
+
     void flash() {
         if (binder().isScripted()) return;
         if (auto* drawing = dynamic_cast<Drawing*>(widget())) drawing->flash();

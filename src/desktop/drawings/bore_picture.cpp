@@ -162,11 +162,4 @@ void paintBore(const Canvas& canvas, const BoreDrawing& bore, const Texts& texts
     if (!bore.fits) drawWarning(canvas, qt(texts.text(Text::pipesDoNotFitPicture)));
 }
 
-QString describeBore(const BoreDrawing& bore, const Texts& texts) {
-    const std::string pattern = bore.pipes.size() > 2 ? texts.text(Text::doubleUTubePicture)
-                                                      : texts.text(Text::singleUTubePicture);
-    const QString shown = qt(pattern).arg(qt(bore.boreLabel), qt(bore.pipeLabel));
-    return bore.fits ? shown : shown + u' ' + qt(texts.text(Text::pipesDoNotFitPicture));
-}
-
 }  // namespace varnholt

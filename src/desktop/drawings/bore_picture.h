@@ -11,7 +11,4 @@ namespace varnholt {
 /// diameters of bore and pipe. Pipes that do not fit are drawn as they would lie, with a warning.
 void paintBore(const Canvas& canvas, const BoreDrawing& bore, const Texts& texts);
 
-/// What the picture shows, for a screen reader.
-QString describeBore(const BoreDrawing& bore, const Texts& texts);
-
 }  // namespace varnholt

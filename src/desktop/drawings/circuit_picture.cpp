@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <algorithm>
 
+#include "design/picture_sentences.h"
 #include "desktop/drawings/circuit_tree.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
@@ -142,57 +143,17 @@ Pipe trunkOf(const Scene& scene, const QPointF& house, double level) {
     return {path, 6};
 }
 
-/// The lines of one column of captions.
-struct Caption {
-    QString name;
-    ByMode<QString> flows;
-    QString inSoil, inWater;
-};
-
-QString counted(const Texts& texts, int count, const std::string& flow) {
-    if (flow.empty()) return QString::number(count);
-    return qt(texts.text(Text::circuitCountAndFlow)).arg(QString::number(count), qt(flow));
-}
-
-Caption captionOf(const Texts& texts, const std::string& name, const CircuitHeaders& headers) {
-    Caption caption{qt(name), {}, {}, {}};
-    for (const Mode mode : modes)
-        if (mode == cooling || !headers.flow[mode].empty())
-            caption.flows[mode] = counted(texts, headers.count, headers.flow[mode]);
-    if (!headers.inSoil.empty())
-        caption.inSoil = qt(texts.text(Text::circuitInSoil)).arg(qt(headers.inSoil));
-    if (!headers.inWater.empty())
-        caption.inWater = qt(texts.text(Text::circuitInWater)).arg(qt(headers.inWater));
-    return caption;
-}
-
-std::vector<Caption> captionsOf(const CircuitPlan& plan, const Texts& texts) {
-    std::vector<Caption> captions;
-    captions.push_back({qt(texts.text(Text::circuitHeatPumps)),
-                        {qt(plan.systemFlow[cooling]), qt(plan.systemFlow[heating])},
-                        {},
-                        {}});
-    captions.push_back(captionOf(texts, texts.text(Text::circuitPrimaryHeaders), plan.primary));
-    if (plan.branch.count > 0)
-        captions.push_back(captionOf(texts, texts.text(Text::circuitBranches), plan.branch));
-    Caption loops{qt(texts.text(Text::circuitLoops)), {}, {}, {}};
-    for (const Mode mode : modes)
-        loops.flows[mode] = counted(texts, plan.loops[mode], plan.loopFlow[mode]);
-    captions.push_back(loops);
-    return captions;
-}
-
-void drawCaption(const Canvas& canvas, const QRectF& column, const Caption& caption) {
+void drawCaption(const Canvas& canvas, const QRectF& column, const CircuitCaption& caption) {
     QPainter& painter = canvas.painter;
     const double line = canvas.textHeight();
     double y = column.top();
-    const auto write = [&](const QString& text, const QColor& colour, const QFont& font) {
-        if (text.isEmpty()) return;
+    const auto write = [&](const std::string& text, const QColor& colour, const QFont& font) {
+        if (text.empty()) return;
         painter.setFont(font);
         painter.setPen(colour);
         painter.drawText(QRectF(column.left(), y, column.width(), line),
                          Qt::AlignHCenter | Qt::AlignVCenter,
-                         QFontMetricsF(font).elidedText(text, Qt::ElideRight, column.width()));
+                         QFontMetricsF(font).elidedText(qt(text), Qt::ElideRight, column.width()));
         y += line;
     };
     QFont heavy = canvas.words;
@@ -219,27 +180,11 @@ void paintCircuit(const Canvas& canvas, const CircuitPlan& plan, const Texts& te
     strokePipes(canvas, pipes);
     if (scene.captions.isEmpty()) return;
     int column = 0;
-    for (const Caption& caption : captionsOf(plan, texts)) {
+    for (const CircuitCaption& caption : circuitCaptions(plan, texts)) {
         const QRectF place(scene.columnStart(column++), scene.captions.top(), scene.columnWidth(),
                            scene.captions.height());
         drawCaption(canvas, place.adjusted(2, 0, -2, 0), caption);
     }
-}
-
-QString describeCircuit(const CircuitPlan& plan, const Texts& texts) {
-    QStringList sentences{
-        qt(texts.text(Text::circuitPicture))
-            .arg(QString::number(plan.primary.count), QString::number(plan.branch.count),
-                 QString::number(plan.loops[cooling]), QString::number(plan.loops[heating]))};
-    for (const Caption& caption : captionsOf(plan, texts)) {
-        QStringList parts;
-        for (const QString& part :
-             {caption.flows[cooling], caption.flows[heating], caption.inSoil, caption.inWater})
-            if (!part.isEmpty()) parts << part;
-        if (!parts.isEmpty())
-            sentences << caption.name + QStringLiteral(": ") + parts.join(u", ") + u'.';
-    }
-    return sentences.join(u' ');
 }
 
 }  // namespace varnholt

@@ -12,7 +12,4 @@ namespace varnholt {
 /// Of many pipes some stand for all. A low picture has no words.
 void paintCircuit(const Canvas& canvas, const CircuitPlan& plan, const Texts& texts);
 
-/// What the picture shows, for a screen reader.
-QString describeCircuit(const CircuitPlan& plan, const Texts& texts);
-
 }  // namespace varnholt

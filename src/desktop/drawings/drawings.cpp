@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "design/picture_sentences.h"
 #include "desktop/drawings/bore_picture.h"
 #include "desktop/drawings/circuit_picture.h"
 #include "desktop/drawings/day_chart.h"
@@ -13,6 +14,7 @@
 #include "desktop/drawings/painted_drawing.h"
 #include "desktop/drawings/trench_picture.h"
 #include "desktop/drawings/trench_plan_picture.h"
+#include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
 namespace {
@@ -60,7 +62,7 @@ Drawing* newBoreDrawing(std::function<BoreDrawing()> source, const Texts& texts)
     return new PaintedDrawing<BoreDrawing>(
         std::move(source),
         [&texts](const Canvas& canvas, const BoreDrawing& bore) { paintBore(canvas, bore, texts); },
-        [&texts](const BoreDrawing& bore) { return describeBore(bore, texts); }, {260, 290});
+        [&texts](const BoreDrawing& bore) { return qt(describe(bore, texts)); }, {260, 290});
 }
 
 Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts) {
@@ -69,7 +71,7 @@ Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts) 
         [&texts](const Canvas& canvas, const FieldPlan& field) {
             paintField(canvas, field, texts);
         },
-        [&texts](const FieldPlan& field) { return describeField(field, texts); }, {380, 320});
+        [&texts](const FieldPlan& field) { return qt(describe(field, texts)); }, {380, 320});
 }
 
 Drawing* newTrenchDrawing(std::function<TrenchDrawing()> source, const Texts& texts) {
@@ -78,8 +80,7 @@ Drawing* newTrenchDrawing(std::function<TrenchDrawing()> source, const Texts& te
         [&texts](const Canvas& canvas, const TrenchDrawing& trench) {
             paintTrench(canvas, trench, texts);
         },
-        [&texts](const TrenchDrawing& trench) { return describeTrench(trench, texts); },
-        {380, 260});
+        [&texts](const TrenchDrawing& trench) { return qt(describe(trench, texts)); }, {380, 260});
 }
 
 Drawing* newTrenchPlanDrawing(std::function<TrenchPlan()> source, const Texts& texts) {
@@ -88,7 +89,7 @@ Drawing* newTrenchPlanDrawing(std::function<TrenchPlan()> source, const Texts& t
         [&texts](const Canvas& canvas, const TrenchPlan& plan) {
             paintTrenches(canvas, plan, texts);
         },
-        [&texts](const TrenchPlan& plan) { return describeTrenches(plan, texts); }, {380, 160});
+        [&texts](const TrenchPlan& plan) { return qt(describe(plan, texts)); }, {380, 160});
 }
 
 Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts,
@@ -98,7 +99,7 @@ Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& tex
         [&texts](const Canvas& canvas, const CircuitPlan& plan) {
             paintCircuit(canvas, plan, texts);
         },
-        [&texts](const CircuitPlan& plan) { return describeCircuit(plan, texts); }, usual);
+        [&texts](const CircuitPlan& plan) { return qt(describe(plan, texts)); }, usual);
 }
 
 Drawing* newGroundTempChart(std::function<GroundTempCurves()> source, const Texts& texts,
@@ -134,7 +135,7 @@ Drawing* newMonthsPicture(std::function<MonthsChart()> source, const Texts& text
         [&texts](const Canvas& canvas, const MonthsChart& year) {
             paintMonths(canvas, year, texts);
         },
-        [&texts](const MonthsChart& year) { return describeMonths(year, texts); }, {420, 190});
+        [&texts](const MonthsChart& year) { return qt(describe(year, texts)); }, {420, 190});
 }
 
 Drawing* newDayChart(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,

@@ -10,7 +10,7 @@
 #include <cmath>
 #include <vector>
 
-#include "design/modCalculations/bore_grid.h"
+#include "design/picture_sentences.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
 
@@ -60,52 +60,16 @@ void drawMark(QPainter& painter, const Look& look, const QPointF& middle, int ne
         painter.drawPolygon(markShape(neighbours, size / 2).translated(middle));
 }
 
-/// Names of the classes; in a single line two neighbours do not make a corner.
-QString className(const FieldPlan& field, int neighbours, const Texts& texts) {
-    const bool line = field.across < 2 || field.down < 2;
-    switch (neighbours) {
-        case 0:
-            return qt(texts.text(Text::boresWithoutNeighbour));
-        case 1:
-            return qt(texts.text(Text::boresAtEnd));
-        case 2:
-            return qt(line ? texts.text(Text::boresInLine) : texts.text(Text::boresAtCorner));
-        case 3:
-            return qt(texts.text(Text::boresAtEdge));
-        default:
-            return qt(texts.text(Text::boresInside));
-    }
-}
-
-QString counted(double bores) { return QString::number(bores, 'f', 0); }
-
-struct LegendEntry {
-    int neighbours;
-    QString text;
-};
-
-std::vector<LegendEntry> legendOf(const FieldPlan& field, const Texts& texts) {
-    const modCalculations::NeighbourCount counts =
-        modCalculations::countNeighbours(std::floor(field.down), std::floor(field.across));
-    std::vector<LegendEntry> entries;
-    for (int n = 4; n >= 0; --n) {
-        const double count = counts[static_cast<std::size_t>(n)];
-        if (count <= 0) continue;
-        entries.push_back({n, className(field, n, texts) + u' ' + counted(count)});
-    }
-    return entries;
-}
-
 /// Draws the legend at the foot of the area, in as many lines as it needs.
 /// @return the room above it
-QRectF drawLegend(const Canvas& canvas, const std::vector<LegendEntry>& entries) {
+QRectF drawLegend(const Canvas& canvas, const std::vector<FieldClass>& entries) {
     constexpr double markRoom = 18, gap = 16;
     const double lineHeight = canvas.textHeight() + 4;
     const QFontMetricsF metrics(canvas.words);
-    std::vector<std::pair<QPointF, const LegendEntry*>> placed;
+    std::vector<std::pair<QPointF, const FieldClass*>> placed;
     double x = 0, y = 0;
-    for (const LegendEntry& entry : entries) {
-        const double width = markRoom + metrics.horizontalAdvance(entry.text);
+    for (const FieldClass& entry : entries) {
+        const double width = markRoom + metrics.horizontalAdvance(qt(entry.words));
         if (x > 0 && x + width > canvas.area.width()) {
             x = 0;
             y += lineHeight;
@@ -123,7 +87,7 @@ QRectF drawLegend(const Canvas& canvas, const std::vector<LegendEntry>& entries)
         canvas.painter.setPen(canvas.look.ink);
         canvas.painter.drawText(
             QRectF(start + QPointF(markRoom, 0), QSizeF(canvas.area.width(), lineHeight)),
-            Qt::AlignLeft | Qt::AlignVCenter, entry->text);
+            Qt::AlignLeft | Qt::AlignVCenter, qt(entry->words));
     }
     return canvas.area.adjusted(0, 0, 0, -height - gridStep / 2.0);
 }
@@ -260,7 +224,7 @@ void paintField(const Canvas& canvas, const FieldPlan& field, const Texts& texts
                                 qt(texts.text(Text::fieldPictureEmpty)));
         return;
     }
-    const QRectF room = drawLegend(canvas, legendOf(field, texts));
+    const QRectF room = drawLegend(canvas, fieldClasses(field, texts));
     const Grid grid = gridIn(canvas, room, field);
     drawGround(canvas, grid);
     const double lines = std::max(grid.columns, grid.rows);
@@ -269,15 +233,6 @@ void paintField(const Canvas& canvas, const FieldPlan& field, const Texts& texts
     else
         drawBores(canvas, grid);
     drawDimensions(canvas, grid, field);
-}
-
-QString describeField(const FieldPlan& field, const Texts& texts) {
-    if (field.across < 1 || field.down < 1) return qt(texts.text(Text::fieldPictureEmpty));
-    QString shown = qt(texts.text(Text::fieldPicture))
-                        .arg(counted(std::floor(field.across)), counted(std::floor(field.down)),
-                             qt(field.separationLabel), qt(field.acrossLabel), qt(field.downLabel));
-    for (const LegendEntry& entry : legendOf(field, texts)) shown += u' ' + entry.text + u'.';
-    return shown;
 }
 
 }  // namespace varnholt

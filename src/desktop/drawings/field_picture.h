@@ -12,7 +12,4 @@ namespace varnholt {
 /// are shown as areas.
 void paintField(const Canvas& canvas, const FieldPlan& field, const Texts& texts);
 
-/// What the picture shows, for a screen reader.
-QString describeField(const FieldPlan& field, const Texts& texts);
-
 }  // namespace varnholt

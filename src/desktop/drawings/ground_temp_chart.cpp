@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "design/picture_sentences.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
 
@@ -27,12 +28,7 @@ ChartAxis daysOfTheYear() {
 GroundTempChart::GroundTempChart(Source curves, const Texts& texts, ChartModuleFinder charts)
     : ChartDrawing(texts, std::move(charts), QBoxLayout::TopToBottom), source_(std::move(curves)) {}
 
-QString GroundTempChart::description() const {
-    if (curves_.empty()) return emptyHint();
-    return qt(texts().text(Text::groundChart))
-        .arg(qt(curves_.depthLabel), qt(curves_.temperatureLabels[cooling]),
-             qt(curves_.temperatureLabels[heating]));
-}
+QString GroundTempChart::description() const { return qt(describe(curves_, texts())); }
 
 bool GroundTempChart::take() {
     const GroundTempCurves before = std::exchange(curves_, source_());

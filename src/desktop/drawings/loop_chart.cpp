@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "basis/number_text.h"
+#include "design/picture_sentences.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
 
@@ -13,25 +13,12 @@ namespace {
 
 using Sign = ChartSeries::Sign;
 
-QString figure(double value) { return qt(formatNumber(value, "##0.0")); }
-
 }  // namespace
 
 LoopChart::LoopChart(Source curves, const Texts& texts, ChartModuleFinder charts)
     : ChartDrawing(texts, std::move(charts)), source_(std::move(curves)) {}
 
-QString LoopChart::description() const {
-    if (curves_.empty()) return emptyHint();
-    QString shown = qt(texts().text(Text::loopChart));
-    for (const Mode mode : modes)
-        for (const CurvePoint& point : curves_.atDesign[mode])
-            shown += u' ' + qt(texts().text(Text::loopChartAtDesign))
-                                .arg(qt(mode == cooling ? texts().text(Text::chartCooling)
-                                                        : texts().text(Text::chartHeating)),
-                                     figure(point.up), qt(curves_.lengthUnit), figure(point.across),
-                                     qt(curves_.differenceUnit));
-    return shown;
-}
+QString LoopChart::description() const { return qt(describe(curves_, texts())); }
 
 bool LoopChart::take() {
     const LoopCurves before = std::exchange(curves_, source_());

@@ -144,16 +144,4 @@ void paintMonths(const Canvas& canvas, const MonthsChart& year, const Texts& tex
         drawMark(canvas, year, month, placeOf(canvas, plot, month));
 }
 
-QString describeMonths(const MonthsChart& year, const Texts& texts) {
-    if (year.empty()) return qt(texts.text(Text::monthsPictureEmpty));
-    const auto monthOf = [&](const Months& values) {
-        return qt(year.names[greatestMonth(values)]);
-    };
-    const std::size_t peak = year.peakMonth.value_or(greatestMonth(year.peaks));
-    return qt(texts.text(Text::monthsPicture))
-        .arg(qt(year.mode == cooling ? texts.text(Text::cooling) : texts.text(Text::heating)),
-             figure(largestOf(year.energies)), qt(year.energyUnit), monthOf(year.energies),
-             figure(year.peaks[peak]), qt(year.peakUnit), qt(year.names[peak]));
-}
-
 }  // namespace varnholt

@@ -11,7 +11,4 @@ namespace varnholt {
 /// peak month strong.
 void paintMonths(const Canvas& canvas, const MonthsChart& year, const Texts& texts);
 
-/// What the picture shows, for a screen reader.
-QString describeMonths(const MonthsChart& year, const Texts& texts);
-
 }  // namespace varnholt

@@ -147,12 +147,6 @@ void drawNote(const Canvas& canvas, const QString& text) {
         Qt::AlignCenter, text);
 }
 
-std::string patternOf(const TrenchDrawing& trench, const Texts& texts) {
-    if (!trench.coil) return texts.text(Text::pipesInTrenchPicture);
-    return trench.standing ? texts.text(Text::standingSlinkyPicture)
-                           : texts.text(Text::lyingSlinkyPicture);
-}
-
 }  // namespace
 
 void paintTrench(const Canvas& canvas, const TrenchDrawing& trench, const Texts& texts) {
@@ -171,14 +165,6 @@ void paintTrench(const Canvas& canvas, const TrenchDrawing& trench, const Texts&
     drawLevels(canvas, scale, trench);
     drawUprights(canvas, scale, trench);
     if (!trench.fits) drawNote(canvas, qt(texts.text(Text::slinkyTooWidePicture)));
-}
-
-QString describeTrench(const TrenchDrawing& trench, const Texts& texts) {
-    if (trench.empty()) return qt(texts.text(Text::trenchPictureEmpty));
-    const QString third = trench.coil ? qt(trench.coilLabel) : QString::number(trench.pipes.size());
-    const QString shown =
-        qt(patternOf(trench, texts)).arg(qt(trench.widthLabel), qt(trench.depthLabel), third);
-    return trench.fits ? shown : shown + u' ' + qt(texts.text(Text::slinkyTooWidePicture));
 }
 
 }  // namespace varnholt

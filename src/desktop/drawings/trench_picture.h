@@ -11,7 +11,4 @@ namespace varnholt {
 /// under the letters that the fields call them by.
 void paintTrench(const Canvas& canvas, const TrenchDrawing& trench, const Texts& texts);
 
-/// What the picture shows, for a screen reader.
-QString describeTrench(const TrenchDrawing& trench, const Texts& texts);
-
 }  // namespace varnholt

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "design/picture_sentences.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
 
@@ -115,19 +116,6 @@ void drawDimensions(const Canvas& canvas, const Field& field, const TrenchPlan& 
                          QStringLiteral("[P] ") + qt(plan.pitchLabel));
 }
 
-QString counted(double number) { return QString::number(number, 'f', 0); }
-
-QString cutNote(const TrenchPlan& plan, const Texts& texts) {
-    return qt(texts.text(Text::trenchesCutPicture))
-        .arg(counted(plan.drawn), counted(plan.trenches));
-}
-
-std::string patternOf(const TrenchPlan& plan, const Texts& texts) {
-    if (!plan.isCoil()) return texts.text(Text::pipeTrenchesPicture);
-    return plan.standing ? texts.text(Text::standingSlinkyTrenchesPicture)
-                         : texts.text(Text::lyingSlinkyTrenchesPicture);
-}
-
 }  // namespace
 
 void paintTrenches(const Canvas& canvas, const TrenchPlan& plan, const Texts& texts) {
@@ -142,19 +130,8 @@ void paintTrenches(const Canvas& canvas, const TrenchPlan& plan, const Texts& te
     if (plan.drawn >= plan.trenches) return;
     painter.setFont(canvas.words);
     painter.setPen(canvas.look.ink);
-    painter.drawText(canvas.area, Qt::AlignHCenter | Qt::AlignBottom, cutNote(plan, texts));
-}
-
-QString describeTrenches(const TrenchPlan& plan, const Texts& texts) {
-    if (plan.empty()) return {};
-    QString shown =
-        qt(patternOf(plan, texts)).arg(counted(plan.trenches), qt(plan.separationLabel));
-    if (plan.isCoil()) {
-        shown.replace(QStringLiteral("%3"), qt(plan.coilLabel));
-        shown.replace(QStringLiteral("%4"), qt(plan.pitchLabel));
-    }
-    if (plan.drawn < plan.trenches) shown += u' ' + cutNote(plan, texts);
-    return shown;
+    painter.drawText(canvas.area, Qt::AlignHCenter | Qt::AlignBottom,
+                     qt(trenchesCutNote(plan, texts)));
 }
 
 }  // namespace varnholt

@@ -12,7 +12,4 @@ namespace varnholt {
 /// of its loops.
 void paintTrenches(const Canvas& canvas, const TrenchPlan& plan, const Texts& texts);
 
-/// What the picture shows, for a screen reader.
-QString describeTrenches(const TrenchPlan& plan, const Texts& texts);
-
 }  // namespace varnholt

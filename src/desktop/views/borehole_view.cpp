@@ -7,6 +7,7 @@
 #include "desktop/views/design_pages.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/views.h"
+#include "desktop/widgets/text_label.h"
 
 namespace varnholt {
 namespace {
@@ -16,9 +17,13 @@ const frmBHDesign* designOf(const Binder& bind) {
 }
 
 QWidget* resultsPage(Binder& bind) {
+    QWidget* stands = bind.widget("CASecondStandsLabel");
+    mute(stands);
     const std::vector<FieldRows> parts{
         {bind.results("CATotalLengthLabel"), bind.results("CABoreholeNumberLabel"),
          bind.results("CABoreholeLengthLabel")},
+        {bind.results("CASecondLengthLabel"), bind.results("CASecondDepthLabel"),
+         bind.wide(row_(stands, stretch(), bind.widget("CASecondOpinionCommand")))},
         unitTemperatures(bind),
         systemPerformance(bind),
         {bind.results("CAFlowRateLabel"), bind.results("CASoilTempChangeLabel")}};

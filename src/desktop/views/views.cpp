@@ -22,6 +22,7 @@ void registerViews(ViewRegistry& views) {
     views.registerView("frmPumpPowerCalc", makePumpPowerView);
     views.registerView("frmEqvHoursCalc", makeEqvHoursView);
     views.registerView("frmBrowser", makeBrowserView);
+    views.registerView("frmSecondOpinion", makeSecondOpinionView);
 }
 
 }  // namespace varnholt

@@ -25,5 +25,6 @@ QWidget* makeDiffusivityView(Binder& bind);
 QWidget* makePumpPowerView(Binder& bind);
 QWidget* makeEqvHoursView(Binder& bind);
 QWidget* makeBrowserView(Binder& bind);
+QWidget* makeSecondOpinionView(Binder& bind);
 
 }  // namespace varnholt

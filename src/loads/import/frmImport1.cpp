@@ -194,6 +194,10 @@ void frmImport1::showField() {
                            element("lblTitle", total ? 1 : 2).caption());
 }
 
+std::string frmImport1::descriptionOf(const std::string& image) const {
+    return image == "imgMonths" ? describe(monthsChart(), texts()) : std::string();
+}
+
 MonthsChart frmImport1::monthsChart() const {
     MonthsChart chart;
     chart.mode = mode_;

@@ -61,6 +61,7 @@ class frmImport1 : public ChildWindow {
     }
     Mode mode() const { return mode_; }
     const Cell& cell() const { return cell_; }
+    std::string descriptionOf(const std::string& image) const override;
     MonthsChart monthsChart() const;
     /// Both modes' design days as they would be written.
     LoadsChart dayChart() const;

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "basis/mode.h"
+#include "forms/texts.h"
 #include "tools/full_load_hours.h"
 
 namespace varnholt {
@@ -23,5 +24,8 @@ struct MonthsChart {
     bool empty() const { return energies == Months{} && peaks == Months{}; }
     friend bool operator==(const MonthsChart&, const MonthsChart&) = default;
 };
+
+/// What the picture shows, in a sentence.
+std::string describe(const MonthsChart& year, const Texts& texts);
 
 }  // namespace varnholt

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vector>
+
+#include "basis/mode.h"
+#include "desktop/drawings/canvas.h"
+
+namespace varnholt {
+
+/// A scale from one round number to another.
+struct PlotScale {
+    double least = 0, most = 1, step = 1;
+};
+
+/// A scale around the values, with figures at about so many round numbers.
+PlotScale scaleAround(double least, double most, int figures);
+
+/// The place of a plot in a picture, with its upright scale.
+struct Plot {
+    QRectF area;
+    PlotScale scale;
+
+    double heightOf(double value) const;
+};
+
+/// A sign with its word, in the line over a plot.
+struct LegendSign {
+    enum class Kind { area, line, thinLine, dashes, mark };
+
+    Kind kind;
+    QColor colour, wash;
+    QString word;
+};
+
+/// Draws the line over a plot from left to right, as far as there is room, and gives its height.
+double drawSigns(const Canvas& canvas, const std::vector<LegendSign>& signs);
+
+/// The plot between the legend, the figures at its left and a line of words below, with a hairline
+/// at each figure.
+/// @param head  height of the legend
+Plot drawPlot(const Canvas& canvas, const PlotScale& scale, double head);
+
+/// A word below the plot, centred about the place.
+void drawBelow(const Canvas& canvas, const Plot& plot, double x, const QString& word,
+               bool strong = false);
+
+/// A sentence in the middle of a picture that has nothing to show.
+void drawEmpty(const Canvas& canvas, const QString& sentence);
+
+/// The colour of a mode's lines and text, and that of its areas.
+const QColor& colourOf(const Look& look, Mode mode);
+const QColor& washOf(const Look& look, Mode mode);
+
+}  // namespace varnholt
