@@ -9,7 +9,7 @@
 namespace varnholt {
 namespace {
 
-CaseFactors alone(const Spreads& spreads, Quantity quantity, double driver) {
+CaseFactors alone(const Spreads& spreads, DoubtfulQuantity quantity, double driver) {
     return Cases(spreads).at(driverAlone(quantity, driver));
 }
 

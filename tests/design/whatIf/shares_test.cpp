@@ -55,7 +55,7 @@ TEST(Shares, OfTheOfficeAreThese) {
     EXPECT_NEAR(shares.total[boreResistance], 0.061, 0.005);
     EXPECT_NEAR(shares.total[coolingLoads], 0.510, 0.005);
     EXPECT_NEAR(shares.total[coolingHours], 0.046, 0.005);
-    for (const Quantity j : {heatCapacity, heatingLoads, heatingHours, pumpPower, method})
+    for (const DoubtfulQuantity j : {heatCapacity, heatingLoads, heatingHours, pumpPower, method})
         EXPECT_LT(shares.total[j], 0.01);
     for (std::size_t j = 0; j < quantityCount; ++j)
         EXPECT_NEAR(shares.alone[j], shares.total[j], 0.015);

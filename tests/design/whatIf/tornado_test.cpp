@@ -18,7 +18,7 @@ Ends<quantityCount> tornadoOf(const Spreads& spreads) {
 
 TEST(Tornado, OfTheOfficeHasTheseEnds) {
     const Ends<quantityCount> ends = tornadoOf({});
-    const auto expect = [&](Quantity j, double low, double high) {
+    const auto expect = [&](DoubtfulQuantity j, double low, double high) {
         EXPECT_NEAR(ends.low[j], low, 0.5) << j;
         EXPECT_NEAR(ends.high[j], high, 0.5) << j;
     };
