@@ -10,44 +10,52 @@ namespace {
 
 using Sets = std::vector<std::vector<CaseFigures>>;
 
+/// One figure of every case of a set, behind what is there.
+template <class Figure>
+void gather(const std::vector<CaseFigures>& set, Figure figure, std::vector<double>& numbers) {
+    for (const CaseFigures& each : set) numbers.push_back(figure(each));
+}
+
 /// One figure of every case.
 template <class Figure>
 std::vector<double> gathered(const Sets& sets, Figure figure) {
     std::vector<double> numbers;
     numbers.reserve(sets.size() * (sets.empty() ? 0 : sets.front().size()));
-    for (const std::vector<CaseFigures>& set : sets)
-        for (const CaseFigures& each : set) numbers.push_back(figure(each));
+    for (const std::vector<CaseFigures>& set : sets) gather(set, figure, numbers);
     return numbers;
 }
 
 /// Place of a quantile among sorted numbers. A share such as 0.1 of 10 is one of them, whatever the
 /// product rounds to.
-std::size_t placeOf(double share, std::size_t numbers) {
+std::ptrdiff_t placeOf(double share, std::size_t numbers) {
     const auto count = static_cast<double>(numbers);
-    return static_cast<std::size_t>(std::clamp(std::ceil(share * count - 1e-9), 1.0, count)) - 1;
+    return static_cast<std::ptrdiff_t>(std::clamp(std::ceil(share * count - 1e-9), 1.0, count)) - 1;
 }
 
-/// The element that quantileOf would find in the numbers sorted, which are left partly sorted.
-double quantileAmong(std::vector<double>& numbers, double share) {
-    const std::size_t place = placeOf(share, numbers.size());
-    std::nth_element(numbers.begin(), numbers.begin() + static_cast<std::ptrdiff_t>(place),
-                     numbers.end());
-    return numbers[place];
-}
-
+/// Sorts the numbers as far as their middle and their ends ask for it.
 Deciles decilesAmong(std::vector<double> numbers) {
-    return {quantileAmong(numbers, 0.1), quantileAmong(numbers, 0.5), quantileAmong(numbers, 0.9)};
+    const auto begin = numbers.begin();
+    const auto at = [&](double share) { return begin + placeOf(share, numbers.size()); };
+    const auto low = at(0.1), middle = at(0.5), high = at(0.9);
+    std::nth_element(begin, middle, numbers.end());
+    std::nth_element(begin, low, middle);
+    std::nth_element(middle, high, numbers.end());
+    return {*low, *middle, *high};
 }
 
 /// Standard error of the mean of the sets' quantiles.
 double errorOf(const Sets& sets, double share) {
     const auto n = static_cast<double>(sets.size());
     if (n < 2) return 0;
-    std::vector<double> quantiles;
+    std::vector<double> quantiles, needs;
     for (const std::vector<CaseFigures>& set : sets) {
-        std::vector<double> needs = gathered({set}, [](const CaseFigures& c) { return c.need(); });
-        quantiles.push_back(quantileAmong(needs, share));
-        if (quantiles.back() == noLength) return noLength;
+        needs.clear();
+        gather(
+            set, [](const CaseFigures& c) { return c.need(); }, needs);
+        const auto quantile = needs.begin() + placeOf(share, needs.size());
+        std::nth_element(needs.begin(), quantile, needs.end());
+        quantiles.push_back(*quantile);
+        if (*quantile == noLength) return noLength;
     }
     const double mean = std::accumulate(quantiles.begin(), quantiles.end(), 0.0) / n;
     double squares = 0;
@@ -64,7 +72,7 @@ double shareWithin(const std::vector<double>& numbers, double limit) {
 }  // namespace
 
 double quantileOf(const std::vector<double>& sorted, double share) {
-    return sorted[placeOf(share, sorted.size())];
+    return sorted[static_cast<std::size_t>(placeOf(share, sorted.size()))];
 }
 
 void CertaintySum::add(std::vector<CaseFigures> set) { sets_.push_back(std::move(set)); }

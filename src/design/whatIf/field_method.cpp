@@ -61,12 +61,12 @@ std::optional<CaseFigures> FieldMethod::figures(const MeasuredDesign& design,
             if (!length) return std::nullopt;
             figures.length[m] = *length * factors.method;
             if (design.drawnLength <= 0 || !terms.year.hasMonths(m)) continue;
-            const auto fluid = fieldCase.hardestFluid(m, design.drawnLength);
+            // With a method that asks for so much more, a field serves as one so much shorter.
+            const auto fluid = fieldCase.hardestFluid(m, design.drawnLength / factors.method);
             waitsFor_ = fluid ? nullptr : opened.table;
             if (!fluid) return std::nullopt;
             const ZonesYear& zones = terms.zones;
-            figures.entering[m] = terms.groundTemp - (terms.groundTemp - *fluid) * factors.method -
-                                  (zones.outletTemp[m] - zones.inletTemp[m]) / 2;
+            figures.entering[m] = *fluid - (zones.outletTemp[m] - zones.inletTemp[m]) / 2;
         }
         return figures;
     } catch (const RunTimeError&) {

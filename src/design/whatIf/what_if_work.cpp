@@ -52,7 +52,9 @@ WhatIfWork::WhatIfWork(WhatIfCase theCase, const WhatIfWanted& wanted, WhatIfKep
         planBase();
         planOtherBase();
         if (wanted.cost) planCost();
-        if (wanted.sure) planSure();
+        // A case without a length leaves no shares, so what decides asks for all cases too.
+        if (wanted.sure || wanted.decides) planDistribution();
+        if (wanted.sure) planTestAndOther();
         if (wanted.decides) {
             planTornado();
             planLevers();
@@ -204,15 +206,19 @@ void WhatIfWork::planSets(WhatIfMeasure measure, const Spreads& spreads,
         });
 }
 
-void WhatIfWork::planSure() {
+void WhatIfWork::planDistribution() {
     const double confidence = case_.inputs.confidence / 100;
-    const Spreads& spreads = case_.inputs.spreads;
-    planSets(measure_, spreads, [this, confidence](const std::shared_ptr<Sets>& sets) {
+    planSets(measure_, case_.inputs.spreads, [this, confidence](const std::shared_ptr<Sets>& sets) {
         toTell_ = [this, confidence, sets] {
             takeCertainty(sets->sum.certainty(drawnLength_, confidence));
         };
         if (sets->sum.setCount() == caseSets) tell();
     });
+}
+
+void WhatIfWork::planTestAndOther() {
+    const double confidence = case_.inputs.confidence / 100;
+    const Spreads& spreads = case_.inputs.spreads;
     const Spreads tested = withKnowledge(spreads, responseTest);
     planSets(measure_, tested, [this, confidence](const std::shared_ptr<Sets>& sets) {
         if (sets->sum.setCount() < caseSets) return;

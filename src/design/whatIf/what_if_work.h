@@ -47,7 +47,8 @@ class WhatIfWork {
     void planBase();
     void planOtherBase();
     void planCost();
-    void planSure();
+    void planDistribution();
+    void planTestAndOther();
     void planSets(WhatIfMeasure measure, const Spreads& spreads,
                   std::function<void(const std::shared_ptr<Sets>&)> take);
     void tell();
