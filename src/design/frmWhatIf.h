@@ -138,7 +138,7 @@ class frmWhatIf : public ChildWindow {
     void WLCopyCommand_Click();
     void WLPasteCommand_Click();
     void WLRectangleCommand_Click();
-    LayoutQuestion layoutQuestion() const;
+    WhatIfCase layoutQuestion() const;
     Point* corner(std::size_t index) const;
     std::size_t cornerCount() const;
     double cornerPart(double Point::*part) const;

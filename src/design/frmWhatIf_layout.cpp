@@ -74,16 +74,20 @@ void frmWhatIf::addSearch() {
     addOutput("WLMessageLabel");
 }
 
-/// What the search would start from now. The design's own field is not part of it.
-LayoutQuestion frmWhatIf::layoutQuestion() const {
+/// What the search would start from now, and nothing else: neither the design's own field nor what
+/// other pages ask matter to it.
+WhatIfCase frmWhatIf::layoutQuestion() const {
     SecondOpinionCase now = design_.presentCase();
-    const WhatIfInputs within = withinLimits(inputs());
     now.design.arrangement.patternRows = ArrangementValues{}.patternRows;
     now.design.arrangement.boreSeparation = ArrangementValues{}.boreSeparation;
-    return {{std::move(now.design), within.land, within.layout, within.prices,
-             static_cast<WhatIfMeasure>(within.measure)},
-            std::move(now.window),
-            std::move(now.imported)};
+    WhatIfInputs asked;
+    asked.measure = inputs().measure;
+    asked.land = inputs().land;
+    asked.layout = inputs().layout;
+    asked.prices = inputs().prices;
+    return {
+        {}, std::move(now.design), std::move(asked), std::move(now.window), std::move(now.imported),
+        {}};
 }
 
 /// Where nobody goes on with the work between two actions, the search ends with its own.

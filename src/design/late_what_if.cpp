@@ -41,6 +41,8 @@ void takeDecides(WhatIf& known, const WhatIf& found) {
     known.leverHigh = found.leverHigh;
     known.share = found.share;
     known.shareAlone = found.shareAlone;
+    known.sampleCount = found.sampleCount;
+    known.failedSamples = found.failedSamples;
 }
 
 void takeSure(WhatIf& known, const WhatIf& found) {
@@ -100,17 +102,12 @@ void LateWhatIf::take() {
     takeBase(known_, found);
     if (runParts_.sure) takeSure(known_, found);
     if (runParts_.decides) takeDecides(known_, found);
-    // Parts of a spread that has no end would mean nothing.
-    if (known_.failedSamples > 0) known_.share = known_.shareAlone = {};
     if (runParts_.cost) takeCost(known_, found);
     if (runParts_.tower) known_.tower = found.tower;
     if (runParts_.alternatives) known_.alternatives = found.alternatives;
 }
 
-bool LateWhatIf::advance(const WhatIfCase& wanted, const WhatIfWanted& wantedParts, bool whole) {
-    WhatIfWanted parts = wantedParts;
-    // Whether cases have failed is the distribution's to say, and shares need to know.
-    parts.sure = parts.sure || parts.decides;
+bool LateWhatIf::advance(const WhatIfCase& wanted, const WhatIfWanted& parts, bool whole) {
     const bool same = case_ && *case_ == wanted;
     if (same && showsCase_ && !run_ && isEmpty(without(parts, knownParts_))) return true;
     const bool onTheWay = same && run_ && isEmpty(without(without(parts, knownParts_), runParts_));

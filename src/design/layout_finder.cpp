@@ -3,29 +3,11 @@
 
 #include <utility>
 
-#include "basis/run_time_error.h"
-
 namespace varnholt {
 
-void LayoutFinder::start(const LayoutQuestion& question) {
+void LayoutFinder::start(const WhatIfCase& question) {
     asked_ = question;
-    try {
-        sizer_ = std::make_unique<FieldSizer>(
-            OpinionSettings{question.secondOpinion, question.imported}, question.layout.design);
-    } catch (const RunTimeError&) {
-        // Without it no field has a length, which the search tells.
-        sizer_.reset();
-    }
-    search_ = std::make_unique<LayoutSearch>(
-        question.layout,
-        [this](const std::vector<Point>& places, const LatticeField& field,
-               double startDepth) -> std::optional<double> {
-            if (!sizer_) return noLength;
-            std::vector<secondOpinion::BorePosition> bores;
-            bores.reserve(places.size());
-            for (const Point& place : places) bores.push_back({place.x, place.y});
-            return sizer_->need(bores, field.separation, startDepth);
-        });
+    search_.emplace(layoutSearchOf(question));
     found_ = 0;
     running_ = true;
     ++revision_;
@@ -44,11 +26,6 @@ bool LayoutFinder::advance(bool whole) {
         return true;
     } while (whole);
     return false;
-}
-
-const Layouts& LayoutFinder::result() const {
-    static const Layouts none;
-    return search_ ? search_->result() : none;
 }
 
 }  // namespace varnholt

@@ -63,8 +63,6 @@ struct LayoutCase {
     LayoutValues layout;
     Prices prices;
     WhatIfMeasure measure = classicalMethod;
-
-    friend bool operator==(const LayoutCase&, const LayoutCase&) = default;
 };
 
 /// The land as it is typed or drawn.
