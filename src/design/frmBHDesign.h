@@ -47,7 +47,8 @@ class frmBHDesign : public TowerDesign<BoreholeKind> {
 
     void load() override;
     void MetricCheck_Click() override;
-    void actionDone() override;
+    void actionDone() override { fallBehind(); }
+    void windowsChanged() override { fallBehind(); }
     void unloaded() override;
 
     // The second opinion, which stands beside the design's own figures and never in their place.

@@ -171,8 +171,6 @@ void frmBHDesign::restore(const DocumentState& earlier) {
     if (whatIfWindow_ != nullptr) whatIfWindow_->showDocument();
 }
 
-void frmBHDesign::actionDone() { fallBehind(); }
-
 void frmBHDesign::unloaded() {
     if (opinionWindow_ != nullptr) main().close(*opinionWindow_);
     if (whatIfWindow_ != nullptr) main().close(*whatIfWindow_);

@@ -93,7 +93,7 @@ void frmSecondOpinion::typedMonth() {
 
 void frmSecondOpinion::typedDepth() {
     inputs().depthChoice = depthAsTyped;
-    showInputs();
+    showDepthChoice();
 }
 
 const SecondOpinion& frmSecondOpinion::opinion() const {
@@ -168,6 +168,13 @@ void frmSecondOpinion::registerValues() {
     using O = const SecondOpinion&;
     ResultValues<SecondOpinion> of(publicValues(),
                                    [this]() -> O { return design_.secondOpinion(); });
+    registerYear(of);
+    registerSizes(of);
+    registerShown(of);
+}
+
+void frmSecondOpinion::registerYear(ResultValues<SecondOpinion>& of) {
+    using O = const SecondOpinion&;
     of.array(
         "annualEnergy", [](O o) -> auto& { return o.annualEnergy; });
     of.array(
@@ -180,16 +187,28 @@ void frmSecondOpinion::registerValues() {
         "monthPeak", [](O o) -> auto& { return o.monthPeak; });
     of.array(
         "monthlyLoad", [](O o) -> auto& { return o.monthlyLoad; });
+}
+
+void frmSecondOpinion::registerSizes(ResultValues<SecondOpinion>& of) {
+    using O = const SecondOpinion&;
     of.array(
         "soLength", [](O o) -> auto& { return o.soLength; });
     of.array(
         "soDepth", [](O o) -> auto& { return o.soDepth; });
     of.array(
         "soMonth", [](O o) -> auto& { return o.soMonth; });
-    of.array(
-        "gValue", [](O o) -> auto& { return o.gValue; });
+    publicValues().add("lengthPart", 2, [this](const Values::Indices& i) {
+        const auto& parts = publicElement(design_.secondOpinion().lengthPart, i[1]);
+        return publicElement(parts.value_or(LengthParts{}), i[0]);
+    });
+}
+
+void frmSecondOpinion::registerShown(ResultValues<SecondOpinion>& of) {
+    using O = const SecondOpinion&;
     of.number("shownDepth", [](O o) { return o.shownDepth; });
     of.number("groupCount", [](O o) { return o.groupCount; });
+    of.array(
+        "gValue", [](O o) -> auto& { return o.gValue; });
     const auto line = [&](const char* name, std::optional<double> OpinionYearLine::*member) {
         publicValues().add(name, 1, [this, member](const Values::Indices& i) {
             return (publicElement(design_.secondOpinion().years, i[0]).*member).value_or(0);
@@ -198,10 +217,6 @@ void frmSecondOpinion::registerValues() {
     line("gPenalty", &OpinionYearLine::penalty);
     line("yearHigh", &OpinionYearLine::high);
     line("yearLow", &OpinionYearLine::low);
-    publicValues().add("lengthPart", 2, [this](const Values::Indices& i) {
-        const auto& parts = publicElement(design_.secondOpinion().lengthPart, i[1]);
-        return publicElement(parts.value_or(LengthParts{}), i[0]);
-    });
 }
 
 }  // namespace varnholt

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "design/result_values.h"
 #include "design/second_opinion_pictures.h"
 #include "frame/child_window.h"
 
@@ -30,6 +31,7 @@ class frmSecondOpinion : public ChildWindow {
     UnitSystem units() const override;
     void actionBegins() override;
     void actionDone() override;
+    void windowsChanged() override { fallBehind(); }
     std::string descriptionOf(const std::string& image) const override;
 
     /// The design has switched its units.
@@ -70,10 +72,14 @@ class frmSecondOpinion : public ChildWindow {
     void hookInputs();
     void registerValues();
     void registerInputs(Values& values);
+    void registerYear(ResultValues<SecondOpinion>& of);
+    void registerSizes(ResultValues<SecondOpinion>& of);
+    void registerShown(ResultValues<SecondOpinion>& of);
 
     // What they show.
     void showCaptions();
     void showInputs();
+    void showDepthChoice();
     void showFigures();
     void showSizes();
     void showParts();

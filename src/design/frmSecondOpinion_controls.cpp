@@ -36,13 +36,13 @@ constexpr MonthColumn monthColumns[] = {
 }  // namespace
 
 void frmSecondOpinion::addControls() {
-    addNotice();
     addSizes();
     addParts();
     add("SEMessageLabel", ControlKind::label).foundLate();
     add("SENoteLabel", ControlKind::label).foundLate();
     addInputs();
     addDepth();
+    addNotice();
     addPictures();
     addYear();
     addTable();
@@ -79,6 +79,8 @@ void frmSecondOpinion::addSizes() {
 void frmSecondOpinion::addParts() {
     add(partsFrame, ControlKind::frame);
     unitCaptions_.push_back({partsFrame, {Text::opinionPartsEnglish, Text::opinionPartsMetric}});
+    add("SEPartTopLabel(0)", ControlKind::label, Text::resultsCooling).in(partsFrame);
+    add("SEPartTopLabel(1)", ControlKind::label, Text::resultsHeating).in(partsFrame);
     for (std::size_t part = 0; part < lengthPartTexts.size(); ++part) {
         add(elementName("SEPartLabel", part), ControlKind::label, lengthPartTexts[part])
             .in(partsFrame);

@@ -29,6 +29,10 @@ void frmSecondOpinion::showInputs() {
     control("SEShapeCombo").setIndex(inputs().shape);
     control("SESouthCheck").setChecked(inputs().southern);
     control("SECylinderCheck").setChecked(inputs().cylinder);
+    showDepthChoice();
+}
+
+void frmSecondOpinion::showDepthChoice() {
     for (const std::int16_t choice : {depthOfDesign, depthOfSecondOpinion, depthAsTyped})
         element("SEDepthOption", choice).setChecked(inputs().depthChoice == choice);
 }

@@ -31,40 +31,52 @@ std::string depthText(const SecondOpinion& opinion, const OpinionScene& scene) {
            unitText(scene, Text::lengthUnitsEnglish, Text::lengthUnitsMetric);
 }
 
-/// The range of the water over twelve months of the history.
-std::optional<HistoryPicture::Range> rangeOf(const std::vector<MonthOfWater>& water,
-                                             std::size_t year, UnitSystem units) {
-    std::optional<HistoryPicture::Range> range;
-    const std::size_t end = std::min(water.size(), (year + 1) * opinionMonthsOfYear);
-    for (std::size_t month = year * opinionMonthsOfYear; month < end; ++month)
-        for (const std::optional<double>& entering : water[month].entering) {
-            if (!entering) continue;
-            const double shown = quantities::temperature.shown(*entering, units);
-            if (!range) range = {shown, shown};
-            range->low = std::min(range->low, shown);
-            range->high = std::max(range->high, shown);
-        }
-    return range;
-}
-
-/// A place among the months, and the water then.
+/// A month and the water then.
 struct Extreme {
     std::size_t month;
     double water;
 };
 
-template <class Better>
-std::optional<Extreme> extremeOf(const HistoryPicture& history, const Better& better) {
-    std::optional<Extreme> found;
-    for (std::size_t month = 0; month < history.months.size(); ++month)
-        for (const std::optional<double>& entering : history.months[month])
-            if (entering && (!found || better(*entering, found->water))) found = {month, *entering};
-    return found;
+/// The warmest water of the cooling months, or the coldest of the heating months, as they are
+/// limited; of the other mode's where the mode has no month. A month in which a mode does little
+/// tells less than it seems, since its temperatures go with the range of the design day.
+/// @param waterOf  of a month and mode; none where the month does not count
+template <class WaterOf>
+std::optional<Extreme> extremeOf(Mode limited, const WaterOf& waterOf) {
+    const Mode other = limited == cooling ? heating : cooling;
+    for (const Mode mode : {limited, other}) {
+        std::optional<Extreme> found;
+        for (std::size_t month = 0; month < opinionMonthsOfYear; ++month) {
+            const std::optional<double> water = waterOf(month, mode);
+            if (!water) continue;
+            const bool beyond =
+                !found || (limited == cooling ? *water > found->water : *water < found->water);
+            if (beyond) found = {month, *water};
+        }
+        if (found) return found;
+    }
+    return std::nullopt;
+}
+
+/// The range of the water over twelve months of the history.
+std::optional<HistoryPicture::Range> rangeOf(const std::vector<MonthOfWater>& water,
+                                             std::size_t year, UnitSystem units) {
+    const auto waterOf = [&](std::size_t month, Mode mode) -> std::optional<double> {
+        const std::size_t at = year * opinionMonthsOfYear + month;
+        return at < water.size() ? water[at].entering[mode] : std::nullopt;
+    };
+    const auto high = extremeOf(cooling, waterOf), low = extremeOf(heating, waterOf);
+    if (!high || !low) return std::nullopt;
+    const auto shown = [units](double fahrenheit) {
+        return quantities::temperature.shown(fahrenheit, units);
+    };
+    return HistoryPicture::Range{shown(std::min(low->water, high->water)),
+                                 shown(std::max(low->water, high->water))};
 }
 
 std::string describeYear(const HistoryPicture& history, const Texts& texts) {
-    const auto high = extremeOf(history, [](double a, double b) { return a > b; });
-    const auto low = extremeOf(history, [](double a, double b) { return a < b; });
+    const auto waterOf = [&](std::size_t month, Mode mode) { return history.months[month][mode]; };
+    const auto high = extremeOf(cooling, waterOf), low = extremeOf(heating, waterOf);
     if (!high || !low) return {};
     return filledIn(texts.text(Text::opinionYearTells),
                     {std::to_string(*history.year + 1), figure(high->water), history.unit,

@@ -27,7 +27,9 @@ struct HistoryPicture {
     };
 
     std::string empty;
-    std::vector<std::optional<Range>> years;  ///< from the first on; none without a counted month
+    /// From the first on: the lowest of the heating months and the highest of the cooling months.
+    /// None without a month that counts.
+    std::vector<std::optional<Range>> years;
     ByMode<double> limits{};
     std::optional<std::size_t>
         year;  ///< counted from 0; its months are shown in place of the years

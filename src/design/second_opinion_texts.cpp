@@ -84,6 +84,7 @@ int plainReason(OpinionFailure failure) {
         case OpinionFailure::noDesignLength:
             return Text::opinionNoDesignLength;
         case OpinionFailure::noOpinionLength:
+        case OpinionFailure::noShownDepth:
             return Text::opinionNoOpinionLength;
         default:
             return 0;
@@ -120,8 +121,17 @@ struct Teller {
         const int words = plainReason(why.failure);
         return words == 0 ? std::string() : texts.text(words);
     }
-    /// A reason of both modes: a sentence of its own.
-    std::string wholeReason(const OpinionReason& why) const {
+    std::string modeReason(const OpinionReason& why, Mode mode,
+                           const SecondOpinion& opinion) const {
+        return filledIn(texts.text(Text::opinionOfMode),
+                        {modeWord(texts, mode), reason(why, opinion.meanLimit[mode])});
+    }
+    /// A reason as a sentence of its own, of whatever mode.
+    std::string wholeReason(const OpinionReason& why, const SecondOpinion& opinion) const {
+        if (why.failure == OpinionFailure::limitNotAboveGround)
+            return modeReason(why, cooling, opinion);
+        if (why.failure == OpinionFailure::limitNotBelowGround)
+            return modeReason(why, heating, opinion);
         if (why.failure == OpinionFailure::notComputable)
             return texts.text(Text::opinionNotComputableAll);
         return reason(why, 0);
@@ -193,21 +203,19 @@ std::string opinionMessage(const Texts& texts, const SecondOpinion& opinion, dou
     std::string message;
     if (opinion.importerMissing) append(message, texts.text(Text::opinionNoImporter));
     if (opinion.reason.holds()) {
-        append(message, teller.wholeReason(opinion.reason));
+        append(message, teller.wholeReason(opinion.reason, opinion));
         return message;
     }
     for (const Mode mode : modes)
         if (const OpinionReason& why = opinion.reasonOfMode[mode]; why.holds())
-            append(message,
-                   filledIn(texts.text(Text::opinionOfMode),
-                            {modeWord(texts, mode), teller.reason(why, opinion.meanLimit[mode])}));
+            append(message, teller.modeReason(why, mode, opinion));
     return message;
 }
 
 std::string shownMessage(const Texts& texts, const SecondOpinion& opinion, double groundTemp,
                          UnitSystem units) {
     if (opinion.reason.holds()) return opinionMessage(texts, opinion, groundTemp, units);
-    return Teller{texts, groundTemp, units}.wholeReason(opinion.reasonOfShown);
+    return Teller{texts, groundTemp, units}.wholeReason(opinion.reasonOfShown, opinion);
 }
 
 }  // namespace varnholt

@@ -273,9 +273,8 @@ bool Form::hasIdleTime() const {
     });
 }
 
-void Form::catchUp() {
-    if (behind_) behind_ = !workLate(true);
-}
+/// A reader is told what holds now, whether or not it is known to have changed.
+void Form::catchUp() { behind_ = !workLate(true); }
 
 void Form::catchUpABit() {
     if (behind_) behind_ = !workLate(false);

@@ -182,6 +182,18 @@ TEST_F(OpinionTexts, SayThatTheImporterIsMissing) {
               "The monthly importer is not open or holds no loads: the standard year stands in.");
 }
 
+TEST_F(OpinionTexts, TellWhyNothingIsDrawnThoughLengthsMayStand) {
+    EXPECT_EQ(shownMessage(texts, opinion, 62, english), "");
+    opinion.reasonOfShown.failure = OpinionFailure::noDesignLength;
+    EXPECT_EQ(shownMessage(texts, opinion, 62, english),
+              "The classical method has no length to draw for.");
+    opinion.reasonOfShown.failure = OpinionFailure::limitNotBelowGround;
+    EXPECT_EQ(shownMessage(texts, opinion, 40, english),
+              "Heating: the mean fluid at its limit, 45.0 deg F, is not below the ground, 40.0 deg "
+              "F.");
+    EXPECT_EQ(opinionMessage(texts, opinion, 40, english), "");
+}
+
 class OpinionPictures : public OpinionTexts {
  protected:
     OpinionPictures() {

@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window of the second opinion: its life, its fields, what belongs to its design.
+#include <cmath>
+
+#include "basis/number_text.h"
+#include "loads/import/frmImport1.h"
 #include "second_opinion_window.h"
 
 namespace varnholt {
@@ -337,6 +341,111 @@ TEST_F(SecondOpinionWindow, SaysThatItIsOfTheInputsAsTheyStand) {
     design->catchUp();
     EXPECT_TRUE(design->control("CASecondStandsLabel").visible());
     EXPECT_TRUE(design->control("CASecondOpinionCommand").enabled());
+}
+
+/// The row is strong where the governing mode's two figures differ by more than a tenth, whatever
+/// the field, and only there.
+TEST_F(SecondOpinionWindow, MakesItsRowStrongWhereTheMethodsDiffer) {
+    texts.known.insert({{2174, "%1 by %2 (%3 %4)"}, {2645, "field"}, {2175, "plain"}});
+    takeZones(handCheckZones());
+    int strong = 0, weak = 0;
+    for (const char* separation : {"8", "15", "20", "30", "50", "100"}) {
+        SCOPED_TRACE(separation);
+        typeAndLeave("PASeparationText", separation);
+        calculate();
+        design->catchUp();
+        const Mode governing = value("boreLength(0)") > value("boreLength(1)") ? cooling : heating;
+        const std::string index = governing == cooling ? "(0)" : "(1)";
+        const double ratio = value("secondLength" + index) / value("boreLength" + index);
+        const bool expected = std::abs(ratio - 1) > 0.10;
+        const Control& figure = design->control("CASecondLengthLabel" + index);
+        EXPECT_EQ(figure.bold(), expected) << ratio;
+        EXPECT_EQ(design->control("CASecondDepthLabel(2)").bold(), expected);
+        EXPECT_EQ(figure.tooltip() != "plain", expected) << figure.tooltip();
+        EXPECT_EQ(figure.forecolor(), colours::black);
+        ++(expected ? strong : weak);
+    }
+    EXPECT_GT(strong, 0);
+    EXPECT_GT(weak, 0);
+}
+
+TEST_F(SecondOpinionWindow, StandsBesideTheClassicalFiguresOfTheSameInputs) {
+    takeZones(handCheckZones());
+    calculate();
+    EXPECT_EQ(captioned("SEClassicalLabel(0)"), captionOf("CATotalLengthLabel(0)"));
+    EXPECT_EQ(captioned("SEClassicalDepthLabel(1)"), captionOf("CABoreholeLengthLabel(1)"));
+    EXPECT_EQ(captioned("SELengthLabel(0)"), formatNumber(value("secondLength(0)"), "###0.0"));
+    EXPECT_EQ(captioned("SEBoreDepthLabel(0)"), formatNumber(value("secondDepth(0)"), "###0.0"));
+    EXPECT_NEAR(value("secondLength(0)"), 24 * value("secondDepth(0)"), 1e-6);
+    // The parts add up to the difference.
+    for (const Mode mode : modes) {
+        const std::string index = std::to_string(mode);
+        double sum = 0;
+        for (const char* part : {"0", "1", "2"})
+            sum += held(std::string("lengthPart(") + part + "," + index + ")");
+        EXPECT_NEAR(sum, held("soLength(" + index + ")") - value("boreLength(" + index + ")"),
+                    1e-6);
+    }
+    // A stale design does no harm: the classical figure beside it is of the same inputs.
+    const std::string onShow = captionOf("CATotalLengthLabel(0)");
+    type("SOGroundTempText", "58");
+    EXPECT_NE(captioned("SEClassicalLabel(0)"), onShow);
+    EXPECT_EQ(captionOf("CATotalLengthLabel(0)"), onShow);
+    calculate();
+    EXPECT_EQ(captioned("SEClassicalLabel(0)"), captionOf("CATotalLengthLabel(0)"));
+}
+
+TEST_F(SecondOpinionWindow, StandsWithoutTheModeThatHasNoLoad) {
+    std::vector<Zone> zones = handCheckZones();
+    for (Zone& zone : zones) {
+        for (auto& block : zone.gains) block[heating] = 0;
+        zone.hours[heating] = 0;
+    }
+    takeZones(zones);
+    EXPECT_GT(held("soLength(0)"), 0);
+    EXPECT_EQ(held("soLength(1)"), 0);
+    EXPECT_EQ(captioned("SELengthLabel(1)"), "-");
+    EXPECT_EQ(captioned("SEDifferenceLabel(0)"), "-");
+    EXPECT_EQ(captioned("SECoolingPartLabel(0)"), "-");
+    EXPECT_NE(captioned("SEHighLabel(3)"), "-");
+    EXPECT_TRUE(platform.messages.empty());
+}
+
+TEST_F(SecondOpinionWindow, TakesTheImportersMonthsWhileItIsOpen) {
+    takeZones(handCheckZones());
+    installImporter(main);
+    opinion->choose("SEShapeCombo", 1);
+    texts.known.insert({{2746, "no importer"}});
+    EXPECT_NE(captioned("SEMessageLabel").find("no importer"), std::string::npos);
+    main.click("mnuMonthlyLoadsImport");
+    auto* importer = dynamic_cast<frmImport1*>(main.activeWindow());
+    ASSERT_NE(importer, nullptr);
+    EXPECT_NE(captioned("SEMessageLabel").find("no importer"), std::string::npos);
+    ByMode<MonthlyLoads> years;
+    for (const Mode mode : modes) {
+        years[mode].totalLoads = {1, 1, 1, 1, 1, 1, 5, 1, 1, 1, 1, 1};
+        years[mode].peakLoads = {500, 500, 500, 500, 500, 500, 1000, 500, 500, 500, 500, 500};
+        years[mode].recompute();
+    }
+    importer->TransferValuesToImport1(years);
+    importer->click("cmdCoolHeat(1)");
+    // 5 of 16; half the peak.
+    EXPECT_EQ(captioned("SEMessageLabel").find("no importer"), std::string::npos);
+    EXPECT_NEAR(held("monthShare(6,0)"), 5.0 / 16, 1e-12);
+    EXPECT_NEAR(held("monthPeak(2,1)"), 0.5, 1e-12);
+    EXPECT_EQ(held("shape"), 1);
+    main.close(*importer);
+    EXPECT_NE(captioned("SEMessageLabel").find("no importer"), std::string::npos);
+}
+
+TEST_F(SecondOpinionWindow, LeavesTheDesignAsItWas) {
+    takeZones(handCheckZones());
+    calculate();
+    const BoreholeProject before = design->project();
+    opinion->catchUp();
+    EXPECT_GT(held("soLength(0)"), 0);
+    EXPECT_TRUE(design->project() == before);
+    EXPECT_FALSE(design->isStale());
 }
 
 }  // namespace

@@ -113,18 +113,29 @@ TEST_F(SecondOpinionFile, IsAnOrdinaryProjectAgainOnceTheInputsAreTheDefaults) {
 }
 
 /// Wherever the block is cut, it is whole or all of it is the defaults; and what is not whole is
-/// told, and stays as it is on the disk.
+/// told.
 TEST_F(SecondOpinionFile, TakesTheDefaultsWhereverItIsCut) {
+    frmBHDesign& into = newDesign();
     for (std::size_t length = plain.size(); length < whole.size(); ++length) {
         SCOPED_TRACE(length);
-        const frmBHDesign& opened = openText(whole.substr(0, length));
         // Nothing of the block, and a return without its feed, which ends a line as well.
         const bool without = length == plain.size();
         const bool complete = length + 1 == whole.size();
-        EXPECT_EQ(opened.project().secondOpinion, complete ? unusual() : SecondOpinionInputs{});
-        EXPECT_EQ(notice().empty(), without || complete) << notice();
-        EXPECT_EQ(opened.savesUnderNewName(), !without && !complete);
-        EXPECT_EQ(opened.project().arrangement, BoreholeProject{}.arrangement);
+        ReadingReport report;
+        readProjectText(whole.substr(0, length), into, &report);
+        EXPECT_EQ(into.project().secondOpinion, complete ? unusual() : SecondOpinionInputs{});
+        EXPECT_EQ(report.isWhole(), without || complete);
+        EXPECT_EQ(report.unread, without || complete ? "" : "Second Opinion");
+        EXPECT_EQ(into.project().arrangement, BoreholeProject{}.arrangement);
+    }
+}
+
+TEST_F(SecondOpinionFile, TellsWhereItIsCutAndStaysAsItIsOnTheDisk) {
+    for (const std::size_t cut : {std::size_t{3}, std::size_t{17}, std::size_t{60}}) {
+        const std::string text = whole.substr(0, whole.size() - cut);
+        const frmBHDesign& opened = openText(text);
+        EXPECT_NE(notice().find("Part Second Opinion"), std::string::npos) << notice();
+        EXPECT_TRUE(opened.savesUnderNewName());
         EXPECT_EQ(messages(), 0U);
         closeAll();
     }

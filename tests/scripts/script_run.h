@@ -110,6 +110,9 @@ class SystemScript {
         fs::copy(VARNHOLT_RESOURCE_DIR "/help", program / "OnlineHelp");
         for (const char* name : {"school-south.gt1", "school-south.gth", "small-office.csv"})
             fs::copy(fs::path(VARNHOLT_SOURCE_DIR "/examples") / name, program / "zones");
+        // A whole building, for scripts that need one.
+        fs::copy(VARNHOLT_SOURCE_DIR "/examples/school-south.zon", program / "zones");
+        fs::copy(VARNHOLT_SOURCE_DIR "/examples/school-south.vht", program / "work files");
         if (fs::is_directory(files_))
             fs::copy(files_, program,
                      fs::copy_options::recursive | fs::copy_options::overwrite_existing);

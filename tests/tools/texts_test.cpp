@@ -130,7 +130,8 @@ std::set<int> numbersFetchedIn(const std::string& code) {
 /// Forms hold the texts of their controls in tables and calls of their own: there every whole
 /// number in the ranges is taken for one.
 bool holdsTables(const std::string& path) {
-    return !path.starts_with("design/modCalculations/") && !path.starts_with("basis/");
+    return !path.starts_with("design/modCalculations/") &&
+           !path.starts_with("design/secondOpinion/") && !path.starts_with("basis/");
 }
 
 /// Numbers of texts that stand in the code as numbers: fetched, kept or in a table.

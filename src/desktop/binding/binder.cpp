@@ -218,11 +218,17 @@ void Binder::customEvent(QEvent*) {
     if (refreshDue_ && form_ != nullptr) settled(*form_);
 }
 
-/// Late figures are found once the keys and repaints that wait have had their turn. A script reads
-/// when it wants to, and has them found then.
+/// Late figures are found once the keys and repaints that wait have had their turn: the toolkit
+/// collects repaints for a few milliseconds. A script reads when it wants to, and has them found
+/// then.
 void Binder::fellBehind(Form&) {
+    constexpr int repaintGoesFirst = 15;  // ms
+    workLateIn(repaintGoesFirst);
+}
+
+void Binder::workLateIn(int milliseconds) {
     if (scripted_ || std::exchange(lateDue_, true)) return;
-    QTimer::singleShot(0, this, [this] { workLate(); });
+    QTimer::singleShot(milliseconds, this, [this] { workLate(); });
 }
 
 /// What nobody sees is left alone until it comes into sight.
@@ -244,7 +250,7 @@ void Binder::workLate() {
         return;
     }
     if (form_->isBehind())
-        fellBehind(*form_);
+        workLateIn(0);
     else
         refreshLater();
 }

@@ -161,6 +161,7 @@ class Binder : public QObject, public FormObserver {
     void recolour();
     void refreshLater();
     bool showsLate() const;
+    void workLateIn(int milliseconds);
     void workLate();
     bool buildNext();
 

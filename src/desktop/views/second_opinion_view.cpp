@@ -49,7 +49,8 @@ FieldRow partRow(Binder& bind, std::size_t part) {
 
 QWidget* parts(Binder& bind) {
     return column(group(bind.frame("SEPartsFrame"),
-                        grid(partRow(bind, neighboursAndEnds), partRow(bind, shortPulseAsLine),
+                        grid(bind.heads("SEPartTopLabel(0)", "SEPartTopLabel(1)"),
+                             partRow(bind, neighboursAndEnds), partRow(bind, shortPulseAsLine),
                              partRow(bind, monthsAndYears))),
                   wrapped(bind.widget("SEMessageLabel")), wrapped(bind.widget("SENoteLabel")));
 }
@@ -143,22 +144,26 @@ QWidget* table(Binder& bind) {
             row.fields.push_back(figureLabel(bind, elementName(column, line)));
         rows.push_back(row);
     }
-    return group(bind.frame("SETableFrame"), gridOf(rows),
-                 grid(bind.results("SEClassicalPenaltyLabel")), stretch());
+    bind.mark("SEClassicalPenaltyLabel(0)", cooling).mark("SEClassicalPenaltyLabel(1)", heating);
+    return group(bind.frame("SETableFrame"), gridOf(rows), rule(),
+                 row_(bind.widget("SEClassicalPenaltyLabel(2)"), gap(),
+                      figureLabel(bind, "SEClassicalPenaltyLabel(0)"), gap(),
+                      figureLabel(bind, "SEClassicalPenaltyLabel(1)"), stretch()),
+                 stretch());
 }
 
 }  // namespace
 
 QWidget* makeSecondOpinionView(Binder& bind) {
     QWidget* figures = row_(sizes(bind), gap(), grow(parts(bind)));
-    QWidget* choices = column(inputs(bind), depth(bind), stretch());
+    QWidget* choices = column(inputs(bind), depth(bind), noticeBar(bind), stretch());
     QWidget* pictures =
         column(grow(history(bind)), grow(row_(grow(months(bind)), gap(), grow(gFunction(bind)))));
     QWidget* middle = row_(choices, gap(), grow(pictures));
     QWidget* below = row_(year(bind), gap(), grow(table(bind)));
-    return roomy(
-        column(grow(new ScrollPage(page(column(noticeBar(bind), figures, grow(middle), below))))),
-        {1040, 760});
+    constexpr int width = 130 * gridStep, height = 95 * gridStep;
+    return roomy(column(grow(new ScrollPage(page(column(figures, grow(middle), below))))),
+                 {width, height});
 }
 
 }  // namespace varnholt

@@ -96,6 +96,19 @@ TEST(CylinderSource, HasTheValuesOfTheTables) {
     EXPECT_NEAR(cylinder.wall(100), 0.433362, 1e-6);
 }
 
+TEST(CylinderSource, BecomesALine) {
+    const CylinderSource cylinder;
+    double before = cylinder.overLine(1);
+    for (double fourier = 2; fourier < 1e15; fourier *= 2) {
+        const double now = cylinder.overLine(fourier);
+        EXPECT_LE(now, before) << fourier;
+        EXPECT_GE(now, 0) << fourier;
+        before = now;
+    }
+    EXPECT_EQ(before, 0);
+    EXPECT_NEAR(cylinder.wall(1e12), exponentialIntegral(0.25e-12) / (4 * std::numbers::pi), 1e-12);
+}
+
 TEST(CylinderSource, ExceedsTheLineAsInAPublicLibrary) {
     const CylinderSource cylinder;
     for (const PublishedField& field : publishedFields())
