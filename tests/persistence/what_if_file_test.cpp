@@ -180,15 +180,6 @@ TEST(WhatIfBlock, KeepsTheNamesOfANewerProgram) {
               "What If 1.0\r\ncostFoot 15\r\nsoilLayers 3 of clay\r\nEnd\r\n");
 }
 
-TEST(WhatIfBlock, IsTakenFromBehindASecondOpinionThatCannotBeRead) {
-    WhatIfInputs inputs;
-    inputs.drawnDepth = 310;
-    const Read read = readWith("Second Opinion 1.7\r\n1\r\n2\r\n" + blockOf(inputs));
-    EXPECT_EQ(read.project.whatIf, inputs);
-    EXPECT_EQ(read.unread, "Second Opinion");
-    EXPECT_TRUE(read.leftover);
-}
-
 TEST(WhatIfBlock, TakesAValueThatItsFieldWouldRefuseAsItStands) {
     EXPECT_EQ(readWith("What If 1.0\r\ncostYears 5000\r\nEnd\r\n").project.whatIf.prices.costYears,
               5'000);

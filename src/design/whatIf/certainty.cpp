@@ -39,7 +39,7 @@ Deciles decilesAmong(std::vector<double> numbers) {
     const auto low = at(0.1), middle = at(0.5), high = at(0.9);
     std::nth_element(begin, middle, numbers.end());
     std::nth_element(begin, low, middle);
-    std::nth_element(middle, high, numbers.end());
+    if (high > middle) std::nth_element(middle + 1, high, numbers.end());
     return {*low, *middle, *high};
 }
 

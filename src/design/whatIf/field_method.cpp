@@ -29,8 +29,8 @@ constexpr TableReading quickReading{3, 0};
 struct FieldMethod::Opened {
     BoreholeInputs design;
     PreparedField field;
-    GTable* table = nullptr;  ///< none where a reason stands against the design
-    double guess = 0;         ///< depth, ft
+    std::shared_ptr<GTable> table;  ///< none where a reason stands against the design
+    double guess = 0;               ///< depth, ft
 };
 
 FieldMethod::Opened& FieldMethod::open(const BoreholeInputs& design) {
@@ -39,7 +39,7 @@ FieldMethod::Opened& FieldMethod::open(const BoreholeInputs& design) {
     opened_->design = design;
     opened_->field = preparedField(design, settings_);
     if (opened_->field.told.reason.holds()) return *opened_;
-    opened_->table = &memory_.table({opened_->field.base.site, settings_.window.cylinder});
+    opened_->table = memory_.table({opened_->field.base.site, settings_.window.cylinder});
     opened_->guess = guessedDepth(RolledZones(design.loads.zones), design);
     return *opened_;
 }

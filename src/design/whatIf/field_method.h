@@ -36,7 +36,7 @@ class FieldMethod : public CaseMethod {
     OpinionSettings settings_;
     FieldMemory& memory_;
     std::shared_ptr<Opened> opened_;
-    GTable* waitsFor_ = nullptr;
+    std::shared_ptr<GTable> waitsFor_;
 };
 
 /// The need of any field of one design, in slices.

@@ -97,16 +97,16 @@ void GTable::computeMore() {
     wanted_.reset();
 }
 
-GTable& FieldMemory::table(const TableSite& site) {
+std::shared_ptr<GTable> FieldMemory::table(const TableSite& site) {
     const auto found = std::find_if(tables_.begin(), tables_.end(),
                                     [&](const auto& table) { return table->site() == site; });
     if (found != tables_.end()) {
         std::rotate(tables_.begin(), found, found + 1);
-        return *tables_.front();
+        return tables_.front();
     }
-    tables_.insert(tables_.begin(), std::make_unique<GTable>(site));
+    tables_.insert(tables_.begin(), std::make_shared<GTable>(site));
     if (tables_.size() > mostTables) tables_.pop_back();
-    return *tables_.front();
+    return tables_.front();
 }
 
 }  // namespace varnholt

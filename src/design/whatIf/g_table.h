@@ -97,11 +97,11 @@ class GTable {
 /// The tables of the last fields.
 class FieldMemory {
  public:
-    /// The table of a field, which this memory keeps while fifteen others are asked for.
-    GTable& table(const TableSite& site);
+    /// The table of a field. This memory keeps it while fifteen others are asked for.
+    std::shared_ptr<GTable> table(const TableSite& site);
 
  private:
-    std::vector<std::unique_ptr<GTable>> tables_;  ///< the last used first
+    std::vector<std::shared_ptr<GTable>> tables_;  ///< the last used first
 };
 
 }  // namespace varnholt

@@ -236,10 +236,12 @@ TEST(LayoutSearch, ByGFunctionsComesWithinTenFieldsOfTheBestOfAll) {
     // A small plot, of which every field is sized: the search computes some of them.
     WhatIfCase theCase;
     theCase.design = officeInputs();
-    theCase.inputs.land.across = 130;
-    theCase.inputs.land.down = 90;
+    theCase.inputs.land.across = 160;
+    theCase.inputs.land.down = 110;
+    theCase.inputs.layout.spacingTo = 25;
     theCase.inputs.layout.spacingStep = 5;
-    theCase.inputs.layout.mostBores = 40;
+    theCase.inputs.layout.mostBores = 60;
+    theCase.inputs.layout.mostDepth = 500;
     const Layouts layouts = searched(theCase);
     FieldSizer sizer({}, theCase.design);
     FieldFinder finder(landOf(theCase.inputs.land), theCase.inputs.layout);
