@@ -254,7 +254,7 @@ QWidget* makeWhatIfView(Binder& bind) {
          [&bind] { return page(layoutPage(bind)); }, [&bind] { return page(costPage(bind)); },
          [&bind] { return page(alternativesPage(bind)); },
          [&bind] { return page(towerPage(bind)); }});
-    return roomy(column(noticeBar(bind), bar(top(bind)), grow(pages)), {1100, 820});
+    return roomy(column(noticeBar(bind), bar(top(bind)), grow(pages)), {960, 820});
 }
 
 }  // namespace varnholt
