@@ -151,6 +151,19 @@ DESIGNS = {
 }
 
 
+# building: the land with an area without bores, and alternatives that are kept, each with what is
+# typed first and what brings the design back
+WHAT_IF = {
+    "school-south": (
+        [[(0, 0), (420, 0), (420, 260), (300, 320), (0, 320)],
+         [(180, 130), (240, 130), (240, 190), (180, 190)]],
+        [("20 ft apart", {"PASeparationText": "20"}, {"PASeparationText": "25"}),
+         ("12 by 8 bores", {"PAPatternRowsText(0)": "12", "PAPatternRowsText(1)": "8"}, {}),
+         ("18 by 12 bores", {"PAPatternRowsText(0)": "18", "PAPatternRowsText(1)": "12"},
+          {"PAPatternRowsText(0)": "14", "PAPatternRowsText(1)": "10"})]),
+}
+
+
 def action_lines(control, what):
     """A button is pressed, an entry chosen, an up-down moved, anything else typed."""
     if what is None:
@@ -160,6 +173,22 @@ def action_lines(control, what):
     if "Combo" in control:
         return ["choose %s %s" % (control, what)]
     return ["type %s %s" % (control, what), "leave " + control]
+
+
+def what_if_lines(name):
+    if name not in WHAT_IF:
+        return []
+    polygons, alternatives = WHAT_IF[name]
+    land = "\\r\\n".join("".join("%d\\t%d\\r\\n" % corner for corner in each) for each in polygons)
+    lines = ["click frmBHDesign.CAWhatIfCommand", "choose frmWhatIf.WITabs #2", "clipboard " + land,
+             "click frmWhatIf.WLPasteCommand", "choose frmWhatIf.WITabs #4"]
+    for title, first, back in alternatives:
+        for control, what in first.items():
+            lines += action_lines("frmBHDesign." + control, what)
+        lines += ["type frmWhatIf.WVNameText " + title, "click frmWhatIf.WVKeepCommand"]
+        for control, what in back.items():
+            lines += action_lines("frmBHDesign." + control, what)
+    return lines
 
 
 def design_lines(name):
@@ -183,6 +212,7 @@ def design_lines(name):
         lines += ["slide %sCAHybridSlider %d" % (window, percent),
                   "slide %sCACoolingRangeUpDown 10" % window,
                   "slide %sCACondenserCapacityUpDown 10000" % window]
+    lines += what_if_lines(name)
     lines += ["activate " + form, "pick work files/%s.vht" % name, "click Varnmain.mnuFileSave"]
     for label in results:
         lines += ["print %s%s(%d)" % (window, label, m) for m in (0, 1)]

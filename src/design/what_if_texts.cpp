@@ -222,7 +222,8 @@ std::string layoutLine(const WhatIfTeller& teller, const LayoutField& field) {
          groupedNumber(static_cast<double>(lattice.bores)), teller.depth(lattice.separation),
          teller.depth(field.depth), teller.money(field.firstCost)});
     if (field.otherDepth > 0)
-        line += filledIn(teller.text(Text::whatIfLayoutOther), {teller.depth(field.otherDepth)});
+        line +=
+            ' ' + filledIn(teller.text(Text::whatIfLayoutOther), {teller.depth(field.otherDepth)});
     return line;
 }
 
