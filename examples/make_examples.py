@@ -1,5 +1,5 @@
-#!/usr/bin/env python3
-# SPDX-License-Identifier: GPL-3.0-or-later
+#!/ usr / bin / env python3
+#SPDX - License - Identifier : GPL - 3.0 - or -later
 """Writes the scripts by which the example buildings and their designs are typed into the program.
 
     python3 examples/make_examples.py office > office.vscript
@@ -12,7 +12,7 @@ with figures that are usual for its use; the shape over the day is the same for 
 """
 import sys
 
-# use: (cooling Btu/hr ft2, heating Btu/hr ft2, cooling by block, heating by block, days a week)
+#use : (cooling Btu / hr ft2, heating Btu / hr ft2, cooling by block, heating by block, days a week)
 USES = {
     "office": (30, 24, (0.72, 1.00, 0.84, 0.16), (0.92, 0.55, 0.62, 1.00), 5),
     "meeting": (44, 26, (0.80, 1.00, 0.62, 0.10), (0.90, 0.50, 0.58, 1.00), 5),
@@ -62,8 +62,7 @@ def school():
     assert len(rooms) == 40
     return rooms
 
-
-# building: (file, series, rooms, cooling and heating factor of the climate, full load hours)
+#building : (file, series, rooms, cooling and heating factor of the climate, full load hours)
 BUILDINGS = {
     "office": ("office.zon", 0, OFFICE, (1.00, 0.80), (1050, 620)),
     "school-south": ("school-south.zon", 0, school(), (1.12, 0.62), (1150, 380)),
@@ -73,8 +72,7 @@ BUILDINGS = {
     "school-pond": ("school-pond.zon", 0, COUNTRY_SCHOOL, (0.90, 0.95), (700, 900)),
 }
 
-
-# kind of design: its window, its command, what is printed of its results
+#kind of design : its window, its command, what is printed of its results
 KINDS = {
     "borehole": ("frmBHDesign", "NewBorehole",
                  ("CATotalLengthLabel", "CABoreholeLengthLabel", "CASoilTempChangeLabel")),
@@ -85,8 +83,8 @@ KINDS = {
                        "CATotalLossLabel")),
 }
 
-# building: kind, title, place, what is done to the controls of the design (in the units of the last
-# item), percent to the tower
+#building : kind, title, place, what is done to the controls of the design(in the units of the last
+#item), percent to the tower
 DESIGNS = {
     "office": ("borehole", "Harbour Street offices", "Portland", {
         "FLInletTempText(0)": "85", "FLInletTempText(1)": "45", "SOGroundTempText": "55",
@@ -150,6 +148,18 @@ DESIGNS = {
         "EKWPumpPowerText(1)": "5"}, 0, "English"),
 }
 
+#building : the land with an area without bores, and alternatives that are kept, each with what is
+#typed first and what brings the design back
+WHAT_IF = {
+    "school-south": (
+        [[(0, 0), (420, 0), (420, 260), (300, 320), (0, 320)],
+         [(180, 130), (240, 130), (240, 190), (180, 190)]],
+        [("20 ft apart", {"PASeparationText": "20"}, {"PASeparationText": "25"}),
+         ("12 by 8 bores", {"PAPatternRowsText(0)": "12", "PAPatternRowsText(1)": "8"}, {}),
+         ("18 by 12 bores", {"PAPatternRowsText(0)": "18", "PAPatternRowsText(1)": "12"},
+          {"PAPatternRowsText(0)": "14", "PAPatternRowsText(1)": "10"})]),
+}
+
 
 def action_lines(control, what):
     """A button is pressed, an entry chosen, an up-down moved, anything else typed."""
@@ -160,6 +170,22 @@ def action_lines(control, what):
     if "Combo" in control:
         return ["choose %s %s" % (control, what)]
     return ["type %s %s" % (control, what), "leave " + control]
+
+
+def what_if_lines(name):
+    if name not in WHAT_IF:
+        return []
+    polygons, alternatives = WHAT_IF[name]
+    land = "\\r\\n".join("".join("%d\\t%d\\r\\n" % corner for corner in each) for each in polygons)
+    lines = ["click frmBHDesign.CAWhatIfCommand", "choose frmWhatIf.WITabs #2", "clipboard " + land,
+             "click frmWhatIf.WLPasteCommand", "choose frmWhatIf.WITabs #4"]
+    for title, first, back in alternatives:
+        for control, what in first.items():
+            lines += action_lines("frmBHDesign." + control, what)
+        lines += ["type frmWhatIf.WVNameText " + title, "click frmWhatIf.WVKeepCommand"]
+        for control, what in back.items():
+            lines += action_lines("frmBHDesign." + control, what)
+    return lines
 
 
 def design_lines(name):
@@ -175,7 +201,7 @@ def design_lines(name):
     for control, what in actions.items():
         lines += action_lines(window + control, what)
     lines += ["click %sCACalculateCommand" % window]
-    # Other water temperatures may have changed the pumps.
+#Other water temperatures may have changed the pumps.
     lines += ["activate frmZoneManage", "pick zones/%s.zon" % name,
               "click frmZoneManage.LOSaveCommand", "activate " + form,
               "click %sCACalculateCommand" % window]
@@ -183,6 +209,7 @@ def design_lines(name):
         lines += ["slide %sCAHybridSlider %d" % (window, percent),
                   "slide %sCACoolingRangeUpDown 10" % window,
                   "slide %sCACondenserCapacityUpDown 10000" % window]
+    lines += what_if_lines(name)
     lines += ["activate " + form, "pick work files/%s.vht" % name, "click Varnmain.mnuFileSave"]
     for label in results:
         lines += ["print %s%s(%d)" % (window, label, m) for m in (0, 1)]

@@ -114,7 +114,8 @@ void openAll(Varnmain& main, Captions& captions) {
             main.click(entry);
         }
     for (ChildWindow* window : main.windows())
-        if (window->has("CASecondOpinionCommand")) window->click("CASecondOpinionCommand");
+        for (const char* command : {"CASecondOpinionCommand", "CAWhatIfCommand"})
+            if (window->has(command)) window->click(command);
     for (ChildWindow* window : main.windows()) {
         main.activate(*window);
         main.click("mnuLink");

@@ -9,6 +9,7 @@
 #include "design/borehole_results.h"
 #include "design/design_values.h"
 #include "design/secondOpinion/second_opinion_inputs.h"
+#include "design/whatIf/what_if_inputs.h"
 #include "loads/design_project.h"
 
 namespace varnholt {
@@ -35,6 +36,7 @@ struct BoreholeProject : DesignProject {
     ExtraPowerValues extraPower;
     TowerValues tower;
     SecondOpinionInputs secondOpinion;
+    WhatIfInputs whatIf;
     Shared<BoreholeResults> results;
     BoreholeFileRemainder remainder;
 

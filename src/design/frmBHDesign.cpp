@@ -20,7 +20,10 @@ frmBHDesign::frmBHDesign(Varnmain& main, std::int16_t slot)
     : TowerDesign("frmBHDesign", DesignKind::borehole, main, slot, project_,
                   {project_.fluid, project_.extraPower, &project_.tower}) {
     addWindowControls();
-    addResults(resultRows(), Text::requiredBoreLengths, [this] { addSecondOpinion(); });
+    addResults(resultRows(), Text::requiredBoreLengths, [this] {
+        addSecondOpinion();
+        addWhatIf();
+    });
     // The number of bores stands once, though there is a label for each mode.
     element("CABoreholeNumberLabel", heating).setVisible(false);
     addTab<FluidTab>(project_.fluid, project_.conditions);

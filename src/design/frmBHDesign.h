@@ -14,6 +14,7 @@
 namespace varnholt {
 
 class frmSecondOpinion;
+class frmWhatIf;
 
 /// The values and the run of a field of vertical bores.
 struct BoreholeKind {
@@ -64,6 +65,27 @@ class frmBHDesign : public TowerDesign<BoreholeKind> {
     /// The window has gone.
     void forgetSecondOpinionWindow() { opinionWindow_ = nullptr; }
 
+    // What If, whose window asks what the design could be otherwise.
+    WhatIfInputs& whatIfInputs() { return project_.whatIf; }
+    /// Opens its window, or brings it to the front.
+    void CAWhatIfCommand_Click();
+    /// The window has gone.
+    void forgetWhatIfWindow() { whatIfWindow_ = nullptr; }
+    /// Types a field of full rows into the design.
+    /// @param separation  ft
+    void takeField(double across, double down, double separation);
+    /// The design's value to be compared with later: without loads, results and what belongs to
+    /// the windows about it.
+    BoreholeProject keptValue() const;
+    /// Takes such a value back, for the loads and windows of the present design.
+    void putBack(const BoreholeProject& kept);
+    /// Whether the slider of the cooling tower can be moved.
+    bool towerMoves() const;
+    /// Moves it, which runs the design.
+    void moveTower(std::size_t percent);
+    /// Brings the page of a field to the front, and the keyboard to the field.
+    void showField(const std::string& field);
+
     std::string descriptionOf(const std::string& image) const override;
     std::vector<std::string> warnings() const override;
 
@@ -85,6 +107,7 @@ class frmBHDesign : public TowerDesign<BoreholeKind> {
     std::vector<ResultRow> secondOpinionRows() const;
     void addSecondOpinion();
     void addSecondOpinionValues();
+    void addWhatIf();
     void showSecondOpinion();
     void paintSecondOpinion();
     std::string secondOpinionTip() const;
@@ -100,6 +123,7 @@ class frmBHDesign : public TowerDesign<BoreholeKind> {
 
     LateSecondOpinion late_;
     frmSecondOpinion* opinionWindow_ = nullptr;
+    frmWhatIf* whatIfWindow_ = nullptr;
 };
 
 }  // namespace varnholt

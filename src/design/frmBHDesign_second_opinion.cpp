@@ -8,6 +8,7 @@
 #include "basis/number_text.h"
 #include "design/frmBHDesign.h"
 #include "design/frmSecondOpinion.h"
+#include "design/frmWhatIf.h"
 #include "design/result_values.h"
 #include "design/second_opinion_texts.h"
 #include "forms/text_numbers.h"
@@ -160,16 +161,19 @@ void frmBHDesign::load() {
 void frmBHDesign::MetricCheck_Click() {
     TowerDesign::MetricCheck_Click();
     if (opinionWindow_ != nullptr) opinionWindow_->showInUnits();
+    if (whatIfWindow_ != nullptr) whatIfWindow_->showInUnits();
 }
 
 void frmBHDesign::restore(const DocumentState& earlier) {
     TowerDesign::restore(earlier);
     fallBehind();
     if (opinionWindow_ != nullptr) opinionWindow_->showDocument();
+    if (whatIfWindow_ != nullptr) whatIfWindow_->showDocument();
 }
 
 void frmBHDesign::unloaded() {
     if (opinionWindow_ != nullptr) main().close(*opinionWindow_);
+    if (whatIfWindow_ != nullptr) main().close(*whatIfWindow_);
     TowerDesign::unloaded();
 }
 

@@ -304,6 +304,12 @@ void Form::fallBehind() {
     tellObservers([this](FormObserver& observer) { observer.fellBehind(*this); });
 }
 
+bool Form::hasIdleTime() const {
+    return std::any_of(observers_.begin(), observers_.end(), [](const FormObserver* observer) {
+        return observer != nullptr && observer->worksBetweenActions();
+    });
+}
+
 /// A reader is told what holds now, whether or not it is known to have changed.
 void Form::catchUp() { behind_ = !workLate(true); }
 

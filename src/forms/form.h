@@ -32,6 +32,8 @@ class FormObserver : public ControlObserver {
     /// Figures that are found late are due: whoever shows them has the form find them, when there
     /// is nothing else to do.
     virtual void fellBehind(Form&) {}
+    /// Whether the observer goes on with late work between two actions of the user.
+    virtual bool worksBetweenActions() const { return false; }
 
  private:
     friend class Form;
@@ -177,6 +179,9 @@ class Form {
     virtual void actionEnds(const UserAction&) {}
     /// What the late figures come from may have changed.
     void fallBehind();
+    /// Whether somebody goes on with late work between two actions; else what an action starts has
+    /// to end with it.
+    bool hasIdleTime() const;
     /// Does a part of the work that is due, or all of it, and shows what has been found. True when
     /// nothing is left to do.
     virtual bool workLate(bool /*whole*/) { return true; }

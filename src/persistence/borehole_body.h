@@ -7,6 +7,7 @@
 #include "design/borehole_project.h"
 #include "persistence/file_items.h"
 #include "persistence/second_opinion_block.h"
+#include "persistence/what_if_block.h"
 
 namespace varnholt {
 
@@ -83,9 +84,9 @@ void describeTower(File& file, Project& project) {
     }
 }
 
-/// The body of a project file, behind the head.
+/// What the body of a project file holds of the design itself.
 template <class File, class Project>
-void describeBoreholeProject(File& file, Project& project) {
+void describeBoreholeBody(File& file, Project& project) {
     describeConditions(file, project);
     auto& extraPower = project.extraPower.extraPower;
     items(file, extraPower[0], extraPower[1], extraPower[2]);
@@ -97,7 +98,14 @@ void describeBoreholeProject(File& file, Project& project) {
     else if constexpr (File::reading)
         project.loads.linkType.clear();
     describeTower(file, project);
+}
+
+/// The body of a project file, behind the head.
+template <class File, class Project>
+void describeBoreholeProject(File& file, Project& project) {
+    describeBoreholeBody(file, project);
     describeSecondOpinion(file, project.secondOpinion);
+    describeWhatIf(file, project.whatIf);
 }
 
 /// The body of the defaults file: what is entered, without the project, its results and its loads.

@@ -165,7 +165,8 @@ class EveryWindow : public testing::Test {
                 row.control != std::string("OpenProject"))
                 program->main().click(row.control);
         for (ChildWindow* window : program->main().windows())
-            if (window->has("CASecondOpinionCommand")) window->click("CASecondOpinionCommand");
+            for (const char* command : {"CASecondOpinionCommand", "CAWhatIfCommand"})
+                if (window->has(command)) window->click(command);
         visitDialogs(each);
         each(program->main());
         for (Form* form : std::vector<Form*>(platform.forms)) each(*form);

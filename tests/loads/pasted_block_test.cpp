@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "loads/import/pasted_block.h"
+#include "basis/pasted_block.h"
 
 #include <gtest/gtest.h>
 

@@ -33,14 +33,28 @@ Months sharesOf(const Months& wave, double power) {
 
 double greatestOf(const Months& values) { return *std::max_element(values.begin(), values.end()); }
 
-/// The power at which the greatest month has its share.
+/// The power at which the greatest month, whose wave is 1, has its share: the sum of the powers is
+/// then 1/share. The sum falls ever less steeply as the power grows, so Newton's steps from 0 come
+/// to the power from below and never pass it.
 double powerFor(const Months& wave, double share) {
-    double low = 0, high = greatestPower;
-    for (int i = 0; i < 60; ++i) {
-        const double middle = (low + high) / 2;
-        (greatestOf(sharesOf(wave, middle)) < share ? low : high) = middle;
+    constexpr int mostSteps = 60;
+    Months logarithms{};
+    for (std::size_t m = 0; m < wave.size(); ++m)
+        logarithms[m] = wave[m] > 0 ? std::log(wave[m]) : 0;
+    double power = 0;
+    for (int i = 0; i < mostSteps; ++i) {
+        double sum = 0, slope = 0;
+        for (std::size_t m = 0; m < wave.size(); ++m) {
+            if (!(wave[m] > 0)) continue;
+            const double term = std::exp(power * logarithms[m]);
+            sum += term;
+            slope += term * logarithms[m];
+        }
+        const double next = std::min(power - (sum - 1 / share) / slope, greatestPower);
+        if (!(next > power)) break;
+        power = next;
     }
-    return (low + high) / 2;
+    return power;
 }
 
 /// The peak of a month with half of the greatest month's energy is the full one.

@@ -149,6 +149,7 @@ class Binder : public QObject, public FormObserver {
     void captionChanged(Form& form) override;
     void settled(Form& form) override;
     void fellBehind(Form& form) override;
+    bool worksBetweenActions() const override { return !scripted_; }
     bool eventFilter(QObject* watched, QEvent* event) override;
     void customEvent(QEvent* event) override;
 

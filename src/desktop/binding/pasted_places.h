@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "forms/form.h"
-#include "loads/import/pasted_block.h"
+#include "basis/pasted_block.h"
 
 namespace varnholt {
 

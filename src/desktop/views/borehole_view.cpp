@@ -31,7 +31,8 @@ QWidget* resultsPage(Binder& bind) {
         {bind.results("CATotalLengthLabel"), bind.results("CABoreholeNumberLabel"),
          bind.results("CABoreholeLengthLabel")},
         {bind.results("CASecondLengthLabel"), bind.results("CASecondDepthLabel"),
-         bind.wide(row_(stands, stretch(), bind.widget("CASecondOpinionCommand")))},
+         bind.wide(row_(stands, stretch(), bind.widget("CASecondOpinionCommand"),
+                        bind.widget("CAWhatIfCommand")))},
         unitTemperatures(bind),
         systemPerformance(bind),
         {bind.results("CAFlowRateLabel"), bind.results("CASoilTempChangeLabel")}};

@@ -23,6 +23,7 @@ void registerViews(ViewRegistry& views) {
     views.registerView("frmEqvHoursCalc", makeEqvHoursView);
     views.registerView("frmBrowser", makeBrowserView);
     views.registerView("frmSecondOpinion", makeSecondOpinionView);
+    views.registerView("frmWhatIf", makeWhatIfView);
 }
 
 }  // namespace varnholt

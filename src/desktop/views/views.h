@@ -26,5 +26,6 @@ QWidget* makePumpPowerView(Binder& bind);
 QWidget* makeEqvHoursView(Binder& bind);
 QWidget* makeBrowserView(Binder& bind);
 QWidget* makeSecondOpinionView(Binder& bind);
+QWidget* makeWhatIfView(Binder& bind);
 
 }  // namespace varnholt

@@ -9,7 +9,7 @@
 
 #include "basis/mode.h"
 #include "loads/import/monthly_loads.h"
-#include "loads/import/table_text.h"
+#include "basis/table_text.h"
 
 namespace varnholt {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "loads/import/pasted_block.h"
+#include "basis/pasted_block.h"
 
 #include <algorithm>
 
-#include "loads/import/table_text.h"
+#include "basis/table_text.h"
 
 namespace varnholt {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "loads/import/table_text.h"
+#include "basis/table_text.h"
 
 #include <algorithm>
 #include <array>

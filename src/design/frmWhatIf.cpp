@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The window of What If: its life, and what its figures start from.
+#include "design/frmWhatIf.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "basis/raised_flag.h"
+#include "design/frmBHDesign.h"
+#include "design/frmHZDesign.h"
+#include "design/frmSWDesign.h"
+#include "design/whatIf/what_if_values.h"
+#include "forms/text_numbers.h"
+#include "frame/varnmain.h"
+
+namespace varnholt {
+namespace {
+
+/// A project is called by its name, else by its file, else as its window is.
+template <class Design>
+std::string shortNameOf(const Design& design) {
+    const std::string& project = design.information().projectName;
+    if (!project.empty()) return project;
+    const std::string& file = design.FileName;
+    if (file.empty()) return design.caption();
+    return file.substr(file.find_last_of("/\\") + 1);
+}
+
+}  // namespace
+
+frmWhatIf::frmWhatIf(frmBHDesign& design)
+    : ChildWindow("frmWhatIf", design.main()), design_(design) {
+    fields().setManner({[this] { return settingUnits; }, [this] { return units(); }, {}});
+    addControls();
+    registerValues();
+}
+
+void frmWhatIf::load() {
+    setCaption(titleNow());
+    showInUnits();
+    fallBehind();
+}
+
+void frmWhatIf::unloaded() { design_.forgetWhatIfWindow(); }
+
+ChildWindow& frmWhatIf::owner() { return design_; }
+UnitSystem frmWhatIf::units() const { return design_.units(); }
+WhatIfInputs& frmWhatIf::inputs() const { return design_.whatIfInputs(); }
+
+/// What is done here is a step of the design.
+void frmWhatIf::actionBegins() {
+    ChildWindow::actionBegins();
+    design_.touch();
+    landFault_.clear();
+}
+
+void frmWhatIf::actionDone() {
+    setCaption(titleNow());
+    fallBehind();
+}
+
+std::string frmWhatIf::titleNow() const {
+    const std::string& project = design_.information().projectName;
+    const std::string& name = !design_.FileName.empty() ? design_.FileName
+                              : !project.empty()        ? project
+                                                        : design_.caption();
+    return text(Text::whatIfTitle) + " - " + name;
+}
+
+std::string frmWhatIf::nameOfDesign() const { return shortNameOf(design_); }
+
+void frmWhatIf::showInUnits() {
+    const RaisedFlag setting(settingUnits);
+    showCaptions();
+    showInputs();
+    showFigures();
+}
+
+void frmWhatIf::showDocument() {
+    endVisit();
+    fields().forgetRefused();
+    showInUnits();
+    fallBehind();
+    refreshNotice();
+}
+
+std::vector<Notice> frmWhatIf::notices() {
+    if (const auto refused = fields().refused()) return {refusedNotice(*refused)};
+    return {};
+}
+
+frmWhatIf::Page frmWhatIf::page() const {
+    return static_cast<Page>(std::max(0, control("WITabs").index()));
+}
+
+/// A page needs what it shows and no more.
+WhatIfWanted frmWhatIf::wantedByPage() const {
+    WhatIfWanted wanted;
+    wanted.decides = page() == decidesPage;
+    wanted.sure = page() == surePage;
+    wanted.cost = page() == costPage;
+    wanted.alternatives = page() == alternativesPage;
+    wanted.tower = page() == towerPage;
+    return wanted;
+}
+
+std::vector<Alternative> frmWhatIf::otherDesigns() const {
+    std::vector<Alternative> others;
+    for (ChildWindow* window : main().windows()) {
+        if (window == &design_) continue;
+        if (const auto* bores = dynamic_cast<frmBHDesign*>(window))
+            others.push_back(
+                {shortNameOf(*bores), AlternativeKind::borehole, bores->presentCase().design, {}});
+        else if (const auto* trenches = dynamic_cast<frmHZDesign*>(window))
+            others.push_back({shortNameOf(*trenches), AlternativeKind::horizontal, std::nullopt,
+                              loopOf(trenches->results())});
+        else if (const auto* water = dynamic_cast<frmSWDesign*>(window))
+            others.push_back({shortNameOf(*water), AlternativeKind::surfaceWater, std::nullopt,
+                              loopOf(water->results())});
+    }
+    return others;
+}
+
+WhatIfCase frmWhatIf::presentCase() const {
+    SecondOpinionCase now = design_.presentCase();
+    WhatIfCase what{nameOfDesign(),        std::move(now.design),   inputs(),
+                    std::move(now.window), std::move(now.imported), {}};
+    what.others = otherDesigns();
+    return what;
+}
+
+const WhatIf& frmWhatIf::figures(bool WhatIfWanted::*part) {
+    WhatIfWanted wanted;
+    if (part != nullptr) wanted.*part = true;
+    late_.advance(presentCase(), wanted, true);
+    return known();
+}
+
+/// The search goes on behind the figures that stand on every page.
+bool frmWhatIf::workLate(bool whole) {
+    const int revision = late_.revision(), list = finder_.revision();
+    const bool found = late_.advance(presentCase(), wantedByPage(), whole);
+    const bool searched = found || whole ? finder_.advance(whole) : !finder_.isRunning();
+    const bool done = found && searched;
+    if (done || revision != late_.revision() || list != finder_.revision()) showFigures();
+    return done;
+}
+
+WhatIfTeller frmWhatIf::teller() const { return {texts(), units(), inputs().currency}; }
+
+TornadoPicture frmWhatIf::tornadoPicture() const {
+    return varnholt::tornadoPicture(teller(), known());
+}
+SurePicture frmWhatIf::surePicture() const {
+    return varnholt::surePicture(teller(), known(), inputs());
+}
+LandPicture frmWhatIf::landPicture() const {
+    const std::optional<std::size_t> chosen = chosenField();
+    return varnholt::landPicture(teller(), withinLimits(inputs()).land,
+                                 chosen ? &finder_.result().fields[*chosen] : nullptr,
+                                 finder_.land());
+}
+FieldsPicture frmWhatIf::fieldsPicture() const {
+    return varnholt::fieldsPicture(teller(), finder_.result(), chosenField());
+}
+CostPicture frmWhatIf::costPicture() const { return varnholt::costPicture(teller(), known()); }
+TowerPicture frmWhatIf::towerPicture() const {
+    return varnholt::towerPicture(teller(), known(), control("WTJudgeOption(1)").checked());
+}
+
+std::string frmWhatIf::descriptionOf(const std::string& image) const {
+    if (image == "imgTornado") return describe(tornadoPicture(), texts());
+    if (image == "imgSure") return describe(surePicture(), texts());
+    if (image == "imgLand") return describe(landPicture(), texts());
+    if (image == "imgFields") return describe(fieldsPicture(), texts());
+    if (image == "imgCost") return describe(costPicture(), texts());
+    return describe(towerPicture(), texts());
+}
+
+}  // namespace varnholt

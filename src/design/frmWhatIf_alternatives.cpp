@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The page that compares the design with others: those that were kept, and other open ones.
+#include <algorithm>
+#include <memory>
+
+#include "basis/number_text.h"
+#include "design/frmBHDesign.h"
+#include "design/frmWhatIf.h"
+#include "forms/text_numbers.h"
+
+namespace varnholt {
+namespace {
+
+constexpr const char* keepFrame = "WVKeepFrame";
+constexpr const char* tableFrame = "WVTableFrame";
+
+/// Columns of the table; the list has them all.
+constexpr std::size_t columns = 8;
+
+/// A row of the table: the lower the better where one is best at all.
+struct Row {
+    const char* array;
+    int caption;
+    double AlternativeFigures::*figure;
+    bool judged;
+};
+constexpr Row rows[] = {
+    {"WVLengthLabel", Text::whatIfRowLength, &AlternativeFigures::length, true},
+    {"WVBoresLabel", Text::whatIfRowBores, &AlternativeFigures::bores, false},
+    {"WVDepthLabel", Text::whatIfRowDepth, &AlternativeFigures::depth, false},
+    {"WVFirstLabel", Text::whatIfRowFirst, &AlternativeFigures::first, true},
+    {"WVLifeLabel", Text::whatIfRowLife, &AlternativeFigures::life, true},
+    {"WVEnergyLabel", Text::whatIfRowEnergy, &AlternativeFigures::energy, true},
+};
+
+/// "WVLifeChangeLabel" beneath "WVLifeLabel".
+std::string changeOf(std::string array) {
+    constexpr std::string_view word = "Label";
+    return array.replace(array.rfind(word), word.size(), "ChangeLabel");
+}
+
+std::string figureText(const WhatIfTeller& teller, const Row& row, double value) {
+    if (row.figure == &AlternativeFigures::length) return teller.length(value);
+    if (row.figure == &AlternativeFigures::depth) return teller.depth(value);
+    const bool money =
+        row.figure == &AlternativeFigures::first || row.figure == &AlternativeFigures::life;
+    return money ? teller.money(value) : groupedNumber(value);
+}
+
+/// What is less carries a minus, what is more a plus.
+std::string changeText(const WhatIfTeller& teller, const Row& row, double difference) {
+    if (difference == 0) return {};
+    return (difference > 0 ? "+" : "-") + figureText(teller, row, std::abs(difference));
+}
+
+/// The least figure of a row, where at least two alternatives have one.
+std::optional<double> bestOf(const std::vector<AlternativeFigures>& all, const Row& row) {
+    std::optional<double> best;
+    std::size_t count = 0;
+    for (const AlternativeFigures& each : all) {
+        const double value = each.*row.figure;
+        if (!(value > 0)) continue;
+        ++count;
+        best = std::min(best.value_or(value), value);
+    }
+    return row.judged && count > 1 ? best : std::nullopt;
+}
+
+}  // namespace
+
+void frmWhatIf::addAlternatives() {
+    constexpr const char* help = "what_if#alternatives";
+    add(keepFrame, ControlKind::frame, Text::whatIfKept);
+    add("WVNameLabel", ControlKind::label, Text::whatIfKeptName).in(keepFrame);
+    add("WVNameText", ControlKind::text).in(keepFrame).captionedBy("WVNameLabel").helpedBy(help);
+    const auto button = [&](const char* name, int caption, void (frmWhatIf::*handler)()) {
+        add(name, ControlKind::button, caption).in(keepFrame).helpedBy(help);
+        onClick(name, [this, handler] { (this->*handler)(); });
+    };
+    button("WVKeepCommand", Text::whatIfKeep, &frmWhatIf::WVKeepCommand_Click);
+    add("WVList", ControlKind::list).in(keepFrame).helpedBy(help).foundLate();
+    onClick("WVList", [this] { showAlternativeCommands(); });
+    button("WVRestoreCommand", Text::whatIfPutBack, &frmWhatIf::WVRestoreCommand_Click);
+    button("WVRemoveCommand", Text::whatIfRemove, &frmWhatIf::WVRemoveCommand_Click);
+    add(tableFrame, ControlKind::frame, Text::whatIfCompared);
+    for (std::size_t n = 0; n < columns; ++n) addOutput(elementName("WVHeadLabel", n), tableFrame);
+    std::size_t index = 0;
+    for (const Row& row : rows) {
+        add(elementName("WVRowLabel", index++), ControlKind::label, row.caption).in(tableFrame);
+        for (std::size_t n = 0; n < columns; ++n) {
+            addOutput(elementName(row.array, n), tableFrame);
+            addOutput(elementName(changeOf(row.array), n), tableFrame);
+        }
+    }
+    addOutput("WVReasonLabel");
+}
+
+void frmWhatIf::showAlternatives() {
+    const std::vector<AlternativeFigures>& all = known().alternatives;
+    std::string reasons;
+    std::vector<std::string> names;
+    for (const AlternativeFigures& each : all) {
+        names.push_back(each.name);
+        if (!each.reason.holds()) continue;
+        reasons += (reasons.empty() ? "" : " ") + each.name + ": " + teller().reason(each.reason);
+    }
+    write("WVReasonLabel", reasons);
+    for (std::size_t n = 0; n < columns; ++n)
+        write(elementName("WVHeadLabel", n), n < all.size() ? all[n].name : std::string());
+    for (const Row& row : rows) {
+        const std::optional<double> best = bestOf(all, row);
+        for (std::size_t n = 0; n < columns; ++n) {
+            const bool there = n < all.size();
+            const double value = there ? all[n].*row.figure : 0;
+            const double first = there ? all.front().*row.figure : 0;
+            Control& cell = control(elementName(row.array, n));
+            cell.setCaption(value > 0 ? figureText(teller(), row, value) : there ? "-" : "");
+            cell.setBold(best && value == *best);
+            write(
+                elementName(changeOf(row.array), n),
+                value > 0 && first > 0 ? changeText(teller(), row, value - first) : std::string());
+        }
+    }
+    Control& list = control("WVList");
+    if (names != list.items()) {
+        const int chosen = list.index();
+        list.setItems(std::move(names));
+        if (chosen >= 0 && static_cast<std::size_t>(chosen) < list.items().size())
+            list.setIndex(chosen);
+    }
+    showAlternativeCommands();
+}
+
+/// The first in the list is the design itself, the kept ones follow.
+std::optional<std::size_t> frmWhatIf::chosenKept() const {
+    const int chosen = control("WVList").index();
+    if (chosen < 1 || static_cast<std::size_t>(chosen) > inputs().alternatives.size())
+        return std::nullopt;
+    return static_cast<std::size_t>(chosen) - 1;
+}
+
+void frmWhatIf::showAlternativeCommands() {
+    const bool kept = chosenKept().has_value();
+    control("WVRestoreCommand").setEnabled(kept);
+    control("WVRemoveCommand").setEnabled(kept);
+}
+
+void frmWhatIf::WVKeepCommand_Click() {
+    std::vector<KeptAlternative>& kept = inputs().alternatives;
+    std::string name = control("WVNameText").text();
+    if (name.empty())
+        name = filledIn(text(Text::whatIfAlternativeName), {std::to_string(kept.size() + 2)});
+    kept.push_back({name, std::make_shared<const BoreholeProject>(design_.keptValue())});
+    control("WVNameText").setText({});
+}
+
+void frmWhatIf::WVRestoreCommand_Click() {
+    if (const auto chosen = chosenKept()) design_.putBack(*inputs().alternatives[*chosen].design);
+}
+
+void frmWhatIf::WVRemoveCommand_Click() {
+    const auto chosen = chosenKept();
+    if (!chosen) return;
+    inputs().alternatives.erase(inputs().alternatives.begin() +
+                                static_cast<std::ptrdiff_t>(*chosen));
+    control("WVList").setIndex(-1);
+    showAlternativeCommands();
+}
+
+}  // namespace varnholt

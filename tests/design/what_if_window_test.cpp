@@ -1,0 +1,338 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The window of What If: its life, its fields, what belongs to its design.
+#include <cmath>
+#include <iterator>
+
+#include "basis/number_text.h"
+#include "design/whatIf/what_if_values.h"
+#include "what_if_window.h"
+
+namespace varnholt {
+namespace {
+
+TEST_F(WhatIfWindow, StandsOnceForADesign) {
+    EXPECT_EQ(main.windows().size(), 2U);
+    main.activate(*design);
+    EXPECT_EQ(open(), what);
+    EXPECT_EQ(main.windows().size(), 2U);
+    EXPECT_EQ(main.activeWindow(), what);
+}
+
+TEST_F(WhatIfWindow, ClosesWithItsDesignAndAsksNothing) {
+    design->startHistory();
+    EXPECT_TRUE(main.close(*design));
+    EXPECT_TRUE(main.windows().empty());
+    EXPECT_TRUE(platform.questions.empty());
+}
+
+TEST_F(WhatIfWindow, CanBeOpenedAgainAfterItWasClosed) {
+    EXPECT_TRUE(main.close(*what));
+    what = open();
+    ASSERT_NE(what, nullptr);
+    EXPECT_EQ(main.activeWindow(), what);
+}
+
+TEST_F(WhatIfWindow, IsCalledAfterTheFileOrTheProject) {
+    EXPECT_EQ(what->caption(), "What If - " + design->caption());
+    design->type("INProjectNameText", "School");
+    EXPECT_EQ(what->caption(), "What If - School");
+}
+
+TEST_F(WhatIfWindow, MarksNoResultAsStaleAndIsAStepOfItsDesign) {
+    calculate();
+    ASSERT_FALSE(design->isStale());
+    enter("WILowText(4)", "25");
+    EXPECT_FALSE(design->isStale());
+    EXPECT_EQ(inputs().spreads.low[coolingLoads], 25);
+    design->undo();
+    EXPECT_EQ(inputs().spreads.low[coolingLoads], 15);
+    EXPECT_EQ(shown("WILowText(4)"), "15.0");
+    design->redo();
+    EXPECT_EQ(shown("WILowText(4)"), "25.0");
+}
+
+TEST_F(WhatIfWindow, FollowsTheUnitsOfItsDesign) {
+    inMetric();
+    // 300 ft x 0.3048 = 91.44 m; 2 degF x 5/9 = 1.11 degC; $14 a foot / 0.3048 = $45.93 a meter.
+    EXPECT_EQ(shown("WLAcrossText"), "91.4");
+    EXPECT_EQ(shown("WILowText(2)"), "1.1");
+    EXPECT_EQ(shown("WCFootText"), "45.93");
+    EXPECT_EQ(shown("WCBoreText"), "200");
+    EXPECT_EQ(inputs().prices, Prices{});
+    enter("WCFootText", "50");
+    EXPECT_NEAR(inputs().prices.costFoot, 15.24, 1e-9);  // 50 x 0.3048
+}
+
+/// What is above the limit or negative is refused at once, what is below a limit above 0 on
+/// leaving.
+TEST_F(WhatIfWindow, RefusesWhatIsOutOfRange) {
+    const struct {
+        const char *field, *typed, *name;
+        double typing, left;
+    } cases[] = {{"WILowText(0)", "91", "spreadLow(0)", 20, 20},
+                 {"WILowText(0)", "-1", "spreadLow(0)", 20, 20},
+                 {"WILowText(0)", "90", "spreadLow(0)", 90, 90},
+                 {"WIHighText(0)", "301", "spreadHigh(0)", 20, 20},
+                 {"WIHighText(2)", "31", "spreadHigh(2)", 2, 2},
+                 {"WIHighText(8)", "301", "spreadHigh(8)", 10, 10},
+                 {"WITieText(0)", "0.96", "tie(0)", 0, 0},
+                 {"WITieText(0)", "-0.95", "tie(0)", -0.95, -0.95},
+                 {"WITieText(0)", "-0.96", "tie(0)", 0, 0},
+                 {"WIDepthText", "2001", "drawnDepth", 0, 0},
+                 {"WIDepthText", "", "drawnDepth", 0, 0},
+                 {"WIConfidenceText", "100", "confidence", 90, 90},
+                 {"WIConfidenceText", "49", "confidence", 49, 90},
+                 {"WIConfidenceText", "50", "confidence", 50, 50},
+                 {"WLAcrossText", "0.5", "landAcross", 0.5, 300},
+                 {"WLDownText", "10001", "landDown", 200, 200},
+                 {"WLBoundaryText", "1001", "boundaryClearance", 10, 10},
+                 {"WLClearText", "0", "noGoClearance", 0, 0},
+                 {"WLFromText", "2", "spacingFrom", 2, 15},
+                 {"WLStepText", "0.05", "spacingStep", 0.05, 1},
+                 {"WLMostDepthText", "9", "mostDepth", 9, 400},
+                 {"WLMostText", "2501", "mostBores", 400, 400},
+                 {"WLMarginText", "101", "margin", 0, 0},
+                 {"WCFixedText", "-1", "costFixed", 5000.0, 5000.0},
+                 {"WCEscalationText", "101", "escalation", 2, 2},
+                 {"WCYearsText", "0", "costYears", 0, 20},
+                 {"WCYearsText", "101", "costYears", 20, 20}};
+    for (const auto& each : cases) {
+        SCOPED_TRACE(std::string(each.field) + " " + each.typed);
+        what->type(each.field, each.typed);
+        EXPECT_DOUBLE_EQ(held(each.name), each.typing);
+        what->leave(each.field);
+        EXPECT_DOUBLE_EQ(held(each.name), each.left);
+    }
+}
+
+TEST_F(WhatIfWindow, ShowsEveryInputByItsName) {
+    for (const WhatIfNumber& number : whatIfNumbers())
+        EXPECT_EQ(held(number.name), number.in(WhatIfInputs{})) << number.name;
+    EXPECT_EQ(held("measure"), 0);
+    EXPECT_EQ(held("knowledge"), 1);
+    EXPECT_EQ(held("layoutKind"), 0);
+    EXPECT_EQ(heldText("currency"), "$");
+    EXPECT_EQ(heldText("pricesOf"), "");
+}
+
+TEST_F(WhatIfWindow, TakesTheSpreadsOfTheGroundsKnowledge) {
+    what->click("WIGroundOption(0)");
+    EXPECT_EQ(held("knowledge"), 0);
+    EXPECT_EQ(shown("WILowText(0)"), "10.0");
+    EXPECT_EQ(shown("WIHighText(3)"), "12.0");
+    EXPECT_EQ(shown("WITieText(1)"), "0.70");
+    what->click("WIGroundOption(2)");
+    EXPECT_EQ(shown("WIHighText(0)"), "20.0");
+    EXPECT_EQ(shown("WITieText(1)"), "0.00");
+    EXPECT_EQ(shown("WILowText(4)"), "15.0");
+}
+
+TEST_F(WhatIfWindow, KnowsTheGroundAsTypedOnceOneOfItsSpreadsIsTyped) {
+    for (const char* field : {"WILowText(0)", "WIHighText(3)", "WITieText(1)"}) {
+        what->click("WIGroundOption(1)");
+        enter(field, "0.5");
+        EXPECT_EQ(held("knowledge"), 3) << field;
+        EXPECT_FALSE(what->control("WIGroundOption(1)").checked()) << field;
+    }
+    what->click("WIGroundOption(1)");
+    enter("WILowText(4)", "1");
+    EXPECT_EQ(held("knowledge"), 1);
+}
+
+/// The office needs 8296.949 ft in cooling and 3458.519 in heating, worked apart from the program,
+/// calculated or not.
+TEST_F(WhatIfWindow, TellsWhatTheDesignNeedsWithoutCalculate) {
+    EXPECT_NEAR(held("needLength(0)"), 8296.949, 1e-3);
+    EXPECT_NEAR(held("needLength(1)"), 3458.519, 1e-3);
+    EXPECT_NEAR(held("needGoverning"), 8296.949, 1e-3);
+    EXPECT_EQ(captioned("WINeedLabel(0)"), "8296.9");
+    EXPECT_EQ(captioned("WIBoreLabel"), "276.6 ft");
+    typeAndLeave("PASeparationText", "12");
+    EXPECT_NEAR(held("needGoverning"), 10298.77, 0.01);
+}
+
+TEST_F(WhatIfWindow, TellsHowSureTheDrawnDepthIs) {
+    what->choose("WITabs", 1);
+    enter("WIDepthText", "300");
+    EXPECT_NEAR(held("holds"), 0.678, 0.005);
+    EXPECT_EQ(captioned("WIQuestionLabel"), "68 of 100: 30 bores of 300 ft");
+    enter("WIDepthText", "2000");
+    EXPECT_EQ(captioned("WIQuestionLabel"), "more than 99 of 100: 30 bores of 2000 ft");
+    enter("WIDepthText", "20");
+    EXPECT_EQ(captioned("WIQuestionLabel"), "fewer than 1 of 100: 30 bores of 20 ft");
+}
+
+TEST_F(WhatIfWindow, CostsTheDesignAtItsDrawnDepth) {
+    enter("WIDepthText", "320");
+    // 30 x 320 x 14 + 30 x 200 + 5000 + 10 x (29 x 20 + 50)
+    EXPECT_NEAR(held("firstCost"), 151'700, 1e-6);
+    EXPECT_NEAR(held("costPart(0)"), 134'400, 1e-6);
+}
+
+TEST_F(WhatIfWindow, HasNoFigureWithoutLoadsAndSaysWhy) {
+    takeZones({});
+    EXPECT_EQ(held("needGoverning"), 0);
+    EXPECT_EQ(held("holds"), 0);
+    EXPECT_EQ(captioned("WINeedLabel(0)"), "-");
+    EXPECT_EQ(captioned("WIQuestionLabel"), "-");
+    EXPECT_FALSE(captioned("WIMessageLabel").empty());
+    EXPECT_EQ(what->descriptionOf("imgTornado"), captioned("WIMessageLabel"));
+    EXPECT_TRUE(platform.messages.empty());
+}
+
+// The land.
+
+TEST_F(WhatIfWindow, PastesAnOutlineAndAreasWithoutBores) {
+    platform.clipboardText =
+        "0\t0\r\n100\t0\r\n100\t80\r\n0\t80\r\n\r\n10\t10\r\n20\t10\r\n15\t20\r\n";
+    what->click("WLPasteCommand");
+    EXPECT_EQ(inputs().land.corner.size(), 4U);
+    EXPECT_EQ(held("noGoCount"), 1);
+    EXPECT_DOUBLE_EQ(held("landArea"), 8'000);  // the areas are not deducted
+    EXPECT_EQ(what->control("WLCornerList").items().size(), 7U);
+    what->click("WLRectangleCommand");
+    EXPECT_DOUBLE_EQ(held("landArea"), 60'000);  // 300 x 200
+}
+
+TEST_F(WhatIfWindow, ChangesNothingForWhatIsNoLand) {
+    const struct {
+        const char *text, *fault;
+    } cases[] = {{"0\t0\n100\t0\nhere\t80\n", "line 3"},
+                 {"0\t0\n100\t0\n", "outline has too few"},
+                 {"0\t0\n9\t0\n9\t9\n\n1\t1\n2\t2\n", "area 1 has too few"},
+                 {"0\t0\n9\t9\n9\t0\n0\t9\n", "outline crosses"},
+                 {"", "outline has too few"}};
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.text);
+        platform.clipboardText = each.text;
+        what->click("WLPasteCommand");
+        EXPECT_EQ(inputs().land, LandValues{});
+        EXPECT_EQ(what->control("WLMessageLabel").caption(), each.fault);
+    }
+}
+
+TEST_F(WhatIfWindow, TakesPastedLandInItsOwnUnit) {
+    inMetric();
+    platform.clipboardText = "0\t0\n30.48\t0\n30.48\t30.48\n";
+    what->click("WLPasteCommand");
+    EXPECT_NEAR(inputs().land.corner[1].x, 100, 1e-9);
+}
+
+TEST_F(WhatIfWindow, MakesAnOutlineOfARectangleWhoseCornerIsTyped) {
+    what->choose("WLCornerList", 2);
+    EXPECT_EQ(shown("WLCornerXText"), "300.0");
+    enter("WLCornerXText", "250");
+    ASSERT_EQ(inputs().land.corner.size(), 4U);
+    EXPECT_EQ(inputs().land.corner[2], (Point{250, 200}));
+    design->undo();
+    EXPECT_TRUE(inputs().land.corner.empty());
+}
+
+// The search. Nobody works between two actions here, so it ends with its click.
+
+TEST_F(WhatIfWindow, FindsFieldsAndChoosesTheCheapest) {
+    what->click("WLSearchCommand");
+    EXPECT_EQ(held("layoutCount"), 20);
+    for (int n = 1; n < 20; ++n)
+        EXPECT_GE(held("layoutCost(" + std::to_string(n) + ")"),
+                  held("layoutCost(" + std::to_string(n - 1) + ")"));
+    EXPECT_EQ(what->control("WLList").index(), 0);
+    EXPECT_DOUBLE_EQ(held("layoutLength(0)"), held("layoutDepth(0)") * held("layoutBores(0)"));
+    EXPECT_TRUE(what->control("WLTakeCommand").enabled());
+}
+
+TEST_F(WhatIfWindow, TakesAFieldOverInOneStep) {
+    what->click("WLSearchCommand");
+    const double rows = held("layoutRows(0)"), columns = held("layoutColumns(0)");
+    const ArrangementValues before = design->project().arrangement;
+    what->click("WLTakeCommand");
+    EXPECT_EQ(value("patternRows(0)"), rows);
+    EXPECT_EQ(value("patternRows(1)"), columns);
+    EXPECT_EQ(value("boreSeparation"), held("layoutSpacing(0)"));
+    EXPECT_EQ(textOf("PAPatternRowsText(0)"), formatNumber(rows, "###0"));
+    EXPECT_TRUE(design->isStale());
+    design->undo();
+    EXPECT_EQ(design->project().arrangement, before);
+}
+
+TEST_F(WhatIfWindow, SaysWhenInputsHaveChangedSinceTheSearch) {
+    what->click("WLSearchCommand");
+    EXPECT_EQ(captioned("WLStateLabel"), "");
+    enter("WLMostDepthText", "350");
+    EXPECT_NE(captioned("WLStateLabel"), "");
+    EXPECT_EQ(held("layoutCount"), 20);
+    enter("WLMostDepthText", "400");
+    EXPECT_EQ(captioned("WLStateLabel"), "");
+}
+
+TEST_F(WhatIfWindow, CopiesTheBoresOfTheChosenField) {
+    what->click("WLSearchCommand");
+    what->click("WLCopyCommand");
+    const std::string& copied = platform.clipboardText;
+    EXPECT_EQ(static_cast<double>(std::count(copied.begin(), copied.end(), '\n')),
+              held("layoutBores(0)"));
+    EXPECT_TRUE(copied.starts_with("10.00\t10.00\r\n")) << copied;
+}
+
+// Alternatives and the tower.
+
+TEST_F(WhatIfWindow, KeepsAnAlternativeAndPutsItBackInOneStep) {
+    what->choose("WITabs", 4);
+    what->click("WVKeepCommand");
+    EXPECT_EQ(held("altCount"), 2);
+    EXPECT_EQ(heldText("altName(1)"), "Alternative 2");
+    EXPECT_NEAR(held("altLength(1)"), 8296.949, 1e-3);
+    typeAndLeave("PASeparationText", "12");
+    EXPECT_NEAR(held("altLength(0)"), 10298.77, 0.01);
+    EXPECT_NEAR(held("altLength(1)"), 8296.949, 1e-3);
+    what->catchUp();
+    what->choose("WVList", 0);
+    EXPECT_FALSE(what->control("WVRestoreCommand").enabled());
+    what->choose("WVList", 1);
+    EXPECT_TRUE(what->control("WVRestoreCommand").enabled());
+    enter("WILowText(4)", "33");
+    what->click("WVRestoreCommand");
+    EXPECT_EQ(value("boreSeparation"), 20);
+    EXPECT_EQ(inputs().spreads.low[coolingLoads], 33);
+    EXPECT_EQ(inputs().alternatives.size(), 1U);
+    EXPECT_EQ(design->project().loads.zoneNumber, 1);
+    design->undo();
+    EXPECT_EQ(value("boreSeparation"), 12);
+}
+
+TEST_F(WhatIfWindow, RemovesAnAlternativeThatWasKept) {
+    what->type("WVNameText", "Wide");
+    what->click("WVKeepCommand");
+    EXPECT_EQ(heldText("altName(1)"), "Wide");
+    what->choose("WITabs", 4);
+    what->catchUp();
+    what->choose("WVList", 1);
+    what->click("WVRemoveCommand");
+    EXPECT_EQ(held("altCount"), 1);
+}
+
+TEST_F(WhatIfWindow, SetsTheTowerByTheSliderOfTheDesign) {
+    calculate();
+    what->choose("WITabs", 5);
+    EXPECT_EQ(held("towerBest"), 44);
+    EXPECT_EQ(held("towerBestFirst"), 45);
+    what->catchUp();
+    ASSERT_TRUE(what->control("WTTakeCommand").enabled());
+    what->click("WTTakeCommand");
+    EXPECT_EQ(value("hybridPercent"), 44);
+    EXPECT_EQ(design->control("CAHybridSlider").value(), 44);
+    design->undo();
+    EXPECT_EQ(value("hybridPercent"), 0);
+}
+
+TEST_F(WhatIfWindow, ComputesNothingThatItsPageDoesNotShow) {
+    what->choose("WITabs", 2);
+    what->catchUp();
+    EXPECT_EQ(what->control("WCResultLabel(0)").caption(), "-");
+    what->choose("WITabs", 3);
+    what->catchUp();
+    EXPECT_NE(what->control("WCResultLabel(0)").caption(), "-");
+}
+
+}  // namespace
+}  // namespace varnholt

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What If in the real windows: found while nobody types, walked in reading order, pressed.
+#include <gtest/gtest.h>
+
+#include <QDeadlineTimer>
+#include <QMouseEvent>
+#include <algorithm>
+#include <filesystem>
+
+#include "design/frmBHDesign.h"
+#include "design/frmWhatIf.h"
+#include "desk.h"
+#include "desktop/binding/form_window.h"
+
+namespace varnholt {
+namespace {
+
+class WhatIfView : public testing::Test {
+ protected:
+    WhatIfView() {
+        const std::filesystem::path examples = VARNHOLT_SOURCE_DIR "/examples";
+        const std::filesystem::path program = desk.folder();
+        constexpr auto replacing = std::filesystem::copy_options::overwrite_existing;
+        std::filesystem::copy(examples / "school-south.vht", program / "work files", replacing);
+        std::filesystem::copy(examples / "school-south.zon", program / "zones", replacing);
+        desk.platform.picks.push_back("work files/school-south.vht");
+        desk.main().click("mnuFileOpen");
+        desk.main().activate(design());
+        design().click("CAWhatIfCommand");
+    }
+    frmBHDesign& design() {
+        return dynamic_cast<frmBHDesign&>(*desk.main().windowsNamed("frmBHDesign").back());
+    }
+    frmWhatIf& what() {
+        return dynamic_cast<frmWhatIf&>(*desk.main().windowsNamed("frmWhatIf").back());
+    }
+    /// Lets the loop turn until the figures have been found.
+    void idle() {
+        const QDeadlineTimer patience(60'000);
+        while (what().isBehind() && !patience.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+        QCoreApplication::processEvents();
+    }
+    QWidget* widget(const std::string& name) {
+        return desk.shelf.windowOf(what())->binder().widget(name);
+    }
+    void press(QWidget* target, const QPointF& place) {
+        QMouseEvent down(QEvent::MouseButtonPress, place, target->mapToGlobal(place),
+                         Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(target, &down);
+    }
+
+    Desk desk;
+    ViewRegistry views;
+};
+
+TEST_F(WhatIfView, FindsItsFiguresWhenTheLoopIsIdle) {
+    idle();
+    EXPECT_FALSE(what().isBehind());
+    EXPECT_NE(what().control("WIBoreLabel").caption(), "-");
+    EXPECT_NE(what().control("WIShareLabel(0)").caption(), "-");
+    EXPECT_EQ(what().control("WIStateLabel").caption(), "");
+    EXPECT_TRUE(desk.faults.empty());
+}
+
+/// A key is done before the figures are, and a search goes on between two of them.
+TEST_F(WhatIfView, SearchesWhileNobodyTypesAndStopsAtASecondPress) {
+    what().click("WIMeasureOption(0)");
+    what().choose("WITabs", 2);
+    idle();
+    what().click("WLSearchCommand");
+    EXPECT_TRUE(what().isBehind());
+    EXPECT_TRUE(what().control("WLList").items().empty());
+    what().click("WLSearchCommand");
+    idle();
+    EXPECT_TRUE(what().control("WLList").items().empty());
+    what().click("WLSearchCommand");
+    idle();
+    EXPECT_EQ(what().control("WLList").items().size(), 20U);
+    EXPECT_EQ(what().control("WLList").index(), 0);
+    EXPECT_TRUE(desk.faults.empty());
+}
+
+TEST_F(WhatIfView, IsWalkedInTheOrderOfItsForm) {
+    FormWindow window(what(), views.maker(), {});
+    window.binder().buildAll();
+    std::vector<std::string> walked, added;
+    for (QWidget* at = window.nextInFocusChain(); at != &window; at = at->nextInFocusChain()) {
+        const std::string name = at->objectName().toStdString();
+        if ((at->focusPolicy() & Qt::TabFocus) != 0 && what().has(name) && name != "WITabs")
+            walked.push_back(name);
+    }
+    for (const auto& control : what().controls())
+        if (std::find(walked.begin(), walked.end(), control->name()) != walked.end())
+            added.push_back(control->name());
+    EXPECT_EQ(walked, added);
+    EXPECT_GT(walked.size(), 60U);
+    EXPECT_EQ(window.binder().unshown(), std::vector<std::string>{});
+}
+
+TEST_F(WhatIfView, PutsTheKeyboardIntoTheFieldOfABarThatIsPressed) {
+    what().click("WIMeasureOption(0)");
+    idle();
+    QWidget* tornado = widget("imgTornado");
+    ASSERT_TRUE(tornado->isVisible());
+    tornado->repaint();
+    // The first row stands below the legend.
+    press(tornado, {tornado->width() / 2.0, tornado->height() * 0.12});
+    const std::size_t longest = what().tornadoPicture().bars.front().index;
+    const QWidget* focused = desk.shelf.windowOf(what())->focusWidget();
+    ASSERT_NE(focused, nullptr);
+    EXPECT_EQ(focused->objectName().toStdString(), "WILowText(" + std::to_string(longest) + ")");
+}
+
+}  // namespace
+}  // namespace varnholt

@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a designer asks of a length and its cost, in a project's file.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "basis/line_file.h"
+#include "basis/reading_report.h"
+#include "design/whatIf/what_if_values.h"
+#include "persistence/borehole_body.h"
+#include "persistence/project_head.h"
+
+namespace varnholt {
+namespace {
+
+/// A design that was kept: without loads and results, else unlike the built-in one.
+std::shared_ptr<const BoreholeProject> keptDesign() {
+    auto kept = std::make_shared<BoreholeProject>();
+    kept->arrangement.patternRows = {9, 3};
+    kept->soil.conductivity = 1.7;
+    kept->fluid.fluidName = "Brine";
+    kept->fluid.fluidTypeIndex = FluidValues::typedFluid;
+    kept->tower.hybridPercent = 20;
+    return kept;
+}
+
+/// Every input differs from what is built in, and every number from every other.
+WhatIfInputs unusual() {
+    WhatIfInputs inputs;
+    double value = 0.125;
+    for (const WhatIfNumber& number : whatIfNumbers()) number.in(inputs) = value++;
+    inputs.measure = classicalMethod;
+    inputs.knowledge = knownAsTyped;
+    inputs.layout.layoutKind = 1;
+    inputs.land.corner = {{0, 0}, {200.5, 0}, {120, 90}};
+    inputs.land.noGo = {{{10, 10}, {20, 10}, {15, 18}}, {{50, 5}, {60, 5}, {60, 9}, {50, 9}}};
+    inputs.currency = "EUR per thing";
+    inputs.pricesOf = "autumn 2026";
+    inputs.alternatives = {{"Nine by three", keptDesign()}, {"", keptDesign()}};
+    return inputs;
+}
+
+template <class File, class Project>
+void describeFile(File& file, Project& project) {
+    describeHead(file, "Borehole Design", project.information);
+    describeBoreholeProject(file, project);
+}
+
+std::string textOf(const BoreholeProject& project) {
+    LineFileWriter file;
+    describeFile(file, project);
+    return file.bytes();
+}
+
+BoreholeProject projectWith(const WhatIfInputs& inputs) {
+    BoreholeProject project;
+    project.whatIf = inputs;
+    return project;
+}
+
+const std::string without = textOf(BoreholeProject{});
+
+std::string blockOf(const WhatIfInputs& inputs) {
+    const std::string with = textOf(projectWith(inputs));
+    EXPECT_TRUE(with.starts_with(without));
+    return with.substr(without.size());
+}
+
+/// A reading of a file that ends in some text.
+struct Read {
+    BoreholeProject project;
+    std::string unread;
+    bool leftover = false;
+};
+
+Read readText(const std::string& text, BoreholeProject project = {}) {
+    Read read{std::move(project), "", false};
+    ReadingReport report;
+    LineFileReader file(text);
+    reportReading(file, &report, [&] { describeFile(file, read.project); });
+    read.unread = report.unread;
+    read.leftover = report.leftover;
+    return read;
+}
+
+/// A project as built in, with so much behind it.
+Read readWith(const std::string& tail) { return readText(without + tail); }
+
+TEST(WhatIfBlock, IsNotWrittenWhileEveryInputIsAsBuiltIn) { EXPECT_EQ(blockOf({}), ""); }
+
+TEST(WhatIfBlock, HasALineForEachValueThatDiffers) {
+    WhatIfInputs inputs;
+    inputs.spreads.low[0] = 33;
+    EXPECT_EQ(blockOf(inputs), "What If 1.0\r\nspreadLow(0) 33\r\nEnd\r\n");
+    inputs.measure = classicalMethod;
+    inputs.land.corner = {{0, 0}, {10.5, 0}, {0, -3}};
+    inputs.land.noGo = {{{1, 2}, {3, 4}, {5, 6}}};
+    inputs.currency = "EUR";
+    inputs.prices.costFoot = 15.5;
+    EXPECT_EQ(blockOf(inputs),
+              "What If 1.0\r\nmeasure 0\r\nspreadLow(0) 33\r\ncostFoot 15.5\r\ncurrency EUR\r\n"
+              "corner 0 0\r\ncorner 10.5 0\r\ncorner 0 -3\r\n"
+              "noGo 1 2 3 4 5 6\r\nEnd\r\n");
+}
+
+TEST(WhatIfBlock, HoldsTheBodyOfAnAlternativeWithoutFurtherBlocks) {
+    WhatIfInputs inputs;
+    BoreholeProject kept = *keptDesign();
+    kept.secondOpinion.buriedDepth = 7;
+    kept.whatIf.drawnDepth = 300;
+    inputs.alternatives = {{"Wider", std::make_shared<BoreholeProject>(kept)}};
+    const std::string block = blockOf(inputs);
+    EXPECT_TRUE(block.starts_with("What If 1.0\r\nalternative\r\nWider\r\n"));
+    EXPECT_EQ(block.find("Second Opinion"), std::string::npos);
+    EXPECT_EQ(block.find("What If", 5), std::string::npos);
+    // As many lines as it says, then the end.
+    LineFileReader file(block);
+    file.skipLines(3);
+    const auto lines = static_cast<std::size_t>(std::stoi(file.line()));
+    file.skipLines(lines);
+    EXPECT_EQ(file.line(), "End");
+    EXPECT_TRUE(file.atEnd());
+}
+
+TEST(WhatIfBlock, IsReadAsItWasWritten) {
+    const Read read = readWith(blockOf(unusual()));
+    EXPECT_EQ(read.project.whatIf, unusual());
+    EXPECT_FALSE(read.leftover);
+    ASSERT_EQ(read.project.whatIf.alternatives.size(), 2u);
+    EXPECT_EQ(*read.project.whatIf.alternatives[0].design, *keptDesign());
+}
+
+TEST(WhatIfBlock, StandsBehindTheSecondOpinionOrAlone) {
+    BoreholeProject both = projectWith(unusual());
+    both.secondOpinion.buriedDepth = 9;
+    EXPECT_EQ(readText(textOf(both)).project, both);
+    EXPECT_LT(textOf(both).find("Second Opinion 1.0"), textOf(both).find("What If 1.0"));
+    const Read alone = readWith(blockOf(unusual()));
+    EXPECT_EQ(alone.project.secondOpinion, SecondOpinionInputs{});
+    EXPECT_FALSE(alone.leftover);
+}
+
+TEST(WhatIfBlock, LeavesWhatIsBuiltInToAProjectWithoutIt) {
+    EXPECT_EQ(readText(without, projectWith(unusual())).project.whatIf, WhatIfInputs{});
+}
+
+TEST(WhatIfBlock, GivesWhatIsBuiltInWhereverItIsCut) {
+    const std::string block = blockOf(unusual());
+    for (std::size_t length = 1; length + 1 < block.size(); ++length) {
+        const Read read = readWith(block.substr(0, length));
+        ASSERT_EQ(read.project.whatIf, WhatIfInputs{}) << length;
+        ASSERT_TRUE(read.leftover) << length;
+        ASSERT_EQ(read.unread, "What If") << length;
+    }
+    // A line may end in a carriage return alone.
+    EXPECT_EQ(readWith(block.substr(0, block.size() - 1)).project.whatIf, unusual());
+}
+
+TEST(WhatIfBlock, GivesWhatIsBuiltInForAnotherVersionOrAFalseValue) {
+    for (const std::string tail :
+         {"What If 1.1\r\nEnd\r\n", "What If 2.0\r\n", "What If 1.0\r\ncostFoot\r\nEnd\r\n",
+          "What If 1.0\r\ncostFoot 1e999\r\nEnd\r\n", "What If 1.0\r\ncostFoot 12 13\r\nEnd\r\n",
+          "What If 1.0\r\nmeasure 0.5\r\nEnd\r\n", "What If 1.0\r\ncorner 12\r\nEnd\r\n",
+          "What If 1.0\r\nnoGo 1 2 3\r\nEnd\r\n", "What If 1.0\r\nnoGo\r\nEnd\r\n",
+          "What If 1.0\r\nalternative\r\nA\r\n99999\r\nEnd\r\n",
+          "What If 1.0\r\nalternative\r\nA\r\nmany\r\nEnd\r\n",
+          "What If 1.0\r\nalternative\r\nA\r\n3\r\n1\r\n2\r\n3\r\nEnd\r\n"}) {
+        const Read read = readWith(tail);
+        EXPECT_EQ(read.project.whatIf, WhatIfInputs{}) << tail;
+        EXPECT_EQ(read.unread, "What If") << tail;
+    }
+}
+
+TEST(WhatIfBlock, KeepsTheNamesOfANewerProgram) {
+    const Read read = readWith("What If 1.0\r\nsoilLayers 3 of clay\r\ncostFoot 15\r\nEnd\r\n");
+    EXPECT_FALSE(read.leftover);
+    EXPECT_EQ(read.project.whatIf.prices.costFoot, 15);
+    EXPECT_EQ(blockOf(read.project.whatIf),
+              "What If 1.0\r\ncostFoot 15\r\nsoilLayers 3 of clay\r\nEnd\r\n");
+}
+
+TEST(WhatIfBlock, TakesAValueThatItsFieldWouldRefuseAsItStands) {
+    EXPECT_EQ(readWith("What If 1.0\r\ncostYears 5000\r\nEnd\r\n").project.whatIf.prices.costYears,
+              5'000);
+}
+
+}  // namespace
+}  // namespace varnholt
