@@ -54,7 +54,7 @@ constexpr Block timeAndPower[] = {predictionBlock, extraPowerBlock};
 constexpr Part parts[] = {
     resultsHeading,
     Results{resultLines, longTermRows},
-    towerPart,
+    coolingTowerPart,
     inputsHeading,
     Blocks{fluidAndSoil, piping},
     inputsContHeading,

@@ -74,7 +74,7 @@ constexpr Part seasonTable =
 constexpr Part parts[] = {
     resultsHeading,
     Results{resultLines},
-    towerPart,
+    coolingTowerPart,
     inputsHeading,
     Blocks{fluidAndPower, soilAndPiping},
     seasonTable,

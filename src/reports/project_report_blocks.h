@@ -74,7 +74,7 @@ inline constexpr Block heatPumpRight[] = {{{nullptr, nothing()}, heatPumpSeriesP
 
 inline constexpr Part resultsHeading =
     Heading{{"CalculationResultsLabel", words(Text::calculationResults)}};
-inline constexpr Part towerPart = Blocks{towerLeft, towerRight, Printed::withTower};
+inline constexpr Part coolingTowerPart = Blocks{towerLeft, towerRight, Printed::withTower};
 inline constexpr Part inputsHeading =
     Heading{{"InputParametersLabel", words(Text::inputParameters)}};
 /// Where the input parameters of a detailed form go on.

@@ -21,7 +21,7 @@ class PageLayout : public testing::Test {
         window = std::make_unique<FormWindow>(*form, views.maker(), FaultTaker());
         window->binder().buildAll();
         dress(*window);
-        window->resize(980, 640);
+        window->resize(1180, 700);
         window->show();
         Desk::settle();
     }
