@@ -1,5 +1,5 @@
-#!/ usr / bin / env python3
-#SPDX - License - Identifier : GPL - 3.0 - or -later
+#!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Writes the scripts by which the example buildings and their designs are typed into the program.
 
     python3 examples/make_examples.py office > office.vscript
@@ -12,7 +12,7 @@ with figures that are usual for its use; the shape over the day is the same for 
 """
 import sys
 
-#use : (cooling Btu / hr ft2, heating Btu / hr ft2, cooling by block, heating by block, days a week)
+# use: (cooling Btu/hr ft2, heating Btu/hr ft2, cooling by block, heating by block, days a week)
 USES = {
     "office": (30, 24, (0.72, 1.00, 0.84, 0.16), (0.92, 0.55, 0.62, 1.00), 5),
     "meeting": (44, 26, (0.80, 1.00, 0.62, 0.10), (0.90, 0.50, 0.58, 1.00), 5),
@@ -62,7 +62,8 @@ def school():
     assert len(rooms) == 40
     return rooms
 
-#building : (file, series, rooms, cooling and heating factor of the climate, full load hours)
+
+# building: (file, series, rooms, cooling and heating factor of the climate, full load hours)
 BUILDINGS = {
     "office": ("office.zon", 0, OFFICE, (1.00, 0.80), (1050, 620)),
     "school-south": ("school-south.zon", 0, school(), (1.12, 0.62), (1150, 380)),
@@ -72,7 +73,8 @@ BUILDINGS = {
     "school-pond": ("school-pond.zon", 0, COUNTRY_SCHOOL, (0.90, 0.95), (700, 900)),
 }
 
-#kind of design : its window, its command, what is printed of its results
+
+# kind of design: its window, its command, what is printed of its results
 KINDS = {
     "borehole": ("frmBHDesign", "NewBorehole",
                  ("CATotalLengthLabel", "CABoreholeLengthLabel", "CASoilTempChangeLabel")),
@@ -83,8 +85,8 @@ KINDS = {
                        "CATotalLossLabel")),
 }
 
-#building : kind, title, place, what is done to the controls of the design(in the units of the last
-#item), percent to the tower
+# building: kind, title, place, what is done to the controls of the design (in the units of the last
+# item), percent to the tower
 DESIGNS = {
     "office": ("borehole", "Harbour Street offices", "Portland", {
         "FLInletTempText(0)": "85", "FLInletTempText(1)": "45", "SOGroundTempText": "55",
@@ -148,8 +150,9 @@ DESIGNS = {
         "EKWPumpPowerText(1)": "5"}, 0, "English"),
 }
 
-#building : the land with an area without bores, and alternatives that are kept, each with what is
-#typed first and what brings the design back
+
+# building: the land with an area without bores, and alternatives that are kept, each with what is
+# typed first and what brings the design back
 WHAT_IF = {
     "school-south": (
         [[(0, 0), (420, 0), (420, 260), (300, 320), (0, 320)],
@@ -201,7 +204,7 @@ def design_lines(name):
     for control, what in actions.items():
         lines += action_lines(window + control, what)
     lines += ["click %sCACalculateCommand" % window]
-#Other water temperatures may have changed the pumps.
+    # Other water temperatures may have changed the pumps.
     lines += ["activate frmZoneManage", "pick zones/%s.zon" % name,
               "click frmZoneManage.LOSaveCommand", "activate " + form,
               "click %sCACalculateCommand" % window]

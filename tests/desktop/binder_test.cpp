@@ -85,7 +85,7 @@ TEST_F(BinderTest, ARefusedValueIsReplacedInTheFieldAndMarkedByMoreThanColour) {
     EXPECT_EQ(plain(edit->text()), "20.0");
     EXPECT_EQ(form.depth, 20);
     EXPECT_EQ(edit->actions().size(), 1);
-    EXPECT_EQ(plain(edit->accessibleDescription()), "[1351]");
+    EXPECT_EQ(plain(edit->accessibleDescription()), "[1237]");  // why, with the range
     edit->selectAll();
     press(edit, Qt::Key_5, QStringLiteral("5"));
     EXPECT_TRUE(edit->actions().isEmpty());

@@ -43,7 +43,7 @@ TEST(Look, ShowsTheFocusByARingThatStandsOutFromGroundAndRestingEdge) {
         SCOPED_TRACE(look->dark ? "dark" : "light");
         for (const QColor& ground : {look->window, look->surface, look->field, look->line})
             EXPECT_GE(contrast(look->accent, ground), ring) << ground.name().toStdString();
-        EXPECT_GE(contrast(look->ink, look->accent), ring);  // around the primary button
+        EXPECT_GE(contrast(look->onAccent, look->accent), ring);  // the primary button turns round
         EXPECT_GE(contrast(look->onStale, look->stale), ring);
         EXPECT_GE(contrast(look->alarm, look->heatingWash), ring);
     }
