@@ -27,6 +27,13 @@ kills_at_length() {
         --gtest_filter='RandomEditing.*'
 }
 
+opinions_at_length() {
+    build_preset asan test_design
+    say "Ten thousand second opinions on random designs under the sanitizers, a hundred of them on large fields"
+    VARNHOLT_OPINIONS=10000 build/asan/bin/test_design --gtest_brief=1 \
+        --gtest_filter='RandomOpinions.*'
+}
+
 # What a fuzzing program starts from, and its options: fuzz_examples NAME
 fuzz_examples() {
     case $1 in
@@ -102,6 +109,7 @@ long_proofs() {
     mkdir -p build/long
     monkey_at_length
     kills_at_length
+    opinions_at_length
     fuzzing_at_length
     random_users_at_length
 }

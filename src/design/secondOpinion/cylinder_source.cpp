@@ -16,6 +16,8 @@ using std::numbers::pi;
 // to nothing; above, exp(-b^2 Fo) is nothing and J1^2 + Y1^2 is 2/(pi b) (1 + 3/(8 b^2)).
 constexpr double firstLogarithm = -16, lastLogarithm = 4;
 constexpr int panels = 40;
+// Where a cylinder is a line to within 5E-7, and the integral's beginning starts to matter.
+constexpr double lateFourier = 1.0e7;
 
 }  // namespace
 
@@ -32,6 +34,7 @@ CylinderSource::CylinderSource() {
 }
 
 double CylinderSource::wall(double fourier) const {
+    if (fourier > lateFourier) return exponentialIntegral(1 / (4 * fourier)) / (4 * pi);
     double sum = 0;
     for (const Node& node : nodes_) sum -= node.weight * std::expm1(-node.square * fourier);
     const double last = std::exp(lastLogarithm);
@@ -40,6 +43,7 @@ double CylinderSource::wall(double fourier) const {
 }
 
 double CylinderSource::overLine(double fourier) const {
+    if (fourier > lateFourier) return 0;
     return 2 * pi * wall(fourier) - exponentialIntegral(1 / (4 * fourier)) / 2;
 }
 

@@ -35,7 +35,7 @@ std::size_t rungAbove(double depth) {
 }
 
 DepthFunction::DepthFunction(Rungs rungs, std::size_t first, double depth)
-    : rungs_(std::move(rungs)) {
+    : depth_(depth), rungs_(std::move(rungs)) {
     const double place = placeOf(depth) - static_cast<double>(first);
     for (std::size_t i = 0; i < weights_.size(); ++i) {
         weights_[i] = 1;
@@ -70,6 +70,8 @@ double DepthFunction::afterMonths(std::size_t months) const {
 std::size_t DepthFunction::groupCount() const { return rungs_[nearest_]->g.groupCount(); }
 
 void GFunctionMemory::select(const FieldSite& site) {
+    // Not while one opinion is on its way: it may go back to any of its depths.
+    if (kept_.size() > mostKept) kept_.resize(mostKept);
     if (site_ && *site_ == site) return;
     if (!site_ || site_->bores != site.bores) field_.reset();
     work_.reset();
@@ -132,7 +134,6 @@ void GFunctionMemory::keep(const GFunction& g) {
     for (std::size_t n = 1; n <= months; ++n)
         function->monthly.push_back(g.at(hoursPerMonth * static_cast<double>(n)));
     kept_.push_front({site_, *wanted_, std::move(function)});
-    if (kept_.size() > mostKept) kept_.pop_back();
     work_.reset();
     wanted_.reset();
 }

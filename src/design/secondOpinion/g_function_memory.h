@@ -52,9 +52,12 @@ class DepthFunction {
     /// @param first  of four rungs that follow each other
     DepthFunction(Rungs rungs, std::size_t first, double depth);
     /// The function of a rung itself.
-    explicit DepthFunction(const std::shared_ptr<const RungFunction>& rung)
-        : rungs_{rung, rung, rung, rung}, weights_{1, 0, 0, 0} {}
+    DepthFunction(const std::shared_ptr<const RungFunction>& function, std::size_t rung)
+        : depth_(depthOfRung(rung)),
+          rungs_{function, function, function, function},
+          weights_{1, 0, 0, 0} {}
 
+    double depth() const { return depth_; }
     double at(double hours) const;
     double ofOneBoreAt(double hours) const;
     /// After so many months, 1 or more.
@@ -62,6 +65,7 @@ class DepthFunction {
     std::size_t groupCount() const;
 
  private:
+    double depth_;
     Rungs rungs_;
     std::array<double, 4> weights_{};
     std::size_t nearest_ = 0;
@@ -70,7 +74,7 @@ class DepthFunction {
 /// The g-functions of the last sixteen depths of fields, and the one that is being computed.
 class GFunctionMemory {
  public:
-    /// The field that is asked for from now on.
+    /// The field that is asked for from now on. What has not been used for sixteen depths goes.
     void select(const FieldSite& site);
 
     /// The function of a rung; none when it has to be computed first, by computeMore.

@@ -29,10 +29,10 @@ class Search {
 
     SettledDepth run() {
         std::size_t rung = std::min(rungAbove(search_.startDepth), search_.deepestRung);
-        while (!(low_ && high_ && highRung_ - lowRung_ == 1)) {
+        for (;;) {
             const auto function = memory_.atRung(rung);
             if (!function) return {SettledDepth::waiting};
-            const double length = lengthWith_(DepthFunction(function));
+            const double length = lengthWith_(DepthFunction(function, rung));
             if (!std::isfinite(length)) return {SettledDepth::notComputable};
             const double depth = depthOfRung(rung);
             const Trial trial{depth, length / search_.bores - depth};
@@ -45,24 +45,35 @@ class Search {
                 high_ = trial;
                 highRung_ = rung;
             }
+            if (low_ && high_ && highRung_ - lowRung_ == 1) return between();
             rung = nextRung(trial);
         }
-        return between();
     }
 
  private:
-    std::size_t nextRung(const Trial& trial) const {
-        const double guess =
-            low_ && high_ ? rootBetween(*low_, *high_) : trial.depth + overshoot * trial.excess;
-        const std::size_t least = low_ ? lowRung_ + 1 : rungOfLeastDepth;
-        const std::size_t most = high_ ? highRung_ - 1 : search_.deepestRung;
-        return std::clamp(rungAbove(guess), least, std::max(least, most));
+    /// Where the excess hardly falls with the depth, guesses creep: on one side of the root each
+    /// step is twice the last one at least, between two sides every second one halves.
+    std::size_t nextRung(const Trial& trial) {
+        ++trials_;
+        const std::size_t reach = std::size_t{1} << std::min(trials_, 6) >> 1;
+        if (!high_) {
+            const std::size_t least = std::min(lowRung_ + reach, search_.deepestRung);
+            return std::clamp(rungAbove(trial.depth + overshoot * trial.excess), least,
+                              search_.deepestRung);
+        }
+        if (!low_) {
+            const std::size_t most = highRung_ - std::min(reach, highRung_ - rungOfLeastDepth);
+            return std::min(rungAbove(trial.depth + overshoot * trial.excess), most);
+        }
+        if (trials_ % 2 == 0) return (lowRung_ + highRung_) / 2;
+        return std::clamp(rungAbove(rootBetween(*low_, *high_)), lowRung_ + 1, highRung_ - 1);
     }
 
-    /// The false position, with the weight of an end that stays halved.
+    /// The false position; the weight of an end that stays a second time is halved.
     SettledDepth between() {
         Trial a = *low_, b = *high_;
         Trial trial = b;
+        int side = 0;
         for (int i = 0; i < mostSecants; ++i) {
             const double depth = rootBetween(a, b);
             const bool close = std::abs(depth - trial.depth) <= tolerance * depth;
@@ -74,10 +85,12 @@ class Search {
             if (close || trial.excess == 0) break;
             if (trial.excess > 0) {
                 a = trial;
-                b.excess /= 2;
+                if (side == 1) b.excess /= 2;
+                side = 1;
             } else {
                 b = trial;
-                a.excess /= 2;
+                if (side == -1) a.excess /= 2;
+                side = -1;
             }
         }
         return {SettledDepth::settled, trial.depth * search_.bores};
@@ -88,6 +101,7 @@ class Search {
     const std::function<double(const DepthFunction&)>& lengthWith_;
     std::optional<Trial> low_, high_;
     std::size_t lowRung_ = 0, highRung_ = 0;
+    int trials_ = 0;
 };
 
 }  // namespace

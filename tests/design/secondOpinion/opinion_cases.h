@@ -53,9 +53,14 @@ inline MonthsOfModes monthsOf(const std::array<double, 12>& cooled,
 /// bore has 3,750 kWh and 2.5 kW of heating, 2,500 kWh and 2.5 kW of cooling.
 inline SecondOpinionCase peersCase(int across, int down) {
     const double peak = 2.5 * mbtuPerKilowatt * across * down;
+    // The design day has its peak for four hours and the mean of the greatest month: 20 percent of
+    // 2,500 kWh and 15.5 percent of 3,750 kWh over 730 hours of 2.5 kW are 0.2740 and 0.3185.
+    const ByMode<double> rest{(24 * 0.2740 - 4) / 20 * peak, (24 * 0.3185 - 4) / 20 * peak};
+    Zone zone = zoneWithoutPower({peak, peak}, {1000, 1500});
+    for (const std::size_t block : {1u, 2u, 3u}) zone.gains[block] = rest;
     SecondOpinionCase theCase;
     BoreholeInputs& design = theCase.design;
-    design.loads.zones = std::vector<Zone>{zoneWithoutPower({peak, peak}, {1000, 1500})};
+    design.loads.zones = std::vector<Zone>{zone};
     design.loads.inletTemp = {toFahrenheit(28), toFahrenheit(2)};
     design.loads.fluid = {62.4, 1.0};
     design.soil = {toFahrenheit(12), conductivityOf(2.0), diffusivityOf(2.0, 2.0e6)};
