@@ -29,14 +29,20 @@ double placeOf(const Plot& plot, const PlotScale& across, double value) {
     return plot.area.left() + std::clamp(share, 0.0, 1.0) * plot.area.width();
 }
 
-/// Figures below a plot, at the steps of its level scale, the last with what they count.
+/// Figures below a plot, at the steps of its level scale, the last with what they count. One that
+/// would run into the last is left out.
 void drawAcross(const Canvas& canvas, const Plot& plot, const PlotScale& across,
                 const QString& unit) {
     const int figures = static_cast<int>(std::round((across.most - across.least) / across.step));
-    for (int i = 0; i <= figures; ++i) {
+    const QString last = whole(across.most) + u' ' + unit;
+    const double lastLeft = std::min(plot.area.right() - canvas.textWidth(last) / 2,
+                                     canvas.area.right() - canvas.textWidth(last));
+    drawBelow(canvas, plot, plot.area.right(), last);
+    for (int i = 0; i < figures; ++i) {
         const double value = across.least + i * across.step;
-        const QString word = i == figures ? u' ' + unit : QString();
-        drawBelow(canvas, plot, placeOf(plot, across, value), whole(value) + word);
+        const double x = placeOf(plot, across, value);
+        if (x + canvas.textWidth(whole(value)) / 2 + gridStep / 2.0 < lastLeft)
+            drawBelow(canvas, plot, x, whole(value));
     }
 }
 
