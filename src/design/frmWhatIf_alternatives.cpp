@@ -53,17 +53,16 @@ std::string changeText(const WhatIfTeller& teller, const Row& row, double differ
     return (difference > 0 ? "+" : "-") + figureText(teller, row, std::abs(difference));
 }
 
-/// The least figure of a row, where at least two alternatives have one.
+/// The least figure of a row, where another alternative has a greater one.
 std::optional<double> bestOf(const std::vector<AlternativeFigures>& all, const Row& row) {
-    std::optional<double> best;
-    std::size_t count = 0;
+    std::optional<double> best, worst;
     for (const AlternativeFigures& each : all) {
         const double value = each.*row.figure;
         if (!(value > 0)) continue;
-        ++count;
         best = std::min(best.value_or(value), value);
+        worst = std::max(worst.value_or(value), value);
     }
-    return row.judged && count > 1 ? best : std::nullopt;
+    return row.judged && best < worst ? best : std::nullopt;
 }
 
 }  // namespace
@@ -105,8 +104,10 @@ void frmWhatIf::showAlternatives() {
         reasons += (reasons.empty() ? "" : " ") + each.name + ": " + teller().reason(each.reason);
     }
     write("WVReasonLabel", reasons);
-    for (std::size_t n = 0; n < columns; ++n)
+    for (std::size_t n = 0; n < columns; ++n) {
         write(elementName("WVHeadLabel", n), n < all.size() ? all[n].name : std::string());
+        control(elementName("WVHeadLabel", n)).setVisible(n < all.size());
+    }
     for (const Row& row : rows) {
         const std::optional<double> best = bestOf(all, row);
         for (std::size_t n = 0; n < columns; ++n) {

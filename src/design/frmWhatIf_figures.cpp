@@ -28,8 +28,8 @@ std::string unitLabelOf(std::string field) {
 }  // namespace
 
 void frmWhatIf::addControls() {
-    addNotice();
     addTop();
+    addNotice();
     add("WIMessageLabel", ControlKind::label).foundLate();
     add("WINoteLabel", ControlKind::label).foundLate();
     add("WIStateLabel", ControlKind::label).foundLate();

@@ -122,7 +122,7 @@ TEST_F(WhatIfWindow, TakesTheSpreadsOfTheGroundsKnowledge) {
     EXPECT_EQ(shown("WIHighText(3)"), "12.0");
     EXPECT_EQ(shown("WITieText(1)"), "0.70");
     what->click("WIGroundOption(2)");
-    EXPECT_EQ(shown("WIHighText(0)"), "20.0");
+    EXPECT_EQ(shown("WIHighText(0)"), "40.0");
     EXPECT_EQ(shown("WITieText(1)"), "0.00");
     EXPECT_EQ(shown("WILowText(4)"), "15.0");
 }

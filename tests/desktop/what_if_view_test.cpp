@@ -11,6 +11,9 @@
 #include "design/frmWhatIf.h"
 #include "desk.h"
 #include "desktop/binding/form_window.h"
+#include "desktop/drawings/what_if_paintings.h"
+#include "desktop/widgets/qt_text.h"
+#include "drawing_samples.h"
 
 namespace varnholt {
 namespace {
@@ -110,6 +113,67 @@ TEST_F(WhatIfView, PutsTheKeyboardIntoTheFieldOfABarThatIsPressed) {
     const QWidget* focused = desk.shelf.windowOf(what())->focusWidget();
     ASSERT_NE(focused, nullptr);
     EXPECT_EQ(focused->objectName().toStdString(), "WILowText(" + std::to_string(longest) + ")");
+}
+
+struct Page {
+    int page;
+    const char* image;
+};
+constexpr Page pictures[] = {{0, "imgTornado"}, {1, "imgSure"}, {2, "imgLand"},
+                             {2, "imgFields"},  {3, "imgCost"}, {5, "imgTower"}};
+
+TEST_F(WhatIfView, TellsAScreenReaderWhatAScriptReads) {
+    what().click("WIMeasureOption(0)");
+    for (const auto& [page, image] : pictures) {
+        SCOPED_TRACE(image);
+        what().choose("WITabs", page);
+        idle();
+        auto* drawing = dynamic_cast<Drawing*>(widget(image));
+        ASSERT_NE(drawing, nullptr);
+        drawing->refresh();
+        EXPECT_EQ(plain(drawing->description()), what().descriptionOf(image));
+        EXPECT_FALSE(what().descriptionOf(image).empty());
+    }
+}
+
+/// Ink on a surface, whatever the scheme and the size.
+TEST_F(WhatIfView, DrawsItsPicturesInBothSchemesAtEverySize) {
+    what().click("WIMeasureOption(0)");
+    what().choose("WITabs", 2);
+    what().click("WLSearchCommand");
+    for (int page = 0; page < 6; ++page) {
+        what().choose("WITabs", page);
+        idle();
+    }
+    const Texts& texts = what().texts();
+    const std::vector<DrawingSample> samples{
+        {"what_if_decides",
+         {460, 360},
+         [&](const Canvas& c) { paintTornado(c, what().tornadoPicture(), texts); }},
+        {"what_if_sure",
+         {460, 300},
+         [&](const Canvas& c) { paintSure(c, what().surePicture(), texts); }},
+        {"what_if_land",
+         {320, 220},
+         [&](const Canvas& c) { paintLand(c, what().landPicture(), texts); }},
+        {"what_if_fields",
+         {320, 220},
+         [&](const Canvas& c) { paintFields(c, what().fieldsPicture(), texts); }},
+        {"what_if_cost",
+         {420, 72},
+         [&](const Canvas& c) { paintCost(c, what().costPicture(), texts); }},
+        {"what_if_tower", {460, 300}, [&](const Canvas& c) {
+             paintTower(c, what().towerPicture(), texts);
+         }}};
+    for (const DrawingSample& sample : samples)
+        for (const Look* look : {&lightLook(), &darkLook()})
+            for (const double ratio : {1.0, 1.5, 2.0}) {
+                SCOPED_TRACE(sample.name);
+                const QImage image = renderedSample(sample, *look, ratio);
+                QImage blank = image;
+                blank.fill(look->surface);
+                EXPECT_NE(image, blank);
+            }
 }
 
 }  // namespace

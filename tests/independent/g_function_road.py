@@ -7,10 +7,10 @@
 The field of 6 by 4 bores of docs/second-opinion.md.  It shares no line with the program, and where
 it can it goes another way: metric units; each kind of bore by itself in place of groups; the
 responses of segments by Simpson's rule over the depth instead of terms of the error function's
-integral; the heat of every step superposed as it is, with its own
-age, instead of being gathered anew; elimination with pivots; the months summed one by one; a
-straight line between two depths.  tests/design/secondOpinion/second_opinion_test.cpp holds the program to the figures
-printed here.  Takes some seconds.
+integral; the heat of every step superposed as it is, with its own age, instead of being gathered
+anew; elimination with pivots; the months summed one by one; a straight line between two depths.
+tests/design/secondOpinion/second_opinion_test.cpp holds the program to the figures printed here.
+Takes some seconds.
 """
 from bisect import bisect_left
 from math import erf, exp, expm1, log, pi, sqrt

@@ -9,9 +9,10 @@ namespace varnholt::secondOpinion {
 namespace {
 
 constexpr double firstHour = 1;
+constexpr double nearlyFirst = 1.15;    // times the first hour: too near for a point of its own
 constexpr double fourierOfStart = 0.1;  // of the bores' walls, alpha t/rb^2
 constexpr double evenStep = 0.3;        // of ln t, before the march
-constexpr double leastStep = 0.1;       // of ln t, in the march
+constexpr double fourierOfStep = 0.03;  // of the shortest step; below 0.02 the march sways
 constexpr std::size_t timesPerSlice = 16;
 constexpr std::size_t stepsPerSlice = 8;
 
@@ -25,11 +26,12 @@ std::vector<double> spacedTimes(double from, double to, std::size_t steps) {
     return times;
 }
 
-/// An even number of steps that are not too short for the sources to be felt within one.
-std::size_t stepsOf(double from, double to, std::size_t most) {
-    const double widest = std::log(to / from) / leastStep;
-    if (!(widest >= 2)) return 0;
-    const auto steps = static_cast<std::size_t>(std::min(widest, static_cast<double>(most)));
+/// An even number of steps of which the first is not too short for the walls to answer to it.
+/// @param fourier  of the walls, at the beginning
+std::size_t stepsOf(double from, double to, double fourier, std::size_t most) {
+    const double possible = std::log(to / from) / std::log1p(fourierOfStep / fourier);
+    if (!(possible >= 2)) return 0;
+    const auto steps = static_cast<std::size_t>(std::min(possible, static_cast<double>(most)));
     return steps - steps % 2;
 }
 
@@ -63,9 +65,10 @@ GFunctionWork::GFunctionWork(const BoreField& field, const BoreShape& shape, dou
 }
 
 void GFunctionWork::setTimes() {
-    const double start =
-        std::max(firstHour, fourierOfStart * shape_.radius * shape_.radius / alpha_);
-    steps_ = stepsOf(start, lastHour_, steps_);
+    const double fourierPerHour = alpha_ / (shape_.radius * shape_.radius);
+    double start = fourierOfStart / fourierPerHour;
+    if (!(start > firstHour * nearlyFirst)) start = firstHour;
+    steps_ = stepsOf(start, lastHour_, fourierPerHour * start, steps_);
     const double evenUntil = steps_ == 0 ? lastHour_ : start;
     if (steps_ != 0) times_ = spacedTimes(start, lastHour_, steps_);
     if (evenUntil > firstHour) {
@@ -97,7 +100,7 @@ void GFunctionWork::startIntegral() {
 }
 
 void GFunctionWork::startMarch(Marched& marched, const std::vector<double>& groupSize) {
-    const auto ends = segmentEnds(shape_.depth, shape_.buried);
+    const auto ends = segmentEnds(shape_);
     marched.fine.emplace(groupSize, ends, times_, marched.responses, 1);
     marched.coarse.emplace(groupSize, ends, times_, marched.responses, 2);
 }

@@ -10,6 +10,7 @@
 namespace varnholt::secondOpinion {
 namespace {
 
+constexpr double leastSegment = 0.5;  // of a bore's radius
 constexpr double endShare = 0.02;     // of a bore's length, for its end segments
 constexpr double nothing = 40;        // exp(-40) adds nothing to a sum of a few thousand
 constexpr double widestPanel = 0.4;   // of ln s, for four nodes
@@ -18,10 +19,10 @@ constexpr double middlePanel = 0.2;   // for three
 
 /// By how much each segment is longer than the one above, from the top to the middle: the half has
 /// 1 + r + r^2 + r^3 end segments.
-double growthOfSegments() {
+double growthOfSegments(double share) {
     double r = 2.5;
-    for (int i = 0; i < 8; ++i) {
-        const double excess = 1 + r * (1 + r * (1 + r)) - 0.5 / endShare;
+    for (int i = 0; i < 12; ++i) {
+        const double excess = 1 + r * (1 + r * (1 + r)) - 0.5 / share;
         r -= excess / (1 + r * (2 + 3 * r));
     }
     return r;
@@ -29,17 +30,19 @@ double growthOfSegments() {
 
 }  // namespace
 
-std::array<double, segmentCount + 1> segmentEnds(double depth, double buried) {
-    const double growth = growthOfSegments();
+std::array<double, segmentCount + 1> segmentEnds(const BoreShape& shape) {
+    const double share = std::clamp(leastSegment * shape.radius / shape.depth, endShare,
+                                    1.0 / static_cast<double>(segmentCount));
+    const double growth = growthOfSegments(share);
     std::array<double, segmentCount + 1> ends{};
-    ends.front() = buried;
-    double length = endShare * depth;
+    ends.front() = shape.buried;
+    double length = share * shape.depth;
     for (std::size_t u = 1; u <= segmentCount / 2; ++u) {
         ends[u] = ends[u - 1] + length;
         length *= growth;
     }
     for (std::size_t u = segmentCount / 2 + 1; u <= segmentCount; ++u)
-        ends[u] = 2 * buried + depth - ends[segmentCount - u];
+        ends[u] = 2 * shape.buried + shape.depth - ends[segmentCount - u];
     return ends;
 }
 
@@ -87,7 +90,7 @@ ResponseIntegral::ResponseIntegral(const PairCounts& pairs, const BoreShape& sha
     : pairs_(pairs),
       shape_(shape),
       alpha_(alpha),
-      ends_(segmentEnds(shape.depth, shape.buried)),
+      ends_(segmentEnds(shape)),
       lastS_(std::sqrt(nothing) / shape.radius),
       sums_(pairs.pairCount()) {
     table_.ofGroups.assign(pairs.pairCount() * segmentPairs, 0);

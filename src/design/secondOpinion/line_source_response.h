@@ -13,10 +13,12 @@ namespace varnholt::secondOpinion {
 constexpr std::size_t segmentCount = 8;
 
 /// Depths below the ground surface at which the segments of a bore begin and end, ft. The end
-/// segments have 2 percent of its length, and the segments grow geometrically to the middle.
+/// segments have 2 percent of its length, and the segments grow geometrically to the middle. None
+/// is shorter than half of the bore's radius, as long as eight such fit: lines that are far shorter
+/// than the distance at which they are looked at cannot be told apart, and a march loses its hold.
 /// Source: Cimmino and Cook, "G-functions for bore fields with mixed parallel and series
 /// connections" (IGSHPA, 2022), for the unequal segments.
-std::array<double, segmentCount + 1> segmentEnds(double depth, double buried);
+std::array<double, segmentCount + 1> segmentEnds(const BoreShape& shape);
 
 /// The integral of the error function from 0 to x.
 double integralOfErf(double x);

@@ -11,7 +11,8 @@ namespace varnholt {
 namespace {
 
 constexpr QSize usual{460, 300};
-constexpr QSize low{420, 160};
+constexpr QSize beside{320, 220};  // of two pictures in one line
+constexpr QSize low{420, 72};
 
 template <class Picture>
 std::function<QString(const Picture&)> describing(const Texts& texts) {
@@ -26,13 +27,13 @@ class PointedDrawing : public PaintedDrawing<Picture> {
     using Find = std::optional<std::size_t> (*)(const std::vector<Place>&, const QPointF&);
 
     PointedDrawing(std::function<Picture()> source, const Texts& texts, Paint paint, Find locate,
-                   std::function<void(std::size_t)> pointed)
+                   std::function<void(std::size_t)> pointed, const QSize& size)
         : PaintedDrawing<Picture>(
               std::move(source),
               [this, &texts, paint](const Canvas& canvas, const Picture& picture) {
                   places_ = paint(canvas, picture, texts);
               },
-              describing<Picture>(texts), usual),
+              describing<Picture>(texts), size),
           find_(locate),
           pointed_(std::move(pointed)) {
         this->setCursor(Qt::PointingHandCursor);
@@ -88,7 +89,7 @@ Drawing* plainDrawing(std::function<Picture()> source, const Texts& texts,
 Drawing* newTornadoDrawing(std::function<TornadoPicture()> source, const Texts& texts,
                            std::function<void(std::size_t)> pointed) {
     return new PointedDrawing<TornadoPicture, QRectF>(std::move(source), texts, paintTornado, rowAt,
-                                                      std::move(pointed));
+                                                      std::move(pointed), usual);
 }
 
 Drawing* newSureDrawing(std::function<SurePicture()> source, const Texts& texts) {
@@ -96,13 +97,13 @@ Drawing* newSureDrawing(std::function<SurePicture()> source, const Texts& texts)
 }
 
 Drawing* newLandDrawing(std::function<LandPicture()> source, const Texts& texts) {
-    return plainDrawing<LandPicture>(std::move(source), texts, paintLand, usual);
+    return plainDrawing<LandPicture>(std::move(source), texts, paintLand, beside);
 }
 
 Drawing* newFieldsDrawing(std::function<FieldsPicture()> source, const Texts& texts,
                           std::function<void(std::size_t)> pointed) {
     return new PointedDrawing<FieldsPicture, QPointF>(std::move(source), texts, paintFields,
-                                                      pointAt, std::move(pointed));
+                                                      pointAt, std::move(pointed), beside);
 }
 
 Drawing* newCostDrawing(std::function<CostPicture()> source, const Texts& texts) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/drawings/what_if_paintings.h"
 
+#include <QFontMetricsF>
 #include <QPainterPath>
 #include <QPainterPathStroker>
 #include <QPolygonF>
@@ -28,12 +29,20 @@ double placeOf(const Plot& plot, const PlotScale& across, double value) {
     return plot.area.left() + std::clamp(share, 0.0, 1.0) * plot.area.width();
 }
 
-/// Figures below a plot, at the steps of its level scale.
-void drawAcross(const Canvas& canvas, const Plot& plot, const PlotScale& across) {
+/// Figures below a plot, at the steps of its level scale, the last with what they count. One that
+/// would run into the last is left out.
+void drawAcross(const Canvas& canvas, const Plot& plot, const PlotScale& across,
+                const QString& unit) {
     const int figures = static_cast<int>(std::round((across.most - across.least) / across.step));
-    for (int i = 0; i <= figures; ++i) {
+    const QString last = whole(across.most) + u' ' + unit;
+    const double lastLeft = std::min(plot.area.right() - canvas.textWidth(last) / 2,
+                                     canvas.area.right() - canvas.textWidth(last));
+    drawBelow(canvas, plot, plot.area.right(), last);
+    for (int i = 0; i < figures; ++i) {
         const double value = across.least + i * across.step;
-        drawBelow(canvas, plot, placeOf(plot, across, value), whole(value));
+        const double x = placeOf(plot, across, value);
+        if (x + canvas.textWidth(whole(value)) / 2 + gridStep / 2.0 < lastLeft)
+            drawBelow(canvas, plot, x, whole(value));
     }
 }
 
@@ -61,8 +70,9 @@ struct TornadoFrame {
 TornadoFrame frameOf(const Canvas& canvas, const TornadoPicture& picture, double head) {
     TornadoFrame frame;
     double least = picture.base, most = picture.base;
+    const QFontMetricsF words(canvas.words);
     for (const TornadoPicture::Bar& bar : picture.bars) {
-        frame.names = std::max(frame.names, canvas.textWidth(qt(bar.name)));
+        frame.names = std::max(frame.names, words.horizontalAdvance(qt(bar.name)) + 2);
         frame.shares = std::max(frame.shares, canvas.textWidth(qt(bar.share)));
         for (const double end : {bar.low, bar.high}) {
             if (!(end > 0)) continue;
@@ -203,9 +213,10 @@ void drawColumns(const Canvas& canvas, const Plot& plot, const TowerPicture& pic
         const double top = plot.heightOf(tower ? picture.first[p] : bores);
         const double bottom = tower ? plot.heightOf(bores) : plot.area.bottom();
         const double x = acrossTower(plot, p);
-        canvas.painter.fillRect(QRectF(QPointF(x - width / 2, top), QPointF(x + width / 2, bottom))
-                                    .intersected(plot.area),
-                                colour);
+        // Columns overlap a little, so that no seam shows between them.
+        canvas.painter.fillRect(
+            QRectF(QPointF(x - width / 2, top), QPointF(x + width, bottom)).intersected(plot.area),
+            colour);
     }
 }
 
@@ -270,7 +281,7 @@ void paintSure(const Canvas& canvas, const SurePicture& picture, const Texts& te
                            {Kind::dashes, look.ink, {}, qt(texts.text(Text::whatIfAskedCases))}});
     const Plot plot = drawPlot(canvas, {0, 100, 20}, head);
     const PlotScale across = depthsOf(picture);
-    drawAcross(canvas, plot, across);
+    drawAcross(canvas, plot, across, qt(picture.unit));
     QPainter& painter = canvas.painter;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(look.muted, thinLine));
@@ -341,7 +352,7 @@ std::vector<QPointF> paintFields(const Canvas& canvas, const FieldsPicture& pict
         std::minmax_element(picture.fields.begin(), picture.fields.end(), byBores);
     const Plot plot = drawPlot(canvas, scaleAround(shallow->depth, deep->depth, levels), head);
     const PlotScale across = scaleAround(few->bores, many->bores, levels);
-    drawAcross(canvas, plot, across);
+    drawAcross(canvas, plot, across, qt(captionWords(texts.text(Text::whatIfRowBores))));
     const double least = picture.fields.front().cost, most = picture.fields.back().cost;
     std::vector<QPointF> places;
     for (const FieldsPicture::Place& field : picture.fields)
@@ -366,31 +377,23 @@ void paintCost(const Canvas& canvas, const CostPicture& picture, const Texts&) {
     if (!picture.empty.empty() || picture.parts.empty())
         return drawEmpty(canvas, qt(picture.empty));
     double sum = 0;
-    for (const CostPicture::Part& part : picture.parts) sum += part.value;
-    const double height = std::min(canvas.area.height() * 0.3, 4.0 * gridStep);
-    const double row = canvas.textHeight() + gridStep / 2.0;
-    double x = canvas.area.left(), y = canvas.area.top() + height + gridStep;
-    QPainter& painter = canvas.painter;
-    const auto count = static_cast<double>(picture.parts.size());
-    double index = 0;
+    std::vector<LegendSign> signs;
     for (const CostPicture::Part& part : picture.parts) {
-        const QColor colour =
-            between(canvas.look.accent, canvas.look.surface, 0.75 * index++ / count);
-        const double width = canvas.area.width() * part.value / sum;
-        painter.fillRect(QRectF(x, canvas.area.top(), std::max(1.0, width - 1), height), colour);
-        painter.fillRect(
-            QRectF(canvas.area.left(), y + row / 2 - gridStep / 2.0, gridStep, gridStep), colour);
-        painter.setFont(canvas.words);
-        painter.setPen(canvas.look.ink);
-        painter.drawText(QRectF(canvas.area.left() + 2 * gridStep, y, canvas.area.width(), row),
-                         Qt::AlignLeft | Qt::AlignVCenter,
-                         qt(part.name) + QStringLiteral("  ") + qt(part.cost));
-        x += width;
-        y += row;
+        const double share =
+            0.75 * static_cast<double>(signs.size()) / static_cast<double>(picture.parts.size());
+        const QColor colour = between(canvas.look.accent, canvas.look.surface, share);
+        signs.push_back({Kind::area, canvas.look.accent, colour, qt(part.name)});
+        sum += part.value;
     }
-    painter.setPen(canvas.look.muted);
-    painter.drawText(QRectF(canvas.area.left() + 2 * gridStep, y, canvas.area.width(), row),
-                     Qt::AlignLeft | Qt::AlignVCenter, qt(picture.total));
+    const double head = drawSigns(canvas, signs);
+    const double height = std::min(canvas.area.height() - head, 5.0 * gridStep);
+    double x = canvas.area.left();
+    for (std::size_t i = 0; i < signs.size(); ++i) {
+        const double width = canvas.area.width() * picture.parts[i].value / sum;
+        canvas.painter.fillRect(
+            QRectF(x, canvas.area.top() + head, std::max(1.0, width - 1), height), signs[i].wash);
+        x += width;
+    }
 }
 
 void paintTower(const Canvas& canvas, const TowerPicture& picture, const Texts& texts) {

@@ -27,7 +27,7 @@ void paintLand(const Canvas& canvas, const LandPicture& picture, const Texts& te
 /// @return  their places, for who points at one
 std::vector<QPointF> paintFields(const Canvas& canvas, const FieldsPicture& picture,
                                  const Texts& texts);
-/// The parts of a cost in one bar, with their names and figures below it.
+/// The parts of a cost in one bar, with their names over it.
 void paintCost(const Canvas& canvas, const CostPicture& picture, const Texts& texts);
 /// First cost, bores below and tower above, and the cost over life, against the tower's percent.
 void paintTower(const Canvas& canvas, const TowerPicture& picture, const Texts& texts);

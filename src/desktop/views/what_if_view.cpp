@@ -82,8 +82,8 @@ QWidget* top(Binder& bind) {
                    bind.figure("WIBoreCaptionLabel", "WIBoreLabel")));
     QWidget* measure = group(bind.frame("WIMeasureFrame"), bind.widget("WIMeasureOption(0)"),
                              bind.widget("WIMeasureOption(1)"));
-    QWidget* told = column(wrapped(bind.widget("WIMessageLabel")), mutedText(bind, "WINoteLabel"),
-                           mutedText(bind, "WIStateLabel"));
+    QWidget* told = column(noticeBar(bind), wrapped(bind.widget("WIMessageLabel")),
+                           mutedText(bind, "WINoteLabel"), mutedText(bind, "WIStateLabel"));
     return row_(need, gap(), measure, gap(), grow(told));
 }
 
@@ -101,19 +101,20 @@ QWidget* spreads(Binder& bind) {
 }
 
 QWidget* decidesPage(Binder& bind) {
-    QWidget* fields = column(
-        group(bind.frame("WIGroundFrame"), bind.widget("WIGroundOption(0)"),
-              bind.widget("WIGroundOption(1)"), bind.widget("WIGroundOption(2)")),
-        spreads(bind),
+    QWidget* fields =
+        column(group(bind.frame("WIGroundFrame"),
+                     buttons(bind.widget("WIGroundOption(0)"), bind.widget("WIGroundOption(1)"),
+                             bind.widget("WIGroundOption(2)"))),
+               spreads(bind), stretch());
+    QWidget* ties =
         group(bind.frame("WITieFrame"),
               grid(bind.row("WITieText(0)"), bind.row("WITieText(1)"), bind.row("WITieText(2)")),
-              mutedText(bind, "WITiedLabel")),
-        stretch());
+              mutedText(bind, "WITiedLabel"));
     QWidget* picture =
         bind.drawing("imgTornado",
                      newTornadoDrawing(from(bind, &frmWhatIf::tornadoPicture), bind.form()->texts(),
                                        pointing(bind, "imgTornado", &frmWhatIf::pointAtBar)));
-    return row_(fields, gap(), grow(picture));
+    return row_(fields, gap(), grow(column(grow(picture), ties)));
 }
 
 // How sure.
@@ -254,7 +255,7 @@ QWidget* makeWhatIfView(Binder& bind) {
          [&bind] { return page(layoutPage(bind)); }, [&bind] { return page(costPage(bind)); },
          [&bind] { return page(alternativesPage(bind)); },
          [&bind] { return page(towerPage(bind)); }});
-    return roomy(column(noticeBar(bind), bar(top(bind)), grow(pages)), {960, 820});
+    return roomy(column(bar(top(bind)), grow(pages)), {960, 820});
 }
 
 }  // namespace varnholt

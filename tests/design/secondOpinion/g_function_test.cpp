@@ -122,7 +122,7 @@ TEST(GFunction, OfAFieldIsThatOfOneBoreUntilTheNeighbourIsReached) {
 /// The steady state in closed form: all segments of all bores, each solved for by itself. The
 /// response of two segments is a difference of second integrals of 1/d, as that of whole bores is.
 double steadyG(const std::vector<BorePosition>& bores, const BoreShape& shape) {
-    const auto ends = segmentEnds(shape.depth, shape.buried);
+    const auto ends = segmentEnds(shape);
     const std::size_t unknowns = bores.size() * segmentCount;
     SymmetricSystem system(unknowns);
     std::vector<double> lengths;
@@ -175,16 +175,20 @@ TEST(GFunction, BeforeTheMarchIsTheLineSourceAtTheWall) {
 struct Extreme {
     double diffusivity;  ///< ft^2/day
     double depth, spacing;
+    double radius = 0.208, buried = 4;
 };
 
 TEST(GFunction, RisesWithTimeAndWithEveryRowInSlowAndFastSoil) {
     for (const Extreme& e : {Extreme{0.001, 10, 1}, Extreme{0.001, 10, 100},
                              Extreme{0.001, 2000, 1}, Extreme{0.75, 10, 1}, Extreme{0.75, 250, 20},
                              Extreme{0.75, 2000, 1}, Extreme{1000, 10, 1}, Extreme{1000, 10, 100},
-                             Extreme{1000, 2000, 1}, Extreme{1000, 2000, 100}}) {
+                             Extreme{1000, 2000, 1}, Extreme{1000, 2000, 100},
+                             // Wide bores at the surface, where the march holds least.
+                             Extreme{0.03, 10, 60, 0.9, 0}, Extreme{0.001, 10, 10, 1, 0},
+                             Extreme{1, 10, 3, 1, 0}, Extreme{0.001, 300, 5, 1, 0}}) {
         SCOPED_TRACE("diffusivity " + std::to_string(e.diffusivity) + ", depth " +
                      std::to_string(e.depth) + ", spacing " + std::to_string(e.spacing));
-        const BoreShape shape{e.depth, 4, 0.208};
+        const BoreShape shape{e.depth, e.buried, e.radius};
         std::vector<double> lastOfFewer;
         for (const int rows : {1, 2, 3, 5, 8}) {
             const GFunction g = gFunctionOf(rectangularField(5, rows, e.spacing), shape,

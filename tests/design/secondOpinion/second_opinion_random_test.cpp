@@ -101,7 +101,10 @@ class RandomCases {
     std::mt19937 random_;
 };
 
-void expectSound(const SecondOpinion& opinion) {
+/// @param ofLines  the g-functions are: a wide bore at the surface sheds its heat at once, and what
+/// a
+///                 cylinder adds at first may then be more than all that comes later
+void expectSound(const SecondOpinion& opinion, bool ofLines) {
     for (Mode mode : modes) {
         EXPECT_TRUE(std::isfinite(opinion.soLength[mode]));
         EXPECT_GE(opinion.soLength[mode], 0);
@@ -117,7 +120,7 @@ void expectSound(const SecondOpinion& opinion) {
     EXPECT_EQ(opinion.water.size(), shown ? opinionMonths : 0);
     if (!shown) return;
     EXPECT_GT(opinion.shownDepth, 0);
-    for (std::size_t i = 1; i < opinion.gValue.size(); ++i)
+    for (std::size_t i = 1; ofLines && i < opinion.gValue.size(); ++i)
         EXPECT_GE(opinion.gValue[i], opinion.gValue[i - 1] - 1e-3 * opinion.gValue[i] - 1e-4);
     for (const OpinionYearLine& line : opinion.years)
         for (const auto& figure : {line.penalty, line.high, line.low})
@@ -139,7 +142,7 @@ TEST(RandomOpinions, AreSound) {
         const bool large = i % 100 == 99;
         const SecondOpinionCase theCase = large ? random.next(50, 50) : random.next(10, 10);
         const SecondOpinion opinion = secondOpinionOf(theCase, memory);
-        expectSound(opinion);
+        expectSound(opinion, !theCase.window.cylinder);
         sized += opinion.governing() ? 1 : 0;
         if (HasFailure()) break;
     }

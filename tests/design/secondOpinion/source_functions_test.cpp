@@ -45,7 +45,7 @@ TEST(LineSource, HasTheIntegralOfTheErrorFunction) {
 }
 
 TEST(Segments, FillTheBoreAndGrowToItsMiddle) {
-    const auto ends = segmentEnds(300, 5);
+    const auto ends = segmentEnds({300, 5, 0.2});
     EXPECT_EQ(ends.front(), 5);
     EXPECT_NEAR(ends.back(), 305, 1e-9);
     EXPECT_NEAR(ends[4], 155, 1e-9);
@@ -54,6 +54,16 @@ TEST(Segments, FillTheBoreAndGrowToItsMiddle) {
     EXPECT_NEAR((ends[3] - ends[2]) / (ends[2] - ends[1]), growth, 1e-9);
     EXPECT_NEAR((ends[4] - ends[3]) / (ends[3] - ends[2]), growth, 1e-9);
     EXPECT_NEAR(ends[8] - ends[7], 6, 1e-9);
+}
+
+TEST(Segments, OfAShallowWideBoreAreNoShorterThanHalfItsRadius) {
+    const auto ends = segmentEnds({10, 0, 1});
+    EXPECT_NEAR(ends[1], 0.5, 1e-9);
+    EXPECT_NEAR(ends[8] - ends[7], 0.5, 1e-9);
+    EXPECT_NEAR(ends[4], 5, 1e-9);
+    // Eight equal ones at most.
+    const auto equal = segmentEnds({10, 0, 6});
+    for (std::size_t u = 0; u < segmentCount; ++u) EXPECT_NEAR(equal[u + 1] - equal[u], 1.25, 1e-9);
 }
 
 TEST(Responses, OfTwoSegmentsAreTheIntegralOverTheirPointSources) {
@@ -67,7 +77,7 @@ TEST(Responses, OfTwoSegmentsAreTheIntegralOverTheirPointSources) {
     const PairCounts pairs(field, {{0}, {2}});
     ResponseIntegral integral(pairs, shape, alpha);
     for (const double time : {10.0, 700.0, hours}) integral.advanceTo(time);
-    const auto ends = segmentEnds(100, 4);
+    const auto ends = segmentEnds(shape);
     const auto pointSources = [&](double distance) {
         const int pieces = 300;
         const double du = (ends[3] - ends[2]) / pieces, dv = (ends[6] - ends[5]) / pieces;
