@@ -27,12 +27,14 @@ class Language : public testing::Test {
         return application->main();
     }
 
-    /// A caption is a figure, or it comes from the language, a file name's proposal too.
+    /// A caption is a figure, or the dash of one that cannot be had, or it comes from the language,
+    /// a file name's proposal too.
     static void expectLiterals(const Form& form) {
         EXPECT_NE(form.caption().find(noLocalData), std::string::npos) << form.formName();
         for (const auto& control : form.controls()) {
             const std::string& caption = control->caption();
-            const bool figure = !caption.empty() && std::isdigit(caption[0]) != 0;
+            const bool figure =
+                !caption.empty() && (std::isdigit(caption[0]) != 0 || caption == "-");
             if (caption.empty() || figure) continue;
             EXPECT_TRUE(caption.starts_with(noLocalData))
                 << form.formName() << "." << control->name() << ": " << caption;

@@ -89,7 +89,7 @@ void checkFrame(Varnmain& main) {
             "windows are open and none is active");
     require(main.control("Metric").checked() != main.control("English").checked(), main,
             "both unit systems are on, or none");
-    const ChildWindow* active = main.activeWindow();
+    const ChildWindow* active = main.ownerInFront();
     require(main.control("mnuUndo").enabled() == (active != nullptr && active->history().canUndo()),
             main, "Undo does not tell whether there is something to undo");
     require(main.control("mnuRedo").enabled() == (active != nullptr && active->history().canRedo()),

@@ -57,7 +57,8 @@ Drivers driverAlone(DoubtfulQuantity quantity, double value);
 constexpr std::size_t caseSets = 8;
 constexpr std::size_t casesOfSet = std::size_t{1} << 11;
 
-/// The drivers of a set of cases: Sobol' points, scrambled apart from those of other sets.
+/// The drivers of a set of cases: Sobol' points under Owen's nested uniform scrambling by the hash
+/// of Laine and Karras, apart from those of other sets.
 /// Source: L'Ecuyer and Lemieux, "Recent Advances in Randomized Quasi-Monte Carlo Methods" (2002).
 /// @param count  of cases, a power of 2; fewer are the first of more
 /// @param seed   the same seed gives the same cases, in every program and on every machine
