@@ -19,6 +19,7 @@ constexpr std::size_t stepsPerSlice = 8;
 /// Times in equal steps of their logarithm, both ends included.
 std::vector<double> spacedTimes(double from, double to, std::size_t steps) {
     std::vector<double> times;
+    times.reserve(steps + 1);
     const double step = std::log(to / from) / static_cast<double>(steps);
     for (std::size_t i = 0; i < steps; ++i)
         times.push_back(from * std::exp(step * static_cast<double>(i)));
@@ -144,6 +145,7 @@ std::vector<double> GFunctionWork::extrapolated(const Marched& marched) const {
     }
     const CubicSpline errorAt(std::move(logarithms), std::move(error));
     std::vector<double> g = evenG_;
+    g.reserve(evenG_.size() + times_.size());
     for (std::size_t i = 0; i < times_.size(); ++i)
         g.push_back(marched.g[i] - errorAt.at(std::log(times_[i])));
     return g;
@@ -151,6 +153,7 @@ std::vector<double> GFunctionWork::extrapolated(const Marched& marched) const {
 
 void GFunctionWork::finish() {
     std::vector<double> logarithms;
+    logarithms.reserve(evenTimes_.size() + times_.size());
     for (const double hours : evenTimes_) logarithms.push_back(std::log(hours));
     for (const double hours : times_) logarithms.push_back(std::log(hours));
     const bool marches = !times_.empty();

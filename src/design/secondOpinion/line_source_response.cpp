@@ -110,10 +110,10 @@ void ResponseIntegral::addBetween(double fromS, double toS) {
     };
     if (to - from <= narrowPanel) return visitNodes(twoNodes, from, to, node);
     if (to - from <= middlePanel) return visitNodes(threeNodes, from, to, node);
-    const double panels = std::ceil((to - from) / widestPanel);
-    for (double i = 0; i < panels; ++i)
-        visitNodes(fourNodes, from + (to - from) * i / panels,
-                   from + (to - from) * (i + 1) / panels, node);
+    const auto panels = static_cast<int>(std::ceil((to - from) / widestPanel));
+    const double width = (to - from) / panels;
+    for (int i = 0; i < panels; ++i)
+        visitNodes(fourNodes, from + i * width, from + (i + 1) * width, node);
 }
 
 /// Over ln s the integrand has one power of s less in its denominator.

@@ -13,11 +13,12 @@ constexpr double spacing = 0.15;  // of ln t
 }  // namespace
 
 PulseTerm::PulseTerm(const CylinderSource& cylinder, double fourierPerHour, std::size_t months) {
-    std::vector<double> logarithms, values;
     const double last = std::log(hoursPerMonth * static_cast<double>(months));
-    for (double logarithm = 0; logarithm < last + spacing; logarithm += spacing) {
-        logarithms.push_back(logarithm);
-        values.push_back(cylinder.overLine(fourierPerHour * std::exp(logarithm)));
+    const auto points = static_cast<std::size_t>(std::ceil(last / spacing)) + 1;
+    std::vector<double> logarithms(points), values(points);
+    for (std::size_t i = 0; i < points; ++i) {
+        logarithms[i] = spacing * static_cast<double>(i);
+        values[i] = cylinder.overLine(fourierPerHour * std::exp(logarithms[i]));
     }
     spline_ = CubicSpline(std::move(logarithms), std::move(values));
     monthly_.reserve(months);
