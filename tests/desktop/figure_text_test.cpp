@@ -14,7 +14,7 @@ namespace {
 
 QString grouped(const char* text) {
     // A point stands for the thin space, which no editor shows.
-    return groupedThousands(QString::fromUtf8(text)).replace(QChar(0x2009), QChar(0xB7));
+    return groupedThousands(QString::fromUtf8(text)).replace(QChar(0x202F), QChar(0xB7));
 }
 
 TEST(GroupedThousands, PartTheWholePartOfEachNumberByThrees) {

@@ -9,7 +9,7 @@
 namespace varnholt {
 namespace {
 
-constexpr QChar thinSpace(0x2009);
+constexpr QChar thinSpace(0x202F);  // at which no line breaks
 constexpr double thinSpaceInEms = 0.17;
 
 bool isDigit(QChar sign) { return sign >= u'0' && sign <= u'9'; }
