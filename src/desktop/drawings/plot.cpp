@@ -109,6 +109,13 @@ void drawBelow(const Canvas& canvas, const Plot& plot, double x, const QString& 
         Qt::AlignCenter, word);
 }
 
+void drawUpright(const Canvas& canvas, const Plot& plot, double x, const QColor& colour,
+                 Qt::PenStyle style) {
+    canvas.painter.setPen(QPen(colour, thinLine, style));
+    canvas.painter.drawLine(QPointF(canvas.crisp(x), plot.area.top()),
+                            QPointF(canvas.crisp(x), plot.area.bottom()));
+}
+
 void drawEmpty(const Canvas& canvas, const QString& sentence) {
     canvas.painter.setFont(canvas.words);
     canvas.painter.setPen(canvas.look.muted);

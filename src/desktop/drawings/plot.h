@@ -45,6 +45,10 @@ Plot drawPlot(const Canvas& canvas, const PlotScale& scale, double head);
 void drawBelow(const Canvas& canvas, const Plot& plot, double x, const QString& word,
                bool strong = false);
 
+/// A thin line from the top of the plot to its foot.
+void drawUpright(const Canvas& canvas, const Plot& plot, double x, const QColor& colour,
+                 Qt::PenStyle style);
+
 /// A sentence in the middle of a picture that has nothing to show.
 void drawEmpty(const Canvas& canvas, const QString& sentence);
 
