@@ -20,11 +20,11 @@ using namespace modCalculations;
 
 const ExtraPowerTab::Motor ExtraPowerTab::motors[3] = {
     {circulationPumpInput, circulationPumpShaft, 0, "EKWCirculationFrame", Text::pumpShaftPower,
-     Text::circulationMotorEfficiency},
+     Text::circulationMotorEfficiency, 0},
     {towerFanInput, towerFanShaft, 1, "EKWTowerFanFrame", Text::fanShaftPower,
-     Text::towerMotorEfficiency},
+     Text::towerMotorEfficiency, Text::coolingTowerFan},
     {towerPumpInput, towerPumpShaft, 2, "EKWTowerPumpFrame", Text::pumpShaftPower,
-     Text::towerMotorEfficiency},
+     Text::towerMotorEfficiency, Text::coolingTowerPump},
 };
 
 ExtraPowerTab::ExtraPowerTab(GroundDesign& design, ExtraPowerValues& power, Motors which)
@@ -54,7 +54,8 @@ void ExtraPowerTab::addMotor(const Motor& motor) {
                          .caption = {motor.powerCaption, motor.powerCaption},
                          .unitLabel = powerUnits(motor.shaft),
                          .unit = {Text::powerUnitsEnglish, Text::powerUnitsMetric},
-                         .help = "borehole#power"},
+                         .help = "borehole#power",
+                         .distinction = motor.distinction},
               .changed = follow});
     addField({.control = elementName("EKWPumpEfficiencyText", motor.efficiency),
               .stored = &power_.motorEfficiency[motor.efficiency],
@@ -66,7 +67,8 @@ void ExtraPowerTab::addMotor(const Motor& motor) {
                          .caption = {motor.efficiencyCaption, motor.efficiencyCaption},
                          .unitLabel = elementName("EKWPumpEfficiencyUnitLabel", motor.efficiency),
                          .unit = {Text::motorEfficiencyUnits, Text::motorEfficiencyUnits},
-                         .help = "borehole#power"},
+                         .help = "borehole#power",
+                         .distinction = motor.distinction},
               .whileEmpty = 100,
               .changed = follow});
 
@@ -77,6 +79,9 @@ void ExtraPowerTab::addMotor(const Motor& motor) {
         .unitsIn(powerUnits(motor.input))
         .helpedBy("borehole#power")
         .setLocked(true);
+    if (motor.distinction != 0)
+        control(input).setAccessibleName(text(Text::requiredInputPower) + ", " +
+                                         text(motor.distinction));
     addUnitLabel(powerUnits(motor.input), frame, {Text::powerUnitsMetric, Text::powerUnitsMetric});
 }
 

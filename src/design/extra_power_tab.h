@@ -24,6 +24,7 @@ class ExtraPowerTab : public DesignTab {
         std::size_t input, shaft, efficiency;  ///< elements of the two arrays
         const char* frame;
         int powerCaption, efficiencyCaption;
+        int distinction;  ///< what tells its fields from those of the others, 0 for nothing
     };
     static const Motor motors[3];
 

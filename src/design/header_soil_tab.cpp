@@ -79,7 +79,9 @@ void HeaderSoilTab::showCorrected() {
         control(elementName("SOCorrectedTempText", mode))
             .setText(formatNumber(
                 quantities::temperature.shown(soil_.groundTempAtDepth[mode], design().units()),
-                "###0.0"));
+                "###0.0"))
+            .setAccessibleName(control("SOCorrectedTempLabel").caption() + ", " +
+                               text(mode == cooling ? Text::chartCooling : Text::chartHeating));
 }
 
 }  // namespace varnholt

@@ -81,7 +81,7 @@ TEST(PresentWorth, IsThatOfARowOfPowers) {
     EXPECT_NEAR(lifeCost(1000, 100, flat), 1000 + 100 / 1.03, 1e-12);
 }
 
-TEST(Tower, IsThatOfASliderRun) {
+TEST(TowerOfADesign, IsThatOfASliderRun) {
     for (const std::size_t percent : {10u, 44u, 99u}) {
         const BoreholeInputs design = withTower(officeInputs(), percent);
         const auto run = runBorehole(design);
