@@ -55,7 +55,7 @@ TEST_F(UndoInTrenches, OfEachFieldIsOneStepAVisit) {
         {"PAInTrenchConfigurationText(2)", "18", "[5034] [X]"},
         {"PATimeText", "15", "[2510]"},
         {"EKWPumpPowerText(2)", "15", "[2604]"},
-        {"EKWPumpPowerText(4)", "1", "[2608]"},
+        {"EKWPumpPowerText(4)", "1", "[2608], [2623]"},
         {"INProjectNameText", "School", "[2701]"},
     };
     calculate();

@@ -50,7 +50,7 @@ TEST_F(UndoInADesign, OfEachFieldIsOneStepAVisit) {
         {"EKWPumpPowerText(1)", "12", "[2605]"},
         {"EKWPumpEfficiencyText(0)", "80", "[2606]"},
         {"EKWPumpPowerText(2)", "15", "[2604]"},
-        {"EKWPumpPowerText(4)", "1", "[2608]"},
+        {"EKWPumpPowerText(4)", "1", "[2608], [2623]"},
         {"INProjectNameText", "School", "[2701]"},
         {"INCommentsRichTextBox", "School", "[2714]"},
     };
