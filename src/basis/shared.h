@@ -8,7 +8,8 @@
 namespace varnholt {
 
 /// A value that its copies share until one of them is written to, so that copying it costs the
-/// same whatever its size. A copy may be read by another thread than the one that writes to its own.
+/// same whatever its size. A copy may be read by another thread than the one that writes to its
+/// own.
 template <class T>
 class Shared {
  public:

@@ -27,7 +27,8 @@ class Language : public testing::Test {
         return application->main();
     }
 
-    /// A caption is a figure or the dash that stands for none, or it comes from the language, a file name's proposal too.
+    /// A caption is a figure or the dash that stands for none, or it comes from the language, a
+    /// file name's proposal too.
     static void expectLiterals(const Form& form) {
         EXPECT_NE(form.caption().find(noLocalData), std::string::npos) << form.formName();
         for (const auto& control : form.controls()) {

@@ -41,8 +41,8 @@ TEST_F(Tour, ItsTableHasACaptionAndFiguresInEveryRow) {
         EXPECT_TRUE(behindCaption >> figure) << line;
         ++rows;
     }
-    // Twelve results, two of the second opinion, five figures of the tower, three results twice, fourteen of the pond, ten of
-    // the house and three of the offices.
+    // Twelve results, two of the second opinion, five figures of the tower, three results twice,
+    // fourteen of the pond, ten of the house and three of the offices.
     EXPECT_EQ(rows, 52);
 }
 

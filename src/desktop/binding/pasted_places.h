@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/form.h"
 #include "basis/pasted_block.h"
+#include "forms/form.h"
 
 namespace varnholt {
 

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "basis/mode.h"
-#include "loads/import/monthly_loads.h"
 #include "basis/table_text.h"
+#include "loads/import/monthly_loads.h"
 
 namespace varnholt {
 

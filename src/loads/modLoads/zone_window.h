@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "basis/pasted_block.h"
 #include "frame/file_damage.h"
 #include "frame/open_file.h"
 #include "loads/ModLoadsIO.h"
-#include "basis/pasted_block.h"
 #include "loads/loads_window.h"
 #include "loads/modLoads/loads_pictures.h"
 
