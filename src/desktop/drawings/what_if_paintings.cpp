@@ -203,9 +203,8 @@ std::vector<QRectF> paintTornado(const Canvas& canvas, const TornadoPicture& pic
     for (int i = 0; i <= figures; ++i) {
         const double value = frame.across.least + i * frame.across.step;
         drawUpright(canvas, plot, frame.placeOf(value), look.hairline, Qt::SolidLine);
-        const QString unit = i == figures ? u' ' + qt(picture.unit) : QString();
-        drawBelow(canvas, plot, frame.placeOf(value), whole(value) + unit);
     }
+    drawAcross(canvas, plot, frame.across, qt(picture.unit));
     std::vector<QRectF> rows;
     double top = frame.bars.top();
     bool levers = false;
