@@ -5,25 +5,10 @@
 
 #include "design/modCalculations/ground_load.h"
 #include "expect_error.h"
+#include "round_terms.h"
 
 namespace varnholt::modCalculations {
 namespace {
-
-/// Round figures: 100 MBtu/hr either way, pumps of 10 kW.
-LengthTerms roundTerms() {
-    LengthTerms terms;
-    terms.annualGroundLoad = -2;
-    terms.peakLoad = {100, 100};
-    terms.peakDemand = {10, 10};
-    terms.partLoadFactor = {0.5, 0.25};
-    terms.groundResistance = {0.3, 0.2, 0.1};
-    terms.boreResistance = 0.2;
-    terms.shortCircuitFactor = 1.04;
-    terms.groundTemp = {60, 60};
-    terms.inletTemp = {85, 50};
-    terms.outletTemp = {95, 44};
-    return terms;
-}
 
 TEST(PeakGroundLoad, RejectsThePumpsPowerInCoolingAndSavesItInHeating) {
     EXPECT_NEAR(peakGroundLoad(cooling, 100, 10), -134.12, 1e-12);

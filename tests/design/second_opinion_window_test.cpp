@@ -43,7 +43,7 @@ TEST_F(SecondOpinionWindow, IsCalledAfterTheFileOrTheProject) {
     EXPECT_EQ(opinion->caption(), "Second Opinion - " + design->caption());
     design->type("INProjectNameText", "School");
     EXPECT_EQ(opinion->caption(), "Second Opinion - School");
-    design->setFile("/work/school.vht");
+    design->setFile("projects/school.vht");
     design->type("INProjectNameText", "Another");
     EXPECT_EQ(opinion->caption(), "Second Opinion - school.vht");
 }

@@ -4,6 +4,7 @@
 
 #include "design/frmSecondOpinion.h"
 #include "desktop/drawings/opinion_pictures.h"
+#include "desktop/views/figure_labels.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/views.h"
 #include "desktop/widgets/text_label.h"
@@ -13,21 +14,6 @@ namespace {
 
 const frmSecondOpinion* opinionOf(const Binder& bind) {
     return static_cast<const frmSecondOpinion*>(bind.form());
-}
-
-/// A figure that stands at the right of its column.
-QWidget* figureLabel(Binder& bind, const std::string& name) {
-    auto* label = static_cast<QLabel*>(bind.widget(name));
-    label->setFont(figureFont(label->font()));
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    return label;
-}
-
-QWidget* headLabel(Binder& bind, const std::string& name) {
-    auto* label = static_cast<QLabel*>(bind.widget(name));
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    mute(label);
-    return label;
 }
 
 QWidget* sizes(Binder& bind) {

@@ -5,6 +5,7 @@
 
 #include "design/frmWhatIf.h"
 #include "desktop/drawings/what_if_paintings.h"
+#include "desktop/views/figure_labels.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/views.h"
 #include "desktop/widgets/text_label.h"
@@ -35,20 +36,6 @@ std::function<void(std::size_t)> pointing(Binder& bind, const char* image,
             (static_cast<frmWhatIf&>(form).*pointAt)(place);
         });
     };
-}
-
-QWidget* figureLabel(Binder& bind, const std::string& name) {
-    auto* label = static_cast<QLabel*>(bind.widget(name));
-    label->setFont(figureFont(label->font()));
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    return label;
-}
-
-QWidget* headLabel(Binder& bind, const std::string& name) {
-    auto* label = static_cast<QLabel*>(bind.widget(name));
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    mute(label);
-    return label;
 }
 
 QWidget* mutedText(Binder& bind, const std::string& name) {
