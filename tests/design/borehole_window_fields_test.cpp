@@ -7,7 +7,7 @@ namespace varnholt {
 namespace {
 
 /// A field as a designer meets it: what a new design shows, and what happens beyond its limits.
-struct FieldCase {
+struct FieldLimits {
     const char* field;
     const char* value;
     const char* english;     ///< text of the built-in value
@@ -21,7 +21,7 @@ struct FieldCase {
 // 39.37 mm, 5 in 127 mm, 0.85/0.5777892 = 1.4711, 0.075*0.5777892 = 0.0433, 0.196*0.5777892 =
 // 0.1132.
 // clang-format off
-const FieldCase cases[] = {
+const FieldLimits fieldLimits[] = {
     {"FLInletTempText(0)",         "inletTemp(0)",       "85.0",  "29.4",  0, 212,   85},
     {"FLInletTempText(1)",         "inletTemp(1)",       "50.0",  "10.0",  0, 212,   55},
     {"FLFlowRateText",             "flowRate",           "3.0",   "11.4",  0, 212,   3},
@@ -55,7 +55,7 @@ const FieldCase cases[] = {
 class BoreholeFields : public BoreholeWindow {
  protected:
     /// The text of a stored value in English units; shaft power is typed in horsepower.
-    static std::string typedFor(const FieldCase& c, double stored) {
+    static std::string typedFor(const FieldLimits& c, double stored) {
         const std::string field = c.field;
         const bool shaft = field == "EKWPumpPowerText(1)" || field == "EKWPumpPowerText(4)" ||
                            field == "EKWPumpPowerText(6)";
@@ -64,13 +64,13 @@ class BoreholeFields : public BoreholeWindow {
 };
 
 TEST_F(BoreholeFields, ShowTheBuiltInValuesInBothUnitSystems) {
-    for (const FieldCase& c : cases) EXPECT_EQ(textOf(c.field), c.english) << c.field;
+    for (const FieldLimits& c : fieldLimits) EXPECT_EQ(textOf(c.field), c.english) << c.field;
     inMetric();
-    for (const FieldCase& c : cases) EXPECT_EQ(textOf(c.field), c.metric) << c.field;
+    for (const FieldLimits& c : fieldLimits) EXPECT_EQ(textOf(c.field), c.metric) << c.field;
 }
 
 TEST_F(BoreholeFields, FallBackBelowTheirLowestValue) {
-    for (const FieldCase& c : cases) {
+    for (const FieldLimits& c : fieldLimits) {
         SCOPED_TRACE(c.field);
         type(c.field, typedFor(c, c.lowest - 0.6));
         EXPECT_DOUBLE_EQ(value(c.value), c.fallback);
@@ -79,7 +79,7 @@ TEST_F(BoreholeFields, FallBackBelowTheirLowestValue) {
 }
 
 TEST_F(BoreholeFields, FallBackAboveTheirHighestValue) {
-    for (const FieldCase& c : cases) {
+    for (const FieldLimits& c : fieldLimits) {
         SCOPED_TRACE(c.field);
         if (c.highest == 0) continue;
         type(c.field, typedFor(c, c.highest + 0.6));
@@ -88,7 +88,7 @@ TEST_F(BoreholeFields, FallBackAboveTheirHighestValue) {
 }
 
 TEST_F(BoreholeFields, AcceptTheirLimits) {
-    for (const FieldCase& c : cases) {
+    for (const FieldLimits& c : fieldLimits) {
         SCOPED_TRACE(c.field);
         type(c.field, typedFor(c, c.lowest));
         EXPECT_DOUBLE_EQ(value(c.value), c.lowest);
@@ -99,7 +99,7 @@ TEST_F(BoreholeFields, AcceptTheirLimits) {
 }
 
 TEST_F(BoreholeFields, LeftEmptyReturnToTheirFallback) {
-    for (const FieldCase& c : cases) {
+    for (const FieldLimits& c : fieldLimits) {
         SCOPED_TRACE(c.field);
         type(c.field, "");
         // A motor's efficiency falls back at once, since its input power is shown with it.
@@ -112,7 +112,7 @@ TEST_F(BoreholeFields, LeftEmptyReturnToTheirFallback) {
 }
 
 TEST_F(BoreholeFields, MarkTheResultsStale) {
-    for (const FieldCase& c : cases) {
+    for (const FieldLimits& c : fieldLimits) {
         design->calculationDone();
         type(c.field, "1");
         EXPECT_EQ(design->control("CACalculateCommand").backcolor(), 14281207) << c.field;

@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 
 #include "expect_error.h"
+#include "sample_materials.h"
 
 namespace varnholt::modCalculations {
 namespace {
 
-constexpr Soil soil{1.3, 0.75};
 constexpr double bore = 5.0 / 12;
 
 TEST(PulseTimes, AreTheYearsTheMonthAndTheBlock) {
@@ -54,7 +54,7 @@ TEST(GFactor, IsNeverNegative) {
 TEST(GroundResistance, AgreesWithAHandCalculation) {
     // Fo = 4 * 0.75 t / (5/12)^2 = 17.28 t: 63593.3, 521.28, 2.88
     // G = 0.936881, 0.564983, 0.191532
-    const GroundResistances r = calcGroundResistances(calcPulseTimes({1, 0}, 10), bore, soil);
+    const GroundResistances r = calcGroundResistances(calcPulseTimes({1, 0}, 10), bore, sampleSoil);
     EXPECT_NEAR(r.annual, 0.286075, 1e-6);     // 0.371898 / 1.3
     EXPECT_NEAR(r.monthly, 0.287270, 1e-6);    // 0.373451 / 1.3
     EXPECT_NEAR(r.shortTerm, 0.147332, 1e-6);  // 0.191532 / 1.3

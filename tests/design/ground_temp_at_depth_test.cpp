@@ -13,7 +13,7 @@ namespace {
 // 30 July and 30 January.
 constexpr GroundSwing swing{54, 20, {212, 30}};
 // 21 July and 19 January.
-constexpr GroundSwing year{62, 20, {202, 19}};
+constexpr GroundSwing warmerSwing{62, 20, {202, 19}};
 
 TEST(GroundTempAtDepth, AgreesWithAHandCalculation) {
     // damping and lag: 5 sqrt(3.141592653/(365*0.96)) = 0.473438; exp(-0.473438) = 0.622857
@@ -60,7 +60,7 @@ TEST(GroundTempAtDepth, AgreesWithASecondRouteAtEveryDepth) {
               {100, {61.999872045, 62.000124280}}};
     for (const auto& [depth, expected] : cases) {
         SCOPED_TRACE(depth);
-        const ByMode<double> temperature = groundTempAtDepth(depth, 0.75, year);
+        const ByMode<double> temperature = groundTempAtDepth(depth, 0.75, warmerSwing);
         for (Mode m : modes) EXPECT_NEAR(temperature[m], expected[m], 1e-8);
     }
 }
@@ -76,17 +76,17 @@ TEST(GroundTempAtDepth, AtTheSurfaceFollowsTheDaysInCooling) {
 TEST(GroundTempAtDepth, TendsToTheMeanWithDepth) {
     double off = 20;
     for (double depth : {5.0, 20.0, 50.0, 100.0}) {
-        const double now = std::abs(groundTempAtDepth(depth, 0.75, year)[heating] - 62);
+        const double now = std::abs(groundTempAtDepth(depth, 0.75, warmerSwing)[heating] - 62);
         EXPECT_LT(now, off);
         off = now;
     }
     EXPECT_LT(off, 2e-4);
-    EXPECT_EQ(groundTempAtDepth(1e6, 0.75, year), (ByMode<double>{62, 62}));
+    EXPECT_EQ(groundTempAtDepth(1e6, 0.75, warmerSwing), (ByMode<double>{62, 62}));
 }
 
 TEST(GroundTempAtDepth, OfADayThatIsNotEnteredIsTheMean) {
-    const ByMode<double> known = groundTempAtDepth(6, 0.75, year);
-    EXPECT_EQ(groundTempOfKnownDays(6, 0.75, year), known);
+    const ByMode<double> known = groundTempAtDepth(6, 0.75, warmerSwing);
+    EXPECT_EQ(groundTempOfKnownDays(6, 0.75, warmerSwing), known);
     EXPECT_EQ(groundTempOfKnownDays(6, 0.75, {62, 20, {0, 19}}), (ByMode<double>{62, known[1]}));
     // A coldest day of 0 counts as day 0 for cooling all the same: 202 days in place of 183.
     const ByMode<double> noWinter = groundTempOfKnownDays(6, 0.75, {62, 20, {202, 0}});

@@ -3,17 +3,18 @@
 
 #include "design/modCalculations/trench_resistance.h"
 #include "expect_error.h"
+#include "sample_materials.h"
 
 namespace varnholt::modCalculations {
 namespace {
 
-constexpr Soil soil{1.3, 0.75};
-constexpr double outside = 1.9;  // in
-const PulseTimes evening = calcPulseTimes({1, 3}, 10);
-const PulseTimes day = calcPulseTimes({1, 2}, 10);
+constexpr double pipeOutside = 1.9;  // in
+const PulseTimes eveningPulses = calcPulseTimes({1, 3}, 10);
+const PulseTimes dayPulses = calcPulseTimes({1, 2}, 10);
 
-GroundResistances resistanceOf(const TrenchLayout& layout, const PulseTimes& pulses = evening) {
-    return averageGroundResistance({buildPipePositions(layout), outside, pulses, soil});
+GroundResistances resistanceOf(const TrenchLayout& layout,
+                               const PulseTimes& pulses = eveningPulses) {
+    return averageGroundResistance({buildPipePositions(layout), pipeOutside, pulses, sampleSoil});
 }
 
 TEST(TrenchResistance, OfOnePipeAgreesWithAHandCalculation) {
@@ -68,8 +69,8 @@ TEST(TrenchResistance, OfAStaggeredTrenchIsLower) {
 
 TEST(TrenchResistance, OfTheFourHourPulseDiffersInEveryPulse) {
     const TrenchLayout layout{twoColumns, 6, false, 6, 9, 15, 36};
-    const GroundResistances four = resistanceOf(layout, day);
-    const GroundResistances twelve = resistanceOf(layout, evening);
+    const GroundResistances four = resistanceOf(layout, dayPulses);
+    const GroundResistances twelve = resistanceOf(layout, eveningPulses);
     EXPECT_NE(four.annual, twelve.annual);
     EXPECT_GT(four.monthly, twelve.monthly);
     EXPECT_LT(four.shortTerm, twelve.shortTerm);
@@ -78,13 +79,15 @@ TEST(TrenchResistance, OfTheFourHourPulseDiffersInEveryPulse) {
 TEST(TrenchResistance, WithoutDiffusivityIsThatOfTheShortPulseAlone) {
     // Fo 0: G = 0.13 everywhere, and the image takes away what the pipe adds.
     const GroundResistances r =
-        averageGroundResistance({{{0, 0}, {0, 12}}, outside, day, {1.3, 0}});
+        averageGroundResistance({{{0, 0}, {0, 12}}, pipeOutside, dayPulses, {1.3, 0}});
     EXPECT_EQ(r, (GroundResistances{0, 0, 0}));
 }
 
 TEST(TrenchResistance, WithoutConductivityOrPipesIsADivisionByZero) {
-    expectError(11, [] { averageGroundResistance({{{0, 0}, {0, 12}}, outside, day, {0, 0.75}}); });
-    expectError(11, [] { averageGroundResistance({{}, outside, day, soil}); });
+    expectError(11, [] {
+        averageGroundResistance({{{0, 0}, {0, 12}}, pipeOutside, dayPulses, {0, 0.75}});
+    });
+    expectError(11, [] { averageGroundResistance({{}, pipeOutside, dayPulses, sampleSoil}); });
 }
 
 }  // namespace

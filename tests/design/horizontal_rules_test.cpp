@@ -11,7 +11,7 @@ namespace {
 using namespace modCalculations;
 
 /// A field as the window holds it.
-struct Field {
+struct HeldField {
     TrenchValues trench;
     HorizontalArrangementValues pipes;
 
@@ -26,8 +26,8 @@ struct Field {
 };
 
 /// An arrangement with some pipes, wide and deep enough for any of them.
-Field fieldOf(std::int16_t arrangement, double pipes, bool offset = false) {
-    Field field;
+HeldField fieldOf(std::int16_t arrangement, double pipes, bool offset = false) {
+    HeldField field;
     field.select(arrangement);
     field.take(pipes);
     field.pipes.offsetRows = offset ? 1 : 0;
@@ -37,7 +37,7 @@ Field fieldOf(std::int16_t arrangement, double pipes, bool offset = false) {
 }
 
 TEST(HorizontalValues, OfANewDesignAreTheBuiltInOnes) {
-    const Field field;
+    const HeldField field;
     EXPECT_EQ(field.trench.trenchCount, 1);
     EXPECT_EQ(field.trench.trenchGeometry, (std::array<double, 3>{20, 6, 8}));
     EXPECT_EQ(field.pipes.trenchConfiguration, singleColumn);
@@ -50,19 +50,19 @@ TEST(HorizontalValues, OfANewDesignAreTheBuiltInOnes) {
 
 TEST(ChoosingAnArrangement, BeginsWithOneRowOfPipes) {
     for (std::int16_t arrangement : {twoColumns, threeColumns, lyingCoil, standingCoil}) {
-        Field field = fieldOf(singleColumn, 7);
+        HeldField field = fieldOf(singleColumn, 7);
         field.select(arrangement);
         EXPECT_EQ(field.pipes.pipesPerTrench, columnsOf(arrangement));
         EXPECT_EQ(field.pipes.trenchConfiguration, arrangement);
     }
-    Field field = fieldOf(threeColumns, 9);
+    HeldField field = fieldOf(threeColumns, 9);
     field.select(singleColumn);
     EXPECT_EQ(field.pipes.pipesPerTrench, 1);
 }
 
 TEST(ChoosingAnArrangement, ThatIsChosenAlreadyKeepsItsPipesAndItsOffset) {
     for (std::int16_t arrangement : {singleColumn, twoColumns, threeColumns}) {
-        Field field = fieldOf(arrangement, 6, true);
+        HeldField field = fieldOf(arrangement, 6, true);
         field.select(arrangement);
         EXPECT_EQ(field.pipes.pipesPerTrench, 6);
         EXPECT_EQ(field.pipes.offsetRows, 1);
@@ -71,21 +71,21 @@ TEST(ChoosingAnArrangement, ThatIsChosenAlreadyKeepsItsPipesAndItsOffset) {
 
 TEST(ChoosingAnArrangement, TakesTheOffsetAwayWithTheRows) {
     for (std::int16_t arrangement : {singleColumn, threeColumns, lyingCoil, standingCoil}) {
-        Field field = fieldOf(twoColumns, 6, true);
+        HeldField field = fieldOf(twoColumns, 6, true);
         field.select(arrangement);
         EXPECT_EQ(field.pipes.offsetRows, 0);
     }
 }
 
 TEST(ChoosingTwoColumns, SetsTheWidthToTheirStep) {
-    Field field = fieldOf(singleColumn, 1);
+    HeldField field = fieldOf(singleColumn, 1);
     field.columnStep() = 17;
     field.select(twoColumns);
     EXPECT_EQ(field.width(), 17);
 }
 
 TEST(ChoosingTwoColumns, SetsTheWidthAlsoWhenTheyWereChosenAlready) {
-    Field field = fieldOf(twoColumns, 6);
+    HeldField field = fieldOf(twoColumns, 6);
     field.columnStep() = 17;
     field.select(twoColumns);
     EXPECT_EQ(field.width(), 17);
@@ -94,7 +94,7 @@ TEST(ChoosingTwoColumns, SetsTheWidthAlsoWhenTheyWereChosenAlready) {
 
 TEST(ChoosingOneOrThreeColumns, KeepsTheWidth) {
     for (std::int16_t arrangement : {singleColumn, threeColumns}) {
-        Field field = fieldOf(twoColumns, 4);
+        HeldField field = fieldOf(twoColumns, 4);
         field.select(arrangement);
         EXPECT_EQ(field.width(), 100);
     }
@@ -102,7 +102,7 @@ TEST(ChoosingOneOrThreeColumns, KeepsTheWidth) {
 
 TEST(ChoosingALyingCoil, MakesTheTrenchEightInchesWideHoweverWideItWas) {
     for (double width : {2.0, 8.0, 100.0}) {
-        Field field = fieldOf(singleColumn, 4, true);
+        HeldField field = fieldOf(singleColumn, 4, true);
         field.width() = width;
         field.select(lyingCoil);
         EXPECT_EQ(field.width(), 8);
@@ -113,7 +113,7 @@ TEST(ChoosingALyingCoil, MakesTheTrenchEightInchesWideHoweverWideItWas) {
 
 TEST(ChoosingACoil, ThatIsChosenAlreadyLeavesASinglePipeWithoutOffset) {
     for (std::int16_t arrangement : {lyingCoil, standingCoil}) {
-        Field field;
+        HeldField field;
         field.pipes.trenchConfiguration = arrangement;
         field.pipes.pipesPerTrench = 5;  // as a file may hold
         field.pipes.offsetRows = 1;
@@ -124,7 +124,7 @@ TEST(ChoosingACoil, ThatIsChosenAlreadyLeavesASinglePipeWithoutOffset) {
 }
 
 TEST(ChoosingAStandingCoil, MakesTheTrenchAsWideAsTheCoil) {
-    Field field = fieldOf(singleColumn, 4);
+    HeldField field = fieldOf(singleColumn, 4);
     field.pipes.coilGeometry[1] = 30;
     field.select(standingCoil);
     EXPECT_EQ(field.width(), 30);
@@ -135,8 +135,8 @@ TEST(ChoosingAStandingCoil, MakesTheTrenchAsWideAsTheCoil) {
 
 TEST(ChoosingNoArrangement, IsASubscriptOutOfRangeAndChangesNothing) {
     for (std::int16_t arrangement : {std::int16_t{-1}, std::int16_t{5}}) {
-        Field field = fieldOf(twoColumns, 6, true);
-        const Field before = field;
+        HeldField field = fieldOf(twoColumns, 6, true);
+        const HeldField before = field;
         expectError(9, [&] { field.select(arrangement); });
         EXPECT_EQ(field.pipes, before.pipes);
         EXPECT_EQ(field.trench, before.trench);
@@ -144,7 +144,7 @@ TEST(ChoosingNoArrangement, IsASubscriptOutOfRangeAndChangesNothing) {
 }
 
 TEST(NumberOfPipes, IsRoundedAndEndsTheOffsetAtOneRow) {
-    Field field = fieldOf(twoColumns, 6, true);
+    HeldField field = fieldOf(twoColumns, 6, true);
     field.take(3.6);
     EXPECT_EQ(field.pipes.pipesPerTrench, 4);
     EXPECT_EQ(field.pipes.offsetRows, 1);
@@ -172,7 +172,7 @@ TEST(TrenchDepth, OfLessThanTheStackBecomesExactlyTheStacksHeight) {
         double stack;
     } cases[]{{singleColumn, 5}, {twoColumns, 2}, {threeColumns, 1}};
     for (const auto& [arrangement, stack] : cases) {
-        Field field = fieldOf(arrangement, 6);
+        HeldField field = fieldOf(arrangement, 6);
         field.depth() = stack - 0.01;
         EXPECT_TRUE(field.deepen());
         EXPECT_EQ(field.depth(), stack);
@@ -186,7 +186,7 @@ TEST(TrenchDepth, OnceCorrectedIsNotCorrectedAgain) {
     // whatever the last digits of a step and a count of rows do
     for (int pipes = 1; pipes <= 24; ++pipes)
         for (double step = 0.1; step < 20; step += 0.7) {
-            Field field = fieldOf(singleColumn, pipes);
+            HeldField field = fieldOf(singleColumn, pipes);
             field.rowStep() = step;
             field.depth() = 0;
             field.deepen();
@@ -196,7 +196,7 @@ TEST(TrenchDepth, OnceCorrectedIsNotCorrectedAgain) {
 
 TEST(TrenchDepth, OfACoilHasNoLimit) {
     for (std::int16_t arrangement : {lyingCoil, standingCoil}) {
-        Field field = fieldOf(arrangement, 1);
+        HeldField field = fieldOf(arrangement, 1);
         field.pipes.pipesPerTrench = 5;  // as a file may hold
         field.depth() = 0.1;
         EXPECT_FALSE(field.deepen());
@@ -218,7 +218,7 @@ TEST(TrenchWidth, OfLessThanThePipesBecomesExactlyTheirs) {
     };
     for (const auto& [arrangement, pipes, offset, least] : cases) {
         SCOPED_TRACE(testing::Message() << arrangement << ", " << pipes << ", " << offset);
-        Field field = fieldOf(arrangement, pipes, offset);
+        HeldField field = fieldOf(arrangement, pipes, offset);
         field.columnStep() = 10;
         field.width() = least - 0.01;
         EXPECT_TRUE(field.widen());
@@ -228,7 +228,7 @@ TEST(TrenchWidth, OfLessThanThePipesBecomesExactlyTheirs) {
 }
 
 TEST(TrenchWidth, OfASingleColumnWithoutOffsetHasNoLimit) {
-    Field field = fieldOf(singleColumn, 6);
+    HeldField field = fieldOf(singleColumn, 6);
     field.width() = 0;
     EXPECT_FALSE(field.widen());
     field = fieldOf(singleColumn, 1, true);
@@ -237,13 +237,13 @@ TEST(TrenchWidth, OfASingleColumnWithoutOffsetHasNoLimit) {
 }
 
 TEST(TrenchWidth, OfALyingCoilHasNoLimit) {
-    Field field = fieldOf(lyingCoil, 1);
+    HeldField field = fieldOf(lyingCoil, 1);
     field.width() = 8;
     EXPECT_FALSE(field.widen());
 }
 
 TEST(TrenchWidth, IsOneAndAHalfStepsOnceTwoColumnsAreOffset) {
-    Field field = fieldOf(singleColumn, 1);
+    HeldField field = fieldOf(singleColumn, 1);
     field.select(twoColumns);
     field.take(4);
     EXPECT_EQ(field.width(), field.columnStep());
@@ -255,7 +255,7 @@ TEST(TrenchWidth, IsOneAndAHalfStepsOnceTwoColumnsAreOffset) {
 
 TEST(Limits, NeverCorrectThePipes) {
     for (std::int16_t arrangement : {singleColumn, twoColumns, threeColumns, standingCoil}) {
-        Field field = fieldOf(arrangement, arrangement == standingCoil ? 1 : 24, false);
+        HeldField field = fieldOf(arrangement, arrangement == standingCoil ? 1 : 24, false);
         const HorizontalArrangementValues before = field.pipes;
         field.depth() = field.width() = 0;
         field.deepen();

@@ -22,7 +22,7 @@ namespace {
 using namespace modCalculations;
 
 /// Fields are set by what differs from a new design.
-struct Field {
+struct RunField {
     std::int16_t arrangement = singleColumn;
     double pipes = 1;
     bool offset = false;
@@ -32,7 +32,7 @@ struct Field {
     double pitch = 10;                     ///< in
 };
 
-HorizontalInputs inputsOf(const Field& field) {
+HorizontalInputs inputsOf(const RunField& field) {
     HorizontalInputs inputs = sampleTrenches();
     inputs.arrangement.trenchConfiguration = field.arrangement;
     inputs.arrangement.pipesPerTrench = field.pipes;
@@ -43,7 +43,7 @@ HorizontalInputs inputsOf(const Field& field) {
     return inputs;
 }
 
-struct Expected {
+struct ExpectedRun {
     GroundResistances resistance;
     ByMode<double> ground;   ///< degF
     ByMode<double> penalty;  ///< degF
@@ -51,14 +51,14 @@ struct Expected {
     ByMode<double> length, pipe;  ///< ft
 };
 
-struct Case {
+struct RunCase {
     const char* name;
-    Field field;
-    Expected expected;
+    RunField field;
+    ExpectedRun expected;
 };
 
 // clang-format off
-const Case cases[]{
+const RunCase runCases[]{
     {"OnePipe", {},
      {{0.058408893, 0.233908236, 0.305693747}, {70.4720389, 53.5819063}, {0, 0}, 1,
       {2939.990233, 5006.983753}, {2939.990233, 5006.983753}}},
@@ -92,12 +92,12 @@ const Case cases[]{
 };
 // clang-format on
 
-class HorizontalRunOf : public testing::TestWithParam<Case> {};
+class HorizontalRunOf : public testing::TestWithParam<RunCase> {};
 
 TEST_P(HorizontalRunOf, AgreesWithASecondRoute) {
     const auto results = runHorizontal(inputsOf(GetParam().field));
     ASSERT_TRUE(results);
-    const Expected& expected = GetParam().expected;
+    const ExpectedRun& expected = GetParam().expected;
     EXPECT_NEAR(results->groundResistance.annual, expected.resistance.annual, 1e-9);
     EXPECT_NEAR(results->groundResistance.monthly, expected.resistance.monthly, 1e-9);
     EXPECT_NEAR(results->groundResistance.shortTerm, expected.resistance.shortTerm, 1e-9);
@@ -112,7 +112,7 @@ TEST_P(HorizontalRunOf, AgreesWithASecondRoute) {
     EXPECT_EQ(results->governingMode, heating);
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, HorizontalRunOf, testing::ValuesIn(cases),
+INSTANTIATE_TEST_SUITE_P(Every, HorizontalRunOf, testing::ValuesIn(runCases),
                          [](const auto& one) { return std::string(one.param.name); });
 
 void clearLoads(HorizontalInputs& inputs, Mode mode) {
@@ -122,7 +122,7 @@ void clearLoads(HorizontalInputs& inputs, Mode mode) {
 
 TEST(HorizontalRun, SharesThePipeOutOverTrenches) {
     // 2 trenches of 24 pipes
-    const auto results = runHorizontal(inputsOf(cases[6].field));
+    const auto results = runHorizontal(inputsOf(runCases[6].field));
     EXPECT_NEAR(totalTrenchLength(results->requiredLength[cooling], 24), 555.049927, 1e-6);
     EXPECT_NEAR(singleTrenchLength(results->requiredLength[heating], 24, 2), 587.866049, 1e-6);
     EXPECT_NEAR(pipeLengthPerTrench(results->totalPipeLength[heating], 2), 14108.785169, 1e-6);
@@ -294,7 +294,7 @@ TEST(HorizontalRun, OfRandomNumbersEndsInFiniteFiguresOrInARunTimeError) {
     std::mt19937 random(1);
     int ended = 0;
     for (int i = 0; i < 20000; ++i) {
-        HorizontalInputs inputs = inputsOf(cases[random() % std::size(cases)].field);
+        HorizontalInputs inputs = inputsOf(runCases[random() % std::size(runCases)].field);
         for (double* value :
              {&inputs.soil.groundTemp, &inputs.soil.conductivity, &inputs.soil.diffusivity,
               &inputs.groundTemperature.airTempSwing, &inputs.trench.trenchCount,
@@ -325,7 +325,7 @@ TEST(HorizontalRun, ShowsPipesInOnePlaceAFiniteResistance) {
 }
 
 TEST(HorizontalRun, OfCoilsComputesWithTheirEquivalentPipeAndKeepsItsResistance) {
-    const HorizontalInputs inputs = inputsOf(cases[8].field);
+    const HorizontalInputs inputs = inputsOf(runCases[8].field);
     const auto results = runHorizontal(inputs);
     // film of 1.55*sqrt(2) in and wall ln(1.9/1.55)/(2 pi 0.225), which the factor leaves alone
     EXPECT_NEAR(results->pipeResistance, 0.158181102, 1e-9);
@@ -339,18 +339,18 @@ TEST(HorizontalRun, OfCoilsComputesWithTheirEquivalentPipeAndKeepsItsResistance)
 }
 
 TEST(HorizontalRun, OfCoilsIsTheSameWhenItIsRepeatedWithThePipeItLeaves) {
-    const auto first = runHorizontal(inputsOf(cases[9].field));
+    const auto first = runHorizontal(inputsOf(runCases[9].field));
     const auto second = runHorizontal(*first->inputs);
     EXPECT_EQ(*second, *first);
 }
 
 TEST(HorizontalRun, OfStraightPipesTakesTheResistanceAsEntered) {
-    HorizontalInputs inputs = inputsOf(cases[2].field);
+    HorizontalInputs inputs = inputsOf(runCases[2].field);
     inputs.pipe.pipeResistance = 0.2;
     const auto results = runHorizontal(inputs);
     EXPECT_EQ(results->pipeResistance, 0.2);
     EXPECT_EQ(results->coilLengthPer250, (ByMode<double>{0, 0}));
-    EXPECT_GT(results->requiredLength[heating], cases[2].expected.length[heating]);
+    EXPECT_GT(results->requiredLength[heating], runCases[2].expected.length[heating]);
 }
 
 TEST(HorizontalRun, OfACoilWithAPitchBelowTheTableTakesItsFirstAndLaysItsOwn) {
@@ -366,7 +366,7 @@ TEST(HorizontalRun, OfACoilWithAPitchBelowTheTableTakesItsFirstAndLaysItsOwn) {
 }
 
 TEST(HorizontalRun, OfACoilWithoutAPartLoadHasNoLengthThoughPipeWouldHave) {
-    HorizontalInputs inputs = inputsOf(cases[8].field);
+    HorizontalInputs inputs = inputsOf(runCases[8].field);
     for (std::size_t zone = 0; zone < 2; ++zone) inputs.loads.zones.edit(zone).days = 0;
     const auto results = runHorizontal(inputs);
     EXPECT_GT(results->lengths.boreLength[cooling], 0);
@@ -377,7 +377,7 @@ TEST(HorizontalRun, OfACoilWithoutAPartLoadHasNoLengthThoughPipeWouldHave) {
 }
 
 TEST(HorizontalRun, LeavesItsInputsInTheResults) {
-    const HorizontalInputs inputs = inputsOf(cases[5].field);
+    const HorizontalInputs inputs = inputsOf(runCases[5].field);
     const auto results = runHorizontal(inputs);
     EXPECT_EQ(*results->inputs, inputs);
     EXPECT_FALSE(differ(*results->inputs, inputs));

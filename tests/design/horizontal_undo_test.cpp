@@ -29,14 +29,8 @@ class UndoInTrenches : public HorizontalWindow {
     void undo() { main.click("mnuUndo"); }
 };
 
-struct FieldCase {
-    const char* field;
-    const char* typed;
-    const char* name;
-};
-
 TEST_F(UndoInTrenches, OfEachFieldIsOneStepAVisit) {
-    const FieldCase cases[] = {
+    const FieldStep cases[] = {
         {"FLInletTempText(0)", "90", "[2202], [2203]"},
         {"FLFlowRateText", "2.5", "[2208]"},
         {"SOGroundTempText", "55", "[2303]"},

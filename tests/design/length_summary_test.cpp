@@ -34,7 +34,7 @@ const std::map<int, std::string>& words() {
 }
 
 /// The parts of a mode together, ft.
-double sumOf(const LengthSummary& lengths, Mode mode) {
+double sumOfParts(const LengthSummary& lengths, Mode mode) {
     double sum = 0;
     for (const LengthSegment& part : lengths.parts) sum += part.feet[mode];
     return sum;
@@ -104,7 +104,7 @@ TEST_F(BoreholeLengthSummary, ComeFromTheTermsOfTheRun) {
     EXPECT_LT(parts[0].feet[heating], 0);
     EXPECT_NEAR(parts[4].feet[heating], 1010.005 - 1167.890, 1e-2);
     for (const Mode mode : modes)
-        EXPECT_NEAR(sumOf(design->lengthSummary(), mode), design->GetL(mode), 1e-9);
+        EXPECT_NEAR(sumOfParts(design->lengthSummary(), mode), design->GetL(mode), 1e-9);
 }
 
 TEST_F(BoreholeLengthSummary, BesideATowerComeFromWhatItLeaves) {
@@ -113,7 +113,7 @@ TEST_F(BoreholeLengthSummary, BesideATowerComeFromWhatItLeaves) {
     slide(25);
     const LengthSummary lengths = design->lengthSummary();
     EXPECT_NEAR(lengths.feet[cooling], 1501.105, 1e-2);
-    EXPECT_NEAR(sumOf(lengths, cooling), lengths.feet[cooling], 1e-9);
+    EXPECT_NEAR(sumOfParts(lengths, cooling), lengths.feet[cooling], 1e-9);
     // 57 of 76 MBtu/hr are left for the ground, with 18.40584 of the pumps' power, which stays:
     // 75405.84*0.196/27.96304
     EXPECT_NEAR(lengths.parts[3].feet[cooling], 528.54, 0.01);
@@ -152,7 +152,7 @@ TEST_F(TrenchLengthSummary, SayWhatGoverns) {
     EXPECT_EQ(lengths.each, (ByMode<std::string>{"480.3 ft", "946.2 ft"}));
     EXPECT_EQ(lengths.sentence,
               "Heating governs: 946 ft a trench, 3 trenches; cooling would need 480 ft.");
-    for (const Mode mode : modes) EXPECT_NEAR(sumOf(lengths, mode), lengths.feet[mode], 1e-9);
+    for (const Mode mode : modes) EXPECT_NEAR(sumOfParts(lengths, mode), lengths.feet[mode], 1e-9);
 }
 
 TEST_F(TrenchLengthSummary, OfCoilsAddUpToTheTrenches) {
@@ -163,7 +163,7 @@ TEST_F(TrenchLengthSummary, OfCoilsAddUpToTheTrenches) {
     ASSERT_EQ(lengths.parts.size(), 5U);
     for (const Mode mode : modes) {
         EXPECT_GT(lengths.feet[mode], 0);
-        EXPECT_NEAR(sumOf(lengths, mode), lengths.feet[mode], 1e-9);
+        EXPECT_NEAR(sumOfParts(lengths, mode), lengths.feet[mode], 1e-9);
     }
 }
 

@@ -11,6 +11,13 @@
 
 namespace varnholt {
 
+/// A visit of a field that is one step of its own.
+struct FieldStep {
+    const char* field;  ///< the control
+    const char* typed;
+    const char* name;  ///< of the step
+};
+
 /// Does it, and proves that it is one step of that name which undo takes back and redo brings on
 /// again, in the project as on display, the stale mark and the notice included.
 template <class Window>

@@ -9,11 +9,11 @@
 #include "design/modCalculations/system_flow.h"
 #include "expect_error.h"
 #include "sample_building.h"
+#include "sample_materials.h"
 
 namespace varnholt::modCalculations {
 namespace {
 
-constexpr Fluid water{62.4, 1.0};
 constexpr ExtraPower extra{1.0, 0.85, 0.5, 0.2, 0.17, 0.3, 0.255};
 
 TEST(PeakLoads, AreSumsOverTheZonesAndTheirLargestBlock) {
@@ -156,7 +156,7 @@ TEST(UnitOutlet, AgreesWithAHandCalculation) {
     // cooling: 85 + (96 + 3.412*6.95161290)*1000/(500.5728*24) = 85 + 119718.903/12013.747
     // heating: 50 - (84 - 3.412*6.1)*1000/(500.5728*21) = 50 - 63186.8/10512.029
     const UnitOutlet outlet =
-        calcUnitOutletTemps({96, 84}, {6.95161290, 6.1}, {85, 50}, 3, water, {});
+        calcUnitOutletTemps({96, 84}, {6.95161290, 6.1}, {85, 50}, 3, sampleWater, {});
     EXPECT_NEAR(outlet.systemFlow[cooling], 24, 1e-12);
     EXPECT_NEAR(outlet.systemFlow[heating], 21, 1e-12);
     EXPECT_NEAR(outlet.outletTemp[cooling], 94.965159, 1e-6);
@@ -167,7 +167,7 @@ TEST(UnitOutlet, LiesAboveTheInletInCoolingAndBelowItInHeating) {
     for (double load : {1.0, 20.0, 3000.0}) {
         const double demand = load / 3.412 / 4;
         const UnitOutlet outlet =
-            calcUnitOutletTemps({load, load}, {demand, demand}, {85, 50}, 2.5, water, {});
+            calcUnitOutletTemps({load, load}, {demand, demand}, {85, 50}, 2.5, sampleWater, {});
         EXPECT_GT(outlet.outletTemp[cooling], 85);
         EXPECT_LT(outlet.outletTemp[heating], 50);
         EXPECT_GT(outlet.outletTemp[cooling] - 85, 50 - outlet.outletTemp[heating]);
@@ -176,15 +176,16 @@ TEST(UnitOutlet, LiesAboveTheInletInCoolingAndBelowItInHeating) {
 
 TEST(UnitOutlet, OfAStandingLoopIsTheInlet) {
     const ByMode<double> inlet{85, 50};
-    EXPECT_EQ(calcUnitOutletTemps({96, 84}, {7, 6}, inlet, 0, water, {}).outletTemp, inlet);
-    EXPECT_EQ(calcUnitOutletTemps({0, 0}, {7, 6}, inlet, 3, water, {}).outletTemp, inlet);
+    EXPECT_EQ(calcUnitOutletTemps({96, 84}, {7, 6}, inlet, 0, sampleWater, {}).outletTemp, inlet);
+    EXPECT_EQ(calcUnitOutletTemps({0, 0}, {7, 6}, inlet, 3, sampleWater, {}).outletTemp, inlet);
     EXPECT_EQ(calcUnitOutletTemps({96, 84}, {7, 6}, inlet, 3, {0, 1}, {}).outletTemp, inlet);
     EXPECT_EQ(calcUnitOutletTemps({96, 84}, {7, 6}, inlet, 3, {62.4, 0}, {}).outletTemp, inlet);
 }
 
 TEST(UnitOutlet, WithATowerIsThatOfTheWholeLoad) {
-    const auto without = calcUnitOutletTemps({96, 84}, {7, 6}, {85, 50}, 3, water, {});
-    const auto with = calcUnitOutletTemps({67.2, 84}, {7, 6}, {85, 50}, 3, water, {true, 30, 96});
+    const auto without = calcUnitOutletTemps({96, 84}, {7, 6}, {85, 50}, 3, sampleWater, {});
+    const auto with =
+        calcUnitOutletTemps({67.2, 84}, {7, 6}, {85, 50}, 3, sampleWater, {true, 30, 96});
     EXPECT_EQ(with.systemFlow, without.systemFlow);
     EXPECT_EQ(with.outletTemp, without.outletTemp);
 }

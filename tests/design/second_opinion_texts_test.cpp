@@ -18,7 +18,8 @@ class EnglishTexts : public Texts {
         for (const char* name :
              {"2000_borehole", "2630_second_opinion", "2800_loads", "5000_calculators"}) {
             const std::string file =
-                std::string(VARNHOLT_SOURCE_DIR "/resources/language/english/") + name + ".txt";
+                std::string(VARNHOLT_SOURCE_DIR "/resources/language/englishUnits/") + name +
+                ".txt";
             table_.read(readWholeFile(file), file);
         }
     }
@@ -32,7 +33,7 @@ class EnglishTexts : public Texts {
     TextTable table_;
 };
 
-constexpr UnitSystem english = UnitSystem::english, metric = UnitSystem::metric;
+constexpr UnitSystem englishUnits = UnitSystem::english, metricUnits = UnitSystem::metric;
 
 /// 24 bores: heating is 26.8 percent longer than the classical 2,400 ft; cooling agrees.
 SecondOpinion sample() {
@@ -83,26 +84,26 @@ TEST_F(OpinionTexts, TellTheDifferenceInPercentWithItsSign) {
 }
 
 TEST_F(OpinionTexts, ShowLengthsInTheUnitsAndADashWithoutThem) {
-    EXPECT_EQ(lengthOrDash(opinion.soDepth, opinion, heating, english), "126.8");
+    EXPECT_EQ(lengthOrDash(opinion.soDepth, opinion, heating, englishUnits), "126.8");
     // 126.8 ft x 0.3048 = 38.649 m.
-    EXPECT_EQ(lengthOrDash(opinion.soDepth, opinion, heating, metric), "38.6");
+    EXPECT_EQ(lengthOrDash(opinion.soDepth, opinion, heating, metricUnits), "38.6");
     opinion.reasonOfMode[heating].failure = OpinionFailure::noLoadOfMode;
-    EXPECT_EQ(lengthOrDash(opinion.soDepth, opinion, heating, english), "-");
-    EXPECT_EQ(lengthOrDash(opinion.soDepth, opinion, cooling, english), "83.3");
+    EXPECT_EQ(lengthOrDash(opinion.soDepth, opinion, heating, englishUnits), "-");
+    EXPECT_EQ(lengthOrDash(opinion.soDepth, opinion, cooling, englishUnits), "83.3");
 }
 
 TEST_F(OpinionTexts, NameTheLargestPartOfTheDifference) {
-    EXPECT_EQ(partOrDash(opinion, heating, shortPulseAsLine, english), "-20.5");
-    EXPECT_EQ(partOrDash(opinion, heating, neighboursAndEnds, metric), "+213.4");
-    EXPECT_EQ(differenceText(texts, opinion, heating, english),
+    EXPECT_EQ(partOrDash(opinion, heating, shortPulseAsLine, englishUnits), "-20.5");
+    EXPECT_EQ(partOrDash(opinion, heating, neighboursAndEnds, metricUnits), "+213.4");
+    EXPECT_EQ(differenceText(texts, opinion, heating, englishUnits),
               "Differs from the classical length by +26.8 %, mostly: Neighbours and bore ends "
               "(+700.1 ft).");
     opinion.lengthPart[heating] = LengthParts{10, -20, -900};
-    EXPECT_NE(differenceText(texts, opinion, heating, english)
+    EXPECT_NE(differenceText(texts, opinion, heating, englishUnits)
                   .find("Months, and the first years (-900.0 ft)"),
               std::string::npos);
     opinion.lengthPart[heating].reset();
-    EXPECT_EQ(partOrDash(opinion, heating, neighboursAndEnds, english), "-");
+    EXPECT_EQ(partOrDash(opinion, heating, neighboursAndEnds, englishUnits), "-");
 }
 
 TEST_F(OpinionTexts, NoteWhatTheFiguresRestOn) {
@@ -143,55 +144,55 @@ TEST_F(OpinionTexts, NameEveryReasonOfBothModes) {
     for (const auto& [failure, words] : reasons) {
         SecondOpinion none;
         none.reason.failure = failure;
-        const std::string message = opinionMessage(texts, none, 62, english);
+        const std::string message = opinionMessage(texts, none, 62, englishUnits);
         EXPECT_NE(message.find(words), std::string::npos) << message;
-        EXPECT_EQ(shownMessage(texts, none, 62, english), message);
+        EXPECT_EQ(shownMessage(texts, none, 62, englishUnits), message);
         EXPECT_EQ(opinionNote(texts, none), "");
-        EXPECT_EQ(lengthOrDash({1, 1}, none, cooling, english), "-");
+        EXPECT_EQ(lengthOrDash({1, 1}, none, cooling, englishUnits), "-");
     }
 }
 
 TEST_F(OpinionTexts, NameTheReasonOfAModeAndLeaveTheOther) {
-    EXPECT_EQ(opinionMessage(texts, opinion, 62, english), "");
+    EXPECT_EQ(opinionMessage(texts, opinion, 62, englishUnits), "");
     opinion.reasonOfMode[heating] = {OpinionFailure::limitNotBelowGround, 0};
     // 45 F is 7.2 C, 40 F is 4.4 C.
     EXPECT_EQ(
-        opinionMessage(texts, opinion, 40, metric),
+        opinionMessage(texts, opinion, 40, metricUnits),
         "Heating: the mean fluid at its limit, 7.2 deg C, is not below the ground, 4.4 deg C.");
     opinion.reasonOfMode[heating] = {OpinionFailure::noLoadOfMode, 0};
     opinion.reasonOfMode[cooling] = {OpinionFailure::limitNotAboveGround, 0};
-    EXPECT_EQ(opinionMessage(texts, opinion, 90, english),
+    EXPECT_EQ(opinionMessage(texts, opinion, 90, englishUnits),
               "Cooling: the mean fluid at its limit, 88.0 deg F, is not above the ground, 90.0 deg "
               "F. Heating: no load.");
 }
 
 TEST_F(OpinionTexts, TellHowFarTheWaterGoesWhereNoDepthIsEnough) {
     opinion.reasonOfMode[cooling] = {OpinionFailure::noDepthHoldsLimit, 104};
-    EXPECT_EQ(opinionMessage(texts, opinion, 62, english),
+    EXPECT_EQ(opinionMessage(texts, opinion, 62, englishUnits),
               "Cooling: Add bores or widen the separation; at 2,000 ft the water still reaches 104 "
               "deg F.");
     // 2,000 ft are 609.6 m, 104 F are 40 C.
-    EXPECT_EQ(opinionMessage(texts, opinion, 62, metric),
+    EXPECT_EQ(opinionMessage(texts, opinion, 62, metricUnits),
               "Cooling: Add bores or widen the separation; at 610 m the water still reaches 40 deg "
               "C.");
 }
 
 TEST_F(OpinionTexts, SayThatTheImporterIsMissing) {
     opinion.importerMissing = true;
-    EXPECT_EQ(opinionMessage(texts, opinion, 62, english),
+    EXPECT_EQ(opinionMessage(texts, opinion, 62, englishUnits),
               "The monthly importer is not open or holds no loads: the standard year stands in.");
 }
 
 TEST_F(OpinionTexts, TellWhyNothingIsDrawnThoughLengthsMayStand) {
-    EXPECT_EQ(shownMessage(texts, opinion, 62, english), "");
+    EXPECT_EQ(shownMessage(texts, opinion, 62, englishUnits), "");
     opinion.reasonOfShown.failure = OpinionFailure::noDesignLength;
-    EXPECT_EQ(shownMessage(texts, opinion, 62, english),
+    EXPECT_EQ(shownMessage(texts, opinion, 62, englishUnits),
               "The classical method has no length to draw for.");
     opinion.reasonOfShown.failure = OpinionFailure::limitNotBelowGround;
-    EXPECT_EQ(shownMessage(texts, opinion, 40, english),
+    EXPECT_EQ(shownMessage(texts, opinion, 40, englishUnits),
               "Heating: the mean fluid at its limit, 45.0 deg F, is not below the ground, 40.0 deg "
               "F.");
-    EXPECT_EQ(opinionMessage(texts, opinion, 40, english), "");
+    EXPECT_EQ(opinionMessage(texts, opinion, 40, englishUnits), "");
 }
 
 class OpinionPictures : public OpinionTexts {
@@ -207,7 +208,7 @@ class OpinionPictures : public OpinionTexts {
         }
         opinion.gFunction = {{1, 8760, 87600, 438000}, {0.1, 5, 9, 11}, {0.1, 4.5, 6, 6.5}};
     }
-    OpinionScene scene(UnitSystem units = english) const {
+    OpinionScene scene(UnitSystem units = englishUnits) const {
         return {texts, units, "", {85, 40}, 20};
     }
 };
@@ -223,7 +224,7 @@ TEST_F(OpinionPictures, DrawEachYearsExtremes) {
 }
 
 TEST_F(OpinionPictures, DrawTheMonthsOfAYear) {
-    OpinionScene ofYear = scene(metric);
+    OpinionScene ofYear = scene(metricUnits);
     ofYear.year = 2;
     const HistoryPicture picture = historyPicture(opinion, ofYear);
     ASSERT_EQ(picture.year, 2U);
@@ -240,7 +241,7 @@ TEST_F(OpinionPictures, TellTheMonths) {
               "Cooling: 1000.0 MBtu a year, most in July with 45 percent, peak 400.0 MBtu/hr. "
               "Heating: 1200.0 MBtu a year, most in January with 34 percent, peak 300.0 MBtu/hr.");
     // 400 MBtu/hr x 0.2931 = 117.24 kW.
-    EXPECT_NEAR(yearPicture(opinion, scene(metric)).peaks[cooling][6], 117.24, 1e-9);
+    EXPECT_NEAR(yearPicture(opinion, scene(metricUnits)).peaks[cooling][6], 117.24, 1e-9);
 }
 
 TEST_F(OpinionPictures, TellTheGFunction) {
@@ -254,7 +255,7 @@ TEST_F(OpinionPictures, SayWhyThereIsNothingToDraw) {
     SecondOpinion none;
     none.reason.failure = OpinionFailure::noRows;
     OpinionScene empty = scene();
-    empty.empty = shownMessage(texts, none, 62, english);
+    empty.empty = shownMessage(texts, none, 62, englishUnits);
     const char* words = "There is no row of bores across, or none down.";
     EXPECT_EQ(describe(historyPicture(none, empty), texts), words);
     EXPECT_EQ(describe(yearPicture(none, empty), texts), words);

@@ -68,7 +68,7 @@ TEST_F(SecondOpinionWindow, SwitchesTheUnitsOfItsDesignByTheMenu) {
     EXPECT_TRUE(main.control("English").checked());
 }
 
-struct FieldCase {
+struct OpinionFieldCase {
     const char* field;
     const char* typed;
     double stored;
@@ -77,35 +77,35 @@ struct FieldCase {
 
 /// As the field holds it while it stands in it, and as it is left.
 TEST_F(SecondOpinionWindow, RefusesWhatIsOutOfRange) {
-    const FieldCase cases[] = {{"SEBuriedDepthText", "0", 0, "0.0"},
-                               {"SEBuriedDepthText", "100", 100, "100.0"},
-                               {"SEBuriedDepthText", "100.1", 4, "4.0"},
-                               {"SEBuriedDepthText", "-1", 4, "4.0"},
-                               {"SEBuriedDepthText", "", 4, "4.0"},
-                               {"SEPulseText", "1", 1, "1.0"},
-                               {"SEPulseText", "24", 24, "24.0"},
-                               {"SEPulseText", "24.1", 0, "0.0"},
-                               {"SEPulseText", "0.5", 0, "0.0"},
-                               {"SEPulseText", "-1", 0, "0.0"},
-                               {"SEPulseText", "", 0, "0.0"},
-                               {"SEYearsText", "1", 1, "1"},
-                               {"SEYearsText", "50", 50, "50"},
-                               {"SEYearsText", "51", 20, "20"},
-                               {"SEYearsText", "0", 20, "20"},
-                               {"SEYearsText", "", 20, "20"},
-                               {"SEDepthText", "10", 10, "10.0"},
-                               {"SEDepthText", "9.9", 250, "250.0"},
-                               {"SEDepthText", "2000", 2000, "2000.0"},
-                               {"SEDepthText", "2001", 250, "250.0"},
-                               {"SEDepthText", "-5", 250, "250.0"},
-                               {"SEDepthText", "", 250, "250.0"},
-                               {"SECoolingEnergyText(3)", "-2", 0, "0.0"}};
+    const OpinionFieldCase cases[] = {{"SEBuriedDepthText", "0", 0, "0.0"},
+                                      {"SEBuriedDepthText", "100", 100, "100.0"},
+                                      {"SEBuriedDepthText", "100.1", 4, "4.0"},
+                                      {"SEBuriedDepthText", "-1", 4, "4.0"},
+                                      {"SEBuriedDepthText", "", 4, "4.0"},
+                                      {"SEPulseText", "1", 1, "1.0"},
+                                      {"SEPulseText", "24", 24, "24.0"},
+                                      {"SEPulseText", "24.1", 0, "0.0"},
+                                      {"SEPulseText", "0.5", 0, "0.0"},
+                                      {"SEPulseText", "-1", 0, "0.0"},
+                                      {"SEPulseText", "", 0, "0.0"},
+                                      {"SEYearsText", "1", 1, "1"},
+                                      {"SEYearsText", "50", 50, "50"},
+                                      {"SEYearsText", "51", 20, "20"},
+                                      {"SEYearsText", "0", 20, "20"},
+                                      {"SEYearsText", "", 20, "20"},
+                                      {"SEDepthText", "10", 10, "10.0"},
+                                      {"SEDepthText", "9.9", 250, "250.0"},
+                                      {"SEDepthText", "2000", 2000, "2000.0"},
+                                      {"SEDepthText", "2001", 250, "250.0"},
+                                      {"SEDepthText", "-5", 250, "250.0"},
+                                      {"SEDepthText", "", 250, "250.0"},
+                                      {"SECoolingEnergyText(3)", "-2", 0, "0.0"}};
     const std::map<std::string, std::string> values{{"SEBuriedDepthText", "buriedDepth"},
                                                     {"SEPulseText", "pulseHours"},
                                                     {"SEYearsText", "yearsShown"},
                                                     {"SEDepthText", "typedDepth"},
                                                     {"SECoolingEnergyText(3)", "monthEnergy(3,0)"}};
-    for (const FieldCase& each : cases) {
+    for (const OpinionFieldCase& each : cases) {
         SCOPED_TRACE(std::string(each.field) + " " + each.typed);
         enter(each.field, each.typed);
         EXPECT_EQ(held(values.at(each.field)), each.stored);

@@ -13,7 +13,7 @@ namespace {
 //     a(n) = e - K d (1 - K^n)/(1 - K),  e = inlet - loop water,  d = header water - inlet
 //
 // which is e - n d for K = 1.
-constexpr double flow = 10;
+constexpr double pondFlow = 10;
 
 /// @param k           pickup for each degF of difference
 /// @param approach    inlet less loop water, degF
@@ -22,8 +22,8 @@ ApproachTerms headerInWater(double k, const ByMode<double>& approach,
                             const ByMode<double>& difference) {
     ApproachTerms terms;
     terms.inletTemp = {85, 40};
-    terms.systemFlow = {flow, flow};
-    terms.headers.primary = {1, 0.01, 0, k * flow / 0.01, 0, {}, {}};
+    terms.systemFlow = {pondFlow, pondFlow};
+    terms.headers.primary = {1, 0.01, 0, k * pondFlow / 0.01, 0, {}, {}};
     for (const Mode m : modes) {
         terms.loopWaterTemp[m] = terms.inletTemp[m] - approach[m];
         terms.headers.primary.waterTemp[m] = terms.inletTemp[m] + difference[m];

@@ -3,11 +3,11 @@
 
 #include "design/modCalculations/loop_length.h"
 #include "expect_error.h"
+#include "sample_materials.h"
 
 namespace varnholt::modCalculations {
 namespace {
 
-constexpr Fluid water{62.4, 1.0};
 constexpr LoopPipe coil{0, 1};
 
 struct TablePoint {
@@ -91,7 +91,7 @@ LoopLengthTerms loads() {
     terms.peakDemand = {8, 6};
     terms.inletTemp = {85, 40};
     terms.outletTemp = terms.inletTemp;
-    terms.fluid = water;
+    terms.fluid = sampleWater;
     return terms;
 }
 

@@ -23,14 +23,8 @@ TEST_F(BoreholeWindow, HasANameForWhateverAPersonChanges) {
     EXPECT_EQ(namelessControls(*design), "NoticeCommand\n");  // named while there is work for it
 }
 
-struct FieldCase {
-    const char* field;
-    const char* typed;
-    const char* name;
-};
-
 TEST_F(UndoInADesign, OfEachFieldIsOneStepAVisit) {
-    const FieldCase cases[] = {
+    const FieldStep cases[] = {
         {"FLInletTempText(0)", "90", "[2202], [2203]"},
         {"FLFlowRateText", "2.5", "[2208]"},
         {"FLSpecificHeatText", "0.95", "[2216]"},

@@ -13,7 +13,9 @@ namespace {
 
 using Months = std::array<double, 12>;
 
-double sumOf(const Months& values) { return std::accumulate(values.begin(), values.end(), 0.0); }
+double sumOfYear(const Months& values) {
+    return std::accumulate(values.begin(), values.end(), 0.0);
+}
 double greatestOf(const Months& values) { return *std::max_element(values.begin(), values.end()); }
 
 YearOfMode standard(Mode mode, double wanted, bool southern = false) {
@@ -23,7 +25,7 @@ YearOfMode standard(Mode mode, double wanted, bool southern = false) {
 TEST(StandardYear, GivesTheGreatestMonthItsShare) {
     for (const double wanted : {1.0 / 11 + 1e-6, 0.1, 0.15, 0.2, 0.27, 0.33, 0.4}) {
         const YearOfMode year = standard(cooling, wanted);
-        EXPECT_NEAR(sumOf(year.share), 1, 1e-12);
+        EXPECT_NEAR(sumOfYear(year.share), 1, 1e-12);
         EXPECT_NEAR(year.share[6], wanted, 1e-9);
         EXPECT_EQ(greatestOf(year.share), year.share[6]);
         EXPECT_FALSE(year.heldAtGreatest);
@@ -52,7 +54,7 @@ TEST(StandardYear, HoldsTheGreatestShareAtItsLimit) {
     const YearOfMode year = standard(cooling, 0.41);
     EXPECT_TRUE(year.heldAtGreatest);
     EXPECT_NEAR(year.share[6], 0.40, 1e-9);
-    EXPECT_NEAR(sumOf(year.share), 1, 1e-12);
+    EXPECT_NEAR(sumOfYear(year.share), 1, 1e-12);
     EXPECT_TRUE(standard(heating, std::numeric_limits<double>::infinity()).heldAtGreatest);
     EXPECT_FALSE(standard(cooling, 0.40).heldAtGreatest);
 }
@@ -87,7 +89,7 @@ TEST(KnownYear, HasRatiosAlone) {
     const YearOfMode year = knownYearOf(energies, peaks);
     EXPECT_EQ(year.share[2], 0.75);
     EXPECT_EQ(year.share[7], 0.25);
-    EXPECT_EQ(sumOf(year.share), 1);
+    EXPECT_EQ(sumOfYear(year.share), 1);
     EXPECT_EQ(year.peak[2], 0.25);
     EXPECT_EQ(year.peak[3], 1);
     EXPECT_TRUE(year.hasEnergy);
@@ -97,8 +99,8 @@ TEST(KnownYear, HasRatiosAlone) {
 TEST(KnownYear, WithoutEnergyOrPeaksHasNone) {
     const YearOfMode year = knownYearOf({}, {});
     EXPECT_FALSE(year.hasEnergy);
-    EXPECT_EQ(sumOf(year.share), 0);
-    EXPECT_EQ(sumOf(year.peak), 0);
+    EXPECT_EQ(sumOfYear(year.share), 0);
+    EXPECT_EQ(sumOfYear(year.peak), 0);
     Months negative{};
     negative.fill(-1);
     negative[4] = 2;

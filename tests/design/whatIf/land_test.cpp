@@ -11,19 +11,19 @@ namespace {
 
 const Polygon square = rectangleOf(100, 60);
 /// An L: the square without its quarter of greatest x and y.
-const Polygon corner{{0, 0}, {100, 0}, {100, 30}, {40, 30}, {40, 60}, {0, 60}};
+const Polygon angledLand{{0, 0}, {100, 0}, {100, 30}, {40, 30}, {40, 60}, {0, 60}};
 
 TEST(Land, HasTheAreaOfItsOutlineEitherWayRound) {
     EXPECT_EQ(areaOf(square), 6000);
-    EXPECT_EQ(areaOf(corner), 6000 - 60 * 30);
-    Polygon other = corner;
+    EXPECT_EQ(areaOf(angledLand), 6000 - 60 * 30);
+    Polygon other = angledLand;
     std::reverse(other.begin(), other.end());
     EXPECT_EQ(areaOf(other), 4200);
 }
 
 TEST(Land, IsRefusedWhereItsSidesCross) {
     EXPECT_TRUE(isSimple(square));
-    EXPECT_TRUE(isSimple(corner));
+    EXPECT_TRUE(isSimple(angledLand));
     EXPECT_FALSE(isSimple({{0, 0}, {10, 0}}));
     EXPECT_FALSE(isSimple({{0, 0}, {10, 10}, {10, 0}, {0, 10}}));          // a bow tie
     EXPECT_FALSE(isSimple({{0, 0}, {10, 0}, {20, 0}}));                    // no area
@@ -40,12 +40,12 @@ TEST(Land, TellsHowDeepAPointLiesInside) {
     EXPECT_EQ(depthInside(square, {97, 20}), 3);
     EXPECT_EQ(depthInside(square, {103, 64}), -5);
     EXPECT_EQ(depthInside(square, {0, 30}), 0);
-    EXPECT_NEAR(depthInside(corner, {37, 26}), 5, 1e-12);  // 3 and 4 ft from the inner corner
-    EXPECT_EQ(depthInside(corner, {50, 40}), -10);
+    EXPECT_NEAR(depthInside(angledLand, {37, 26}), 5, 1e-12);  // 3 and 4 ft from the inner corner
+    EXPECT_EQ(depthInside(angledLand, {50, 40}), -10);
 }
 
 TEST(Land, AllowsABoreAtTheClearanceAndNoNearer) {
-    const Land land{corner, {{{10, 10}, {20, 10}, {20, 20}, {10, 20}}}, 5, 2};
+    const Land land{angledLand, {{{10, 10}, {20, 10}, {20, 20}, {10, 20}}}, 5, 2};
     EXPECT_TRUE(land.allows({5, 5}));
     EXPECT_FALSE(land.allows({4.99, 5}));
     EXPECT_TRUE(land.allows({22, 15}));

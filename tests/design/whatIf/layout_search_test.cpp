@@ -15,7 +15,7 @@
 namespace varnholt {
 namespace {
 
-LayoutCase officeCase() {
+LayoutCase officeLayoutCase() {
     LayoutCase theCase;
     theCase.design = officeInputs();
     return theCase;
@@ -34,7 +34,7 @@ double cheapest(const LayoutCase& theCase) {
 }
 
 TEST(LayoutSearch, NeedsWhatADesignWithThatFieldNeeds) {
-    const Layouts layouts = found(officeCase());
+    const Layouts layouts = found(officeLayoutCase());
     ASSERT_GT(layouts.fields.size(), 100u);
     EXPECT_EQ(layouts.landArea, 60'000);
     for (std::size_t i = 0; i < layouts.fields.size(); i += 7) {
@@ -54,12 +54,12 @@ TEST(LayoutSearch, NeedsWhatADesignWithThatFieldNeeds) {
 }
 
 TEST(LayoutSearch, ListsTheCheapestFirst) {
-    const Layouts layouts = found(officeCase());
+    const Layouts layouts = found(officeLayoutCase());
     for (std::size_t i = 1; i < layouts.fields.size(); ++i)
         EXPECT_LE(layouts.fields[i - 1].firstCost, layouts.fields[i].firstCost);
     // Without a price of the trench equal fields of several separations cost the same when they are
     // held at the least depth: the narrower comes first.
-    LayoutCase same = officeCase();
+    LayoutCase same = officeLayoutCase();
     same.prices.costTrench = 0;
     same.layout.leastDepth = same.layout.mostDepth = 400;
     const Layouts equal = found(same);
@@ -73,7 +73,7 @@ TEST(LayoutSearch, ListsTheCheapestFirst) {
 }
 
 TEST(LayoutSearch, HoldsMarginAndLeastDepth) {
-    LayoutCase theCase = officeCase();
+    LayoutCase theCase = officeLayoutCase();
     const Layouts plain = found(theCase);
     theCase.layout.margin = 10;
     const Layouts wide = found(theCase);
@@ -89,7 +89,7 @@ TEST(LayoutSearch, HoldsMarginAndLeastDepth) {
 }
 
 TEST(LayoutSearch, FindsTheSameCostsOnATurnedAndAMirroredPlot) {
-    LayoutCase theCase = officeCase();
+    LayoutCase theCase = officeLayoutCase();
     // Corners at multiples of a quarter of the separation, so that the lattices meet them alike.
     const Polygon plot{{0, 0}, {300, 0}, {300, 100}, {180, 100}, {180, 220}, {0, 220}};
     theCase.layout.spacingFrom = theCase.layout.spacingTo = 20;
@@ -107,7 +107,7 @@ TEST(LayoutSearch, FindsTheSameCostsOnATurnedAndAMirroredPlot) {
 TEST(LayoutSearch, NeverAsksMoreForMoreLand) {
     double before = noLength;
     for (double across = 60; across <= 300; across += 20) {
-        LayoutCase theCase = officeCase();
+        LayoutCase theCase = officeLayoutCase();
         theCase.land.across = across;
         const double cost = cheapest(theCase);
         EXPECT_LE(cost, before);
@@ -117,10 +117,10 @@ TEST(LayoutSearch, NeverAsksMoreForMoreLand) {
 }
 
 TEST(LayoutSearch, SaysWhyThereIsNoField) {
-    LayoutCase theCase = officeCase();
+    LayoutCase theCase = officeLayoutCase();
     theCase.land.across = 15;
     EXPECT_EQ(found(theCase).reason, (Reason{Text::layoutNoPlace, {{FigureKind::feet, 10}}}));
-    theCase = officeCase();
+    theCase = officeLayoutCase();
     theCase.layout.mostBores = 12;
     theCase.layout.spacingTo = 15;
     const Reason deep = found(theCase).reason;
@@ -130,22 +130,22 @@ TEST(LayoutSearch, SaysWhyThereIsNoField) {
     EXPECT_EQ(deep.figures[2], (Figure{FigureKind::feet, 15}));
     EXPECT_GT(deep.figures[3].value, 400);
     EXPECT_EQ(deep.figures[4], (Figure{FigureKind::feet, 400}));
-    theCase = officeCase();
+    theCase = officeLayoutCase();
     theCase.land.corner = {{0, 0}, {100, 100}, {100, 0}, {0, 100}};
     EXPECT_EQ(found(theCase).reason.text, Text::layoutOutlineCrosses);
     theCase.land.corner.clear();
     theCase.land.noGo = {rectangleOf(5, 5), {{0, 0}, {9, 9}, {9, 0}, {0, 9}}};
     EXPECT_EQ(found(theCase).reason, (Reason{Text::layoutNoGoCrosses, {{FigureKind::count, 2}}}));
-    theCase = officeCase();
+    theCase = officeLayoutCase();
     theCase.design.loads.inletTemp[cooling] = 40;
     EXPECT_EQ(found(theCase).reason.text, Text::whatIfCoolingLimit);
-    theCase = officeCase();
+    theCase = officeLayoutCase();
     theCase.design.loads.zones = SharedZones();
     EXPECT_EQ(found(theCase).reason.text, Text::whatIfNoLoads);
 }
 
 TEST(LayoutSearch, TurnsLimitsRoundThatStandTheWrongWay) {
-    LayoutCase theCase = officeCase();
+    LayoutCase theCase = officeLayoutCase();
     const Layouts plain = found(theCase);
     std::swap(theCase.layout.spacingFrom, theCase.layout.spacingTo);
     std::swap(theCase.layout.leastDepth, theCase.layout.mostDepth);
@@ -157,7 +157,7 @@ TEST(LayoutSearch, TurnsLimitsRoundThatStandTheWrongWay) {
 }
 
 TEST(LayoutSearch, IgnoresTheFieldOfTheDesign) {
-    LayoutCase theCase = officeCase();
+    LayoutCase theCase = officeLayoutCase();
     const Layouts plain = found(theCase);
     theCase.design.arrangement.patternRows = {0, 0};
     theCase.design.arrangement.boreSeparation = 0;
@@ -172,7 +172,7 @@ std::optional<double> denserIsLonger(const LatticeField& field, double classical
 
 TEST(LayoutSearch, FindsByEstimatesWhatComputingEveryFieldFinds) {
     for (const double across : {180.0, 260.0}) {
-        LayoutCase theCase = officeCase();
+        LayoutCase theCase = officeLayoutCase();
         theCase.land.across = across;
         const BoreholeInputs design = officeInputs();
         FieldNeeds classical(RolledZones(design.loads.zones), design);
@@ -208,7 +208,7 @@ TEST(LayoutSearch, FindsByEstimatesWhatComputingEveryFieldFinds) {
 }
 
 TEST(LayoutSearch, ComputesTheLeastDeepWhereNoEstimateIsShallowEnough) {
-    LayoutCase theCase = officeCase();
+    LayoutCase theCase = officeLayoutCase();
     theCase.measure = byGFunctions;
     theCase.layout.mostDepth = 101;
     theCase.land.across = 120;
