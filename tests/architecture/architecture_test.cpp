@@ -13,7 +13,7 @@ namespace varnholt {
 namespace {
 
 /// A folder may use the folders with smaller numbers, and itself.
-const std::map<std::string, int> floors = floorsOfTheHouse();
+const std::map<std::string, int> floorNumbers = floorsOfTheHouse();
 
 /// Files that may be longer than the limit, each with its reason.
 const std::set<std::string> longFiles{"src/forms/text_numbers.h"};  // one line a text
@@ -21,8 +21,8 @@ constexpr std::size_t longestFile = 500;
 
 /// A file on no floor is not to be included at all.
 int floorOf(const std::string& folder) {
-    const auto found = floors.find(folder);
-    return found == floors.end() ? std::numeric_limits<int>::max() : found->second;
+    const auto found = floorNumbers.find(folder);
+    return found == floorNumbers.end() ? std::numeric_limits<int>::max() : found->second;
 }
 
 bool mayUseQt(const SourceFile& source) {
@@ -79,7 +79,7 @@ TEST(Architecture, EveryFolderIsAFloorOfTheDocumentAndTheOtherWayRound) {
     std::set<std::string> folders;
     for (const SourceFile& source : filesBelow("src")) folders.insert(source.folder());
     std::set<std::string> documented;
-    for (const auto& [folder, number] : floors) documented.insert(folder);
+    for (const auto& [folder, number] : floorNumbers) documented.insert(folder);
     EXPECT_EQ(folders, documented);
 }
 

@@ -42,7 +42,9 @@ std::string roomOf(const std::string& path) {
     return rest.substr(0, rest.find('/'));
 }
 
-std::string floorOf(const std::string& include) { return include.substr(0, include.find('/')); }
+std::string floorNamedBy(const std::string& include) {
+    return include.substr(0, include.find('/'));
+}
 
 template <class Check>
 void forEveryInclude(const Check& check) {
@@ -75,9 +77,9 @@ TEST(DesktopRooms, IncludeOnlyLowerRooms) {
 TEST(DesktopRooms, SeeOnlyTheirFloors) {
     forEveryInclude([](const std::string& room, const Include& include) {
         const auto seen = floorsSeen.find(room);
-        if (!include.quoted || seen == floorsSeen.end() || floorOf(include.file) == "desktop")
+        if (!include.quoted || seen == floorsSeen.end() || floorNamedBy(include.file) == "desktop")
             return;
-        EXPECT_EQ(seen->second.count(floorOf(include.file)), 1U);
+        EXPECT_EQ(seen->second.count(floorNamedBy(include.file)), 1U);
     });
 }
 

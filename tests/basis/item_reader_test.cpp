@@ -19,7 +19,7 @@ std::vector<double> numbersOf(const std::string& text, int count) {
     return numbers;
 }
 
-int errorOf(const std::string& text) {
+int errorOfNumber(const std::string& text) {
     ItemReader items(text);
     try {
         items.number();
@@ -63,11 +63,11 @@ TEST(Items, ThatAreEmptyArePassedOverUpToAText) {
 }
 
 TEST(Items, EndWithAnErrorThatTellsWhy) {
-    EXPECT_EQ(errorOf(""), 62);
-    EXPECT_EQ(errorOf(" \r\n"), 62);
-    EXPECT_EQ(errorOf("January"), 13);
-    EXPECT_EQ(errorOf("1e999"), 6);
-    EXPECT_EQ(errorOf("12 kWh"), 0);
+    EXPECT_EQ(errorOfNumber(""), 62);
+    EXPECT_EQ(errorOfNumber(" \r\n"), 62);
+    EXPECT_EQ(errorOfNumber("January"), 13);
+    EXPECT_EQ(errorOfNumber("1e999"), 6);
+    EXPECT_EQ(errorOfNumber("12 kWh"), 0);
 }
 
 TEST(PastedLines, EndAtReturnsAndAtLineFeedsThatStandAlone) {

@@ -6,18 +6,10 @@
 #include <array>
 #include <cmath>
 
+#include "basis/error_of.h"
+
 namespace varnholt {
 namespace {
-
-template <class Action>
-int errorOf(Action action) {
-    try {
-        action();
-    } catch (const RunTimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 TEST(WholeNumber, IsRoundedHalfToEven) {
     EXPECT_EQ(toInteger(0.5), 0);

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "basis/run_time_error.h"
+#include "basis/error_of.h"
 #include "basis/temporary_folder.h"
 #include "catalogue/pump.h"
 #include "catalogue/pump_evaluation.h"
@@ -35,17 +35,6 @@ inline Gains peaks(double coolingPeak, double heatingPeak) {
     gains[1][cooling] = coolingPeak;
     gains[3][heating] = heatingPeak;
     return gains;
-}
-
-/// The number of the run-time error that an action ends in, 0 for none.
-template <class Action>
-int errorOf(Action&& action) {
-    try {
-        action();
-    } catch (const RunTimeError& error) {
-        return error.number();
-    }
-    return 0;
 }
 
 }  // namespace varnholt

@@ -6,12 +6,11 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <memory>
 
-#include "basis/temporary_folder.h"
 #include "damage/damaged_files.h"
 #include "damage/program_at_work.h"
+#include "persistence/temporary_folder.h"
 
 namespace varnholt {
 namespace {
@@ -32,11 +31,6 @@ constexpr double mostBeyondTheFile = 200;  // MB of 10^6 bytes
 // A giant is read in as long as any other file, on a processor of its own.
 constexpr double mostProcessorSeconds = 2;
 constexpr milliseconds mostForAGiant(60'000);
-
-std::string bytesOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 std::vector<std::string> programs() {
     std::vector<std::string> names{"varnholt-script"};

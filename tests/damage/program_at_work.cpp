@@ -9,10 +9,11 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <stdexcept>
 #include <utility>
+
+#include "persistence/temporary_folder.h"
 
 namespace varnholt {
 namespace {
@@ -22,11 +23,6 @@ using std::chrono::steady_clock;
 
 /// A line whose answer tells that all lines before it have been run.
 const std::string mark = "value Varnmain.windowCounter", answerToMark = mark + " = ";
-
-std::string bytesOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 [[noreturn]] void become(const std::string& program, const std::string& folder) {
     ::setenv("QT_QPA_PLATFORM", "offscreen", 1);

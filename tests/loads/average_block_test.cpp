@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "loads/ModLoadsIO.h"
 #include "loads/loads_fixture.h"
+#include "loads/rounding_of_fit.h"
 
 namespace varnholt {
 namespace {
-
-constexpr double close = 1e-12;
 
 /// The catalogue's models have a ratio of cooling to heating capacity of 1 / 0.9.
 class AverageBlockTest : public LoadsTest {
@@ -59,24 +58,24 @@ TEST_F(AverageBlockTest, APumpIsSizedToTheHeatingLoadWhereThatDecides) {
     selectPump(1);
     EXPECT_EQ(fitted().name, "Air-20");
     EXPECT_EQ(fitted().plf[heating], 1);
-    EXPECT_NEAR(fitted().capacity[heating], 100, close);
-    EXPECT_NEAR(fitted().capacity[cooling], 100 / 0.9, close);
-    EXPECT_NEAR(fitted().flowRate[heating], 25, close);  // 100 x 3 / 12
-    EXPECT_NEAR(fitted().flowRate[cooling], 25 / 0.9, close);
-    EXPECT_NEAR(fitted().plf[cooling], 0.81, close);  // 90 / (100 / 0.9)
+    EXPECT_NEAR(fitted().capacity[heating], 100, roundingOfFit);
+    EXPECT_NEAR(fitted().capacity[cooling], 100 / 0.9, roundingOfFit);
+    EXPECT_NEAR(fitted().flowRate[heating], 25, roundingOfFit);  // 100 x 3 / 12
+    EXPECT_NEAR(fitted().flowRate[cooling], 25 / 0.9, roundingOfFit);
+    EXPECT_NEAR(fitted().plf[cooling], 0.81, roundingOfFit);  // 90 / (100 / 0.9)
     // The COPs are the unit's own: 20 / 2.5 and 18 / 2 kBtu/hr a W.
-    EXPECT_NEAR(fitted().watts[heating], 100 / 9.0, close);
-    EXPECT_NEAR(fitted().watts[cooling], 100 / 0.9 / 8, close);
+    EXPECT_NEAR(fitted().watts[heating], 100 / 9.0, roundingOfFit);
+    EXPECT_NEAR(fitted().watts[cooling], 100 / 0.9 / 8, roundingOfFit);
     EXPECT_EQ(fitted().customPump, 0);
 }
 
 TEST_F(AverageBlockTest, APumpIsSizedToTheCoolingLoadWhereThatDecides) {
     addZone(window, 200, 100);  // 200 x 0.9 = 180
     selectPump(1);
-    EXPECT_NEAR(fitted().capacity[cooling], 200, close);
-    EXPECT_NEAR(fitted().capacity[heating], 180, close);
-    EXPECT_NEAR(fitted().flowRate[heating], 45, close);
-    EXPECT_NEAR(fitted().plf[heating], 100.0 / 180, close);
+    EXPECT_NEAR(fitted().capacity[cooling], 200, roundingOfFit);
+    EXPECT_NEAR(fitted().capacity[heating], 180, roundingOfFit);
+    EXPECT_NEAR(fitted().flowRate[heating], 45, roundingOfFit);
+    EXPECT_NEAR(fitted().plf[heating], 100.0 / 180, roundingOfFit);
 }
 
 TEST_F(AverageBlockTest, TheTypedPartLoadFactorIsTheOneOfTheFit) {
@@ -85,8 +84,8 @@ TEST_F(AverageBlockTest, TheTypedPartLoadFactorIsTheOneOfTheFit) {
     window.type("LOPLFText(0)", "0.8");
     selectPump(1);
     EXPECT_EQ(fitted().plf[cooling], 0.8);
-    EXPECT_NEAR(fitted().capacity[cooling], 250, close);  // 200 / 0.8
-    EXPECT_NEAR(fitted().capacity[heating], 225, close);
+    EXPECT_NEAR(fitted().capacity[cooling], 250, roundingOfFit);  // 200 / 0.8
+    EXPECT_NEAR(fitted().capacity[heating], 225, roundingOfFit);
 }
 
 TEST_F(AverageBlockTest, TheNumberOfUnitsHasNoInfluence) {
@@ -99,9 +98,9 @@ TEST_F(AverageBlockTest, TheNumberOfUnitsHasNoInfluence) {
     window.click("LOSelectPumpCommand");
     EXPECT_EQ(fitted().number, 4);
     for (const Mode m : modes) {
-        EXPECT_NEAR(fitted().capacity[m], one.capacity[m], close);
-        EXPECT_NEAR(fitted().watts[m], one.watts[m], close);
-        EXPECT_NEAR(fitted().plf[m], one.plf[m], close);
+        EXPECT_NEAR(fitted().capacity[m], one.capacity[m], roundingOfFit);
+        EXPECT_NEAR(fitted().watts[m], one.watts[m], roundingOfFit);
+        EXPECT_NEAR(fitted().plf[m], one.plf[m], roundingOfFit);
     }
 }
 
@@ -115,8 +114,8 @@ TEST_F(AverageBlockTest, AnUpdateFitsTheSameModelAgain) {
     EXPECT_EQ(fitted().name, "Air-20");
     EXPECT_EQ(fitted().number, 1);
     EXPECT_EQ(fitted().elt, (ByMode<double>{64, 70}));
-    EXPECT_NEAR(fitted().capacity[cooling], 400, close);
-    EXPECT_NEAR(fitted().flowRate[cooling], 400 * 2 / 12.0, close);
+    EXPECT_NEAR(fitted().capacity[cooling], 400, roundingOfFit);
+    EXPECT_NEAR(fitted().flowRate[cooling], 400 * 2 / 12.0, roundingOfFit);
     EXPECT_EQ(shown(window, "LOCapacityText(0)"), "400.0");
     EXPECT_FALSE(window.updating);
     EXPECT_FALSE(window.samePumpUpdated);
@@ -128,7 +127,7 @@ TEST_F(AverageBlockTest, AnUpdateReadsTheZonesOwnSeries) {
     window.choose("HPManufacturerCombo", 1);
     window.type("LOGainsText(1)", "400");
     window.click("LOUpdatePumpsCommand");
-    EXPECT_NEAR(fitted().capacity[cooling], 400, close);
+    EXPECT_NEAR(fitted().capacity[cooling], 400, roundingOfFit);
     EXPECT_EQ(fitted().seriesName, "Air");
     EXPECT_EQ(window.catalogue.PumpList(activeSlot, 0).name, "Other-50");
 }
@@ -179,7 +178,7 @@ TEST_F(AverageBlockTest, LoadConditionsTypedInTheDetailsEnterTheFit) {
     window.type("LOGainsText(1)", "300");
     window.click("LOReturnCommand");
     EXPECT_EQ(fitted().elf, (ByMode<double>{0, 500}));
-    EXPECT_NEAR(fitted().capacity[cooling], 300, close);
+    EXPECT_NEAR(fitted().capacity[cooling], 300, roundingOfFit);
 }
 
 TEST_F(AverageBlockTest, AFileWithSeveralZonesShowsItsFirstAndKeepsTheOthers) {

@@ -4,12 +4,13 @@
 
 #include "design/frmHZDesign.h"
 #include "persistence/project_fixture.h"
+#include "persistence/project_lines.h"
 
 namespace varnholt {
 namespace {
 
 /// The body of a project, line by line, each value another one.
-const std::vector<std::string> bodyLines{
+const std::vector<std::string> trenchLines{
     // temperatures, diameters, least flow, kept pairs
     "86.5,38.5", "96.25,32.5", "66,71", "54,101", "1.315,1.08", "2.7,4.1", "7,8", "0.5,0.25",
     // extra power
@@ -30,23 +31,15 @@ const std::vector<std::string> bodyLines{
     // link and tower
     "frmZoneManage", "30", "36.5", "40.25", "7.5", "9.25", "937.5", "75,70"};
 
-std::string linesOf(const std::vector<std::string>& lines) {
-    std::string text;
-    for (const std::string& line : lines) text += line + "\r\n";
-    return text;
+std::string trenchHead(const std::string& version) {
+    return projectHead(version, "Horizontal Design", "Mill house");
 }
 
-std::string head(const std::string& version) {
-    return "Varnholt Data File Version " + version +
-           "\r\nHorizontal Design\r\nMill house\r\nA. Designer\r\n#2024-03-05#\r\n#2024-09-01#"
-           "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n1\r\n\r\n";
-}
-
-std::string newFile() { return head("3.0") + linesOf(bodyLines); }
+std::string newTrenchFile() { return trenchHead("3.0") + linesOf(trenchLines); }
 /// Every line is there in every version.
-std::string oldFile() { return bytesOf(sampleProject("horizontal_1.1.vht")); }
+std::string oldTrenchFile() { return bytesOf(sampleProject("horizontal_1.1.vht")); }
 
-HorizontalProject projectIn(const std::string& bytes) {
+HorizontalProject trenchProjectIn(const std::string& bytes) {
     HorizontalProject project;
     readProjectText(bytes, project);
     return project;
@@ -72,7 +65,7 @@ class HorizontalFile : public ProjectTest {
 };
 
 TEST_F(HorizontalFile, HoldsEveryValueInItsOrder) {
-    const HorizontalProject p = projectIn(newFile());
+    const HorizontalProject p = trenchProjectIn(newTrenchFile());
     EXPECT_EQ(p.information.projectName, "Mill house");
     EXPECT_EQ(p.conditions.inletTemp, (ByMode<double>{86.5, 38.5}));
     EXPECT_EQ(p.results->outlet.outletTemp, (ByMode<double>{96.25, 32.5}));
@@ -136,7 +129,7 @@ TEST_F(HorizontalFile, HoldsEveryValueInItsOrder) {
 }
 
 TEST_F(HorizontalFile, IsWrittenAsItWasRead) {
-    EXPECT_EQ(projectText(projectIn(newFile())), newFile());
+    EXPECT_EQ(projectText(trenchProjectIn(newTrenchFile())), newTrenchFile());
 }
 
 TEST_F(HorizontalFile, OfANewProjectHoldsTheToldDefaults) {
@@ -150,14 +143,14 @@ TEST_F(HorizontalFile, OfANewProjectHoldsTheToldDefaults) {
 }
 
 TEST_F(HorizontalFile, TakesItsNumbersWhereverTheLinesEnd) {
-    std::string bytes = newFile();
+    std::string bytes = newTrenchFile();
     bytes.replace(bytes.find("\r\n15,7.5,40\r\n"), 13, "\r\n15\r\n7.5\r\n 40\r\n");
     bytes.replace(bytes.find("96,84"), 5, " 96 , 84 ");
-    EXPECT_EQ(projectIn(bytes), projectIn(newFile()));
+    EXPECT_EQ(trenchProjectIn(bytes), trenchProjectIn(newTrenchFile()));
 }
 
 TEST_F(HorizontalFile, OfAnOldVersionHoldsLinkAndTowerToo) {
-    const HorizontalProject p = projectIn(oldFile());
+    const HorizontalProject p = trenchProjectIn(oldTrenchFile());
     EXPECT_EQ(p.information.projectName, "Old mill");
     EXPECT_EQ(p.arrangement.pipesPerTrench, 3);
     EXPECT_EQ(p.loads.linkType, "frmAvgBlock");
@@ -166,7 +159,7 @@ TEST_F(HorizontalFile, OfAnOldVersionHoldsLinkAndTowerToo) {
 }
 
 TEST_F(HorizontalFile, CutAtAnyLineKeepsTheValuesReadAndTellsTheEnd) {
-    const std::string whole = newFile();
+    const std::string whole = newTrenchFile();
     for (std::size_t end = whole.find('\n', whole.find("#2024-09-01#")); end + 1 < whole.size();
          end = whole.find('\n', end + 1)) {
         SCOPED_TRACE(end);
@@ -182,7 +175,7 @@ TEST_F(HorizontalFile, CutAtAnyLineKeepsTheValuesReadAndTellsTheEnd) {
 }
 
 TEST_F(HorizontalFile, DamagedAnywhereNeverEndsInACrash) {
-    const std::string whole = newFile();
+    const std::string whole = newTrenchFile();
     int read = 0;
     for (std::size_t at = 0; at < whole.size(); ++at)
         for (const char byte : {'9', '-', '\n', 'e', ','}) {
@@ -200,7 +193,7 @@ TEST_F(HorizontalFile, DamagedAnywhereNeverEndsInACrash) {
 }
 
 TEST_F(HorizontalFile, OpensInAWindowOfItsKindWithItsResultsCurrent) {
-    writeBytes(folder / "work files/mill.vht", newFile());
+    writeBytes(folder / "work files/mill.vht", newTrenchFile());
     frmHZDesign& d = openField("work files/mill.vht");
     EXPECT_EQ(messages(), 0u);
     EXPECT_EQ(d.caption(), "Horizontal Design Project - mill.vht");
@@ -219,7 +212,7 @@ TEST_F(HorizontalFile, OpensInAWindowOfItsKindWithItsResultsCurrent) {
 }
 
 TEST_F(HorizontalFile, OfThreePipesShowsThemAndItsArrangement) {
-    writeBytes(folder / "work files/old.vht", oldFile());
+    writeBytes(folder / "work files/old.vht", oldTrenchFile());
     frmHZDesign& d = openField("work files/old.vht");
     EXPECT_EQ(d.control("PAInTrenchConfigurationLabel(3)").caption(), "3");
     EXPECT_TRUE(d.control("PAConfigurationOption(0)").checked());
@@ -229,17 +222,17 @@ TEST_F(HorizontalFile, OfThreePipesShowsThemAndItsArrangement) {
 }
 
 TEST_F(HorizontalFile, SavedByItsWindowIsTheSame) {
-    writeBytes(folder / "work files/mill.vht", newFile());
+    writeBytes(folder / "work files/mill.vht", newTrenchFile());
     openField("work files/mill.vht");
     main.click("mnuFileSave");
     // Without a zone file there is no link.
-    std::vector<std::string> unlinked = bodyLines;
+    std::vector<std::string> unlinked = trenchLines;
     *std::find(unlinked.begin(), unlinked.end(), "frmZoneManage") = "";
-    EXPECT_EQ(bytesOf(folder / "work files/mill.vht"), head("3.0") + linesOf(unlinked));
+    EXPECT_EQ(bytesOf(folder / "work files/mill.vht"), trenchHead("3.0") + linesOf(unlinked));
 }
 
 TEST_F(HorizontalFile, GivesTheNextDesignItsDefaults) {
-    writeBytes(folder / "work files/mill.vht", newFile());
+    writeBytes(folder / "work files/mill.vht", newTrenchFile());
     openField("work files/mill.vht");
     main.click("mnuFileSave");
     // Neither the number of trenches, 5, nor the extra power stands here.
@@ -256,7 +249,7 @@ TEST_F(HorizontalFile, GivesTheNextDesignItsDefaults) {
 }
 
 TEST_F(HorizontalFile, LeavesTheNextDesignOneTrenchAndAllOtherValues) {
-    writeBytes(folder / "work files/mill.vht", newFile());
+    writeBytes(folder / "work files/mill.vht", newTrenchFile());
     frmHZDesign& d = openField("work files/mill.vht");
     d.slide("PAConfigurationUpDown(0)", 12);
     main.click("mnuFileSave");

@@ -8,7 +8,7 @@ namespace varnholt {
 namespace {
 
 /// Every input differs from its default and from every other.
-SecondOpinionInputs unusual() {
+SecondOpinionInputs unusualOpinion() {
     SecondOpinionInputs inputs;
     inputs.buriedDepth = 6.5;
     inputs.pulseHours = 5.25;
@@ -27,47 +27,47 @@ SecondOpinionInputs unusual() {
     return inputs;
 }
 
-BoreholeProject projectWith(const SecondOpinionInputs& inputs) {
+BoreholeProject projectWithOpinion(const SecondOpinionInputs& inputs) {
     BoreholeProject project;
     project.secondOpinion = inputs;
     return project;
 }
 
-std::string blockOf(const SecondOpinionInputs& inputs) {
+std::string opinionBlock(const SecondOpinionInputs& inputs) {
     const std::string without = projectText(BoreholeProject{});
-    const std::string with = projectText(projectWith(inputs));
+    const std::string with = projectText(projectWithOpinion(inputs));
     EXPECT_TRUE(with.starts_with(without));
     return with.substr(without.size());
 }
 
 TEST(SecondOpinionBlock, IsNotWrittenWhileEveryInputIsItsDefault) {
-    EXPECT_EQ(blockOf({}), "");
-    EXPECT_EQ(projectText(projectWith({})).find("Second Opinion"), std::string::npos);
+    EXPECT_EQ(opinionBlock({}), "");
+    EXPECT_EQ(projectText(projectWithOpinion({})).find("Second Opinion"), std::string::npos);
 }
 
 TEST(SecondOpinionBlock, HasALineForEachInputInTheOrderOfTheWindow) {
     std::string lines = "Second Opinion 1.0\r\n6.5\r\n5.25\r\n33\r\n2\r\n1\r\n1\r\n";
     for (const int from : {100, 101, 200, 201})
         for (int month = 0; month < 12; ++month) lines += std::to_string(from + 2 * month) + "\r\n";
-    EXPECT_EQ(blockOf(unusual()), lines + "2\r\n312.5\r\n");
+    EXPECT_EQ(opinionBlock(unusualOpinion()), lines + "2\r\n312.5\r\n");
 }
 
 TEST(SecondOpinionBlock, IsWrittenAsSoonAsOneInputDiffers) {
     SecondOpinionInputs inputs;
     inputs.monthTop[11][heating] = 0.1;
-    const std::string block = blockOf(inputs);
+    const std::string block = opinionBlock(inputs);
     EXPECT_TRUE(block.starts_with("Second Opinion 1.0\r\n4\r\n0\r\n20\r\n0\r\n0\r\n0\r\n"));
     EXPECT_EQ(std::count(block.begin(), block.end(), '\n'), 1 + 6 + 48 + 2);
 }
 
 TEST(SecondOpinionBlock, IsReadAsItWasWritten) {
     BoreholeProject read;
-    readProjectText(projectText(projectWith(unusual())), read);
-    EXPECT_EQ(read.secondOpinion, unusual());
+    readProjectText(projectText(projectWithOpinion(unusualOpinion())), read);
+    EXPECT_EQ(read.secondOpinion, unusualOpinion());
 }
 
 TEST(SecondOpinionBlock, LeavesTheDefaultsToAProjectWithoutIt) {
-    BoreholeProject read = projectWith(unusual());
+    BoreholeProject read = projectWithOpinion(unusualOpinion());
     readProjectText(projectText(BoreholeProject{}), read);
     EXPECT_EQ(read.secondOpinion, SecondOpinionInputs{});
 }
@@ -87,12 +87,12 @@ class SecondOpinionFile : public ProjectTest {
     }
     std::string notice() { return design().control("NoticeLabel").caption(); }
     std::string bytes(const std::string& name) { return readWholeFile(folder / name); }
-    const std::string whole = projectText(projectWith(unusual()));
+    const std::string whole = projectText(projectWithOpinion(unusualOpinion()));
     const std::string plain = projectText(BoreholeProject{});
 };
 
 TEST_F(SecondOpinionFile, IsOpenedWithoutAWord) {
-    EXPECT_EQ(openText(whole).project().secondOpinion, unusual());
+    EXPECT_EQ(openText(whole).project().secondOpinion, unusualOpinion());
     EXPECT_EQ(notice(), "");
     EXPECT_FALSE(design().isChanged());
     EXPECT_FALSE(design().isStale());
@@ -123,7 +123,8 @@ TEST_F(SecondOpinionFile, TakesTheDefaultsWhereverItIsCut) {
         const bool complete = length + 1 == whole.size();
         ReadingReport report;
         readProjectText(whole.substr(0, length), into, &report);
-        EXPECT_EQ(into.project().secondOpinion, complete ? unusual() : SecondOpinionInputs{});
+        EXPECT_EQ(into.project().secondOpinion,
+                  complete ? unusualOpinion() : SecondOpinionInputs{});
         EXPECT_EQ(report.isWhole(), without || complete);
         EXPECT_EQ(report.unread, without || complete ? "" : "Second Opinion");
         EXPECT_EQ(into.project().arrangement, BoreholeProject{}.arrangement);
@@ -173,7 +174,7 @@ TEST_F(SecondOpinionFile, TellsADamagedOrANewerBlockAndSavesItUnderAnotherName) 
 }
 
 TEST_F(SecondOpinionFile, TellsLinesBehindItAsBehindAnyBody) {
-    EXPECT_EQ(openText(whole + "more\r\n").project().secondOpinion, unusual());
+    EXPECT_EQ(openText(whole + "more\r\n").project().secondOpinion, unusualOpinion());
     EXPECT_NE(notice().find("More from line"), std::string::npos) << notice();
 }
 

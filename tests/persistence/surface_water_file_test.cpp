@@ -2,12 +2,13 @@
 // The files of surface water designs: the project, and the defaults that the next one begins with.
 #include "design/frmSWDesign.h"
 #include "persistence/project_fixture.h"
+#include "persistence/project_lines.h"
 
 namespace varnholt {
 namespace {
 
 /// The body of a project, line by line, each value another one.
-const std::vector<std::string> bodyLines{
+const std::vector<std::string> pondLines{
     // cooling: temperatures, least flow, day, ground, water, loss, primary header
     "86.5", "96.25", "66", "54", "2.7", "205", "71.5", "77", "3.2", "2", "5", "0.015", "0.002",
     // heating, branch header
@@ -30,23 +31,15 @@ const std::vector<std::string> bodyLines{
     "96", "6.95", "3.96", "3.33", "27.2", "2359.5", "9", "9.5", "11.25", "8.875", "16.52", "84",
     "6.1", "3.88", "3.24", "23.8", "2019.5", "4", "5", "-7.0625", "20.275", "19.24"};
 
-std::string linesOf(const std::vector<std::string>& lines) {
-    std::string text;
-    for (const std::string& line : lines) text += line + "\r\n";
-    return text;
-}
-
-std::string head(const std::string& version) {
-    return "Varnholt Data File Version " + version +
-           "\r\nSurface Water Design\r\nMill pond\r\nA. Designer\r\n#2024-03-05#\r\n#2024-09-01#"
-           "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n1\r\n\r\n";
+std::string pondHead(const std::string& version) {
+    return projectHead(version, "Surface Water Design", "Mill pond");
 }
 
 /// Line 24 of the file's order is the last that every version has; only newer ones tell the link.
-std::string newFile() { return head("3.0") + linesOf(bodyLines) + "frmZoneManage\r\n"; }
-std::string oldFile() { return head("1.2") + linesOf(bodyLines); }
+std::string newPondFile() { return pondHead("3.0") + linesOf(pondLines) + "frmZoneManage\r\n"; }
+std::string oldPondFile() { return pondHead("1.2") + linesOf(pondLines); }
 
-SurfaceWaterProject projectIn(const std::string& bytes) {
+SurfaceWaterProject pondProjectIn(const std::string& bytes) {
     SurfaceWaterProject project;
     readProjectText(bytes, project);
     return project;
@@ -72,7 +65,7 @@ class SurfaceWaterFile : public ProjectTest {
 };
 
 TEST_F(SurfaceWaterFile, HoldsEveryValueInItsOrder) {
-    const SurfaceWaterProject p = projectIn(newFile());
+    const SurfaceWaterProject p = pondProjectIn(newPondFile());
     EXPECT_EQ(p.information.projectName, "Mill pond");
     EXPECT_EQ(p.conditions.inletTemp, (ByMode<double>{86.5, 38.5}));
     EXPECT_EQ(p.results->outlet.outletTemp, (ByMode<double>{96.25, 32.5}));
@@ -127,11 +120,11 @@ TEST_F(SurfaceWaterFile, HoldsEveryValueInItsOrder) {
 }
 
 TEST_F(SurfaceWaterFile, IsWrittenAsItWasRead) {
-    EXPECT_EQ(projectText(projectIn(newFile())), newFile());
+    EXPECT_EQ(projectText(pondProjectIn(newPondFile())), newPondFile());
 }
 
 TEST_F(SurfaceWaterFile, TellsTheRestOfAPipeAndOfTheFlows) {
-    const SurfaceWaterProject p = projectIn(newFile());
+    const SurfaceWaterProject p = pondProjectIn(newPondFile());
     EXPECT_EQ(p.header.headerOutsideDiameter, (std::array<double, 2>{3.5, 2.375}));
     EXPECT_EQ(p.results->loops.parallelLoops, (ByMode<std::int16_t>{9, 4}));
     EXPECT_EQ(p.results->flows.primaryHeaderFlow, (ByMode<double>{13.6, 11.9}));  // 27.2/2, 23.8/2
@@ -140,43 +133,43 @@ TEST_F(SurfaceWaterFile, TellsTheRestOfAPipeAndOfTheFlows) {
 }
 
 TEST_F(SurfaceWaterFile, KeepsFactorsThatNoPipeHas) {
-    std::string bytes = newFile();
+    std::string bytes = newPondFile();
     bytes.replace(bytes.find("\r\n0.015\r\n"), 9, "\r\n0.5\r\n");
-    EXPECT_EQ(projectIn(bytes).header.headerWaterFactor[0], 0.5);
+    EXPECT_EQ(pondProjectIn(bytes).header.headerWaterFactor[0], 0.5);
 }
 
 TEST_F(SurfaceWaterFile, WithoutLoopsIsReadAndTellsNoFlow) {
-    std::string bytes = newFile();
+    std::string bytes = newPondFile();
     bytes.replace(bytes.find("\r\n2359.5\r\n9\r\n"), 13, "\r\n2359.5\r\n0\r\n");
-    const SurfaceWaterProject p = projectIn(bytes);
+    const SurfaceWaterProject p = pondProjectIn(bytes);
     EXPECT_EQ(p.loop.parallelLoops, (ByMode<std::int16_t>{0, 4}));
     EXPECT_EQ(p.results->flows, modCalculations::PipeFlows());
 }
 
 TEST_F(SurfaceWaterFile, OfVersionOneHasNoLink) {
-    const SurfaceWaterProject p = projectIn(oldFile());
+    const SurfaceWaterProject p = pondProjectIn(oldPondFile());
     EXPECT_EQ(p.loads.linkType, "");
     EXPECT_EQ(p.results->headLoss.headerLoss, (ByMode<double>{16.52, 19.24}));
     SurfaceWaterProject linked;
     linked.loads.linkType = "frmAvgBlock";
-    readProjectText(oldFile(), linked);
+    readProjectText(oldPondFile(), linked);
     EXPECT_EQ(linked.loads.linkType, "");
 }
 
 TEST_F(SurfaceWaterFile, OfAnOldVersionIsReadByItsEncodingAndSavedAsTheNewest) {
-    SurfaceWaterProject old = projectIn(bytesOf(sampleProject("surface_water_1.2.vht")));
+    SurfaceWaterProject old = pondProjectIn(bytesOf(sampleProject("surface_water_1.2.vht")));
     EXPECT_EQ(old.information.projectName, "M\u00FChlteich");
     EXPECT_EQ(old.information.comments, "Measured in August:\r\n77 degrees at 8 feet");
     EXPECT_EQ(old.loads.linkType, "");
     const std::string newest = bytesOf(sampleProject("surface_water_3.0.vht"));
-    EXPECT_EQ(projectText(projectIn(newest)), newest);
+    EXPECT_EQ(projectText(pondProjectIn(newest)), newest);
     // They differ in encoding, version and the line of the link.
     old.loads.linkType = "frmZoneManage";
     EXPECT_EQ(projectText(old), newest);
 }
 
 TEST_F(SurfaceWaterFile, CutAtAnyLineKeepsTheValuesReadAndTellsTheEnd) {
-    const std::string whole = newFile();
+    const std::string whole = newPondFile();
     for (std::size_t end = whole.find('\n', whole.find("#2024-09-01#")); end + 1 < whole.size();
          end = whole.find('\n', end + 1)) {
         SCOPED_TRACE(end);
@@ -192,7 +185,7 @@ TEST_F(SurfaceWaterFile, CutAtAnyLineKeepsTheValuesReadAndTellsTheEnd) {
 }
 
 TEST_F(SurfaceWaterFile, DamagedAnywhereNeverEndsInACrash) {
-    const std::string whole = newFile();
+    const std::string whole = newPondFile();
     int read = 0;
     for (std::size_t at = 0; at < whole.size(); ++at)
         for (const char byte : {'9', '-', '\n', 'e'}) {
@@ -210,7 +203,7 @@ TEST_F(SurfaceWaterFile, DamagedAnywhereNeverEndsInACrash) {
 }
 
 TEST_F(SurfaceWaterFile, OpensInAWindowOfItsKindWithItsResultsCurrent) {
-    writeBytes(folder / "work files/mill.vht", oldFile());
+    writeBytes(folder / "work files/mill.vht", oldPondFile());
     frmSWDesign& d = openPond("work files/mill.vht");
     EXPECT_EQ(messages(), 0u);
     EXPECT_EQ(d.caption(), "Surface Water Design Project - mill.vht");
@@ -226,14 +219,15 @@ TEST_F(SurfaceWaterFile, OpensInAWindowOfItsKindWithItsResultsCurrent) {
 }
 
 TEST_F(SurfaceWaterFile, SavedByItsWindowIsTheSame) {
-    writeBytes(folder / "work files/mill.vht", oldFile());
+    writeBytes(folder / "work files/mill.vht", oldPondFile());
     openPond("work files/mill.vht");
     main.click("mnuFileSave");
-    EXPECT_EQ(bytesOf(folder / "work files/mill.vht"), head("3.0") + linesOf(bodyLines) + "\r\n");
+    EXPECT_EQ(bytesOf(folder / "work files/mill.vht"),
+              pondHead("3.0") + linesOf(pondLines) + "\r\n");
 }
 
 TEST_F(SurfaceWaterFile, GivesTheNextDesignItsDefaultsInAnOrderOfTheirOwn) {
-    writeBytes(folder / "work files/mill.vht", oldFile());
+    writeBytes(folder / "work files/mill.vht", oldPondFile());
     openPond("work files/mill.vht");
     main.click("mnuFileSave");
     // The motor's efficiency, 80, stands before the details here.
@@ -248,7 +242,7 @@ TEST_F(SurfaceWaterFile, GivesTheNextDesignItsDefaultsInAnOrderOfTheirOwn) {
 }
 
 TEST_F(SurfaceWaterFile, LeavesTheNextDesignWhatItsDefaultsDoNotHold) {
-    writeBytes(folder / "work files/mill.vht", oldFile());
+    writeBytes(folder / "work files/mill.vht", oldPondFile());
     openPond("work files/mill.vht");
     main.click("mnuFileSave");
     const SurfaceWaterProject& next = newPond().project();

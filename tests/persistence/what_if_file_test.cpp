@@ -26,7 +26,7 @@ std::shared_ptr<const BoreholeProject> keptDesign() {
 }
 
 /// Every input differs from what is built in, and every number from every other.
-WhatIfInputs unusual() {
+WhatIfInputs unusualWhatIf() {
     WhatIfInputs inputs;
     double value = 0.125;
     for (const WhatIfNumber& number : whatIfNumbers()) number.in(inputs) = value++;
@@ -53,18 +53,18 @@ std::string textOf(const BoreholeProject& project) {
     return file.bytes();
 }
 
-BoreholeProject projectWith(const WhatIfInputs& inputs) {
+BoreholeProject projectWithWhatIf(const WhatIfInputs& inputs) {
     BoreholeProject project;
     project.whatIf = inputs;
     return project;
 }
 
-const std::string without = textOf(BoreholeProject{});
+const std::string withoutWhatIf = textOf(BoreholeProject{});
 
-std::string blockOf(const WhatIfInputs& inputs) {
-    const std::string with = textOf(projectWith(inputs));
-    EXPECT_TRUE(with.starts_with(without));
-    return with.substr(without.size());
+std::string whatIfBlock(const WhatIfInputs& inputs) {
+    const std::string with = textOf(projectWithWhatIf(inputs));
+    EXPECT_TRUE(with.starts_with(withoutWhatIf));
+    return with.substr(withoutWhatIf.size());
 }
 
 /// A reading of a file that ends in some text.
@@ -85,20 +85,20 @@ Read readText(const std::string& text, BoreholeProject project = {}) {
 }
 
 /// A project as built in, with so much behind it.
-Read readWith(const std::string& tail) { return readText(without + tail); }
+Read readWith(const std::string& tail) { return readText(withoutWhatIf + tail); }
 
-TEST(WhatIfBlock, IsNotWrittenWhileEveryInputIsAsBuiltIn) { EXPECT_EQ(blockOf({}), ""); }
+TEST(WhatIfBlock, IsNotWrittenWhileEveryInputIsAsBuiltIn) { EXPECT_EQ(whatIfBlock({}), ""); }
 
 TEST(WhatIfBlock, HasALineForEachValueThatDiffers) {
     WhatIfInputs inputs;
     inputs.spreads.low[0] = 33;
-    EXPECT_EQ(blockOf(inputs), "What If 1.0\r\nspreadLow(0) 33\r\nEnd\r\n");
+    EXPECT_EQ(whatIfBlock(inputs), "What If 1.0\r\nspreadLow(0) 33\r\nEnd\r\n");
     inputs.measure = classicalMethod;
     inputs.land.corner = {{0, 0}, {10.5, 0}, {0, -3}};
     inputs.land.noGo = {{{1, 2}, {3, 4}, {5, 6}}};
     inputs.currency = "EUR";
     inputs.prices.costFoot = 15.5;
-    EXPECT_EQ(blockOf(inputs),
+    EXPECT_EQ(whatIfBlock(inputs),
               "What If 1.0\r\nmeasure 0\r\nspreadLow(0) 33\r\ncostFoot 15.5\r\ncurrency EUR\r\n"
               "corner 0 0\r\ncorner 10.5 0\r\ncorner 0 -3\r\n"
               "noGo 1 2 3 4 5 6\r\nEnd\r\n");
@@ -110,7 +110,7 @@ TEST(WhatIfBlock, HoldsTheBodyOfAnAlternativeWithoutFurtherBlocks) {
     kept.secondOpinion.buriedDepth = 7;
     kept.whatIf.drawnDepth = 300;
     inputs.alternatives = {{"Wider", std::make_shared<BoreholeProject>(kept)}};
-    const std::string block = blockOf(inputs);
+    const std::string block = whatIfBlock(inputs);
     EXPECT_TRUE(block.starts_with("What If 1.0\r\nalternative\r\nWider\r\n"));
     EXPECT_EQ(block.find("Second Opinion"), std::string::npos);
     EXPECT_EQ(block.find("What If", 5), std::string::npos);
@@ -124,29 +124,30 @@ TEST(WhatIfBlock, HoldsTheBodyOfAnAlternativeWithoutFurtherBlocks) {
 }
 
 TEST(WhatIfBlock, IsReadAsItWasWritten) {
-    const Read read = readWith(blockOf(unusual()));
-    EXPECT_EQ(read.project.whatIf, unusual());
+    const Read read = readWith(whatIfBlock(unusualWhatIf()));
+    EXPECT_EQ(read.project.whatIf, unusualWhatIf());
     EXPECT_FALSE(read.leftover);
     ASSERT_EQ(read.project.whatIf.alternatives.size(), 2u);
     EXPECT_EQ(*read.project.whatIf.alternatives[0].design, *keptDesign());
 }
 
 TEST(WhatIfBlock, StandsBehindTheSecondOpinionOrAlone) {
-    BoreholeProject both = projectWith(unusual());
+    BoreholeProject both = projectWithWhatIf(unusualWhatIf());
     both.secondOpinion.buriedDepth = 9;
     EXPECT_EQ(readText(textOf(both)).project, both);
     EXPECT_LT(textOf(both).find("Second Opinion 1.0"), textOf(both).find("What If 1.0"));
-    const Read alone = readWith(blockOf(unusual()));
+    const Read alone = readWith(whatIfBlock(unusualWhatIf()));
     EXPECT_EQ(alone.project.secondOpinion, SecondOpinionInputs{});
     EXPECT_FALSE(alone.leftover);
 }
 
 TEST(WhatIfBlock, LeavesWhatIsBuiltInToAProjectWithoutIt) {
-    EXPECT_EQ(readText(without, projectWith(unusual())).project.whatIf, WhatIfInputs{});
+    EXPECT_EQ(readText(withoutWhatIf, projectWithWhatIf(unusualWhatIf())).project.whatIf,
+              WhatIfInputs{});
 }
 
 TEST(WhatIfBlock, GivesWhatIsBuiltInWhereverItIsCut) {
-    const std::string block = blockOf(unusual());
+    const std::string block = whatIfBlock(unusualWhatIf());
     for (std::size_t length = 1; length + 1 < block.size(); ++length) {
         const Read read = readWith(block.substr(0, length));
         ASSERT_EQ(read.project.whatIf, WhatIfInputs{}) << length;
@@ -154,7 +155,7 @@ TEST(WhatIfBlock, GivesWhatIsBuiltInWhereverItIsCut) {
         ASSERT_EQ(read.unread, "What If") << length;
     }
     // A line may end in a carriage return alone.
-    EXPECT_EQ(readWith(block.substr(0, block.size() - 1)).project.whatIf, unusual());
+    EXPECT_EQ(readWith(block.substr(0, block.size() - 1)).project.whatIf, unusualWhatIf());
 }
 
 TEST(WhatIfBlock, GivesWhatIsBuiltInForAnotherVersionOrAFalseValue) {
@@ -176,7 +177,7 @@ TEST(WhatIfBlock, KeepsTheNamesOfANewerProgram) {
     const Read read = readWith("What If 1.0\r\nsoilLayers 3 of clay\r\ncostFoot 15\r\nEnd\r\n");
     EXPECT_FALSE(read.leftover);
     EXPECT_EQ(read.project.whatIf.prices.costFoot, 15);
-    EXPECT_EQ(blockOf(read.project.whatIf),
+    EXPECT_EQ(whatIfBlock(read.project.whatIf),
               "What If 1.0\r\ncostFoot 15\r\nsoilLayers 3 of clay\r\nEnd\r\n");
 }
 

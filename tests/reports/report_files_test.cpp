@@ -16,7 +16,7 @@
 namespace varnholt {
 namespace {
 
-constexpr double columns[] = {90, 90};
+constexpr double reportColumns[] = {90, 90};
 
 /// A report of one value with a name and one zone's row.
 Report reportOf(const std::string& words) {
@@ -25,7 +25,7 @@ Report reportOf(const std::string& words) {
     report.caption = words;
     report.designer = words;
     report.bands.push_back({ReportSection::ProjectID_Header,
-                            columns,
+                            reportColumns,
                             {{{{.control = "ALabel", .text = words, .style = ItemStyle::caption},
                                {.control = "ATextLabel", .text = words, .first = 1}}}},
                             0});
@@ -37,11 +37,13 @@ Report zonesOf(const std::string& title) {
     report.object = "rptZoneNM";
     report.zones = {"Zone 1"};
     report.fields = {"txtTitle", "txtName"};
-    report.bands.push_back(
-        {ReportSection::Zones_Header, columns, {{{{.control = "txtTitle", .text = title}}}}, 1});
+    report.bands.push_back({ReportSection::Zones_Header,
+                            reportColumns,
+                            {{{{.control = "txtTitle", .text = title}}}},
+                            1});
     report.bands.push_back(
         {ReportSection::Pumps_Detail,
-         columns,
+         reportColumns,
          {{{{.control = "PumpLabel", .text = "Pump", .style = ItemStyle::caption},
             {.control = "txtName", .text = "AB-036", .first = 1}}}},
          1});
@@ -120,7 +122,7 @@ TEST(HtmlReport, DrawsADrawingWithItsDescription) {
     bore.pipes = {{1, 0, 1, 0.8}, {-1, 0, 1, 0.8}};
     report.drawings.push_back({bore, "Section of the bore"});
     report.bands.push_back({ReportSection::ProjectID_Header,
-                            columns,
+                            reportColumns,
                             {{{{.control = "imgDrawing",
                                 .text = "Section of the bore",
                                 .style = ItemStyle::drawing}}}},

@@ -52,7 +52,7 @@ struct ExpectedReport {
     std::map<ReportSection, std::string> bands;
 };
 
-const ExpectedReport expected[] = {
+const ExpectedReport expectedReports[] = {
     {"rptZoneSM",
      {{ReportSection::PageHeader,
        inlet + pumpCaptions +
@@ -104,10 +104,10 @@ const ExpectedReport expected[] = {
 
 TEST(ReportNames, OfTheZoneReportsAreThoseOfTheirTables) {
     for (std::size_t i = 0; i < zoneReports.size(); ++i) {
-        ASSERT_STREQ(zoneReports[i].object, expected[i].object);
-        for (const auto& [section, names] : expected[i].bands)
+        ASSERT_STREQ(zoneReports[i].object, expectedReports[i].object);
+        for (const auto& [section, names] : expectedReports[i].bands)
             EXPECT_EQ(namesOf(zoneReports[i].bands, section), namesIn(names))
-                << expected[i].object << " " << nameOf(section);
+                << expectedReports[i].object << " " << nameOf(section);
     }
 }
 

@@ -6,7 +6,7 @@
 
 #include <filesystem>
 
-#include "basis/run_time_error.h"
+#include "basis/error_of.h"
 #include "basis/temporary_folder.h"
 
 namespace varnholt {
@@ -17,15 +17,6 @@ namespace fs = std::filesystem;
 class Files : public testing::Test {
  protected:
     std::string path(const std::string& name) const { return folder_.path(name); }
-    template <class Action>
-    static int errorOf(Action&& action) {
-        try {
-            action();
-        } catch (const RunTimeError& error) {
-            return error.number();
-        }
-        return 0;
-    }
 
     TemporaryFolder folder_;
 };

@@ -3,22 +3,12 @@
 
 #include <gtest/gtest.h>
 
-#include "basis/run_time_error.h"
+#include "basis/error_of.h"
 #include "basis/system/files.h"
 #include "basis/temporary_folder.h"
 
 namespace varnholt {
 namespace {
-
-template <class Action>
-int errorOf(Action&& action) {
-    try {
-        action();
-    } catch (const RunTimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 TEST(Folders, AreMadeWithThoseAboveThem) {
     const TemporaryFolder folder;

@@ -13,7 +13,7 @@
 namespace varnholt {
 namespace {
 
-const std::string folder = VARNHOLT_SOURCE_DIR "/examples/";
+const std::string examplesFolder = VARNHOLT_SOURCE_DIR "/examples/";
 
 void expectDay(const DayLoads& day, const DayLoads& expected) {
     for (std::size_t block = 0; block < timeBlocks; ++block)
@@ -22,7 +22,7 @@ void expectDay(const DayLoads& day, const DayLoads& expected) {
 
 TEST(Examples, OfTheSchoolGoIntoAZone) {
     Zone zone;
-    importInto(zone, heatingFirst(readSimulationFile(folder + "school-south.gt1")));
+    importInto(zone, heatingFirst(readSimulationFile(examplesFolder + "school-south.gt1")));
     for (std::size_t block = 0; block < timeBlocks; ++block) {
         EXPECT_NEAR(zone.gains[block][cooling], block == 1 ? 1912.5 : 220.554838710, 1e-8);
         EXPECT_NEAR(zone.gains[block][heating], block == 1 ? 864.5 : 0, 1e-8);
@@ -32,7 +32,8 @@ TEST(Examples, OfTheSchoolGoIntoAZone) {
 }
 
 TEST(Examples, OfTheSchoolAreReadByTheImporter) {
-    ByMode<MonthlyLoads> years = coolingFirst(readSimulationFile(folder + "school-south.gth"));
+    ByMode<MonthlyLoads> years =
+        coolingFirst(readSimulationFile(examplesFolder + "school-south.gth"));
     for (MonthlyLoads& year : years) year.recompute();
     EXPECT_NEAR(years[cooling].peakMonthFactor(), 0.262768993, 5e-10);
     EXPECT_NEAR(years[heating].peakMonthFactor(), 0.153225806, 5e-10);
@@ -41,7 +42,7 @@ TEST(Examples, OfTheSchoolAreReadByTheImporter) {
 }
 
 TEST(Examples, OfTheOfficesHoursBecomeMonthsAndAPeakDay) {
-    const TableText table(readWholeFile(folder + "small-office.csv"));
+    const TableText table(readWholeFile(examplesFolder + "small-office.csv"));
     const TableFormat format = table.guessedFormat();
     const auto rows = table.rows(format);
     const TableReading reading =

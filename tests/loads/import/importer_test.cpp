@@ -7,7 +7,7 @@ namespace {
 
 class Importer : public ImportTest {};
 
-constexpr const char* field = "txtImport1";
+constexpr const char* importField = "txtImport1";
 
 TEST_F(Importer, StandsOnceAndIsAccountedFor) {
     frmImport1& form = importer();
@@ -80,13 +80,13 @@ TEST_F(Importer, ShowsTheModeOnScreenInItsColours) {
     EXPECT_EQ(back("lblTotal(12)"), 224 + 256 * (224 + 256 * 255));
     EXPECT_EQ(back("lblPeak(0)"), 224 + 256 * (224 + 256 * 255));
     EXPECT_EQ(back("lblHours"), 224 + 256 * (224 + 256 * 255));
-    EXPECT_EQ(back(field), 224 + 256 * (224 + 256 * 255));
+    EXPECT_EQ(back(importField), 224 + 256 * (224 + 256 * 255));
     EXPECT_EQ(back("lblPLF(3)"), 192 + 256 * (192 + 256 * 255));
     EXPECT_TRUE(form.control("cmdCoolHeat(0)").checked());
     form.click("cmdCoolHeat(1)");
     EXPECT_EQ(caption(form, "lblTotal(0)"), "32000.0");
     EXPECT_EQ(back("lblTotal(12)"), 255 + 256 * (208 + 256 * 208));
-    EXPECT_EQ(back(field), 255 + 256 * (208 + 256 * 208));
+    EXPECT_EQ(back(importField), 255 + 256 * (208 + 256 * 208));
     EXPECT_EQ(back("lblPLF(3)"), 255 + 256 * (160 + 256 * 160));
     EXPECT_FALSE(form.control("cmdCoolHeat(0)").checked());
     EXPECT_TRUE(form.control("cmdCoolHeat(1)").checked());
@@ -183,10 +183,10 @@ TEST_F(Importer, PlacesItsFieldOverTheCellThatIsClicked) {
     frmImport1& form = importerWithFile();
     const ImportedLoads before = form.loads();
     form.click("lblPeak(6)");
-    EXPECT_EQ(shown(form, field), "80.0");
+    EXPECT_EQ(shown(form, importField), "80.0");
     EXPECT_EQ(form.cell().month, 6u);
     form.click("lblTotal(11)");
-    EXPECT_EQ(shown(form, field), "31000.0");
+    EXPECT_EQ(shown(form, importField), "31000.0");
     EXPECT_EQ(form.loads(), before);
     EXPECT_FALSE(form.takesClicks("lblTotal(12)"));
     EXPECT_FALSE(form.takesClicks("lblPeak(12)"));
@@ -196,56 +196,56 @@ TEST_F(Importer, PlacesItsFieldOverTheCellThatIsClicked) {
 TEST_F(Importer, TakesWhatIsTypedAtOnce) {
     frmImport1& form = importer();
     form.click("lblTotal(6)");
-    form.type(field, "26000");
+    form.type(importField, "26000");
     EXPECT_EQ(caption(form, "lblTotal(6)"), "26000.0");
     EXPECT_EQ(caption(form, "lblTotal(12)"), "26000.0");
-    EXPECT_EQ(shown(form, field), "26000");
+    EXPECT_EQ(shown(form, importField), "26000");
     form.click("lblPeak(6)");
-    form.type(field, "80");
+    form.type(importField, "80");
     EXPECT_EQ(value(form, "peakLoads(6,0)"), 80000);
     EXPECT_EQ(value(form, "eqvHours(0)"), 325);  // 26000/80
     EXPECT_EQ(caption(form, "lblPLF(6)"), "0.44");
     EXPECT_NEAR(main.import1TransferPLFm[cooling], firstFactor, 1e-12);
-    form.leave(field);
-    EXPECT_EQ(shown(form, field), "80.0");
+    form.leave(importField);
+    EXPECT_EQ(shown(form, importField), "80.0");
 }
 
 TEST_F(Importer, ConvertsWhatIsTypedInMetric) {
     frmImport1& form = importer();
     form.click("MetricCheck");
     form.click("lblTotal(0)");
-    form.type(field, "293.1");
+    form.type(importField, "293.1");
     EXPECT_DOUBLE_EQ(value(form, "totalLoads(0,0)"), 1000);
     form.click("lblPeak(0)");
-    form.type(field, "29.31");
+    form.type(importField, "29.31");
     EXPECT_DOUBLE_EQ(value(form, "peakLoads(0,0)"), 100000);
 }
 
 TEST_F(Importer, KeepsTheOldValueForTextThatIsNoNumber) {
     frmImport1& form = importer();
     form.click("lblTotal(0)");
-    form.type(field, "70");
+    form.type(importField, "70");
     for (const char* text : {"", "-", "abc", "12abc", "1,5"}) {
-        form.type(field, text);
+        form.type(importField, text);
         EXPECT_EQ(value(form, "totalLoads(0,0)"), 70) << text;
     }
-    form.leave(field);
-    EXPECT_EQ(shown(form, field), "70.0");
+    form.leave(importField);
+    EXPECT_EQ(shown(form, importField), "70.0");
 }
 
 TEST_F(Importer, GoesOnWithEnterDownTheTotalsAndThePeaks) {
     frmImport1& form = importerWithFile();
     form.click("lblTotal(0)");
-    form.key(field, "Enter");
+    form.key(importField, "Enter");
     EXPECT_EQ(form.cell().month, 1u);
-    EXPECT_EQ(shown(form, field), "21000.0");
+    EXPECT_EQ(shown(form, importField), "21000.0");
     form.click("lblTotal(11)");
-    form.key(field, "Enter");
+    form.key(importField, "Enter");
     EXPECT_EQ(form.cell().column, frmImport1::Column::peak);
     EXPECT_EQ(form.cell().month, 0u);
-    EXPECT_EQ(shown(form, field), "50.0");
+    EXPECT_EQ(shown(form, importField), "50.0");
     form.click("lblPeak(11)");
-    form.key(field, "Enter");
+    form.key(importField, "Enter");
     EXPECT_EQ(form.cell().column, frmImport1::Column::peak);
     EXPECT_EQ(form.cell().month, 11u);
 }
@@ -254,11 +254,11 @@ TEST_F(Importer, TypesIntoTheModeOnScreen) {
     frmImport1& form = importer();
     form.click("cmdCoolHeat(1)");
     form.click("lblTotal(0)");
-    form.type(field, "5");
+    form.type(importField, "5");
     EXPECT_EQ(value(form, "totalLoads(0,1)"), 5);
     EXPECT_EQ(value(form, "totalLoads(0,0)"), 0);
     form.click("cmdCoolHeat(0)");
-    EXPECT_EQ(shown(form, field), "0.0");
+    EXPECT_EQ(shown(form, importField), "0.0");
 }
 
 // Pasting.
@@ -267,13 +267,13 @@ TEST_F(Importer, PastesAColumnFromTheMonthAtWork) {
     frmImport1& form = importer();
     form.click("lblTotal(10)");
     platform.clipboardText = "100\r\n200\r\n300\r\n";
-    form.key(field, "Ctrl+V");
+    form.key(importField, "Ctrl+V");
     EXPECT_EQ(value(form, "totalLoads(10,0)"), 100);
     EXPECT_EQ(value(form, "totalLoads(11,0)"), 200);
     EXPECT_EQ(value(form, "yearTotal(0)"), 300);
-    EXPECT_EQ(shown(form, field), "");
-    form.leave(field);
-    EXPECT_EQ(shown(form, field), "100.0");
+    EXPECT_EQ(shown(form, importField), "");
+    form.leave(importField);
+    EXPECT_EQ(shown(form, importField), "100.0");
 }
 
 TEST_F(Importer, PastesPeaksTimesAThousandAndNeverFromKilowatts) {
@@ -281,10 +281,10 @@ TEST_F(Importer, PastesPeaksTimesAThousandAndNeverFromKilowatts) {
     form.click("MetricCheck");
     form.click("lblPeak(0)");
     platform.clipboardText = "80\r";
-    form.key(field, "Ctrl+V");
+    form.key(importField, "Ctrl+V");
     EXPECT_EQ(value(form, "peakLoads(0,0)"), 80000);
     form.click("lblTotal(0)");
-    form.key(field, "Ctrl+V");
+    form.key(importField, "Ctrl+V");
     EXPECT_EQ(value(form, "totalLoads(0,0)"), 80);
 }
 
@@ -292,7 +292,7 @@ TEST_F(Importer, CountsTwelveLinesOfAPaste) {
     frmImport1& form = importer();
     for (int i = 1; i <= 20; ++i) platform.clipboardText += std::to_string(i) + "\r";
     form.click("lblTotal(0)");
-    form.key(field, "Ctrl+V");
+    form.key(importField, "Ctrl+V");
     EXPECT_EQ(value(form, "totalLoads(11,0)"), 12);
     EXPECT_EQ(value(form, "yearTotal(0)"), 78);  // 1 + 2 + ... + 12
     EXPECT_EQ(value(form, "peakMax(0)"), 0);
@@ -302,15 +302,15 @@ TEST_F(Importer, PastesNoLineWithoutItsEnd) {
     frmImport1& form = importer();
     form.click("lblTotal(0)");
     platform.clipboardText = "5";
-    form.key(field, "Ctrl+V");
+    form.key(importField, "Ctrl+V");
     EXPECT_EQ(value(form, "totalLoads(0,0)"), 0);
-    EXPECT_EQ(shown(form, field), "");
+    EXPECT_EQ(shown(form, importField), "");
     platform.clipboardText = "5\n6";
-    form.key(field, "Ctrl+V");
+    form.key(importField, "Ctrl+V");
     EXPECT_EQ(value(form, "totalLoads(0,0)"), 5);
     EXPECT_EQ(value(form, "totalLoads(1,0)"), 0);
     platform.clipboardText.clear();
-    form.key(field, "Ctrl+V");
+    form.key(importField, "Ctrl+V");
     EXPECT_EQ(value(form, "totalLoads(0,0)"), 5);
 }
 
@@ -346,14 +346,14 @@ TEST_F(Importer, PastesTwelveRowsOfATable) {
 TEST_F(Importer, UndoesCellByCellWhatWasTyped) {
     frmImport1& form = importer();
     form.click("lblTotal(0)");
-    form.type(field, "1");
-    form.type(field, "12");
-    form.key(field, "Enter");
-    form.type(field, "34");
+    form.type(importField, "1");
+    form.type(importField, "12");
+    form.key(importField, "Enter");
+    form.type(importField, "34");
     main.click("mnuUndo");
     EXPECT_EQ(value(form, "totalLoads(0,0)"), 12);
     EXPECT_EQ(value(form, "totalLoads(1,0)"), 0);
-    EXPECT_EQ(shown(form, field), "0.0");
+    EXPECT_EQ(shown(form, importField), "0.0");
     main.click("mnuUndo");
     EXPECT_EQ(value(form, "totalLoads(0,0)"), 0);
 }

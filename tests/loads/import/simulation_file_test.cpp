@@ -14,7 +14,7 @@
 namespace varnholt {
 namespace {
 
-int errorOf(const std::string& bytes) {
+int errorOfSimulation(const std::string& bytes) {
     try {
         readSimulation(bytes);
     } catch (const RunTimeError& error) {
@@ -82,7 +82,7 @@ TEST(SimulationFiles, EndTooEarlyWhereverTheyAreCut) {
     const SimulationFile whole = readSimulation(text);
     for (std::size_t length = 0; length < text.size(); ++length) {
         const std::string cut = text.substr(0, length);
-        const int error = errorOf(cut);
+        const int error = errorOfSimulation(cut);
         if (error == 0) {
             // Only the last number itself may have been cut.
             EXPECT_GE(length, text.size() - 4) << length;
@@ -97,11 +97,11 @@ TEST(SimulationFiles, WithTextInPlaceOfANumberAreNotTaken) {
     SampleYear year;
     std::string text = year.text();
     text.replace(text.find("25000"), 5, "April");
-    EXPECT_EQ(errorOf(text), 13);
+    EXPECT_EQ(errorOfSimulation(text), 13);
     text.replace(text.find("April"), 5, "1e999");
-    EXPECT_EQ(errorOf(text), 6);
+    EXPECT_EQ(errorOfSimulation(text), 6);
     year.separator = ";";
-    EXPECT_NE(errorOf(year.text()), 0);
+    EXPECT_NE(errorOfSimulation(year.text()), 0);
 }
 
 TEST(SimulationFiles, ThatNeverEndAreReadNoFurtherThanTheyMatter) {
