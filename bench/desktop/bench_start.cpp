@@ -59,7 +59,7 @@ void startToPaintedMainWindow(benchmark::State& state) {
     const TemporaryFolder folder;
     double processor = 0;
     for (auto _ : state) {
-        const Start start = startOnce(folder.path().string());
+        const Start start = startOnce(folder.path());
         if (start.seconds == 0) return state.SkipWithError("the program did not answer");
         state.SetIterationTime(start.seconds);
         processor += start.processorSeconds;

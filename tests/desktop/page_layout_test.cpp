@@ -13,7 +13,7 @@ namespace varnholt {
 namespace {
 
 /// A design's window in the size in which it opens.
-class PageLayout : public testing::Test {
+class PagesOfDesigns : public testing::Test {
  protected:
     void open(const char* command) {
         desk.main().click(command);
@@ -48,7 +48,7 @@ class PageLayout : public testing::Test {
     std::unique_ptr<FormWindow> window;
 };
 
-TEST_F(PageLayout, ShowsTheTrenchesOfEveryArrangementWithoutScrolling) {
+TEST_F(PagesOfDesigns, ShowsTheTrenchesOfEveryArrangementWithoutScrolling) {
     open("NewHorizontal");
     for (const bool metric : {false, true}) {
         if (metric) form->click("MetricCheck");
@@ -59,21 +59,21 @@ TEST_F(PageLayout, ShowsTheTrenchesOfEveryArrangementWithoutScrolling) {
     }
 }
 
-TEST_F(PageLayout, ShowsPumpsAndTowerWithoutScrolling) {
+TEST_F(PagesOfDesigns, ShowsPumpsAndTowerWithoutScrolling) {
     open("NewHorizontal");
     EXPECT_EQ(hiddenOf("HZTabs", 5), 0);
     open("NewBorehole");
     EXPECT_EQ(hiddenOf("BHTabs", 5), 0);
 }
 
-TEST_F(PageLayout, ShowsLoopsAndHeadersOfAPondWithoutScrolling) {
+TEST_F(PagesOfDesigns, ShowsLoopsAndHeadersOfAPondWithoutScrolling) {
     open("NewSurfaceWater");
     EXPECT_EQ(hiddenOf("SWTabs", 3), 0);
     form->click("MetricCheck");
     EXPECT_EQ(hiddenOf("SWTabs", 3), 0);
 }
 
-TEST_F(PageLayout, PutsTheNumberOfPipesBelowTheNumberOfTrenches) {
+TEST_F(PagesOfDesigns, PutsTheNumberOfPipesBelowTheNumberOfTrenches) {
     open("NewHorizontal");
     hiddenOf("HZTabs", 4);
     EXPECT_EQ(placeOf("PAInTrenchConfigurationLabel(3)").right(),
@@ -86,7 +86,7 @@ TEST_F(PageLayout, PutsTheNumberOfPipesBelowTheNumberOfTrenches) {
               placeOf("PAInTrenchConfigurationText(1)").left());
 }
 
-TEST_F(PageLayout, KeepsTheFieldsOfAPageBelowOneAnotherWhicheverCaptionIsLongest) {
+TEST_F(PagesOfDesigns, KeepsTheFieldsOfAPageBelowOneAnotherWhicheverCaptionIsLongest) {
     open("NewHorizontal");
     hiddenOf("HZTabs", 2);
     for (const char* longest :

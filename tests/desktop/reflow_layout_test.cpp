@@ -11,9 +11,9 @@ namespace varnholt {
 namespace {
 
 /// A piece of a least and a usual size.
-class Block : public QWidget {
+class SizedWidget : public QWidget {
  public:
-    Block(const QSize& least, const QSize& usual) : least_(least), usual_(usual) {}
+    SizedWidget(const QSize& least, const QSize& usual) : least_(least), usual_(usual) {}
     QSize sizeHint() const override { return usual_; }
     QSize minimumSizeHint() const override { return least_; }
 
@@ -23,8 +23,8 @@ class Block : public QWidget {
 
 class Reflow : public testing::Test {
  protected:
-    Block* add(const QSize& least, const QSize& usual, int stretch, bool grows = false) {
-        auto* block = new Block(least, usual);
+    SizedWidget* add(const QSize& least, const QSize& usual, int stretch, bool grows = false) {
+        auto* block = new SizedWidget(least, usual);
         layout->addPiece(block, stretch, grows);
         return block;
     }
@@ -35,8 +35,8 @@ class Reflow : public testing::Test {
 };
 
 TEST_F(Reflow, SetsPiecesSideBySideWhereThereIsRoom) {
-    const Block* left = add({200, 50}, {250, 60}, 1);
-    const Block* right = add({300, 80}, {350, 90}, 1);
+    const SizedWidget* left = add({200, 50}, {250, 60}, 1);
+    const SizedWidget* right = add({300, 80}, {350, 90}, 1);
     layOut(708, 100);
     // (708 - 8)/2 each, both as high as the area
     EXPECT_EQ(left->geometry(), QRect(0, 0, 350, 100));
@@ -45,8 +45,8 @@ TEST_F(Reflow, SetsPiecesSideBySideWhereThereIsRoom) {
 }
 
 TEST_F(Reflow, SetsThemBelowOneAnotherWhereThereIsNone) {
-    const Block* upper = add({200, 50}, {250, 60}, 1);
-    const Block* lower = add({300, 80}, {350, 90}, 1);
+    const SizedWidget* upper = add({200, 50}, {250, 60}, 1);
+    const SizedWidget* lower = add({300, 80}, {350, 90}, 1);
     // 200 + 8 + 300 fit into 508 and not into 507
     EXPECT_EQ(layout->heightForWidth(508), 90);
     EXPECT_EQ(layout->heightForWidth(507), 60 + gridStep + 90);
@@ -63,24 +63,24 @@ TEST_F(Reflow, IsNeverWiderThanItsWidestPieceMustBe) {
 }
 
 TEST_F(Reflow, LeavesNoPieceBelowItsLeastWidth) {
-    const Block* narrow = add({100, 50}, {100, 50}, 1);
-    const Block* wide = add({400, 50}, {400, 50}, 1);
+    const SizedWidget* narrow = add({100, 50}, {100, 50}, 1);
+    const SizedWidget* wide = add({400, 50}, {400, 50}, 1);
     layOut(608, 50);
     EXPECT_EQ(narrow->width(), 200);
     EXPECT_EQ(wide->width(), 400);
 }
 
 TEST_F(Reflow, GivesAPieceWithoutAShareWhatItAsksFor) {
-    const Block* fields = add({200, 50}, {240, 50}, 0);
-    const Block* picture = add({200, 50}, {300, 50}, 1);
+    const SizedWidget* fields = add({200, 50}, {240, 50}, 0);
+    const SizedWidget* picture = add({200, 50}, {300, 50}, 1);
     layOut(808, 50);
     EXPECT_EQ(fields->width(), 240);
     EXPECT_EQ(picture->width(), 560);
 }
 
 TEST_F(Reflow, GivesTheHeightLeftOverToWhatGrows) {
-    const Block* fields = add({300, 50}, {300, 60}, 0);
-    const Block* picture = add({300, 80}, {300, 90}, 1, true);
+    const SizedWidget* fields = add({300, 50}, {300, 60}, 0);
+    const SizedWidget* picture = add({300, 80}, {300, 90}, 1, true);
     layOut(400, 358);
     EXPECT_EQ(fields->height(), 60);
     EXPECT_EQ(picture->geometry(), QRect(0, 68, 400, 290));
@@ -88,22 +88,22 @@ TEST_F(Reflow, GivesTheHeightLeftOverToWhatGrows) {
 
 TEST_F(Reflow, EndsWithItsAreaWhereNothingGrows) {
     add({300, 50}, {300, 60}, 0);
-    const Block* last = add({300, 80}, {300, 90}, 0);
+    const SizedWidget* last = add({300, 80}, {300, 90}, 0);
     layOut(400, 258);
     EXPECT_EQ(last->geometry().bottom(), 257);
 }
 
 TEST_F(Reflow, PassesOverWhatIsHidden) {
     add({300, 50}, {300, 60}, 1)->hide();
-    const Block* shown = add({300, 80}, {300, 90}, 1);
+    const SizedWidget* shown = add({300, 80}, {300, 90}, 1);
     layOut(400, 90);
     EXPECT_EQ(shown->geometry(), QRect(0, 0, 400, 90));
 }
 
 TEST_F(Reflow, ReadsFromRightToLeftWhereTheLanguageDoes) {
     around.setLayoutDirection(Qt::RightToLeft);
-    const Block* first = add({200, 50}, {200, 60}, 1);
-    const Block* second = add({200, 50}, {200, 60}, 1);
+    const SizedWidget* first = add({200, 50}, {200, 60}, 1);
+    const SizedWidget* second = add({200, 50}, {200, 60}, 1);
     layOut(408, 60);
     EXPECT_EQ(first->x(), 208);
     EXPECT_EQ(second->x(), 0);

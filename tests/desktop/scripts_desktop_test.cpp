@@ -36,16 +36,16 @@ std::string firstDifference(const std::string& windows, const std::string& forms
 /// The script's transcripts: by the windows, by the forms.
 std::pair<std::string, std::string> transcriptsOf(const std::string& script) {
     const TemporaryFolder folder;
-    const std::string file = (folder.path() / "long.vscript").string();
+    const std::string file = folder / "long.vscript";
     std::ofstream(file) << script;
     std::string transcripts[2];
     const std::string programs[2] = {"env QT_QPA_PLATFORM=offscreen " VARNHOLT_BIN_DIR
                                      "/varnholt --script",
                                      VARNHOLT_BIN_DIR "/varnholt-script"};
     for (int i = 0; i < 2; ++i) {
-        const std::string out = (folder.path() / std::to_string(i)).string();
+        const std::string out = folder / std::to_string(i);
         const std::string command = programs[i] + " '" + file + "' --program-folder '" +
-                                    folder.path().string() + "' --locale 409 >'" + out + "'";
+                                    folder.path() + "' --locale 409 >'" + out + "'";
         EXPECT_EQ(std::system(command.c_str()), 0);
         transcripts[i] = wholeFile(out);
     }

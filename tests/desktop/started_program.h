@@ -10,13 +10,15 @@
 
 namespace varnholt {
 
+inline const std::string programWithWindows = VARNHOLT_BIN_DIR "/varnholt";
+
 /// The real program with its windows, worked line by line over its standard input.
 class StartedProgram {
  public:
     /// @param program the executable file
     /// @param options besides those that every run has
     explicit StartedProgram(const std::string& program, const QStringList& options = {}) {
-        const std::filesystem::path folder = temporary_.path() / "program";
+        const std::filesystem::path folder = temporary_ / "program";
         for (const char* name : {"work files", "zones", "Data", "OnlineHelp"})
             std::filesystem::create_directories(folder / name);
         std::filesystem::copy(VARNHOLT_SOURCE_DIR "/resources/pumps", folder / "pumps",
@@ -27,7 +29,7 @@ class StartedProgram {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
         environment.insert(QStringLiteral("XDG_CACHE_HOME"),
-                           QString::fromStdString(temporary_.path().string()));
+                           QString::fromStdString(temporary_.path()));
         // What the address sanitizer keeps apart after its release would count as in use.
         environment.insert(
             QStringLiteral("ASAN_OPTIONS"),
@@ -49,7 +51,7 @@ class StartedProgram {
     StartedProgram(const StartedProgram&) = delete;
     StartedProgram& operator=(const StartedProgram&) = delete;
 
-    std::filesystem::path folder() const { return temporary_.path() / "program"; }
+    std::filesystem::path folder() const { return temporary_ / "program"; }
 
     /// Gives the program these lines and waits until it has run them; what it has written, with
     /// "PROGRAM" for its folder.

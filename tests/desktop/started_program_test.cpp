@@ -6,8 +6,6 @@
 namespace varnholt {
 namespace {
 
-const std::string windows = VARNHOLT_BIN_DIR "/varnholt";
-
 /// Brings the curves of a heat pump into sight.
 const std::string showCurves = R"(click Varnmain.mnuZoneManage
 click frmZoneManage.LONewCommand
@@ -17,7 +15,7 @@ choose frmZoneManage.HPSeriesCombo #0
 choose frmZoneManage.HPPumpList #0)";
 
 TEST(StartedProgram, LoadsTheChartEngineWithTheFirstChart) {
-    StartedProgram program(windows);
+    StartedProgram program(programWithWindows);
     program.run("click Varnmain.NewBorehole\nclick Varnmain.mnuZoneManage");
     const std::string before = program.filesInMemory();
     EXPECT_NE(before.find("libQt6Widgets"), std::string::npos);
@@ -30,15 +28,14 @@ TEST(StartedProgram, LoadsTheChartEngineWithTheFirstChart) {
 
 TEST(StartedProgram, DoesWithoutTheChartsWhereTheyAreMissing) {
     const TemporaryFolder elsewhere;
-    const std::filesystem::path copy = elsewhere.path() / "bin" / "varnholt";
+    const std::filesystem::path copy = elsewhere / "bin/varnholt";
     std::filesystem::create_directories(copy.parent_path());
-    std::filesystem::copy_file(windows, copy);
+    std::filesystem::copy_file(programWithWindows, copy);
     // Beside it, as an installation has it, what the program shows; but not its modules.
-    std::filesystem::create_directory(elsewhere.path() / "share");
-    std::filesystem::create_directory_symlink(VARNHOLT_RESOURCE_DIR,
-                                              elsewhere.path() / "share" / "varnholt");
+    std::filesystem::create_directory(elsewhere / "share");
+    std::filesystem::create_directory_symlink(VARNHOLT_RESOURCE_DIR, elsewhere / "share/varnholt");
     StartedProgram program(copy.string());
-    const std::filesystem::path picture = elsewhere.path() / "curves.png";
+    const std::filesystem::path picture = elsewhere / "curves.png";
     program.run(showCurves + "\nshot frmZoneManage " + picture.string());
     EXPECT_EQ(program.filesInMemory().find("varnholt_charts"), std::string::npos);
     EXPECT_TRUE(std::filesystem::exists(picture));
@@ -46,7 +43,7 @@ TEST(StartedProgram, DoesWithoutTheChartsWhereTheyAreMissing) {
 }
 
 TEST(StartedProgram, LoadsTheHelpWithItsFirstPage) {
-    StartedProgram program(windows);
+    StartedProgram program(programWithWindows);
     program.run("click Varnmain.NewBorehole");
     const std::string before = program.filesInMemory();
     for (const char* library : {"varnholt_help", "libQt6Help", "libQt6Sql", "libQt6PrintSupport"})
@@ -57,7 +54,7 @@ TEST(StartedProgram, LoadsTheHelpWithItsFirstPage) {
 }
 
 TEST(StartedProgram, LoadsNoWebEngineForPagesOfTheTextBrowser) {
-    StartedProgram program(windows);
+    StartedProgram program(programWithWindows);
     program.run("click Varnmain.FluidProperties");
     for (const char* library : {"varnholt_web", "libQt6WebEngine"})
         EXPECT_EQ(program.filesInMemory().find(library), std::string::npos) << library;
@@ -66,13 +63,12 @@ TEST(StartedProgram, LoadsNoWebEngineForPagesOfTheTextBrowser) {
 
 TEST(StartedProgram, ShowsPagesAndHelpWhereTheModulesAreMissing) {
     const TemporaryFolder elsewhere;
-    const std::filesystem::path copy = elsewhere.path() / "bin" / "varnholt";
+    const std::filesystem::path copy = elsewhere / "bin/varnholt";
     std::filesystem::create_directories(copy.parent_path());
-    std::filesystem::copy_file(windows, copy);
+    std::filesystem::copy_file(programWithWindows, copy);
     // Beside it, as an installation has it, what the program shows; but not its modules.
-    std::filesystem::create_directory(elsewhere.path() / "share");
-    std::filesystem::create_directory_symlink(VARNHOLT_RESOURCE_DIR,
-                                              elsewhere.path() / "share" / "varnholt");
+    std::filesystem::create_directory(elsewhere / "share");
+    std::filesystem::create_directory_symlink(VARNHOLT_RESOURCE_DIR, elsewhere / "share/varnholt");
     StartedProgram program(copy.string(), {QStringLiteral("--browser"), QStringLiteral("web")});
     program.run("click Varnmain.FluidProperties");
     EXPECT_EQ(program.run("forms"),
@@ -105,7 +101,7 @@ std::string openAndClose(int designs) {
 }
 
 TEST(StartedProgram, KeepsNothingOfTheWindowsThatAScriptHasClosed) {
-    StartedProgram program(windows);
+    StartedProgram program(programWithWindows);
     program.run(openAndClose(50));
     const double before = program.megabytes();
     for (int round = 0; round < 3; ++round) program.run(openAndClose(50));

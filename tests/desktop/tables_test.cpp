@@ -25,10 +25,10 @@
 namespace varnholt {
 namespace {
 
-const std::vector<std::vector<std::string>> places{{"A0", "B0"}, {"A1", "B1"}, {"A2"}};
+const std::vector<std::vector<std::string>> tablePlaces{{"A0", "B0"}, {"A1", "B1"}, {"A2"}};
 
 TEST(PastedPlaces, GoDownAndAcrossFromTheField) {
-    const auto found = placesOf(places, "A1", {{"1", "2"}, {"3", "4"}, {"5"}});
+    const auto found = placesOf(tablePlaces, "A1", {{"1", "2"}, {"3", "4"}, {"5"}});
     ASSERT_TRUE(found);
     ASSERT_EQ(found->cells.size(), 3U);
     EXPECT_EQ(found->cells[0].control, "A1");
@@ -36,7 +36,7 @@ TEST(PastedPlaces, GoDownAndAcrossFromTheField) {
     EXPECT_EQ(found->cells[2].control, "A2");
     EXPECT_EQ(found->cells[2].text, "3");
     EXPECT_EQ(found->beyond, 2);  // 4 and 5
-    EXPECT_FALSE(placesOf(places, "C0", {{"1"}}));
+    EXPECT_FALSE(placesOf(tablePlaces, "C0", {{"1"}}));
 }
 
 class Tables : public testing::Test {

@@ -19,8 +19,6 @@
 namespace varnholt {
 namespace {
 
-const std::string windows = VARNHOLT_BIN_DIR "/varnholt";
-
 /// A server that only says who it is, by a certificate that nobody vouches for. It has a thread of
 /// its own, since the test waits for the program meanwhile.
 class UnknownServer : public QThread {
@@ -132,7 +130,7 @@ click Varnmain.SoilProperties
 click Varnmain.PipeProperties
 forms
 value Varnmain.browserCount)";
-    StartedProgram text(windows, engine("text")), web(windows, engine("web"));
+    StartedProgram text(programWithWindows, engine("text")), web(programWithWindows, engine("web"));
     EXPECT_EQ(web.run(script), text.run(script));
     EXPECT_NE(web.filesInMemory().find("libQt6WebEngineCore"), std::string::npos);
     EXPECT_EQ(web.end(), 0);
@@ -140,7 +138,7 @@ value Varnmain.browserCount)";
 }
 
 TEST_F(WebEngine, GoesToPlacesInThePageOnShowWithoutWaiting) {
-    StartedProgram program(windows, engine("web"));
+    StartedProgram program(programWithWindows, engine("web"));
     const std::string page = program.folder().string() + "/tables/english/SoilTables.html";
     program.run("click Varnmain.SoilProperties\n" + go(page + "#swing"));
     const std::string after = program.run("forms\nvalue frmBrowser.timTimer.Enabled");
@@ -155,7 +153,7 @@ TEST_F(WebEngine, GoesToPlacesInThePageOnShowWithoutWaiting) {
 }
 
 TEST_F(WebEngine, FollowsALinkFromPageToPageOfThisComputer) {
-    StartedProgram program(windows, engine("web"));
+    StartedProgram program(programWithWindows, engine("web"));
     write(program, "to.html", "<title>To</title>");
     write(program, "from.html", pageThatClicks("to.html"));
     program.run("click Varnmain.FluidProperties\n" + go(program.folder().string() + "/from.html"));
@@ -167,7 +165,7 @@ TEST_F(WebEngine, FollowsALinkFromPageToPageOfThisComputer) {
 }
 
 TEST_F(WebEngine, OpensAnExampleFromAPageOfTheHelpAlone) {
-    StartedProgram program(windows, engine("web"));
+    StartedProgram program(programWithWindows, engine("web"));
     std::filesystem::copy(VARNHOLT_SOURCE_DIR "/examples/house.zon",
                           program.folder() / "zones/house.zon");
     for (const char* page : {"try.html", "OnlineHelp/try.html"})
@@ -183,7 +181,7 @@ TEST_F(WebEngine, OpensAnExampleFromAPageOfTheHelpAlone) {
 }
 
 TEST_F(WebEngine, ListsNoFolder) {
-    StartedProgram program(windows, engine("web"));
+    StartedProgram program(programWithWindows, engine("web"));
     program.run("click Varnmain.FluidProperties");
     for (const char* folder : {"/etc", "/etc/", "file:///"}) {
         EXPECT_EQ(program.run(go(folder)).find("message"), std::string::npos);
@@ -195,7 +193,7 @@ TEST_F(WebEngine, ListsNoFolder) {
 }
 
 TEST_F(WebEngine, OpensAPathWithBlanks) {
-    StartedProgram program(windows, engine("web"));
+    StartedProgram program(programWithWindows, engine("web"));
     write(program, "my page.html", "<title>Blank</title>");
     program.run("click Varnmain.FluidProperties\n" +
                 go(program.folder().string() + "/my page.html"));
@@ -210,7 +208,7 @@ TEST_F(WebEngine, KeepsAPageOfThisComputerFromItsFilesAndFromTheNetwork) {
     int asked = 0;
     QObject::connect(&server, &QTcpServer::newConnection, &server, [&] { ++asked; });
     const std::string port = std::to_string(server.serverPort());
-    StartedProgram program(windows, engine("web"));
+    StartedProgram program(programWithWindows, engine("web"));
     write(program, "secret.js", "document.title = 'read a file';");
     write(program, "spy.html",
           "<title>Spy</title><script src=\"secret.js\"></script><script src=\"http://127.0.0.1:" +
@@ -224,7 +222,7 @@ TEST_F(WebEngine, KeepsAPageOfThisComputerFromItsFilesAndFromTheNetwork) {
 }
 
 TEST_F(WebEngine, RefusesWindowsDownloadsAndOtherSchemesWithALine) {
-    StartedProgram program(windows, engine("web"));
+    StartedProgram program(programWithWindows, engine("web"));
     write(program, "open.html", "<title>Open</title><script>window.open('about:blank')</script>");
     write(program, "file.zip", "PK");
     program.run("click Varnmain.FluidProperties\n" + go(program.folder().string() + "/open.html"));
@@ -249,7 +247,7 @@ TEST_F(WebEngine, RefusesWindowsDownloadsAndOtherSchemesWithALine) {
 TEST_F(WebEngine, OfAServerThatNeverAnswersIsStopped) {
     QTcpServer server;
     ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
-    StartedProgram program(windows, engine("web"));
+    StartedProgram program(programWithWindows, engine("web"));
     program.run("click Varnmain.FluidProperties\n" +
                 go("http://127.0.0.1:" + std::to_string(server.serverPort()) + "/"));
     // The line ends after five seconds, and the page is still being waited for.
@@ -264,7 +262,7 @@ TEST_F(WebEngine, OfAServerThatNeverAnswersIsStopped) {
 TEST_F(WebEngine, RefusesAServerThatDoesNotProveWhoItIs) {
     const UnknownServer server;
     ASSERT_GT(server.port(), 0);
-    StartedProgram program(windows, engine("web"));
+    StartedProgram program(programWithWindows, engine("web"));
     program.run("click Varnmain.FluidProperties\n" +
                 go("https://127.0.0.1:" + std::to_string(server.port()) + "/"));
     EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("cannot prove"), std::string::npos);
@@ -273,7 +271,7 @@ TEST_F(WebEngine, RefusesAServerThatDoesNotProveWhoItIs) {
 }
 
 TEST_F(WebEngine, RefusesAPageOfAHundredMegabytes) {
-    StartedProgram program(windows, engine("web"));
+    StartedProgram program(programWithWindows, engine("web"));
     write(program, "long.html", "<title>Long</title>");
     std::filesystem::resize_file(program.folder() / "long.html", 100 << 20);
     program.run("click Varnmain.FluidProperties\n" + go(program.folder().string() + "/long.html"));
@@ -288,7 +286,7 @@ TEST_F(WebEngine, RefusesAPageOfAHundredMegabytes) {
 }
 
 TEST_F(WebEngine, OfAMissingPageShowsItsOwnErrorWithoutAMessage) {
-    StartedProgram program(windows, engine("web"));
+    StartedProgram program(programWithWindows, engine("web"));
     program.run("click Varnmain.FluidProperties");
     const std::string told = program.run(go("/nowhere/page.html"));
     EXPECT_EQ(told.find("message"), std::string::npos);

@@ -9,13 +9,13 @@ namespace {
 /// varnholt-script under a locale number for which there is no satellite.
 std::string transcriptWithoutSatellite(const std::string& script) {
     const TemporaryFolder folder;
-    std::filesystem::copy(VARNHOLT_SOURCE_DIR "/resources/pumps", folder.path() / "pumps");
-    std::ofstream(folder.path() / "a.vscript") << script;
-    const std::string command = "cd '" + folder.path().string() +
+    std::filesystem::copy(VARNHOLT_SOURCE_DIR "/resources/pumps", folder / "pumps");
+    std::ofstream(folder / "a.vscript") << script;
+    const std::string command = "cd '" + folder.path() +
                                 "' && " VARNHOLT_BIN_DIR
                                 "/varnholt-script --locale 9999 --program-folder . a.vscript >out";
     EXPECT_EQ(std::system(command.c_str()), 0);
-    return wholeFile(folder.path() / "out");
+    return wholeFile(folder / "out");
 }
 
 TEST(WithoutASatellite, EveryCaptionIsTheLiteral) {

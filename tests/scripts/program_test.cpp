@@ -11,10 +11,9 @@ class Program : public testing::Test {
  protected:
     /// @param arguments the rest of the command line, redirections included
     ScriptOutcome call(const std::string& arguments) const {
-        const std::string out = (temporary.path() / "out").string();
-        const std::string faults = (temporary.path() / "faults").string();
-        const std::string command = "cd '" + temporary.path().string() + "' && HOME='" +
-                                    temporary.path().string() +
+        const std::string out = temporary / "out";
+        const std::string faults = temporary / "faults";
+        const std::string command = "cd '" + temporary.path() + "' && HOME='" + temporary.path() +
                                     "' XDG_DATA_HOME= " + VARNHOLT_BIN_DIR "/varnholt-script " +
                                     arguments + " >'" + out + "' 2>'" + faults + "'";
         const int status = std::system(command.c_str());
@@ -22,7 +21,7 @@ class Program : public testing::Test {
     }
 
     void write(const std::string& name, const std::string& text) const {
-        std::ofstream(temporary.path() / name) << text;
+        std::ofstream(temporary / name) << text;
     }
 
     TemporaryFolder temporary;
@@ -75,19 +74,18 @@ TEST_F(Program, TheLocaleSettlesTheUnitsToStartWith) {
 }
 
 TEST_F(Program, AProgramFolderIsUsedAsItStandsAndTheUsersOwnIsFilled) {
-    std::filesystem::create_directory(temporary.path() / "own");
+    std::filesystem::create_directory(temporary / "own");
     EXPECT_EQ(call("--program-folder own </dev/null").status, 0);
-    EXPECT_TRUE(std::filesystem::is_empty(temporary.path() / "own"));
-    EXPECT_FALSE(std::filesystem::exists(temporary.path() / ".local"));
+    EXPECT_TRUE(std::filesystem::is_empty(temporary / "own"));
+    EXPECT_FALSE(std::filesystem::exists(temporary / ".local"));
     EXPECT_EQ(call("</dev/null").status, 0);
-    EXPECT_TRUE(
-        std::filesystem::exists(temporary.path() / ".local/share/varnholt/pumps/PumpList.vht"));
+    EXPECT_TRUE(std::filesystem::exists(temporary / ".local/share/varnholt/pumps/PumpList.vht"));
 }
 
 TEST_F(Program, TheProgramFolderIsKnownByItsFullPath) {
     write("folder.vscript", "value Varnmain.MainDirectory\n");
     EXPECT_EQ(call("folder.vscript --program-folder ./own/").transcript,
-              "value Varnmain.MainDirectory = \"" + (temporary.path() / "own").string() + "\"\n");
+              "value Varnmain.MainDirectory = \"" + (temporary / "own") + "\"\n");
 }
 
 /// The exit status of a line of a shell with the program in place of PROGRAM, and what it says to
@@ -95,8 +93,8 @@ TEST_F(Program, TheProgramFolderIsKnownByItsFullPath) {
 class Failure : public Program {
  protected:
     ScriptOutcome shell(const std::string& line) const {
-        const std::string faults = (temporary.path() / "faults").string();
-        const std::string command = "cd '" + temporary.path().string() + "' && ( " +
+        const std::string faults = temporary / "faults";
+        const std::string command = "cd '" + temporary.path() + "' && ( " +
                                     replaced(line, "PROGRAM", VARNHOLT_BIN_DIR "/varnholt-script") +
                                     " ) 2>'" + faults + "'";
         const int status = std::system(command.c_str());
@@ -114,7 +112,7 @@ TEST_F(Failure, ToWriteTheTranscriptIsStatusOne) {
     write("status", "");
     // By then nobody reads any more.
     shell("{ sleep 0.3; PROGRAM --program-folder . units.vscript; echo $? >status; } | true");
-    EXPECT_EQ(wholeFile(temporary.path() / "status"), "1\n");
+    EXPECT_EQ(wholeFile(temporary / "status"), "1\n");
 }
 
 TEST_F(Failure, OfAllStandardStreamsHarmsNoFile) {
@@ -124,7 +122,7 @@ TEST_F(Failure, OfAllStandardStreamsHarmsNoFile) {
     // The fault of the last line has nowhere to go, and goes into no file.
     EXPECT_EQ(shell("PROGRAM --program-folder . save.vscript <&- >out 2>&-").status, 2);
     EXPECT_EQ(shell("PROGRAM --program-folder . save.vscript <&- >&- 2>&-").status, 1);
-    const std::string saved = wholeFile(temporary.path() / "school.vht");
+    const std::string saved = wholeFile(temporary / "school.vht");
     EXPECT_TRUE(saved.starts_with("Varnholt Data File Version ")) << saved.substr(0, 80);
     EXPECT_EQ(saved.find("nonsense"), std::string::npos);
 }
@@ -141,8 +139,8 @@ TEST_F(Failure, OfTheHomeIsOneSentenceWithThePath) {
     write("file", "");
     const ScriptOutcome file = shell("env -u XDG_DATA_HOME HOME=$PWD/file PROGRAM </dev/null");
     EXPECT_EQ(file.status, 1);
-    EXPECT_EQ(file.faults, "varnholt-script: Path not found: " +
-                               (temporary.path() / "file" / below).string() + "\n");
+    EXPECT_EQ(file.faults,
+              "varnholt-script: Path not found: " + (temporary / ("file/" + below)) + "\n");
 }
 
 TEST_F(Failure, OfTheCurrentFolderIsToldOnlyWhereItMatters) {
@@ -159,7 +157,7 @@ const std::string newer =
 
 TEST_F(Program, KeepsUnsavedWorkOfAScriptThatAsksForIt) {
     for (const char* name : {"work files", "zones", "pumps"})
-        std::filesystem::create_directory(temporary.path() / name);
+        std::filesystem::create_directory(temporary / name);
     write("first.vscript",
           "click Varnmain.NewBorehole\npick school.vht\nclick Varnmain.mnuFileSaveAs\n"
           "type frmBHDesign.INProjectNameText Unsaved\n");
@@ -184,14 +182,14 @@ TEST_F(Program, KeepsUnsavedWorkOfAScriptThatAsksForIt) {
     write("refuse.vscript", "answer no\nforms\n");
     EXPECT_EQ(call("refuse.vscript --recovery" + options).status, 0);
     EXPECT_EQ(call("plain.vscript --recovery" + options).status, 0);
-    EXPECT_FALSE(std::filesystem::exists(temporary.path() / "recovery"));
+    EXPECT_FALSE(std::filesystem::exists(temporary / "recovery"));
 }
 
 TEST_F(Program, KeepsNothingOfAScriptThatDoesNotAskForIt) {
     write("first.vscript",
           "click Varnmain.NewBorehole\ntype frmBHDesign.INProjectNameText Unsaved\n");
     EXPECT_EQ(call("first.vscript --program-folder .").status, 0);
-    EXPECT_FALSE(std::filesystem::exists(temporary.path() / "recovery"));
+    EXPECT_FALSE(std::filesystem::exists(temporary / "recovery"));
 }
 
 TEST_F(Failure, IsNoneWhereAFileIsOpenElsewhere) {
@@ -217,7 +215,7 @@ TEST_F(Failure, IsNoneWhereAFileIsOpenElsewhere) {
                    "PROGRAM", VARNHOLT_BIN_DIR "/varnholt-script"));
     const ScriptOutcome held = shell("timeout 20 sh hold.sh");
     ASSERT_EQ(held.status, 0) << held.faults;
-    const std::string out = wholeFile(temporary.path() / "out");
+    const std::string out = wholeFile(temporary / "out");
     const std::string asked =
         "question yes-no-cancel \"File Open Elsewhere\" \"school.vht is open already: on ";
     for (const char* answer : {"cancel", "no", "yes"})

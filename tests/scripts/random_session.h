@@ -25,19 +25,18 @@ class RandomSession {
         std::string options;
         std::getline(file, options);
         const TemporaryFolder home;
-        const std::string out = (home.path() / "out").string();
-        const std::string faults = (home.path() / "faults").string();
-        const std::string command = "XDG_DATA_HOME='" + home.path().string() + "' " + program +
-                                    " '" + script() + "' " + options.substr(2) + " >'" + out +
-                                    "' 2>'" + faults + "' </dev/null";
+        const std::string out = home / "out";
+        const std::string faults = home / "faults";
+        const std::string command = "XDG_DATA_HOME='" + home.path() + "' " + program + " '" +
+                                    script() + "' " + options.substr(2) + " >'" + out + "' 2>'" +
+                                    faults + "' </dev/null";
         const int status = std::system(command.c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1,
-                replaced(wholeFile(out), (home.path() / "varnholt").string(), "PROGRAM"),
-                wholeFile(faults)};
+                replaced(wholeFile(out), home / "varnholt", "PROGRAM"), wholeFile(faults)};
     }
 
  private:
-    std::string script() const { return (folder_.path() / "session.vscript").string(); }
+    std::string script() const { return folder_ / "session.vscript"; }
 
     TemporaryFolder folder_;
 };

@@ -2,17 +2,18 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 #include <sys/wait.h>
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
-#include <stdexcept>
 #include <string>
 #include <vector>
+
+#include "basis/temporary_folder.h"
 
 namespace varnholt {
 
@@ -27,26 +28,6 @@ inline std::string replaced(std::string text, const std::string& part, const std
         text.replace(at, part.size(), by);
     return text;
 }
-
-/// A folder that goes with the test.
-class TemporaryFolder {
- public:
-    TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "varnholt-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-        path_ = name;
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    const std::filesystem::path& path() const { return path_; }
-
- private:
-    std::filesystem::path path_;
-};
 
 /// What a run of a script gave.
 struct ScriptOutcome {
@@ -83,11 +64,11 @@ class SystemScript {
     /// @param program the program and its options, without those that every run has
     ScriptOutcome run(const std::vector<std::string>& program) const {
         const TemporaryFolder temporary;
-        const std::filesystem::path folder = temporary.path() / "program";
+        const std::filesystem::path folder = temporary / "program";
         fill(folder);
-        const std::string out = (temporary.path() / "out").string();
-        const std::string faults = (temporary.path() / "faults").string();
-        std::string command = "cd '" + temporary.path().string() + "' &&";
+        const std::string out = temporary / "out";
+        const std::string faults = temporary / "faults";
+        std::string command = "cd '" + temporary.path() + "' &&";
         for (const std::string& word : program) command += " '" + word + "'";
         command += " '" + script_.string() + "' --program-folder '" + folder.string() +
                    "' --today 2026-01-15 --locale 409 >'" + out + "' 2>'" + faults + "' </dev/null";

@@ -10,7 +10,7 @@ namespace {
 class Tour : public testing::Test {
  protected:
     int shell(const std::string& command) const {
-        const int status = std::system(("cd '" + home.path().string() + "' && " + command).c_str());
+        const int status = std::system(("cd '" + home.path() + "' && " + command).c_str());
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
     int runTour() const {
@@ -23,8 +23,8 @@ class Tour : public testing::Test {
 };
 
 TEST_F(Tour, RunsOnWhatTheFirstStartPutIntoTheUsersFolder) {
-    EXPECT_EQ(runTour(), 0) << wholeFile(home.path() / "faults");
-    const std::string transcript = wholeFile(home.path() / "transcript");
+    EXPECT_EQ(runTour(), 0) << wholeFile(home / "faults");
+    const std::string transcript = wholeFile(home / "transcript");
     EXPECT_EQ(transcript.find("message"), std::string::npos) << transcript;
     EXPECT_EQ(transcript.find("question"), std::string::npos) << transcript;
 }
@@ -32,7 +32,7 @@ TEST_F(Tour, RunsOnWhatTheFirstStartPutIntoTheUsersFolder) {
 TEST_F(Tour, ItsTableHasACaptionAndFiguresInEveryRow) {
     ASSERT_EQ(runTour(), 0);
     ASSERT_EQ(shell("awk -f " VARNHOLT_SOURCE_DIR "/scripts/results.awk transcript >table"), 0);
-    std::ifstream table(home.path() / "table");
+    std::ifstream table(home / "table");
     int rows = 0;
     for (std::string line; std::getline(table, line);) {
         if (line.find(':') == std::string::npos) continue;
