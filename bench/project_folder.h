@@ -8,12 +8,12 @@
 
 #include "../tests/forms/fake_platform.h"
 #include "app/application.h"
-#include "building.h"
 #include "design/frmBHDesign.h"
 #include "loads/ModLoadsIO.h"
 #include "loads/frmZoneManage.h"
 #include "persistence/design_files.h"
 #include "persistence/project_commands.h"
+#include "titled_building.h"
 
 namespace varnholt {
 
@@ -67,7 +67,7 @@ class ProjectFolder {
 
     void makeProject(std::int64_t zones) {
         LoadsData data;
-        data.zones = buildingOf(zones);
+        data.zones = titledBuildingOf(zones);
         saveZoneFile(folder + "/zones.zon", data);
         main.click("NewBorehole");
         auto& design = dynamic_cast<frmBHDesign&>(*main.find("frmBHDesign"));
