@@ -37,6 +37,8 @@ std::optional<Date> readDate(std::string_view text);
 Date dateOfToday();
 /// The time of day by the computer's clock: "14:03".
 std::string timeOfDay();
+/// A moment counts nanoseconds.
+inline constexpr std::int64_t nanosecondsPerSecond = 1'000'000'000;
 /// A moment, ns since 1970, by the computer's clock and in its zone: "2026-01-15 14:03:07".
 std::string localTimeText(std::int64_t moment);
 /// The moment it is.

@@ -10,7 +10,6 @@
 namespace varnholt {
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
 bool isBlank(char c) { return c == ' ' || c == '\t'; }
 
 /// Length of the number that stands at the start of the text: [sign] digits [. digits] [exponent].

@@ -7,6 +7,9 @@
 
 namespace varnholt {
 
+/// Whether it is one of the ten digits, in any locale.
+constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
 /// The number that a text begins with: leading blanks, a sign, digits, one decimal point and an
 /// exponent are taken, and reading stops at the first other character. Nothing readable gives 0.
 double leadingNumber(std::string_view text);

@@ -58,8 +58,6 @@ std::vector<std::string_view> cellsOf(std::string_view line, char separator) {
     return cells;
 }
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
 /// Whether the mark stands before each group of three digits and nowhere else.
 bool isGrouped(std::string_view number, char mark, char decimal) {
     const std::size_t whole = std::min(number.find(decimal), number.size());

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
+
 namespace varnholt {
 
 /// How values are shown; everything is stored and computed in English units.
@@ -19,6 +21,13 @@ constexpr double conductivityToEnglish = 0.5777892;      // Btu/(hr ft degF) per
 constexpr double squareFeetPerSquareMetre = 10.7639104;  // ft^2 per m^2
 constexpr double kilowattsPerHorsepower = 0.74571;       // kW per hp
 constexpr double mbtuPerTon = 12;                        // MBtu/hr per ton of refrigeration
+constexpr double inchesPerFoot = 12;                     // in per ft
+
+// The year of every calculation has no leap day.
+constexpr std::size_t monthsOfYear = 12;
+constexpr int daysPerYear = 365;
+constexpr double hoursPerDay = 24;
+constexpr double hoursPerYear = 8760;
 
 constexpr double toCelsius(double fahrenheit) { return (fahrenheit - 32) * 5 / 9; }
 constexpr double toFahrenheit(double celsius) { return celsius * 9 / 5 + 32; }

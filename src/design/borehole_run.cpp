@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/borehole_run.h"
 
+#include "basis/units.h"
 #include "design/modCalculations/heat_pulses.h"
 #include "design/modCalculations/short_circuit.h"
 #include "design/modCalculations/temperature_penalty.h"
@@ -9,8 +10,6 @@ namespace varnholt {
 namespace {
 
 using namespace modCalculations;
-
-constexpr double inchesPerFoot = 12;
 
 GroundResistances groundResistancesOf(const BoreholeInputs& inputs, const PeakLoads& loads) {
     const PulseTimes pulses = calcPulseTimes(loads.peakBlock, inputs.arrangement.predictionTime);

@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "basis/units.h"
+
 namespace varnholt {
 namespace {
-
-constexpr double inchesPerFoot = 12;
 
 using Concern = BoreholeWarning::Concern;
 

@@ -11,7 +11,7 @@
 namespace varnholt {
 namespace {
 
-constexpr int water = 0;  // first of the list
+constexpr int waterEntry = 0;  // first of the list
 
 }  // namespace
 
@@ -133,7 +133,7 @@ void FluidTab::FLFluidTypeCombo_Change() {
     fluid_.fluidTypeIndex =
         listed ? static_cast<std::int16_t>(named - names.begin()) : FluidValues::typedFluid;
     if (!listed) fluid_.fluidName = combo.text();
-    if (fluid_.fluidTypeIndex == water) takeWater();
+    if (fluid_.fluidTypeIndex == waterEntry) takeWater();
     setUnitLabels();
     design().calculationNeeded();
 }
@@ -162,8 +162,8 @@ void FluidTab::showFluid() {
         combo.setIndex(entry);
         if (entry < 0) combo.setText(fluid_.fluidName);
     }
-    control("FLPercentAntifreezeText").setLocked(entry == water);
-    control("FLPercentAntifreezeUpDown").setEnabled(entry != water);
+    control("FLPercentAntifreezeText").setLocked(entry == waterEntry);
+    control("FLPercentAntifreezeUpDown").setEnabled(entry != waterEntry);
     showPercent();
 }
 

@@ -10,6 +10,7 @@
 #include "design/frmSecondOpinion.h"
 #include "design/frmWhatIf.h"
 #include "design/result_values.h"
+#include "design/results_tab.h"
 #include "design/second_opinion_texts.h"
 #include "forms/text_numbers.h"
 #include "frame/varnmain.h"
@@ -19,7 +20,6 @@ namespace varnholt {
 namespace {
 
 constexpr std::array rowLabels{"CASecondLengthLabel", "CASecondDepthLabel"};
-constexpr std::size_t captionElement = 2;
 
 /// From here on a designer must see that the methods differ.
 constexpr double strongDifference = 0.10;

@@ -2,7 +2,9 @@
 // The controls of the second opinion's window.
 #include "design/frmBHDesign.h"
 #include "design/frmSecondOpinion.h"
+#include "design/results_tab.h"
 #include "design/second_opinion_texts.h"
+#include "design/shared_texts.h"
 #include "forms/text_numbers.h"
 
 namespace varnholt {
@@ -13,11 +15,8 @@ constexpr const char* partsFrame = "SEPartsFrame";
 constexpr const char* inputsFrame = "SEInputsFrame";
 constexpr const char* yearFrame = "SEYearFrame";
 constexpr const char* depthFrame = "SEDepthFrame";
-constexpr const char* tableFrame = "SETableFrame";
-constexpr std::size_t captionElement = 2;
+constexpr const char* yearsTableFrame = "SETableFrame";
 constexpr double noLimit = 1e308;
-
-constexpr UnitTexts lengthUnit{Text::lengthUnitsEnglish, Text::lengthUnitsMetric};
 
 /// A column of the months' table.
 struct MonthColumn {
@@ -204,16 +203,16 @@ void frmSecondOpinion::addTable() {
                                    {Text::opinionPenaltyEnglish, Text::opinionPenaltyMetric},
                                    {Text::opinionHighEnglish, Text::opinionHighMetric},
                                    {Text::opinionLowEnglish, Text::opinionLowMetric}};
-    add(tableFrame, ControlKind::frame, Text::opinionTable);
+    add(yearsTableFrame, ControlKind::frame, Text::opinionTable);
     for (std::size_t i = 0; i < std::size(heads); ++i)
-        addUnitLabel(elementName("SEHeadLabel", i), tableFrame, heads[i]);
+        addUnitLabel(elementName("SEHeadLabel", i), yearsTableFrame, heads[i]);
     for (std::size_t line = 0; line < opinionYears.size(); ++line)
         for (const char* column : {"SEYearLabel", "SEPenaltyLabel", "SEHighLabel", "SELowLabel"})
-            addOutput(elementName(column, line), tableFrame);
-    addUnitLabel("SEClassicalPenaltyLabel(2)", tableFrame,
+            addOutput(elementName(column, line), yearsTableFrame);
+    addUnitLabel("SEClassicalPenaltyLabel(2)", yearsTableFrame,
                  {Text::opinionClassicalPenaltyEnglish, Text::opinionClassicalPenaltyMetric});
     for (const Mode mode : modes)
-        addOutput(elementName("SEClassicalPenaltyLabel", mode), tableFrame);
+        addOutput(elementName("SEClassicalPenaltyLabel", mode), yearsTableFrame);
 }
 
 }  // namespace varnholt

@@ -86,7 +86,7 @@ void frmSecondOpinion::showTable() {
         const OpinionYearLine& year = opinion().years[line];
         write("SEYearLabel", line, formatNumber(opinionYears[line], "###0"));
         write("SEPenaltyLabel", line,
-              temperatureOrDash(year.penalty, temperatureDifference, units()));
+              temperatureOrDash(year.penalty, quantities::temperatureDifference, units()));
         write("SEHighLabel", line, temperatureOrDash(year.high, temperature, units()));
         write("SELowLabel", line, temperatureOrDash(year.low, temperature, units()));
     }
@@ -95,7 +95,7 @@ void frmSecondOpinion::showTable() {
         if (opinion().classicalLength[mode] > 0)
             penalty = design_.lateSecondOpinion().classicalPenalty()[mode];
         write("SEClassicalPenaltyLabel", mode,
-              temperatureOrDash(penalty, temperatureDifference, units()));
+              temperatureOrDash(penalty, quantities::temperatureDifference, units()));
     }
 }
 

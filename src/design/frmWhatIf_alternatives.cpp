@@ -12,19 +12,19 @@ namespace varnholt {
 namespace {
 
 constexpr const char* keepFrame = "WVKeepFrame";
-constexpr const char* tableFrame = "WVTableFrame";
+constexpr const char* alternativesFrame = "WVTableFrame";
 
 /// Columns of the table; the list has them all.
-constexpr std::size_t columns = 8;
+constexpr std::size_t alternativeColumns = 8;
 
 /// A row of the table: the lower the better where one is best at all.
-struct Row {
+struct AlternativeRow {
     const char* array;
     int caption;
     double AlternativeFigures::*figure;
     bool judged;
 };
-constexpr Row rows[] = {
+constexpr AlternativeRow alternativeRows[] = {
     {"WVLengthLabel", Text::whatIfRowLength, &AlternativeFigures::length, true},
     {"WVBoresLabel", Text::whatIfRowBores, &AlternativeFigures::bores, false},
     {"WVDepthLabel", Text::whatIfRowDepth, &AlternativeFigures::depth, false},
@@ -39,7 +39,7 @@ std::string changeOf(std::string array) {
     return array.replace(array.rfind(word), word.size(), "ChangeLabel");
 }
 
-std::string figureText(const WhatIfTeller& teller, const Row& row, double value) {
+std::string figureText(const WhatIfTeller& teller, const AlternativeRow& row, double value) {
     if (row.figure == &AlternativeFigures::length) return teller.length(value);
     if (row.figure == &AlternativeFigures::depth) return teller.depth(value);
     const bool money =
@@ -48,13 +48,14 @@ std::string figureText(const WhatIfTeller& teller, const Row& row, double value)
 }
 
 /// What is less carries a minus, what is more a plus.
-std::string changeText(const WhatIfTeller& teller, const Row& row, double difference) {
+std::string changeText(const WhatIfTeller& teller, const AlternativeRow& row, double difference) {
     if (difference == 0) return {};
     return (difference > 0 ? "+" : "-") + figureText(teller, row, std::abs(difference));
 }
 
 /// The least figure of a row, where another alternative has a greater one.
-std::optional<double> bestOf(const std::vector<AlternativeFigures>& all, const Row& row) {
+std::optional<double> bestOf(const std::vector<AlternativeFigures>& all,
+                             const AlternativeRow& row) {
     std::optional<double> best, worst;
     for (const AlternativeFigures& each : all) {
         const double value = each.*row.figure;
@@ -81,14 +82,16 @@ void frmWhatIf::addAlternatives() {
     onClick("WVList", [this] { showAlternativeCommands(); });
     button("WVRestoreCommand", Text::whatIfPutBack, &frmWhatIf::WVRestoreCommand_Click);
     button("WVRemoveCommand", Text::whatIfRemove, &frmWhatIf::WVRemoveCommand_Click);
-    add(tableFrame, ControlKind::frame, Text::whatIfCompared);
-    for (std::size_t n = 0; n < columns; ++n) addOutput(elementName("WVHeadLabel", n), tableFrame);
+    add(alternativesFrame, ControlKind::frame, Text::whatIfCompared);
+    for (std::size_t n = 0; n < alternativeColumns; ++n)
+        addOutput(elementName("WVHeadLabel", n), alternativesFrame);
     std::size_t index = 0;
-    for (const Row& row : rows) {
-        add(elementName("WVRowLabel", index++), ControlKind::label, row.caption).in(tableFrame);
-        for (std::size_t n = 0; n < columns; ++n) {
-            addOutput(elementName(row.array, n), tableFrame);
-            addOutput(elementName(changeOf(row.array), n), tableFrame);
+    for (const AlternativeRow& row : alternativeRows) {
+        add(elementName("WVRowLabel", index++), ControlKind::label, row.caption)
+            .in(alternativesFrame);
+        for (std::size_t n = 0; n < alternativeColumns; ++n) {
+            addOutput(elementName(row.array, n), alternativesFrame);
+            addOutput(elementName(changeOf(row.array), n), alternativesFrame);
         }
     }
     addOutput("WVReasonLabel");
@@ -104,13 +107,13 @@ void frmWhatIf::showAlternatives() {
         reasons += (reasons.empty() ? "" : " ") + each.name + ": " + teller().reason(each.reason);
     }
     write("WVReasonLabel", reasons);
-    for (std::size_t n = 0; n < columns; ++n) {
+    for (std::size_t n = 0; n < alternativeColumns; ++n) {
         write(elementName("WVHeadLabel", n), n < all.size() ? all[n].name : std::string());
         control(elementName("WVHeadLabel", n)).setVisible(n < all.size());
     }
-    for (const Row& row : rows) {
+    for (const AlternativeRow& row : alternativeRows) {
         const std::optional<double> best = bestOf(all, row);
-        for (std::size_t n = 0; n < columns; ++n) {
+        for (std::size_t n = 0; n < alternativeColumns; ++n) {
             const bool there = n < all.size();
             const double value = there ? all[n].*row.figure : 0;
             const double first = there ? all.front().*row.figure : 0;

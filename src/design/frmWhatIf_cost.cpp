@@ -3,6 +3,7 @@
 #include "basis/number_text.h"
 #include "design/frmBHDesign.h"
 #include "design/frmWhatIf.h"
+#include "design/shared_texts.h"
 #include "forms/text_numbers.h"
 
 namespace varnholt {
@@ -13,8 +14,7 @@ constexpr const char* towerFrame = "WCTowerFrame";
 constexpr const char* loopFrame = "WCLoopFrame";
 constexpr const char* energyFrame = "WCEnergyFrame";
 constexpr const char* resultFrame = "WCResultFrame";
-constexpr const char* helpSection = "cost";
-constexpr UnitTexts lengthUnit{Text::lengthUnitsEnglish, Text::lengthUnitsMetric};
+constexpr const char* costHelp = "cost";
 
 double metersOfAFoot() { return quantities::length.shown(1, UnitSystem::metric); }
 double same(double value) { return value; }
@@ -47,11 +47,11 @@ void frmWhatIf::addCost() {
 void frmWhatIf::addPrices() {
     const auto price = [this](const char* control, const char* stored, const char* frame,
                               int caption, std::string_view format) {
-        addNumber({control, stored, frame, {caption, caption}, format}, helpSection);
+        addNumber({control, stored, frame, {caption, caption}, format}, costHelp);
     };
     const auto byLength = [this](const char* control, const char* stored, const char* frame,
                                  UnitTexts caption) {
-        addNumber({control, stored, frame, caption, "###0.00", &priceOfLength}, helpSection);
+        addNumber({control, stored, frame, caption, "###0.00", &priceOfLength}, costHelp);
     };
     const auto length = [this](const char* control, const char* stored, int caption) {
         addNumber({control,
@@ -61,7 +61,7 @@ void frmWhatIf::addPrices() {
                    "###0.0",
                    &quantities::length,
                    lengthUnit},
-                  helpSection);
+                  costHelp);
     };
     add(buildFrame, ControlKind::frame, Text::whatIfBuild);
     price("WCFixedText", "costFixed", buildFrame, Text::whatIfMobilization, "#####0");

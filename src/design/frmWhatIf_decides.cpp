@@ -13,7 +13,7 @@ namespace {
 constexpr const char* groundFrame = "WIGroundFrame";
 constexpr const char* spreadFrame = "WISpreadFrame";
 constexpr const char* tieFrame = "WITieFrame";
-constexpr const char* helpSection = "decides";
+constexpr const char* decidesHelp = "decides";
 
 /// The quantities whose spreads the ground's knowledge tells.
 bool isOfGround(std::size_t quantity) { return quantity <= boreResistance; }
@@ -28,7 +28,7 @@ void frmWhatIf::addDecides() {
     add(groundFrame, ControlKind::frame, Text::whatIfGround);
     const std::array<int, 3> knowledge{Text::whatIfTest, Text::whatIfLog, Text::whatIfTable};
     for (std::size_t i = 0; i < knowledge.size(); ++i) {
-        addOption("WIGroundOption", i, knowledge[i], groundFrame, helpSection);
+        addOption("WIGroundOption", i, knowledge[i], groundFrame, decidesHelp);
         onClick(elementName("WIGroundOption", i),
                 [this, i] { WIGroundOption_Click(static_cast<GroundKnowledge>(i)); });
     }
@@ -47,7 +47,7 @@ void frmWhatIf::addDecides() {
                           {ties[n], ties[n]},
                           "0.00"};
         if (n == resistanceTie) field.changed = [this] { typedGround(); };
-        addNumber(field, helpSection);
+        addNumber(field, decidesHelp);
     }
     add("WITiedLabel", ControlKind::label, Text::whatIfTied).in(tieFrame);
     add("imgTornado", ControlKind::image, Text::whatIfTornado).foundLate();
@@ -65,11 +65,11 @@ void frmWhatIf::addSpread(std::size_t quantity) {
     field.label = elementName("WIQuantityLabel", quantity);
     field.distinction = Text::whatIfLow;
     if (isOfGround(quantity)) field.changed = [this] { typedGround(); };
-    addNumber(field, helpSection);
+    addNumber(field, decidesHelp);
     field.control = elementName("WIHighText", quantity);
     field.stored = elementName("spreadHigh", quantity);
     field.distinction = Text::whatIfHigh;
-    addNumber(field, helpSection);
+    addNumber(field, decidesHelp);
     addOutput(elementName("WIShareLabel", quantity), spreadFrame);
 }
 

@@ -4,14 +4,14 @@
 #include "design/frmBHDesign.h"
 #include "design/frmWhatIf.h"
 #include "design/land_lines.h"
+#include "design/shared_texts.h"
 #include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
 
 constexpr const char* landFrame = "WLLandFrame";
-constexpr const char* helpSection = "land";
-constexpr UnitTexts lengthUnit{Text::lengthUnitsEnglish, Text::lengthUnitsMetric};
+constexpr const char* landHelp = "land";
 constexpr double farthest = 1e6;  // ft, of a corner from the origin
 
 }  // namespace
@@ -26,7 +26,7 @@ void frmWhatIf::addLand() {
                    "###0.0",
                    &quantities::length,
                    lengthUnit},
-                  helpSection);
+                  landHelp);
     };
     length("WLAcrossText", "landAcross", Text::whatIfAcross);
     length("WLDownText", "landDown", Text::whatIfDown);

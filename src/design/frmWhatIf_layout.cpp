@@ -4,6 +4,7 @@
 #include "design/frmBHDesign.h"
 #include "design/frmWhatIf.h"
 #include "design/land_lines.h"
+#include "design/shared_texts.h"
 #include "design/whatIf/what_if_values.h"
 #include "forms/text_numbers.h"
 
@@ -12,8 +13,7 @@ namespace {
 
 constexpr const char* searchFrame = "WLSearchFrame";
 constexpr const char* fieldsFrame = "WLFieldsFrame";
-constexpr const char* helpSection = "layout";
-constexpr UnitTexts lengthUnit{Text::lengthUnitsEnglish, Text::lengthUnitsMetric};
+constexpr const char* layoutHelp = "layout";
 
 }  // namespace
 
@@ -46,7 +46,7 @@ void frmWhatIf::addSearch() {
                    "###0.0",
                    &quantities::length,
                    lengthUnit},
-                  helpSection);
+                  layoutHelp);
     };
     length("WLFromText", "spacingFrom", Text::whatIfSpacingFrom);
     length("WLToText", "spacingTo", Text::whatIfSpacingTo);
@@ -58,12 +58,12 @@ void frmWhatIf::addSearch() {
                searchFrame,
                {Text::whatIfMostBores, Text::whatIfMostBores},
                "###0"},
-              helpSection);
+              layoutHelp);
     addNumber(
         {"WLMarginText", "margin", searchFrame, {Text::whatIfMargin, Text::whatIfMargin}, "##0.0"},
-        helpSection);
-    addOption("WLKindOption", wholeRectangles, Text::whatIfWhole, searchFrame, helpSection);
-    addOption("WLKindOption", rowsCutToLand, Text::whatIfCut, searchFrame, helpSection);
+        layoutHelp);
+    addOption("WLKindOption", wholeRectangles, Text::whatIfWhole, searchFrame, layoutHelp);
+    addOption("WLKindOption", rowsCutToLand, Text::whatIfCut, searchFrame, layoutHelp);
     for (const LayoutKind kind : {wholeRectangles, rowsCutToLand})
         onClick(elementName("WLKindOption", static_cast<std::size_t>(kind)),
                 [this, kind] { inputs().layout.layoutKind = kind; });

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The page that tells how sure the length is.
 #include "design/frmWhatIf.h"
+#include "design/shared_texts.h"
 #include "forms/text_numbers.h"
 
 namespace varnholt {
@@ -8,9 +9,8 @@ namespace {
 
 constexpr const char* drawnFrame = "WIDrawnFrame";
 constexpr const char* depthsFrame = "WIDepthsFrame";
-constexpr const char* helpSection = "sure";
-constexpr std::size_t captionElement = 3;
-constexpr UnitTexts lengthUnit{Text::lengthUnitsEnglish, Text::lengthUnitsMetric};
+constexpr const char* sureHelp = "sure";
+constexpr std::size_t depthsCaption = 3;
 
 }  // namespace
 
@@ -24,20 +24,20 @@ void frmWhatIf::addSure() {
                "###0.0",
                &quantities::length,
                lengthUnit},
-              helpSection);
+              sureHelp);
     addNumber({"WIConfidenceText",
                "confidence",
                drawnFrame,
                {Text::whatIfConfidence, Text::whatIfConfidence},
                "##0"},
-              helpSection);
+              sureHelp);
     add(depthsFrame, ControlKind::frame, Text::whatIfDepths);
     add("WIDepthsHeadLabel(0)", ControlKind::label, Text::whatIfOneInTen).in(depthsFrame);
     add("WIDepthsHeadLabel(1)", ControlKind::label, Text::whatIfFiveInTen).in(depthsFrame);
     add("WIDepthsHeadLabel(2)", ControlKind::label, Text::whatIfNineInTen).in(depthsFrame);
     const auto row = [this](const char* array, UnitTexts caption) {
-        addUnitLabel(elementName(array, captionElement), depthsFrame, caption);
-        for (std::size_t i = 0; i < captionElement; ++i)
+        addUnitLabel(elementName(array, depthsCaption), depthsFrame, caption);
+        for (std::size_t i = 0; i < depthsCaption; ++i)
             addOutput(elementName(array, i), depthsFrame);
     };
     row("WIDepthsLabel", {Text::whatIfDepthsRow, Text::whatIfDepthsRow});
@@ -60,7 +60,7 @@ void frmWhatIf::showSure() {
     const double needs[] = {found.needP10, found.needP50, found.needP90};
     const ByMode<double> water[] = {found.enteringP10, found.enteringP50, found.enteringP90};
     const bool there = found.sampleCount > 0 && found.drawnDepth > 0 && !found.reason.holds();
-    for (std::size_t i = 0; i < captionElement; ++i) {
+    for (std::size_t i = 0; i < depthsCaption; ++i) {
         write(elementName("WIDepthsLabel", i), depth(needs[i]));
         const auto temperature = [&](Mode mode) {
             return there && found.needLength[mode] > 0 ? teller().temperature(water[i][mode]) : "-";

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "basis/run_time_error.h"
+#include "basis/units.h"
 
 namespace varnholt {
 namespace {
@@ -12,7 +13,6 @@ namespace {
 using namespace modCalculations;
 
 constexpr int points = 60;
-constexpr std::int16_t daysPerYear = 365;
 constexpr int daysPerPoint = 5;
 
 /// Where most of a year's swing has faded, as a round number of feet or metres.

@@ -14,7 +14,7 @@ using namespace modCalculations;
 constexpr double nearest = 4;        // degF; nearer to the water any length is asked for
 constexpr double usualReach = 24;    // degF
 constexpr double largestReach = 60;  // degF, where the lines come to nothing
-constexpr double step = 0.5;
+constexpr double stepOfLines = 0.5;
 
 /// Cooling has fluid above the water, heating below it.
 double approachOf(Mode mode, double difference) {
@@ -29,7 +29,8 @@ CurvePoint pointAt(const LoopPipe& pipe, Mode mode, double difference, UnitSyste
 
 double reachOf(const ByMode<double>& approachTemp) {
     double reach = usualReach;
-    for (const Mode mode : modes) reach = std::max(reach, std::abs(approachTemp[mode]) + step);
+    for (const Mode mode : modes)
+        reach = std::max(reach, std::abs(approachTemp[mode]) + stepOfLines);
     return std::min(reach, largestReach);
 }
 
@@ -41,9 +42,10 @@ LoopCurves drawLoopCurves(const LoopPipe& pipe, const ByMode<double>& approachTe
     try {
         const double reach = reachOf(approachTemp);
         for (const Mode mode : modes) {
-            const auto steps = static_cast<int>((reach - nearest) / step);
+            const auto steps = static_cast<int>((reach - nearest) / stepOfLines);
             for (int i = 0; i <= steps; ++i)
-                curves.perTon[mode].push_back(pointAt(pipe, mode, nearest + i * step, units));
+                curves.perTon[mode].push_back(
+                    pointAt(pipe, mode, nearest + i * stepOfLines, units));
             const double difference = approachOf(mode, approachTemp[mode]);
             if (difference >= nearest && difference <= reach)
                 curves.atDesign[mode] = {pointAt(pipe, mode, difference, units)};

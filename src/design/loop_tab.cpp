@@ -7,6 +7,7 @@
 
 #include "basis/number_text.h"
 #include "design/ground_design.h"
+#include "design/shared_texts.h"
 #include "design/surface_water_rules.h"
 #include "forms/text_numbers.h"
 
@@ -15,14 +16,10 @@ namespace {
 
 constexpr int loopSizes = 4;
 constexpr int headerSizes = 8;
-constexpr std::size_t branches = 1;
 constexpr double longest = 10000.0;  // ft
 constexpr double steepest = 1000.0;  // ft of head for 100 ft of pipe
-constexpr ByMode<int> modeTexts{Text::inletTemperatureCooling, Text::inletTemperatureHeating};
 constexpr std::array<int, 2> headerTexts{Text::primaryHeader, Text::branchHeader};
 constexpr const char* frames[] = {"PIPrimaryHeaderFrame", "PIBranchHeaderFrame"};
-
-std::string of(const char* name, std::size_t index) { return elementName(name, index); }
 
 }  // namespace
 
@@ -64,57 +61,59 @@ void LoopTab::addLoops() {
                          .help = "surface_water#loops"}});
     add("PIParallelLoopsLabel", ControlKind::label, frame, Text::numberOfLoops);
     for (const Mode mode : modes)
-        addField({.control = of("PIParallelLoopsText", mode),
+        addField({.control = elementName("PIParallelLoopsText", mode),
                   .stored = &loop_.parallelLoops[mode],
                   .fallback = 1,
                   .format = "###0",
                   .beside = {.frame = frame,
-                             .label = of("PIParallelLoopsLabel", mode),
-                             .caption = {modeTexts[mode], modeTexts[mode]},
+                             .label = elementName("PIParallelLoopsLabel", mode),
+                             .caption = {inletTemperatureTexts[mode], inletTemperatureTexts[mode]},
                              .help = "surface_water#loops",
                              .accessible = Text::numberOfLoops,
-                             .distinction = modeTexts[mode]}});
+                             .distinction = inletTemperatureTexts[mode]}});
 }
 
 void LoopTab::addLoopLosses() {
     const std::string frame = "PIHeadLossFrame";
     addFrame(frame, Text::loopHeadLoss, "PILoopPipeFrame");
     for (const Mode mode : modes)
-        addField({.control = of("PILoopHeadLossText", mode),
+        addField({.control = elementName("PILoopHeadLossText", mode),
                   .stored = &loop_.loopHeadLoss[mode],
                   .quantity = &quantities::headLoss,
                   .highest = steepest,
                   .metricFormat = "###0.00",
                   .beside = {.frame = frame,
-                             .label = of("PILoopHeadLossLabel", mode),
-                             .caption = {modeTexts[mode], modeTexts[mode]},
-                             .unitLabel = of("PILoopHeadLossUnitsLabel", mode),
+                             .label = elementName("PILoopHeadLossLabel", mode),
+                             .caption = {inletTemperatureTexts[mode], inletTemperatureTexts[mode]},
+                             .unitLabel = elementName("PILoopHeadLossUnitsLabel", mode),
                              .unit = {Text::headLossUnitsEnglish, Text::headLossUnitsMetric},
                              .help = "surface_water#losses",
                              .accessible = Text::loopHeadLoss,
-                             .distinction = modeTexts[mode]}});
+                             .distinction = inletTemperatureTexts[mode]}});
 }
 
 void LoopTab::addHeaders(std::size_t kind) {
     const std::string frame = frames[kind];
     addFrame(frame, headerTexts[kind], "PIHeaderParametersFrame");
     addHeaderCount(kind, frame);
-    addCombo(of("PIHeaderPipeSizeCombo", kind), frame, of("PIHeaderPipeSizeLabel", kind),
-             Text::headerPipeSize, Text::loopPipeThreeQuarterInch, Text::headerPipeSixInch);
-    onClick(of("PIHeaderPipeSizeCombo", kind), [this, kind] { PIHeaderPipeSizeCombo_Click(kind); });
+    addCombo(elementName("PIHeaderPipeSizeCombo", kind), frame,
+             elementName("PIHeaderPipeSizeLabel", kind), Text::headerPipeSize,
+             Text::loopPipeThreeQuarterInch, Text::headerPipeSixInch);
+    onClick(elementName("PIHeaderPipeSizeCombo", kind),
+            [this, kind] { PIHeaderPipeSizeCombo_Click(kind); });
     addHeaderLengths(kind, frame);
 }
 
 void LoopTab::addHeaderCount(std::size_t kind, const std::string& frame) {
     constexpr double largestCount = std::numeric_limits<std::int16_t>::max();
     double& count = header_.headerCount[kind];
-    addField({.control = of("PIHeaderNumberText", kind),
+    addField({.control = elementName("PIHeaderNumberText", kind),
               .stored = {[&count] { return count; },
                          [&count](double typed) { count = toInteger(typed); }, largestCount},
-              .fallback = kind == branches ? 0.0 : 1.0,
+              .fallback = kind == branchHeaders ? 0.0 : 1.0,
               .format = "###0",
               .beside = {.frame = frame,
-                         .label = of("PIHeaderNumberLabel", kind),
+                         .label = elementName("PIHeaderNumberLabel", kind),
                          .caption = {Text::numberOfHeaders, Text::numberOfHeaders},
                          .help = "surface_water#headers",
                          .accessible = headerTexts[kind],
@@ -122,24 +121,25 @@ void LoopTab::addHeaderCount(std::size_t kind, const std::string& frame) {
               // Branches can be described as soon as there are any, and are cleared on leaving.
               .changed =
                   [this] {
-                      if (header_.headerCount[branches] >= 1) enableBranches();
+                      if (header_.headerCount[branchHeaders] >= 1) enableBranches();
                   },
               .left = [this, kind] { PIHeaderNumberText_Leave(kind); }});
 }
 
 void LoopTab::addHeaderLengths(std::size_t kind, const std::string& frame) {
     const std::array<int, 2> places{Text::lengthInWater, Text::lengthInSoil};
-    add(of("PIHeaderLengthTitleLabel", kind), ControlKind::label, frame, Text::headerLength);
+    add(elementName("PIHeaderLengthTitleLabel", kind), ControlKind::label, frame,
+        Text::headerLength);
     for (std::size_t place = 0; place < places.size(); ++place) {
         const std::size_t index = 2 * kind + place;
-        addField({.control = of("PIHeaderLengthText", index),
+        addField({.control = elementName("PIHeaderLengthText", index),
                   .stored = &header_.headerLength[index],
                   .quantity = &quantities::length,
                   .highest = longest,
                   .beside = {.frame = frame,
-                             .label = of("PIHeaderLengthLabel", index),
+                             .label = elementName("PIHeaderLengthLabel", index),
                              .caption = {places[place], places[place]},
-                             .unitLabel = of("PIHeaderLengthUnitsLabel", index),
+                             .unitLabel = elementName("PIHeaderLengthUnitsLabel", index),
                              .unit = {Text::lengthUnitsEnglish, Text::lengthUnitsMetric},
                              .help = "surface_water#headers",
                              .accessible = Text::headerLength,
@@ -153,15 +153,15 @@ void LoopTab::addHeaderLosses() {
     const std::array<int, 4> captions{Text::primaryCoolingLoss, Text::primaryHeatingLoss,
                                       Text::branchCoolingLoss, Text::branchHeatingLoss};
     for (std::size_t i = 0; i < captions.size(); ++i)
-        addField({.control = of("PIHeaderHeadLossText", i),
+        addField({.control = elementName("PIHeaderHeadLossText", i),
                   .stored = &header_.headerHeadLoss[i],
                   .quantity = &quantities::headLoss,
                   .highest = steepest,
                   .metricFormat = "###0.00",
                   .beside = {.frame = frame,
-                             .label = of("PIHeaderHeadLossLabel", i),
+                             .label = elementName("PIHeaderHeadLossLabel", i),
                              .caption = {captions[i], captions[i]},
-                             .unitLabel = of("PIHeaderHeadLossUnitsLabel", i),
+                             .unitLabel = elementName("PIHeaderHeadLossUnitsLabel", i),
                              .unit = {Text::headLossUnitsEnglish, Text::headLossUnitsMetric},
                              .help = "surface_water#losses",
                              .accessible = Text::headerHeadLoss,
@@ -185,7 +185,7 @@ void LoopTab::PILoopPipeSizeCombo_Click() {
 }
 
 void LoopTab::PIHeaderPipeSizeCombo_Click(std::size_t kind) {
-    chooseHeaderPipe(header_, kind, control(of("PIHeaderPipeSizeCombo", kind)).index());
+    chooseHeaderPipe(header_, kind, control(elementName("PIHeaderPipeSizeCombo", kind)).index());
     design().calculationNeeded();
 }
 
@@ -201,16 +201,16 @@ void LoopTab::showChoices() {
     control("PISlinkyOption").setChecked(loop_.loopStyle == 1);
     control("PILoopPipeSizeCombo").setIndex(entryOf(loop_.loopPipeSize, loopSizes));
     for (const std::size_t kind : {0U, 1U})
-        control(of("PIHeaderPipeSizeCombo", kind))
+        control(elementName("PIHeaderPipeSizeCombo", kind))
             .setIndex(entryOf(header_.headerPipeSize[kind], headerSizes));
 }
 
 void LoopTab::enableBranches() {
-    const bool any = header_.headerCount[branches] >= 1;
-    control(of("PIHeaderPipeSizeCombo", branches)).setEnabled(any);
+    const bool any = header_.headerCount[branchHeaders] >= 1;
+    control(elementName("PIHeaderPipeSizeCombo", branchHeaders)).setEnabled(any);
     for (const std::size_t index : {2U, 3U}) {
-        control(of("PIHeaderLengthText", index)).setEnabled(any);
-        control(of("PIHeaderHeadLossText", index)).setEnabled(any);
+        control(elementName("PIHeaderLengthText", index)).setEnabled(any);
+        control(elementName("PIHeaderHeadLossText", index)).setEnabled(any);
     }
 }
 

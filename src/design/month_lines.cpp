@@ -8,11 +8,11 @@
 
 #include "basis/number_text.h"
 #include "basis/pasted_lines.h"
+#include "basis/units.h"
 
 namespace varnholt {
 namespace {
 
-constexpr std::size_t monthsOfAYear = 12;
 constexpr std::string_view blanks = " \t";
 
 /// Cells of a spreadsheet that are empty behind the last number do not count.
@@ -36,7 +36,7 @@ std::optional<std::array<double, 4>> fourNumbers(std::string_view line) {
 
 }  // namespace
 
-bool MonthLines::isWhole() const { return lines == monthsOfAYear && !badLine; }
+bool MonthLines::isWhole() const { return lines == monthsOfYear && !badLine; }
 
 MonthLines readMonthLines(std::string_view text) {
     MonthLines read;
@@ -44,7 +44,7 @@ MonthLines readMonthLines(std::string_view text) {
     for (const std::string& line : pastedLines(text).all()) {
         ++number;
         const std::string_view content = withoutEnd(line);
-        if (content.empty() || read.lines == monthsOfAYear) continue;
+        if (content.empty() || read.lines == monthsOfYear) continue;
         const auto four = fourNumbers(content);
         if (!four && !read.badLine) read.badLine = number;
         if (four) {

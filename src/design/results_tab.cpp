@@ -12,7 +12,6 @@
 namespace varnholt {
 namespace {
 
-constexpr int captionElement = 2;
 constexpr const char* frame = "CACalculationFrame";
 
 }  // namespace

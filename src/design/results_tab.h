@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -10,6 +11,9 @@
 #include "design/loads_roll_up.h"
 
 namespace varnholt {
+
+/// Element of a row's labels, behind those of the modes.
+constexpr std::size_t captionElement = 2;
 
 /// One row of the results: elements 0 and 1 of the label array are its values, element 2 its
 /// caption, which carries the unit.

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "basis/number_text.h"
+#include "design/shared_texts.h"
 #include "forms/numeric_field.h"
 #include "forms/quantity.h"
 #include "forms/text_numbers.h"
@@ -12,15 +13,9 @@
 namespace varnholt {
 namespace {
 
-constexpr int monthsOfAYear = 12;
-constexpr double percent = 100;
-
-constexpr std::array<int, monthsOfAYear> monthTexts{
+constexpr std::array<int, monthsOfYear> monthTexts{
     Text::january, Text::february, Text::march,     Text::april,   Text::may,      Text::june,
     Text::july,    Text::august,   Text::september, Text::october, Text::november, Text::december};
-
-constexpr UnitTexts lengthUnit{Text::lengthUnitsEnglish, Text::lengthUnitsMetric};
-constexpr UnitTexts temperatureUnit{Text::temperatureUnitsEnglish, Text::temperatureUnitsMetric};
 
 std::string modeWord(const Texts& texts, Mode mode) {
     return texts.text(mode == cooling ? Text::cooling : Text::heating);
@@ -35,12 +30,6 @@ std::string temperatureText(double fahrenheit, UnitSystem units) {
     return formatNumber(quantities::temperature.shown(fahrenheit, units), "###0.0");
 }
 
-void append(std::string& sentences, const std::string& sentence) {
-    if (sentence.empty()) return;
-    if (!sentences.empty()) sentences += ' ';
-    sentences += sentence;
-}
-
 /// Where the months come from.
 std::string sourceOfYear(const Texts& texts, std::int16_t shape) {
     if (shape == typedYear) return texts.text(Text::opinionAsTyped);
@@ -53,8 +42,8 @@ std::string yearNote(const Texts& texts, const OpinionYear& year, Mode mode) {
     if (year.evenMonths) return filledIn(texts.text(Text::opinionEven), {modeWord(texts, mode)});
     std::string note = filledIn(texts.text(Text::opinionPeaksIn),
                                 {modeWord(texts, mode), monthName(texts, year.peakMonth - 1),
-                                 formatNumber(percent * year.peakShare, "###0")});
-    if (year.heldAtGreatest) append(note, texts.text(Text::opinionHeld));
+                                 formatNumber(percentOfWhole * year.peakShare, "###0")});
+    if (year.heldAtGreatest) appendSentence(note, texts.text(Text::opinionHeld));
     return note;
 }
 
@@ -144,13 +133,14 @@ const std::array<int, 3> lengthPartTexts{Text::opinionPartField, Text::opinionPa
                                          Text::opinionPartMonths};
 
 std::string monthName(const Texts& texts, int month) {
-    const int place = ((month % monthsOfAYear) + monthsOfAYear) % monthsOfAYear;
+    constexpr int months = monthsOfYear;
+    const int place = ((month % months) + months) % months;
     return texts.text(monthTexts[static_cast<std::size_t>(place)]);
 }
 
 std::string monthOfYearText(const Texts& texts, int month) {
     if (month < 1) return "-";
-    const int year = (month - 1) / monthsOfAYear + 1;
+    const int year = (month - 1) / int{monthsOfYear} + 1;
     return filledIn(texts.text(Text::opinionMonthOfYear),
                     {monthName(texts, month - 1), std::to_string(year)});
 }
@@ -163,7 +153,7 @@ std::string lengthOrDash(const ByMode<double>& lengths, const SecondOpinion& opi
 
 std::string differenceOrDash(const SecondOpinion& opinion, Mode mode) {
     const std::optional<double> difference = opinion.difference(mode);
-    return difference ? signedText(percent * *difference, "###0.0") : "-";
+    return difference ? signedText(percentOfWhole * *difference, "###0.0") : "-";
 }
 
 std::string partOrDash(const SecondOpinion& opinion, Mode mode, std::size_t part,
@@ -189,11 +179,12 @@ std::string differenceText(const Texts& texts, const SecondOpinion& opinion, Mod
 std::string opinionNote(const Texts& texts, const SecondOpinion& opinion) {
     if (opinion.reason.holds()) return {};
     std::string note = sourceOfYear(texts, opinion.shape);
-    for (const Mode mode : modes) append(note, yearNote(texts, opinion.year[mode], mode));
+    for (const Mode mode : modes) appendSentence(note, yearNote(texts, opinion.year[mode], mode));
     if (opinion.towerPercent != 0)
-        append(note,
-               filledIn(texts.text(Text::opinionTower), {std::to_string(opinion.towerPercent)}));
-    append(note, filledIn(texts.text(Text::opinionPeakLength), {shortestText(opinion.pulseHours)}));
+        appendSentence(
+            note, filledIn(texts.text(Text::opinionTower), {std::to_string(opinion.towerPercent)}));
+    appendSentence(
+        note, filledIn(texts.text(Text::opinionPeakLength), {shortestText(opinion.pulseHours)}));
     return note;
 }
 
@@ -201,14 +192,14 @@ std::string opinionMessage(const Texts& texts, const SecondOpinion& opinion, dou
                            UnitSystem units) {
     const Teller teller{texts, groundTemp, units};
     std::string message;
-    if (opinion.importerMissing) append(message, texts.text(Text::opinionNoImporter));
+    if (opinion.importerMissing) appendSentence(message, texts.text(Text::opinionNoImporter));
     if (opinion.reason.holds()) {
-        append(message, teller.wholeReason(opinion.reason, opinion));
+        appendSentence(message, teller.wholeReason(opinion.reason, opinion));
         return message;
     }
     for (const Mode mode : modes)
         if (const OpinionReason& why = opinion.reasonOfMode[mode]; why.holds())
-            append(message, teller.modeReason(why, mode, opinion));
+            appendSentence(message, teller.modeReason(why, mode, opinion));
     return message;
 }
 

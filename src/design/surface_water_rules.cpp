@@ -13,7 +13,6 @@ namespace {
 using namespace modCalculations;
 
 constexpr std::array<double, 3> soilDiffusivities{0.26, 0.6, 0.96};  // ft^2/day
-constexpr std::size_t branches = 1;
 
 Header headerOf(const HeaderValues& headers, const WaterTemperatures& water, std::size_t kind) {
     const std::size_t first = 2 * kind;
@@ -28,7 +27,7 @@ Header headerOf(const HeaderValues& headers, const WaterTemperatures& water, std
 }
 
 void removeBranches(HeaderValues& headers) {
-    headers.headerCount[branches] = 0;
+    headers.headerCount[branchHeaders] = 0;
     headers.headerHeadLoss[2] = 0;
     headers.headerHeadLoss[3] = 0;
     headers.headerLength[2] = 0;
@@ -61,14 +60,14 @@ void chooseHeaderPipe(HeaderValues& headers, std::size_t kind, int choice) {
 
 void settleHeaderCount(HeaderValues& headers, std::size_t kind) {
     if (headers.headerCount.at(kind) >= 1) return;
-    if (kind == branches)
+    if (kind == branchHeaders)
         removeBranches(headers);
     else
         headers.headerCount[kind] = 1;
 }
 
 Headers headersOf(const HeaderValues& headers, const WaterTemperatures& water) {
-    return {headerOf(headers, water, 0), headerOf(headers, water, branches)};
+    return {headerOf(headers, water, 0), headerOf(headers, water, branchHeaders)};
 }
 
 }  // namespace varnholt

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include "basis/mode.h"
@@ -37,6 +38,9 @@ struct LoopValues {
 
     friend bool operator==(const LoopValues&, const LoopValues&) = default;
 };
+
+/// Index of the branch headers in the arrays of headers; the primary one stands before them.
+constexpr std::size_t branchHeaders = 1;
 
 /// Main headers (element 0) and the branches on each of them (element 1). Arrays of four run
 /// through the main headers' two values first: cooling and heating, or in water and in soil.

@@ -5,14 +5,13 @@
 #include <cstddef>
 
 #include "basis/run_time_error.h"
+#include "basis/units.h"
 #include "design/trench_rules.h"
 
 namespace varnholt {
 namespace {
 
 using namespace modCalculations;
-
-constexpr double inchesPerFoot = 12;
 
 /// The pipes without their images, around the trench's middle line.
 std::vector<PipeCircle> placePipes(const TrenchLayout& layout, const PipeValues& pipe) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "basis/units.h"
 #include "design/design_tab.h"
 #include "design/modCalculations/trench_layout.h"
 
@@ -11,7 +12,6 @@ namespace varnholt {
 TrenchPlan drawTrenches(const TrenchValues& trench, const HorizontalArrangementValues& pipes) {
     using namespace modCalculations;
     constexpr int arrangements = 5;
-    constexpr double inchesPerFoot = 12;
     TrenchPlan plan;
     plan.trenches = trench.trenchCount;
     if (entryOf(pipes.trenchConfiguration, arrangements) < 0) return plan;

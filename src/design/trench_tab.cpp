@@ -8,6 +8,7 @@
 #include "basis/number_text.h"
 #include "design/ground_design.h"
 #include "design/modCalculations/trench_limits.h"
+#include "design/shared_texts.h"
 #include "design/trench_rules.h"
 #include "forms/text_numbers.h"
 
@@ -28,10 +29,7 @@ constexpr double leastEnteredPitch = 18;
 constexpr double usualStep = 12;
 constexpr double usualDiameter = 36;
 constexpr std::array<double, 3> trenchFallbacks{6, 6, 8};
-constexpr UnitTexts lengthUnits{Text::lengthUnitsEnglish, Text::lengthUnitsMetric};
 constexpr UnitTexts widthUnits{Text::widthUnitsEnglish, Text::widthUnitsMetric};
-
-std::string of(const char* name, std::size_t index) { return elementName(name, index); }
 
 }  // namespace
 
@@ -84,17 +82,17 @@ void TrenchTab::addTrenchField(std::size_t index) {
     static constexpr std::array<int, 3> captions{Text::trenchSeparation, Text::trenchDepth,
                                                  Text::trenchWidth};
     const bool isWidth = index == widthField;
-    addField({.control = of("PASeparationText", index),
+    addField({.control = elementName("PASeparationText", index),
               .stored = &trench_.trenchGeometry[index],
               .quantity = isWidth ? &quantities::width : &quantities::length,
               .highest = 1000.0,
               .fallback = trenchFallbacks[index],
               .metricFormat = isWidth ? "###0" : "###0.0",
               .beside = {.frame = "PATrenchFrame",
-                         .label = of("PASeparationLabel", index),
+                         .label = elementName("PASeparationLabel", index),
                          .caption = {captions[index], captions[index]},
-                         .unitLabel = of("PASeparationUnitsLabel", index),
-                         .unit = isWidth ? widthUnits : lengthUnits,
+                         .unitLabel = elementName("PASeparationUnitsLabel", index),
+                         .unit = isWidth ? widthUnits : lengthUnit,
                          .help = "horizontal#trenches"},
               .changed = index == depthField ? deepened_ : std::function<void()>(),
               .left = [this, index] { PASeparationText_Leave(index); }});
@@ -106,7 +104,7 @@ void TrenchTab::addArrangements() {
         Text::slinkyLyingFlat, Text::slinkyOnEdge};
     for (std::int16_t i = 0; i < arrangements; ++i) {
         const auto element = static_cast<std::size_t>(i);
-        const std::string name = of("PAConfigurationOption", element);
+        const std::string name = elementName("PAConfigurationOption", element);
         add(name, ControlKind::option, "PAInTrenchFrame", captions[element])
             .grouped("PAConfigurationOption")
             .repeatingClicks()
@@ -147,14 +145,14 @@ void TrenchTab::addPipeCount() {
 void TrenchTab::addPipeField(std::size_t index, StoredNumber stored, double fallback,
                              std::function<void()> left) {
     NumericFieldRow row{
-        .control = of("PAInTrenchConfigurationText", index),
+        .control = elementName("PAInTrenchConfigurationText", index),
         .stored = std::move(stored),
         .quantity = &quantities::width,
         .fallback = fallback,
         .metricFormat = "###0",
         .beside = {.frame = "PAInTrenchFrame",
-                   .label = of("PAInTrenchConfigurationLabel", index),
-                   .unitLabel = of("PAInTrenchConfigurationUnitsLabel", index),
+                   .label = elementName("PAInTrenchConfigurationLabel", index),
+                   .unitLabel = elementName("PAInTrenchConfigurationUnitsLabel", index),
                    .unit = widthUnits,
                    .help = index == pitchField ? "horizontal#slinkies" : "horizontal#pipes"},
         .left = std::move(left)};
@@ -181,9 +179,9 @@ void TrenchTab::addTime() {
 /// The trench in a cut across it, and the field from above.
 void TrenchTab::addPictures() {
     for (const std::size_t i : {0U, 1U, 2U})
-        add(of("PADiagramPicture", i), ControlKind::image, "PAFieldFrame");
+        add(elementName("PADiagramPicture", i), ControlKind::image, "PAFieldFrame");
     for (const std::size_t i : {0U, 1U, 2U, 3U, 4U})
-        add(of("imgConfiguration", i), ControlKind::image, "PAFieldFrame");
+        add(elementName("imgConfiguration", i), ControlKind::image, "PAFieldFrame");
 }
 
 void TrenchTab::setLabels() {
@@ -198,13 +196,13 @@ void TrenchTab::setUnitLabels() {
 
 void TrenchTab::PAConfigurationOption_Click(std::int16_t index) {
     selectArrangement(index, trench_, arrangement_);
-    design().fields().show(of("PASeparationText", widthField));
+    design().fields().show(elementName("PASeparationText", widthField));
     showArrangement();
     design().calculationNeeded();
 }
 
 void TrenchTab::PAConfigurationUpDown_Change(std::size_t index) {
-    const double count = control(of("PAConfigurationUpDown", index)).value();
+    const double count = control(elementName("PAConfigurationUpDown", index)).value();
     if (index == 0)
         takeTrenches(count, trench_);
     else
@@ -226,7 +224,7 @@ void TrenchTab::PASeparationText_Leave(std::size_t index) {
     double& value = trench_.trenchGeometry[index];
     if (value == 0) {
         value = trenchFallbacks[index];
-        design().fields().show(of("PASeparationText", index));
+        design().fields().show(elementName("PASeparationText", index));
         if (index == depthField) deepened_();
         design().calculationNeeded();
     }
@@ -237,7 +235,7 @@ void TrenchTab::PASeparationText_Leave(std::size_t index) {
 void TrenchTab::leaveVerticalStep() {
     if (!coilIsChosen() && arrangement_.pipeSeparation[0] == 0) {
         arrangement_.pipeSeparation[0] = usualStep;
-        design().fields().show(of("PAInTrenchConfigurationText", verticalField));
+        design().fields().show(elementName("PAInTrenchConfigurationText", verticalField));
         design().calculationNeeded();
     }
     applyLimits();
@@ -246,7 +244,7 @@ void TrenchTab::leaveVerticalStep() {
 void TrenchTab::leaveHorizontalStep() {
     if (arrangement_.pipeSeparation[1] == 0) {
         arrangement_.pipeSeparation[1] = usualStep;
-        design().fields().show(of("PAInTrenchConfigurationText", horizontalField));
+        design().fields().show(elementName("PAInTrenchConfigurationText", horizontalField));
         design().calculationNeeded();
     }
     applyLimits();
@@ -256,7 +254,7 @@ void TrenchTab::applyLimits() {
     if (!isKnown()) return;
     if (deepenTrench(trench_, arrangement_)) {
         tell(MessageIcon::exclamation, text(Text::trenchDeepened));
-        design().fields().show(of("PASeparationText", depthField));
+        design().fields().show(elementName("PASeparationText", depthField));
         deepened_();
         design().calculationNeeded();
     }
@@ -267,7 +265,7 @@ void TrenchTab::applyLimits() {
 void TrenchTab::applyWidthLimit() {
     if (!isKnown() || !widenTrench(trench_, arrangement_)) return;
     tell(MessageIcon::exclamation, text(Text::trenchWidened));
-    design().fields().show(of("PASeparationText", widthField));
+    design().fields().show(elementName("PASeparationText", widthField));
     design().calculationNeeded();
 }
 
@@ -275,7 +273,7 @@ void TrenchTab::holdPitch() {
     double& pitch = arrangement_.coilGeometry[0];
     const double held = pitchWithinLimits(pitch);
     if (std::exchange(pitch, held) == held) return;
-    design().fields().show(of("PAInTrenchConfigurationText", pitchField));
+    design().fields().show(elementName("PAInTrenchConfigurationText", pitchField));
     design().calculationNeeded();
 }
 
@@ -289,7 +287,8 @@ bool TrenchTab::coilIsChosen() const { return isCoil(arrangement_.trenchConfigur
 void TrenchTab::showArrangement() {
     const int chosen = entryOf(arrangement_.trenchConfiguration, arrangements);
     for (int i = 0; i < arrangements; ++i)
-        control(of("PAConfigurationOption", static_cast<std::size_t>(i))).setChecked(i == chosen);
+        control(elementName("PAConfigurationOption", static_cast<std::size_t>(i)))
+            .setChecked(i == chosen);
     showCaptions();
     showFields();
     showCounts();
@@ -305,7 +304,7 @@ void TrenchTab::showCaptions() {
         text(coil ? Text::coilDiameter : Text::verticalSeparation) + (coil ? " [D]:" : " [Y]:"),
         text(Text::horizontalSeparation) + " [X]:"};
     for (std::size_t i = 0; i < captions.size(); ++i)
-        control(of("PAInTrenchConfigurationLabel", i)).setCaption(captions[i]);
+        control(elementName("PAInTrenchConfigurationLabel", i)).setCaption(captions[i]);
     design().fields().showCaptions();
     control("PAConfigurationUpDown(1)").setAccessibleName(text(Text::totalNumberOfPipes));
 }
@@ -314,9 +313,9 @@ void TrenchTab::showFields() {
     const bool coil = coilIsChosen();
     const TrenchLayout layout = layoutOf(trench_, arrangement_);
     for (const std::size_t i : {pitchField, verticalField, horizontalField})
-        design().fields().show(of("PAInTrenchConfigurationText", i));
-    control(of("PAInTrenchConfigurationText", pitchField)).setVisible(coil);
-    control(of("PAInTrenchConfigurationUnitsLabel", pitchField)).setVisible(coil);
+        design().fields().show(elementName("PAInTrenchConfigurationText", i));
+    control(elementName("PAInTrenchConfigurationText", pitchField)).setVisible(coil);
+    control(elementName("PAInTrenchConfigurationUnitsLabel", pitchField)).setVisible(coil);
     showDimension(horizontalField, !coil);
     enableDimension(verticalField, coil || (isKnown() && usesRowStep(layout)));
     enableDimension(horizontalField, isKnown() && usesColumnStep(layout));
@@ -349,21 +348,21 @@ void TrenchTab::showPictures() {
     control("PADiagramPicture(1)").setVisible(!coil && !offset);
     control("PADiagramPicture(2)").setVisible(!coil && offset);
     for (int i = 0; i < arrangements; ++i)
-        control(of("imgConfiguration", static_cast<std::size_t>(i)))
+        control(elementName("imgConfiguration", static_cast<std::size_t>(i)))
             .setVisible(i == arrangement_.trenchConfiguration);
 }
 
 void TrenchTab::enableDimension(std::size_t index, bool enabled) {
     const int colour = enabled ? colours::black : dimensionGrey;
-    control(of("PAInTrenchConfigurationText", index)).setEnabled(enabled);
-    control(of("PAInTrenchConfigurationLabel", index)).setForecolor(colour);
-    control(of("PAInTrenchConfigurationUnitsLabel", index)).setForecolor(colour);
+    control(elementName("PAInTrenchConfigurationText", index)).setEnabled(enabled);
+    control(elementName("PAInTrenchConfigurationLabel", index)).setForecolor(colour);
+    control(elementName("PAInTrenchConfigurationUnitsLabel", index)).setForecolor(colour);
 }
 
 void TrenchTab::showDimension(std::size_t index, bool shown) {
-    control(of("PAInTrenchConfigurationLabel", index)).setVisible(shown);
-    control(of("PAInTrenchConfigurationText", index)).setVisible(shown);
-    control(of("PAInTrenchConfigurationUnitsLabel", index)).setVisible(shown);
+    control(elementName("PAInTrenchConfigurationLabel", index)).setVisible(shown);
+    control(elementName("PAInTrenchConfigurationText", index)).setVisible(shown);
+    control(elementName("PAInTrenchConfigurationUnitsLabel", index)).setVisible(shown);
 }
 
 }  // namespace varnholt

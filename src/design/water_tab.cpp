@@ -2,13 +2,13 @@
 #include "design/water_tab.h"
 
 #include "design/ground_design.h"
+#include "design/shared_texts.h"
 #include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
 
 constexpr int waterTypes = 5;
-constexpr ByMode<int> modeTexts{Text::inletTemperatureCooling, Text::inletTemperatureHeating};
 constexpr const char* headerFrames[] = {"WAPrimaryHeaderFrame", "WABranchHeaderFrame"};
 constexpr int headerCaptions[] = {Text::primaryHeaderWaterTemperatures,
                                   Text::branchHeaderWaterTemperatures};
@@ -35,7 +35,7 @@ WaterTab::WaterTab(GroundDesign& design, WaterTemperatures& water, SurfaceWaterD
 void WaterTab::addTemperature(const std::string& array, std::size_t index, double& stored,
                               const std::string& frame, int frameCaption) {
     const std::string stem = array.substr(0, array.size() - std::string("Text").size());
-    const int mode = modeTexts[index % 2];
+    const int mode = inletTemperatureTexts[index % 2];
     addField(
         {.control = elementName(array, index),
          .stored = &stored,

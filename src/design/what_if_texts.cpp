@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "basis/number_text.h"
+#include "design/shared_texts.h"
 #include "forms/numeric_field.h"
 #include "forms/quantity.h"
 #include "forms/text_numbers.h"
@@ -13,18 +14,8 @@
 namespace varnholt {
 namespace {
 
-constexpr UnitTexts lengthUnit{Text::lengthUnitsEnglish, Text::lengthUnitsMetric};
-constexpr UnitTexts temperatureUnit{Text::temperatureUnitsEnglish, Text::temperatureUnitsMetric};
-constexpr double percent = 100;
-
 std::string withUnit(const std::string& figure, const WhatIfTeller& teller, UnitTexts unit) {
     return figure + ' ' + teller.text(unit.in(teller.units));
-}
-
-void append(std::string& sentences, const std::string& sentence) {
-    if (sentence.empty()) return;
-    if (!sentences.empty()) sentences += ' ';
-    sentences += sentence;
 }
 
 /// The step up to which a depth is rounded: a figure bears no more digits than its error leaves.
@@ -57,7 +48,7 @@ std::string modeWord(const WhatIfTeller& teller, Mode mode) {
 std::string otherMethodClause(const WhatIfTeller& teller, const WhatIf& found,
                               std::int16_t measure) {
     if (!(found.needGoverning > 0) || !(found.otherNeed > 0)) return {};
-    const double difference = percent * (found.otherNeed / found.needGoverning - 1);
+    const double difference = percentOfWhole * (found.otherNeed / found.needGoverning - 1);
     const bool more = difference >= 0;
     const int words = measure == classicalMethod
                           ? (more ? Text::whatIfOpinionMore : Text::whatIfOpinionLess)
@@ -144,7 +135,7 @@ std::string WhatIfTeller::reason(const Reason& reason) const {
 }
 
 std::string frequencyText(const Texts& texts, double share) {
-    const double of100 = std::round(percent * share);
+    const double of100 = std::round(percentOfWhole * share);
     if (of100 < 1) return texts.text(Text::whatIfFewerThanOne);
     if (of100 > 99) return texts.text(Text::whatIfMoreThan99);
     return formatNumber(of100, "#0");
@@ -154,15 +145,15 @@ std::string whatIfMessage(const WhatIfTeller& teller, const WhatIf& found) {
     std::string message = teller.reason(found.reason);
     if (!message.empty()) return message;
     for (const Mode mode : modes) {
-        append(message, teller.reason(found.reasonOfMode[mode]));
+        appendSentence(message, teller.reason(found.reasonOfMode[mode]));
         if (found.hiddenByRun[mode])
-            append(message, filledIn(teller.text(Text::whatIfHiddenByRun),
-                                     {captionWords(modeWord(teller, mode))}));
+            appendSentence(message, filledIn(teller.text(Text::whatIfHiddenByRun),
+                                             {captionWords(modeWord(teller, mode))}));
     }
     if (found.failedSamples > 0)
-        append(message, filledIn(teller.text(Text::whatIfFailedCases),
-                                 {groupedNumber(static_cast<double>(found.failedSamples)),
-                                  groupedNumber(static_cast<double>(found.sampleCount))}));
+        appendSentence(message, filledIn(teller.text(Text::whatIfFailedCases),
+                                         {groupedNumber(static_cast<double>(found.failedSamples)),
+                                          groupedNumber(static_cast<double>(found.sampleCount))}));
     return message;
 }
 
@@ -172,12 +163,12 @@ std::string whatIfNote(const WhatIfTeller& teller, const WhatIf& found,
     const std::string clause = otherMethodClause(teller, found, inputs.measure);
     std::string note = clause.empty() ? teller.text(Text::whatIfNotCounted)
                                       : filledIn(teller.text(Text::whatIfNotCountedBut), {clause});
-    if (inputs.spreads == Spreads{}) append(note, teller.text(Text::whatIfSpreadsBuiltIn));
+    if (inputs.spreads == Spreads{}) appendSentence(note, teller.text(Text::whatIfSpreadsBuiltIn));
     const bool builtIn = inputs.prices == Prices{};
     const int prices = builtIn                   ? Text::whatIfPricesBuiltIn
                        : inputs.pricesOf.empty() ? Text::whatIfPricesIn
                                                  : Text::whatIfPricesOf;
-    append(note, filledIn(teller.text(prices), {inputs.currency, inputs.pricesOf}));
+    appendSentence(note, filledIn(teller.text(prices), {inputs.currency, inputs.pricesOf}));
     return note;
 }
 
@@ -229,7 +220,7 @@ std::string layoutLine(const WhatIfTeller& teller, const LayoutField& field) {
 
 std::string layoutMessage(const WhatIfTeller& teller, const Layouts& found) {
     std::string message = teller.reason(found.reason);
-    for (const Reason& note : found.notes) append(message, teller.reason(note));
+    for (const Reason& note : found.notes) appendSentence(message, teller.reason(note));
     return message;
 }
 

@@ -4,12 +4,11 @@
 #include <algorithm>
 #include <optional>
 
+#include "catalogue/fitting/pump_fit.h"
+
 namespace varnholt {
 namespace {
 
-/// Rows of the measured table with a mode's points, which each mode has as many of.
-constexpr ByMode<std::size_t> firstRow{3, 0};
-constexpr std::size_t rowsOfMode = 3;
 /// What rounding leaves of a capacity that was chosen to meet the load is no lack of it.
 constexpr double rounding = 1e-9;
 
@@ -28,8 +27,8 @@ std::optional<ZoneWarning> inletWarning(const pump& model, Mode m, double inlet)
     const auto byTemperature = [](const ewt& a, const ewt& b) {
         return a.temperature < b.temperature;
     };
-    const auto* first = model.ewt.data() + firstRow[m];
-    const auto [low, high] = std::minmax_element(first, first + rowsOfMode, byTemperature);
+    const auto* first = model.ewt.data() + firstRatingRow[m];
+    const auto [low, high] = std::minmax_element(first, first + ratingPoints, byTemperature);
     const bool tells = low->temperature < high->temperature;
     if (!tells || (inlet >= low->temperature && inlet <= high->temperature)) return std::nullopt;
     return ZoneWarning{ZoneWarning::Concern::inlet, m, inlet, low->temperature, high->temperature};
@@ -43,7 +42,7 @@ std::vector<ZoneWarning> warningsOf(const Zone& zone, const ByMode<double>& inle
     const ByMode<double> loads{largestLoad(zone, cooling), largestLoad(zone, heating)};
     if (!hasPump(zone.pump)) {
         if (loads[cooling] > 0 || loads[heating] > 0)
-            warnings.push_back({ZoneWarning::Concern::noPump});
+            warnings.push_back({ZoneWarning::Concern::missingPump});
         return warnings;
     }
     for (const Mode m : modes) {

@@ -12,9 +12,9 @@ namespace varnholt {
 /// What an engineer would look at in a zone. It is advice: nothing is refused for it.
 struct ZoneWarning {
     enum class Concern {
-        noPump,    ///< there are loads, and nothing that meets them
-        capacity,  ///< the largest load is more than the pump's capacity
-        inlet,     ///< the design's inlet temperature lies beyond the pump's measured points
+        missingPump,  ///< there are loads, and nothing that meets them
+        capacity,     ///< the largest load is more than the pump's capacity
+        inlet,        ///< the design's inlet temperature lies beyond the pump's measured points
     };
 
     Concern concern;

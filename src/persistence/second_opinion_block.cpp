@@ -8,12 +8,12 @@
 
 #include "basis/number_text.h"
 #include "basis/run_time_error.h"
+#include "persistence/block_title.h"
 
 namespace varnholt {
 namespace {
 
-constexpr std::string_view name = "Second Opinion";
-constexpr std::string_view title = "Second Opinion 1.0";
+constexpr BlockTitle opinionTitle{"Second Opinion", "Second Opinion 1.0"};
 constexpr std::int16_t choices = 3;  // of shapes, and of depths
 
 /// Every line must be a number as a whole, and end: a number that is cut off may still be one.
@@ -83,7 +83,7 @@ std::optional<Block> readBlock(std::string_view text) {
     LineFileReader file(text);
     Block block{};
     try {
-        if (file.line() != title || !file.isLineEnded()) return std::nullopt;
+        if (file.line() != opinionTitle.line || !file.isLineEnded()) return std::nullopt;
         StrictReader strict(file);
         describe(strict, block.values);
         if (!strict.isWhole()) return std::nullopt;
@@ -94,18 +94,11 @@ std::optional<Block> readBlock(std::string_view text) {
     return block;
 }
 
-/// Whether the text begins with a title of the block, of whatever version, or with what a cut has
-/// left of one.
-bool beginsAsBlock(std::string_view text) {
-    const std::string_view line = text.substr(0, text.find_first_of("\r\n"));
-    return line.starts_with(name) || (!line.empty() && title.starts_with(line));
-}
-
 }  // namespace
 
 void describeSecondOpinion(LineFileWriter& file, const SecondOpinionInputs& values) {
     if (values == SecondOpinionInputs{}) return;
-    file.fixed(title);
+    file.fixed(opinionTitle.line);
     Writer block(file);
     describe(block, values);
 }
@@ -115,7 +108,7 @@ void describeSecondOpinion(LineFileReader& file, SecondOpinionInputs& values) {
     if (!file.holdsMore()) return;
     const std::optional<Block> block = readBlock(file.rest());
     if (!block) {
-        if (beginsAsBlock(file.rest())) file.noteUnread(name);
+        if (opinionTitle.begins(file.rest())) file.noteUnread(opinionTitle.name);
         return;
     }
     values = block->values;

@@ -12,13 +12,13 @@
 #include "basis/run_time_error.h"
 #include "design/borehole_project.h"
 #include "design/whatIf/what_if_values.h"
+#include "persistence/block_title.h"
 #include "persistence/borehole_body.h"
 
 namespace varnholt {
 namespace {
 
-constexpr std::string_view name = "What If";
-constexpr std::string_view title = "What If 1.0";
+constexpr BlockTitle whatIfTitle{"What If", "What If 1.0"};
 constexpr std::string_view lastLine = "End";
 constexpr std::string_view currencyName = "currency";
 constexpr std::string_view dateName = "pricesOf";
@@ -97,7 +97,7 @@ class BlockReader {
 
     /// Throws Damaged, or RunTimeError where the file ends first.
     WhatIfInputs read() {
-        if (nextLine() != title) throw Damaged();
+        if (nextLine() != whatIfTitle.line) throw Damaged();
         for (std::string line = nextLine(); line != lastLine; line = nextLine()) take(line);
         return std::move(values_);
     }
@@ -171,8 +171,9 @@ class BlockReader {
         const std::string_view lines = before.substr(0, before.size() - file_.rest().size());
         // The body stands here in the form of the program's own version, without a head that says
         // so.
-        LineFileReader body(named(name, std::string(fileVersion)) + "\r\n" + std::string(lines));
-        body.title(name);
+        LineFileReader body(named(whatIfTitle.name, std::string(fileVersion)) + "\r\n" +
+                            std::string(lines));
+        body.title(whatIfTitle.name);
         auto design = std::make_shared<BoreholeProject>();
         describeBoreholeBody(body, *design);
         if (!body.atEnd()) throw Damaged();
@@ -184,18 +185,11 @@ class BlockReader {
     WhatIfInputs values_;
 };
 
-/// Whether the text begins with a title of the block, of whatever version, or with what a cut has
-/// left of one.
-bool beginsAsBlock(std::string_view text) {
-    const std::string_view line = text.substr(0, text.find_first_of("\r\n"));
-    return line.starts_with(name) || (!line.empty() && title.starts_with(line));
-}
-
 }  // namespace
 
 void describeWhatIf(LineFileWriter& file, const WhatIfInputs& values) {
     if (values == WhatIfInputs{}) return;
-    file.fixed(title);
+    file.fixed(whatIfTitle.line);
     writeValues(file, values);
     for (const Point& corner : values.land.corner) file.fixed(named(cornerName, joined({corner})));
     for (const Polygon& area : values.land.noGo) file.fixed(named(noGoName, joined(area)));
@@ -207,15 +201,15 @@ void describeWhatIf(LineFileWriter& file, const WhatIfInputs& values) {
 
 void describeWhatIf(LineFileReader& file, WhatIfInputs& values) {
     values = {};
-    if (!file.holdsMore() || !beginsAsBlock(file.rest())) return;
+    if (!file.holdsMore() || !whatIfTitle.begins(file.rest())) return;
     BlockReader block(file.rest());
     try {
         values = block.read();
         file.skipLines(block.lines());
     } catch (const Damaged&) {
-        file.noteUnread(name);
+        file.noteUnread(whatIfTitle.name);
     } catch (const RunTimeError&) {
-        file.noteUnread(name);
+        file.noteUnread(whatIfTitle.name);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "reports/project_reports.h"
 
 namespace varnholt {
+namespace boreholeReport {
 namespace {
 
 constexpr ResultLine resultLines[] = {
@@ -62,10 +63,11 @@ constexpr Part parts[] = {
 };
 
 }  // namespace
+}  // namespace boreholeReport
 
 constinit const std::array<ProjectReportDefinition, 2> boreholeReports{{
-    {"frmBHDesign", detailedForm, "rptBH", Text::boreholeDesignTitle, parts},
-    {"frmBHDesign", shortForm, "rptBHShort", Text::boreholeDesignTitle, parts},
+    {"frmBHDesign", detailedForm, "rptBH", Text::boreholeDesignTitle, boreholeReport::parts},
+    {"frmBHDesign", shortForm, "rptBHShort", Text::boreholeDesignTitle, boreholeReport::parts},
 }};
 
 }  // namespace varnholt

@@ -5,6 +5,7 @@
 #include "reports/trench_texts.h"
 
 namespace varnholt {
+namespace horizontalReport {
 namespace {
 
 constexpr ResultLine resultLines[] = {
@@ -83,10 +84,11 @@ constexpr Part parts[] = {
 };
 
 }  // namespace
+}  // namespace horizontalReport
 
 constinit const std::array<ProjectReportDefinition, 2> horizontalReports{{
-    {"frmHZDesign", detailedForm, "rptHZ", Text::horizontalDesignTitle, parts},
-    {"frmHZDesign", shortForm, "rptHZShort", Text::horizontalDesignTitle, parts},
+    {"frmHZDesign", detailedForm, "rptHZ", Text::horizontalDesignTitle, horizontalReport::parts},
+    {"frmHZDesign", shortForm, "rptHZShort", Text::horizontalDesignTitle, horizontalReport::parts},
 }};
 
 }  // namespace varnholt

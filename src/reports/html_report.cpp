@@ -14,7 +14,7 @@
 namespace varnholt {
 namespace {
 
-constexpr const char* style = R"(
+constexpr const char* pageStyle = R"(
 :root{color-scheme:light dark;--ink:#1c2430;--muted:#5b6673;--line:#c9d0d8;--cool:#1d5fa8;--heat:#b23a2e;--paper:#fff}
 @media (prefers-color-scheme:dark){:root{--ink:#e6eaef;--muted:#a3adb8;--line:#475260;--cool:#79b4f2;--heat:#f2958b;--paper:#171c22}}
 body{font:14px/1.45 Inter,"Segoe UI","Noto Sans",sans-serif;color:var(--ink);background:var(--paper);max-width:70em;margin:2em auto;padding:0 1.5em}
@@ -265,7 +265,7 @@ std::string htmlOf(const Report& report) {
         "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
         "<title>{}</title>\n<meta name=\"author\" content=\"{}\">\n<style>{}{}</style>\n</head>\n"
         "<body>\n<main>\n{}</main>\n</body>\n</html>\n",
-        htmlText(report.caption), htmlText(report.designer), style, fontRule(report.font),
+        htmlText(report.caption), htmlText(report.designer), pageStyle, fontRule(report.font),
         Page(report).write());
 }
 

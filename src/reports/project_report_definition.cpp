@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "design/results_tab.h"
 #include "forms/control.h"
 #include "forms/text_numbers.h"
 
@@ -16,7 +17,6 @@ constexpr double blockColumns[] = {54, 34, 6, 52, 34};
 constexpr std::uint8_t rightBlock = 3;
 
 /// The label of a result array that holds the row's caption.
-constexpr int captionElement = 2;
 
 ReportItem itemOf(const Labelled& label, ItemStyle style, int first, int span,
                   const FillContext& context) {

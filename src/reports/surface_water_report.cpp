@@ -4,6 +4,7 @@
 #include "reports/project_reports.h"
 
 namespace varnholt {
+namespace surfaceWaterReport {
 namespace {
 
 constexpr ResultLine resultLines[] = {
@@ -129,10 +130,13 @@ constexpr Part parts[] = {
 };
 
 }  // namespace
+}  // namespace surfaceWaterReport
 
 constinit const std::array<ProjectReportDefinition, 2> surfaceWaterReports{{
-    {"frmSWDesign", detailedForm, "rptSW", Text::surfaceWaterDesignTitle, parts},
-    {"frmSWDesign", shortForm, "rptSWShort", Text::surfaceWaterDesignTitle, parts},
+    {"frmSWDesign", detailedForm, "rptSW", Text::surfaceWaterDesignTitle,
+     surfaceWaterReport::parts},
+    {"frmSWDesign", shortForm, "rptSWShort", Text::surfaceWaterDesignTitle,
+     surfaceWaterReport::parts},
 }};
 
 }  // namespace varnholt

@@ -9,6 +9,7 @@
 #include "reports/zone_report_bands.h"
 
 namespace varnholt {
+namespace equipmentReport {
 namespace {
 
 using enum ReportSection;
@@ -52,7 +53,8 @@ constexpr BandDefinition bands[] = {unitInletBand,
                                     {Zones_Footer, columns, ruleItems}};
 
 }  // namespace
+}  // namespace equipmentReport
 
-constinit const std::span<const BandDefinition> equipmentBands = bands;
+constinit const std::span<const BandDefinition> equipmentBands = equipmentReport::bands;
 
 }  // namespace varnholt

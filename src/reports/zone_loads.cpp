@@ -5,6 +5,7 @@
 #include "reports/zone_report_bands.h"
 
 namespace varnholt {
+namespace loadsReport {
 namespace {
 
 using enum ReportSection;
@@ -60,7 +61,8 @@ constexpr BandDefinition bands[] = {{PageHeader, columns, heads},
                                     {Zones_Footer, columns, ruleItems}};
 
 }  // namespace
+}  // namespace loadsReport
 
-constinit const std::span<const BandDefinition> loadsBands = bands;
+constinit const std::span<const BandDefinition> loadsBands = loadsReport::bands;
 
 }  // namespace varnholt

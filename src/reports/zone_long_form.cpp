@@ -5,6 +5,7 @@
 #include "reports/zone_report_bands.h"
 
 namespace varnholt {
+namespace longFormReport {
 namespace {
 
 using enum ReportSection;
@@ -91,7 +92,8 @@ constexpr BandDefinition bands[] = {
     unitInletBand, {Zones_Header, columns, zoneItems}, {Pumps_Detail, columns, pumpItems}};
 
 }  // namespace
+}  // namespace longFormReport
 
-constinit const std::span<const BandDefinition> longFormBands = bands;
+constinit const std::span<const BandDefinition> longFormBands = longFormReport::bands;
 
 }  // namespace varnholt

@@ -4,6 +4,7 @@
 #include "reports/zone_report_bands.h"
 
 namespace varnholt {
+namespace zoneNamesReport {
 namespace {
 
 using enum ReportSection;
@@ -31,7 +32,8 @@ constexpr BandDefinition bands[] = {{PageHeader, columns, headItems},
                                     {Pumps_Detail, columns, zoneItems}};
 
 }  // namespace
+}  // namespace zoneNamesReport
 
-constinit const std::span<const BandDefinition> nameBands = bands;
+constinit const std::span<const BandDefinition> nameBands = zoneNamesReport::bands;
 
 }  // namespace varnholt

@@ -6,6 +6,7 @@
 #include "reports/zone_report_bands.h"
 
 namespace varnholt {
+namespace shortFormReport {
 namespace {
 
 using enum ReportSection;
@@ -46,7 +47,8 @@ constexpr BandDefinition bands[] = {
     unitInletBand, {PageHeader, columns, heads}, {Pumps_Detail, columns, lines}};
 
 }  // namespace
+}  // namespace shortFormReport
 
-constinit const std::span<const BandDefinition> shortFormBands = bands;
+constinit const std::span<const BandDefinition> shortFormBands = shortFormReport::bands;
 
 }  // namespace varnholt

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <utility>
 
+#include "basis/number_text.h"
 #include "basis/text_encoding.h"
 #include "script/script_fault.h"
 
@@ -15,8 +16,6 @@ namespace varnholt {
 namespace {
 
 constexpr std::string_view blanks = " \t";
-
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 template <class Number>
 std::optional<Number> readWhole(std::string_view text) {

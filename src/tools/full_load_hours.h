@@ -5,9 +5,10 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "basis/units.h"
+
 namespace varnholt {
 
-constexpr std::size_t monthsOfYear = 12;
 using Months = std::array<double, monthsOfYear>;
 
 /// February always has 28 days.

@@ -54,7 +54,7 @@ TEST(ZoneWarnings, TellOfAPumpThatDoesNothingInAModeWithALoad) {
 TEST(ZoneWarnings, TellOfLoadsWithoutAPumpOnce) {
     const std::vector<ZoneWarning> warnings = warningsOf(zoneWith(20, 15, 0, 0));
     ASSERT_EQ(warnings.size(), 1U);
-    EXPECT_EQ(warnings[0].concern, Concern::noPump);
+    EXPECT_EQ(warnings[0].concern, Concern::missingPump);
 }
 
 TEST(ZoneWarnings, TellOfWaterBeyondThePumpsPointsAndNotOfItsEnds) {

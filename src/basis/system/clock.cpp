@@ -8,8 +8,6 @@
 namespace varnholt {
 namespace {
 
-constexpr std::int64_t nanoseconds = 1'000'000'000;  // of a second
-
 std::tm localTime(std::time_t moment = std::time(nullptr)) {
     std::tm local{};
     localtime_r(&moment, &local);
@@ -29,7 +27,7 @@ std::string timeOfDay() {
 }
 
 std::string localTimeText(std::int64_t moment) {
-    const std::tm local = localTime(static_cast<std::time_t>(moment / nanoseconds));
+    const std::tm local = localTime(static_cast<std::time_t>(moment / nanosecondsPerSecond));
     const Date day{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
     return fmt::format("{} {:02}:{:02}:{:02}", isoText(day), local.tm_hour, local.tm_min,
                        local.tm_sec);
@@ -38,7 +36,7 @@ std::string localTimeText(std::int64_t moment) {
 std::int64_t presentMoment() {
     timespec now{};
     ::clock_gettime(CLOCK_REALTIME, &now);
-    return std::int64_t{now.tv_sec} * nanoseconds + now.tv_nsec;
+    return std::int64_t{now.tv_sec} * nanosecondsPerSecond + now.tv_nsec;
 }
 
 std::chrono::steady_clock::time_point steadyMoment() { return std::chrono::steady_clock::now(); }

@@ -7,6 +7,7 @@
 #include <ctime>
 #include <utility>
 
+#include "basis/date.h"
 #include "basis/system/descriptor.h"
 #include "basis/system/files.h"
 #include "basis/system/fingerprint.h"
@@ -15,14 +16,13 @@
 namespace varnholt {
 namespace {
 
-constexpr std::int64_t nanoseconds = 1'000'000'000;  // of a second
 // Together they stay below two seconds.
 constexpr std::chrono::milliseconds lookingTime(300), readingTime(1'200);
 
-constexpr std::int64_t coarsestStep = 2 * nanoseconds;
+constexpr std::int64_t coarsestStep = 2 * nanosecondsPerSecond;
 
 std::int64_t inNanoseconds(const timespec& time) {
-    return std::int64_t{time.tv_sec} * nanoseconds + time.tv_nsec;
+    return std::int64_t{time.tv_sec} * nanosecondsPerSecond + time.tv_nsec;
 }
 
 /// Nothing for a folder.

@@ -13,20 +13,21 @@
 
 namespace varnholt {
 
-namespace {
-
-constexpr int fatalSignals[] = {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
-
 /// A handler is given nothing but its signal: what it writes stands here.
-struct Laid {
+struct LaidWords {
     const char* fresh;
     const char* path;
     const char* bytes;
     std::size_t size;
 };
-std::array<std::atomic<const Laid*>, LastWords::most> laid;
 
-void writeLaid(const Laid& words) {
+namespace {
+
+constexpr int fatalSignals[] = {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
+
+std::array<std::atomic<const LaidWords*>, LastWords::most> laid;
+
+void writeLaid(const LaidWords& words) {
     const int file =
         ::open(words.fresh, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0600);
     if (file < 0) return;
@@ -37,7 +38,7 @@ void writeLaid(const Laid& words) {
 
 void writeAllLaid(int signal) {
     for (const auto& place : laid)
-        if (const Laid* words = place.load()) writeLaid(*words);
+        if (const LaidWords* words = place.load()) writeLaid(*words);
     // The handler was for once: the signal now does what it always does.
     ::raise(signal);
 }
@@ -48,7 +49,7 @@ struct LastWords::Words {
     struct Laying {
         std::string fresh, path;
         std::shared_ptr<const std::string> bytes;
-        Laid row{};
+        LaidWords row{};
     };
     std::array<Laying, 2> turns;
     std::size_t turn = 0;

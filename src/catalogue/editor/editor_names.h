@@ -25,6 +25,9 @@ constexpr std::array<std::size_t, 2> correctionPage{3, 4};  ///< by CorrectionKi
 constexpr std::size_t firstZeroRow = 3;
 constexpr std::size_t zeroButtons = 8;
 
+/// The first entries of the lists of manufacturers tell what to do.
+constexpr int hintEntries = 2;
+
 /// "Cooling" or "Heating", with which the names of a mode's fields begin.
 inline std::string prefixOf(Mode mode) { return mode == cooling ? "Cooling" : "Heating"; }
 /// "Capacity" or "Power".

@@ -14,16 +14,6 @@ namespace {
 
 constexpr int stepsOfCurve = 24;
 
-struct Range {
-    double lowest = 0, highest = 0;
-};
-
-Range rangeOf(const FitPoints& points) {
-    if (points.count == 0) return {};
-    const auto [lowest, highest] = std::minmax_element(points.xs().begin(), points.xs().end());
-    return {*lowest, *highest};
-}
-
 /// What is typed half, or by mistake, may lie beyond any chart.
 bool canBeDrawn(const FitPoint& point) {
     constexpr double farthest = 1e9;
@@ -34,7 +24,7 @@ void append(std::vector<FitPoint>& points, const FitPoint& point) {
     if (canBeDrawn(point)) points.push_back(point);
 }
 
-std::vector<FitPoint> sampled(const Range& range, const std::function<FitPoint(double)>& at) {
+std::vector<FitPoint> sampled(const FitRange& range, const std::function<FitPoint(double)>& at) {
     std::vector<FitPoint> line;
     if (!(range.highest > range.lowest)) return line;
     for (int i = 0; i <= stepsOfCurve; ++i)
@@ -107,8 +97,8 @@ CurvePicture correctionCurvePicture(const pump& model, CorrectionKind kind, Mode
 }
 
 /// Where a model is tried may lie outside of its points.
-Range testedRange(const pump& model, const TestInputs& inputs, Mode mode) {
-    Range range = rangeOf(ratingPointsOf(model, mode, fittedCapacity));
+FitRange testedRange(const pump& model, const TestInputs& inputs, Mode mode) {
+    FitRange range = rangeOf(ratingPointsOf(model, mode, fittedCapacity));
     range.lowest = std::min(range.lowest, inputs.sourceTemperature[mode]);
     range.highest = std::max(range.highest, inputs.sourceTemperature[mode]);
     return range;

@@ -4,6 +4,7 @@
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
+#include "catalogue/editor/editor_names.h"
 #include "catalogue/editor/frmHPEdit.h"
 #include "forms/text_numbers.h"
 #include "frame/varnmain.h"
@@ -11,7 +12,6 @@
 namespace varnholt {
 namespace {
 
-constexpr int hintEntries = 2;
 constexpr int addressLines = 5;
 
 bool isBlank(const std::string& text) {

@@ -18,9 +18,6 @@ namespace {
 /// An entry of a list: its text with a blank behind it.
 std::string entry(const std::string& name) { return name + " "; }
 
-/// The first entries of the lists of manufacturers tell what to do.
-constexpr std::size_t hintEntries = 2;
-
 }  // namespace
 
 frmHPEdit::Panel frmHPEdit::panel() const {
@@ -77,7 +74,7 @@ void frmHPEdit::fillSeries(std::optional<std::size_t> manufacturer) {
 /// The lists tell which series is in memory.
 void frmHPEdit::showSelection() {
     if (place_) {
-        control("MfgCombo").setIndex(static_cast<int>(place_->manufacturer + hintEntries));
+        control("MfgCombo").setIndex(static_cast<int>(place_->manufacturer) + hintEntries);
         fillSeries(place_->manufacturer);
         control("SeriesCombo").setIndex(static_cast<int>(place_->series + 1));
     } else {

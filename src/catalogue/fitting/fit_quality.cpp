@@ -14,15 +14,6 @@ namespace {
 constexpr double staleFrom = 1e-6;    // of the curve's greatest value
 constexpr double turnsFrom = 0.0001;  // likewise
 
-struct Range {
-    double lowest, highest;
-};
-
-Range rangeOf(const FitPoints& points) {
-    const auto [lowest, highest] = std::minmax_element(points.xs().begin(), points.xs().end());
-    return {*lowest, *highest};
-}
-
 /// Where the curve's slope b + 2 c x + 3 d x^2 is zero, ascending.
 std::vector<double> levelPlaces(const Polynomial& curve, Mode m) {
     const double b = curve[1][m], c = 2 * curve[2][m], d = 3 * curve[3][m];
@@ -86,7 +77,7 @@ std::optional<FitDeviation> greatestDeviation(const Polynomial& curve, Mode mode
 
 std::optional<double> turningPoint(const Polynomial& curve, Mode mode, const FitPoints& points) {
     if (points.count == 0) return std::nullopt;
-    const Range range = rangeOf(points);
+    const FitRange range = rangeOf(points);
     std::vector<double> knots{range.lowest};
     for (const double place : levelPlaces(curve, mode))
         if (place > range.lowest && place < range.highest) knots.push_back(place);

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/fitting/pump_fit.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "basis/run_time_error.h"
 
 namespace varnholt {
@@ -19,6 +22,12 @@ void setFlowFactors(pump& model, Mode mode) {
 }
 
 }  // namespace
+
+FitRange rangeOf(const FitPoints& points) {
+    if (points.count == 0) return {};
+    const auto [lowest, highest] = std::minmax_element(points.xs().begin(), points.xs().end());
+    return {*lowest, *highest};
+}
 
 FitPoints ratingPointsOf(const pump& model, Mode mode, FittedQuantity quantity, std::size_t flow) {
     FitPoints points;

@@ -35,6 +35,13 @@ struct FitPoints {
     std::span<const double> ys() const { return {y.data(), count}; }
 };
 
+/// Where points lie.
+struct FitRange {
+    double lowest = 0, highest = 0;
+};
+/// From the lowest place to the highest; 0 to 0 without points.
+FitRange rangeOf(const FitPoints& points);
+
 /// The three points of a mode at one of the source flows: entering water temperature, degF, and
 /// capacity, MBtu/hr, or power, kW.
 FitPoints ratingPointsOf(const pump& model, Mode mode, FittedQuantity quantity,

@@ -10,8 +10,8 @@ namespace varnholt::modCalculations {
 
 namespace {
 
-constexpr std::int16_t passLimit = 5;
-constexpr double tolerance = 0.05;
+constexpr std::int16_t approachPassLimit = 5;
+constexpr double approachTolerance = 0.05;
 // Two guesses that differ by more than the tolerance, so that a first pass is made, degF.
 constexpr ByMode<double> firstApproach{60.0, -50.0};
 constexpr ByMode<double> firstNewApproach{100.0, -60.0};
@@ -33,7 +33,7 @@ void takePickup(ApproachState& state, const ApproachTerms& terms, Mode m, double
 bool goesOn(const ApproachState& state) {
     const double change =
         std::abs(finite(divide(state.approach - state.newApproach, state.approach)));
-    return change > tolerance && state.passes < passLimit;
+    return change > approachTolerance && state.passes < approachPassLimit;
 }
 
 ApproachState approachOf(const ApproachTerms& terms, Mode m) {
@@ -45,7 +45,7 @@ ApproachState approachOf(const ApproachTerms& terms, Mode m) {
         fluidAtLoop = terms.inletTemp[m] - state.pickup.submerged - state.pickup.buried;
         ++state.passes;
     }
-    if (state.passes == passLimit) takePickup(state, terms, m, terms.inletTemp[m]);
+    if (state.passes == approachPassLimit) takePickup(state, terms, m, terms.inletTemp[m]);
     return state;
 }
 
@@ -58,7 +58,7 @@ Approach calculateApproach(const ApproachTerms& terms) {
         result.approachTemp[m] = state.newApproach;
         result.headerHeatPickup[m] = state.pickup;
         result.passes[m] = state.passes;
-        result.unsettled[m] = state.passes == passLimit;
+        result.unsettled[m] = state.passes == approachPassLimit;
     }
     return result;
 }

@@ -10,11 +10,11 @@ namespace varnholt::modCalculations {
 
 namespace {
 
-constexpr double give = 0.05;                   // in, by which legs can be pressed together
+constexpr double legGive = 0.05;                // in, by which legs can be pressed together
 constexpr double eulersNumber = 2.71828182846;  // the digits of the fit
 
 // clang-format off
-constexpr std::array<std::array<PipeDiameters, 5>, 4> pipes{{
+constexpr std::array<std::array<PipeDiameters, 5>, 4> pipesOfSizes{{
     // SDR 9           SDR 11         SDR 17         schedule 40     schedule 80
     {{{1.05,  0.82}, {1.05,  0.86}, {1.05,  0.93}, {1.05,  0.824}, {1.05,  0.742}}},
     {{{1.315, 1.02}, {1.315, 1.08}, {1.315, 1.16}, {1.315, 1.049}, {1.315, 0.957}}},
@@ -34,14 +34,14 @@ double legFactor(int uTubeConfig) { return squareRoot(1.0 + uTubeConfig); }
 
 }  // namespace
 
-const PipeDiameters& pipeTable(int size, int sdr) { return at(at(pipes, size), sdr); }
+const PipeDiameters& pipeTable(int size, int sdr) { return at(at(pipesOfSizes, size), sdr); }
 
 const ShapeFit& shapeFit(int placement) { return at(fits, placement); }
 
 double pipeSpan(double outside, int uTubeConfig) { return 2 * outside * legFactor(uTubeConfig); }
 
 bool pipesFit(double outside, int uTubeConfig, double boreDiameter) {
-    return pipeSpan(outside, uTubeConfig) < boreDiameter + give;
+    return pipeSpan(outside, uTubeConfig) < boreDiameter + legGive;
 }
 
 double boreDiameterFor(double outside, int uTubeConfig) {
@@ -52,7 +52,7 @@ double boreDiameterFor(double outside, int uTubeConfig) {
 double boreResistanceOf(const Bore& bore, double outside, int uTubeConfig, const ShapeFit& fit,
                         double pipeResistance) {
     if (!(outside > 0 && bore.diameter > 0 && bore.groutConductivity > 0)) return 0;
-    if (pipeSpan(outside, uTubeConfig) > bore.diameter + give) return 0;
+    if (pipeSpan(outside, uTubeConfig) > bore.diameter + legGive) return 0;
     const double base = divide(bore.diameter, outside * legFactor(uTubeConfig));
     const double shape =
         fit.constant * std::exp(naturalLog(base) / std::log(eulersNumber) * fit.exponent);

@@ -5,14 +5,14 @@
 #include <array>
 
 #include "basis/run_time_error.h"
+#include "basis/units.h"
 #include "design/modCalculations/numbers.h"
 
 namespace varnholt::modCalculations {
 
 namespace {
 
-constexpr double inchesPerFoot = 12;
-constexpr double pi = 3.14159265;  // the method's digits
+constexpr double piOfCoils = 3.14159265;  // the method's digits
 
 using Grid = std::array<double, 4>;
 using Cubic = std::array<double, 4>;
@@ -66,8 +66,9 @@ double coilLengthFor(double pitch, double partLoad) {
 double coilPipeLength(double trenchLength, double pitch, double diameter) {
     if (trenchLength <= 0) return 0;
     const double loops = divide(trenchLength - diameter / inchesPerFoot, pitch / inchesPerFoot);
-    return finite(loops * (diameter * pi / inchesPerFoot) + (loops * 2 * pitch) / inchesPerFoot +
-                  diameter * pi / 24.0 + diameter / 12.0);
+    return finite(loops * (diameter * piOfCoils / inchesPerFoot) +
+                  (loops * 2 * pitch) / inchesPerFoot + diameter * piOfCoils / 24.0 +
+                  diameter / 12.0);
 }
 
 }  // namespace varnholt::modCalculations

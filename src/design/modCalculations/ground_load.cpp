@@ -8,12 +8,6 @@
 
 namespace varnholt::modCalculations {
 
-namespace {
-
-constexpr double hoursPerYear = 8760;
-
-}  // namespace
-
 double peakGroundLoad(Mode mode, double load, double demand) {
     const double sign = mode == cooling ? -1 : 1;
     return sign * load - mbtuPerKilowatt * demand;

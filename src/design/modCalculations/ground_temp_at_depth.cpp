@@ -4,26 +4,27 @@
 #include <cmath>
 
 #include "basis/run_time_error.h"
+#include "basis/units.h"
 #include "design/modCalculations/numbers.h"
 
 namespace varnholt::modCalculations {
 
 namespace {
 
-constexpr double pi = 3.141592653;  // these digits are the method's
-constexpr double twoPi = 6.283185306;
-constexpr double daysPerYear = 365;
+constexpr double piOfSwing = 3.141592653;  // these digits are the method's
+constexpr double twoPiOfSwing = 6.283185306;
 
 }  // namespace
 
 ByMode<double> groundTempAtDepth(double depth, double diffusivity, const GroundSwing& swing) {
     if (diffusivity == 0) return {swing.meanTemp, swing.meanTemp};
-    const double damping = std::exp(-depth * squareRoot(divide(pi, daysPerYear * diffusivity)));
-    const double lag = (depth / 2) * squareRoot(divide(daysPerYear, pi * diffusivity));
+    const double damping =
+        std::exp(-depth * squareRoot(divide(piOfSwing, daysPerYear * diffusivity)));
+    const double lag = (depth / 2) * squareRoot(divide(daysPerYear, piOfSwing * diffusivity));
     ByMode<double> temperature{};
     for (Mode m : modes) {
         const double sinceColdest = swing.extremeDay[m] - swing.extremeDay[heating];
-        const double phase = (twoPi / daysPerYear) * (sinceColdest - lag);
+        const double phase = (twoPiOfSwing / daysPerYear) * (sinceColdest - lag);
         temperature[m] = finite(swing.meanTemp - swing.airTempSwing * damping * std::cos(phase));
     }
     return temperature;

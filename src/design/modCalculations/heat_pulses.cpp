@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/modCalculations/heat_pulses.h"
 
+#include "basis/units.h"
+
 namespace varnholt::modCalculations {
 
 namespace {
 
-constexpr double daysPerYear = 365;
 constexpr double daysPerMonth = 30;
-constexpr double hoursPerDay = 24;
 constexpr std::int16_t eveningBlock = 3;
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "basis/run_time_error.h"
+#include "basis/units.h"
 #include "design/modCalculations/numbers.h"
 
 namespace varnholt::modCalculations {
@@ -11,22 +12,21 @@ namespace varnholt::modCalculations {
 namespace {
 
 constexpr double wallConductivity = 0.225;  // polyethylene, Btu/(hr ft degF)
-constexpr double twoPi = 6.28318;           // these digits are the method's
-constexpr double pi = 3.14159;
+constexpr double twoPiOfPipes = 6.28318;    // these digits are the method's
+constexpr double piOfPipes = 3.14159;
 constexpr double waterConductivity = 0.35;  // Btu/(hr ft degF)
 constexpr double waterPrandtl = 6.6;
-constexpr double inchesPerFoot = 12;
 constexpr double closed = 10000;  // wall resistance and film conductance of a closed pipe
 
 /// Wall of n legs taken as one shell of the same outside area; n = 1 is the pipe itself.
 double wallResistance(double legs, double outside, double inside) {
     const double equivalent = std::sqrt(legs) * outside;
     const double ratio = divide(equivalent, equivalent - (outside - inside));
-    return naturalLog(ratio) / (twoPi * wallConductivity);
+    return naturalLog(ratio) / (twoPiOfPipes * wallConductivity);
 }
 
 double pipeWallResistance(double outside, double inside) {
-    return naturalLog(divide(outside, inside)) / (twoPi * wallConductivity);
+    return naturalLog(divide(outside, inside)) / (twoPiOfPipes * wallConductivity);
 }
 
 double reynoldsNumber(int flowType) {
@@ -48,7 +48,7 @@ double filmConductance(int flowType, double inside) {
     const double nusselt =
         0.023 * std::pow(reynoldsNumber(flowType), 0.8) * std::pow(waterPrandtl, 0.3);
     const double coefficient = divide(waterConductivity * nusselt, diameter);
-    return diameter * pi * 1.0 * coefficient;
+    return diameter * piOfPipes * 1.0 * coefficient;
 }
 
 double wallOf(int config, double outside, double inside) {

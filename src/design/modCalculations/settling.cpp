@@ -9,10 +9,10 @@ namespace varnholt::modCalculations {
 
 namespace {
 
-constexpr std::int16_t passLimit = 100;
-constexpr double tolerance = 0.001;
-constexpr double shortestLength = 1;  // ft
-constexpr double noLength = 1.0e-6;   // ft, stands for a length that is none
+constexpr std::int16_t settlingPassLimit = 100;
+constexpr double settlingTolerance = 0.001;
+constexpr double shortestLength = 1;       // ft
+constexpr double unsolvedLength = 1.0e-6;  // ft, stands for a length that is none
 
 void pass(SettledLengths& state, const LengthTerms& terms, const PenaltySite& site) {
     state.iterations = toInteger(state.iterations + 1);
@@ -22,32 +22,32 @@ void pass(SettledLengths& state, const LengthTerms& terms, const PenaltySite& si
     state.boreLength = calcBoreLengths(terms, state.temperaturePenalty);
     for (Mode m : modes) {
         if (state.boreLength[m] > shortestLength) continue;
-        state.boreLength[m] = noLength;
+        state.boreLength[m] = unsolvedLength;
         state.nonPositive[m] = true;
     }
 }
 
 bool settled(const SettledLengths& state, Mode m) {
     const double ratio = divide(state.boreLength[m], state.previousBoreLength[m]);
-    return std::abs(ratio - 1) <= tolerance;
+    return std::abs(ratio - 1) <= settlingTolerance;
 }
 
 bool bothNonPositive(const SettledLengths& state) {
     return state.nonPositive[cooling] && state.nonPositive[heating];
 }
 
-bool spent(const SettledLengths& state) { return state.iterations == passLimit; }
+bool spent(const SettledLengths& state) { return state.iterations == settlingPassLimit; }
 
 /// Both modes are compared on every pass, whatever the first comparison says.
 bool goesOn(const SettledLengths& state) {
     const ByMode<bool> done{settled(state, cooling), settled(state, heating)};
     return !done[cooling] ||
-           (!done[heating] && state.iterations < passLimit && !bothNonPositive(state));
+           (!done[heating] && state.iterations < settlingPassLimit && !bothNonPositive(state));
 }
 
 /// Measured by the new length, which is never 0.
 bool trenchSettled(const SettledLengths& state, Mode m) {
-    return std::abs(1 - state.previousBoreLength[m] / state.boreLength[m]) <= tolerance;
+    return std::abs(1 - state.previousBoreLength[m] / state.boreLength[m]) <= settlingTolerance;
 }
 
 bool trenchesGoOn(const SettledLengths& state) {

@@ -9,8 +9,8 @@ namespace varnholt::modCalculations {
 
 namespace {
 
-constexpr double pi = 3.14159265359;  // the method's digits
-constexpr double reach = 25;          // ft from a bore to the outside of its rings
+constexpr double piOfRings = 3.14159265359;  // the method's digits
+constexpr double ringReach = 25;             // ft from a bore to the outside of its rings
 constexpr int rings = 3;
 
 struct Ring {
@@ -30,8 +30,8 @@ double storedHeat(const Ring& ring, double integral, double heatCapacity, double
                   double annualGroundLoad, double length) {
     if (length == 0 || conductivity == 0) return 0;
     const double change =
-        divide(1000 * annualGroundLoad * integral, 2 * pi * conductivity * length);
-    const double area = pi * (powerOf(ring.outer, 2) - powerOf(ring.inner, 2));
+        divide(1000 * annualGroundLoad * integral, 2 * piOfRings * conductivity * length);
+    const double area = piOfRings * (powerOf(ring.outer, 2) - powerOf(ring.inner, 2));
     return heatCapacity * length * area * change;
 }
 
@@ -48,8 +48,8 @@ ByMode<double> calcTemperaturePenalty(const PenaltySite& site, double annualGrou
     const auto& [rows, columns, separation] = site.grid;
     const auto& [k, alpha] = site.soil;
     const double innermost = separation / 2;
-    if (innermost > reach) return {};
-    const double width = (reach - innermost) / rings;
+    if (innermost > ringReach) return {};
+    const double width = (ringReach - innermost) / rings;
     const double heatCapacity = alpha == 0 ? 0 : k * 24 / alpha;  // Btu/(ft^3 degF)
 
     ByMode<double> heat{};

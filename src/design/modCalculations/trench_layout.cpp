@@ -5,12 +5,12 @@
 #include <cmath>
 
 #include "basis/run_time_error.h"
+#include "basis/units.h"
 
 namespace varnholt::modCalculations {
 
 namespace {
 
-constexpr double inchesPerFoot = 12;
 constexpr double mostPipesComputed = 1000;  // a million pairs, a tenth of a second
 constexpr std::array<int, 5> columnsByArrangement{1, 2, 3, 1, 1};
 

@@ -3,13 +3,13 @@
 
 #include <algorithm>
 
+#include "basis/units.h"
 #include "design/modCalculations/coil_length.h"
 
 namespace varnholt::modCalculations {
 
 namespace {
 
-constexpr double inchesPerFoot = 12;
 constexpr double lyingCoilWidth = 8;    // in
 constexpr double pitchNotEntered = 20;  // in
 

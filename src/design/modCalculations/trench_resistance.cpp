@@ -4,13 +4,12 @@
 #include <cmath>
 
 #include "basis/run_time_error.h"
+#include "basis/units.h"
 #include "design/modCalculations/numbers.h"
 
 namespace varnholt::modCalculations {
 
 namespace {
-
-constexpr double inchesPerFoot = 12;
 
 double distanceOf(const PipePosition& a, const PipePosition& b) {
     return std::sqrt(powerOf(b.y - a.y, 2) + powerOf(b.x - a.x, 2));

@@ -9,8 +9,8 @@
 namespace varnholt::secondOpinion {
 namespace {
 
-constexpr double tolerance = 1.0e-10;  // of the residual
-constexpr double sameHeat = 1.0e-8;    // by which equal heats may differ
+constexpr double residualTolerance = 1.0e-10;  // of the residual
+constexpr double sameHeat = 1.0e-8;            // by which equal heats may differ
 constexpr std::size_t mostSteps = 500;
 
 /// The second integral of 1/sqrt(r^2 + z^2).
@@ -120,7 +120,8 @@ bool BoreGrouping::step() {
     const double before = residualSquare_;
     residualSquare_ = product(residual_, residual_);
     ++steps_;
-    if (!(residualSquare_ > tolerance * tolerance * firstSquare_) || steps_ == mostSteps) {
+    if (!(residualSquare_ > residualTolerance * residualTolerance * firstSquare_) ||
+        steps_ == mostSteps) {
         cutIntoGroups();
         return true;
     }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/secondOpinion/length_parts.h"
 
+#include "basis/units.h"
 #include "design/secondOpinion/settled_depth.h"
 
 namespace varnholt::secondOpinion {
 namespace {
 
-constexpr double hoursPerYear = 8760;
 constexpr double hoursOfDesignMonth = 720;
 
 SettledDepth settlePulses(GFunctionMemory& memory, const FieldTerms& terms, Mode mode,

@@ -16,9 +16,6 @@ namespace {
 
 using namespace modCalculations;
 
-constexpr double hoursPerDay = 24;
-constexpr std::size_t monthsPerYear = 12;
-
 ByMode<double> energyOf(const GroundRollUp& rollUp, const Hybrid& hybrid) {
     const ByMode<double>& tonHours = rollUp.annualTonHours;
     const double cooled = hybrid.on ? hybrid.leftForGround(tonHours[cooling]) : tonHours[cooling];
@@ -66,7 +63,7 @@ bool GroundYear::hasMonths(Mode mode) const {
 
 GroundYear groundYearOf(const ZonesYear& zones, const ByMode<YearOfMode>& shape) {
     GroundYear year;
-    for (std::size_t m = 0; m < monthsPerYear; ++m) {
+    for (std::size_t m = 0; m < monthsOfYear; ++m) {
         year.mean[m] = (shape[heating].share[m] * zones.energy[heating] -
                         shape[cooling].share[m] * zones.energy[cooling]) /
                        hoursPerMonth;
@@ -83,16 +80,16 @@ GroundYear groundYearOf(const ZonesYear& zones, const ByMode<YearOfMode>& shape)
 std::vector<double> monthlyDrift(const std::array<double, 12>& mean, const std::vector<double>& g,
                                  std::size_t months) {
     std::array<double, 12> change{};
-    for (std::size_t m = 0; m < monthsPerYear; ++m)
-        change[m] = mean[m] - mean[(m + monthsPerYear - 1) % monthsPerYear];
+    for (std::size_t m = 0; m < monthsOfYear; ++m)
+        change[m] = mean[m] - mean[(m + monthsOfYear - 1) % monthsOfYear];
     // In the first month there is no month before: its change is greater by December's mean.
-    const double december = mean[monthsPerYear - 1];
+    const double december = mean[monthsOfYear - 1];
     std::vector<double> drift(months), repeated(months);
     for (std::size_t n = 0; n < months; ++n) {
-        double sum = n < monthsPerYear ? 0 : repeated[n - monthsPerYear];
-        const std::size_t from = n < monthsPerYear ? 0 : n - monthsPerYear + 1;
+        double sum = n < monthsOfYear ? 0 : repeated[n - monthsOfYear];
+        const std::size_t from = n < monthsOfYear ? 0 : n - monthsOfYear + 1;
         for (std::size_t age = from; age <= n; ++age)
-            sum += change[(n - age) % monthsPerYear] * g[age];
+            sum += change[(n - age) % monthsOfYear] * g[age];
         repeated[n] = sum;
         drift[n] = sum + december * g[n];
     }

@@ -6,13 +6,11 @@
 #include <initializer_list>
 
 #include "basis/run_time_error.h"
+#include "basis/units.h"
 
 namespace varnholt::secondOpinion {
 namespace {
 
-constexpr double inchesPerFoot = 12;
-constexpr double hoursPerDay = 24;
-constexpr double hoursPerYear = 8760;
 constexpr double hoursOfLastMonth = 31 * hoursPerDay;
 constexpr double mostYears = 1000;  // a design's field takes 100; a file may hold anything
 constexpr double leastPulse = 1, longestPulse = 24;  // hr

@@ -9,8 +9,9 @@ namespace varnholt::secondOpinion {
 namespace {
 
 constexpr int mostSecants = 30;
-constexpr double tolerance = 1.0e-7;  // of the depth; the rungs are at hand, so it costs nothing
-constexpr double overshoot = 1.3;     // a deeper bore asks for a little more than the shallow one
+constexpr double depthTolerance =
+    1.0e-7;                        // of the depth; the rungs are at hand, so it costs nothing
+constexpr double overshoot = 1.3;  // a deeper bore asks for a little more than the shallow one
 
 /// A depth and by how much the one that its g-function asks for exceeds it.
 struct Trial {
@@ -76,7 +77,7 @@ class Search {
         int side = 0;
         for (int i = 0; i < mostSecants; ++i) {
             const double depth = rootBetween(a, b);
-            const bool close = std::abs(depth - trial.depth) <= tolerance * depth;
+            const bool close = std::abs(depth - trial.depth) <= depthTolerance * depth;
             const auto function = memory_.atDepth(depth);
             if (!function) return {SettledDepth::waiting};
             const double length = lengthWith_(*function);

@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "basis/units.h"
+
 namespace varnholt::secondOpinion {
 namespace {
 
-constexpr double hoursPerYear = 8760;
-constexpr std::size_t monthsPerYear = 12;
 constexpr std::size_t picturePieces = 96;
 
 void showG(const FieldTerms& terms, const DepthFunction& g, double lastHour,
@@ -34,7 +34,7 @@ void showMonths(const FieldTerms& terms, const DepthFunction& g, double length,
         MonthOfWater& month = result.water[n];
         month.mean = terms.fluidWith(heat.meanAt(n), length);
         for (Mode mode : modes)
-            if (terms.year.counts[n % monthsPerYear][mode])
+            if (terms.year.counts[n % monthsOfYear][mode])
                 month.entering[mode] =
                     enteringWater(terms, mode, terms.fluidWith(heat.at(n, mode), length));
     }
@@ -44,7 +44,7 @@ void showMonths(const FieldTerms& terms, const DepthFunction& g, double length,
 std::optional<double> extremeOfYear(const std::vector<MonthOfWater>& water, std::size_t year,
                                     Mode mode) {
     std::optional<double> extreme;
-    for (std::size_t n = (year - 1) * monthsPerYear; n < year * monthsPerYear; ++n) {
+    for (std::size_t n = (year - 1) * monthsOfYear; n < year * monthsOfYear; ++n) {
         const std::optional<double>& entering = water[n].entering[mode];
         if (!entering) continue;
         const bool further =

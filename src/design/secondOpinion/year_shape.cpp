@@ -5,12 +5,13 @@
 #include <cmath>
 #include <numbers>
 
+#include "basis/units.h"
+
 namespace varnholt::secondOpinion {
 namespace {
 
 constexpr double greatestPower = 20;
 constexpr double leastUnevenShare = 1.0 / 11;  // what a power just above 0 leaves: one month is 0
-constexpr double monthsPerYear = 12;
 
 using Months = std::array<double, 12>;
 
@@ -19,7 +20,7 @@ Months waveAround(int month) {
     Months wave{};
     for (int m = 0; m < 12; ++m)
         wave[static_cast<std::size_t>(m)] =
-            (1 + std::cos(2 * std::numbers::pi * (m - month) / monthsPerYear)) / 2;
+            (1 + std::cos(2 * std::numbers::pi * (m - month) / monthsOfYear)) / 2;
     return wave;
 }
 
@@ -37,12 +38,12 @@ double greatestOf(const Months& values) { return *std::max_element(values.begin(
 /// then 1/share. The sum falls ever less steeply as the power grows, so Newton's steps from 0 come
 /// to the power from below and never pass it.
 double powerFor(const Months& wave, double share) {
-    constexpr int mostSteps = 60;
+    constexpr int mostNewtonSteps = 60;
     Months logarithms{};
     for (std::size_t m = 0; m < wave.size(); ++m)
         logarithms[m] = wave[m] > 0 ? std::log(wave[m]) : 0;
     double power = 0;
-    for (int i = 0; i < mostSteps; ++i) {
+    for (int i = 0; i < mostNewtonSteps; ++i) {
         double sum = 0, slope = 0;
         for (std::size_t m = 0; m < wave.size(); ++m) {
             if (!(wave[m] > 0)) continue;
@@ -83,7 +84,7 @@ YearOfMode standardYearOf(Mode mode, double wanted, double greatest, bool southe
     year.heldAtGreatest = wanted > greatest;
     year.even = !(wanted >= leastUnevenShare);
     if (year.even) {
-        year.share.fill(1 / monthsPerYear);
+        year.share.fill(1.0 / monthsOfYear);
     } else {
         const Months wave = waveAround(inJuly ? 6 : 0);
         year.share = sharesOf(wave, powerFor(wave, std::min(wanted, greatest)));

@@ -14,8 +14,7 @@ using namespace secondOpinion;
 namespace {
 
 constexpr int mostTrials = 30;
-constexpr double tolerance = 1e-6;  // of the depth
-constexpr std::size_t monthsPerYear = 12;
+constexpr double caseTolerance = 1e-6;  // of the depth
 
 double signOf(Mode mode) { return mode == cooling ? -1 : 1; }
 
@@ -114,16 +113,16 @@ bool FieldCase::readAt(double depth) {
 double FieldCase::greatestHeat(Mode mode) const {
     const double sign = signOf(mode);
     const double resistance = terms_.heatScale() * terms_.boreResistance;
-    std::array<double, monthsPerYear> peaks{};
-    for (std::size_t m = 0; m < monthsPerYear; ++m) {
+    std::array<double, monthsOfYear> peaks{};
+    for (std::size_t m = 0; m < monthsOfYear; ++m) {
         const double peak = terms_.year.peak[m][mode];
         peaks[m] = (peak - sign * terms_.year.mean[m]) * pulse_ +
                    (terms_.zones.shortCircuitFactor - 1) * peak * pulse_ + resistance * peak;
     }
     double greatest = -noLength;
     for (std::size_t n = 0; n < drift_.size(); ++n)
-        if (terms_.year.counts[n % monthsPerYear][mode])
-            greatest = std::max(greatest, sign * drift_[n] + peaks[n % monthsPerYear]);
+        if (terms_.year.counts[n % monthsOfYear][mode])
+            greatest = std::max(greatest, sign * drift_[n] + peaks[n % monthsOfYear]);
     return sign * greatest;
 }
 
@@ -145,7 +144,7 @@ std::optional<double> FieldCase::length(Mode mode, double startDepth) {
     double excess = *asked - before;
     double depth = held(*asked);
     for (int i = 0; i < mostTrials && std::isfinite(*asked); ++i) {
-        if (std::abs(depth - before) <= tolerance * depth) break;
+        if (std::abs(depth - before) <= caseTolerance * depth) break;
         asked = depthAskedFor(mode, depth);
         if (!asked) return std::nullopt;
         const double slope = (*asked - depth - excess) / (depth - before);
@@ -154,7 +153,8 @@ std::optional<double> FieldCase::length(Mode mode, double startDepth) {
         // What a depth asks for grows by less than the depth itself, so the slope is below 0.
         depth = held(slope < -0.1 ? depth - excess / slope : *asked);
     }
-    if (!std::isfinite(*asked) || *asked > greatestOpinionDepth * (1 + tolerance)) return noLength;
+    if (!std::isfinite(*asked) || *asked > greatestOpinionDepth * (1 + caseTolerance))
+        return noLength;
     return std::max(0.0, *asked * terms_.bores);
 }
 

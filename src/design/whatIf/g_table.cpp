@@ -10,7 +10,7 @@ namespace {
 using namespace secondOpinion;
 
 constexpr double stepOfTimes = 0.05;  // of the logarithm of time between two values of a node
-constexpr double reach = 2;           // times shorter and longer than asked for
+constexpr double timesReach = 2;      // times shorter and longer than asked for
 constexpr double shallowest = 10;     // ft
 constexpr std::size_t mostTables = 16;
 constexpr std::size_t spareValues = 3;  // behind the last time, for the cubic
@@ -23,16 +23,16 @@ GTable::GTable(TableSite site)
       field_(site_.field.bores) {}
 
 int GTable::stretchOf(double quickness) {
-    const double stretch = std::round(std::log(quickness) / std::log(reach * reach));
+    const double stretch = std::round(std::log(quickness) / std::log(timesReach * timesReach));
     return static_cast<int>(std::clamp(stretch, -50.0, 50.0));
 }
 
 /// The functions are those of the slowest soil that they serve, from an hour on.
 double GTable::alphaOf(int stretch) const {
-    return site_.field.alpha * std::pow(reach * reach, stretch) / reach;
+    return site_.field.alpha * std::pow(timesReach * timesReach, stretch) / timesReach;
 }
 
-double GTable::lastHour() const { return site_.field.lastHour * reach * reach; }
+double GTable::lastHour() const { return site_.field.lastHour * timesReach * timesReach; }
 
 double GTable::shiftOf(double quickness, int stretch) const {
     return std::log(quickness * site_.field.alpha / alphaOf(stretch));

@@ -9,8 +9,6 @@
 namespace varnholt {
 namespace {
 
-constexpr double give = 1e-7;  // ft, of rounding
-
 /// Twice the area of a triangle, positive where its corners turn left.
 double turn(const Point& a, const Point& b, const Point& c) {
     return (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
@@ -100,9 +98,9 @@ Extent extentOf(const Polygon& polygon) {
 }
 
 bool Land::allows(const Point& point) const {
-    if (depthInside(outline, point) < boundaryClearance - give) return false;
+    if (depthInside(outline, point) < boundaryClearance - placeGive) return false;
     return std::none_of(noGo.begin(), noGo.end(), [&](const Polygon& area) {
-        return -depthInside(area, point) < noGoClearance - give;
+        return -depthInside(area, point) < noGoClearance - placeGive;
     });
 }
 

@@ -5,6 +5,9 @@
 
 namespace varnholt {
 
+/// What rounding may move a place by, ft: it decides nothing.
+constexpr double placeGive = 1e-7;
+
 /// A place on the land, ft: x grows across, y down the list of rows.
 struct Point {
     double x = 0;

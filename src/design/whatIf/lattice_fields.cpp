@@ -6,11 +6,11 @@
 #include <cmath>
 
 #include "design/modCalculations/bore_grid.h"
+#include "design/whatIf/land.h"
 
 namespace varnholt {
 namespace {
 
-constexpr double give = 1e-7;  // ft, of rounding
 constexpr int quarters = 4;
 constexpr double mostPlaces = 2.5e7;  // of a lattice
 /// Distances to sides that are measured in one slice.
@@ -33,7 +33,7 @@ std::size_t sidesOf(const Land& land) {
 }  // namespace
 
 std::size_t placesBetween(double from, double to, double separation) {
-    const double steps = std::floor((to - from + give) / separation);
+    const double steps = std::floor((to - from + placeGive) / separation);
     return steps < 0 ? 0 : static_cast<std::size_t>(std::min(steps, mostPlaces)) + 1;
 }
 
@@ -157,7 +157,7 @@ bool FieldFinder::step() {
 }
 
 void FieldFinder::startLattice() {
-    if (separation() > layout_.spacingTo + give) {
+    if (separation() > layout_.spacingTo + placeGive) {
         done_ = true;
         return;
     }
@@ -218,7 +218,7 @@ void FieldFinder::closeSeparation() {
 
 void FieldFinder::startAgain() {
     // One separation alone cannot be thinned out.
-    done_ = tooMany_ = layout_.spacingFrom + spacingStep_ > layout_.spacingTo + give;
+    done_ = tooMany_ = layout_.spacingFrom + spacingStep_ > layout_.spacingTo + placeGive;
     spacingStep_ *= 2;
     index_ = 0;
     offset_ = 0;

@@ -8,6 +8,7 @@
 #include "basis/run_time_error.h"
 #include "design/modCalculations/heat_pulses.h"
 #include "design/whatIf/cost.h"
+#include "design/whatIf/land.h"
 #include "forms/text_numbers.h"
 
 namespace varnholt {
@@ -15,7 +16,6 @@ namespace {
 
 constexpr int mostComputed = 60;
 constexpr int mostFruitless = 12;
-constexpr double give = 1e-7;  // ft, of rounding
 
 /// How unlike two fields are: by size, proportions and separation. Never 0, so that a ratio of the
 /// very same kind of field does not silence all others.
@@ -176,7 +176,7 @@ bool LayoutSearch::take(const LatticeField& field, double need) {
     const double depth = depthOf(field, need);
     const LayoutField taken{field, depth, depth * static_cast<double>(field.bores),
                             costOf(field, depth), 0};
-    if (depth > case_.layout.mostDepth + give) {
+    if (depth > case_.layout.mostDepth + placeGive) {
         const bool shallower = !shallowest_ || depth < shallowest_->depth;
         if (shallower) shallowest_ = taken;
         return shallower && result_.fields.empty();
@@ -196,7 +196,7 @@ void LayoutSearch::computeClassical() {
         const LayoutField found{candidate.field, depth,
                                 depth * static_cast<double>(candidate.field.bores),
                                 costOf(candidate.field, depth), 0};
-        if (depth <= case_.layout.mostDepth + give)
+        if (depth <= case_.layout.mostDepth + placeGive)
             fields.push_back(found);
         else if (!shallowest_ || depth < shallowest_->depth)
             shallowest_ = found;
@@ -224,7 +224,7 @@ std::optional<std::size_t> LayoutSearch::cheapestEstimate() const {
             leastDeep = i;
             leastDepth = depth;
         }
-        if (depth > case_.layout.mostDepth + give) continue;
+        if (depth > case_.layout.mostDepth + placeGive) continue;
         const double cost = costOf(candidate.field, depth);
         if (cheapest && !isCheaper(cost, candidate.field, leastCost, candidates_[*cheapest].field))
             continue;
@@ -274,7 +274,7 @@ void LayoutSearch::computeNext() {
 std::optional<std::size_t> LayoutSearch::candidateLike(double separation, std::size_t rows,
                                                        std::size_t columns) const {
     const auto is = [&](const LatticeField& field, std::size_t r, std::size_t c) {
-        return std::abs(field.separation - separation) < give && field.rows == r &&
+        return std::abs(field.separation - separation) < placeGive && field.rows == r &&
                field.columns == c;
     };
     for (std::size_t i = 0; i < candidates_.size(); ++i)

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "basis/units.h"
 #include "design/modCalculations/heat_pulses.h"
 #include "design/modCalculations/numbers.h"
 #include "design/modCalculations/short_circuit.h"
@@ -44,7 +45,6 @@ Soil soilOfCase(const SoilValues& soil, const CaseFactors& factors) {
 
 LengthTerms termsOfCase(const BoreholeInputs& design, const CaseLoads& loads,
                         const PulseTimes& pulses, const CaseFactors& factors) {
-    constexpr double inchesPerFoot = 12;
     LengthTerms terms;
     terms.annualGroundLoad = loads.annualGroundLoad;
     terms.peakLoad = loads.peakLoad;

@@ -12,12 +12,12 @@
 namespace varnholt {
 namespace {
 
-constexpr double dimensionRoom = 30;  // above and below the bore
-constexpr double groundRoom = 12;     // of ground around the bore
+constexpr double boreDimensionRoom = 30;  // above and below the bore
+constexpr double groundRoom = 12;         // of ground around the bore
 constexpr double hatchStep = 7;
 
 /// The drawing's coordinates on the screen.
-struct Scale {
+struct BoreScale {
     QPointF middle;
     double perInch;
 
@@ -32,14 +32,14 @@ double reachOf(const BoreDrawing& bore) {
     return reach;
 }
 
-Scale scaleFor(const Canvas& canvas, const BoreDrawing& bore, double warningRoom) {
-    const QRectF room =
-        canvas.area.adjusted(groundRoom, dimensionRoom, -groundRoom, -dimensionRoom - warningRoom);
+BoreScale scaleFor(const Canvas& canvas, const BoreDrawing& bore, double warningRoom) {
+    const QRectF room = canvas.area.adjusted(groundRoom, boreDimensionRoom, -groundRoom,
+                                             -boreDimensionRoom - warningRoom);
     const double radius = std::max(8.0, std::min(room.width(), room.height()) / 2);
     return {room.center(), radius / reachOf(bore)};
 }
 
-void drawGround(const Canvas& canvas, const Scale& scale, double radius) {
+void drawGround(const Canvas& canvas, const BoreScale& scale, double radius) {
     const double far = radius + groundRoom;
     QRadialGradient ground(scale.middle, far);
     QColor clear = canvas.look.ground;
@@ -68,7 +68,7 @@ void drawHatch(const Canvas& canvas, const QPointF& middle, double radius) {
     }
 }
 
-void drawGrout(const Canvas& canvas, const Scale& scale, const BoreDrawing& bore) {
+void drawGrout(const Canvas& canvas, const BoreScale& scale, const BoreDrawing& bore) {
     const double radius = bore.boreDiameter / 2 * scale.perInch;
     QPainter& painter = canvas.painter;
     painter.setPen(Qt::NoPen);
@@ -81,7 +81,7 @@ void drawGrout(const Canvas& canvas, const Scale& scale, const BoreDrawing& bore
     painter.drawEllipse(scale.middle, radius, radius);
 }
 
-void drawCentreLines(const Canvas& canvas, const Scale& scale, double radius) {
+void drawCentreLines(const Canvas& canvas, const BoreScale& scale, double radius) {
     const double reach = radius + groundRoom / 2;
     QPen pen(canvas.look.muted, 1, Qt::CustomDashLine, Qt::FlatCap);
     pen.setDashPattern({10, 3, 2, 3});
@@ -107,7 +107,7 @@ void drawFlow(const Canvas& canvas, const QPointF& middle, double radius, bool d
     }
 }
 
-void drawPipe(const Canvas& canvas, const Scale& scale, const PipeCircle& pipe, bool down) {
+void drawPipe(const Canvas& canvas, const BoreScale& scale, const PipeCircle& pipe, bool down) {
     const QPointF middle = scale.at(pipe.x, pipe.y);
     const double outer = pipe.outside / 2 * scale.perInch;
     const double inner = pipe.inside / 2 * scale.perInch;
@@ -131,7 +131,7 @@ void drawWarning(const Canvas& canvas, const QString& text) {
     painter.drawText(line, Qt::AlignCenter, text);
 }
 
-void drawDiameters(const Canvas& canvas, const Scale& scale, const BoreDrawing& bore) {
+void drawDiameters(const Canvas& canvas, const BoreScale& scale, const BoreDrawing& bore) {
     const double reach = reachOf(bore) * scale.perInch;
     const double half = bore.boreDiameter / 2;
     const double below = scale.middle.y() + reach + groundRoom + canvas.textHeight() / 2;
@@ -149,7 +149,7 @@ void drawDiameters(const Canvas& canvas, const Scale& scale, const BoreDrawing& 
 void paintBore(const Canvas& canvas, const BoreDrawing& bore, const Texts& texts) {
     if (reachOf(bore) <= 0) return;
     const double warningRoom = bore.fits ? 0 : canvas.textHeight() + gridStep / 2.0;
-    const Scale scale = scaleFor(canvas, bore, warningRoom);
+    const BoreScale scale = scaleFor(canvas, bore, warningRoom);
     const double reach = reachOf(bore) * scale.perInch;
     drawGround(canvas, scale, reach);
     drawGrout(canvas, scale, bore);

@@ -17,9 +17,9 @@
 namespace varnholt {
 namespace {
 
-constexpr double dimensionRoom = 34;  // at each side that has a dimension line
-constexpr double widestPitch = 64;    // a few bores do not fly apart
-constexpr double narrowestPitch = 6;  // below it marks run into each other
+constexpr double fieldDimensionRoom = 34;  // at each side that has a dimension line
+constexpr double widestPitch = 64;         // a few bores do not fly apart
+constexpr double narrowestPitch = 6;       // below it marks run into each other
 constexpr double largestMark = 11;
 
 /// How the marks of a class look: dark with many neighbours, hollow with few.
@@ -237,7 +237,7 @@ void drawPlan(const Canvas& canvas, const Grid& grid) {
 void paintField(const Canvas& canvas, const FieldPlan& field, const Texts& texts) {
     if (isNone(field)) return drawNone(canvas, texts);
     const QRectF room = drawLegend(canvas, fieldClasses(field, texts));
-    constexpr double around = dimensionRoom + groundAround;
+    constexpr double around = fieldDimensionRoom + groundAround;
     const Grid grid = gridIn(canvas, room.adjusted(around, around, -groundAround, -around), field);
     drawPlan(canvas, grid);
     drawDimensions(canvas, grid, field);

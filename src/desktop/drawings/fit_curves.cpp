@@ -19,7 +19,7 @@ QList<QPointF> pointsOf(const std::vector<FitPoint>& from) {
 }
 
 /// What the axes of a chart have to hold.
-struct Extent {
+struct FitExtent {
     QPointF least, most;
     bool any = false;
 
@@ -35,7 +35,7 @@ struct Extent {
 };
 
 /// The values' axis; factors that are all alike still need some room.
-ChartAxis axisOfValues(const Extent& extent, bool fromZero) {
+ChartAxis axisOfValues(const FitExtent& extent, bool fromZero) {
     if (fromZero && extent.least.y() >= 0) return axisFromZero(extent.most.y());
     const double room = std::max(0.0, 0.02 - (extent.most.y() - extent.least.y())) / 2;
     return axisAround(extent.least.y() - room, extent.most.y() + room);
@@ -48,7 +48,7 @@ ChartPicture chartOf(const ByMode<CurvePicture>& curves, const QString& across, 
                      bool fromZero) {
     using Sign = ChartSeries::Sign;
     ChartPicture chart;
-    Extent extent;
+    FitExtent extent;
     const auto draw = [&](Sign sign, Mode mode, const QList<QPointF>& points) {
         extent.take(points);
         chart.series.push_back({sign, mode, points});

@@ -4,14 +4,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "basis/units.h"
 #include "design/picture_sentences.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
-
-constexpr int daysPerYear = 365;
 
 using Sign = ChartSeries::Sign;
 

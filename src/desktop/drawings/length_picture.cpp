@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "desktop/drawings/plot.h"
 #include "desktop/widgets/figure_text.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
@@ -16,14 +17,6 @@ constexpr double highestBar = 30;
 constexpr double lowestBar = 12;
 constexpr double swatchWidth = 12;
 constexpr double swatchHeight = 11;
-
-QString wordOf(Mode mode, const Texts& texts) {
-    return qt(texts.text(mode == cooling ? Text::chartCooling : Text::chartHeating));
-}
-
-const QColor& colourOf(const Look& look, Mode mode) {
-    return mode == cooling ? look.cooling : look.heating;
-}
 
 /// How the parts of a bar differ, colours aside: full tones, hatching, a hollow frame.
 struct PartStyle {
@@ -65,7 +58,7 @@ void drawPart(const Canvas& canvas, Mode mode, const PartStyle& style, const QRe
 }
 
 /// What the bars need of the picture's width, and their scale.
-struct Scale {
+struct LengthScale {
     double zero = 0;     ///< where they begin
     double perFoot = 0;  ///< pixels
 
@@ -81,7 +74,7 @@ std::pair<double, double> reachOf(const LengthSummary& lengths, Mode mode) {
     return {shorter, longer};
 }
 
-Scale scaleIn(const LengthSummary& lengths, const QRectF& plot) {
+LengthScale scaleIn(const LengthSummary& lengths, const QRectF& plot) {
     double lowest = 0;
     double highest = 0;
     for (const Mode mode : modes) {
@@ -109,8 +102,8 @@ void drawFigure(const Canvas& canvas, const QString& text, const QRectF& place,
     figure.draw(canvas.painter, corner);
 }
 
-void drawBar(const Canvas& canvas, const LengthSummary& lengths, Mode mode, const Scale& scale,
-             const QRectF& row) {
+void drawBar(const Canvas& canvas, const LengthSummary& lengths, Mode mode,
+             const LengthScale& scale, const QRectF& row) {
     double shorter = 0;
     double longer = 0;
     for (std::size_t i = 0; i < lengths.parts.size(); ++i) {
@@ -147,7 +140,7 @@ void drawWords(const Canvas& canvas, const LengthSummary& lengths, Mode mode, co
     QPainter& painter = canvas.painter;
     painter.setPen(governs ? colourOf(canvas.look, mode) : canvas.look.muted);
     painter.setFont(strong(canvas.words, governs));
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, wordOf(mode, texts));
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, chartWord(mode, texts));
     const FigureText figure(qt(lengths.length[mode]), strong(canvas.words, governs));
     painter.setPen(governs ? canvas.look.ink : canvas.look.muted);
     figure.draw(painter, {end, line.center().y() - figure.size().height() / 2});
@@ -209,7 +202,7 @@ void paintLengths(const Canvas& canvas, const LengthSummary& lengths, const Text
     double before = 0;
     double behind = 0;
     for (const Mode mode : modes) {
-        before = std::max(before, heavy.horizontalAdvance(wordOf(mode, texts)));
+        before = std::max(before, heavy.horizontalAdvance(chartWord(mode, texts)));
         behind = std::max(
             behind,
             FigureText(qt(lengths.length[mode]), strong(canvas.words, true)).size().width());
@@ -218,7 +211,7 @@ void paintLengths(const Canvas& canvas, const LengthSummary& lengths, const Text
     const double room = legend.front().place.top() - gridStep - canvas.area.top();
     const QRectF plot(canvas.area.left() + before + gridStep, canvas.area.top(),
                       canvas.area.width() - before - behind - 2 * gridStep, room);
-    const Scale scale = scaleIn(lengths, plot);
+    const LengthScale scale = scaleIn(lengths, plot);
     const double height = std::clamp(room / 2 - gridStep, lowestBar, highestBar);
     for (const Mode mode : modes) {
         const double middle = plot.top() + room * (mode == cooling ? 0.25 : 0.75);

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "design/picture_sentences.h"
+#include "desktop/drawings/plot.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
@@ -16,18 +17,14 @@
 namespace varnholt {
 namespace {
 
-constexpr double signSize = 9;
-constexpr double signRoom = signSize + 6;
+constexpr double modeSign = 9;
+constexpr double signRoom = modeSign + 6;
 constexpr double stateSign = 14;
 constexpr double betweenModes = 3 * gridStep;  // from one mode to the next
 constexpr double smallType = 0.9;              // of the words over the figures
 
 QString stateText(LengthSummary::State state, const Texts& texts) {
     return qt(stateWords(state, texts));
-}
-
-QString wordOf(Mode mode, const Texts& texts) {
-    return qt(texts.text(mode == cooling ? Text::chartCooling : Text::chartHeating));
 }
 
 QFont smaller(QFont font) {
@@ -41,7 +38,7 @@ void drawSign(const Canvas& canvas, Mode mode, const QPointF& corner) {
     canvas.painter.setPen(QPen(mode == cooling ? look.cooling : look.heating, 1.4));
     canvas.painter.setBrush(mode == cooling ? look.cooling : look.heatingWash);
     canvas.painter.drawRect(
-        QRectF(canvas.crisp(corner.x()), canvas.crisp(corner.y()), signSize, signSize));
+        QRectF(canvas.crisp(corner.x()), canvas.crisp(corner.y()), modeSign, modeSign));
 }
 
 }  // namespace
@@ -92,7 +89,7 @@ double LengthStrip::widthOf(Mode mode, bool withEach) const {
     if (withEach && hasEach())
         width += 2 * gridStep + figures.each.size().width() + gridStep / 2.0 +
                  QFontMetricsF(font()).horizontalAdvance(figures.eachWord);
-    return std::max(width, signRoom + words.horizontalAdvance(wordOf(mode, texts_)));
+    return std::max(width, signRoom + words.horizontalAdvance(chartWord(mode, texts_)));
 }
 
 double LengthStrip::widthOfState() const {
@@ -128,11 +125,11 @@ double LengthStrip::drawMode(const Canvas& canvas, Mode mode, double x, bool wit
     const QFont words = smaller(font());
     const double wordHeight = QFontMetricsF(words).height();
     const double top = canvas.area.top();
-    drawSign(canvas, mode, {x, top + (wordHeight - signSize) / 2});
+    drawSign(canvas, mode, {x, top + (wordHeight - modeSign) / 2});
     painter.setFont(words);
     painter.setPen(mode == cooling ? canvas.look.cooling : canvas.look.heating);
     painter.drawText(QRectF(x + signRoom, top, canvas.area.width(), wordHeight),
-                     Qt::AlignLeft | Qt::AlignVCenter, wordOf(mode, texts_));
+                     Qt::AlignLeft | Qt::AlignVCenter, chartWord(mode, texts_));
     const Figures figures = figuresOf(mode);
     const double line = top + wordHeight;
     painter.setPen(governs ? canvas.look.ink : canvas.look.muted);

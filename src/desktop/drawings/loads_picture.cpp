@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "basis/number_text.h"
+#include "desktop/drawings/plot.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
 
@@ -14,14 +15,10 @@ namespace {
 constexpr double widestBar = 22;
 constexpr double barGap = 3;  // between the two bars of a block
 
-QString figure(double load) { return qt(formatNumber(load, "##0.0")); }
+QString loadFigure(double load) { return qt(formatNumber(load, "##0.0")); }
 
 double largestOf(const ByMode<double>& figures) {
     return std::max(figures[cooling], figures[heating]);
-}
-
-QString modeWord(Mode mode, const Texts& texts) {
-    return qt(mode == cooling ? texts.text(Text::chartCooling) : texts.text(Text::chartHeating));
 }
 
 void setBarStyle(const Canvas& canvas, Mode mode) {
@@ -42,7 +39,7 @@ double drawHead(const Canvas& canvas, const LoadsCaptions& captions, const Texts
         setBarStyle(canvas, mode);
         canvas.painter.drawRect(
             QRectF(canvas.crisp(x), canvas.crisp(middle - sample / 2), sample, sample));
-        const QString word = modeWord(mode, texts);
+        const QString word = chartWord(mode, texts);
         canvas.painter.setFont(canvas.words);
         canvas.painter.setPen(canvas.look.ink);
         canvas.painter.drawText(line.adjusted(x - line.left() + sample + 6, 0, 0, 0),
@@ -109,7 +106,7 @@ QRectF barOf(const QRectF& plot, double textHeight, const LoadsChart& loads, Mod
 
 /// The figure of a mode's largest load, over its bar, on a patch that parts it from other bars.
 void drawFigure(const Canvas& canvas, Mode mode, const QRectF& bar, double load) {
-    const QString text = figure(load);
+    const QString text = loadFigure(load);
     const double width = canvas.textWidth(text) + 2;
     // Cooling's figure ends over its bar's right edge and heating's begins over its left one.
     const double left = mode == cooling ? std::max(bar.right() - width, canvas.area.left())
@@ -179,12 +176,13 @@ QString describeLoads(const LoadsChart& loads, const LoadsCaptions& captions, co
     for (const Mode mode : modes) {
         if (!loads.peakBlock[mode]) continue;
         sentences << qt(texts.text(Text::dayChartLargestLoad))
-                         .arg(modeWord(mode, texts), figure(loads.largest[mode]), qt(captions.unit),
-                              qt(captions.blocks[*loads.peakBlock[mode]]));
+                         .arg(chartWord(mode, texts), loadFigure(loads.largest[mode]),
+                              qt(captions.unit), qt(captions.blocks[*loads.peakBlock[mode]]));
         if (!loads.capacity[mode]) continue;
         const int words = exceeds(loads, mode, loads.largest[mode]) ? Text::chartCapacityShort
                                                                     : Text::chartCapacity;
-        sentences << qt(texts.text(words)).arg(figure(*loads.capacity[mode]), qt(captions.unit));
+        sentences
+            << qt(texts.text(words)).arg(loadFigure(*loads.capacity[mode]), qt(captions.unit));
     }
     return sentences.join(u' ');
 }

@@ -16,7 +16,7 @@ constexpr double markHeight = 3;
 constexpr double strongMark = 5;
 constexpr double sampleSize = 9;
 
-QString figure(double value) { return qt(formatNumber(value, "###0.0")); }
+QString monthFigure(double value) { return qt(formatNumber(value, "###0.0")); }
 
 const QColor& colourOf(const Canvas& canvas, Mode mode) {
     return mode == cooling ? canvas.look.cooling : canvas.look.heating;
@@ -100,7 +100,7 @@ void drawMark(const Canvas& canvas, const MonthsChart& year, std::size_t month,
     canvas.painter.fillRect(mark.adjusted(-1, -1, 1, 1), canvas.look.surface);
     canvas.painter.fillRect(mark, colourOf(canvas, year.mode));
     if (!strong) return;
-    const QString text = figure(year.peaks[month]);
+    const QString text = monthFigure(year.peaks[month]);
     const double width = canvas.textWidth(text) + 6;
     const double x =
         std::clamp(mark.center().x(), canvas.area.left() + width / 2,

@@ -10,12 +10,7 @@
 namespace varnholt {
 namespace {
 
-constexpr QSize usual{420, 220};
-
-template <class Picture>
-std::function<QString(const Picture&)> describing(const Texts& texts) {
-    return [&texts](const Picture& picture) { return qt(describe(picture, texts)); };
-}
+constexpr QSize opinionSize{420, 220};
 
 /// A year of the band can be pressed, and the months that follow it too, to come back.
 class HistoryDrawing : public PaintedDrawing<HistoryPicture> {
@@ -28,7 +23,7 @@ class HistoryDrawing : public PaintedDrawing<HistoryPicture> {
                   plot_ = paintHistory(canvas, history, texts);
                   shown_ = history;
               },
-              describing<HistoryPicture>(texts), usual),
+              describing<HistoryPicture>(texts), opinionSize),
           pointed_(std::move(pointed)) {
         setCursor(Qt::PointingHandCursor);
     }
@@ -57,7 +52,7 @@ Drawing* newYearDrawing(std::function<YearPicture()> source, const Texts& texts)
     return new PaintedDrawing<YearPicture>(
         std::move(source),
         [&texts](const Canvas& canvas, const YearPicture& year) { paintYear(canvas, year, texts); },
-        describing<YearPicture>(texts), usual);
+        describing<YearPicture>(texts), opinionSize);
 }
 
 Drawing* newGFunctionDrawing(std::function<GFunctionPicture()> source, const Texts& texts) {
@@ -66,7 +61,7 @@ Drawing* newGFunctionDrawing(std::function<GFunctionPicture()> source, const Tex
         [&texts](const Canvas& canvas, const GFunctionPicture& picture) {
             paintGFunction(canvas, picture, texts);
         },
-        describing<GFunctionPicture>(texts), usual);
+        describing<GFunctionPicture>(texts), opinionSize);
 }
 
 }  // namespace varnholt

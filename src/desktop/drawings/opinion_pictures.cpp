@@ -13,12 +13,9 @@
 namespace varnholt {
 namespace {
 
-constexpr double strongLine = 2.2;
-constexpr double thinLine = 1.2;
-constexpr int levels = 5;         // figures at the scale, about
-constexpr double room = 1;        // degrees beyond the water and its limits
-constexpr double markHeight = 3;  // of a month's peak
-constexpr int shortName = 3;      // letters of a month
+constexpr double degreesAround = 1;   // degrees beyond the water and its limits
+constexpr double peakMarkHeight = 3;  // of a month's peak
+constexpr int shortName = 3;          // letters of a month
 
 QString wordOf(const Texts& texts, Mode mode) {
     return qt(texts.text(mode == cooling ? Text::cooling : Text::heating));
@@ -34,7 +31,7 @@ PlotScale scaleOf(const HistoryPicture& history) {
         least = std::min(least, year->low);
         most = std::max(most, year->high);
     }
-    return scaleAround(least - room, most + room, levels);
+    return scaleAround(least - degreesAround, most + degreesAround, usualFigures);
 }
 
 double historyLegend(const Canvas& canvas, const HistoryPicture& history, const Texts& texts) {
@@ -49,7 +46,7 @@ double historyLegend(const Canvas& canvas, const HistoryPicture& history, const 
 
 void drawLimits(const Canvas& canvas, const Plot& plot, const HistoryPicture& history) {
     for (const Mode mode : modes) {
-        canvas.painter.setPen(QPen(colourOf(canvas.look, mode), thinLine, Qt::DashLine));
+        canvas.painter.setPen(QPen(colourOf(canvas.look, mode), thinPen, Qt::DashLine));
         const double y = canvas.crisp(plot.heightOf(history.limits[mode]));
         canvas.painter.drawLine(QPointF(plot.area.left(), y), QPointF(plot.area.right(), y));
     }
@@ -59,9 +56,9 @@ void drawLimits(const Canvas& canvas, const Plot& plot, const HistoryPicture& hi
 void drawYearOfBand(const Canvas& canvas, const QRectF& band) {
     QPainter& painter = canvas.painter;
     painter.fillRect(band, canvas.look.hairline);
-    painter.setPen(QPen(canvas.look.cooling, strongLine, Qt::SolidLine, Qt::FlatCap));
+    painter.setPen(QPen(canvas.look.cooling, strongPen, Qt::SolidLine, Qt::FlatCap));
     painter.drawLine(band.topLeft(), band.topRight());
-    painter.setPen(QPen(canvas.look.heating, strongLine, Qt::SolidLine, Qt::FlatCap));
+    painter.setPen(QPen(canvas.look.heating, strongPen, Qt::SolidLine, Qt::FlatCap));
     painter.drawLine(band.bottomLeft(), band.bottomRight());
 }
 
@@ -100,7 +97,7 @@ void drawMonthsOfYear(const Canvas& canvas, const Plot& plot, const HistoryPictu
             const std::optional<double>& water = history.months[month][mode];
             const std::optional<QPointF> at =
                 water ? std::optional(QPointF(across(month), plot.heightOf(*water))) : std::nullopt;
-            canvas.painter.setPen(QPen(colour, thinLine));
+            canvas.painter.setPen(QPen(colour, thinPen));
             if (before && at) canvas.painter.drawLine(*before, *at);
             canvas.painter.setBrush(mode == cooling ? colour : canvas.look.surface);
             if (at) canvas.painter.drawEllipse(*at, radius, radius);
@@ -137,7 +134,7 @@ void drawMonth(const Canvas& canvas, const Plot& plot, const YearPicture& year, 
     const QColor& colour = colourOf(canvas.look, mode);
     QPainter& painter = canvas.painter;
     if (const double energy = year.energies[mode][month]; energy > 0) {
-        painter.setPen(QPen(colour, thinLine));
+        painter.setPen(QPen(colour, thinPen));
         painter.setBrush(washOf(canvas.look, mode));
         painter.drawRect(QRectF(QPointF(place.left(), plot.heightOf(energy)), place.bottomRight()));
     }
@@ -145,7 +142,8 @@ void drawMonth(const Canvas& canvas, const Plot& plot, const YearPicture& year, 
     const double peak = year.peaks[mode][month];
     if (!(peak > 0)) return;
     const double top = place.bottom() - peak / largest * place.height();
-    const QRectF mark(place.left() - 1, top - markHeight / 2, place.width() + 2, markHeight);
+    const QRectF mark(place.left() - 1, top - peakMarkHeight / 2, place.width() + 2,
+                      peakMarkHeight);
     painter.fillRect(mark.adjusted(-1, -1, 1, 1), canvas.look.surface);
     painter.fillRect(mark, colour);
 }
@@ -196,7 +194,8 @@ QRectF paintHistory(const Canvas& canvas, const HistoryPicture& history, const T
 void paintYear(const Canvas& canvas, const YearPicture& year, const Texts& texts) {
     if (!year.empty.empty()) return drawEmpty(canvas, qt(year.empty));
     const double head = yearLegend(canvas, year, texts);
-    const Plot plot = drawPlot(canvas, scaleAround(0, largestOf(year.energies), levels), head);
+    const Plot plot =
+        drawPlot(canvas, scaleAround(0, largestOf(year.energies), usualFigures), head);
     const double share = plot.area.width() / opinionMonthsOfYear;
     const double width = share * 0.38;
     for (std::size_t month = 0; month < opinionMonthsOfYear; ++month) {
@@ -219,12 +218,12 @@ void paintGFunction(const Canvas& canvas, const GFunctionPicture& picture, const
         canvas, {{Kind::line, look.cooling, {}, qt(texts.text(Text::opinionField))},
                  {Kind::thinLine, look.heating, {}, qt(texts.text(Text::opinionOneBore))}});
     const double most = *std::max_element(curves.g.begin(), curves.g.end());
-    const Plot plot = drawPlot(canvas, scaleAround(0, most, levels), head);
+    const Plot plot = drawPlot(canvas, scaleAround(0, most, usualFigures), head);
     drawTimes(canvas, plot, picture);
     canvas.painter.setBrush(Qt::NoBrush);
-    canvas.painter.setPen(QPen(look.heating, thinLine));
+    canvas.painter.setPen(QPen(look.heating, thinPen));
     canvas.painter.drawPolyline(curveOf(plot, curves.hours, curves.ofOneBore));
-    canvas.painter.setPen(QPen(look.cooling, strongLine));
+    canvas.painter.setPen(QPen(look.cooling, strongPen));
     canvas.painter.drawPolyline(curveOf(plot, curves.hours, curves.g));
 }
 

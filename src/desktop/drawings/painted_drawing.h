@@ -6,8 +6,16 @@
 
 #include "desktop/drawings/canvas.h"
 #include "desktop/drawings/drawing.h"
+#include "desktop/widgets/qt_text.h"
+#include "forms/texts.h"
 
 namespace varnholt {
+
+/// The words that stand for a picture, from those who know its description.
+template <class Picture>
+std::function<QString(const Picture&)> describing(const Texts& texts) {
+    return [&texts](const Picture& picture) { return qt(describe(picture, texts)); };
+}
 
 /// A picture painted from a plain description of what to draw.
 template <class Model>

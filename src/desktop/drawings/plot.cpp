@@ -5,26 +5,27 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
+
 namespace varnholt {
 namespace {
 
 constexpr double signSize = 9;
-constexpr double strongLine = 2.2;
-constexpr double thinLine = 1.2;
 
 void drawSign(const Canvas& canvas, const LegendSign& sign, double x, double middle) {
     QPainter& painter = canvas.painter;
     using Kind = LegendSign::Kind;
     if (sign.kind == Kind::area) {
-        painter.setPen(QPen(sign.colour, thinLine));
+        painter.setPen(QPen(sign.colour, thinPen));
         painter.setBrush(sign.wash);
         painter.drawRect(
             QRectF(canvas.crisp(x), canvas.crisp(middle - signSize / 2), signSize, signSize));
     } else if (sign.kind == Kind::mark) {
-        painter.fillRect(QRectF(x, middle - strongLine, signSize, 2 * strongLine), sign.colour);
+        painter.fillRect(QRectF(x, middle - strongPen, signSize, 2 * strongPen), sign.colour);
     } else {
         const bool dashes = sign.kind == Kind::dashes;
-        painter.setPen(QPen(sign.colour, sign.kind == Kind::line ? strongLine : thinLine,
+        painter.setPen(QPen(sign.colour, sign.kind == Kind::line ? strongPen : thinPen,
                             dashes ? Qt::DashLine : Qt::SolidLine));
         painter.drawLine(QPointF(x, middle), QPointF(x + 2 * signSize, middle));
     }
@@ -111,7 +112,7 @@ void drawBelow(const Canvas& canvas, const Plot& plot, double x, const QString& 
 
 void drawUpright(const Canvas& canvas, const Plot& plot, double x, const QColor& colour,
                  Qt::PenStyle style) {
-    canvas.painter.setPen(QPen(colour, thinLine, style));
+    canvas.painter.setPen(QPen(colour, thinPen, style));
     canvas.painter.drawLine(QPointF(canvas.crisp(x), plot.area.top()),
                             QPointF(canvas.crisp(x), plot.area.bottom()));
 }
@@ -120,6 +121,10 @@ void drawEmpty(const Canvas& canvas, const QString& sentence) {
     canvas.painter.setFont(canvas.words);
     canvas.painter.setPen(canvas.look.muted);
     canvas.painter.drawText(canvas.area, Qt::AlignCenter | Qt::TextWordWrap, sentence);
+}
+
+QString chartWord(Mode mode, const Texts& texts) {
+    return qt(texts.text(mode == cooling ? Text::chartCooling : Text::chartHeating));
 }
 
 const QColor& colourOf(const Look& look, Mode mode) {

@@ -5,8 +5,14 @@
 
 #include "basis/mode.h"
 #include "desktop/drawings/canvas.h"
+#include "forms/texts.h"
 
 namespace varnholt {
+
+/// Widths of the lines that tell something.
+constexpr double strongPen = 2.2, thinPen = 1.2;
+/// Figures at a scale, about.
+constexpr int usualFigures = 5;
 
 /// A scale from one round number to another.
 struct PlotScale {
@@ -51,6 +57,9 @@ void drawUpright(const Canvas& canvas, const Plot& plot, double x, const QColor&
 
 /// A sentence in the middle of a picture that has nothing to show.
 void drawEmpty(const Canvas& canvas, const QString& sentence);
+
+/// A mode's word in a picture.
+QString chartWord(Mode mode, const Texts& texts);
 
 /// The colour of a mode's lines and text, and that of its areas.
 const QColor& colourOf(const Look& look, Mode mode);

@@ -18,7 +18,7 @@ QList<QPointF> pointsOf(const std::vector<PumpChartPoint>& from) {
 }
 
 /// What the axes of a chart have to hold.
-struct Extent {
+struct PumpExtent {
     double coldest = 0, warmest = 0, highest = 0;
     bool any = false;
 
@@ -80,7 +80,7 @@ std::vector<ChartPicture> PumpCurves::pictures() const {
 }
 
 ChartPicture PumpCurves::chartOf(const ByMode<PumpCurve>& curves, const QString& title) const {
-    Extent extent;
+    PumpExtent extent;
     ChartPicture chart;
     for (const Mode mode : modes) {
         extent.take(curves[mode].curve);

@@ -9,12 +9,12 @@
 namespace varnholt {
 namespace {
 
-constexpr double sideRoom = 92;       // for upright dimensions and the ground
-constexpr double dimensionRoom = 26;  // of a level dimension
+constexpr double trenchSideRoom = 92;       // for upright dimensions and the ground
+constexpr double trenchDimensionRoom = 26;  // of a level dimension
 constexpr double groundBeside = 20;
 
 /// The drawing's coordinates on the screen: the trench's middle line at the surface.
-struct Scale {
+struct TrenchScale {
     QPointF surface;
     double perInch;
 
@@ -34,17 +34,17 @@ int levelDimensions(const TrenchDrawing& trench) {
     return 1 + (trench.besideFirst > 0) + (trench.coil && !trench.standing);
 }
 
-Scale scaleFor(const Canvas& canvas, const TrenchDrawing& trench) {
+TrenchScale scaleFor(const Canvas& canvas, const TrenchDrawing& trench) {
     const double above = canvas.textHeight() + gridStep;
     const double warning = trench.fits ? 0 : canvas.textHeight() + gridStep / 2.0;
-    const double below = levelDimensions(trench) * dimensionRoom + groundBeside + warning;
-    const QRectF room = canvas.area.adjusted(sideRoom, above, -sideRoom, -below);
+    const double below = levelDimensions(trench) * trenchDimensionRoom + groundBeside + warning;
+    const QRectF room = canvas.area.adjusted(trenchSideRoom, above, -trenchSideRoom, -below);
     const double across = std::max(8.0, room.width()) / widest(trench);
     const double down = std::max(8.0, room.height()) / trench.bottom;
     return {{room.center().x(), room.top()}, std::min(across, down)};
 }
 
-void drawGround(const Canvas& canvas, const Scale& scale, const TrenchDrawing& trench,
+void drawGround(const Canvas& canvas, const TrenchScale& scale, const TrenchDrawing& trench,
                 const Texts& texts) {
     QPainter& painter = canvas.painter;
     const double half = widest(trench) / 2;
@@ -64,7 +64,7 @@ void drawGround(const Canvas& canvas, const Scale& scale, const TrenchDrawing& t
 }
 
 /// The trench filled up again, with its walls.
-void drawTrench(const Canvas& canvas, const Scale& scale, const TrenchDrawing& trench) {
+void drawTrench(const Canvas& canvas, const TrenchScale& scale, const TrenchDrawing& trench) {
     QPainter& painter = canvas.painter;
     const QRectF dug(scale.at(-trench.width / 2, 0), scale.at(trench.width / 2, -trench.bottom));
     painter.fillRect(dug, between(canvas.look.surface, canvas.look.grout, 0.7));
@@ -75,7 +75,7 @@ void drawTrench(const Canvas& canvas, const Scale& scale, const TrenchDrawing& t
     painter.drawLine(dug.bottomRight(), dug.topRight());
 }
 
-void drawPipes(const Canvas& canvas, const Scale& scale, const TrenchDrawing& trench) {
+void drawPipes(const Canvas& canvas, const TrenchScale& scale, const TrenchDrawing& trench) {
     QPainter& painter = canvas.painter;
     for (const PipeCircle& pipe : trench.pipes) {
         const QPointF middle = scale.at(pipe.x, pipe.y);
@@ -90,7 +90,7 @@ void drawPipes(const Canvas& canvas, const Scale& scale, const TrenchDrawing& tr
 }
 
 /// From its side a coil is as long as its diameter and as thick as its pipe.
-void drawCoil(const Canvas& canvas, const Scale& scale, const TrenchDrawing& trench) {
+void drawCoil(const Canvas& canvas, const TrenchScale& scale, const TrenchDrawing& trench) {
     const double half = trench.coilDiameter / 2;
     const double x = trench.standing ? 0 : half;
     const double y = trench.standing ? half : 0;
@@ -99,8 +99,8 @@ void drawCoil(const Canvas& canvas, const Scale& scale, const TrenchDrawing& tre
                             scale.at(x, -trench.coilMiddle - y));
 }
 
-void drawLevels(const Canvas& canvas, const Scale& scale, const TrenchDrawing& trench) {
-    double level = scale.at(0, -trench.bottom).y() + dimensionRoom * 0.8;
+void drawLevels(const Canvas& canvas, const TrenchScale& scale, const TrenchDrawing& trench) {
+    double level = scale.at(0, -trench.bottom).y() + trenchDimensionRoom * 0.8;
     const double bottom = -trench.bottom;
     const double half = trench.width / 2;
     if (trench.besideFirst > 0) {
@@ -108,19 +108,19 @@ void drawLevels(const Canvas& canvas, const Scale& scale, const TrenchDrawing& t
         const PipeCircle& beside = trench.pipes[trench.besideFirst];
         drawLevelDimension(canvas, scale.at(first.x, first.y), scale.at(beside.x, beside.y), level,
                            lettered("[X]", trench.columnStepLabel));
-        level += dimensionRoom;
+        level += trenchDimensionRoom;
     }
     if (trench.coil && !trench.standing) {
         drawLevelDimension(canvas, scale.at(-trench.coilDiameter / 2, -trench.coilMiddle),
                            scale.at(trench.coilDiameter / 2, -trench.coilMiddle), level,
                            lettered("[D]", trench.coilLabel));
-        level += dimensionRoom;
+        level += trenchDimensionRoom;
     }
     drawLevelDimension(canvas, scale.at(-half, bottom), scale.at(half, bottom), level,
                        qt(trench.widthLabel));
 }
 
-void drawUprights(const Canvas& canvas, const Scale& scale, const TrenchDrawing& trench) {
+void drawUprights(const Canvas& canvas, const TrenchScale& scale, const TrenchDrawing& trench) {
     const double half = widest(trench) / 2;
     const double left = scale.at(-half, 0).x() - 26;
     const double right = scale.at(half, 0).x() + 26;
@@ -157,7 +157,7 @@ void paintTrench(const Canvas& canvas, const TrenchDrawing& trench, const Texts&
                                 qt(texts.text(Text::trenchPictureEmpty)));
         return;
     }
-    const Scale scale = scaleFor(canvas, trench);
+    const TrenchScale scale = scaleFor(canvas, trench);
     drawGround(canvas, scale, trench, texts);
     drawTrench(canvas, scale, trench);
     drawPipes(canvas, scale, trench);

@@ -10,10 +10,10 @@
 namespace varnholt {
 namespace {
 
-constexpr double sideRoom = 18;
-constexpr double pitchRoom = 60;      // at the right, for the coil's pitch
-constexpr double dimensionRoom = 32;  // above the trenches
-constexpr double largestScale = 40;   // pixels a foot: a single trench does not fill the picture
+constexpr double planSideRoom = 18;
+constexpr double pitchRoom = 60;          // at the right, for the coil's pitch
+constexpr double planDimensionRoom = 32;  // above the trenches
+constexpr double largestScale = 40;  // pixels a foot: a single trench does not fill the picture
 constexpr double mostLoops = 400;
 
 /// The field on the screen.
@@ -33,8 +33,9 @@ double contentWidth(const TrenchPlan& plan) {
 
 Field fieldIn(const Canvas& canvas, const TrenchPlan& plan) {
     const double note = plan.drawn < plan.trenches ? canvas.textHeight() + gridStep : 0;
-    const double right = plan.isCoil() ? pitchRoom : sideRoom;
-    const QRectF room = canvas.area.adjusted(sideRoom, dimensionRoom, -right, -gridStep - note);
+    const double right = plan.isCoil() ? pitchRoom : planSideRoom;
+    const QRectF room =
+        canvas.area.adjusted(planSideRoom, planDimensionRoom, -right, -gridStep - note);
     const double feet = (plan.drawn - 1) * std::max(0.0, plan.separation) + contentWidth(plan);
     const double perFoot = std::min(largestScale, std::max(8.0, room.width()) / feet);
     const double pitch = std::max(0.0, plan.separation) * perFoot;
@@ -106,7 +107,7 @@ void drawDimensions(const Canvas& canvas, const Field& field, const TrenchPlan& 
     const double top = field.room.top();
     if (plan.drawn > 1)
         drawLevelDimension(canvas, {field.middle(0), top}, {field.middle(1), top},
-                           top - dimensionRoom / 2, qt(plan.separationLabel));
+                           top - planDimensionRoom / 2, qt(plan.separationLabel));
     if (!plan.isCoil() || loopsIn(field, plan) < 2) return;
     const double last = field.middle(plan.drawn - 1);
     const double radius = plan.coilDiameter / 2 * field.perFoot;
@@ -122,7 +123,7 @@ void paintTrenches(const Canvas& canvas, const TrenchPlan& plan, const Texts& te
     if (plan.empty()) return;
     const Field field = fieldIn(canvas, plan);
     QPainter& painter = canvas.painter;
-    painter.fillRect(canvas.area.adjusted(0, dimensionRoom - gridStep, 0, 0),
+    painter.fillRect(canvas.area.adjusted(0, planDimensionRoom - gridStep, 0, 0),
                      between(canvas.look.surface, canvas.look.ground, 0.55));
     for (int trench = 0; trench < plan.drawn; ++trench)
         drawTrenchAt(canvas, field, plan, field.middle(trench));

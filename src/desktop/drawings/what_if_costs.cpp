@@ -13,9 +13,7 @@ namespace {
 
 using Kind = LegendSign::Kind;
 
-constexpr double strongLine = 2.2;
 constexpr double markRadius = 4.8;
-constexpr int levels = 5;  // figures at a scale, about
 
 double greatestOf(const TowerPicture& picture) {
     double most = 0;
@@ -48,7 +46,7 @@ void drawColumns(const Canvas& canvas, const Plot& plot, const TowerPicture& pic
 }
 
 void drawLife(const Canvas& canvas, const Plot& plot, const TowerPicture& picture) {
-    canvas.painter.setPen(QPen(canvas.look.ink, strongLine));
+    canvas.painter.setPen(QPen(canvas.look.ink, strongPen));
     std::optional<QPointF> before;
     for (std::size_t p = 0; p < picture.life.size(); ++p) {
         std::optional<QPointF> at;
@@ -94,7 +92,7 @@ void paintTower(const Canvas& canvas, const TowerPicture& picture, const Texts& 
                   qt(texts.text(Text::whatIfTowerWord))},
                  {Kind::line, look.ink, {}, qt(texts.text(Text::whatIfJudgeLife))},
                  {Kind::dashes, look.heating, {}, qt(texts.text(Text::whatIfHeatingGoverns))}});
-    const Plot plot = drawPlot(canvas, scaleAround(0, greatestOf(picture), levels), head);
+    const Plot plot = drawPlot(canvas, scaleAround(0, greatestOf(picture), usualFigures), head);
     for (const std::size_t percent : {0, 20, 40, 60, 80})
         drawBelow(canvas, plot, acrossTower(plot, percent),
                   QString::number(percent) + QStringLiteral(" %"));

@@ -10,14 +10,9 @@
 namespace varnholt {
 namespace {
 
-constexpr QSize usual{460, 300};
+constexpr QSize whatIfSize{460, 300};
 constexpr QSize beside{320, 220};  // of two pictures in one line
 constexpr QSize low{420, 72};
-
-template <class Picture>
-std::function<QString(const Picture&)> describing(const Texts& texts) {
-    return [&texts](const Picture& picture) { return qt(describe(picture, texts)); };
-}
 
 /// A picture of which parts can be pressed.
 template <class Picture, class Place>
@@ -89,11 +84,11 @@ Drawing* plainDrawing(std::function<Picture()> source, const Texts& texts,
 Drawing* newTornadoDrawing(std::function<TornadoPicture()> source, const Texts& texts,
                            std::function<void(std::size_t)> pointed) {
     return new PointedDrawing<TornadoPicture, QRectF>(std::move(source), texts, paintTornado, rowAt,
-                                                      std::move(pointed), usual);
+                                                      std::move(pointed), whatIfSize);
 }
 
 Drawing* newSureDrawing(std::function<SurePicture()> source, const Texts& texts) {
-    return plainDrawing<SurePicture>(std::move(source), texts, paintSure, usual);
+    return plainDrawing<SurePicture>(std::move(source), texts, paintSure, whatIfSize);
 }
 
 Drawing* newLandDrawing(std::function<LandPicture()> source, const Texts& texts) {
@@ -111,7 +106,7 @@ Drawing* newCostDrawing(std::function<CostPicture()> source, const Texts& texts)
 }
 
 Drawing* newTowerDrawing(std::function<TowerPicture()> source, const Texts& texts) {
-    return plainDrawing<TowerPicture>(std::move(source), texts, paintTower, usual);
+    return plainDrawing<TowerPicture>(std::move(source), texts, paintTower, whatIfSize);
 }
 
 }  // namespace varnholt

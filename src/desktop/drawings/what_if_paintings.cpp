@@ -17,10 +17,7 @@ namespace {
 
 using Kind = LegendSign::Kind;
 
-constexpr double strongLine = 2.2;
-constexpr double thinLine = 1.2;
 constexpr double dotRadius = 3.2;
-constexpr int levels = 5;  // figures at a scale, about
 
 QString whole(double value) { return QString::number(value, 'f', 0); }
 
@@ -80,7 +77,7 @@ TornadoFrame frameOf(const Canvas& canvas, const TornadoPicture& picture, double
     frame.bars =
         canvas.area.adjusted(frame.names + gridStep, head,
                              -(frame.shares + gridStep + canvas.textWidth("00000")), -foot);
-    frame.across = scaleAround(least, most, levels);
+    frame.across = scaleAround(least, most, usualFigures);
     return frame;
 }
 
@@ -120,7 +117,7 @@ PlotScale depthsOf(const SurePicture& picture) {
             least = std::min(least, place.depth);
             most = std::max(most, place.depth);
         }
-    return scaleAround(least, most, levels);
+    return scaleAround(least, most, usualFigures);
 }
 
 QPolygonF curveOf(const Plot& plot, const PlotScale& across,
@@ -233,19 +230,19 @@ void paintSure(const Canvas& canvas, const SurePicture& picture, const Texts& te
     drawAcross(canvas, plot, across, qt(picture.unit));
     QPainter& painter = canvas.painter;
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(look.muted, thinLine));
+    painter.setPen(QPen(look.muted, thinPen));
     painter.drawPolyline(curveOf(plot, across, picture.other));
-    painter.setPen(QPen(look.ink, thinLine, Qt::DashLine));
+    painter.setPen(QPen(look.ink, thinPen, Qt::DashLine));
     const double asked = canvas.crisp(plot.heightOf(100 * picture.confidence));
     painter.drawLine(QPointF(plot.area.left(), asked), QPointF(plot.area.right(), asked));
     drawUpright(canvas, plot, placeOf(plot, across, picture.drawn), look.ink, Qt::SolidLine);
-    painter.setPen(QPen(look.accent, strongLine));
+    painter.setPen(QPen(look.accent, strongPen));
     painter.drawPolyline(curveOf(plot, across, picture.curve));
     painter.setPen(QPen(look.surface, 1));
     for (const QPointF& dot : curveOf(plot, across, picture.dots)) {
         // A dot is filled where the drawn depth serves its case.
         const bool held = dot.x() <= placeOf(plot, across, picture.drawn) + 1e-6;
-        painter.setPen(QPen(look.accent, thinLine));
+        painter.setPen(QPen(look.accent, thinPen));
         painter.setBrush(held ? look.accent : look.surface);
         painter.drawEllipse(dot, dotRadius, dotRadius);
     }
@@ -267,11 +264,11 @@ void paintLand(const Canvas& canvas, const LandPicture& picture, const Texts&) {
         hatch(canvas, bandAround(noGo, picture.noGoClearance * frame.scale)
                           .united(noGo)
                           .intersected(outline));
-        painter.setPen(QPen(canvas.look.alarm, thinLine));
+        painter.setPen(QPen(canvas.look.alarm, thinPen));
         painter.setBrush(between(canvas.look.surface, canvas.look.muted, 0.4));
         painter.drawPath(noGo);
     }
-    painter.setPen(QPen(canvas.look.ink, strongLine));
+    painter.setPen(QPen(canvas.look.ink, strongPen));
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(outline);
     painter.setPen(Qt::NoPen);
@@ -299,8 +296,9 @@ std::vector<QPointF> paintFields(const Canvas& canvas, const FieldsPicture& pict
         std::minmax_element(picture.fields.begin(), picture.fields.end(), byDepth);
     const auto [few, many] =
         std::minmax_element(picture.fields.begin(), picture.fields.end(), byBores);
-    const Plot plot = drawPlot(canvas, scaleAround(shallow->depth, deep->depth, levels), head);
-    const PlotScale across = scaleAround(few->bores, many->bores, levels);
+    const Plot plot =
+        drawPlot(canvas, scaleAround(shallow->depth, deep->depth, usualFigures), head);
+    const PlotScale across = scaleAround(few->bores, many->bores, usualFigures);
     drawAcross(canvas, plot, across, qt(captionWords(texts.text(Text::whatIfRowBores))));
     const double least = picture.fields.front().cost, most = picture.fields.back().cost;
     std::vector<QPointF> places;
@@ -315,7 +313,7 @@ std::vector<QPointF> paintFields(const Canvas& canvas, const FieldsPicture& pict
         painter.drawEllipse(places[i], dotRadius, dotRadius);
     }
     if (picture.chosen && *picture.chosen < places.size()) {
-        painter.setPen(QPen(look.ink, strongLine));
+        painter.setPen(QPen(look.ink, strongPen));
         painter.setBrush(Qt::NoBrush);
         painter.drawEllipse(places[*picture.chosen], 2 * dotRadius, 2 * dotRadius);
     }

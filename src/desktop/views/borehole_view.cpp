@@ -24,7 +24,7 @@ std::function<FieldPlan()> fieldOf(const Binder& bind) {
     };
 }
 
-QWidget* resultsPage(Binder& bind) {
+QWidget* boreResultsPage(Binder& bind) {
     QWidget* stands = bind.widget("CASecondStandsLabel");
     mute(stands);
     const std::vector<FieldRows> parts{
@@ -40,7 +40,7 @@ QWidget* resultsPage(Binder& bind) {
     return resultsPageOf(bind, parts, {grow(smallPlan(bind, plan)), grow(towerPanel(bind))});
 }
 
-QWidget* pipeFields(Binder& bind) {
+QWidget* borePipeFields(Binder& bind) {
     return column(
         pipePanel(bind),
         group(bind.frame("PIConfigurationFrame"), buttons(bind.widget("PIConfigurationOption(0)"),
@@ -66,7 +66,7 @@ QWidget* boreFields(Binder& bind) {
 
 QWidget* pipePage(Binder& bind) {
     return column(group(bind.frame("PIPipeFrame"),
-                        grow(reflow(grow(pipeFields(bind)), grow(boreFields(bind))))));
+                        grow(reflow(grow(borePipeFields(bind)), grow(boreFields(bind))))));
 }
 
 QWidget* arrangementFields(Binder& bind) {
@@ -90,7 +90,7 @@ QWidget* arrangementPage(Binder& bind) {
 QWidget* makeBoreholeView(Binder& bind) {
     QWidget* pages = bind.tabs(
         "BHTabs",
-        {[&bind] { return page(resultsPage(bind)); }, [&bind] { return page(fluidPage(bind)); },
+        {[&bind] { return page(boreResultsPage(bind)); }, [&bind] { return page(fluidPage(bind)); },
          [&bind] { return page(soilPage(bind)); }, [&bind] { return page(pipePage(bind)); },
          [&bind] { return page(arrangementPage(bind)); },
          [&bind] { return page(extraPowerPage(bind)); },

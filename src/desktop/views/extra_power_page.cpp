@@ -13,7 +13,7 @@ QWidget* motor(Binder& bind, std::size_t shaft, std::size_t efficiency, std::siz
                 bind.row(elementName("EKWPumpPowerText", input)));
 }
 
-QWidget* pumpPower(Binder& bind) {
+QWidget* pumpPowerFields(Binder& bind) {
     return column(group(bind.frame("EKWCirculationFrame"), motor(bind, 1, 0, 0),
                         buttons(bind.widget("EKWPumpPowerCommand"))),
                   group(bind.frame("EKWAdditionalFrame"), grid(bind.row("EKWPumpPowerText(2)"))));
@@ -29,7 +29,7 @@ QWidget* towerPower(Binder& bind) {
 
 /// The tower stands beside the pumps, so that the whole page is in sight on a small screen.
 QWidget* extraPowerPage(Binder& bind) {
-    QWidget* pumps = pumpPower(bind);
+    QWidget* pumps = pumpPowerFields(bind);
     if (!bind.has("EKWCoolingTowerFrame")) return pumps;
     return column(reflow(grow(pumps), grow(towerPower(bind))));
 }

@@ -22,7 +22,7 @@ std::function<Model()> sourceOf(Binder& bind, Model (frmHZDesign::*model)() cons
     };
 }
 
-QWidget* resultsPage(Binder& bind) {
+QWidget* trenchResultsPage(Binder& bind) {
     const std::vector<FieldRows> parts{
         {bind.results("CATotalPipeLengthLabel"), bind.results("CATotalLengthLabel"),
          bind.results("CATrenchLengthLabel"), bind.results("CATrenchNumberLabel"),
@@ -84,7 +84,7 @@ FieldRow pitchOrPipes(Binder& bind) {
     return row;
 }
 
-QWidget* pipeFields(Binder& bind) {
+QWidget* trenchPipeFields(Binder& bind) {
     return group(bind.frame("PAInTrenchFrame"), arrangements(bind),
                  grid(pitchOrPipes(bind), bind.row("PAInTrenchConfigurationText(1)"),
                       bind.row("PAInTrenchConfigurationText(2)")),
@@ -111,7 +111,7 @@ QWidget* pictures(Binder& bind) {
 QWidget* configurationPage(Binder& bind) {
     return column(
         group(bind.frame("PAFieldFrame"),
-              grow(reflow(column(trenchFields(bind), pipeFields(bind),
+              grow(reflow(column(trenchFields(bind), trenchPipeFields(bind),
                                  group(bind.frame("PATimeFrame"), grid(bind.row("PATimeText")))),
                           grow(pictures(bind))))));
 }
@@ -119,7 +119,7 @@ QWidget* configurationPage(Binder& bind) {
 }  // namespace
 
 QWidget* makeHorizontalView(Binder& bind) {
-    QWidget* pages = bind.tabs("HZTabs", {[&bind] { return page(resultsPage(bind)); },
+    QWidget* pages = bind.tabs("HZTabs", {[&bind] { return page(trenchResultsPage(bind)); },
                                           [&bind] { return page(fluidPage(bind)); },
                                           [&bind] { return page(trenchSoilPage(bind)); },
                                           [&bind] { return page(trenchPipePage(bind)); },

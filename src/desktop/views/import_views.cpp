@@ -26,7 +26,7 @@ QWidget* caption(Binder& bind, const char* name) {
     return label;
 }
 
-QWidget* commands(Binder& bind) {
+QWidget* importCommands(Binder& bind) {
     return bar(column(buttons(bind.iconButton("cmdImport(2)", QStringLiteral("open")),
                               bind.iconButton("cmdImport(5)", QStringLiteral("table")),
                               bind.iconButton("cmdImport(3)", QStringLiteral("paste")),
@@ -37,7 +37,7 @@ QWidget* commands(Binder& bind) {
                            bind.widget("lblTitle(10)"))));
 }
 
-QWidget* year(Binder& bind) {
+QWidget* importedYearFields(Binder& bind) {
     return bind.drawing("imgMonths", newMonthsPicture(
                                          [&bind] {
                                              const frmImport1* form = importerOf(bind);
@@ -90,13 +90,12 @@ QWidget* choices(Binder& bind) {
 }  // namespace
 
 QWidget* makeImporterView(Binder& bind) {
-    return roomy(
-        column(
-            commands(bind),
-            grow(new ScrollPage(page(column(
-                reflow(new MonthTable(bind), grow(column(grow(year(bind)), grow(transfer(bind))))),
-                row_(stretch(), bind.widget("cmdImport(1)"))))))),
-        {960, 720});
+    return roomy(column(importCommands(bind),
+                        grow(new ScrollPage(page(column(
+                            reflow(new MonthTable(bind), grow(column(grow(importedYearFields(bind)),
+                                                                     grow(transfer(bind))))),
+                            row_(stretch(), bind.widget("cmdImport(1)"))))))),
+                 {960, 720});
 }
 
 QWidget* makeImportTableView(Binder& bind) {

@@ -13,7 +13,7 @@
 namespace varnholt {
 namespace {
 
-constexpr int headRow = 0, unitRow = 1, firstMonthRow = 2;
+constexpr int titleRow = 0, unitTitleRow = 1, firstMonthRow = 2;
 constexpr int totalRow = firstMonthRow + static_cast<int>(monthsOfYear);
 constexpr int cellWidth = 104;
 
@@ -49,13 +49,13 @@ QLabel* MonthTable::label(const std::string& name, int row, int column, bool fig
 
 void MonthTable::addHeads() {
     for (int column = 0; column < 4; ++column) {
-        QLabel* head = label("lblTitle(" + std::to_string(column) + ")", headRow, column, false);
+        QLabel* head = label("lblTitle(" + std::to_string(column) + ")", titleRow, column, false);
         QFont font = head->font();
         font.setWeight(QFont::DemiBold);
         head->setFont(font);
     }
-    mute(label("lblTitle(5)", unitRow, 1, false));
-    mute(label("lblTitle(7)", unitRow, 2, false));
+    mute(label("lblTitle(5)", unitTitleRow, 1, false));
+    mute(label("lblTitle(7)", unitTitleRow, 2, false));
 }
 
 void MonthTable::addMonths() {

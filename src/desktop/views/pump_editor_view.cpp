@@ -14,7 +14,7 @@
 namespace varnholt {
 namespace {
 
-QWidget* commands(Binder& bind) {
+QWidget* editorCommands(Binder& bind) {
     return buttons(
         bind.widget("NewCommand"), bind.widget("CopyCommand"), bind.widget("RemoveCommand"),
         bind.widget("ReorderCommand"), bind.widget("ClearCommand"), bind.widget("SummaryCommand"),
@@ -83,7 +83,7 @@ QWidget* data(Binder& bind) {
 }  // namespace
 
 QWidget* makePumpEditorView(Binder& bind) {
-    return roomy(column(bar(column(lists(bind), row_(commands(bind), grow(noticeBar(bind))))),
+    return roomy(column(bar(column(lists(bind), row_(editorCommands(bind), grow(noticeBar(bind))))),
                         grow(nothing(bind)), grow(information(bind)), grow(data(bind))),
                  {1240, 700});
 }

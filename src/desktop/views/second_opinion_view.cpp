@@ -106,7 +106,7 @@ FieldRow monthRow(Binder& bind, std::size_t month) {
     return row;
 }
 
-QWidget* year(Binder& bind) {
+QWidget* yearOfOpinion(Binder& bind) {
     FieldRow heads;
     for (std::size_t i = 0; i < 4; ++i)
         heads.fields.push_back(headLabel(bind, elementName("SEMonthHeadLabel", i)));
@@ -146,7 +146,7 @@ QWidget* makeSecondOpinionView(Binder& bind) {
     QWidget* pictures =
         column(grow(history(bind)), grow(reflow(grow(months(bind)), grow(gFunction(bind)))));
     QWidget* middle = reflow(choices, grow(pictures));
-    QWidget* below = reflow(year(bind), grow(table(bind)));
+    QWidget* below = reflow(yearOfOpinion(bind), grow(table(bind)));
     constexpr int width = 130 * gridStep, height = 95 * gridStep;
     return roomy(column(grow(new ScrollPage(page(column(figures, grow(middle), below))))),
                  {width, height});

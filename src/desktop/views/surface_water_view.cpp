@@ -25,7 +25,7 @@ Drawing* circuit(Binder& bind, const QSize& usual) {
                              usual);
 }
 
-QWidget* resultsPage(Binder& bind) {
+QWidget* waterResultsPage(Binder& bind) {
     const std::vector<FieldRows> parts{
         {bind.results("CALoopLengthLabel"), bind.results("CALoopNumberLabel"),
          bind.results("CAMaxParallelLoopNumberLabel"), bind.results("CAApproachTempLabel")},
@@ -140,9 +140,10 @@ QWidget* waterPage(Binder& bind) {
 QWidget* makeSurfaceWaterView(Binder& bind) {
     QWidget* pages = bind.tabs(
         "SWTabs",
-        {[&bind] { return page(resultsPage(bind)); }, [&bind] { return page(fluidPage(bind)); },
-         [&bind] { return page(waterSoilPage(bind)); }, [&bind] { return page(pipingPage(bind)); },
-         [&bind] { return page(waterPage(bind)); }, [&bind] { return page(extraPowerPage(bind)); },
+        {[&bind] { return page(waterResultsPage(bind)); },
+         [&bind] { return page(fluidPage(bind)); }, [&bind] { return page(waterSoilPage(bind)); },
+         [&bind] { return page(pipingPage(bind)); }, [&bind] { return page(waterPage(bind)); },
+         [&bind] { return page(extraPowerPage(bind)); },
          [&bind] { return page(informationPage(bind)); }});
     return designWindow(bind, pages);
 }

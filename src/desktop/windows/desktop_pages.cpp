@@ -16,7 +16,7 @@ namespace varnholt {
 namespace {
 
 /// How long a script waits for a page.
-constexpr std::chrono::seconds patience(5);
+constexpr std::chrono::seconds pagesPatience(5);
 /// How long after its end a page of the web may still be painting.
 constexpr std::chrono::milliseconds untilPainted(300);
 
@@ -82,7 +82,7 @@ bool DesktopPages::anyBusy() const {
 
 void DesktopPages::settle() {
     if (!anyBusy()) return;
-    const QDeadlineTimer end(patience);
+    const QDeadlineTimer end(pagesPatience);
     while (anyBusy() && !end.hasExpired())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents |
                                         QEventLoop::ExcludeUserInputEvents);

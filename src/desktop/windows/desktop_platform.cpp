@@ -90,8 +90,7 @@ void widenColumns(const QFileDialog& picker) {
         files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
 }
 
-/// How long an operation runs before its progress is shown, and between two repaints, in ms.
-constexpr int patience = 250;
+/// Between two repaints of a progress, ms.
 constexpr int repaintEvery = 40;
 
 }  // namespace
@@ -159,7 +158,7 @@ void DesktopPlatform::progress(const std::string& what, std::size_t done, std::s
         return;
     }
     if (!started_.isValid()) started_.start();
-    if (started_.elapsed() < patience) return;
+    if (started_.elapsed() < quietTime) return;
     if (!progress_) {
         progress_ = std::make_unique<QProgressDialog>(shelf_.mainWindow().dialogParent());
         progress_->setWindowModality(Qt::ApplicationModal);
@@ -180,7 +179,7 @@ void DesktopPlatform::progress(const std::string& what, std::size_t done, std::s
 void DesktopPlatform::waitingEnded() { waiting_.reset(); }
 
 bool DesktopPlatform::waitFor(const std::string& path, std::chrono::milliseconds waited) {
-    if (waited.count() < patience) return true;
+    if (waited.count() < quietTime) return true;
     if (!waiting_) {
         const std::string words = shelf_.mainWindow().reading(fileNameOf(path));
         waiting_ = std::make_unique<QProgressDialog>(shelf_.mainWindow().dialogParent());

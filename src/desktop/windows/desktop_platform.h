@@ -13,6 +13,9 @@ class QProgressDialog;
 
 namespace varnholt {
 
+/// How long an operation runs before its progress is shown, ms.
+constexpr int quietTime = 250;
+
 /// The platform of a person at a desktop: message boxes, file dialogs, windows, the clipboard.
 class DesktopPlatform : public Platform {
  public:

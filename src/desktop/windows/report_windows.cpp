@@ -11,6 +11,7 @@
 #include "desktop/paper/pdf_file.h"
 #include "desktop/paper/print_module.h"
 #include "desktop/widgets/qt_text.h"
+#include "desktop/windows/desktop_platform.h"
 #include "desktop/windows/main_window.h"
 #include "desktop/windows/report_preview.h"
 #include "forms/platform.h"
@@ -18,12 +19,6 @@
 #include "reports/report_shelf.h"
 
 namespace varnholt {
-namespace {
-
-/// How long it may take before the user is told, ms.
-constexpr int patience = 250;
-
-}  // namespace
 
 void writePdfWith(ReportShelf& shelf, const Texts& texts, unsigned localeNumber) {
     shelf.writePdf = [&texts, localeNumber](const Report& report, const std::string& path) {
@@ -100,7 +95,7 @@ bool ReportWindows::progress(int what, std::size_t done, std::size_t total) {
         progress_.reset();
         return true;
     }
-    if (started_->elapsed() < patience) return true;
+    if (started_->elapsed() < quietTime) return true;
     if (!progress_) {
         progress_ = std::make_unique<QProgressDialog>(
             qt(texts_.text(what)), qt(texts_.text(Text::breakOff)), 0, static_cast<int>(total),

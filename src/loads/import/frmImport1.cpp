@@ -23,7 +23,7 @@ struct ModeColours {
 constexpr ByMode<ModeColours> modeColours{{{colours::coolingCells, colours::coolingFactors},
                                            {colours::heatingCells, colours::heatingFactors}}};
 
-constexpr std::size_t totals = 12;  // index of the last row
+constexpr std::size_t totalsRow = 12;  // index of the last row
 
 double ofMonths(const ImportedLoads& loads, Months MonthlyLoads::*member,
                 const Values::Indices& i) {
@@ -134,7 +134,7 @@ void frmImport1::showAll() {
 
 void frmImport1::showMode() {
     const ModeColours& own = modeColours[mode_];
-    for (std::size_t i = 0; i <= totals; ++i)
+    for (std::size_t i = 0; i <= totalsRow; ++i)
         for (const char* column : {"lblTotal", "lblPeak"})
             control(elementName(column, i)).setBackcolor(own.values);
     for (std::size_t i = 0; i < monthsOfYear; ++i)
@@ -165,8 +165,8 @@ void frmImport1::showMonths() {
         control(elementName("lblTotal", month)).setCaption(shownTotal(year.totalLoads[month]));
         control(elementName("lblPeak", month)).setCaption(shownPeak(year.peakLoads[month]));
     }
-    control(elementName("lblTotal", totals)).setCaption(shownTotal(year.yearTotal));
-    control(elementName("lblPeak", totals)).setCaption(shownPeak(year.peakMax));
+    control(elementName("lblTotal", totalsRow)).setCaption(shownTotal(year.yearTotal));
+    control(elementName("lblPeak", totalsRow)).setCaption(shownPeak(year.peakMax));
 }
 
 /// The load factors of the mode on screen; that of its peak month is what a transfer takes.

@@ -14,7 +14,7 @@ namespace varnholt {
 namespace {
 
 /// Far more than the 106 items take.
-constexpr std::size_t mostBytes = 1'000'000;
+constexpr std::size_t mostSimulationBytes = 1'000'000;
 
 constexpr std::size_t peakBlock = 1;  // "12-4", in cooling and in heating
 
@@ -55,7 +55,7 @@ SimulationFile readSimulation(std::string_view bytes) {
 }
 
 SimulationFile readSimulationFile(const std::string& path) {
-    return readSimulation(readFileStart(path, mostBytes));
+    return readSimulation(readFileStart(path, mostSimulationBytes));
 }
 
 ByMode<MonthlyLoads> coolingFirst(const SimulationFile& file) {

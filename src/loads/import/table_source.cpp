@@ -11,7 +11,7 @@ namespace varnholt {
 namespace {
 
 /// A year of hours with hundreds of columns.
-constexpr std::size_t mostBytes = 64'000'000;
+constexpr std::size_t mostTableBytes = 64'000'000;
 
 void tell(const Varnmain& main, const std::string& message) {
     main.platform().message(MessageIcon::exclamation, main.text(Text::programTitle), message);
@@ -26,8 +26,8 @@ std::optional<TableSource> chooseTable(const Varnmain& main) {
                                                   .filter = main.text(Text::tableFileFilter)});
     if (!path) return std::nullopt;
     try {
-        std::string bytes = readFileStart(*path, mostBytes + 1);
-        if (bytes.size() <= mostBytes) return TableSource{baseNameOf(*path), std::move(bytes)};
+        std::string bytes = readFileStart(*path, mostTableBytes + 1);
+        if (bytes.size() <= mostTableBytes) return TableSource{baseNameOf(*path), std::move(bytes)};
         tell(main, filledIn(main.text(Text::tableTooLarge), {fileNameOf(*path)}));
     } catch (const RunTimeError& error) {
         tell(main, error.message());
@@ -37,7 +37,7 @@ std::optional<TableSource> chooseTable(const Varnmain& main) {
 
 std::optional<TableSource> tableOnClipboard(const Varnmain& main) {
     std::string text = main.platform().clipboard();
-    if (text.size() > mostBytes) return std::nullopt;
+    if (text.size() > mostTableBytes) return std::nullopt;
     const TableText table(text);
     if (table.lines().size() < monthsOfYear) return std::nullopt;
     const TableFormat format = table.guessedFormat();

@@ -3,16 +3,13 @@
 
 #include <algorithm>
 
+#include "catalogue/fitting/pump_fit.h"
 #include "forms/quantity.h"
 
 namespace varnholt {
 namespace {
 
 constexpr int stepsOfCurve = 24;
-
-/// Rows of the measured table with a mode's points.
-constexpr ByMode<std::size_t> firstRow{3, 0};
-constexpr std::size_t rowsOfMode = 3;
 
 using MeasuredValue = double HeatMode::*;
 
@@ -25,8 +22,8 @@ PumpCurve curveOf(const pump& model, Mode mode, const Polynomial& terms, Measure
                               quantity.shown(value, units)};
     };
     double coldest = 0, warmest = 0;
-    for (std::size_t i = 0; i < rowsOfMode; ++i) {
-        const ewt& row = model.ewt[firstRow[mode] + i];
+    for (std::size_t i = 0; i < ratingPoints; ++i) {
+        const ewt& row = model.ewt[firstRatingRow[mode] + i];
         coldest = i == 0 ? row.temperature : std::min(coldest, row.temperature);
         warmest = i == 0 ? row.temperature : std::max(warmest, row.temperature);
         curve.points.push_back(point(row.temperature, row.flowRate[0].HeatMode[mode].*measured));

@@ -35,7 +35,7 @@ std::vector<std::string> ZoneWindow::warningsOfZone(std::size_t position) const 
     for (const ZoneWarning& warning : warningsOf(zone, conditions().inletTemp, model)) {
         const std::string mode = text(warning.mode == cooling ? Text::cooling : Text::heating);
         switch (warning.concern) {
-            case ZoneWarning::Concern::noPump:
+            case ZoneWarning::Concern::missingPump:
                 sentences.push_back(filledIn(text(Text::warningNoPump), {zone.name}));
                 break;
             case ZoneWarning::Concern::capacity:

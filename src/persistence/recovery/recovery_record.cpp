@@ -10,7 +10,7 @@
 namespace varnholt {
 namespace {
 
-constexpr std::string_view title = "Varnholt Recovery Version 1";
+constexpr std::string_view recordTitle = "Varnholt Recovery Version 1";
 
 /// A text with a line end in it would be two lines.
 std::string oneLine(std::string text) {
@@ -80,12 +80,12 @@ std::string recordBytes(const RecoveryRecord& record) {
                     record.path == oneLine(record.path) ? record.path : "", oneLine(record.name),
                     record.changed, stampText(record.known), int{record.isStale},
                     int{record.savesUnderNewName}, record.document.size(), record.document);
-    return fmt::format("{}\n{}\n{}", title, fingerprint(body), body);
+    return fmt::format("{}\n{}\n{}", recordTitle, fingerprint(body), body);
 }
 
 std::optional<RecoveryRecord> readRecord(std::string_view bytes) {
     Lines lines(bytes);
-    if (lines.take() != title) return std::nullopt;
+    if (lines.take() != recordTitle) return std::nullopt;
     const auto expected = lines.number<std::uint64_t>();
     if (lines.hasFailed() || fingerprint(lines.left()) != expected) return std::nullopt;
     RecoveryRecord record;
