@@ -80,6 +80,13 @@ function(varnholt_sees TARGET SCOPE FOLDER)
     file(GENERATE OUTPUT "${directory}.txt" CONTENT "$<JOIN:${seen},\n>\n")
 endfunction()
 
+# What nearly every source includes, compiled once. The first of the floors makes it, all others but
+# those of the windows, which have Qt's beside it, take it from there.
+set(VARNHOLT_STANDARD_HEADERS
+    <algorithm> <array> <chrono> <cmath> <cstdint> <filesystem> <fstream> <functional> <map> <memory>
+    <numeric> <optional> <set> <span> <sstream> <string> <string_view> <utility> <variant> <vector>
+    <fmt/format.h>)
+
 # One static library a floor, from every source below its folder. FOLDER is the folder below src/,
 # the other arguments are the libraries it may use: "loads/zone.h" is found by those who link the
 # loads. A floor may be cut into rooms, such as "desktop/widgets", each with a library of its own,
@@ -90,6 +97,11 @@ function(varnholt_floor FOLDER)
     if(sources)
         add_library(varnholt_${name} STATIC ${sources})
         set(scope PUBLIC)
+        if(FOLDER STREQUAL "basis")
+            target_precompile_headers(varnholt_basis PRIVATE ${VARNHOLT_STANDARD_HEADERS})
+        elseif(NOT FOLDER MATCHES "^desktop/")
+            target_precompile_headers(varnholt_${name} REUSE_FROM varnholt_basis)
+        endif()
     else()
         add_library(varnholt_${name} INTERFACE)
         set(scope INTERFACE)

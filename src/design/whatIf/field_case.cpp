@@ -60,7 +60,7 @@ FieldTerms fieldTermsOf(const PreparedField& field, const RolledZones& zones,
 }
 
 FieldCase::FieldCase(const FieldTerms& terms, GTable& table, double quickness,
-                     const TableReading& reading)
+                     const GTableReading& reading)
     : terms_(terms), table_(table), stretch_(GTable::stretchOf(quickness)), reading_(reading) {
     const double shift = table.shiftOf(quickness, stretch_);
     months_.reserve(terms.months);

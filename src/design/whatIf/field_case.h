@@ -26,7 +26,7 @@ secondOpinion::FieldTerms fieldTermsOf(const PreparedField& field, const RolledZ
                                        const CaseFactors& factors);
 
 /// How closely a table is read between its rungs.
-struct TableReading {
+struct GTableReading {
     std::size_t rungs = 5;  ///< that the polynomial goes through
     /// Depth about which they lie as long as it serves, ft, so that cases that are compared are
     /// read alike; 0 takes the nearest rungs.
@@ -37,7 +37,7 @@ struct TableReading {
 class FieldCase {
  public:
     FieldCase(const secondOpinion::FieldTerms& terms, GTable& table, double quickness,
-              const TableReading& reading);
+              const GTableReading& reading);
 
     /// Length that a mode needs, ft: 0 without load, noLength where no depth up to the greatest
     /// holds its limit. None while a g-function is missing.
@@ -61,7 +61,7 @@ class FieldCase {
     const secondOpinion::FieldTerms& terms_;
     GTable& table_;
     int stretch_;
-    TableReading reading_;
+    GTableReading reading_;
     std::vector<TimePlace> months_;
     TimePlace pulsePlace_;
     std::array<std::optional<Rung>, GTable::rungCount> rungs_;

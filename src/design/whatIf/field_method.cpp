@@ -20,9 +20,9 @@ PreparedField preparedField(const BoreholeInputs& design, const OpinionSettings&
 }
 
 /// Of a design and its cases: within a hundredth of a percent.
-constexpr TableReading wholeReading{5, 0};
+constexpr GTableReading wholeReading{5, 0};
 /// Of fields that are many and compared by their costs: within a few hundredths of a percent.
-constexpr TableReading quickReading{3, 0};
+constexpr GTableReading quickReading{3, 0};
 
 }  // namespace
 
@@ -51,7 +51,7 @@ std::optional<CaseFigures> FieldMethod::figures(const MeasuredDesign& design,
     try {
         const FieldTerms terms = fieldTermsOf(opened.field, design.zones, design.inputs.loads,
                                               design.inputs.soil, factors);
-        TableReading reading = wholeReading;
+        GTableReading reading = wholeReading;
         reading.about = design.about;
         FieldCase fieldCase(terms, *opened.table, factors.diffusivity, reading);
         CaseFigures figures;

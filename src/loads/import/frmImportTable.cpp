@@ -144,11 +144,11 @@ void frmImportTable::showRows() {
                           : (metric ? Text::tableMonthsHeadMetric : Text::tableMonthsHeadEnglish);
     control("TIRowsLabel").setCaption(text(heads));
     std::vector<std::string> lines;
-    for (const TableRow& row : reading_.first) lines.push_back(rowText(row));
+    for (const LoadTableRow& row : reading_.first) lines.push_back(rowText(row));
     control("TIRowsList").setItems(std::move(lines));
 }
 
-std::string frmImportTable::rowText(const TableRow& row) const {
+std::string frmImportTable::rowText(const LoadTableRow& row) const {
     std::string line = std::to_string(row.line) + "\t" + cutTo(row.date, longestDate);
     for (const double load : row.loads)
         line += "\t" + formatNumber(quantities::load.shown(load, units_), "###0.0");

@@ -36,7 +36,7 @@ class frmImportTable : public Form {
     void showChoices();
     void showColumns(const std::string& stem, std::optional<std::size_t> chosen);
     void showRows();
-    std::string rowText(const TableRow& row) const;
+    std::string rowText(const LoadTableRow& row) const;
     std::string remarks() const;
     std::string linesText(int words, const std::vector<std::size_t>& lines) const;
     std::optional<std::size_t> chosenColumn(const std::string& stem) const;

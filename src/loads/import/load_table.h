@@ -49,7 +49,7 @@ TableChoices guessedChoices(const std::vector<TableText::Row>& rows, const Table
                             TableUnit usual);
 
 /// One row that was taken: loads of an hour, MBtu/hr, or energies of a month, MBtu.
-struct TableRow {
+struct LoadTableRow {
     std::size_t line = 0;
     std::string date;
     ByMode<double> loads{};
@@ -58,7 +58,7 @@ struct TableRow {
 /// What a table gives, and what was passed over on the way.
 struct TableReading {
     std::size_t taken = 0;              ///< rows with numbers
-    std::vector<TableRow> first;        ///< some of them, to be shown
+    std::vector<LoadTableRow> first;    ///< some of them, to be shown
     std::vector<std::size_t> without;   ///< lines with text, or nothing, in place of a load
     std::vector<std::size_t> blanks;    ///< lines of which one load of two is empty and counts as 0
     std::vector<std::size_t> negative;  ///< lines whose negative load counts as 0
