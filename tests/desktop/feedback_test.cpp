@@ -18,6 +18,8 @@
 #include "desktop/windows/name_finder.h"
 #include "desktop/windows/start_page.h"
 #include "frame/design_document.h"
+#include "loads/frmAvgBlock.h"
+#include "loads/frmZoneManage.h"
 
 namespace varnholt {
 namespace {
@@ -283,6 +285,27 @@ class FirstMinutes : public testing::Test {
 
     Desk desk;
 };
+
+TEST_F(FirstMinutes, ADesignWithoutLoadsOffersTheWindowsInWhichTheyAreEntered) {
+    desk.main().click("NewBorehole");
+    Desk::settle();
+    ChildWindow& design = *desk.main().activeWindow();
+    QWidget* first = desk.shelf.windowOf(design)->findChild<QWidget*>(QStringLiteral("firstLoads"));
+    ASSERT_NE(first, nullptr);
+    ASSERT_TRUE(first->isVisible());
+    const QList<QPushButton*> commands = first->findChildren<QPushButton*>();
+    ASSERT_EQ(commands.size(), 2);
+    commands[0]->click();
+    Desk::settle();
+    EXPECT_NE(dynamic_cast<frmZoneManage*>(desk.main().activeWindow()), nullptr);
+    commands[1]->click();
+    Desk::settle();
+    EXPECT_NE(dynamic_cast<frmAvgBlock*>(desk.main().activeWindow()), nullptr);
+    desk.main().activeWindow()->click("LONewCommand");
+    desk.main().click("mnuLink");
+    Desk::settle();
+    EXPECT_FALSE(first->isVisible());
+}
 
 TEST_F(FirstMinutes, OpenATemplateThatHasNoFileOfItsOwn) {
     QAbstractButton* office = buttonNamed(page(), "Office");

@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+
+#include "desktop/widgets/look.h"
+
 namespace varnholt {
 namespace {
 
@@ -19,6 +23,20 @@ TEST(Icons, AreDrawnOnceASizeHoweverOftenTheyAreShown) {
     EXPECT_NE(drawingOf("window", 16), first);
     EXPECT_NE(drawingOf("refused", 24), first);
     EXPECT_NE(drawingOf("window", 24, QIcon::Disabled), first);
+}
+
+TEST(Icons, AreDrawnInTheColourOfTheWordsOnAChosenRow) {
+    const QImage chosen =
+        houseIcon(QStringLiteral("refused")).pixmap(QSize(48, 48), 1.0, QIcon::Selected).toImage();
+    const Look& look = lookOf(QApplication::palette());
+    int words = 0, alarms = 0;
+    for (int y = 0; y < 48; ++y)
+        for (int x = 0; x < 48; ++x) {
+            words += chosen.pixelColor(x, y) == look.onAccent ? 1 : 0;
+            alarms += chosen.pixelColor(x, y) == look.heating ? 1 : 0;
+        }
+    EXPECT_GT(words, 20);
+    EXPECT_EQ(alarms, 0);
 }
 
 }  // namespace

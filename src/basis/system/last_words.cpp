@@ -81,7 +81,8 @@ LastWords::LastWords() : words_(new Words[most]) {
     giveStack();
     struct sigaction action {};
     action.sa_handler = writeAllLaid;
-    action.sa_flags = SA_RESETHAND | SA_NODEFER | SA_ONSTACK;
+    // The last of the flags is unsigned in the system's headers, the field is not.
+    action.sa_flags = static_cast<int>(SA_RESETHAND | SA_NODEFER | SA_ONSTACK);
     for (const int signal : fatalSignals) ::sigaction(signal, &action, nullptr);
 }
 

@@ -67,7 +67,9 @@ class WhatIfWork {
     void takeCertainty(const Certainty& certainty);
 
     WhatIfMeasure other() const;
-    CaseMethod& method(WhatIfMeasure measure) { return *methods_[measure]; }
+    CaseMethod& method(WhatIfMeasure measure) {
+        return *methods_[static_cast<std::size_t>(measure)];
+    }
     MeasuredDesign measured(WhatIfMeasure measure) const;
     const std::vector<Drivers>& driversOf(std::size_t set);
     static std::size_t setSize(WhatIfMeasure measure);

@@ -42,8 +42,8 @@ void beginAfterNew(Binder& bind) {
 }  // namespace
 
 QWidget* firstZone(Binder& bind, int text) {
-    QWidget* first = column(
-        hint(bind, text, [] { return true; }),
+    QWidget* first = group(
+        new GroupBox, hint(bind, text, [] { return true; }),
         buttons(second(bind, "LONewCommand", "zones"), second(bind, "LOOpenCommand", "open")));
     const auto refresh = [&bind, first] {
         const ZoneWindow* window = zoneWindowOf(bind);

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The results of a design.
+#include <QAction>
+#include <QPushButton>
+
 #include "design/ground_design.h"
 #include "desktop/views/design_pages.h"
 #include "desktop/views/length_pieces.h"
 #include "desktop/views/view_pieces.h"
+#include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
 
@@ -20,7 +24,38 @@ std::vector<std::string> warningsOf(const Binder& bind) {
     return design == nullptr ? std::vector<std::string>() : design->warnings();
 }
 
-/// The results in two columns. While the design has no loads a line tells where these come from.
+/// A button that gives a command of the window around all others.
+QWidget* mainCommand(const Binder& bind, int caption, const char* command, const char* icon) {
+    auto* button = new QPushButton(houseIcon(QString::fromLatin1(icon)), qt(bind.text(caption)));
+    button->setAutoDefault(false);
+    QObject::connect(button, &QPushButton::clicked, button, [button, command] {
+        const QString name = QString::fromLatin1(command);
+        if (auto* action = button->window()->findChild<QAction*>(name); action != nullptr)
+            action->trigger();
+    });
+    return button;
+}
+
+/// Where a design's loads come from, with the commands for it, while it has none; then the length
+/// that the design is made for.
+QWidget* headline(Binder& bind) {
+    QWidget* first =
+        group(new GroupBox, hint(bind, Text::enterLoadsFirst, [] { return true; }),
+              buttons(mainCommand(bind, Text::zoneManager, "mnuZoneManage", "zones"),
+                      mainCommand(bind, Text::averageBlock, "mnuAvgBlock", "average-block")));
+    first->setObjectName(QStringLiteral("firstLoads"));
+    QWidget* lengths = lengthHeadline(bind);
+    QWidget* both = column(first, lengths);
+    const auto refresh = [&bind, first, lengths] {
+        first->setVisible(hasNoLoads(bind));
+        lengths->setVisible(!hasNoLoads(bind));
+    };
+    refresh();
+    bind.onSettled(refresh);
+    return both;
+}
+
+/// The results in two columns.
 QWidget* resultsPanel(Binder& bind, const std::vector<FieldRows>& parts) {
     FieldRows rows{bind.heads("CATopLabel(0)", "CATopLabel(1)")};
     for (const FieldRows& part : parts) {
@@ -28,15 +63,14 @@ QWidget* resultsPanel(Binder& bind, const std::vector<FieldRows>& parts) {
         rows.insert(rows.end(), part.begin(), part.end());
     }
     return group(bind.frame("CACalculationFrame"), gridOf(rows),
-                 warningLines(bind, [&bind] { return warningsOf(bind); }),
-                 hint(bind, Text::enterLoadsFirst, [&bind] { return hasNoLoads(bind); }));
+                 warningLines(bind, [&bind] { return warningsOf(bind); }));
 }
 
 }  // namespace
 
 QWidget* resultsPageOf(Binder& bind, const std::vector<FieldRows>& table,
                        const std::vector<Piece>& beside) {
-    return column(lengthHeadline(bind),
+    return column(headline(bind),
                   grow(reflow(grow(resultsPanel(bind, table), 2),
                               grow(column(grow(lengthPanel(bind)), grow(reflowOf(beside))), 3))));
 }

@@ -18,9 +18,12 @@ QByteArray pictureFile(const QString& name) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QByteArray inColours(QByteArray svg, const Look& look, bool disabled) {
+/// On a chosen row the accent lies behind the picture, on which no colour of a role is seen.
+QByteArray inColours(QByteArray svg, const Look& look, QIcon::Mode mode) {
     const auto put = [&](const char* role, const QColor& colour) {
-        const QColor shown = disabled ? look.disabled : colour;
+        const QColor shown = mode == QIcon::Disabled   ? look.disabled
+                             : mode == QIcon::Selected ? look.onAccent
+                                                       : colour;
         svg.replace(role, shown.name().toLatin1());
     };
     // The surface last: its new colour must not be taken for another role.
@@ -29,7 +32,8 @@ QByteArray inColours(QByteArray svg, const Look& look, bool disabled) {
     put("#ff0000", look.heating);
     put("#00ff00", look.accent);
     put("#808080", look.muted);
-    svg.replace("#ffffff", look.surface.name().toLatin1());
+    const QColor& behind = mode == QIcon::Selected ? look.accent : look.surface;
+    svg.replace("#ffffff", behind.name().toLatin1());
     return svg;
 }
 
@@ -59,7 +63,7 @@ class HouseIcon : public QIconEngine {
                                 .arg(name_)
                                 .arg(size.width())
                                 .arg(size.height())
-                                .arg(disabled)
+                                .arg(static_cast<int>(mode))
                                 .arg(look.dark);
         QPixmap picture;
         if (QPixmapCache::find(key, &picture)) return picture;
@@ -68,7 +72,7 @@ class HouseIcon : public QIconEngine {
         QPainter painter(&picture);
         painter.setOpacity(disabled ? 0.55 : 1);
         const QByteArray file = pictureFile(name_);
-        QSvgRenderer(colours_ == Colours::own ? file : inColours(file, look, disabled))
+        QSvgRenderer(colours_ == Colours::own ? file : inColours(file, look, mode))
             .render(&painter, QRectF(QPointF(0, 0), size));
         painter.end();
         QPixmapCache::insert(key, picture);
