@@ -18,8 +18,7 @@ class EnglishTexts : public Texts {
         for (const char* name :
              {"2000_borehole", "2630_second_opinion", "2800_loads", "5000_calculators"}) {
             const std::string file =
-                std::string(VARNHOLT_SOURCE_DIR "/resources/language/englishUnits/") + name +
-                ".txt";
+                std::string(VARNHOLT_SOURCE_DIR "/resources/language/english/") + name + ".txt";
             table_.read(readWholeFile(file), file);
         }
     }

@@ -26,14 +26,16 @@ QByteArray inColours(QByteArray svg, const Look& look, QIcon::Mode mode) {
                                                        : colour;
         svg.replace(role, shown.name().toLatin1());
     };
-    // The surface last: its new colour must not be taken for another role.
+    // White may be what another role is drawn in, and the surface's own colour may be a role's.
+    constexpr const char* surface = "surface";
+    svg.replace("#ffffff", surface);
     put("#000000", look.ink);
     put("#0000ff", look.cooling);
     put("#ff0000", look.heating);
     put("#00ff00", look.accent);
     put("#808080", look.muted);
     const QColor& behind = mode == QIcon::Selected ? look.accent : look.surface;
-    svg.replace("#ffffff", behind.name().toLatin1());
+    svg.replace(surface, behind.name().toLatin1());
     return svg;
 }
 
