@@ -391,6 +391,9 @@ constexpr int warningInlet = 2363;
 constexpr int warningGround = 2364;
 constexpr int warningTouch = 2365;
 constexpr int warningDeep = 2366;
+constexpr int warningInletOfSeveral = 2349;
+constexpr int warningWater = 2347;
+constexpr int warningPipesTouch = 2348;
 constexpr int zoneWarned = 2367;
 constexpr int modeHead = 2368;
 constexpr int chartCapacityShort = 2313;
@@ -1113,6 +1116,7 @@ constexpr int dropInformationQuestion = 4534;
 constexpr int seriesFileChanged = 4524;
 constexpr int damagedFileReplaced = 4525;
 constexpr int indexFileChanged = 4540;
+constexpr int fileWasNotThere = 4541;
 constexpr int replaceFileTitle = 4529;
 
 // Files that it could not write.
@@ -1143,6 +1147,7 @@ constexpr int unsavedQuestion = 8554;
 constexpr int unsavedTitle = 8555;
 constexpr int noticeOpenElsewhere = 8556;
 constexpr int noticeSetAside = 8557;
+constexpr int noticeFileNotFound = 8560;
 constexpr int readingFile = 8558;
 constexpr int noticeStillKept = 8559;
 
