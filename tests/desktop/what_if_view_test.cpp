@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 #include <filesystem>
+#include <set>
 
 #include "design/frmBHDesign.h"
 #include "design/frmWhatIf.h"
@@ -82,6 +83,47 @@ TEST_F(WhatIfView, SearchesWhileNobodyTypesAndStopsAtASecondPress) {
     EXPECT_EQ(what().control("WLList").items().size(), 20U);
     EXPECT_EQ(what().control("WLList").index(), 0);
     EXPECT_TRUE(desk.faults.empty());
+}
+
+/// Counts how often a widget is painted.
+class Paints : public QObject {
+ public:
+    explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
+    int count = 0;
+
+ protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) ++count;
+        return false;
+    }
+};
+
+/// Sets of cases and fields of bores are drawn as they are found, and not at the end alone.
+TEST_F(WhatIfView, DrawsWhatHasBeenFoundSoFar) {
+    idle();
+    struct Asked {
+        int page;
+        const char *image, *command;
+    };
+    for (const auto& [page, image, command] :
+         {Asked{1, "imgSure", "WIMeasureOption(1)"}, Asked{2, "imgFields", "WLSearchCommand"}}) {
+        SCOPED_TRACE(image);
+        what().choose("WITabs", page);
+        idle();
+        what().type("WIDepthText", "300");
+        what().click(command);
+        QWidget* picture = widget(image);
+        const Paints paints(*picture);
+        std::set<QString> told;
+        const QDeadlineTimer patience(60'000);
+        while (what().isBehind() && !patience.hasExpired()) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+            if (what().isBehind() && paints.count > 0)
+                told.insert(picture->accessibleDescription());
+        }
+        EXPECT_GT(paints.count, 2);
+        EXPECT_GT(told.size(), 1U);
+    }
 }
 
 TEST_F(WhatIfView, IsWalkedInTheOrderOfItsForm) {

@@ -234,6 +234,12 @@ void Binder::fellBehind(Form&) {
     workLateIn(repaintGoesFirst);
 }
 
+/// Pictures show what has been found so far, but take no more of the time than need be.
+void Binder::foundMore(Form&) {
+    constexpr int betweenPictures = 50;  // ms
+    if (!drawn_.isValid() || drawn_.hasExpired(betweenPictures)) refreshLater();
+}
+
 void Binder::workLateIn(int milliseconds) {
     if (scripted_ || std::exchange(lateDue_, true)) return;
     QTimer::singleShot(milliseconds, this, [this] { workLate(); });
@@ -272,6 +278,7 @@ void Binder::settled(Form&) {
 }
 
 void Binder::refreshDrawings() {
+    drawn_.start();
     for (Drawing* drawing : drawings_) {
         if (!drawing->isVisible()) continue;
         drawing->refresh();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <exception>
 #include <functional>
@@ -149,6 +150,7 @@ class Binder : public QObject, public FormObserver {
     void captionChanged(Form& form) override;
     void settled(Form& form) override;
     void fellBehind(Form& form) override;
+    void foundMore(Form& form) override;
     bool worksBetweenActions() const override { return !scripted_; }
     bool eventFilter(QObject* watched, QEvent* event) override;
     void customEvent(QEvent* event) override;
@@ -192,6 +194,7 @@ class Binder : public QObject, public FormObserver {
     /// The label of each figure.
     std::map<std::string, std::string> figures_;
     std::vector<Drawing*> drawings_;
+    QElapsedTimer drawn_;  ///< since the drawings were refreshed last
     std::vector<std::function<void()>> refreshers_;
     std::vector<std::vector<std::vector<std::string>>> blocks_;
     std::unique_ptr<RefusalHint> refusal_;
