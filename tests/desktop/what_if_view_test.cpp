@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <set>
 
 #include "design/frmBHDesign.h"
@@ -155,6 +156,36 @@ TEST_F(WhatIfView, PutsTheKeyboardIntoTheFieldOfABarThatIsPressed) {
     const QWidget* focused = desk.shelf.windowOf(what())->focusWidget();
     ASSERT_NE(focused, nullptr);
     EXPECT_EQ(focused->objectName().toStdString(), "WILowText(" + std::to_string(longest) + ")");
+}
+
+TEST_F(WhatIfView, PutsTheKeyboardIntoTheDesignsFieldOfALeverThatIsPressed) {
+    what().click("WIMeasureOption(0)");
+    idle();
+    QWidget* tornado = widget("imgTornado");
+    tornado->repaint();
+    std::vector<QRectF> rows;
+    const auto paint = [&](const Canvas& canvas) {
+        rows = paintTornado(canvas, what().tornadoPicture(), what().texts());
+    };
+    renderedSample({"tornado", tornado->size(), paint}, lightLook(), 1);
+    const auto bars = what().tornadoPicture().bars;
+    ASSERT_EQ(rows.size(), bars.size());
+    constexpr const char* fields[] = {"FLInletTempText(0)", "FLInletTempText(1)",
+                                      "PASeparationText", "PATimeText", "FLFlowRateText"};
+    std::set<std::string> pressed;
+    for (std::size_t bar = 0; bar < bars.size(); ++bar) {
+        if (!bars[bar].lever) continue;
+        desk.main().activate(what());
+        press(tornado, rows[bar].center());
+        EXPECT_EQ(desk.main().activeWindow(), &design());
+        const QWidget* focused = desk.shelf.windowOf(design())->focusWidget();
+        ASSERT_NE(focused, nullptr);
+        EXPECT_EQ(focused->objectName().toStdString(), fields[bars[bar].index]);
+        EXPECT_TRUE(focused->isVisible());
+        pressed.insert(focused->objectName().toStdString());
+    }
+    EXPECT_EQ(pressed.size(), std::size(fields));
+    EXPECT_TRUE(desk.faults.empty());
 }
 
 struct Page {
