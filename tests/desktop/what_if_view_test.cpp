@@ -4,6 +4,7 @@
 
 #include <QDeadlineTimer>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
@@ -14,6 +15,7 @@
 #include "desk.h"
 #include "desktop/binding/form_window.h"
 #include "desktop/drawings/what_if_paintings.h"
+#include "desktop/views/comparison_table.h"
 #include "desktop/widgets/qt_text.h"
 #include "drawing_samples.h"
 
@@ -185,6 +187,42 @@ TEST_F(WhatIfView, PutsTheKeyboardIntoTheDesignsFieldOfALeverThatIsPressed) {
         pressed.insert(focused->objectName().toStdString());
     }
     EXPECT_EQ(pressed.size(), std::size(fields));
+    EXPECT_TRUE(desk.faults.empty());
+}
+
+TEST_F(WhatIfView, LetsAlternativesShareTheWidthAndScrollWithinTheirTable) {
+    what().click("WIMeasureOption(0)");
+    what().choose("WITabs", 4);
+    desk.shelf.frameOf(what())->resize(1000, 740);
+    const auto tableOf = [](QWidget* around) -> ComparisonTable* {
+        while (around != nullptr) {
+            if (auto* table = dynamic_cast<ComparisonTable*>(around)) return table;
+            around = around->parentWidget();
+        }
+        return nullptr;
+    };
+    ComparisonTable* table = tableOf(widget("WVHeadLabel(0)"));
+    ASSERT_NE(table, nullptr);
+    const QScrollArea* page = nullptr;
+    for (QWidget* around = table->parentWidget(); around != nullptr && page == nullptr;)
+        if ((page = dynamic_cast<QScrollArea*>(around)) == nullptr) around = around->parentWidget();
+    ASSERT_NE(page, nullptr);
+    for (int count = 1; count <= 8; ++count) {
+        SCOPED_TRACE(count);
+        idle();
+        Desk::settle();
+        EXPECT_EQ(table->columnCount(), count);
+        EXPECT_EQ(page->horizontalScrollBar()->maximum(), 0);
+        EXPECT_EQ(table->verticalScrollBar()->maximum(), 0);
+        const int beyond = table->horizontalScrollBar()->maximum();
+        EXPECT_TRUE(count <= 6 ? beyond == 0 : count < 8 || beyond > 0) << beyond;
+        for (int column = 1; column < count; ++column)
+            EXPECT_NEAR(
+                widget(elementName("WVLengthLabel", static_cast<std::size_t>(column)))->width(),
+                widget("WVLengthLabel(0)")->width(), 1);
+        what().type("WVNameText", "Twenty-five feet apart, as in spring");
+        what().click("WVKeepCommand");
+    }
     EXPECT_TRUE(desk.faults.empty());
 }
 
