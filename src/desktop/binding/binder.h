@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QTimer>
 #include <exception>
 #include <functional>
 #include <initializer_list>
@@ -202,7 +203,7 @@ class Binder : public QObject, public FormObserver {
     bool scripted_ = false;
     bool leavesByFocus_ = true;
     bool refreshDue_ = false;
-    bool lateDue_ = false;
+    QTimer lateWork_;  ///< until the next slice
     int writing_ = 0;
     int building_ = 0;
     int actions_ = 0;
