@@ -5,10 +5,13 @@
 // g-functions; the tower's 100 percents 0.2 ms and 30 ms.
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <cmath>
+#include <ctime>
 #include <numbers>
 
 #include "design/whatIf/field_method.h"
+#include "design/whatIf/layout_run.h"
 #include "design/whatIf/layout_search.h"
 #include "design/whatIf/office.h"
 #include "design/whatIf/what_if.h"
@@ -132,6 +135,50 @@ void layoutOnARectangle(benchmark::State& state) {
     state.counters["fields"] = static_cast<double>(fields);
 }
 BENCHMARK(layoutOnARectangle)->Unit(benchmark::kMillisecond);
+
+/// Steps to the end, and tells the longest step in processor time, ms.
+template <class Run>
+double longestStep(Run& run) {
+    std::clock_t longest = 0;
+    for (bool done = false; !done;) {
+        const std::clock_t from = std::clock();
+        done = run.step();
+        longest = std::max(longest, std::clock() - from);
+    }
+    return 1000.0 * static_cast<double>(longest) / CLOCKS_PER_SEC;
+}
+
+/// 10,000 ft by 10,000, whole rectangles and rows cut to the land.
+void sliceOfALargeLand(benchmark::State& state) {
+    LayoutCase theCase;
+    theCase.design = officeInputs();
+    theCase.land.across = theCase.land.down = 10'000;
+    theCase.layout.layoutKind = static_cast<std::int16_t>(state.range(0));
+    double longest = 0;
+    while (state.KeepRunning()) {
+        LayoutSearch search(theCase, {});
+        longest = std::max(longest, longestStep(search));
+    }
+    state.counters["slice_ms"] = longest;
+}
+BENCHMARK(sliceOfALargeLand)->ArgName("kind")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+/// Every page by g-functions of 120 bores, and a search for fields of up to 400.
+void sliceByGFunctions(benchmark::State& state) {
+    WhatIfCase theCase;
+    theCase.design = manyBores();
+    double ofPages = 0, ofSearch = 0;
+    while (state.KeepRunning()) {
+        WhatIfMemory memory;
+        WhatIfRun run(theCase, WhatIfWanted::everything(), memory);
+        ofPages = std::max(ofPages, longestStep(run));
+        LayoutSearch search = layoutSearchOf(theCase);
+        ofSearch = std::max(ofSearch, longestStep(search));
+    }
+    state.counters["slice_ms"] = ofPages;
+    state.counters["search_slice_ms"] = ofSearch;
+}
+BENCHMARK(sliceByGFunctions)->Unit(benchmark::kMillisecond);
 
 /// A star of 50 corners with ten triangles in it.
 LandValues crookedLand() {

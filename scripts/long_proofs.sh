@@ -54,6 +54,13 @@ opinions_at_length() {
         --gtest_filter='RandomOpinions.*'
 }
 
+what_ifs_at_length() {
+    build_preset asan test_design
+    say "What If and a search for fields for a hundred thousand random inputs under the sanitizers"
+    VARNHOLT_WHAT_IFS=100000 build/asan/bin/test_design --gtest_brief=1 \
+        --gtest_filter='RandomWhatIfs.*'
+}
+
 # What a fuzzing program starts from, and its options: fuzz_examples NAME
 fuzz_examples() {
     case $1 in
@@ -132,6 +139,7 @@ long_proofs() {
     damage_at_length
     kills_at_length
     opinions_at_length
+    what_ifs_at_length
     fuzzing_at_length
     random_users_at_length
 }

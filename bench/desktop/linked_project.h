@@ -14,11 +14,12 @@ namespace varnholt {
 /// The program with its windows, and a project on the disk that is linked to so many zones.
 class LinkedProject {
  public:
-    explicit LinkedProject(std::int64_t zones) {
+    /// @param step  by which the loads grow from one zone to the next, MBtu/hr
+    explicit LinkedProject(std::int64_t zones, double step = 1.5) {
         std::vector<Zone> rooms(static_cast<std::size_t>(zones));
         double load = 0;
         for (Zone& zone : rooms) {
-            zone.gains[1][cooling] = load += 1.5;
+            zone.gains[1][cooling] = load += step;
             zone.gains[3][heating] = load / 2;
             zone.title = "A room with a name";
             zone.pump.capacity = {load, load};

@@ -16,6 +16,14 @@ namespace varnholt {
 /// The program's own version, as files carry it: "3.0".
 inline constexpr std::string_view fileVersion = "3.0";
 
+/// A part of a file, by its name, that is there and cannot be read.
+struct UnreadPart {
+    std::string name;
+    std::size_t line = 0;  ///< where it begins, from 1
+
+    friend bool operator==(const UnreadPart&, const UnreadPart&) = default;
+};
+
 /// Reads a line-oriented text file item by item. LineFileReader and LineFileWriter have the same
 /// members, so that one function template describes a file in both directions.
 ///
@@ -77,10 +85,15 @@ class LineFileReader {
     std::string_view rest() const { return left_; }
     /// Whether something ends the line read last, or the file just stops there.
     bool isLineEnded() const { return lineEnded_; }
-    /// A part behind the body, by its name, is there but cannot be read.
-    void noteUnread(std::string_view part) { unread_ = part; }
-    /// Name of that part; empty for none.
-    const std::string& unread() const { return unread_; }
+    /// A part behind the body, by its name, begins at the next line but cannot be read.
+    void noteUnread(std::string_view part) {
+        unread_.push_back({std::string(part), lineNumber_ + 1});
+    }
+    const std::vector<UnreadPart>& unread() const { return unread_; }
+    /// From the next line on stands what nothing in the file accounts for.
+    void noteLeftover() { leftoverLine_ = lineNumber_ + 1; }
+    /// The line noted so; 0 for none.
+    std::size_t leftoverLine() const { return leftoverLine_; }
     /// Number of the line read last, from 1; 0 before the first.
     std::size_t lineNumber() const { return lineNumber_; }
 
@@ -103,7 +116,8 @@ class LineFileReader {
     std::size_t statedCount_ = 0;
     double version_ = 0;
     bool lineEnded_ = false;
-    std::string unread_;
+    std::vector<UnreadPart> unread_;
+    std::size_t leftoverLine_ = 0;
 };
 
 /// Composes a line-oriented text file in memory.

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
+#include <vector>
 
 #include "basis/line_file.h"
 #include "basis/run_time_error.h"
@@ -14,17 +14,17 @@ enum class Entries { zones, pumps, manufacturers };
 
 /// How the reading of a file went, for a window to tell.
 struct ReadingReport {
-    int error = 0;            ///< number of the RunTimeError that ended the reading; 0 for none
-    std::size_t line = 0;     ///< the line read last, from 1
-    bool leftover = false;    ///< lines follow that nothing in the file accounts for
-    std::string unread;       ///< a part behind the body that is there and cannot be read
-    std::size_t stated = 0;   ///< entries of its list, such as zones, by the file's own word
-    std::size_t found = 0;    ///< how many of them could be read whole
-    std::size_t leftOut = 0;  ///< how many are beyond what the program counts
+    int error = 0;          ///< number of the RunTimeError that ended the reading; 0 for none
+    std::size_t line = 0;   ///< the line read last, from 1
+    bool leftover = false;  ///< lines follow that nothing in the file accounts for
+    std::vector<UnreadPart> unread;  ///< parts behind the body that cannot be read
+    std::size_t stated = 0;          ///< entries of its list, such as zones, by the file's own word
+    std::size_t found = 0;           ///< how many of them could be read whole
+    std::size_t leftOut = 0;         ///< how many are beyond what the program counts
     Entries entries = Entries::zones;
 
     /// Everything that the file holds has been read.
-    bool isWhole() const { return error == 0 && !leftover && leftOut == 0; }
+    bool isWhole() const { return error == 0 && !leftover && unread.empty() && leftOut == 0; }
 };
 
 /// Reads, and fills the report, which may be null. What the reading throws is thrown on.
@@ -36,10 +36,11 @@ void reportReading(const LineFileReader& file, ReadingReport* report, const Read
         if (report != nullptr) report->error = error.number(), report->line = file.lineNumber();
         throw;
     }
-    if (report == nullptr || !file.holdsMore()) return;
-    report->leftover = true;
+    if (report == nullptr) return;
     report->unread = file.unread();
-    report->line = file.lineNumber() + 1;
+    report->leftover = file.leftoverLine() != 0 || file.holdsMore();
+    if (report->leftover)
+        report->line = file.leftoverLine() != 0 ? file.leftoverLine() : file.lineNumber() + 1;
 }
 
 }  // namespace varnholt

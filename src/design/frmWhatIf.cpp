@@ -142,7 +142,9 @@ bool frmWhatIf::workLate(bool whole) {
     const bool found = late_.advance(presentCase(), wantedByPage(), whole);
     const bool searched = found || whole ? finder_.advance(whole) : !finder_.isRunning();
     const bool done = found && searched;
-    if (done || revision != late_.revision() || list != finder_.revision()) showFigures();
+    const bool more = revision != late_.revision() || list != finder_.revision();
+    if (done || more) showFigures();
+    if (more && !done) tellOfMore();
     return done;
 }
 

@@ -33,6 +33,7 @@ class frmWhatIf : public ChildWindow {
     UnitSystem units() const override;
     void actionBegins() override;
     void actionDone() override;
+    void windowsChanged() override { fallBehind(); }
     std::string descriptionOf(const std::string& image) const override;
 
     /// The design has switched its units.

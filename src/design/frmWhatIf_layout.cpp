@@ -15,6 +15,19 @@ constexpr const char* searchFrame = "WLSearchFrame";
 constexpr const char* fieldsFrame = "WLFieldsFrame";
 constexpr const char* layoutHelp = "layout";
 
+/// What of the second opinion's window the size of a field comes from: not what that window shows,
+/// nor the months of a shape that is not chosen.
+SecondOpinionInputs sizingInputs(SecondOpinionInputs window) {
+    const SecondOpinionInputs builtIn;
+    window.yearsShown = builtIn.yearsShown;
+    window.depthChoice = builtIn.depthChoice;
+    window.typedDepth = builtIn.typedDepth;
+    if (window.shape == typedYear) return window;
+    window.monthEnergy = builtIn.monthEnergy;
+    window.monthTop = builtIn.monthTop;
+    return window;
+}
+
 }  // namespace
 
 void frmWhatIf::addLayout() {
@@ -85,9 +98,13 @@ WhatIfCase frmWhatIf::layoutQuestion() const {
     asked.land = inputs().land;
     asked.layout = inputs().layout;
     asked.prices = inputs().prices;
-    return {
-        {}, std::move(now.design), std::move(asked), std::move(now.window), std::move(now.imported),
-        {}};
+    if (now.window.shape != importedYear) now.imported.reset();
+    return {{},
+            std::move(now.design),
+            std::move(asked),
+            sizingInputs(now.window),
+            std::move(now.imported),
+            {}};
 }
 
 /// Where nobody goes on with the work between two actions, the search ends with its own.

@@ -304,6 +304,10 @@ void Form::fallBehind() {
     tellObservers([this](FormObserver& observer) { observer.fellBehind(*this); });
 }
 
+void Form::tellOfMore() {
+    tellObservers([this](FormObserver& observer) { observer.foundMore(*this); });
+}
+
 bool Form::hasIdleTime() const {
     return std::any_of(observers_.begin(), observers_.end(), [](const FormObserver* observer) {
         return observer != nullptr && observer->worksBetweenActions();

@@ -32,6 +32,8 @@ class FormObserver : public ControlObserver {
     /// Figures that are found late are due: whoever shows them has the form find them, when there
     /// is nothing else to do.
     virtual void fellBehind(Form&) {}
+    /// Some of them have been found and are shown, and more are to come: pictures may follow.
+    virtual void foundMore(Form&) {}
     /// Whether the observer goes on with late work between two actions of the user.
     virtual bool worksBetweenActions() const { return false; }
 
@@ -179,6 +181,8 @@ class Form {
     virtual void actionEnds(const UserAction&) {}
     /// What the late figures come from may have changed.
     void fallBehind();
+    /// Part of the late figures is shown.
+    void tellOfMore();
     /// Whether somebody goes on with late work between two actions; else what an action starts has
     /// to end with it.
     bool hasIdleTime() const;

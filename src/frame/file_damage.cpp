@@ -32,10 +32,9 @@ int nameOf(FileKind kind) {
 /// Where the reading ended, and why.
 std::string endOfReading(const Texts& texts, const ReadingReport& report) {
     constexpr int overflow = 6, inputPastEnd = 62;
-    if (!report.unread.empty())
-        return filledIn(texts.text(Text::noticeUnreadPart),
-                        {report.unread, std::to_string(report.line)});
-    if (report.leftover)
+    // The lines of a part that cannot be read are left over with it.
+    const bool ofPart = !report.unread.empty() && report.unread.back().line == report.line;
+    if (report.leftover && !ofPart)
         return filledIn(texts.text(Text::noticeLeftoverLines), {std::to_string(report.line)});
     if (report.error == inputPastEnd)
         return filledIn(texts.text(Text::noticeEndsAtLine), {std::to_string(report.line)});
@@ -68,6 +67,9 @@ std::string damageText(const Texts& texts, const FileDamage& damage) {
     const auto append = [&](const std::string& sentence) {
         if (!sentence.empty()) told += " " + sentence;
     };
+    for (const UnreadPart& part : report.unread)
+        append(
+            filledIn(texts.text(Text::noticeUnreadPart), {part.name, std::to_string(part.line)}));
     append(endOfReading(texts, report));
     if (report.stated != report.found && report.leftOut == 0)
         append(filledIn(texts.text(wordsFor(report.entries)),

@@ -16,7 +16,8 @@ void describeSecondOpinion(LineFileWriter& file, const SecondOpinionInputs& valu
 
 /// Reads the block whole, or leaves the file before it with the defaults in the values: where there
 /// is none, where it is of a newer version, cut, or holds what is no value of it. The file then
-/// names the block as unread, as far as its title can be told.
+/// names the block as unread, as far as its title can be told. What stands behind it is not harmed:
+/// it is found by a title of its own.
 void describeSecondOpinion(LineFileReader& file, SecondOpinionInputs& values);
 
 }  // namespace varnholt

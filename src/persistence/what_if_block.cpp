@@ -185,6 +185,22 @@ class BlockReader {
     WhatIfInputs values_;
 };
 
+/// How many lines stand before the block; none where there is no block.
+std::optional<std::size_t> linesBefore(std::string_view text) {
+    if (whatIfTitle.begins(text)) return 0;
+    for (LineFileReader file(text); !file.atEnd();)
+        if (file.line().starts_with(whatIfTitle.name)) return file.lineNumber() - 1;
+    return std::nullopt;
+}
+
+/// Goes on to the block. What is passed over is left over, but for what has been named as unread.
+void passTo(LineFileReader& file, std::size_t lines) {
+    const auto& unread = file.unread();
+    const bool named = !unread.empty() && unread.back().line == file.lineNumber() + 1;
+    if (lines > 0 && !named) file.noteLeftover();
+    file.skipLines(lines);
+}
+
 }  // namespace
 
 void describeWhatIf(LineFileWriter& file, const WhatIfInputs& values) {
@@ -201,7 +217,10 @@ void describeWhatIf(LineFileWriter& file, const WhatIfInputs& values) {
 
 void describeWhatIf(LineFileReader& file, WhatIfInputs& values) {
     values = {};
-    if (!file.holdsMore() || !whatIfTitle.begins(file.rest())) return;
+    if (!file.holdsMore()) return;
+    const std::optional<std::size_t> before = linesBefore(file.rest());
+    if (!before) return;
+    passTo(file, *before);
     BlockReader block(file.rest());
     try {
         values = block.read();

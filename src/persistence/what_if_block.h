@@ -18,6 +18,10 @@ void describeWhatIf(LineFileWriter& file, const WhatIfInputs& values);
 /// is none, where it is of a newer version, cut, or holds what is no value of it. The file then
 /// names the block as unread, as far as its title can be told. Lines whose names are unknown are
 /// kept, and written again.
+///
+/// Lines that stand before its title and that nobody has read, such as a block of the second
+/// opinion that is damaged, are passed over. Where no unread part begins with them, the file notes
+/// them as left over.
 void describeWhatIf(LineFileReader& file, WhatIfInputs& values);
 
 }  // namespace varnholt

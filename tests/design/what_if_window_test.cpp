@@ -2,6 +2,7 @@
 // The window of What If: its life, its fields, what belongs to its design.
 #include <cmath>
 #include <iterator>
+#include <set>
 
 #include "basis/number_text.h"
 #include "design/whatIf/what_if_values.h"
@@ -263,6 +264,105 @@ TEST_F(WhatIfWindow, SaysWhenInputsHaveChangedSinceTheSearch) {
     EXPECT_EQ(held("layoutCount"), 20);
     enter("WLMostDepthText", "400");
     EXPECT_EQ(captioned("WLStateLabel"), "");
+}
+
+TEST_F(WhatIfWindow, SaysSoWhateverTheSearchCameFromHasChanged) {
+    const std::string text = texts.text(Text::whatIfInputsChanged);
+    enter("WLStepText", "5");
+    what->click("WLSearchCommand");
+    design->click("CASecondOpinionCommand");
+    ChildWindow& opinion = *main.find("frmSecondOpinion");
+    const struct {
+        ChildWindow* window;
+        const char *field, *typed;
+    } changes[] = {{design, "FLInletTempText(0)", "88"}, {design, "FLFlowRateText", "2.7"},
+                   {design, "SOGroundTempText", "59"},   {design, "SOThermalConductivityText", "1"},
+                   {design, "PATimeText", "15"},         {what, "WLAcrossText", "280"},
+                   {what, "WLBoundaryText", "11"},       {what, "WLFromText", "16"},
+                   {what, "WLMarginText", "5"},          {what, "WLMostText", "300"},
+                   {what, "WCFootText", "15"},           {what, "WCTrenchText", "0"},
+                   {&opinion, "SEPulseText", "6"},       {&opinion, "SEBuriedDepthText", "5"}};
+    for (const auto& each : changes) {
+        SCOPED_TRACE(each.field);
+        each.window->type(each.field, each.typed);
+        each.window->leave(each.field);
+        EXPECT_EQ(captioned("WLStateLabel"), text);
+        design->undo();
+        EXPECT_EQ(captioned("WLStateLabel"), "");
+    }
+    for (const char* option : {"WLKindOption(1)", "WIMeasureOption(1)"}) {
+        SCOPED_TRACE(option);
+        what->click(option);
+        EXPECT_EQ(captioned("WLStateLabel"), text);
+        design->undo();
+        EXPECT_EQ(captioned("WLStateLabel"), "");
+    }
+    platform.clipboardText = "0\t0\n300\t0\n300\t190\n0\t200\n";
+    what->click("WLPasteCommand");
+    EXPECT_EQ(captioned("WLStateLabel"), text);
+    what->click("WLRectangleCommand");
+    EXPECT_EQ(captioned("WLStateLabel"), "");
+    takeZones(handCheckZones());
+    EXPECT_EQ(captioned("WLStateLabel"), text);
+}
+
+TEST_F(WhatIfWindow, SaysNothingOfInputsThatTheSearchDoesNotComeFrom) {
+    enter("WLStepText", "5");
+    what->click("WLSearchCommand");
+    design->click("CASecondOpinionCommand");
+    ChildWindow& opinion = *main.find("frmSecondOpinion");
+    typeAndLeave("PAPatternRowsText(0)", "9");
+    typeAndLeave("PASeparationText", "17");
+    typeAndLeave("INProjectNameText", "School");
+    enter("WILowText(0)", "33");
+    enter("WIDepthText", "250");
+    opinion.type("SEYearsText", "30");
+    opinion.type("SEDepthText", "300");
+    EXPECT_EQ(captioned("WLStateLabel"), "");
+}
+
+TEST_F(WhatIfWindow, FollowsWindowsThatComeAndGo) {
+    what->choose("WITabs", 4);
+    EXPECT_EQ(captioned("WVHeadLabel(1)"), "");
+    main.click("NewBorehole");
+    ChildWindow& other = *main.activeWindow();
+    EXPECT_EQ(captioned("WVHeadLabel(1)"), other.caption());
+    main.close(other);
+    EXPECT_TRUE(what->isBehind());
+    EXPECT_EQ(captioned("WVHeadLabel(1)"), "");
+}
+
+/// The field that the keyboard was sent to last.
+class Focus : public FormObserver {
+ public:
+    explicit Focus(Form& form) { form.addObserver(this); }
+
+    void propertyChanged(Control& control, Property property) override {
+        if (property == Property::focus) field = control.name();
+    }
+    void captionChanged(Form&) override {}
+    void settled(Form&) override {}
+
+    std::string field;
+};
+
+TEST_F(WhatIfWindow, PutsTheFieldOfALeverInFocusInItsDesign) {
+    what->catchUp();
+    const Focus focus(*design);
+    std::set<std::string> pointed;
+    for (std::size_t bar = 0; bar < what->tornadoPicture().bars.size(); ++bar) {
+        const TornadoPicture::Bar of = what->tornadoPicture().bars[bar];
+        if (!of.lever) continue;
+        main.activate(*what);
+        what->pointAtBar(bar);
+        EXPECT_EQ(main.activeWindow(), design);
+        // Limits of the fluid and its flow, distance and years.
+        constexpr const char* fields[] = {"FLInletTempText(0)", "FLInletTempText(1)",
+                                          "PASeparationText", "PATimeText", "FLFlowRateText"};
+        EXPECT_EQ(focus.field, fields[of.index]);
+        pointed.insert(fields[of.index]);
+    }
+    EXPECT_EQ(pointed.size(), 5U);
 }
 
 TEST_F(WhatIfWindow, CopiesTheBoresOfTheChosenField) {

@@ -4,14 +4,18 @@
 
 #include <QDeadlineTimer>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
+#include <set>
 
 #include "design/frmBHDesign.h"
 #include "design/frmWhatIf.h"
 #include "desk.h"
 #include "desktop/binding/form_window.h"
 #include "desktop/drawings/what_if_paintings.h"
+#include "desktop/views/comparison_table.h"
 #include "desktop/widgets/qt_text.h"
 #include "drawing_samples.h"
 
@@ -84,6 +88,47 @@ TEST_F(WhatIfView, SearchesWhileNobodyTypesAndStopsAtASecondPress) {
     EXPECT_TRUE(desk.faults.empty());
 }
 
+/// Counts how often a widget is painted.
+class Paints : public QObject {
+ public:
+    explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
+    int count = 0;
+
+ protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) ++count;
+        return false;
+    }
+};
+
+/// Sets of cases and fields of bores are drawn as they are found, and not at the end alone.
+TEST_F(WhatIfView, DrawsWhatHasBeenFoundSoFar) {
+    idle();
+    struct Asked {
+        int page;
+        const char *image, *command;
+    };
+    for (const auto& [page, image, command] :
+         {Asked{1, "imgSure", "WIMeasureOption(1)"}, Asked{2, "imgFields", "WLSearchCommand"}}) {
+        SCOPED_TRACE(image);
+        what().choose("WITabs", page);
+        idle();
+        what().type("WIDepthText", "300");
+        what().click(command);
+        QWidget* picture = widget(image);
+        const Paints paints(*picture);
+        std::set<QString> told;
+        const QDeadlineTimer patience(60'000);
+        while (what().isBehind() && !patience.hasExpired()) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+            if (what().isBehind() && paints.count > 0)
+                told.insert(picture->accessibleDescription());
+        }
+        EXPECT_GT(paints.count, 2);
+        EXPECT_GT(told.size(), 1U);
+    }
+}
+
 TEST_F(WhatIfView, IsWalkedInTheOrderOfItsForm) {
     FormWindow window(what(), views.maker(), {});
     window.binder().buildAll();
@@ -113,6 +158,72 @@ TEST_F(WhatIfView, PutsTheKeyboardIntoTheFieldOfABarThatIsPressed) {
     const QWidget* focused = desk.shelf.windowOf(what())->focusWidget();
     ASSERT_NE(focused, nullptr);
     EXPECT_EQ(focused->objectName().toStdString(), "WILowText(" + std::to_string(longest) + ")");
+}
+
+TEST_F(WhatIfView, PutsTheKeyboardIntoTheDesignsFieldOfALeverThatIsPressed) {
+    what().click("WIMeasureOption(0)");
+    idle();
+    QWidget* tornado = widget("imgTornado");
+    tornado->repaint();
+    std::vector<QRectF> rows;
+    const auto paint = [&](const Canvas& canvas) {
+        rows = paintTornado(canvas, what().tornadoPicture(), what().texts());
+    };
+    renderedSample({"tornado", tornado->size(), paint}, lightLook(), 1);
+    const auto bars = what().tornadoPicture().bars;
+    ASSERT_EQ(rows.size(), bars.size());
+    constexpr const char* fields[] = {"FLInletTempText(0)", "FLInletTempText(1)",
+                                      "PASeparationText", "PATimeText", "FLFlowRateText"};
+    std::set<std::string> pressed;
+    for (std::size_t bar = 0; bar < bars.size(); ++bar) {
+        if (!bars[bar].lever) continue;
+        desk.main().activate(what());
+        press(tornado, rows[bar].center());
+        EXPECT_EQ(desk.main().activeWindow(), &design());
+        const QWidget* focused = desk.shelf.windowOf(design())->focusWidget();
+        ASSERT_NE(focused, nullptr);
+        EXPECT_EQ(focused->objectName().toStdString(), fields[bars[bar].index]);
+        EXPECT_TRUE(focused->isVisible());
+        pressed.insert(focused->objectName().toStdString());
+    }
+    EXPECT_EQ(pressed.size(), std::size(fields));
+    EXPECT_TRUE(desk.faults.empty());
+}
+
+TEST_F(WhatIfView, LetsAlternativesShareTheWidthAndScrollWithinTheirTable) {
+    what().click("WIMeasureOption(0)");
+    what().choose("WITabs", 4);
+    desk.shelf.frameOf(what())->resize(1000, 740);
+    const auto tableOf = [](QWidget* around) -> ComparisonTable* {
+        while (around != nullptr) {
+            if (auto* table = dynamic_cast<ComparisonTable*>(around)) return table;
+            around = around->parentWidget();
+        }
+        return nullptr;
+    };
+    ComparisonTable* table = tableOf(widget("WVHeadLabel(0)"));
+    ASSERT_NE(table, nullptr);
+    const QScrollArea* page = nullptr;
+    for (QWidget* around = table->parentWidget(); around != nullptr && page == nullptr;)
+        if ((page = dynamic_cast<QScrollArea*>(around)) == nullptr) around = around->parentWidget();
+    ASSERT_NE(page, nullptr);
+    for (int count = 1; count <= 8; ++count) {
+        SCOPED_TRACE(count);
+        idle();
+        Desk::settle();
+        EXPECT_EQ(table->columnCount(), count);
+        EXPECT_EQ(page->horizontalScrollBar()->maximum(), 0);
+        EXPECT_EQ(table->verticalScrollBar()->maximum(), 0);
+        const int beyond = table->horizontalScrollBar()->maximum();
+        EXPECT_TRUE(count <= 6 ? beyond == 0 : count < 8 || beyond > 0) << beyond;
+        for (int column = 1; column < count; ++column)
+            EXPECT_NEAR(
+                widget(elementName("WVLengthLabel", static_cast<std::size_t>(column)))->width(),
+                widget("WVLengthLabel(0)")->width(), 1);
+        what().type("WVNameText", "Twenty-five feet apart, as in spring");
+        what().click("WVKeepCommand");
+    }
+    EXPECT_TRUE(desk.faults.empty());
 }
 
 struct Page {

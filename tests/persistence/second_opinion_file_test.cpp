@@ -126,7 +126,10 @@ TEST_F(SecondOpinionFile, TakesTheDefaultsWhereverItIsCut) {
         EXPECT_EQ(into.project().secondOpinion,
                   complete ? unusualOpinion() : SecondOpinionInputs{});
         EXPECT_EQ(report.isWhole(), without || complete);
-        EXPECT_EQ(report.unread, without || complete ? "" : "Second Opinion");
+        const std::size_t lines =
+            static_cast<std::size_t>(std::count(plain.begin(), plain.end(), '\n'));
+        const std::vector<UnreadPart> cut{{"Second Opinion", lines + 1}};
+        EXPECT_EQ(report.unread, without || complete ? std::vector<UnreadPart>{} : cut);
         EXPECT_EQ(into.project().arrangement, BoreholeProject{}.arrangement);
     }
 }
@@ -171,6 +174,49 @@ TEST_F(SecondOpinionFile, TellsADamagedOrANewerBlockAndSavesItUnderAnotherName) 
         closeAll();
         std::filesystem::remove(folder / "work files/other.vht");
     }
+}
+
+/// What a designer asks of a length stands behind it, under a title of its own.
+TEST_F(SecondOpinionFile, LeavesTheBlockBehindItUnharmedWhereItIsDamaged) {
+    const std::string behind = "What If 1.0\r\ncostFoot 15\r\nEnd\r\n";
+    std::string text = whole + behind;
+    text.replace(text.find("\r\n6.5\r\n", plain.size()), 7, "\r\nabc\r\n");
+    frmBHDesign& opened = openText(text);
+    EXPECT_EQ(opened.project().secondOpinion, SecondOpinionInputs{});
+    EXPECT_EQ(opened.project().whatIf.prices.costFoot, 15);
+    const auto line = std::count(plain.begin(), plain.end(), '\n') + 1;
+    EXPECT_NE(notice().find("Part Second Opinion from line " + std::to_string(line) + "."),
+              std::string::npos)
+        << notice();
+    EXPECT_EQ(notice().find("What If"), std::string::npos) << notice();
+    EXPECT_EQ(notice().find("More from line"), std::string::npos) << notice();
+    EXPECT_TRUE(opened.savesUnderNewName());
+    pick("work files/other.vht");
+    main.click("mnuFileSave");
+    EXPECT_EQ(bytes("work files/opinion.vht"), text);
+    EXPECT_EQ(bytes("work files/other.vht"), plain + behind);
+    EXPECT_EQ(messages(), 0U);
+}
+
+TEST_F(SecondOpinionFile, TellsEachBlockThatIsDamaged) {
+    openText(plain + "Second Opinion 2.0\r\nclay\r\nWhat If 1.0\r\ncostFoot\r\nEnd\r\nmore\r\n");
+    const auto line = std::count(plain.begin(), plain.end(), '\n') + 1;
+    EXPECT_NE(notice().find("Part Second Opinion from line " + std::to_string(line) + "."),
+              std::string::npos)
+        << notice();
+    EXPECT_NE(notice().find("Part What If from line " + std::to_string(line + 2) + "."),
+              std::string::npos)
+        << notice();
+    EXPECT_EQ(notice().find("More from line"), std::string::npos) << notice();
+}
+
+TEST_F(SecondOpinionFile, TellsLinesBehindTheBlocksBesideADamagedOne) {
+    openText(plain + "Second Opinion 2.0\r\nWhat If 1.0\r\ncostFoot 15\r\nEnd\r\nmore\r\n");
+    const auto line = std::count(plain.begin(), plain.end(), '\n') + 1;
+    EXPECT_NE(notice().find("Part Second Opinion"), std::string::npos) << notice();
+    EXPECT_NE(notice().find("More from line " + std::to_string(line + 4) + " on."),
+              std::string::npos)
+        << notice();
 }
 
 TEST_F(SecondOpinionFile, TellsLinesBehindItAsBehindAnyBody) {

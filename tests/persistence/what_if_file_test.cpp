@@ -70,17 +70,20 @@ std::string whatIfBlock(const WhatIfInputs& inputs) {
 /// A reading of a file that ends in some text.
 struct Read {
     BoreholeProject project;
-    std::string unread;
+    std::string unread;  ///< names of the parts, joined
     bool leftover = false;
+    bool whole = false;
 };
 
 Read readText(const std::string& text, BoreholeProject project = {}) {
-    Read read{std::move(project), "", false};
+    Read read{std::move(project), "", false, false};
     ReadingReport report;
     LineFileReader file(text);
     reportReading(file, &report, [&] { describeFile(file, read.project); });
-    read.unread = report.unread;
+    for (const UnreadPart& part : report.unread)
+        read.unread += (read.unread.empty() ? "" : ", ") + part.name;
     read.leftover = report.leftover;
+    read.whole = report.isWhole();
     return read;
 }
 
@@ -139,6 +142,43 @@ TEST(WhatIfBlock, StandsBehindTheSecondOpinionOrAlone) {
     const Read alone = readWith(whatIfBlock(unusualWhatIf()));
     EXPECT_EQ(alone.project.secondOpinion, SecondOpinionInputs{});
     EXPECT_FALSE(alone.leftover);
+}
+
+/// The second opinion's block is cut after each of its bytes, from a part of its title up to the
+/// last of its lines.
+TEST(WhatIfBlock, StandsBehindWhateverIsLeftOfTheSecondOpinion) {
+    BoreholeProject other;
+    other.secondOpinion.buriedDepth = 9;
+    const std::string opinion = textOf(other).substr(without.size());
+    const std::string block = blockOf(unusual());
+    const std::size_t lastLine = opinion.rfind('\n', opinion.size() - 2) + 1;
+    for (std::size_t length = 1; length <= lastLine; ++length) {
+        const Read read = readWith(opinion.substr(0, length) + "\r\n" + block);
+        ASSERT_EQ(read.project.whatIf, unusual()) << length;
+        ASSERT_EQ(read.project.secondOpinion, SecondOpinionInputs{}) << length;
+        ASSERT_EQ(read.unread, "Second Opinion") << length;
+        ASSERT_FALSE(read.leftover) << length;
+        ASSERT_FALSE(read.whole) << length;
+    }
+    // All of it but the end of its last line.
+    const Read whole = readWith(opinion.substr(0, opinion.size() - 2) + "\r\n" + block);
+    EXPECT_EQ(whole.project.secondOpinion.buriedDepth, 9);
+    EXPECT_TRUE(whole.whole);
+}
+
+TEST(WhatIfBlock, IsReadBehindLinesThatBelongToNothingAndTellsThem) {
+    const Read read = readWith("stray\r\nlines\r\n" + blockOf(unusual()));
+    EXPECT_EQ(read.project.whatIf, unusual());
+    EXPECT_EQ(read.unread, "");
+    EXPECT_TRUE(read.leftover);
+    EXPECT_FALSE(read.whole);
+}
+
+TEST(WhatIfBlock, IsNamedWithTheSecondOpinionWhereBothAreOfAnotherVersion) {
+    const Read read = readWith("Second Opinion 1.1\r\n4\r\nWhat If 1.1\r\nEnd\r\n");
+    EXPECT_EQ(read.unread, "Second Opinion, What If");
+    EXPECT_EQ(read.project.whatIf, WhatIfInputs{});
+    EXPECT_FALSE(read.whole);
 }
 
 TEST(WhatIfBlock, LeavesWhatIsBuiltInToAProjectWithoutIt) {

@@ -133,10 +133,22 @@ std::optional<double> FieldCase::depthAskedFor(Mode mode, double depth) {
 }
 
 std::optional<double> FieldCase::length(Mode mode, double startDepth) {
+    const std::optional<double> settled = settledLength(mode, startDepth, greatestOpinionDepth);
+    if (settled && *settled > greatestOpinionDepth * (1 + caseTolerance) * terms_.bores)
+        return noLength;
+    return settled;
+}
+
+std::optional<double> FieldCase::lengthHoweverDeep(Mode mode, double startDepth) {
+    return settledLength(mode, startDepth, GTable::depthOfRung(GTable::rungCount - 1));
+}
+
+/// The length at which g-functions of its own depth ask for it; of the deepest, where that is less.
+std::optional<double> FieldCase::settledLength(Mode mode, double startDepth, double deepest) {
     if (!terms_.year.hasMonths(mode)) return 0;
     if (!(signOf(mode) * terms_.limitDifference(mode) > 0)) return noLength;
-    const auto held = [](double depth) {
-        return std::clamp(depth, leastOpinionDepth, greatestOpinionDepth);
+    const auto held = [deepest](double depth) {
+        return std::clamp(depth, leastOpinionDepth, deepest);
     };
     double before = held(startDepth);
     std::optional<double> asked = depthAskedFor(mode, before);
@@ -153,8 +165,7 @@ std::optional<double> FieldCase::length(Mode mode, double startDepth) {
         // What a depth asks for grows by less than the depth itself, so the slope is below 0.
         depth = held(slope < -0.1 ? depth - excess / slope : *asked);
     }
-    if (!std::isfinite(*asked) || *asked > greatestOpinionDepth * (1 + caseTolerance))
-        return noLength;
+    if (!std::isfinite(*asked)) return noLength;
     return std::max(0.0, *asked * terms_.bores);
 }
 

@@ -43,6 +43,10 @@ class FieldCase {
     /// holds its limit. None while a g-function is missing.
     /// @param startDepth  a guess, ft
     std::optional<double> length(Mode mode, double startDepth);
+    /// The same, but as deep as it takes: where no depth up to the greatest holds the limit, that
+    /// of deeper bores, and of those that no table reaches by the g-functions of the deepest it
+    /// has.
+    std::optional<double> lengthHoweverDeep(Mode mode, double startDepth);
     /// Mean fluid at the end of the month that is hardest for a mode, at a length of all bores,
     /// degF. None while a g-function is missing.
     std::optional<double> hardestFluid(Mode mode, double length);
@@ -57,6 +61,7 @@ class FieldCase {
     bool readAt(double depth);
     double greatestHeat(Mode mode) const;
     std::optional<double> depthAskedFor(Mode mode, double depth);
+    std::optional<double> settledLength(Mode mode, double startDepth, double deepest);
 
     const secondOpinion::FieldTerms& terms_;
     GTable& table_;

@@ -119,7 +119,7 @@ std::optional<double> FieldSizer::need(const std::vector<BorePosition>& bores, d
     FieldCase fieldCase(terms, *table_, 1, quickReading);
     double need = 0;
     for (Mode m : modes) {
-        const auto length = fieldCase.length(m, startDepth);
+        const auto length = fieldCase.lengthHoweverDeep(m, startDepth);
         if (!length) return std::nullopt;
         need = std::max(need, *length);
     }

@@ -44,8 +44,8 @@ class FieldSizer {
  public:
     FieldSizer(OpinionSettings settings, const BoreholeInputs& design);
 
-    /// ft; noLength where there is none. None while a g-function is missing: asked again, it works
-    /// on that for some milliseconds.
+    /// ft, however deep the bores would have to be; noLength where there is none. None while a
+    /// g-function is missing: asked again, it works on that for some milliseconds.
     /// @param separation  of the bores, at the least, ft
     /// @param startDepth  a guess, ft
     std::optional<double> need(const std::vector<secondOpinion::BorePosition>& bores,

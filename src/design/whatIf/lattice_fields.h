@@ -3,11 +3,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <vector>
 
 #include "design/whatIf/land.h"
-#include "design/whatIf/what_if_inputs.h"
 
 namespace varnholt {
 
@@ -30,6 +28,8 @@ struct LatticeField {
     bool isWhole() const { return bores == rows * columns; }
     friend bool operator==(const LatticeField&, const LatticeField&) = default;
 };
+
+constexpr int latticeQuarters = 4;  ///< of the separation, by which lattices are moved
 
 /// Places of a field's bores, ft: row by row of least y first, of least x first in each.
 std::vector<Point> boresOf(const Land& land, const LatticeField& field);
@@ -54,6 +54,8 @@ class Lattice {
     /// @param quartersX,quartersY  of the separation, by which the lattice is moved, 0 to 3
     Lattice(const Land& land, double separation, int quartersX, int quartersY);
 
+    /// It has more places than are ever laid.
+    bool isTooLarge() const;
     std::size_t across() const { return across_; }
     std::size_t down() const { return down_; }
     /// Lays one more row. Nothing may be asked before `isLaid`.
@@ -65,9 +67,6 @@ class Lattice {
     std::size_t countIn(const Window& window) const;
     bool hasPlace() const { return countIn({0, 0, across_, down_}) > 0; }
 
-    /// The window of a shape with most allowed places, of equal ones that of least y, then of least
-    /// x. None where the shape is larger than the lattice.
-    std::optional<Window> bestWindow(std::size_t rows, std::size_t columns) const;
     /// Whether the outer rows and columns of a window all have an allowed place.
     bool fillsEdges(const Window& window) const;
     LatticeField fieldOf(const Window& window) const;
@@ -75,55 +74,33 @@ class Lattice {
     double weightIn(const Window& window) const;
 
  private:
+    /// Calls the function with each allowed place, without a look at what is empty.
+    template <class Take>
+    void forEachAllowed(const Window& window, const Take& take) const;
+
     double separation_;
     Point origin_;
     std::size_t across_ = 0, down_ = 0, laid_ = 0;
     std::vector<std::uint32_t> sums_;  ///< of allowed places left of and below a corner
 };
 
-/// Finds the fields that a land allows, in slices.
-///
-/// Lattices lie along the axes, for each separation, moved by quarters of it in x (outer) and y
-/// (inner). Of the offsets that give a shape the first with most bores is kept; of a full rectangle
-/// and its mirror image the one with more rows across, where it fits. More than `mostShapes`
-/// windows are never tried: the step between separations is doubled until they are fewer.
-class FieldFinder {
+/// Looks for the window of a shape with most allowed places, of equal ones that of least y, then of
+/// least x. It tries the windows of one row after the other, so that a large land takes slices.
+class WindowSearch {
  public:
-    /// @param layout  within the limits of its fields
-    FieldFinder(Land land, const LayoutValues& layout);
+    WindowSearch(std::size_t rows, std::size_t columns) : best_{0, 0, rows, columns} {}
 
-    /// Some rows of places, or of shapes. True when all is done.
-    bool step();
-    /// Once done, in the order of separation, rows, columns.
-    const std::vector<LatticeField>& fields() const { return fields_; }
-    bool hasPlace() const { return hasPlace_; }  ///< for one bore
-    double spacingStep() const { return spacingStep_; }
-    /// Even one separation has more shapes than are tried.
-    bool tooManyShapes() const { return tooMany_; }
-
-    static constexpr std::size_t mostShapes = 200'000;
+    /// @param lattice  the same each time, laid; the shape fits in it
+    /// @return windows that were tried
+    std::size_t tryRow(const Lattice& lattice);
+    bool isDone() const { return done_; }
+    const Lattice::Window& best() const { return best_; }
+    std::size_t mostPlaces() const { return most_; }  ///< in it
 
  private:
-    double separation() const;
-    void startLattice();
-    void tryRow();
-    void nextLattice();
-    void closeSeparation();
-    void startAgain();
-
-    Land land_;
-    LayoutValues layout_;
-    double spacingStep_;
-    std::size_t index_ = 0;  ///< of the separation
-    int offset_ = 0;         ///< 0 to 15
-    std::optional<Lattice> lattice_;
-    std::size_t rows_ = 0;  ///< of the shapes tried last
-    std::size_t shapes_ = 0;
-    bool hasPlace_ = false, tooMany_ = false, done_ = false;
-    /// The best field of each shape at this separation, by rows less one, then columns less one.
-    std::vector<LatticeField> best_;
-    std::size_t bestDown_ = 0;
-    std::vector<LatticeField> fields_;
+    Lattice::Window best_;
+    std::size_t next_ = 0, most_ = 0;
+    bool done_ = false;
 };
 
 }  // namespace varnholt

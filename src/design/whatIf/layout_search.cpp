@@ -3,10 +3,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <tuple>
+#include <utility>
 
 #include "basis/run_time_error.h"
 #include "design/modCalculations/heat_pulses.h"
+#include "design/secondOpinion/second_opinion.h"
 #include "design/whatIf/cost.h"
 #include "design/whatIf/land.h"
 #include "forms/text_numbers.h"
@@ -16,26 +17,25 @@ namespace {
 
 constexpr int mostComputed = 60;
 constexpr int mostFruitless = 12;
-
-/// How unlike two fields are: by size, proportions and separation. Never 0, so that a ratio of the
-/// very same kind of field does not silence all others.
-double distanceSquared(const LatticeField& a, const LatticeField& b) {
-    constexpr double ofShape = 0.3, separationScale = 6, least = 0.001;
-    const auto log = [](std::size_t n) { return std::log(static_cast<double>(n)); };
-    const double size = log(a.bores) - log(b.bores);
-    const double shape = (log(a.rows) - log(a.columns)) - (log(b.rows) - log(b.columns));
-    const double separation = (a.separation - b.separation) / separationScale;
-    return size * size + ofShape * shape * shape + separation * separation + least;
-}
+/// Fields that one slice goes over: to compute them by the classical method, to sort or to estimate
+/// them.
+constexpr std::size_t fieldsPerStep = 4'000;
 
 /// The order of the list.
-bool isCheaper(double costA, const LatticeField& a, double costB, const LatticeField& b) {
-    return std::tie(costA, a.bores, a.separation, a.rows) <
-           std::tie(costB, b.bores, b.separation, b.rows);
+bool comesFirst(const LayoutField& a, const LayoutField& b) {
+    return isCheaper(a.firstCost, a.field, b.firstCost, b.field);
 }
 
-bool isCheaper(const LayoutField& a, const LayoutField& b) {
-    return isCheaper(a.firstCost, a.field, b.firstCost, b.field);
+/// Depth of a field's bores for a need, with the margin and no less than the least, ft.
+double depthOfField(const LayoutValues& layout, const LatticeField& field, double need) {
+    const double length = need * (1 + layout.margin / 100);
+    return std::max(length / static_cast<double>(field.bores), layout.leastDepth);
+}
+
+double costOfField(const Prices& prices, double towerTons, const LatticeField& field,
+                   double depth) {
+    return sumOf(
+        costParts({static_cast<double>(field.bores), depth, field.separation, towerTons}, prices));
 }
 
 Figure count(double value) { return {FigureKind::count, value}; }
@@ -121,31 +121,46 @@ void LayoutSearch::prepare() {
     finder_.emplace(land_, layout);
 }
 
+void LayoutSearch::go(Stage stage) {
+    stage_ = stage;
+    next_ = 0;
+}
+
 bool LayoutSearch::step() {
     try {
-        switch (stage_) {
-            case Stage::finding:
-                if (finder_->step()) afterFinding();
-                break;
-            case Stage::classical:
-                computeClassical();
-                break;
-            case Stage::estimating:
-                computeNext();
-                break;
-            case Stage::neighbours:
-                computeNeighbour();
-                break;
-            case Stage::others:
-                computeOther();
-                break;
-            case Stage::done:
-                break;
-        }
+        work();
     } catch (const RunTimeError&) {
         fail({Text::whatIfNotComputable, {}});
     }
     return stage_ == Stage::done;
+}
+
+void LayoutSearch::work() {
+    switch (stage_) {
+        case Stage::finding:
+            if (finder_->step()) afterFinding();
+            break;
+        case Stage::classical:
+            computeClassical();
+            break;
+        case Stage::sorting:
+            sortClassical();
+            break;
+        case Stage::adding:
+            addEstimates();
+            break;
+        case Stage::estimating:
+            computeNext();
+            break;
+        case Stage::neighbours:
+            computeNeighbour();
+            break;
+        case Stage::others:
+            computeOther();
+            break;
+        case Stage::done:
+            break;
+    }
 }
 
 void LayoutSearch::afterFinding() {
@@ -153,163 +168,141 @@ void LayoutSearch::afterFinding() {
     if (!finder_->hasPlace()) return fail({Text::layoutNoPlace, {feet(land_.boundaryClearance)}});
     if (finder_->spacingStep() != case_.layout.spacingStep)
         result_.notes.push_back({Text::layoutStepDoubled, {feet(finder_->spacingStep())}});
-    for (const LatticeField& field : finder_->fields())
-        candidates_.push_back({field, needs_->need(field), 0, 0, false});
-    result_.possible = candidates_.size();
-    stage_ =
-        case_.measure == classicalMethod || !byGFunctions_ ? Stage::classical : Stage::estimating;
+    result_.possible = finder_->fields().size();
+    if (case_.measure == classicalMethod || !byGFunctions_) return go(Stage::classical);
+    const auto price = [layout = case_.layout, prices = case_.prices, tons = towerTons_](
+                           const LatticeField& field, double need) {
+        const double depth = depthOfField(layout, field, need);
+        return PricedDepth{depth, costOfField(prices, tons, field, depth)};
+    };
+    estimates_.emplace(price, case_.layout.mostDepth);
+    estimates_->reserve(result_.possible);
+    go(Stage::adding);
 }
 
-double LayoutSearch::depthOf(const LatticeField& field, double need) const {
-    const double length = need * (1 + case_.layout.margin / 100);
-    return std::max(length / static_cast<double>(field.bores), case_.layout.leastDepth);
+LayoutField LayoutSearch::priced(const LatticeField& field, double need) const {
+    const double depth = depthOfField(case_.layout, field, need);
+    return {field, depth, depth * static_cast<double>(field.bores),
+            costOfField(case_.prices, towerTons_, field, depth), 0};
 }
 
-double LayoutSearch::costOf(const LatticeField& field, double depth) const {
-    return sumOf(costParts({static_cast<double>(field.bores), depth, field.separation, towerTons_},
-                           case_.prices));
+bool LayoutSearch::isTooDeep(const LayoutField& field) const {
+    return field.depth > case_.layout.mostDepth + placeGive;
+}
+
+void LayoutSearch::computeClassical() {
+    const std::vector<LatticeField>& fields = finder_->fields();
+    heap_.reserve(fields.size());
+    const std::size_t end = std::min(next_ + fieldsPerStep, fields.size());
+    for (; next_ < end; ++next_) {
+        const double need = needs_->need(fields[next_]);
+        if (!(need < noLength)) continue;
+        const LayoutField found = priced(fields[next_], need);
+        if (!isTooDeep(found)) {
+            heap_.push_back(found);
+            std::push_heap(heap_.begin(), heap_.end(), comesFirst);
+        } else if (!shallowest_ || found.depth < shallowest_->depth) {
+            shallowest_ = found;
+        }
+    }
+    if (next_ == fields.size()) go(Stage::sorting);
+}
+
+/// The dearest of those that are left goes to their end.
+void LayoutSearch::sortClassical() {
+    const std::size_t end = std::min(next_ + fieldsPerStep, heap_.size());
+    for (; next_ < end; ++next_)
+        std::pop_heap(heap_.begin(), heap_.end() - static_cast<std::ptrdiff_t>(next_), comesFirst);
+    if (next_ < heap_.size()) return;
+    result_.fields = std::move(heap_);
+    conclude();
+}
+
+void LayoutSearch::addEstimates() {
+    const std::vector<LatticeField>& fields = finder_->fields();
+    const std::size_t end = std::min(next_ + fieldsPerStep, fields.size());
+    for (; next_ < end; ++next_) estimates_->add(fields[next_], needs_->need(fields[next_]));
+    if (next_ == fields.size()) go(Stage::estimating);
 }
 
 /// Whether a computed field is the best so far, or the shallowest while none is shallow enough.
 bool LayoutSearch::take(const LatticeField& field, double need) {
     if (!(need < noLength)) return false;
-    const double depth = depthOf(field, need);
-    const LayoutField taken{field, depth, depth * static_cast<double>(field.bores),
-                            costOf(field, depth), 0};
-    if (depth > case_.layout.mostDepth + placeGive) {
-        const bool shallower = !shallowest_ || depth < shallowest_->depth;
+    const LayoutField taken = priced(field, need);
+    if (isTooDeep(taken)) {
+        const bool shallower = !shallowest_ || taken.depth < shallowest_->depth;
         if (shallower) shallowest_ = taken;
         return shallower && result_.fields.empty();
     }
-    const auto place = std::lower_bound(
-        result_.fields.begin(), result_.fields.end(), taken,
-        [](const LayoutField& a, const LayoutField& b) { return isCheaper(a, b); });
+    const auto place =
+        std::lower_bound(result_.fields.begin(), result_.fields.end(), taken, comesFirst);
     const bool best = place == result_.fields.begin();
     result_.fields.insert(place, taken);
     return best;
 }
 
-void LayoutSearch::computeClassical() {
-    std::vector<LayoutField>& fields = result_.fields;
-    for (const Candidate& candidate : candidates_) {
-        const double depth = depthOf(candidate.field, candidate.classical);
-        const LayoutField found{candidate.field, depth,
-                                depth * static_cast<double>(candidate.field.bores),
-                                costOf(candidate.field, depth), 0};
-        if (depth <= case_.layout.mostDepth + placeGive)
-            fields.push_back(found);
-        else if (!shallowest_ || depth < shallowest_->depth)
-            shallowest_ = found;
+std::optional<double> LayoutSearch::needByGFunctions(const LatticeField& field, double startDepth) {
+    if (!asked_ || !(*asked_ == field)) {
+        asked_ = field;
+        askedBores_ = boresOf(land_, field);
     }
-    std::sort(fields.begin(), fields.end(),
-              [](const LayoutField& a, const LayoutField& b) { return isCheaper(a, b); });
-    conclude();
-}
-
-double LayoutSearch::estimatedDepth(const Candidate& candidate) const {
-    const double ratio = candidate.weights > 0 ? candidate.ratios / candidate.weights : 1;
-    return depthOf(candidate.field, candidate.classical * ratio);
-}
-
-/// The uncomputed field of the cheapest estimate within the depths; where there is none, the one of
-/// the least depth.
-std::optional<std::size_t> LayoutSearch::cheapestEstimate() const {
-    std::optional<std::size_t> cheapest, leastDeep;
-    double leastCost = 0, leastDepth = 0;
-    for (std::size_t i = 0; i < candidates_.size(); ++i) {
-        const Candidate& candidate = candidates_[i];
-        if (candidate.computed) continue;
-        const double depth = estimatedDepth(candidate);
-        if (!leastDeep || depth < leastDepth) {
-            leastDeep = i;
-            leastDepth = depth;
-        }
-        if (depth > case_.layout.mostDepth + placeGive) continue;
-        const double cost = costOf(candidate.field, depth);
-        if (cheapest && !isCheaper(cost, candidate.field, leastCost, candidates_[*cheapest].field))
-            continue;
-        cheapest = i;
-        leastCost = cost;
-    }
-    return cheapest ? cheapest : leastDeep;
+    const std::optional<double> need = byGFunctions_(askedBores_, field, startDepth);
+    if (need) asked_.reset();
+    return need;
 }
 
 std::optional<bool> LayoutSearch::computeByGFunctions(std::size_t index) {
-    const LatticeField& field = candidates_[index].field;
-    const std::optional<double> computed =
-        byGFunctions_(boresOf(land_, field), field, estimatedDepth(candidates_[index]));
-    if (!computed) return std::nullopt;
-    const double need = *computed;
-    candidates_[index].computed = true;
-    const double classical = candidates_[index].classical;
-    if (need < noLength && classical > 0)
-        for (Candidate& other : candidates_) {
-            const double distance = distanceSquared(field, other.field);
-            const double weight = 1 / (distance * distance);
-            other.ratios += weight * need / classical;
-            other.weights += weight;
-        }
-    const bool fruitful = take(field, need);
+    const LatticeField field = estimates_->field(index);
+    const double classical = estimates_->classicalNeed(index);
+    const auto need =
+        needByGFunctions(field, priced(field, estimates_->estimatedNeed(index)).depth);
+    if (!need) return std::nullopt;
+    estimates_->tell(index, *need);
+    const bool fruitful = take(field, *need);
     for (LayoutField& taken : result_.fields)
         if (taken.field == field && classical < noLength)
-            taken.otherDepth = depthOf(field, classical);
+            taken.otherDepth = depthOfField(case_.layout, field, classical);
     return fruitful;
 }
 
 void LayoutSearch::computeNext() {
-    if (!waiting_) waiting_ = cheapestEstimate();
-    const std::optional<std::size_t> next = waiting_;
-    if (next) {
-        const std::optional<bool> fruitful = computeByGFunctions(*next);
+    if (!waiting_) {
+        if (!estimates_->step(fieldsPerStep)) return;
+        waiting_ = estimates_->cheapest();
+    }
+    if (waiting_) {
+        const std::optional<bool> fruitful = computeByGFunctions(*waiting_);
         if (!fruitful) return;
         waiting_.reset();
         fruitless_ = *fruitful ? 0 : fruitless_ + 1;
-        ++computed_;
+        if (++computed_ < mostComputed && fruitless_ < mostFruitless) return;
     }
-    if (next && computed_ < mostComputed && fruitless_ < mostFruitless) return;
     queueNeighbours();
-    stage_ = Stage::neighbours;
+    go(Stage::neighbours);
 }
 
-std::optional<std::size_t> LayoutSearch::candidateLike(double separation, std::size_t rows,
-                                                       std::size_t columns) const {
-    const auto is = [&](const LatticeField& field, std::size_t r, std::size_t c) {
-        return std::abs(field.separation - separation) < placeGive && field.rows == r &&
-               field.columns == c;
-    };
-    for (std::size_t i = 0; i < candidates_.size(); ++i)
-        if (is(candidates_[i].field, rows, columns)) return i;
-    for (std::size_t i = 0; i < candidates_.size(); ++i)
-        if (candidates_[i].field.isWhole() && is(candidates_[i].field, columns, rows)) return i;
-    return std::nullopt;
-}
-
+/// A row, a column, a step more or less than the best.
 void LayoutSearch::queueNeighbours() {
     if (result_.fields.empty()) return;
     const LatticeField& best = result_.fields.front().field;
-    const double step = finder_->spacingStep();
-    const std::array<std::optional<std::size_t>, 6> around{
-        candidateLike(best.separation, best.rows - 1, best.columns),
-        candidateLike(best.separation, best.rows + 1, best.columns),
-        candidateLike(best.separation, best.rows, best.columns - 1),
-        candidateLike(best.separation, best.rows, best.columns + 1),
-        candidateLike(best.separation - step, best.rows, best.columns),
-        candidateLike(best.separation + step, best.rows, best.columns)};
-    for (const std::optional<std::size_t>& each : around)
-        if (each) neighbours_.push_back(*each);
+    const double apart = best.separation, step = finder_->spacingStep();
+    neighbours_ = {
+        {apart, best.rows - 1, best.columns},    {apart, best.rows + 1, best.columns},
+        {apart, best.rows, best.columns - 1},    {apart, best.rows, best.columns + 1},
+        {apart - step, best.rows, best.columns}, {apart + step, best.rows, best.columns}};
 }
 
 void LayoutSearch::computeNeighbour() {
-    if (next_ < neighbours_.size()) {
-        const std::size_t index = neighbours_[next_];
-        if (candidates_[index].computed || computeByGFunctions(index)) ++next_;
-        return;
-    }
-    conclude();
+    if (next_ == neighbours_.size()) return conclude();
+    const auto& [separation, rows, columns] = neighbours_[next_];
+    if (!waiting_) waiting_ = estimates_->like(separation, rows, columns);
+    const bool missing = waiting_ && !estimates_->isComputed(*waiting_);
+    if (missing && !computeByGFunctions(*waiting_)) return;
+    waiting_.reset();
+    ++next_;
 }
 
 void LayoutSearch::conclude() {
-    next_ = 0;
     if (result_.fields.empty()) {
         if (!shallowest_) return fail({Text::whatIfNotComputable, {}});
         const LatticeField& field = shallowest_->field;
@@ -319,17 +312,19 @@ void LayoutSearch::conclude() {
               feet(field.separation), feet(shallowest_->depth), feet(case_.layout.mostDepth)}});
     }
     const bool askOthers = case_.measure == classicalMethod && byGFunctions_;
-    stage_ = askOthers ? Stage::others : Stage::done;
+    go(askOthers ? Stage::others : Stage::done);
 }
 
 void LayoutSearch::computeOther() {
     const std::size_t listed = std::min(result_.fields.size(), listedFields);
     if (next_ < listed) {
         LayoutField& field = result_.fields[next_];
-        const std::optional<double> need =
-            byGFunctions_(boresOf(land_, field.field), field.field, field.depth);
+        const std::optional<double> need = needByGFunctions(field.field, field.depth);
         if (!need) return;
-        if (*need < noLength) field.otherDepth = depthOf(field.field, *need);
+        // Deeper than that the second opinion has no figure either.
+        const double depth = *need / static_cast<double>(field.field.bores);
+        if (depth <= greatestOpinionDepth)
+            field.otherDepth = depthOfField(case_.layout, field.field, *need);
         ++next_;
     }
     if (next_ == listed) stage_ = Stage::done;

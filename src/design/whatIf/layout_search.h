@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <functional>
 #include <optional>
 #include <vector>
 
+#include "design/whatIf/field_estimates.h"
+#include "design/whatIf/field_finder.h"
 #include "design/whatIf/lattice_fields.h"
 #include "design/whatIf/reason.h"
 #include "design/whatIf/settled_length.h"
@@ -68,8 +69,9 @@ struct LayoutCase {
 /// The land as it is typed or drawn.
 Land landOf(const LandValues& values);
 
-/// The need of a field by g-functions, ft; noLength where there is none. None while it is being
-/// computed: asked again, it works on it for some milliseconds.
+/// The need of a field by g-functions, ft, however deep its bores would have to be; noLength where
+/// there is none. None while it is being computed: asked again, it works on it for some
+/// milliseconds.
 /// @param bores       their places, ft
 /// @param startDepth  a guess, ft
 using NeedByGFunctions = std::function<std::optional<double>(
@@ -79,8 +81,8 @@ using NeedByGFunctions = std::function<std::optional<double>(
 ///
 /// By the classical method every field is computed. By g-functions that would take long, and the
 /// classical order must not choose whom to compute: its rings flatter dense and large fields. So
-/// every field is estimated as its classical need times a ratio, a mean of the ratios found so far
-/// that weighs those of like fields most; the cheapest estimate is computed, and so on.
+/// every field is estimated (see FieldEstimates), the cheapest estimate is computed, and so on;
+/// then the neighbours of the best.
 class LayoutSearch {
  public:
     LayoutSearch(LayoutCase theCase, NeedByGFunctions byGFunctions);
@@ -94,33 +96,33 @@ class LayoutSearch {
     const Land& land() const { return land_; }
 
  private:
-    enum class Stage { finding, classical, estimating, neighbours, others, done };
-    struct Candidate {
-        LatticeField field;
-        double classical = 0;            ///< need, ft
-        double ratios = 0, weights = 0;  ///< sums of those computed by g-functions
-        bool computed = false;
+    enum class Stage { finding, classical, sorting, adding, estimating, neighbours, others, done };
+    struct Shape {
+        double separation = 0;
+        std::size_t rows = 0, columns = 0;
     };
 
     void prepare();
     void fail(Reason reason);
+    void work();
+    void go(Stage stage);
     void afterFinding();
     void computeClassical();
+    void sortClassical();
+    void addEstimates();
     void computeNext();
+    void queueNeighbours();
     void computeNeighbour();
     void computeOther();
     void conclude();
 
-    double depthOf(const LatticeField& field, double need) const;
-    double costOf(const LatticeField& field, double depth) const;
+    LayoutField priced(const LatticeField& field, double need) const;
+    bool isTooDeep(const LayoutField& field) const;
     bool take(const LatticeField& field, double need);
-    /// None while the field's need is being computed.
+    /// None while the need is being computed.
+    std::optional<double> needByGFunctions(const LatticeField& field, double startDepth);
+    /// Whether a computed field is the best so far; none while its need is being computed.
     std::optional<bool> computeByGFunctions(std::size_t index);
-    double estimatedDepth(const Candidate& candidate) const;
-    std::optional<std::size_t> cheapestEstimate() const;
-    std::optional<std::size_t> candidateLike(double separation, std::size_t rows,
-                                             std::size_t columns) const;
-    void queueNeighbours();
 
     LayoutCase case_;
     NeedByGFunctions byGFunctions_;
@@ -130,11 +132,14 @@ class LayoutSearch {
     std::optional<FieldNeeds> needs_;
     std::optional<FieldFinder> finder_;
     double towerTons_ = 0;
-    std::vector<Candidate> candidates_;
+    std::size_t next_ = 0;           ///< place in what the stage goes through
+    std::vector<LayoutField> heap_;  ///< classical fields before they are sorted, the dearest first
+    std::optional<FieldEstimates> estimates_;
     std::optional<std::size_t> waiting_;  ///< whose need is being computed
-    std::size_t next_ = 0;
+    std::optional<LatticeField> asked_;   ///< the same, with its bores
+    std::vector<Point> askedBores_;
     int computed_ = 0, fruitless_ = 0;
-    std::vector<std::size_t> neighbours_;
+    std::vector<Shape> neighbours_;
     std::optional<LayoutField> shallowest_;
     Layouts result_;
 };

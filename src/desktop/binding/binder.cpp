@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTimer>
 #include <algorithm>
 #include <stdexcept>
 
@@ -37,7 +36,11 @@ class Counting {
 
 }  // namespace
 
-Binder::Binder(Form& form) : form_(&form) { form.addObserver(this); }
+Binder::Binder(Form& form) : form_(&form) {
+    form.addObserver(this);
+    lateWork_.setSingleShot(true);
+    connect(&lateWork_, &QTimer::timeout, this, &Binder::workLate);
+}
 
 Binder::~Binder() { detach(); }
 
@@ -227,16 +230,21 @@ void Binder::customEvent(QEvent*) {
 }
 
 /// Late figures are found once the keys and repaints that wait have had their turn: the toolkit
-/// collects repaints for a few milliseconds. A script reads when it wants to, and has them found
-/// then.
+/// collects repaints for a few milliseconds. A key on the way puts the next slice off. A script
+/// reads when it wants to, and has them found then.
 void Binder::fellBehind(Form&) {
     constexpr int repaintGoesFirst = 15;  // ms
     workLateIn(repaintGoesFirst);
 }
 
+/// Pictures show what has been found so far, but take no more of the time than need be.
+void Binder::foundMore(Form&) {
+    constexpr int betweenPictures = 50;  // ms
+    if (!drawn_.isValid() || drawn_.hasExpired(betweenPictures)) refreshLater();
+}
+
 void Binder::workLateIn(int milliseconds) {
-    if (scripted_ || std::exchange(lateDue_, true)) return;
-    QTimer::singleShot(milliseconds, this, [this] { workLate(); });
+    if (!scripted_) lateWork_.start(milliseconds);
 }
 
 /// What nobody sees is left alone until it comes into sight.
@@ -254,7 +262,6 @@ void Binder::finishLate() {
 
 /// One slice, and so on as long as nothing else has come up.
 void Binder::workLate() {
-    lateDue_ = false;
     if (form_ == nullptr || !form_->isBehind() || !showsLate()) return;
     try {
         form_->catchUpABit();
@@ -278,6 +285,7 @@ void Binder::settled(Form&) {
 }
 
 void Binder::refreshDrawings() {
+    drawn_.start();
     for (Drawing* drawing : drawings_) {
         if (!drawing->isVisible()) continue;
         drawing->refresh();

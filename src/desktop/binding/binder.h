@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
+#include <QTimer>
 #include <exception>
 #include <functional>
 #include <initializer_list>
@@ -151,6 +153,7 @@ class Binder : public QObject, public FormObserver {
     void captionChanged(Form& form) override;
     void settled(Form& form) override;
     void fellBehind(Form& form) override;
+    void foundMore(Form& form) override;
     bool worksBetweenActions() const override { return !scripted_; }
     bool eventFilter(QObject* watched, QEvent* event) override;
     void customEvent(QEvent* event) override;
@@ -194,6 +197,7 @@ class Binder : public QObject, public FormObserver {
     /// The label of each figure.
     std::map<std::string, std::string> figures_;
     std::vector<Drawing*> drawings_;
+    QElapsedTimer drawn_;  ///< since the drawings were refreshed last
     std::vector<std::function<void()>> refreshers_;
     std::vector<std::vector<std::vector<std::string>>> blocks_;
     std::unique_ptr<RefusalHint> refusal_;
@@ -201,7 +205,7 @@ class Binder : public QObject, public FormObserver {
     bool scripted_ = false;
     bool leavesByFocus_ = true;
     bool refreshDue_ = false;
-    bool lateDue_ = false;
+    QTimer lateWork_;  ///< until the next slice
     int writing_ = 0;
     int building_ = 0;
     int actions_ = 0;

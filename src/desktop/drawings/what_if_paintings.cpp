@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <set>
+#include <utility>
 
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
@@ -41,6 +43,17 @@ void drawAcross(const Canvas& canvas, const Plot& plot, const PlotScale& across,
         if (x + canvas.textWidth(whole(value)) / 2 + gridStep / 2.0 < lastLeft)
             drawBelow(canvas, plot, x, whole(value));
     }
+}
+
+/// Which of the points are seen: of those that fall on each other the first.
+std::vector<bool> uncovered(const std::vector<QPointF>& points) {
+    constexpr double apart = 2;
+    std::vector<bool> seen(points.size());
+    std::set<std::pair<int, int>> taken;
+    for (std::size_t i = 0; i < points.size(); ++i)
+        seen[i] =
+            taken.insert({qRound(points[i].x() / apart), qRound(points[i].y() / apart)}).second;
+    return seen;
 }
 
 // The tornado.
@@ -306,7 +319,9 @@ std::vector<QPointF> paintFields(const Canvas& canvas, const FieldsPicture& pict
         places.emplace_back(placeOf(plot, across, field.bores), plot.heightOf(field.depth));
     QPainter& painter = canvas.painter;
     // The cheapest last, so that none covers it.
+    const std::vector<bool> seen = uncovered(places);
     for (std::size_t i = places.size(); i-- > 0;) {
+        if (!seen[i]) continue;
         const double share = most > least ? (picture.fields[i].cost - least) / (most - least) : 0.0;
         painter.setPen(QPen(look.accent, 1));
         painter.setBrush(between(look.accent, pale, share));

@@ -5,6 +5,7 @@
 
 #include "design/frmWhatIf.h"
 #include "desktop/drawings/what_if_paintings.h"
+#include "desktop/views/comparison_table.h"
 #include "desktop/views/figure_labels.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/views.h"
@@ -211,8 +212,8 @@ QWidget* comparison(Binder& bind) {
             figureRow(bind, elementName("WVRowLabel", i), array + "Label", alternativeColumns));
         rows.push_back(headRow(bind, array + "ChangeLabel", alternativeColumns));
     }
-    return group(bind.frame("WVTableFrame"), gridOf(rows), wrapped(bind.widget("WVReasonLabel")),
-                 stretch());
+    return group(bind.frame("WVTableFrame"), grow(new ComparisonTable(rows)),
+                 wrapped(bind.widget("WVReasonLabel")));
 }
 
 QWidget* alternativesPage(Binder& bind) {

@@ -170,5 +170,30 @@ TEST(FieldSizer, NeedsWhatADesignOfThatFieldNeeds) {
     }
 }
 
+TEST(FieldSizer, TellsHowDeepBoresWouldHaveToBe) {
+    // Twice and eight times the loads on four bores: beyond what is taken for an answer the depths
+    // go on as the loads do. Deep bores lose little at their ends, so that g of one no longer
+    // depends on its depth.
+    const auto bores = secondOpinion::rectangularField(2, 2, 20);
+    std::vector<double> depths;
+    for (const double times : {2.0, 4.0, 8.0, 16.0}) {
+        BoreholeInputs design = officeInputs();
+        Zone& zone = design.loads.zones.edit(0);
+        for (Mode m : modes) {
+            for (auto& gain : zone.gains) gain[m] *= times;
+            zone.pump.capacity[m] *= times;
+            zone.pump.watts[m] *= times;
+        }
+        FieldSizer sizer({}, design);
+        std::optional<double> need;
+        while (!need) need = sizer.need(bores, 20, 300);
+        ASSERT_LT(*need, noLength) << times;
+        depths.push_back(*need / 4);
+    }
+    EXPECT_GT(depths[0], 2'000);
+    for (std::size_t i = 1; i < depths.size(); ++i)
+        EXPECT_NEAR(depths[i] / depths[i - 1], 2, 0.05) << i;
+}
+
 }  // namespace
 }  // namespace varnholt

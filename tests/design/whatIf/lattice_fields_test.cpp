@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "design/whatIf/lattice_fields.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <map>
 #include <random>
 #include <set>
 
 #include "design/modCalculations/bore_grid.h"
+#include "design/whatIf/field_finder.h"
 
 namespace varnholt {
 namespace {
@@ -63,6 +66,36 @@ TEST(Lattice, WeighsTheNeighboursOfAFieldWithAGap) {
     Land land = rectangle(20, 20);
     land.noGo.push_back({{9, 9}, {11, 9}, {11, 11}, {9, 11}});
     EXPECT_NEAR(laid(land, 10).weightIn({0, 0, 3, 3}), 8 * 0.25, 1e-12);
+}
+
+TEST(Lattice, WeighsTheNeighboursOfScatteredBoresAsTheyStand) {
+    std::mt19937 random(6);
+    std::uniform_real_distribution<double> place(0, 130);
+    Land land = rectangle(140, 100);
+    for (int i = 0; i < 40; ++i) {
+        const double x = place(random), y = place(random);
+        land.noGo.push_back({{x, y}, {x + 11, y}, {x + 4, y + 9}});
+    }
+    const Lattice lattice = laid(land, 5);
+    const Lattice::Window window{2, 1, 23, 17};
+    const auto isBore = [&](std::size_t i, std::size_t j) {
+        const bool inside = i >= window.i && i < window.i + window.rows && j >= window.j &&
+                            j < window.j + window.columns;
+        return inside && land.allows(lattice.place(i, j));
+    };
+    double weight = 0;
+    std::size_t bores = 0;
+    for (std::size_t j = window.j; j < window.j + window.columns; ++j)
+        for (std::size_t i = window.i; i < window.i + window.rows; ++i) {
+            if (!isBore(i, j)) continue;
+            ++bores;
+            const int neighbours =
+                isBore(i - 1, j) + isBore(i + 1, j) + isBore(i, j - 1) + isBore(i, j + 1);
+            weight += std::array{0.0, 0.1, 0.25, 0.5, 1.0}.at(static_cast<std::size_t>(neighbours));
+        }
+    EXPECT_GT(bores, 50u);
+    EXPECT_LT(bores, 23u * 17u);
+    EXPECT_NEAR(lattice.weightIn(window), weight, 1e-9);
 }
 
 TEST(Lattice, CountsThePlacesOfEveryWindow) {
@@ -211,6 +244,20 @@ TEST(Fields, AreTriedInGreaterStepsWhereTheyWouldBeTooMany) {
     EXPECT_EQ(std::log2(finder.spacingStep()), std::floor(std::log2(finder.spacingStep())));
     for (const LatticeField& field : finder.fields())
         EXPECT_EQ(std::fmod(field.separation - 3, finder.spacingStep()), 0);
+}
+
+TEST(Fields, OfALargeLandAreFoundInManySlices) {
+    // 666 places each way at 15 ft, so that every shape of up to 400 bores fits, across or down:
+    // for c columns those of c to 400/c rows, the sum over c = 1 to 20 of floor(400/c) less c - 1.
+    std::size_t shapes = 0;
+    for (std::size_t c = 1; c <= 20; ++c) shapes += 400 / c - (c - 1);
+    EXPECT_EQ(shapes, 1244u);
+    FieldFinder finder(rectangle(10'000, 10'000, 10), only(15));
+    std::size_t slices = 1;
+    while (!finder.step()) ++slices;
+    EXPECT_EQ(finder.fields().size(), shapes);
+    // 16 lattices of 443,556 places, each measured from four sides.
+    EXPECT_GT(slices, 200u);
 }
 
 TEST(Fields, AreNoneWhereTheLandIsTooSmall) {

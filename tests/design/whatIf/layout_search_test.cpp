@@ -266,6 +266,33 @@ TEST(LayoutSearch, ByGFunctionsComesWithinTenFieldsOfTheBestOfAll) {
     EXPECT_NEAR(layouts.fields.front().firstCost, costs[0], 0.005 * costs[0]);
 }
 
+TEST(LayoutSearch, TellsTheShallowestFieldByBothMethodsHoweverDeepItWouldBe) {
+    // 16 by 16 ft within the clearances: four bores 15 or 16 ft apart for a building of three times
+    // the office's loads, whose 30 bores need 8,297 ft by one method, 9,762 ft by the other. Less
+    // heat stays between four bores, but never so much less that 2,000 ft a bore were enough.
+    WhatIfCase theCase;
+    theCase.design = officeInputs();
+    Zone& zone = theCase.design.loads.zones.edit(0);
+    for (Mode m : modes) {
+        for (auto& gain : zone.gains) gain[m] *= 3;
+        zone.pump.capacity[m] *= 3;
+        zone.pump.watts[m] *= 3;
+    }
+    theCase.inputs.land.across = theCase.inputs.land.down = 36;
+    for (const WhatIfMeasure measure : {classicalMethod, byGFunctions}) {
+        theCase.inputs.measure = measure;
+        const Layouts layouts = searched(theCase);
+        EXPECT_TRUE(layouts.fields.empty());
+        ASSERT_EQ(layouts.reason.text, Text::layoutTooDeep) << measure;
+        EXPECT_EQ(layouts.reason.figures[0].value, 2);
+        EXPECT_EQ(layouts.reason.figures[1].value, 2);
+        EXPECT_EQ(layouts.reason.figures[2].value, 16);
+        EXPECT_GT(layouts.reason.figures[3].value, 2'000);
+        EXPECT_LT(layouts.reason.figures[3].value, 3 * 9'762 / 4.0);
+        EXPECT_EQ(layouts.reason.figures[4].value, 400);
+    }
+}
+
 TEST(LayoutSearch, ByTheClassicalMethodTellsTheOthersDepthOfTheListedFields) {
     WhatIfCase theCase;
     theCase.design = officeInputs();
