@@ -739,7 +739,6 @@ constexpr int notLinked = 2982;
 constexpr int chartCooling = 2983;
 constexpr int chartHeating = 2984;
 constexpr int dayChartEmpty = 2985;
-constexpr int dayChartLargestLoad = 2986;
 constexpr int pumpCurvesEmpty = 2990;
 constexpr int pumpCurves = 2991;
 constexpr int pumpCurvesAtDesign = 2992;
@@ -749,6 +748,17 @@ constexpr int pumpCurvesEnteringWater = 2995;
 constexpr int pumpCurvesCatalogue = 2996;
 constexpr int pumpCurvesDesign = 2997;
 constexpr int enterLoadsFirst = 2160;
+
+// What only a screen reader tells.
+constexpr int moreOfNumber = 4230;
+constexpr int lessOfNumber = 4231;
+constexpr int emptySearch = 4232;
+constexpr int linkedWithDesign = 4233;
+constexpr int notLinkedWithZoneManager = 4234;
+constexpr int notLinkedWithAverageBlock = 4235;
+constexpr int clearPumpTold = 4236;
+constexpr int gainsByBlock = 4240;
+constexpr int lossesByBlock = 4241;
 
 // What a design comes to: the strip at the foot of its window, the page of its results.
 constexpr int lengthsFresh = 2551;

@@ -12,6 +12,7 @@
 #include "frame/varnmain.h"
 #include "loads/import/design_day.h"
 #include "loads/import/simulation_file.h"
+#include "loads/modLoads/chart_sentences.h"
 
 namespace varnholt {
 namespace {
@@ -190,12 +191,16 @@ void frmImport1::showField() {
     const bool total = cell_.column == Column::total;
     control("txtImport1")
         .setText(control(elementName(total ? "lblTotal" : "lblPeak", cell_.month)).caption())
+        .unitsIn(total ? "lblTitle(5)" : "lblTitle(7)")
         .setAccessibleName(control(elementName("lblEqvHours", cell_.month)).caption() + ", " +
                            element("lblTitle", total ? 1 : 2).caption());
 }
 
 std::string frmImport1::descriptionOf(const std::string& image) const {
-    return image == "imgMonths" ? describe(monthsChart(), texts()) : std::string();
+    if (image == "imgMonths") return describe(monthsChart(), texts());
+    if (image == "imgDesignDay")
+        return describe(dayChart(), loadsCaptions(units(), texts()), texts());
+    return {};
 }
 
 MonthsChart frmImport1::monthsChart() const {
