@@ -27,6 +27,8 @@ MonthTable::MonthTable(Binder& bind)
     addHeads();
     addMonths();
     addYear();
+    // Whichever of them holds the field, which would take more.
+    for (int column = 1; column < 4; ++column) grid_->setColumnStretch(column, 1);
     constexpr int figures = 9;
     static_cast<FieldEdit*>(field_)->setFigures(figures);
     field_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

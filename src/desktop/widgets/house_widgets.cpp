@@ -172,6 +172,10 @@ void GroupBox::setTitle(const QString& title) {
     setAccessibleName(title);
 }
 
+void GroupBox::setLow() {
+    layout_->setContentsMargins(2 * gridStep, gridStep / 2, 2 * gridStep, gridStep / 2);
+}
+
 void GroupBox::setContent(QWidget* content) {
     delete content_;
     content_ = content;
