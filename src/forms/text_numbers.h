@@ -427,6 +427,7 @@ constexpr int exampleSchool = 2392;
 constexpr int exampleHouse = 2393;
 constexpr int exampleTrench = 2394;
 constexpr int examplePond = 2395;
+constexpr int exampleSouth = 2396;
 
 // Pipe and bore.
 constexpr int pipeSizeAndResistance = 2401;

@@ -11,8 +11,10 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
+#include <filesystem>
 #include <set>
 
+#include "basis/file_system.h"
 #include "desk.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/windows/name_finder.h"
@@ -327,6 +329,34 @@ TEST_F(FirstMinutes, OpenAnExampleAndOfferItAsRecentAfterwards) {
     for (ChildWindow* window : desk.main().windows()) desk.main().close(*window);
     Desk::settle();
     EXPECT_NE(buttonNamed(page(), "trench-office.vht"), nullptr);
+}
+
+/// What a button of the start page shows at its left.
+QImage pictureOf(QWidget& page, const char* name) {
+    QAbstractButton* button = buttonNamed(page, name);
+    return button == nullptr ? QImage() : button->grab({8, 4, 72, button->height() - 8}).toImage();
+}
+
+TEST_F(FirstMinutes, ShowEachExampleByAPictureDrawnFromItsFile) {
+    const QImage office = pictureOf(page(), "office"), pond = pictureOf(page(), "school-pond");
+    EXPECT_NE(office, pictureOf(page(), "school-north"));
+    EXPECT_NE(office, pond);
+    EXPECT_NE(pictureOf(page(), "house"), pictureOf(page(), "trench-office"));
+    const std::filesystem::path examples = desk.folder() + "/work files";
+    const auto showAnew = [this] {
+        page().hide();
+        page().show();
+        Desk::settle();
+    };
+    std::filesystem::copy_file(examples / "school-pond.vht", examples / "office.vht",
+                               std::filesystem::copy_options::overwrite_existing);
+    showAnew();
+    EXPECT_EQ(pictureOf(page(), "office"), pond);
+    // A file that holds nothing to draw is shown by the icon of its kind.
+    replaceWholeFile((examples / "office.vht").string(), "");
+    showAnew();
+    EXPECT_NE(pictureOf(page(), "office"), pond);
+    EXPECT_NE(pictureOf(page(), "office"), office);
 }
 
 TEST_F(FirstMinutes, StandBelowEachOtherInANarrowWindow) {
