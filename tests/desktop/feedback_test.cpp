@@ -18,6 +18,7 @@
 #include "desk.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/windows/name_finder.h"
+#include "desktop/windows/name_lines.h"
 #include "desktop/windows/start_page.h"
 #include "frame/design_document.h"
 #include "loads/frmAvgBlock.h"
@@ -262,6 +263,29 @@ TEST_F(Finder, OpensAnExample) {
     QTest::keyClick(&finder->typed(), Qt::Key_Return);
     Desk::settle();
     EXPECT_NE(desk.main().find("frmHZDesign"), nullptr);
+}
+
+TEST_F(Finder, ListsWhatItFindsInGroupsWithTheKeysOfCommands) {
+    design->choose("BHTabs", 2);
+    NameFinder* finder = open();
+    const QListWidget& list = finder->list();
+    QStringList heads;
+    for (int row = 0; row < list.count(); ++row)
+        if (!list.item(row)->data(thingRole).isValid()) heads << list.item(row)->text();
+    EXPECT_EQ(heads, QStringList({QStringLiteral("Commands"), QStringLiteral("Fields"),
+                                  QStringLiteral("Examples")}));
+    QTest::keyClicks(&finder->typed(), QStringLiteral("print preview"));
+    ASSERT_EQ(list.count(), 2);
+    EXPECT_EQ(list.item(0)->flags(), Qt::NoItemFlags);
+    EXPECT_EQ(list.currentRow(), 1);
+    EXPECT_EQ(list.item(1)->data(placeRole).toString(), QStringLiteral("File"));
+    EXPECT_EQ(list.item(1)->data(keysRole).toString(), QStringLiteral("Ctrl+P"));
+    // A field whose name begins with what is typed comes before commands that only hold it.
+    finder->typed().setText(QStringLiteral("ground temp"));
+    ASSERT_NE(list.currentItem(), nullptr);
+    EXPECT_EQ(list.item(0)->text(), QStringLiteral("Fields"));
+    EXPECT_EQ(list.currentRow(), 1);
+    QTest::keyClick(&finder->typed(), Qt::Key_Escape);
 }
 
 TEST_F(Finder, SaysSoWhereNothingHasTheName) {

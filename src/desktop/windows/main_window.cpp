@@ -265,7 +265,7 @@ void MainWindow::findByName() {
     auto* finder = new NameFinder(
         this, std::move(things),
         {word(Text::findByName), word(Text::findByNamePrompt), word(Text::nothingOfThatName),
-         word(Text::kindCommand), word(Text::kindField), word(Text::kindExample)});
+         word(Text::kindCommands), word(Text::kindFields), word(Text::kindExamples)});
     finder->show();
 }
 
