@@ -96,7 +96,15 @@ QRectF TextLabel::placeOfLine() const {
     return {corner, size};
 }
 
+/// Where the room is too short, a text ends in dots; figures are never shortened.
 void TextLabel::drawLine(QPainter& painter) const {
+    const QRect room = contentsRect();
+    if (!showsFigures() && shaped().size().width() > room.width() + 1) {
+        const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
+        painter.drawText(room, static_cast<int>(side),
+                         fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
+        return;
+    }
     const QPointF corner = placeOfLine().topLeft();
     if (showsFigures())
         figureText_.draw(painter, corner);
