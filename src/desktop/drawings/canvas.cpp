@@ -70,6 +70,8 @@ void Canvas::label(const QPointF& centre, const QString& text, const QColor& col
 Canvas canvasFor(QPainter& painter, const QRectF& area, const QPalette& palette,
                  const QFont& font) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    // Pictures are not mirrored where the language reads from the right: nor are their labels.
+    painter.setLayoutDirection(Qt::LeftToRight);
     return {painter, area, lookOf(palette), font, figureFont(font)};
 }
 

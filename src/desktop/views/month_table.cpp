@@ -44,7 +44,8 @@ QLabel* MonthTable::label(const std::string& name, int row, int column, bool fig
         label->setMinimumWidth(cellWidth);
         label->setContentsMargins(6, 2, 6, 2);
     }
-    label->setAlignment((column == 0 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    const Qt::Alignment right = Qt::AlignRight | (figure ? Qt::AlignAbsolute : Qt::Alignment());
+    label->setAlignment((column == 0 ? Qt::AlignLeft : right) | Qt::AlignVCenter);
     grid_->addWidget(label, row, column);
     return label;
 }

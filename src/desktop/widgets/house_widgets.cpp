@@ -5,6 +5,7 @@
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -52,6 +53,8 @@ constexpr double fineRange = 20;
 }  // namespace
 
 NumberSlider::NumberSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
+    // Larger numbers are at the right in every language, as on the axis of a chart.
+    setLayoutDirection(Qt::LeftToRight);
     NumberSlider::setNumbers(0, 100);
     setMinimumWidth(160);
     connect(this, &QSlider::valueChanged, this, [this](int position) { snap(position); });
@@ -200,7 +203,9 @@ void GroupBox::paintEvent(QPaintEvent*) {
         const int middle = title_->geometry().center().y();
         const int from =
             title_->x() + title_->fontMetrics().horizontalAdvance(title_->text()) + gridStep;
-        if (from < width()) painter.drawLine(from, middle, width() - 1, middle);
+        const QRect line(from, middle, width() - from, 1);
+        if (from < width())
+            painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), line), look.hairline);
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing);

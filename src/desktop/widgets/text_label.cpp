@@ -86,7 +86,10 @@ QColor TextLabel::colour() const {
 QRectF TextLabel::placeOfLine() const {
     const QRectF place = contentsRect();
     const QSizeF size = sizeOfLine();
-    const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
+    // Figures stand below one another by their last digits in every language.
+    const bool asAligned = figures_ && (alignment() & Qt::AlignRight) != 0;
+    const Qt::Alignment side =
+        asAligned ? alignment() : QStyle::visualAlignment(layoutDirection(), alignment());
     const double across = place.width() - size.width(), down = place.height() - size.height();
     QPointF corner = place.topLeft();
     if ((side & Qt::AlignRight) != 0) corner.rx() += across;
