@@ -371,9 +371,9 @@ constexpr int noZonesToPaste = 2338;
 constexpr int findByName = 2340;
 constexpr int findByNameHint = 2341;
 constexpr int findByNamePrompt = 2342;
-constexpr int kindCommand = 2343;
-constexpr int kindField = 2344;
-constexpr int kindExample = 2345;
+constexpr int kindCommands = 2343;
+constexpr int kindFields = 2344;
+constexpr int kindExamples = 2345;
 constexpr int nothingOfThatName = 2346;
 constexpr int savedAs = 2350;
 constexpr int linkNeedsLoads = 2351;
@@ -430,6 +430,7 @@ constexpr int exampleSchool = 2392;
 constexpr int exampleHouse = 2393;
 constexpr int exampleTrench = 2394;
 constexpr int examplePond = 2395;
+constexpr int exampleSouth = 2396;
 
 // Pipe and bore.
 constexpr int pipeSizeAndResistance = 2401;

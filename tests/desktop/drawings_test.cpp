@@ -70,6 +70,16 @@ TEST(Drawings, ShowSomethingInBothSchemesAtEveryScale) {
     }
 }
 
+TEST(Drawings, AreNotMirroredWhereTheLanguageReadsFromTheRight) {
+    const FieldPlan field = drawField(ArrangementValues());
+    const std::unique_ptr<Drawing> drawing(newFieldDrawing([&] { return field; }, pictureTexts()));
+    drawing->resize(420, 360);
+    const QImage usual = drawing->grab().toImage();
+    drawing->setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(drawing->grab().toImage(), usual);
+    EXPECT_GT(pixelsUnlike(usual, usual.pixelColor(0, 0)), 1000);
+}
+
 TEST(BorePicture, IsToScale) {
     // Placed at average, 1.9 in pipes leave three gaps of (5 - 2 * 1.9) / 3 = 0.4 in, so their
     // middles are 2.3 in apart. A line through the middles crosses four walls of 0.175 in each; an

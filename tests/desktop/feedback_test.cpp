@@ -11,11 +11,14 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
+#include <filesystem>
 #include <set>
 
+#include "basis/file_system.h"
 #include "desk.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/windows/name_finder.h"
+#include "desktop/windows/name_lines.h"
 #include "desktop/windows/start_page.h"
 #include "frame/design_document.h"
 #include "loads/frmAvgBlock.h"
@@ -284,6 +287,29 @@ TEST_F(Finder, OpensAnExample) {
     EXPECT_NE(desk.main().find("frmHZDesign"), nullptr);
 }
 
+TEST_F(Finder, ListsWhatItFindsInGroupsWithTheKeysOfCommands) {
+    design->choose("BHTabs", 2);
+    NameFinder* finder = open();
+    const QListWidget& list = finder->list();
+    QStringList heads;
+    for (int row = 0; row < list.count(); ++row)
+        if (!list.item(row)->data(thingRole).isValid()) heads << list.item(row)->text();
+    EXPECT_EQ(heads, QStringList({QStringLiteral("Commands"), QStringLiteral("Fields"),
+                                  QStringLiteral("Examples")}));
+    QTest::keyClicks(&finder->typed(), QStringLiteral("print preview"));
+    ASSERT_EQ(list.count(), 2);
+    EXPECT_EQ(list.item(0)->flags(), Qt::NoItemFlags);
+    EXPECT_EQ(list.currentRow(), 1);
+    EXPECT_EQ(list.item(1)->data(placeRole).toString(), QStringLiteral("File"));
+    EXPECT_EQ(list.item(1)->data(keysRole).toString(), QStringLiteral("Ctrl+P"));
+    // A field whose name begins with what is typed comes before commands that only hold it.
+    finder->typed().setText(QStringLiteral("ground temp"));
+    ASSERT_NE(list.currentItem(), nullptr);
+    EXPECT_EQ(list.item(0)->text(), QStringLiteral("Fields"));
+    EXPECT_EQ(list.currentRow(), 1);
+    QTest::keyClick(&finder->typed(), Qt::Key_Escape);
+}
+
 TEST_F(Finder, SaysSoWhereNothingHasTheName) {
     NameFinder* finder = open();
     QTest::keyClicks(&finder->typed(), QStringLiteral("no such thing"));
@@ -349,6 +375,34 @@ TEST_F(FirstMinutes, OpenAnExampleAndOfferItAsRecentAfterwards) {
     for (ChildWindow* window : desk.main().windows()) desk.main().close(*window);
     Desk::settle();
     EXPECT_NE(buttonNamed(page(), "trench-office.vht"), nullptr);
+}
+
+/// What a button of the start page shows at its left.
+QImage pictureOf(QWidget& page, const char* name) {
+    QAbstractButton* button = buttonNamed(page, name);
+    return button == nullptr ? QImage() : button->grab({8, 4, 72, button->height() - 8}).toImage();
+}
+
+TEST_F(FirstMinutes, ShowEachExampleByAPictureDrawnFromItsFile) {
+    const QImage office = pictureOf(page(), "office"), pond = pictureOf(page(), "school-pond");
+    EXPECT_NE(office, pictureOf(page(), "school-north"));
+    EXPECT_NE(office, pond);
+    EXPECT_NE(pictureOf(page(), "house"), pictureOf(page(), "trench-office"));
+    const std::filesystem::path examples = desk.folder() + "/work files";
+    const auto showAnew = [this] {
+        page().hide();
+        page().show();
+        Desk::settle();
+    };
+    std::filesystem::copy_file(examples / "school-pond.vht", examples / "office.vht",
+                               std::filesystem::copy_options::overwrite_existing);
+    showAnew();
+    EXPECT_EQ(pictureOf(page(), "office"), pond);
+    // A file that holds nothing to draw is shown by the icon of its kind.
+    replaceWholeFile((examples / "office.vht").string(), "");
+    showAnew();
+    EXPECT_NE(pictureOf(page(), "office"), pond);
+    EXPECT_NE(pictureOf(page(), "office"), office);
 }
 
 TEST_F(FirstMinutes, StandBelowEachOtherInANarrowWindow) {

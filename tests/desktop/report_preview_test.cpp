@@ -20,6 +20,7 @@
 #include "desktop/widgets/qt_text.h"
 #include "desktop/windows/report_preview.h"
 #include "desktop/windows/report_windows.h"
+#include "desktop/windows/window_places.h"
 #include "forms/text_numbers.h"
 
 namespace varnholt {
@@ -64,6 +65,29 @@ TEST_F(Previews, GoAwayByThemselves) {
     Desk::settle();
     EXPECT_EQ(desk.window->findChild<QWidget*>(QStringLiteral("rptBHShort")), nullptr);
     EXPECT_TRUE(desk.faults.empty());
+}
+
+TEST_F(Previews, OpenWhereAPersonHasLeftTheLastOne) {
+    WindowPlaces places(folder / "places.ini");
+    windows.rememberPlaces(places);
+    QWidget* first = shown(samples.borehole(1)).parentWidget();
+    first->setGeometry(30, 20, 700, 500);
+    Desk::settle();
+    first->close();
+    Desk::settle();
+    QWidget* next = shown(samples.borehole(1)).parentWidget();
+    EXPECT_EQ(next->geometry(), QRect(30, 20, 700, 500));
+    next->showMaximized();
+    Desk::settle();
+    next->close();
+    Desk::settle();
+    QWidget* last = shown(samples.borehole(1)).parentWidget();
+    EXPECT_TRUE(last->isMaximized());
+    last->showNormal();
+    Desk::settle();
+    EXPECT_EQ(last->geometry(), QRect(30, 20, 700, 500));
+    last->close();
+    Desk::settle();
 }
 
 TEST_F(Previews, LayTheReportOutForOtherPaper) {

@@ -397,6 +397,8 @@ QWidget* Binder::iconButton(const std::string& button, const QString& icon) {
 QWidget* Binder::fixedPitch(const std::string& list) {
     QWidget* view = widget(list);
     view->setFont(fixedPitchFont(view->font()));
+    // Its columns are made of blanks, which a line from the right would put into another order.
+    view->setLayoutDirection(Qt::LeftToRight);
     return view;
 }
 

@@ -3,6 +3,7 @@
 
 #include <QFontMetricsF>
 #include <QPolygonF>
+#include <algorithm>
 #include <cmath>
 
 namespace varnholt {
@@ -23,8 +24,9 @@ void drawArrow(QPainter& painter, const QPointF& tip, double way) {
 }
 
 /// The dimension line itself from 0 to `length` on the level y = 0 of the painter's coordinates.
-/// @param room  what the picture has behind the line's end
-void drawDimensionLine(const Canvas& canvas, double length, double room, const QString& label) {
+/// @param before, behind  what the picture has before the line and behind its end
+void drawDimensionLine(const Canvas& canvas, double length, double before, double behind,
+                       const QString& label) {
     QPainter& painter = canvas.painter;
     painter.setPen(hairline(canvas.look.muted));
     painter.setBrush(canvas.look.muted);
@@ -36,8 +38,10 @@ void drawDimensionLine(const Canvas& canvas, double length, double room, const Q
     drawArrow(painter, {0, 0}, arrowsInside ? 1 : -1);
     drawArrow(painter, {length, 0}, arrowsInside ? -1 : 1);
     const bool labelInside = length >= labelWidth + 2 * arrowLength;
-    const bool labelBehind = reach + labelWidth <= room;
-    const double beside = labelBehind ? length + reach + labelWidth / 2 : -reach - labelWidth / 2;
+    const bool labelBehind = reach + labelWidth <= behind;
+    // A label that fits on neither side covers a part of the line: the picture's edge would cut it.
+    const double beside = labelBehind ? length + reach + labelWidth / 2
+                                      : std::max(-reach - labelWidth / 2, labelWidth / 2 - before);
     canvas.label({labelInside ? length / 2 : beside, 0}, label, canvas.look.ink);
 }
 
@@ -66,6 +70,8 @@ void Canvas::label(const QPointF& centre, const QString& text, const QColor& col
 Canvas canvasFor(QPainter& painter, const QRectF& area, const QPalette& palette,
                  const QFont& font) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    // Pictures are not mirrored where the language reads from the right: nor are their labels.
+    painter.setLayoutDirection(Qt::LeftToRight);
     return {painter, area, lookOf(palette), font, figureFont(font)};
 }
 
@@ -88,7 +94,7 @@ void drawLevelDimension(const Canvas& canvas, const QPointF& from, const QPointF
     painter.save();
     painter.translate(canvas.crisp(from.x()), line);
     drawDimensionLine(canvas, canvas.crisp(to.x()) - canvas.crisp(from.x()),
-                      canvas.area.right() - to.x(), label);
+                      from.x() - canvas.area.left(), canvas.area.right() - to.x(), label);
     painter.restore();
 }
 
@@ -106,7 +112,7 @@ void drawUprightDimension(const Canvas& canvas, const QPointF& from, const QPoin
     painter.translate(line, canvas.crisp(to.y()));
     painter.rotate(-90);
     drawDimensionLine(canvas, canvas.crisp(to.y()) - canvas.crisp(from.y()),
-                      from.y() - canvas.area.top(), label);
+                      canvas.area.bottom() - to.y(), from.y() - canvas.area.top(), label);
     painter.restore();
 }
 

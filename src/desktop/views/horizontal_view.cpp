@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window of a horizontal design: results with the cooling tower, and six pages of inputs.
 #include <QLabel>
+#include <QLayout>
 #include <QTabWidget>
 
 #include "design/frmHZDesign.h"
@@ -56,13 +57,19 @@ QWidget* trenchFields(Binder& bind) {
                       bind.row("PASeparationText(2)")));
 }
 
+QWidget* closeTogether(QWidget* column) {
+    column->layout()->setSpacing(gridStep / 4);
+    return column;
+}
+
 /// Straight pipes beside slinkies.
 QWidget* arrangements(Binder& bind) {
-    return row_(
-        column(bind.widget("PAConfigurationOption(0)"), bind.widget("PAConfigurationOption(1)"),
-               bind.widget("PAConfigurationOption(2)")),
-        gap(),
-        column(bind.widget("PAConfigurationOption(3)"), bind.widget("PAConfigurationOption(4)")));
+    return row_(closeTogether(column(bind.widget("PAConfigurationOption(0)"),
+                                     bind.widget("PAConfigurationOption(1)"),
+                                     bind.widget("PAConfigurationOption(2)"))),
+                gap(),
+                closeTogether(column(bind.widget("PAConfigurationOption(3)"),
+                                     bind.widget("PAConfigurationOption(4)"))));
 }
 
 /// The number of pipes, with its figures below those of the fields.

@@ -28,14 +28,15 @@ QWidget* caption(Binder& bind, const char* name) {
 }
 
 QWidget* importCommands(Binder& bind) {
-    return bar(column(buttons(bind.iconButton("cmdImport(2)", QStringLiteral("open")),
-                              bind.iconButton("cmdImport(5)", QStringLiteral("table")),
-                              bind.iconButton("cmdImport(3)", QStringLiteral("paste")),
-                              bind.widget("cmdImport(0)")),
-                      row_(bind.widget("cmdCoolHeat(0)"), bind.widget("cmdCoolHeat(1)"), gap(),
-                           bind.widget("MetricCheck"), stretch(), caption(bind, "lblTitle(4)"),
-                           bind.widget("lblTitle(9)"), gap(), caption(bind, "lblTitle(8)"),
-                           bind.widget("lblTitle(10)"))));
+    return bar(
+        column(buttons(bind.iconButton("cmdImport(2)", QStringLiteral("open")),
+                       bind.iconButton("cmdImport(5)", QStringLiteral("table")),
+                       bind.iconButton("cmdImport(3)", QStringLiteral("paste")),
+                       bind.widget("cmdImport(0)")),
+               reflow(row_(bind.widget("cmdCoolHeat(0)"), bind.widget("cmdCoolHeat(1)"), gap(),
+                           bind.widget("MetricCheck")),
+                      grow(buttons(caption(bind, "lblTitle(4)"), bind.widget("lblTitle(9)"), gap(),
+                                   caption(bind, "lblTitle(8)"), bind.widget("lblTitle(10)"))))));
 }
 
 QWidget* importedYearFields(Binder& bind) {
@@ -71,7 +72,7 @@ QWidget* rows(Binder& bind) {
     auto* list = static_cast<ListView*>(bind.widget("TIRowsList"));
     list->setHeads({qt(bind.text(Text::tableLineHead)), qt(bind.text(Text::tableDateHead)),
                     qt(bind.text(Text::cooling)), qt(bind.text(Text::heating))});
-    constexpr int listWidth = 420, listHeight = 260;
+    constexpr int listWidth = 320, listHeight = 260;
     list->setMinimumSize(listWidth, listHeight);
     return column(bind.widget("TIRowsLabel"), grow(list));
 }
@@ -100,7 +101,7 @@ QWidget* makeImportTableView(Binder& bind) {
         row_(bind.widget("TISourceLabel"), stretch(),
              bind.iconButton("TIOpenCommand", QStringLiteral("open")),
              bind.iconButton("TIPasteCommand", QStringLiteral("paste"))),
-        grow(row_(choices(bind), gap(), grow(rows(bind)))), wrapped(bind.widget("TIMessageLabel")),
+        grow(reflow(choices(bind), grow(rows(bind)))), wrapped(bind.widget("TIMessageLabel")),
         row_(stretch(), bind.primary("TIImportCommand"), bind.widget("TICancelCommand"))));
 }
 

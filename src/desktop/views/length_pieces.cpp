@@ -66,7 +66,9 @@ QWidget* lengthHeadline(Binder& bind) {
     };
     refresh();
     bind.onSettled(refresh);
-    return group(new GroupBox, centredRow(figure, word, gap(), grow(sentence)));
+    auto* card = new GroupBox;
+    card->setLow();
+    return group(card, centredRow(figure, word, gap(), grow(sentence)));
 }
 
 QWidget* lengthPanel(Binder& bind) {

@@ -27,6 +27,8 @@ MonthTable::MonthTable(Binder& bind)
     addHeads();
     addMonths();
     addYear();
+    // Whichever of them holds the field, which would take more.
+    for (int column = 1; column < 4; ++column) grid_->setColumnStretch(column, 1);
     constexpr int figures = 9;
     static_cast<FieldEdit*>(field_)->setFigures(figures);
     field_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -42,7 +44,8 @@ QLabel* MonthTable::label(const std::string& name, int row, int column, bool fig
         label->setMinimumWidth(cellWidth);
         label->setContentsMargins(6, 2, 6, 2);
     }
-    label->setAlignment((column == 0 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    const Qt::Alignment right = Qt::AlignRight | (figure ? Qt::AlignAbsolute : Qt::Alignment());
+    label->setAlignment((column == 0 ? Qt::AlignLeft : right) | Qt::AlignVCenter);
     grid_->addWidget(label, row, column);
     return label;
 }

@@ -133,7 +133,7 @@ void addCurve(std::vector<FieldRow>& rows, Binder& bind, const std::string& stem
     rows.push_back(row);
     QWidget* fit = fitNote(bind, curveLabel(stem, "Fit", index));
     mute(fit);
-    rows.push_back(bind.wide(row_(fit, fitNote(bind, curveLabel(stem, "Turn", index)), stretch())));
+    rows.push_back(bind.wide(buttons(fit, fitNote(bind, curveLabel(stem, "Turn", index)))));
 }
 
 FieldRow termHeads(Binder& bind, const std::string& array, std::size_t first, std::size_t terms) {

@@ -8,6 +8,7 @@
 #include "desktop/views/pump_editor_pages.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/views.h"
+#include "desktop/widgets/stacking_split.h"
 #include "desktop/widgets/text_label.h"
 #include "forms/text_numbers.h"
 
@@ -56,7 +57,7 @@ QWidget* information(Binder& bind) {
 QWidget* pumpNames(Binder& bind) {
     constexpr int listWidth = 168;
     auto* list = static_cast<QAbstractItemView*>(bind.widget("PumpNamesList"));
-    list->setFixedWidth(listWidth);
+    list->setMinimumWidth(listWidth);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QWidget* label = bind.widget("PumpNamesLabel");
     mute(label);
@@ -76,7 +77,11 @@ QWidget* data(Binder& bind) {
     // Behind the frame's back, so that the page that is built first is a card as the others are.
     auto* layout = new QVBoxLayout(place);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(row_(pumpNames(bind), grow(pages)));
+    // The widest of the pages holds the factors of both modes side by side.
+    constexpr int widestPage = 82 * gridStep;
+    auto* split = new StackingSplit(pumpNames(bind), pages, [] { return widestPage; });
+    split->setStretchFactor(1, 1);
+    layout->addWidget(split);
     return frame;
 }
 

@@ -39,7 +39,7 @@ QWidget* waterResultsPage(Binder& bind) {
     return resultsPageOf(
         bind, parts,
         {grow(group(bind.frame("CACircuitFrame"),
-                    grow(bind.drawing("imgCircuit", circuit(bind, {440, 260})))))});
+                    grow(bind.drawing("imgCircuit", circuit(bind, {440, 190})))))});
 }
 
 QWidget* headersInSoil(Binder& bind) {
@@ -111,8 +111,9 @@ QWidget* pipingPage(Binder& bind) {
     return column(
         group(bind.frame("PIPipeParametersSSTab"),
               grow(reflow(grow(loopFields(bind), 2),
-                          grow(column(headersPanel(bind), bind.widget("PIPipeTablesCommand"),
-                                      grow(bind.drawing(circuit(bind, {440, 140})))),
+                          grow(column(headersPanel(bind),
+                                      grow(row_(bind.widget("PIPipeTablesCommand"),
+                                                grow(bind.drawing(circuit(bind, {320, 120})))))),
                                3)))));
 }
 

@@ -72,7 +72,7 @@ QWidget* top(Binder& bind) {
                              bind.widget("WIMeasureOption(1)"));
     QWidget* told = column(noticeBar(bind), wrapped(bind.widget("WIMessageLabel")),
                            mutedText(bind, "WINoteLabel"), mutedText(bind, "WIStateLabel"));
-    return row_(need, gap(), measure, gap(), grow(told));
+    return reflow(need, measure, grow(told));
 }
 
 // What decides.
@@ -102,7 +102,7 @@ QWidget* decidesPage(Binder& bind) {
         bind.drawing("imgTornado",
                      newTornadoDrawing(from(bind, &frmWhatIf::tornadoPicture), bind.form()->texts(),
                                        pointing(bind, "imgTornado", &frmWhatIf::pointAtBar)));
-    return row_(fields, gap(), grow(column(grow(picture), ties)));
+    return reflow(fields, grow(column(grow(picture), ties)));
 }
 
 // How sure.
@@ -129,7 +129,7 @@ QWidget* surePage(Binder& bind) {
         "imgSure", newSureDrawing(from(bind, &frmWhatIf::surePicture), bind.form()->texts()));
     QWidget* told = column(asked, depths, wrapped(bind.widget("WITestLabel")),
                            mutedText(bind, "WISafetyLabel"), stretch());
-    return column(largest(bind.widget("WIQuestionLabel")), grow(row_(told, gap(), grow(picture))));
+    return column(largest(bind.widget("WIQuestionLabel")), grow(reflow(told, grow(picture))));
 }
 
 // Layout.
@@ -164,9 +164,8 @@ QWidget* layoutPage(Binder& bind) {
                           grow(bind.widget("WLList")),
                           buttons(bind.widget("WLTakeCommand"), bind.widget("WLCopyCommand")));
     QWidget* found = column(wrapped(bind.widget("WLMessageLabel")),
-                            grow(row_(grow(picture), gap(), grow(points)), 3), grow(list, 2));
-    return row_(column(land(bind), stretch()), gap(), column(search(bind), stretch()), gap(),
-                grow(found));
+                            grow(reflow(grow(picture), grow(points)), 3), grow(list, 2));
+    return reflow(column(land(bind), stretch()), column(search(bind), stretch()), grow(found));
 }
 
 // Cost.
@@ -194,10 +193,9 @@ QWidget* costPage(Binder& bind) {
             bind.figure(elementName("WCResultCaptionLabel", i), elementName("WCResultLabel", i)));
     QWidget* picture = bind.drawing(
         "imgCost", newCostDrawing(from(bind, &frmWhatIf::costPicture), bind.form()->texts()));
-    QWidget* cost =
-        group(bind.frame("WCResultFrame"), row_(gridOf(parts), gap(), gridOf(results), stretch()),
-              grow(picture), mutedText(bind, "WCLeftOutLabel"));
-    return column(row_(build, gap(), others, gap(), energy, stretch()), grow(cost));
+    QWidget* cost = group(bind.frame("WCResultFrame"), reflow(gridOf(parts), grow(gridOf(results))),
+                          grow(picture), mutedText(bind, "WCLeftOutLabel"));
+    return column(reflow(build, others, grow(energy)), grow(cost));
 }
 
 // Alternatives.
@@ -212,15 +210,16 @@ QWidget* comparison(Binder& bind) {
             figureRow(bind, elementName("WVRowLabel", i), array + "Label", alternativeColumns));
         rows.push_back(headRow(bind, array + "ChangeLabel", alternativeColumns));
     }
-    return group(bind.frame("WVTableFrame"), grow(new ComparisonTable(rows)),
-                 wrapped(bind.widget("WVReasonLabel")));
+    auto* table = new ComparisonTable(rows);
+    table->setObjectName(QStringLiteral("alternativesTable"));
+    return group(bind.frame("WVTableFrame"), grow(table), wrapped(bind.widget("WVReasonLabel")));
 }
 
 QWidget* alternativesPage(Binder& bind) {
     QWidget* kept = group(bind.frame("WVKeepFrame"), grid(bind.row("WVNameText")),
                           buttons(bind.widget("WVKeepCommand")), grow(bind.widget("WVList")),
                           buttons(bind.widget("WVRestoreCommand"), bind.widget("WVRemoveCommand")));
-    return row_(kept, gap(), grow(comparison(bind)));
+    return reflow(kept, grow(comparison(bind)));
 }
 
 // Tower.
@@ -231,7 +230,7 @@ QWidget* towerPage(Binder& bind) {
                            buttons(bind.widget("WTTakeCommand")));
     QWidget* picture = bind.drawing(
         "imgTower", newTowerDrawing(from(bind, &frmWhatIf::towerPicture), bind.form()->texts()));
-    return row_(column(judge, stretch()), gap(), grow(picture));
+    return reflow(column(judge, stretch()), grow(picture));
 }
 
 }  // namespace

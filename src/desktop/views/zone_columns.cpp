@@ -135,13 +135,12 @@ QStringList headsOf(const Binder& bind) {
 
 void addColumns(Binder& bind, ListView& list) {
     const auto columns = std::make_shared<ZoneColumns>(bind);
-    list.setColumns({headsOf(bind), [columns](int row, int column, int role) {
-                         return columns->data(row, column, role);
-                     }});
+    // Numbers are seen whole; loads are bars, which need little.
+    list.setColumns(
+        {headsOf(bind),
+         [columns](int row, int column, int role) { return columns->data(row, column, role); },
+         {{0, 0}, {8, 3}, {5, 2}, {7, 2}}});
     list.setItemDelegateForColumn(loadColumn, new LoadBars(&list));
-    // Numbers and labels find room; loads are bars, which need little.
-    constexpr int widths[] = {11 * gridStep, 12 * gridStep, 9 * gridStep};
-    for (int column = 0; column < 3; ++column) list.setColumnWidth(column, widths[column]);
     list.setCells({[&list](int row) {
                        QStringList cells;
                        for (int column = 0; column < list.entries().columnCount(); ++column)

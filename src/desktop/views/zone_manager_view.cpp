@@ -12,6 +12,7 @@
 #include "desktop/widgets/column_heads.h"
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/stacking_split.h"
 #include "forms/text_numbers.h"
 #include "loads/frmZoneManage.h"
 
@@ -138,12 +139,13 @@ QWidget* summary(Binder& bind) {
     return bind.panel("LOSummaryPicture", [&bind] { return summaryFields(bind); });
 }
 
-/// The summary above the zone, where it is seen as soon as it opens.
+/// The summary above the zone, where it is seen as soon as it opens. In a narrow window its table
+/// needs the place of the list, which then stands above it.
 QWidget* zonesPage(Binder& bind) {
     constexpr int listShare = 1, zoneShare = 3;
-    QWidget* zone = new ScrollPage(
+    auto* zone = new ScrollPage(
         column(firstZone(bind, Text::noZonesYet), grow(summary(bind)), zonePanel(bind)));
-    return column(grow(split(zoneList(bind), zone, listShare, zoneShare)));
+    return column(grow(besidePage(zoneList(bind), zone, listShare, zoneShare)));
 }
 
 }  // namespace

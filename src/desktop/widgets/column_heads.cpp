@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QFontMetricsF>
+#include <QLabel>
 #include <algorithm>
 #include <utility>
 
@@ -62,13 +63,32 @@ bool ColumnHeads::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
+/// Over its column, or as far beyond it as its text takes.
+QRect ColumnHeads::wantedPlace(const Head& head) const {
+    const QSize size = head.label->sizeHint();
+    const double from = columnAt(head.first), to = columnAt(head.last);
+    const double left = std::max(0.0, head.left ? from : (from + to - size.width()) / 2);
+    return {{static_cast<int>(left), head.line * size.height()}, size};
+}
+
+/// Longer captions give way to their neighbours, half each.
 void ColumnHeads::place() {
-    for (const Head& head : heads_) {
-        const QSize size = head.label->sizeHint();
-        const double from = columnAt(head.first), to = columnAt(head.last);
-        const double left = std::max(0.0, head.left ? from : (from + to - size.width()) / 2);
-        head.label->setGeometry(static_cast<int>(left), head.line * size.height(), size.width(),
-                                size.height());
+    std::vector<QRect> places;
+    for (const Head& head : heads_) places.push_back(wantedPlace(head));
+    for (QRect& one : places)
+        for (QRect& next : places) {
+            const bool meet = one.y() == next.y() && one.x() < next.x() && one.right() >= next.x();
+            if (!meet) continue;
+            constexpr int apart = 3;
+            const int middle = (next.x() + one.right()) / 2;
+            one.setRight(middle - apart);
+            next.setLeft(middle + apart);
+        }
+    for (std::size_t i = 0; i < heads_.size(); ++i) {
+        heads_[i].label->setGeometry(places[i]);
+        const bool cut = places[i].width() < heads_[i].label->sizeHint().width();
+        const auto* text = qobject_cast<const QLabel*>(heads_[i].label);
+        heads_[i].label->setToolTip(cut && text != nullptr ? text->text() : QString());
     }
 }
 

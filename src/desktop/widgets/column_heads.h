@@ -29,6 +29,7 @@ class ColumnHeads : public QWidget {
 
  private:
     void place();
+    QRect wantedPlace(const Head& head) const;
     double columnAt(int character) const;
 
     QWidget* list_;

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QStyle>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -74,6 +75,8 @@ constexpr double fineRange = 20;
 }  // namespace
 
 NumberSlider::NumberSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
+    // Larger numbers are at the right in every language, as on the axis of a chart.
+    setLayoutDirection(Qt::LeftToRight);
     NumberSlider::setNumbers(0, 100);
     setMinimumWidth(160);
     connect(this, &QSlider::valueChanged, this, [this](int position) { snap(position); });
@@ -214,6 +217,10 @@ void GroupBox::setTitle(const QString& title) {
     setAccessibleName(title);
 }
 
+void GroupBox::setLow() {
+    layout_->setContentsMargins(2 * gridStep, gridStep / 2, 2 * gridStep, gridStep / 2);
+}
+
 void GroupBox::setContent(QWidget* content) {
     delete content_;
     content_ = content;
@@ -238,7 +245,9 @@ void GroupBox::paintEvent(QPaintEvent*) {
         const int middle = title_->geometry().center().y();
         const int from =
             title_->x() + title_->fontMetrics().horizontalAdvance(title_->text()) + gridStep;
-        if (from < width()) painter.drawLine(from, middle, width() - 1, middle);
+        const QRect line(from, middle, width() - from, 1);
+        if (from < width())
+            painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), line), look.hairline);
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing);

@@ -125,6 +125,8 @@ class GroupBox : public QWidget {
     void setTitle(const QString& title);
     QString title() const { return title_->text(); }
     QLabel* titleLabel() const { return title_; }
+    /// A card of one line, no higher than the line needs.
+    void setLow();
     /// Takes what the group shows. Groups within it become sections.
     void setContent(QWidget* content);
     QWidget* content() const { return content_; }

@@ -69,7 +69,8 @@ bool takesPlace(const QWidget* field) {
 FieldGrid::FieldGrid(const std::vector<FieldRow>& rows) : layout_(new QGridLayout(this)) {
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setHorizontalSpacing(gridStep);
-    layout_->setVerticalSpacing(gridStep / 2);
+    // Lines of figures need no room for edges between them.
+    layout_->setVerticalSpacing(holdsFields(rows) ? gridStep / 2 : gridStep / 4);
     const int fieldColumns = mostFields(rows);
     int line = 0;
     for (const FieldRow& row : rows) addRow(line++, row, fieldColumns);
@@ -314,18 +315,6 @@ QWidget* buttonsOf(const std::vector<QWidget*>& buttons) {
     box->setSizePolicy(policy);
     box->setProperty(expandsProperty, false);
     return box;
-}
-
-QWidget* split(QWidget* left, QWidget* right, int leftShare, int rightShare) {
-    auto* splitter = new QSplitter(Qt::Horizontal);
-    splitter->setChildrenCollapsible(false);
-    splitter->setHandleWidth(gridStep);
-    splitter->addWidget(left);
-    splitter->addWidget(right);
-    splitter->setStretchFactor(0, leftShare);
-    splitter->setStretchFactor(1, rightShare);
-    splitter->setProperty(expandsProperty, true);
-    return splitter;
 }
 
 QWidget* wrapped(QWidget* label) {

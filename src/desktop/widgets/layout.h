@@ -81,9 +81,6 @@ QWidget* buttons(B... widgets) {
     return buttonsOf({widgets...});
 }
 
-/// Two pieces beside each other with a bar between them that can be dragged.
-QWidget* split(QWidget* left, QWidget* right, int leftShare = 1, int rightShare = 2);
-
 /// A label that may take several lines.
 QWidget* wrapped(QWidget* label);
 

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
@@ -136,15 +137,57 @@ void ListView::setItems(const std::vector<std::string>& items) {
     writing_ = false;
 }
 
-/// Columns beside the entries have widths of their own, which a person sets.
 void ListView::fitColumns() {
-    if (model_->hasColumns()) return;
+    if (model_->hasColumns()) return shareWidth();
     for (int column = 0; column + 1 < model_->columnCount(); ++column)
         resizeColumnToContents(column);
 }
 
+int ListView::leastWidthOf(int column) const {
+    const int digits = model_->widths()[static_cast<std::size_t>(column)].least;
+    if (digits > 0) return digits * fontMetrics().horizontalAdvance(u'0');
+    // With a sign before the entry, which may come any time.
+    const int sign = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    return std::max(longestEntry() + sign + 3 * gridStep / 2, header()->sectionSizeHint(column));
+}
+
+/// Columns from the first on, as many as find room, the last one up to the list's edge.
+void ListView::shareWidth() {
+    if (sized_ || model_->widths().empty()) return;
+    sharing_ = true;
+    int rest = viewport()->width(), shares = 0, shown = 0;
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        const bool fits = shown == column && (column == 0 || leastWidthOf(column) <= rest);
+        setColumnHidden(column, !fits);
+        if (!fits) continue;
+        ++shown;
+        rest -= leastWidthOf(column);
+        shares += model_->widths()[static_cast<std::size_t>(column)].share;
+    }
+    rest = std::max(rest, 0);
+    for (int column = 0; column + 1 < shown; ++column) {
+        const int share = model_->widths()[static_cast<std::size_t>(column)].share;
+        setColumnWidth(column, leastWidthOf(column) + rest * share / std::max(shares, 1));
+    }
+    sharing_ = false;
+}
+
+/// The last column follows the list's edge without a person.
+void ListView::noteSizedColumn(int column) {
+    const bool byHand = !sharing_ && QApplication::mouseButtons() != Qt::NoButton;
+    int last = model_->columnCount() - 1;
+    while (last > 0 && isColumnHidden(last)) --last;
+    if (byHand && column != last) sized_ = true;
+}
+
+void ListView::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    if (model_->hasColumns()) shareWidth();
+}
+
 void ListView::setColumns(ListColumns columns) {
     model_->setColumns(std::move(columns));
+    connect(header(), &QHeaderView::sectionResized, this, &ListView::noteSizedColumn);
     setHeaderHidden(false);
     header()->setSortIndicatorClearable(true);
     header()->setSortIndicator(-1, Qt::AscendingOrder);

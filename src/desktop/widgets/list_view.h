@@ -17,6 +17,12 @@ struct ListColumns {
     /// What a cell of a further column, from 1, says for a role of the toolkit; of column 0, what
     /// is not the entry's own text. Sorting goes by Qt::UserRole.
     std::function<QVariant(int row, int column, int role)> data;
+    /// How wide a column is until a person sizes it.
+    struct Width {
+        int least;  ///< in digits; 0 in the first column: as wide as the longest entry
+        int share;  ///< of the room that is left over
+    };
+    std::vector<Width> widths;
 };
 
 /// The entries of a list box. An entry's tabs part it into columns; columns of figures stand right.
@@ -30,6 +36,7 @@ class ListModel : public QAbstractTableModel {
     const QStringList& heads() const { return heads_; }
     void setColumns(ListColumns columns);
     bool hasColumns() const { return !further_.heads.isEmpty(); }
+    const std::vector<ListColumns::Width>& widths() const { return further_.widths; }
     /// What the further columns say has changed.
     void refreshColumns();
 
@@ -85,7 +92,8 @@ class ListView : public QTreeView {
     /// Puts heads over the columns.
     void setHeads(const QStringList& heads);
 
-    /// Puts columns beside the entries that can be sized and sorted by.
+    /// Puts columns beside the entries that can be sized and sorted by. Until a person sizes them
+    /// they fill the list; those that find no room are not shown.
     void setColumns(ListColumns columns);
     void refreshColumns();
     /// Shows only the rows that hold the text. What is selected stays selected.
@@ -104,12 +112,16 @@ class ListView : public QTreeView {
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
     QSize sizeHint() const override;
 
  private:
     void fitColumns();
+    void shareWidth();
+    int leastWidthOf(int column) const;
+    void noteSizedColumn(int column);
     QStringList cellsOf(int row) const;
     int longestEntry() const;
     void select(const std::vector<int>& rows);
@@ -124,6 +136,8 @@ class ListView : public QTreeView {
     Cells cells_;
     bool writing_ = false;
     bool told_ = false;
+    bool sharing_ = false;
+    bool sized_ = false;  ///< a person has sized a column
 };
 
 }  // namespace varnholt

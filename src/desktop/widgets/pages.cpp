@@ -18,7 +18,7 @@ namespace {
 class Rule : public QWidget {
  public:
     Rule() {
-        setFixedHeight(gridStep + 1);
+        setFixedHeight(gridStep / 2 + 1);
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     }
 
@@ -97,13 +97,12 @@ class Revealer : public QObject {
 }  // namespace
 
 QWidget* page(QWidget* content) {
-    constexpr int margin = 2 * gridStep;
-    content->layout()->setContentsMargins(margin, margin, margin, margin);
+    content->layout()->setContentsMargins(2 * gridStep, gridStep, 2 * gridStep, gridStep);
     return content;
 }
 
 QWidget* bar(QWidget* content) {
-    content->layout()->setContentsMargins(2 * gridStep, gridStep, 2 * gridStep, 0);
+    content->layout()->setContentsMargins(2 * gridStep, gridStep / 2, 2 * gridStep, 0);
     return content;
 }
 

@@ -86,7 +86,10 @@ QColor TextLabel::colour() const {
 QRectF TextLabel::placeOfLine() const {
     const QRectF place = contentsRect();
     const QSizeF size = sizeOfLine();
-    const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
+    // Figures stand below one another by their last digits in every language.
+    const bool asAligned = figures_ && (alignment() & Qt::AlignRight) != 0;
+    const Qt::Alignment side =
+        asAligned ? alignment() : QStyle::visualAlignment(layoutDirection(), alignment());
     const double across = place.width() - size.width(), down = place.height() - size.height();
     QPointF corner = place.topLeft();
     if ((side & Qt::AlignRight) != 0) corner.rx() += across;
@@ -96,7 +99,15 @@ QRectF TextLabel::placeOfLine() const {
     return {corner, size};
 }
 
+/// Where the room is too short, a text ends in dots; figures are never shortened.
 void TextLabel::drawLine(QPainter& painter) const {
+    const QRect room = contentsRect();
+    if (!showsFigures() && shaped().size().width() > room.width() + 1) {
+        const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
+        painter.drawText(room, static_cast<int>(side),
+                         fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
+        return;
+    }
     const QPointF corner = placeOfLine().topLeft();
     if (showsFigures())
         figureText_.draw(painter, corner);

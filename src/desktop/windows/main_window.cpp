@@ -266,11 +266,11 @@ void MainWindow::findByName() {
                  openFiles({path});
              }});
     const auto word = [this](int number) { return qt(main_.text(number)); };
-    auto* finder =
-        new NameFinder(this, std::move(things),
-                       {word(Text::findByName), word(Text::findByNamePrompt),
-                        word(Text::emptySearch), word(Text::nothingOfThatName),
-                        word(Text::kindCommand), word(Text::kindField), word(Text::kindExample)});
+    auto* finder = new NameFinder(
+        this, std::move(things),
+        {word(Text::findByName), word(Text::findByNamePrompt), word(Text::emptySearch),
+         word(Text::nothingOfThatName), word(Text::kindCommands), word(Text::kindFields),
+         word(Text::kindExamples)});
     finder->show();
 }
 

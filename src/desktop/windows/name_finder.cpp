@@ -12,6 +12,7 @@
 
 #include "desktop/widgets/house_widgets.h"
 #include "desktop/widgets/look.h"
+#include "desktop/windows/name_lines.h"
 
 namespace varnholt {
 namespace {
@@ -58,6 +59,8 @@ NameFinder::NameFinder(QWidget* parent, std::vector<NamedThing> things, NameFind
     makeSearch(*typed_, words_.prompt, words_.empty);
     list_->setAccessibleName(words_.title);
     list_->setUniformItemSizes(true);
+    list_->setItemDelegate(new NameLines(list_));
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(typed_);
     layout->addWidget(list_, 1);
@@ -73,38 +76,56 @@ NameFinder::NameFinder(QWidget* parent, std::vector<NamedThing> things, NameFind
 QString NameFinder::wordOf(NamedThing::Kind kind) const {
     switch (kind) {
         case NamedThing::Kind::command:
-            return words_.command;
+            return words_.commands;
         case NamedThing::Kind::field:
-            return words_.field;
+            return words_.fields;
         case NamedThing::Kind::example:
             break;
     }
-    return words_.example;
+    return words_.examples;
 }
 
-void NameFinder::addLine(const NamedThing& thing) {
-    QString line = thing.name + QStringLiteral("   ") + wordOf(thing.kind);
-    if (!thing.place.isEmpty()) line += QStringLiteral(", ") + thing.place;
-    if (!thing.keys.isEmpty()) line += QStringLiteral("   ") + thing.keys;
-    auto* item = new QListWidgetItem(line, list_);
+void NameFinder::addHead(NamedThing::Kind kind) {
+    auto* head = new QListWidgetItem(wordOf(kind), list_);
+    head->setFlags(Qt::NoItemFlags);
+}
+
+void NameFinder::addLine(const NamedThing& thing, int number) {
+    auto* item = new QListWidgetItem(thing.name, list_);
+    item->setData(placeRole, thing.place);
+    item->setData(keysRole, thing.keys);
+    item->setData(thingRole, number);
+    QStringList told{thing.name, wordOf(thing.kind), thing.place, thing.keys};
+    told.removeAll(QString());
+    item->setData(Qt::AccessibleTextRole, told.join(QStringLiteral(", ")));
     if (!thing.usable) item->setFlags(Qt::NoItemFlags);
 }
 
+/// In groups, that of the best thing first.
 void NameFinder::fill() {
     list_->clear();
     shown_ = found(things_, typed_->text());
-    for (const NamedThing& thing : shown_) addLine(thing);
-    const auto first = std::find_if(shown_.begin(), shown_.end(),
-                                    [](const NamedThing& thing) { return thing.usable; });
-    if (first != shown_.end()) list_->setCurrentRow(static_cast<int>(first - shown_.begin()));
+    std::vector<NamedThing::Kind> groups;
+    for (const NamedThing& thing : shown_)
+        if (std::find(groups.begin(), groups.end(), thing.kind) == groups.end())
+            groups.push_back(thing.kind);
+    for (const NamedThing::Kind kind : groups) {
+        addHead(kind);
+        for (std::size_t i = 0; i < shown_.size(); ++i)
+            if (shown_[i].kind == kind) addLine(shown_[i], static_cast<int>(i));
+    }
+    for (int row = list_->count() - 1; row >= 0; --row)
+        if ((list_->item(row)->flags() & Qt::ItemIsEnabled) != 0) list_->setCurrentRow(row);
+    list_->scrollToTop();
     nothing_->setVisible(shown_.empty());
 }
 
 /// The dialog is gone before the command runs, which may open others or move the focus.
 void NameFinder::doMarked() {
-    const int row = list_->currentRow();
-    if (row < 0 || !shown_[static_cast<std::size_t>(row)].usable) return;
-    const std::function<void()> run = shown_[static_cast<std::size_t>(row)].run;
+    const QListWidgetItem* item = list_->currentItem();
+    if (item == nullptr || (item->flags() & Qt::ItemIsEnabled) == 0) return;
+    const auto number = static_cast<std::size_t>(item->data(thingRole).toInt());
+    const std::function<void()> run = shown_[number].run;
     QTimer::singleShot(0, parentWidget(), run);
     close();
 }

@@ -28,10 +28,10 @@ struct NamedThing {
 /// with it; among equals in their own order.
 std::vector<NamedThing> found(const std::vector<NamedThing>& things, const QString& typed);
 
-/// Words of the list.
+/// Words of the list: its own, and the heads of its groups.
 struct NameFinderWords {
     QString title, prompt, empty, nothing;
-    QString command, field, example;
+    QString commands, fields, examples;
 };
 
 /// A list of everything that has a name, narrowed by typing; Enter does the one that is marked.
@@ -47,7 +47,8 @@ class NameFinder : public QDialog {
 
  private:
     void fill();
-    void addLine(const NamedThing& thing);
+    void addHead(NamedThing::Kind kind);
+    void addLine(const NamedThing& thing, int number);
     void doMarked();
     QString wordOf(NamedThing::Kind kind) const;
 

@@ -74,8 +74,8 @@ int runPrepared(QApplication& application, const CommandLine& line) {
     MainWindow window(main, faults, joinPath(folder, "recent files.txt"));
     shelf.rememberPlaces(windowPlaces);
     shelf.setMain(window, main);
-    const ReportWindows reports(window, platform, program.reports(), program.texts(),
-                                localeOf(line));
+    ReportWindows reports(window, platform, program.reports(), program.texts(), localeOf(line));
+    reports.rememberPlaces(windowPlaces);
     const HelpPlaces places = helpPlacesOf(program, window);
     help.setPlaces(places);
     pages.openExamplesBy(places.openExample);

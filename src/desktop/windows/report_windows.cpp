@@ -14,11 +14,52 @@
 #include "desktop/windows/desktop_platform.h"
 #include "desktop/windows/main_window.h"
 #include "desktop/windows/report_preview.h"
+#include "desktop/windows/window_places.h"
 #include "forms/platform.h"
 #include "forms/text_numbers.h"
 #include "reports/report_shelf.h"
 
 namespace varnholt {
+namespace {
+
+constexpr const char* previewPlaces = "ReportPreview";
+
+/// The window of a preview, which leaves word of its place when it goes.
+class PreviewFrame : public QMdiSubWindow {
+ public:
+    explicit PreviewFrame(WindowPlaces* places) : places_(places) {
+        setAttribute(Qt::WA_DeleteOnClose);
+    }
+    ~PreviewFrame() override {
+        if (places_ != nullptr && own_.isValid())
+            places_->keep(previewPlaces, {own_, maximised_, {}});
+    }
+    PreviewFrame(const PreviewFrame&) = delete;
+    PreviewFrame& operator=(const PreviewFrame&) = delete;
+
+ protected:
+    void moveEvent(QMoveEvent* event) override {
+        QMdiSubWindow::moveEvent(event);
+        notePlace();
+    }
+    void resizeEvent(QResizeEvent* event) override {
+        QMdiSubWindow::resizeEvent(event);
+        notePlace();
+    }
+
+ private:
+    void notePlace() {
+        if (!isVisible() || isMinimized()) return;
+        maximised_ = isMaximized();
+        if (!maximised_) own_ = geometry();
+    }
+
+    WindowPlaces* places_;
+    QRect own_;
+    bool maximised_ = false;
+};
+
+}  // namespace
 
 void writePdfWith(ReportShelf& shelf, const Texts& texts, unsigned localeNumber) {
     shelf.writePdf = [&texts, localeNumber](const Report& report, const std::string& path) {
@@ -71,18 +112,27 @@ ReportPreview* ReportWindows::show(std::shared_ptr<const Report> report) {
     if (!preview->view().pages()->isComplete()) return nullptr;
     ReportPreview* shown = preview.release();
     window_.showArea(true);
-    QMdiSubWindow* frame = window_.area().addSubWindow(shown);
-    frame->setAttribute(Qt::WA_DeleteOnClose);
-    const QSize room = window_.area().viewport()->size();
-    frame->resize(shown->sizeHint().boundedTo(room));
-    frame->move(std::max(0, room.width() - frame->width()), 0);
-    frame->show();
+    auto* frame = new PreviewFrame(remembered_);
+    frame->setWidget(shown);
+    window_.area().addSubWindow(frame);
+    place(*frame, shown->sizeHint());
     QObject::connect(shown, &QObject::destroyed, &window_, [this] {
         QMetaObject::invokeMethod(
             &window_, [this] { window_.showArea(!window_.area().subWindowList().isEmpty()); },
             Qt::QueuedConnection);
     });
     return shown;
+}
+
+/// Where the last one was; else at the right, beside what it reports of.
+void ReportWindows::place(QMdiSubWindow& frame, const QSize& usual) const {
+    const QRect room(QPoint(0, 0), window_.area().viewport()->size());
+    const auto left = remembered_ == nullptr ? std::nullopt : remembered_->placeOf(previewPlaces);
+    const QSize size = usual.boundedTo(room.size());
+    const QRect beside(QPoint(std::max(0, room.width() - size.width()), 0), size);
+    frame.setGeometry(left ? fittedInto(room, left->geometry) : beside);
+    frame.show();
+    if (left && left->maximised) frame.showMaximized();
 }
 
 void ReportWindows::tell(const std::string& message) {

@@ -7,7 +7,9 @@
 #include "forms/texts.h"
 
 class QElapsedTimer;
+class QMdiSubWindow;
 class QProgressDialog;
+class QSize;
 
 namespace varnholt {
 
@@ -16,6 +18,7 @@ class Platform;
 struct Report;
 class ReportPreview;
 class ReportShelf;
+class WindowPlaces;
 
 /// Lets the shelf write reports as PDF, on the paper that is usual in the locale.
 void writePdfWith(ReportShelf& shelf, const Texts& texts, unsigned localeNumber);
@@ -28,6 +31,9 @@ class ReportWindows {
                   unsigned localeNumber);
     ~ReportWindows();
 
+    /// Previews open where a person has left the last one, and are kept there when they close.
+    /// @param places  outlives the previews
+    void rememberPlaces(WindowPlaces& places) { remembered_ = &places; }
     /// Opens a preview. Null where the user has broken off laying it out.
     ReportPreview* show(std::shared_ptr<const Report> report);
     /// The paper of the previews to come.
@@ -37,11 +43,13 @@ class ReportWindows {
     void setUpPrinter();
     void tell(const std::string& message);
     bool progress(int what, std::size_t done, std::size_t total);
+    void place(QMdiSubWindow& frame, const QSize& usual) const;
 
     MainWindow& window_;
     Platform& platform_;
     ReportShelf& shelf_;
     const Texts& texts_;
+    WindowPlaces* remembered_ = nullptr;
     PageSetup setup_;
     std::unique_ptr<QProgressDialog> progress_;
     std::unique_ptr<QElapsedTimer> started_;

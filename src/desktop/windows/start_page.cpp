@@ -1,30 +1,61 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/windows/start_page.h"
 
+#include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QResizeEvent>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <iterator>
+#include <functional>
+#include <memory>
+#include <span>
+#include <utility>
 
 #include "basis/file_system.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/text_label.h"
+#include "desktop/windows/project_miniature.h"
 #include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {
 namespace {
 
-/// A button as wide as the page's card: an icon, the command, and below it what it is for.
+/// A picture at the left of a button.
+struct StartPicture {
+    QSize size;
+    std::function<void(QPainter& painter, const QRect& place, const QWidget& button)> paint;
+};
+
+constexpr QSize iconRoom{28, 28};
+constexpr QSize miniatureRoom{64, 40};
+
+StartPicture iconPicture(const char* name) {
+    return {iconRoom, [icon = houseIcon(QString::fromLatin1(name))](
+                          QPainter& painter, const QRect& place, const QWidget&) {
+                icon.paint(&painter, place);
+            }};
+}
+
+/// What the project holds, drawn from its file; the icon of its kind where that cannot be read.
+StartPicture projectPicture(const std::string& path, const char* icon) {
+    return {miniatureRoom, [miniature = std::make_shared<ProjectMiniature>(path),
+                            kind = houseIcon(QString::fromLatin1(icon))](
+                               QPainter& painter, const QRect& place, const QWidget& button) {
+                if (!miniature->paint(painter, place, button)) kind.paint(&painter, place);
+            }};
+}
+
+/// A button as wide as the page's card: a picture, the command, and below it what it is for.
 class StartButton : public QPushButton {
  public:
-    StartButton(const QIcon& icon, QString command, QString hint)
-        : icon_(icon), command_(std::move(command)), hint_(std::move(hint)) {
+    StartButton(StartPicture picture, QString command, QString hint)
+        : picture_(std::move(picture)), command_(std::move(command)), hint_(std::move(hint)) {
         setAccessibleName(command_);
         setAccessibleDescription(hint_);
         setCursor(Qt::PointingHandCursor);
@@ -32,10 +63,20 @@ class StartButton : public QPushButton {
         setAttribute(Qt::WA_Hover);
     }
 
+    /// Of a long folder the beginning and the end are shown.
+    void shortenHint() {
+        shortens_ = true;
+        setToolTip(hint_);
+    }
+
     QSize sizeHint() const override {
-        const int text =
-            std::max(heavy().horizontalAdvance(command_), fontMetrics().horizontalAdvance(hint_));
-        return {text + iconSize + 5 * gridStep, 2 * fontMetrics().height() + 2 * gridStep + 4};
+        constexpr int shortWidth = 30 * gridStep;
+        const int hint = fontMetrics().horizontalAdvance(hint_);
+        const int text = std::max(heavy().horizontalAdvance(command_),
+                                  shortens_ ? std::min(hint, shortWidth) : hint);
+        const int lines = 2 * fontMetrics().height() + gridStep / 2;
+        return {text + picture_.size.width() + 5 * gridStep,
+                std::max(lines + 2 * gridStep, picture_.size.height() + gridStep)};
     }
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -48,32 +89,40 @@ class StartButton : public QPushButton {
         painter.setPen(lit ? look.accent : look.hairline);
         painter.setBrush(isDown() ? look.hairline : look.field);
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
-        const QRect place(2 * gridStep, (height() - iconSize) / 2, iconSize, iconSize);
-        icon_.paint(&painter, place);
+        const QRect place(QPoint(3 * gridStep / 2, (height() - picture_.size.height()) / 2),
+                          picture_.size);
+        picture_.paint(painter, visual(place), *this);
         const int left = place.right() + 2 * gridStep;
         const int line = fontMetrics().height();
         const int top = (height() - 2 * line - 4) / 2;
+        const QRect words(left, top, width() - left - gridStep / 2, line);
         QFont font = this->font();
         font.setWeight(QFont::DemiBold);
         painter.setFont(font);
         painter.setPen(look.ink);
-        painter.drawText(QRect(left, top, width() - left, line), Qt::AlignVCenter, command_);
+        painter.drawText(visual(words), alignment(), command_);
         painter.setFont(this->font());
         painter.setPen(look.muted);
-        painter.drawText(QRect(left, top + line + 4, width() - left, line), Qt::AlignVCenter,
-                         hint_);
+        painter.drawText(visual(words.translated(0, line + 4)), alignment(),
+                         fontMetrics().elidedText(hint_, Qt::ElideMiddle, words.width()));
     }
 
  private:
+    QRect visual(const QRect& place) const {
+        return QStyle::visualRect(layoutDirection(), rect(), place);
+    }
+    int alignment() const {
+        return QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter;
+    }
     QFontMetrics heavy() const {
         QFont font = this->font();
         font.setWeight(QFont::DemiBold);
         return QFontMetrics(font);
     }
 
-    static constexpr int iconSize = 28;
-    QIcon icon_;
+    StartPicture picture_;
     QString command_, hint_;
+    bool shortens_ = false;
 };
 
 TextLabel* titleOf(const QString& text, double size) {
@@ -96,11 +145,12 @@ struct KnownExample {
 constexpr KnownExample templates[] = {
     {"office", "new-borehole", Text::templateOffice, Text::exampleOffice},
     {"school-north", "new-borehole", Text::templateSchool, Text::exampleSchool},
-    {"house", "new-borehole", Text::templateHouse, Text::exampleHouse}};
+    {"house", "new-horizontal", Text::templateHouse, Text::exampleHouse}};
 constexpr KnownExample knownExamples[] = {
     {"office", "new-borehole", 0, Text::exampleOffice},
     {"school-north", "new-borehole", 0, Text::exampleSchool},
-    {"house", "new-borehole", 0, Text::exampleHouse},
+    {"school-south", "new-borehole", 0, Text::exampleSouth},
+    {"house", "new-horizontal", 0, Text::exampleHouse},
     {"trench-office", "new-horizontal", 0, Text::exampleTrench},
     {"school-pond", "new-surface-water", 0, Text::examplePond}};
 
@@ -136,14 +186,42 @@ StartPage::StartPage(const Varnmain& main, std::function<void(const std::string&
     setWidget(whole);
 }
 
-void StartPage::addHead(int text) { fileLines_->addWidget(titleOf(qt(main_.text(text)), 1)); }
+/// Buttons below a head, in as many columns as find room beside the commands.
+void StartPage::addSection(int head, const std::vector<QWidget*>& buttons) {
+    if (buttons.empty()) return;
+    fileLines_->addWidget(titleOf(qt(main_.text(head)), 1));
+    auto* section = new QWidget;
+    auto* grid = new QGridLayout(section);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(gridStep);
+    grid->setVerticalSpacing(gridStep / 2);
+    for (int column = 0; column < columns_; ++column) grid->setColumnStretch(column, 1);
+    int place = 0;
+    for (QWidget* button : buttons) {
+        grid->addWidget(button, place / columns_, place % columns_);
+        ++place;
+    }
+    fileLines_->addWidget(section);
+}
 
-void StartPage::addFile(const QIcon& icon, const QString& name, const QString& hint,
-                        const std::function<void()>& open) {
-    auto* button = new StartButton(icon, name, hint);
+QWidget* StartPage::fileButton(QPushButton* button, const std::function<void()>& open) {
     // The page goes with the first window that opens: not from under the button's own hands.
     connect(button, &QPushButton::clicked, this, open, Qt::QueuedConnection);
-    fileLines_->addWidget(button);
+    return button;
+}
+
+std::vector<QWidget*> StartPage::recentButtons() {
+    constexpr std::size_t mostRecent = 4;
+    std::vector<std::string> recent = files_.recent();
+    if (recent.size() > mostRecent) recent.resize(mostRecent);
+    std::vector<QWidget*> buttons;
+    for (const std::string& path : recent) {
+        auto* button =
+            new StartButton(iconPicture("recent"), qt(fileNameOf(path)), qt(folderOf(path)));
+        button->shortenHint();
+        buttons.push_back(fileButton(button, [this, path] { files_.open(path); }));
+    }
+    return buttons;
 }
 
 /// The files are those of the moment.
@@ -152,32 +230,23 @@ void StartPage::fillFiles() {
         if (item->widget() != nullptr) item->widget()->deleteLater();
         delete item;
     }
-    constexpr std::size_t mostRecent = 4;
-    std::vector<std::string> recent = files_.recent();
-    if (recent.size() > mostRecent) recent.resize(mostRecent);
-    if (!recent.empty()) addHead(Text::startPageRecent);
-    for (const std::string& path : recent)
-        addFile(houseIcon(QStringLiteral("recent")), qt(fileNameOf(path)), qt(folderOf(path)),
-                [this, path] { files_.open(path); });
+    addSection(Text::startPageRecent, recentButtons());
     const std::vector<ExampleFile> examples = files_.examples();
-    const auto find = [&](const char* name) -> const ExampleFile* {
-        for (const ExampleFile& example : examples)
-            if (example.name == QLatin1String(name)) return &example;
-        return nullptr;
+    const auto buttonsOf = [&](std::span<const KnownExample> known,
+                               const std::function<void(const std::string&)>& open) {
+        std::vector<QWidget*> buttons;
+        for (const KnownExample& one : known)
+            for (const ExampleFile& file : examples)
+                if (file.name == QLatin1String(one.name))
+                    buttons.push_back(fileButton(
+                        new StartButton(projectPicture(file.path, one.icon),
+                                        one.caption == 0 ? file.name : qt(main_.text(one.caption)),
+                                        qt(main_.text(one.hint))),
+                        [open, path = file.path] { open(path); }));
+        return buttons;
     };
-    const bool any = std::any_of(std::begin(templates), std::end(templates),
-                                 [&](const KnownExample& known) { return find(known.name); });
-    if (any) addHead(Text::startPageTemplates);
-    for (const KnownExample& known : templates)
-        if (const ExampleFile* file = find(known.name))
-            addFile(houseIcon(QString::fromLatin1(known.icon)), qt(main_.text(known.caption)),
-                    qt(main_.text(known.hint)),
-                    [this, path = file->path] { files_.openAsTemplate(path); });
-    if (!examples.empty()) addHead(Text::startPageExamples);
-    for (const KnownExample& known : knownExamples)
-        if (const ExampleFile* file = find(known.name))
-            addFile(houseIcon(QString::fromLatin1(known.icon)), file->name,
-                    qt(main_.text(known.hint)), [this, path = file->path] { files_.open(path); });
+    addSection(Text::startPageTemplates, buttonsOf(templates, files_.openAsTemplate));
+    addSection(Text::startPageExamples, buttonsOf(knownExamples, files_.open));
     fileCard_->setVisible(fileLines_->count() > 0);
 }
 
@@ -191,12 +260,17 @@ void StartPage::resizeEvent(QResizeEvent* event) {
     across_->setDirection(event->size().width() < besideEachOther ? QBoxLayout::TopToBottom
                                                                   : QBoxLayout::LeftToRight);
     QScrollArea::resizeEvent(event);
+    constexpr int roomForTwo = 150 * gridStep;
+    const int columns = event->size().width() < roomForTwo ? 1 : 2;
+    if (columns == columns_) return;
+    columns_ = columns;
+    if (isVisible()) fillFiles();
 }
 
 QWidget* StartPage::line(const Varnmain& main, const std::string& entry, const char* icon,
                          int hint) {
-    auto* button = new StartButton(houseIcon(QString::fromLatin1(icon)),
-                                   qt(main.control(entry).caption()), qt(main.text(hint)));
+    auto* button =
+        new StartButton(iconPicture(icon), qt(main.control(entry).caption()), qt(main.text(hint)));
     connect(button, &QPushButton::clicked, this, [this, entry] { run_(entry); });
     return button;
 }

@@ -9,7 +9,7 @@
 #include "desktop/windows/named_things.h"
 
 class QBoxLayout;
-class QIcon;
+class QPushButton;
 class QVBoxLayout;
 
 namespace varnholt {
@@ -40,9 +40,9 @@ class StartPage : public QScrollArea {
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     QWidget* line(const Varnmain& main, const std::string& entry, const char* icon, int hint);
-    void addHead(int text);
-    void addFile(const QIcon& icon, const QString& name, const QString& hint,
-                 const std::function<void()>& open);
+    void addSection(int head, const std::vector<QWidget*>& buttons);
+    QWidget* fileButton(QPushButton* button, const std::function<void()>& open);
+    std::vector<QWidget*> recentButtons();
     void fillFiles();
 
     const Varnmain& main_;
@@ -53,6 +53,7 @@ class StartPage : public QScrollArea {
     QVBoxLayout* fileLines_;
     QVBoxLayout* card_;
     QWidget* picture_ = nullptr;
+    int columns_ = 1;
 };
 
 }  // namespace varnholt

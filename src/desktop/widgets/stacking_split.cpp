@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/widgets/stacking_split.h"
+
+#include <QEvent>
+#include <QStyle>
+#include <algorithm>
+
+#include "desktop/widgets/house_widgets.h"
+#include "desktop/widgets/look.h"
+
+namespace varnholt {
+namespace {
+
+/// Tells a split when what its page shows becomes wider or narrower.
+class NeedWatcher : public QObject {
+ public:
+    NeedWatcher(StackingSplit& split, QWidget* content) : QObject(&split), split_(split) {
+        content->installEventFilter(this);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::LayoutRequest) split_.arrange();
+        return QObject::eventFilter(watched, event);
+    }
+
+ private:
+    StackingSplit& split_;
+};
+
+/// With the bar that a page higher than its window has.
+int widthWithoutScrolling(const ScrollPage& page) {
+    const int bar = page.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &page);
+    return page.widget()->minimumSizeHint().width() + bar;
+}
+
+}  // namespace
+
+StackingSplit::StackingSplit(QWidget* first, QWidget* second, std::function<int()> needed)
+    : QSplitter(Qt::Horizontal), needed_(std::move(needed)) {
+    setChildrenCollapsible(false);
+    setHandleWidth(gridStep);
+    addWidget(first);
+    addWidget(second);
+}
+
+void StackingSplit::arrange() {
+    const int first = std::max(widget(0)->minimumWidth(), widget(0)->minimumSizeHint().width());
+    const Qt::Orientation way =
+        width() < first + handleWidth() + needed_() ? Qt::Vertical : Qt::Horizontal;
+    if (way == orientation()) return;
+    (way == Qt::Vertical ? beside_ : above_) = sizes();
+    setOrientation(way);
+    const QList<int>& before = way == Qt::Vertical ? above_ : beside_;
+    // Above what it chooses from, a list is low: a few of its rows.
+    constexpr int partsAbove = 4;
+    if (!before.isEmpty())
+        setSizes(before);
+    else if (way == Qt::Vertical)
+        setSizes({height() / partsAbove, height() - height() / partsAbove});
+}
+
+void StackingSplit::resizeEvent(QResizeEvent* event) {
+    arrange();
+    QSplitter::resizeEvent(event);
+}
+
+StackingSplit* besidePage(QWidget* list, ScrollPage* page, int listShare, int pageShare) {
+    auto* split = new StackingSplit(list, page, [page] { return widthWithoutScrolling(*page); });
+    new NeedWatcher(*split, page->widget());
+    split->setStretchFactor(0, listShare);
+    split->setStretchFactor(1, pageShare);
+    return split;
+}
+
+}  // namespace varnholt
