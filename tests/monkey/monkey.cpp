@@ -3,6 +3,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
@@ -51,6 +52,18 @@ std::vector<const Control*> workableOf(const Form& form) {
             form.isShown(*control))
             workable.push_back(control.get());
     return workable;
+}
+
+/// A window with little to work, as that of a page, is soon left: else it takes the presses that
+/// the designs need.
+std::size_t chanceToStay(const Form& form) {
+    constexpr std::size_t most = 85;
+    constexpr std::size_t aControl = 4;
+    return std::min(most, aControl * workableOf(form).size());
+}
+
+ChildWindow& withMoreToWork(ChildWindow& one, ChildWindow& other) {
+    return workableOf(one).size() < workableOf(other).size() ? other : one;
 }
 
 }  // namespace
@@ -131,8 +144,9 @@ void Monkey::look(Form& form) {
 Form& Monkey::anyForm() {
     const std::vector<ChildWindow*> windows = main_.windows();
     if (windows.empty() || dice_.chance(10)) return main_;
-    if (dice_.chance(85)) return *main_.activeWindow();
-    ChildWindow& window = *dice_.among(windows);
+    if (dice_.chance(chanceToStay(*main_.activeWindow()))) return *main_.activeWindow();
+    ChildWindow* drawn = dice_.among(windows);
+    ChildWindow& window = withMoreToWork(*drawn, *dice_.among(windows));
     log_.action("activate " + platform_.forms().nameOf(window));
     driver_.activate(window);
     undo_.follow();  // it may have taken over loads that have changed

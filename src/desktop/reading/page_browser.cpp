@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextDocument>
+#include <utility>
 
 #include "desktop/widgets/look.h"
 
@@ -29,6 +30,16 @@ QString withoutSheetsAndScripts(QString html) {
 QStringList sectionsOf(const QString& html) {
     static const QRegularExpression heading(QStringLiteral("(?=<h[23]\\b)"));
     return html.split(heading);
+}
+
+/// Whether two addresses differ in their places within a page at most.
+bool isOnePage(const QUrl& one, const QUrl& other) {
+    return one.adjusted(QUrl::RemoveFragment) == other.adjusted(QUrl::RemoveFragment);
+}
+
+/// Pictures may have changed where the text of a page has not.
+bool hasPictures(const QString& html) {
+    return html.contains(QLatin1String("<img"), Qt::CaseInsensitive);
 }
 
 }  // namespace
@@ -64,15 +75,24 @@ PageBrowser::PageBrowser(QWidget* parent) : QTextBrowser(parent) {
 }
 
 void PageBrowser::showPage(const QUrl& address, const QString& html) {
+    QString page = withoutSheetsAndScripts(html);
+    const bool stands = page == html_ && isOnePage(address, address_) && !hasPictures(page);
     address_ = address;
-    html_ = withoutSheetsAndScripts(html);
-    layOut();
-    if (!address.hasFragment()) return;
+    if (!stands) {
+        html_ = std::move(page);
+        layOut();
+    }
+    if (!address.hasFragment()) return verticalScrollBar()->setValue(0);
     completePage();
     scrollToAnchor(address.fragment(QUrl::FullyDecoded));
 }
 
 void PageBrowser::layOut() {
+    // Each of what follows would lay out the page before once more.
+    clear();
+    // One that came and went would lay out the page again with every change of its width.
+    setVerticalScrollBarPolicy(html_.size() > firstPart ? Qt::ScrollBarAlwaysOn
+                                                        : Qt::ScrollBarAsNeeded);
     document()->setDefaultStyleSheet(pageSheet(lookOf(palette())));
     document()->setBaseUrl(address_);
     waiting_ = sectionsOf(html_);

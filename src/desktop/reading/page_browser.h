@@ -15,7 +15,7 @@ struct Look;
 /// sheets of the page are left out.
 ///
 /// A long page is laid out section by section, the first ones at once, so that it stands before
-/// its end has been read.
+/// its end has been read. Shown again, as by a link to a place within it, it is not laid out again.
 class PageBrowser : public QTextBrowser, public PageDisplay {
  public:
     explicit PageBrowser(QWidget* parent = nullptr);
