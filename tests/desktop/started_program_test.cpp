@@ -126,7 +126,7 @@ const std::string lockMark = ".varnholt-lock";
 TEST(StartedProgram, LeavesItsWorkAndNoMarkBehindWhenASignalEndsIt) {
     for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
         SCOPED_TRACE(signal);
-        StartedProgram program(windows, {QStringLiteral("--recovery")});
+        StartedProgram program(programWithWindows, {QStringLiteral("--recovery")});
         program.run(
             "click Varnmain.NewBorehole\npick school.vht\nclick Varnmain.mnuFileSaveAs\n"
             "type frmBHDesign.INProjectNameText Unsaved");
@@ -139,16 +139,16 @@ TEST(StartedProgram, LeavesItsWorkAndNoMarkBehindWhenASignalEndsIt) {
 
 TEST(StartedProgram, OfAPersonTakesItsMarkAlongWhenASignalEndsIt) {
     const TemporaryFolder temporary;
-    const std::filesystem::path folder = temporary.path() / "program";
+    const std::filesystem::path folder = temporary.path("program");
     std::filesystem::create_directories(folder / "work files");
     const std::filesystem::path project = folder / "work files" / "school.vht";
     std::filesystem::copy_file(VARNHOLT_SOURCE_DIR "/examples/school-south.vht", project);
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    environment.insert(QStringLiteral("HOME"), QString::fromStdString(temporary.path().string()));
+    environment.insert(QStringLiteral("HOME"), QString::fromStdString(temporary.path()));
     process.setProcessEnvironment(environment);
-    process.start(QString::fromStdString(windows),
+    process.start(QString::fromStdString(programWithWindows),
                   {QStringLiteral("--program-folder"), QString::fromStdString(folder.string()),
                    QString::fromStdString(project.string())});
     const auto marks = [&] { return filesBelow(temporary.path(), lockMark); };
@@ -160,7 +160,7 @@ TEST(StartedProgram, OfAPersonTakesItsMarkAlongWhenASignalEndsIt) {
 }
 
 TEST(StartedProgram, TakesPicturesOfTheMainWindowWithTheFiguresThatAreFoundLate) {
-    StartedProgram program(windows);
+    StartedProgram program(programWithWindows);
     for (const char* name : {"school-south.vht", "school-south.zon"})
         std::filesystem::copy_file(
             std::filesystem::path(VARNHOLT_SOURCE_DIR "/examples") / name,

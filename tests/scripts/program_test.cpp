@@ -253,7 +253,7 @@ TEST_F(Failure, BySignalLeavesNoMarkBesideAnOpenFile) {
     const ScriptOutcome held = shell("timeout 20 sh hold.sh");
     ASSERT_EQ(held.status, 0) << held.faults;
     // One mark while the file is open, the end by the signal (128 and its number), no mark.
-    EXPECT_EQ(wholeFile(temporary.path() / "out"), "1\n143\n0\n1\n129\n0\n");
+    EXPECT_EQ(wholeFile(temporary.path("out")), "1\n143\n0\n1\n129\n0\n");
 }
 
 }  // namespace
