@@ -406,16 +406,17 @@ TEST_F(FirstMinutes, OpenAnExampleAndOfferItAsRecentAfterwards) {
 }
 
 /// What a button of the start page shows at its left.
-QImage pictureOf(QWidget& page, const char* name) {
+QImage startPictureOf(QWidget& page, const char* name) {
     QAbstractButton* button = buttonNamed(page, name);
     return button == nullptr ? QImage() : button->grab({8, 4, 72, button->height() - 8}).toImage();
 }
 
 TEST_F(FirstMinutes, ShowEachExampleByAPictureDrawnFromItsFile) {
-    const QImage office = pictureOf(page(), "office"), pond = pictureOf(page(), "school-pond");
-    EXPECT_NE(office, pictureOf(page(), "school-north"));
+    const QImage office = startPictureOf(page(), "office"),
+                 pond = startPictureOf(page(), "school-pond");
+    EXPECT_NE(office, startPictureOf(page(), "school-north"));
     EXPECT_NE(office, pond);
-    EXPECT_NE(pictureOf(page(), "house"), pictureOf(page(), "trench-office"));
+    EXPECT_NE(startPictureOf(page(), "house"), startPictureOf(page(), "trench-office"));
     const std::filesystem::path examples = desk.folder() + "/work files";
     const auto showAnew = [this] {
         page().hide();
@@ -425,12 +426,12 @@ TEST_F(FirstMinutes, ShowEachExampleByAPictureDrawnFromItsFile) {
     std::filesystem::copy_file(examples / "school-pond.vht", examples / "office.vht",
                                std::filesystem::copy_options::overwrite_existing);
     showAnew();
-    EXPECT_EQ(pictureOf(page(), "office"), pond);
+    EXPECT_EQ(startPictureOf(page(), "office"), pond);
     // A file that holds nothing to draw is shown by the icon of its kind.
     replaceWholeFile((examples / "office.vht").string(), "");
     showAnew();
-    EXPECT_NE(pictureOf(page(), "office"), pond);
-    EXPECT_NE(pictureOf(page(), "office"), office);
+    EXPECT_NE(startPictureOf(page(), "office"), pond);
+    EXPECT_NE(startPictureOf(page(), "office"), office);
 }
 
 TEST_F(FirstMinutes, StandBelowEachOtherInANarrowWindow) {

@@ -9,6 +9,7 @@
 #include <QTabWidget>
 #include <algorithm>
 #include <set>
+#include <tuple>
 #include <utility>
 
 #include "desk.h"
@@ -142,6 +143,39 @@ TEST_F(NarrowWindows, OfReportsNeedNone) {
     ReportPreview* preview = previews.show(samples.zones(30, 2));
     ASSERT_NE(preview, nullptr);
     expectNothingBeyond(*preview->parentWidget());
+}
+
+/// By how many pixels the page in front is higher than its window, or nothing where none scrolls.
+int hiddenBelow(const QWidget& frame) {
+    int hidden = 0;
+    for (const QScrollArea* area : frame.findChildren<QScrollArea*>())
+        if (area->isVisible()) hidden = std::max(hidden, area->verticalScrollBar()->maximum());
+    return hidden;
+}
+
+/// A screen of 1366 by 768 without what the desktop puts around the main window.
+TEST(LowScreens, ShowResultsAndPipesWithoutScrolling) {
+    Desk desk;
+    desk.window->resize(1350, 720);
+    const std::tuple<const char*, const char*, std::vector<int>> projects[] = {
+        {"school-south.vht", "frmBHDesign", {0, 3, 4}},
+        {"school-pond.vht", "frmSWDesign", {0, 3}},
+        {"house.vht", "frmHZDesign", {0, 4}},
+        {"trench-office.vht", "frmHZDesign", {0, 4}}};
+    for (const auto& [file, name, pages] : projects) {
+        SCOPED_TRACE(file);
+        desk.platform.picks.push_back(std::string("work files/") + file);
+        desk.main().click("mnuFileOpen");
+        ChildWindow& form = *desk.main().windowsNamed(name).back();
+        desk.main().activate(form);
+        form.click("CACalculateCommand");
+        QWidget* frame = desk.shelf.frameOf(form);
+        for (const int page : pages) {
+            frame->findChild<QTabWidget*>()->setCurrentIndex(page);
+            Desk::settle();
+            EXPECT_EQ(hiddenBelow(*frame), 0) << page;
+        }
+    }
 }
 
 TEST(NewWindows, FitIntoTheMainWindow) {
