@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QScrollBar>
+#include <QTest>
 #include <QTextDocument>
 
 namespace varnholt {
@@ -80,6 +81,18 @@ TEST_F(PageBrowserTest, AsksForThePicturesOfAPageThatIsShownAgain) {
     EXPECT_GT(first, 0);
     show("file:///folder/page.html", page);
     EXPECT_GT(asked, first);
+}
+
+TEST_F(PageBrowserTest, LaysOutTheRestForAReaderWhoKeepsToTheEnd) {
+    const QString page = longPage(QStringLiteral("sand"));
+    show("file:///folder/page.html", page);
+    QScrollBar* bar = browser.verticalScrollBar();
+    const int first = bar->maximum();
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        bar->setValue(bar->maximum());
+        return browser.toPlainText().contains(QStringLiteral("sand 59"));
+    }));
+    EXPECT_GT(bar->maximum(), first);
 }
 
 TEST_F(PageBrowserTest, KeepsItsWidthWhileOneLongPageFollowsAnother) {

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/reading/page_browser.h"
 
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextDocument>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/widgets/look.h"
@@ -17,6 +19,14 @@ constexpr qsizetype firstPart = 9000;
 
 /// How long the rest waits, so that the first part is painted before it, ms.
 constexpr int untilPainted = 30;
+
+/// How long the next section waits at most, ms. It waits four times as long as the last one took,
+/// so that the hands have four fifths of the time while a page grows.
+constexpr qint64 longestRest = 80;
+constexpr qint64 restForWork = 4;
+
+/// How near its end a reader comes before more of the page is laid out at once, in screens.
+constexpr int screensAhead = 2;
 
 /// A page without what the text browser would take for text, or cannot follow.
 QString withoutSheetsAndScripts(QString html) {
@@ -68,9 +78,10 @@ PageBrowser::PageBrowser(QWidget* parent) : QTextBrowser(parent) {
     connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
         if (onLink) onLink(address_.resolved(link));
     });
-    connect(&more_, &QTimer::timeout, this, [this] {
-        more_.setInterval(0);
-        if (!addSection()) more_.stop();
+    more_.setSingleShot(true);
+    connect(&more_, &QTimer::timeout, this, [this] { addAtLeisure(); });
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        if (more_.isActive() && isReadNearItsEnd()) more_.start(0);
     });
 }
 
@@ -109,6 +120,21 @@ bool PageBrowser::addSection() {
     end.insertBlock(QTextBlockFormat(), QTextCharFormat());
     end.insertHtml(waiting_.takeFirst());
     return true;
+}
+
+void PageBrowser::addAtLeisure() {
+    QElapsedTimer work;
+    work.start();
+    if (!addSection()) return;
+    const qint64 rest =
+        isReadNearItsEnd() ? 0 : std::min(restForWork * work.elapsed(), longestRest);
+    more_.start(static_cast<int>(rest));
+}
+
+/// Whether a reader has come so far that the end of what is laid out is soon in sight.
+bool PageBrowser::isReadNearItsEnd() const {
+    const QScrollBar* bar = verticalScrollBar();
+    return bar->value() > 0 && bar->value() > bar->maximum() - screensAhead * bar->pageStep();
 }
 
 /// Lays out what is still missing of a long page.

@@ -31,6 +31,8 @@ class PageBrowser : public QTextBrowser, public PageDisplay {
  private:
     void layOut();
     bool addSection();
+    void addAtLeisure();
+    bool isReadNearItsEnd() const;
     void completePage();
 
     QUrl address_;
