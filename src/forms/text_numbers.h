@@ -747,6 +747,11 @@ constexpr int pumpCurvesCatalogue = 2996;
 constexpr int pumpCurvesDesign = 2997;
 constexpr int enterLoadsFirst = 2160;
 
+// What only a screen reader tells.
+constexpr int moreOfNumber = 4230;
+constexpr int lessOfNumber = 4231;
+constexpr int emptySearch = 4232;
+
 // What a design comes to: the strip at the foot of its window, the page of its results.
 constexpr int lengthsFresh = 2551;
 constexpr int lengthsStale = 2552;

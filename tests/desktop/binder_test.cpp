@@ -323,10 +323,10 @@ TEST_F(BinderTest, AStaleButtonCarriesASignBesideItsColour) {
     EXPECT_TRUE(button->icon().isNull());
 }
 
-TEST_F(BinderTest, FieldsAreCalledByTheirCaptions) {
-    EXPECT_EQ(plain(find<QWidget>("DepthText")->accessibleName()), "Depth");
+TEST_F(BinderTest, FieldsAreCalledByTheirCaptionsAndUnits) {
+    EXPECT_EQ(plain(find<QWidget>("DepthText")->accessibleName()), "Depth, ft");
     control("DepthLabel").setCaption("Tiefe:");
-    EXPECT_EQ(plain(find<QWidget>("DepthText")->accessibleName()), "Tiefe");
+    EXPECT_EQ(plain(find<QWidget>("DepthText")->accessibleName()), "Tiefe, ft");
     EXPECT_EQ(plain(find<QWidget>("LightImage")->accessibleName()), "The light");
 }
 
@@ -385,12 +385,18 @@ TEST_F(BinderTest, AScreenReaderCallsAFieldAsItsRowSays) {
     UnlikeForm unlike(platform, texts);
     FormWindow other(unlike, views.maker(), {});
     QWidget* field = other.binder().widget("DepthText");
-    const std::string name = texts.text(Text::fluidType) + ", " + texts.text(Text::heating);
+    const std::string name = texts.text(Text::fluidType) + ", " + texts.text(Text::heating) + ", " +
+                             texts.text(Text::powerUnitsEnglish);
     EXPECT_EQ(plain(field->accessibleName()), name);
     unlike.control("HowDeep").setCaption("How deep:");
     EXPECT_EQ(plain(field->accessibleName()), name);
     unlike.control("DepthText").setAccessibleName("Depth of the well");
-    EXPECT_EQ(plain(field->accessibleName()), "Depth of the well");
+    EXPECT_EQ(plain(field->accessibleName()),
+              "Depth of the well, " + texts.text(Text::powerUnitsEnglish));
+    unlike.control("MeasuredIn").setCaption("(feet)");
+    EXPECT_EQ(plain(field->accessibleName()), "Depth of the well, feet");
+    unlike.control("DepthText").setAccessibleName("Depth (feet)");
+    EXPECT_EQ(plain(field->accessibleName()), "Depth (feet)");
 }
 
 TEST_F(BinderTest, AFailureOfAHandlerGoesToWhoTakesItAndNotThroughTheToolkit) {

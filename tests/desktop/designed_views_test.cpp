@@ -98,9 +98,12 @@ TEST_F(DesignedViews, TellAScreenReaderEachFigureWithItsLabel) {
     FormWindow window(form, views.maker(), {});
     const QWidget* figure = window.binder().widget("CATotalLengthLabel(0)");
     form.control("CATotalLengthLabel(0)").setCaption("812.5");
-    EXPECT_EQ(plain(figure->accessibleName()), "Total Length (ft), 812.5");
+    EXPECT_EQ(plain(figure->accessibleName()), "Total Length (ft), Cooling, 812.5");
     form.control("CATotalLengthLabel(2)").setCaption("Total Length (m):");
-    EXPECT_EQ(plain(figure->accessibleName()), "Total Length (m), 812.5");
+    EXPECT_EQ(plain(figure->accessibleName()), "Total Length (m), Cooling, 812.5");
+    const QWidget* other = window.binder().widget("CATotalLengthLabel(1)");
+    form.control("CATotalLengthLabel(1)").setCaption("812.5");
+    EXPECT_EQ(plain(other->accessibleName()), "Total Length (m), Heating, 812.5");
 }
 
 TEST_F(DesignedViews, BuildAPageWhenItIsTurnedTo) {

@@ -44,7 +44,8 @@ TEST_F(ImportPerson, ClicksACellTypesAndGoesOnWithEnter) {
     EXPECT_EQ(edit.selectedText(), edit.text());
     // It stands over the cell, at its place and size.
     EXPECT_EQ(edit.geometry(), cell.geometry());
-    EXPECT_EQ(edit.accessibleName(), "April, Total Loads");
+    EXPECT_EQ(edit.accessibleName(), "April, Total Loads, MBtu");
+    EXPECT_EQ(cell.accessibleName(), "April, Total Loads, MBtu, 0.0");
     QTest::keyClicks(&edit, QStringLiteral("120"));
     EXPECT_EQ(cell.text(), "120.0");
     EXPECT_EQ(edit.text(), "120");

@@ -18,6 +18,7 @@
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/text_label.h"
+#include "forms/text_numbers.h"
 #include "forms/texts.h"
 
 namespace varnholt {
@@ -66,6 +67,8 @@ QWidget* Binder::keep(std::unique_ptr<BoundControl> bound) {
     if (control.isLate()) kept.widget()->installEventFilter(this);
     bound_[control.name()] = std::move(bound);
     if (has(control.label())) nameBy(control.name(), control.label());
+    if (has(control.unitLabel())) named_.emplace(control.unitLabel(), control.name());
+    if (control.kind() == ControlKind::label) named_.emplace(control.name(), control.name());
     return kept.widget();
 }
 
@@ -105,40 +108,6 @@ bool Binder::buildNext() {
 
 void Binder::buildAll() {
     while (buildNext()) continue;
-}
-
-void Binder::nameBy(const std::string& name, const std::string& label) {
-    named_.emplace(label, name);
-    if (form_->control(name).kind() == ControlKind::label) figures_.emplace(name, label);
-    showName(name, label);
-}
-
-/// A screen reader calls a control by the words of its label, unless its form says otherwise. A
-/// label has no other value to read than its name: there the figure goes behind the words.
-void Binder::showName(const std::string& name, const std::string& label) {
-    const Control& control = form_->control(name);
-    std::string words = captionWords(form_->control(label).caption());
-    if (words.empty() || !control.accessibleName().empty()) return;
-    if (control.kind() == ControlKind::label) words += ", " + control.caption();
-    find(name)->widget()->setAccessibleName(qt(words));
-}
-
-void Binder::nameTheNameless() {
-    for (const auto& [name, bound] : bound_) {
-        QWidget* widget = bound->widget();
-        QString found = widget->accessibleName();
-        if (widget->focusPolicy() == Qt::NoFocus) continue;
-        if (found.isEmpty()) found = widget->toolTip();
-        for (QWidget* around = widget; found.isEmpty() && around != nullptr;
-             around = around->parentWidget()) {
-            if (const auto* group = dynamic_cast<const GroupBox*>(around)) found = group->title();
-            const auto* tabs = qobject_cast<const QTabWidget*>(around);
-            for (int page = 0; tabs != nullptr && page < tabs->count(); ++page)
-                if (tabs->widget(page)->isAncestorOf(widget)) found = tabs->tabText(page);
-        }
-        if (found.isEmpty() && form_ != nullptr) found = qt(form_->caption());
-        widget->setAccessibleName(found);
-    }
 }
 
 std::vector<std::string> Binder::unshown() {
@@ -205,11 +174,7 @@ void Binder::propertyChanged(Control& control, Property property) {
     const Counting writing(writing_);
     if (BoundControl* bound = find(control.name())) bound->show(property);
     refreshLater();
-    if (property != Property::caption) return;
-    const auto [first, last] = named_.equal_range(control.name());
-    for (auto it = first; it != last; ++it) showName(it->second, control.name());
-    if (const auto figure = figures_.find(control.name()); figure != figures_.end())
-        showName(figure->first, figure->second);
+    if (property == Property::caption) renameAround(control.name());
 }
 
 void Binder::captionChanged(Form&) {
@@ -306,6 +271,8 @@ QWidget* Binder::withUpDown(const std::string& field) {
     QWidget* steps = companion(form_->control(field).upDown());
     if (steps == nullptr) return editor;
     steps->setFocusPolicy(Qt::NoFocus);  // the arrow keys in the field do the same
+    const Control& number = form_->control(field);
+    if (has(number.label())) nameBy(number.upDown(), number.label());
     auto* both = new QWidget;
     auto* layout = new QHBoxLayout(both);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -337,12 +304,13 @@ FieldRow Binder::pair(const std::string& array, std::initializer_list<QWidget*> 
 FieldRow Binder::results(const std::string& array) {
     FieldRow row;
     row.caption = widget(elementName(array, 2));
-    for (const std::size_t mode : {0U, 1U}) {
+    for (const Mode mode : modes) {
         auto* figure = static_cast<QLabel*>(widget(elementName(array, mode)));
         figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         asFigures(figure);
         row.fields.push_back(figure);
-        nameBy(elementName(array, mode), elementName(array, 2));
+        nameBy(elementName(array, mode), elementName(array, 2),
+               mode == cooling ? Text::chartCooling : Text::chartHeating);
     }
     return row;
 }

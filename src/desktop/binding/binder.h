@@ -144,6 +144,9 @@ class Binder : public QObject, public FormObserver {
     /// Options of one group exclude each other.
     QButtonGroup* optionGroup(const std::string& group);
     std::string text(int number) const;
+    /// What a screen reader calls the control: the words of its own or of its label, with the unit
+    /// that stands behind it. Empty for one that has only its caption or its surroundings.
+    std::string spokenName(const Control& control) const;
 
     void propertyChanged(Control& control, Property property) override;
     void captionChanged(Form& form) override;
@@ -165,8 +168,10 @@ class Binder : public QObject, public FormObserver {
     /// The widget of a control's companion; null where it has none.
     QWidget* companion(const std::string& name);
     QWidget* withUpDown(const std::string& field);
-    void nameBy(const std::string& name, const std::string& label);
-    void showName(const std::string& name, const std::string& label);
+    void nameBy(const std::string& name, const std::string& label, int distinction = 0);
+    void showName(const std::string& name);
+    void renameAround(const std::string& label);
+    void labelCombo(const BoundControl& bound) const;
     bool keyPressed(BoundControl& bound, int key, Qt::KeyboardModifiers modifiers);
     void perform(BoundControl& bound, const Verb& verb);
     bool pasteBlock(const std::string& field);
@@ -187,10 +192,14 @@ class Binder : public QObject, public FormObserver {
     std::map<const QObject*, BoundControl*> keyboards_;
     std::map<std::string, QButtonGroup*> groups_;
     std::vector<LateParts*> late_;
-    /// Figures and fields by the label that names them to screen readers.
+    /// What a control is called after: a label, and a text that tells it from its neighbours.
+    struct CalledAfter {
+        std::string label;
+        int distinction = 0;
+    };
+    std::map<std::string, CalledAfter> called_;
+    /// Controls by the labels whose words are a part of their names: caption, unit, own figure.
     std::multimap<std::string, std::string> named_;
-    /// The label of each figure.
-    std::map<std::string, std::string> figures_;
     std::vector<Drawing*> drawings_;
     std::vector<std::function<void()>> refreshers_;
     std::vector<std::vector<std::vector<std::string>>> blocks_;

@@ -9,6 +9,7 @@
 #include "desktop/binding/bound_control.h"
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -159,6 +160,23 @@ class BoundNumber : public BoundControl {
     MovedNumber* number_;
 };
 
+class BoundUpDown : public BoundNumber {
+ public:
+    BoundUpDown(Binder& binder, Control& control, UpDownButtons* buttons)
+        : BoundNumber(binder, control, buttons), buttons_(buttons) {
+        show(Property::accessibleName);
+    }
+
+    void call(const QString& name) override {
+        BoundNumber::call(name);
+        buttons_->callButtons(qt(binder().text(Text::moreOfNumber)).arg(name),
+                              qt(binder().text(Text::lessOfNumber)).arg(name));
+    }
+
+ private:
+    UpDownButtons* buttons_;
+};
+
 }  // namespace
 
 std::unique_ptr<BoundControl> bindCheck(Binder& binder, Control& control) {
@@ -182,7 +200,7 @@ std::unique_ptr<BoundControl> bindSlider(Binder& binder, Control& control) {
     return bound;
 }
 std::unique_ptr<BoundControl> bindUpDown(Binder& binder, Control& control) {
-    return std::make_unique<BoundNumber>(binder, control, new UpDownButtons);
+    return std::make_unique<BoundUpDown>(binder, control, new UpDownButtons);
 }
 
 }  // namespace varnholt

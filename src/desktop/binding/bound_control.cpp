@@ -69,8 +69,8 @@ void BoundControl::show(Property property) {
             widget_->setToolTip(qt(control_.tooltip()));
             break;
         case Property::accessibleName:
-            if (!control_.accessibleName().empty())
-                widget_->setAccessibleName(qt(control_.accessibleName()));
+            if (const std::string name = binder_.spokenName(control_); !name.empty())
+                call(qt(name));
             break;
         case Property::backcolor:
             asked_.backcolor = control_.backcolor();
@@ -103,6 +103,8 @@ void BoundControl::showAll() {
         Property::refused,   Property::visible, Property::accessibleName};
     for (const Property property : all) show(property);
 }
+
+void BoundControl::call(const QString& name) { widget_->setAccessibleName(name); }
 
 void BoundControl::takeFocus() { widget_->setFocus(Qt::OtherFocusReason); }
 

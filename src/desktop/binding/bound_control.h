@@ -32,6 +32,8 @@ class BoundControl {
     /// Repaints one property of the control.
     virtual void show(Property property);
     void showAll();
+    /// Gives the widget the name that a screen reader tells.
+    virtual void call(const QString& name);
     /// Marks the widget as one of cooling or heating, by colour.
     virtual void mark(Mode mode);
     /// What the widget shows of a property at this moment.

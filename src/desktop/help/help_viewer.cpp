@@ -15,6 +15,7 @@
 #include <QTextBrowser>
 #include <QTextDocument>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "desktop/reading/help_folder.h"
@@ -104,13 +105,20 @@ void HelpViewer::addPanes() {
     panes_->addTab(searchPane(), text(Text::helpSearchPane));
 }
 
+/// The prompt stands in the line while it is empty, and a button empties it.
+void HelpViewer::makeSearch(QLineEdit& line, const QString& prompt) const {
+    line.setPlaceholderText(prompt);
+    line.setAccessibleName(prompt);
+    line.setClearButtonEnabled(true);
+    if (auto* button = line.findChild<QToolButton*>())
+        button->setAccessibleName(text(Text::emptySearch));
+}
+
 QWidget* HelpViewer::indexPane() {
     auto* pane = new QWidget;
     auto* layout = new QVBoxLayout(pane);
     lookFor_ = new QLineEdit;
-    lookFor_->setPlaceholderText(text(Text::helpLookFor));
-    lookFor_->setAccessibleName(text(Text::helpLookFor));
-    lookFor_->setClearButtonEnabled(true);
+    makeSearch(*lookFor_, text(Text::helpLookFor));
     index_ = collection_.engine()->indexWidget();
     layout->addWidget(lookFor_);
     layout->addWidget(index_, 1);
@@ -132,9 +140,7 @@ QWidget* HelpViewer::searchPane() {
     auto* pane = new QWidget;
     auto* layout = new QVBoxLayout(pane);
     words_ = new QLineEdit;
-    words_->setPlaceholderText(text(Text::helpFind));
-    words_->setAccessibleName(text(Text::helpFind));
-    words_->setClearButtonEnabled(true);
+    makeSearch(*words_, text(Text::helpFind));
     results_ = new QListWidget;
     results_->setAccessibleName(text(Text::helpResults));
     told_ = new QLabel;

@@ -33,6 +33,7 @@ class HelpViewer : public QMainWindow, public HelpWindow {
                      void (HelpViewer::*run)());
     bool openFile(const QString& file);
     void addPanes();
+    void makeSearch(QLineEdit& line, const QString& prompt) const;
     QWidget* indexPane();
     QWidget* searchPane();
     void lookUp(const QString& keyword);

@@ -61,12 +61,10 @@ void MonthTable::addHeads() {
 void MonthTable::addMonths() {
     for (std::size_t month = 0; month < monthsOfYear; ++month) {
         const int row = firstMonthRow + static_cast<int>(month);
-        QLabel* name = label(elementName("lblEqvHours", month), row, 0, false);
+        label(elementName("lblEqvHours", month), row, 0, false);
         int column = 1;
-        for (const char* stem : {"lblTotal", "lblPeak", "lblPLF"}) {
-            QLabel* cell = label(elementName(stem, month), row, column++, true);
-            cell->setAccessibleName(name->text());
-        }
+        for (const char* stem : {"lblTotal", "lblPeak", "lblPLF"})
+            label(elementName(stem, month), row, column++, true);
     }
 }
 
@@ -79,11 +77,12 @@ void MonthTable::addYear() {
     grid_->setRowStretch(totalRow + 2, 1);
 }
 
-/// The field shares the cell of the layout with the label that it stands over.
+/// The field shares the cell of the layout with the label that it stands over, and is called as it.
 void MonthTable::placeField() {
     const auto* form = static_cast<const frmImport1*>(bind_.form());
     if (form == nullptr) return;
     dressField();
+    field_->setAccessibleName(qt(bind_.spokenName(form->control("txtImport1"))));
     const frmImport1::Cell& cell = form->cell();
     const int row = firstMonthRow + static_cast<int>(cell.month);
     const int column = cell.column == frmImport1::Column::total ? 1 : 2;
@@ -93,7 +92,6 @@ void MonthTable::placeField() {
     grid_->removeWidget(field_);
     grid_->addWidget(field_, row, column);
     field_->raise();
-    field_->setAccessibleName(qt(form->control("txtImport1").accessibleName()));
 }
 
 /// The field has the colour of the cells, which the house's style of fields would cover.

@@ -15,6 +15,7 @@
 #include "desktop/views/loads_pieces.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/zone_edit_dialog.h"
+#include "desktop/widgets/house_widgets.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
@@ -171,9 +172,7 @@ QWidget* zoneColumns(Binder& bind) {
     addColumns(bind, *list);
     auto* filter = new QLineEdit;
     filter->setObjectName(QStringLiteral("zoneFilter"));
-    filter->setPlaceholderText(qt(bind.text(Text::zoneFilter)));
-    filter->setAccessibleName(filter->placeholderText());
-    filter->setClearButtonEnabled(true);
+    makeSearch(*filter, qt(bind.text(Text::zoneFilter)), qt(bind.text(Text::emptySearch)));
     QObject::connect(filter, &QLineEdit::textChanged, list,
                      [list](const QString& text) { list->setFilter(text); });
     bind.addToMenu = [&bind](QMenu& menu, const std::string& control) {

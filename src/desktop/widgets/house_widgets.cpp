@@ -95,6 +95,20 @@ void NumberSlider::moveTo(double number) {
     if (onMoved) onMoved(number);
 }
 
+void makeSearch(QLineEdit& line, const QString& prompt, const QString& empty) {
+    line.setPlaceholderText(prompt);
+    line.setAccessibleName(prompt);
+    line.setClearButtonEnabled(true);
+    if (auto* button = line.findChild<QToolButton*>()) button->setAccessibleName(empty);
+}
+
+void labelUnseen(QComboBox& combo, const QString& name) {
+    combo.setAccessibleName(name);
+    auto* label = new TextLabel(name, combo.parentWidget());
+    label->setBuddy(&combo);
+    label->hide();
+}
+
 UpDownButtons::UpDownButtons(QWidget* parent)
     : QWidget(parent), up_(new QToolButton(this)), down_(new QToolButton(this)) {
     auto* layout = new QVBoxLayout(this);
@@ -117,6 +131,11 @@ UpDownButtons::UpDownButtons(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     connect(up_, &QToolButton::clicked, this, [this] { step(1); });
     connect(down_, &QToolButton::clicked, this, [this] { step(-1); });
+}
+
+void UpDownButtons::callButtons(const QString& up, const QString& down) {
+    up_->setAccessibleName(up);
+    down_->setAccessibleName(down);
 }
 
 void UpDownButtons::setNumbers(double lowest, double highest) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
@@ -28,6 +29,16 @@ class FieldEdit : public QLineEdit {
     int characters_;
     QAction* mark_ = nullptr;
 };
+
+/// Makes a line of text one to search with: the prompt stands in it while it is empty, and a button
+/// empties it.
+/// @param empty  what a screen reader calls the button
+void makeSearch(QLineEdit& line, const QString& prompt, const QString& empty);
+
+/// Names a combo that has no label on the screen. A screen reader takes what is chosen for the name
+/// of a combo, and what it is from the label beside it: that one is not seen. The combo stands in
+/// its place already.
+void labelUnseen(QComboBox& combo, const QString& name);
 
 /// A number between two others that a widget shows and a person moves.
 class MovedNumber {
@@ -80,6 +91,8 @@ class UpDownButtons : public QWidget, public MovedNumber {
     void setStep(double step) override { step_ = step; }
     void moveTo(double number) override;
     void step(int steps) { moveTo(number_ + steps * step_); }
+    /// What a screen reader calls the two buttons.
+    void callButtons(const QString& up, const QString& down);
 
  protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -262,10 +262,11 @@ void MainWindow::findByName() {
                  openFiles({path});
              }});
     const auto word = [this](int number) { return qt(main_.text(number)); };
-    auto* finder = new NameFinder(
-        this, std::move(things),
-        {word(Text::findByName), word(Text::findByNamePrompt), word(Text::nothingOfThatName),
-         word(Text::kindCommand), word(Text::kindField), word(Text::kindExample)});
+    auto* finder =
+        new NameFinder(this, std::move(things),
+                       {word(Text::findByName), word(Text::findByNamePrompt),
+                        word(Text::emptySearch), word(Text::nothingOfThatName),
+                        word(Text::kindCommand), word(Text::kindField), word(Text::kindExample)});
     finder->show();
 }
 

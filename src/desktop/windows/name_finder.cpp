@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/windows/name_finder.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -9,6 +10,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "desktop/widgets/house_widgets.h"
 #include "desktop/widgets/look.h"
 
 namespace varnholt {
@@ -53,9 +55,7 @@ NameFinder::NameFinder(QWidget* parent, std::vector<NamedThing> things, NameFind
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(words_.title);
-    typed_->setPlaceholderText(words_.prompt);
-    typed_->setAccessibleName(words_.prompt);
-    typed_->setClearButtonEnabled(true);
+    makeSearch(*typed_, words_.prompt, words_.empty);
     list_->setAccessibleName(words_.title);
     list_->setUniformItemSizes(true);
     auto* layout = new QVBoxLayout(this);

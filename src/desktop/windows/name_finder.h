@@ -30,7 +30,7 @@ std::vector<NamedThing> found(const std::vector<NamedThing>& things, const QStri
 
 /// Words of the list.
 struct NameFinderWords {
-    QString title, prompt, nothing;
+    QString title, prompt, empty, nothing;
     QString command, field, example;
 };
 

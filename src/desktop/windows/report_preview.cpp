@@ -15,6 +15,7 @@
 #include "basis/run_time_error.h"
 #include "desktop/paper/pdf_file.h"
 #include "desktop/paper/print_module.h"
+#include "desktop/widgets/house_widgets.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
@@ -113,12 +114,12 @@ void ReportPreview::addPageTools() {
     tool(pageBar_, "smaller", Text::previewSmaller, "Ctrl+-", &ReportPreview::smaller)
         ->setText(QStringLiteral("\u2212"));
     zoom_ = new QComboBox;
-    zoom_->setAccessibleName(words(Text::previewZoom));
     zoom_->addItems({words(Text::previewFitWidth), words(Text::previewFitPage)});
     for (const int percent : {50, 75, 100, 125, 150, 200, 300})
         zoom_->addItem(QStringLiteral("%1 %").arg(percent), percent);
     zoom_->setEditable(true);
     pageBar_->addWidget(zoom_);
+    labelUnseen(*zoom_, words(Text::previewZoom));
     tool(pageBar_, "larger", Text::previewLarger, "Ctrl++", &ReportPreview::larger)
         ->setText(QStringLiteral("+"));
     connect(zoom_, &QComboBox::textActivated, this, [this](const QString& text) {
@@ -135,11 +136,11 @@ void ReportPreview::addPaperTools() {
     continuous_->setCheckable(true);
     continuous_->setChecked(true);
     paper_ = new QComboBox;
-    paper_->setAccessibleName(words(Text::previewPaper));
     paper_->addItem(words(Text::paperA4), static_cast<int>(QPageSize::A4));
     paper_->addItem(words(Text::paperLetter), static_cast<int>(QPageSize::Letter));
     paper_->setObjectName(QStringLiteral("paper"));
     pageBar_->addWidget(paper_);
+    labelUnseen(*paper_, words(Text::previewPaper));
     connect(paper_, &QComboBox::activated, this, [this] {
         PageSetup other = setup_;
         other.size = QPageSize(static_cast<QPageSize::PageSizeId>(paper_->currentData().toInt()));
@@ -152,9 +153,7 @@ void ReportPreview::addPaperTools() {
 
 void ReportPreview::addSearch() {
     search_ = new QLineEdit;
-    search_->setPlaceholderText(words(Text::previewSearch));
-    search_->setAccessibleName(words(Text::previewSearch));
-    search_->setClearButtonEnabled(true);
+    makeSearch(*search_, words(Text::previewSearch), words(Text::emptySearch));
     search_->setMaximumWidth(180);
     search_->setObjectName(QStringLiteral("search"));
     fileBar_->addWidget(search_);

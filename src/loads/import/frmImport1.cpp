@@ -190,6 +190,7 @@ void frmImport1::showField() {
     const bool total = cell_.column == Column::total;
     control("txtImport1")
         .setText(control(elementName(total ? "lblTotal" : "lblPeak", cell_.month)).caption())
+        .unitsIn(total ? "lblTitle(5)" : "lblTitle(7)")
         .setAccessibleName(control(elementName("lblEqvHours", cell_.month)).caption() + ", " +
                            element("lblTitle", total ? 1 : 2).caption());
 }

@@ -76,6 +76,7 @@ class frmImport1 : public ChildWindow {
     void addBar();
     void addTable();
     void addMonth(std::size_t month);
+    void addCell(const std::string& name, int row, int column, const std::string& unit);
     void addTotals();
     void addTransfer();
     void hookCommands();

@@ -52,16 +52,24 @@ void frmImport1::addTable() {
 
 void frmImport1::addMonth(std::size_t month) {
     add(elementName("lblEqvHours", month), ControlKind::label, monthTexts[month]);
-    for (const char* column : {"lblTotal", "lblPeak", "lblPLF"})
-        add(elementName(column, month), ControlKind::label);
+    addCell(elementName("lblTotal", month), monthTexts[month], Text::importTotal, "lblTitle(5)");
+    addCell(elementName("lblPeak", month), monthTexts[month], Text::importPeak, "lblTitle(7)");
+    addCell(elementName("lblPLF", month), monthTexts[month], Text::importFactor, {});
+}
+
+/// A figure of the table, called by its row and its column.
+void frmImport1::addCell(const std::string& name, int row, int column, const std::string& unit) {
+    add(name, ControlKind::label)
+        .unitsIn(unit)
+        .setAccessibleName(captionWords(text(row)) + ", " + text(column));
 }
 
 void frmImport1::addTotals() {
     add("lblEqvHours(13)", ControlKind::label, Text::importTotalMax);
-    add("lblTotal(12)", ControlKind::label);
-    add("lblPeak(12)", ControlKind::label);
+    addCell("lblTotal(12)", Text::importTotalMax, Text::importTotal, "lblTitle(5)");
+    addCell("lblPeak(12)", Text::importTotalMax, Text::importPeak, "lblTitle(7)");
     add("lblEqvHours(14)", ControlKind::label, Text::fullLoadHoursResult);
-    add("lblHours", ControlKind::label);
+    add("lblHours", ControlKind::label).captionedBy("lblEqvHours(14)");
 }
 
 void frmImport1::addTransfer() {
