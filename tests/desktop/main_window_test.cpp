@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QAction>
+#include <QDialog>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMdiArea>
@@ -108,6 +110,27 @@ TEST_F(MainWindowTest, SaysWhatToDoFirstUntilAWindowOpens) {
     EXPECT_TRUE(desk.window->area().isVisible());
     frameOf(*desk.main().activeWindow())->close();
     EXPECT_FALSE(desk.window->area().isVisible());
+}
+
+/// Assistive technology presses buttons and menu entries that keys and mouse cannot reach.
+TEST_F(MainWindowTest, TakesNoCommandWhileABoxWaitsForItsAnswer) {
+    ChildWindow& design = open("NewBorehole");
+    Binder& binder = desk.shelf.windowOf(design)->binder();
+    auto& metric = *qobject_cast<QAbstractButton*>(binder.widget("MetricCheck"));
+    QDialog box(desk.window.get());
+    box.setModal(true);
+    box.show();
+    ASSERT_EQ(QApplication::activeModalWidget(), &box);
+    desk.window->menu().action("NewBorehole")->trigger();
+    metric.click();
+    EXPECT_EQ(desk.main().windows().size(), 1U);
+    EXPECT_FALSE(design.control("MetricCheck").checked());
+    EXPECT_FALSE(metric.isChecked());
+    box.close();
+    metric.click();
+    EXPECT_TRUE(design.control("MetricCheck").checked());
+    desk.window->menu().action("NewBorehole")->trigger();
+    EXPECT_EQ(desk.main().windows().size(), 2U);
 }
 
 TEST_F(MainWindowTest, TakesTheStartPictureAwayWithTheFirstCommand) {

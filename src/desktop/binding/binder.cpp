@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/binding/binder.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QCoreApplication>
 #include <QEvent>
@@ -35,6 +36,13 @@ class Counting {
  private:
     int& depth_;
 };
+
+/// Whether a box waits for its answer before the widget's window. The toolkit keeps keys and mouse
+/// from it, but no screen reader.
+bool isBehindABox(const QWidget& widget) {
+    const QWidget* box = QApplication::activeModalWidget();
+    return box != nullptr && box != widget.window() && !box->isAncestorOf(&widget);
+}
 
 }  // namespace
 
@@ -142,6 +150,10 @@ QButtonGroup* Binder::optionGroup(const std::string& group) {
 
 void Binder::act(BoundControl& bound, const Verb& verb) {
     if (writing_ > 0 || form_ == nullptr) return;
+    if (!scripted_ && isBehindABox(*bound.widget())) {
+        const Counting writing(writing_);
+        return bound.showAll();
+    }
     if (refusal_) refusal_->hide();
     if (onAction) onAction();
     perform(bound, verb);

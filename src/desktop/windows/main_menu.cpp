@@ -2,6 +2,7 @@
 #include "desktop/windows/main_menu.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
@@ -137,6 +138,10 @@ void MainMenu::addTools(QToolBar& toolbar) {
 
 void MainMenu::connectAction(QAction* action, const std::string& name) {
     connect(action, &QAction::triggered, this, [this, name] {
+        // What keeps a person's keys and mouse from the menus while a box waits for its answer
+        // keeps no screen reader from them.
+        if (!scripted_ && QApplication::activeModalWidget() != nullptr)
+            return show(main_.control(name));
         ++commands_;
         guard_([&] {
             if (beforeCommand && !isEditCommand(name)) beforeCommand();
