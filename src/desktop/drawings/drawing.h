@@ -4,12 +4,16 @@
 #include <QString>
 #include <QWidget>
 
+#include "desktop/widgets/told_role.h"
+
 namespace varnholt {
 
 /// A picture drawn from the model. It is refreshed after every action of the user.
 class Drawing : public QWidget {
  public:
-    explicit Drawing(QWidget* parent = nullptr) : QWidget(parent) {}
+    explicit Drawing(QWidget* parent = nullptr) : QWidget(parent) {
+        tellAs(*this, QAccessible::Graphic);
+    }
 
     /// Takes what is to be drawn from the form again. Called only while the drawing is on show.
     virtual void refresh() = 0;

@@ -12,6 +12,7 @@
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/text_label.h"
+#include "desktop/widgets/told_role.h"
 
 namespace varnholt {
 
@@ -175,6 +176,7 @@ void UpDownButtons::wheelEvent(QWheelEvent* event) {
 
 GroupBox::GroupBox(QWidget* parent)
     : QWidget(parent), title_(new TextLabel(this)), layout_(new QVBoxLayout(this)) {
+    tellAs(*this, QAccessible::Grouping);
     QFont font = title_->font();
     font.setWeight(QFont::DemiBold);
     title_->setFont(font);
