@@ -736,7 +736,6 @@ constexpr int notLinked = 2982;
 constexpr int chartCooling = 2983;
 constexpr int chartHeating = 2984;
 constexpr int dayChartEmpty = 2985;
-constexpr int dayChartLargestLoad = 2986;
 constexpr int pumpCurvesEmpty = 2990;
 constexpr int pumpCurves = 2991;
 constexpr int pumpCurvesAtDesign = 2992;
@@ -751,6 +750,12 @@ constexpr int enterLoadsFirst = 2160;
 constexpr int moreOfNumber = 4230;
 constexpr int lessOfNumber = 4231;
 constexpr int emptySearch = 4232;
+constexpr int linkedWithDesign = 4233;
+constexpr int notLinkedWithZoneManager = 4234;
+constexpr int notLinkedWithAverageBlock = 4235;
+constexpr int clearPumpTold = 4236;
+constexpr int gainsByBlock = 4240;
+constexpr int lossesByBlock = 4241;
 
 // What a design comes to: the strip at the foot of its window, the page of its results.
 constexpr int lengthsFresh = 2551;

@@ -16,6 +16,7 @@ class frmZoneManage : public ZoneWindow {
 
     /// The whole building's loads by time block.
     LoadsChart buildingDayChart() const;
+    std::string descriptionOf(const std::string& image) const override;
 
     /// The summary as a table for elsewhere: heads with their units, and the cells of a line of
     /// `LOZoneSummaryList`; zone, label and mode come first.

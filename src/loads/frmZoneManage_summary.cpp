@@ -9,6 +9,7 @@
 #include "forms/text_numbers.h"
 #include "loads/frmZoneManage.h"
 #include "loads/modLoads/building_totals.h"
+#include "loads/modLoads/chart_sentences.h"
 #include "loads/modLoads/summary_lines.h"
 
 namespace varnholt {
@@ -104,6 +105,11 @@ void frmZoneManage::rebuildSummary() {
 
 LoadsChart frmZoneManage::buildingDayChart() const {
     return chartOf(totalsOf(ZoneList()).gains, units());
+}
+
+std::string frmZoneManage::descriptionOf(const std::string& image) const {
+    if (image != "LOBuildingDayChart") return ZoneWindow::descriptionOf(image);
+    return describe(buildingDayChart(), loadsCaptions(units(), texts()), texts());
 }
 
 std::vector<std::string> frmZoneManage::summaryTableHeads() const {

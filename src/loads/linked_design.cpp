@@ -6,6 +6,7 @@
 
 #include "forms/text_numbers.h"
 #include "frame/varnmain.h"
+#include "loads/link_light.h"
 #include "loads/links.h"
 #include "loads/loads_window.h"
 #include "loads/zone_values.h"
@@ -107,6 +108,12 @@ void LinkedDesign::showLinkLight() {
         .setVisible(!linkType.empty());
     element("imgLinkLight", 8).setEnabled(average).setVisible(average);
     element("imgLinkLight", 6).setEnabled(linkType.empty()).setVisible(linkType.empty());
+}
+
+std::string LinkedDesign::descriptionOf(const std::string& image) const {
+    const auto light = linkLightOf(image);
+    if (!light) return DesignDocument::descriptionOf(image);
+    return describeLinkLight(*light, control(image).enabled(), texts());
 }
 
 std::string LinkedDesign::projectCaption() const {

@@ -46,6 +46,7 @@ class LinkedDesign : public DesignDocument {
     /// Copies zones, series, flow and temperatures from the linked loads window when its zones
     /// differ from the design's, then its project data the other way. Does nothing when unlinked.
     void TransferLoadsVariablesIn();
+    std::string descriptionOf(const std::string& image) const override;
     /// Copies the design's zones, series, flow and temperatures into the linked loads window.
     void TransferLoadsVariablesOut();
     /// The zones come from the window's file; temperatures, flow and series stay the project's,

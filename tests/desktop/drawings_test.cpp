@@ -12,6 +12,7 @@
 #include "desktop/widgets/qt_text.h"
 #include "drawing_samples.h"
 #include "loads/import/month_pictures.h"
+#include "loads/modLoads/chart_sentences.h"
 
 namespace varnholt {
 namespace {
@@ -191,11 +192,14 @@ TEST(MonthsPicture, DrawsThePeakMonthStrong) {
     EXPECT_LT(with, without);
 }
 
-TEST(LoadsPicture, NamesTheLargestLoadOfEachMode) {
-    EXPECT_EQ(describeLoads(sampleLoads(), sampleCaptions(), pictureTexts()),
-              "Cooling: the largest load is 42.5 MBtu/hr, in the block 12-4. Heating: the largest "
-              "load is 31.0 MBtu/hr, in the block 8-12.");
-    EXPECT_EQ(describeLoads({}, sampleCaptions(), pictureTexts()), "Enter loads to see the day.");
+TEST(LoadsPicture, TellsTheLoadsOfEachMode) {
+    EXPECT_EQ(
+        describe(sampleLoads(), sampleCaptions(), pictureTexts()),
+        "Heat gains 24.0, 42.5, 38.2 and 6.0 MBtu/hr from 8 a.m. on, the largest in the "
+        "block 12-4. Heat losses 31.0, 12.4, 9.0 and 27.5 MBtu/hr from 8 a.m. on, the largest "
+        "in the block 8-12.");
+    EXPECT_EQ(describe(LoadsChart(), sampleCaptions(), pictureTexts()),
+              "Enter loads to see the day.");
 }
 
 /// The chart engine's widgets within a drawing.
@@ -276,8 +280,16 @@ TEST(Charts, TellNothingBeyondACurvesEnds) {
 }
 
 TEST(LinkLights, SayWhatTheyStandFor) {
-    const std::unique_ptr<Drawing> light(newLinkLight(LinkPartner::block, pictureTexts()));
-    EXPECT_EQ(light->description(), "Linked with the Average Block Loads");
+    bool lit = true;
+    const std::unique_ptr<Drawing> light(newLinkLight(LinkPartner::block, [&lit] {
+        return describeLinkLight(LinkPartner::block, lit, pictureTexts());
+    }));
+    light->refresh();
+    EXPECT_EQ(light->accessibleName(), "Linked with the Average Block Loads");
+    lit = false;
+    light->refresh();
+    EXPECT_EQ(light->accessibleName(), "Not linked with the Average Block Loads");
+    EXPECT_EQ(light->toolTip(), light->accessibleName());
 }
 
 }  // namespace

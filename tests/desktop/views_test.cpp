@@ -13,6 +13,7 @@
 
 #include "desk.h"
 #include "desktop/binding/form_window.h"
+#include "desktop/drawings/drawing.h"
 #include "desktop/widgets/house_widgets.h"
 #include "desktop/widgets/qt_text.h"
 #include "frame/menu_table.h"
@@ -258,6 +259,53 @@ std::pair<int, std::string> toldOf(QWidget& widget) {
     return {told->role(), plain(told->text(QAccessible::Name))};
 }
 
+/// Everything that a person can work has a name, and no other thing of its window has it too.
+void expectNamesOfTheirOwn(const Form& form, Binder& binder) {
+    std::map<std::pair<int, std::string>, std::string> names;
+    for (const auto& control : form.controls()) {
+        if (!takesTheKeyboard(form, *control)) continue;
+        const auto told = toldOf(*binder.widget(control->name()));
+        EXPECT_NE(told.second, "") << control->name();
+        const auto [other, isNew] = names.emplace(told, control->name());
+        EXPECT_TRUE(isNew) << control->name() << " and " << other->second << " are both "
+                           << told.second;
+    }
+}
+
+/// A field with a unit behind it is called with the unit that stands there.
+void expectUnitsInNames(const Form& form, Binder& binder) {
+    for (const auto& control : form.controls()) {
+        if (!takesTheKeyboard(form, *control) || !form.has(control->unitLabel())) continue;
+        std::string unit = form.control(control->unitLabel()).caption();
+        std::erase_if(unit, [](char c) { return c == '(' || c == ')'; });
+        const std::size_t first = unit.find_first_not_of(' ');
+        if (first == std::string::npos) continue;
+        unit = unit.substr(first, unit.find_last_not_of(' ') - first + 1);
+        const std::string name = plain(binder.widget(control->name())->accessibleName());
+        EXPECT_NE(name.find(unit), std::string::npos) << control->name() << " is " << name;
+    }
+}
+
+/// Each picture that is drawn from the model is a picture, has a name, and says what it shows.
+int expectSentences(const Form& form, Binder& binder) {
+    int pictures = 0;
+    for (const auto& control : form.controls()) {
+        if (control->kind() != ControlKind::image || !form.isShown(*control)) continue;
+        auto* drawing = dynamic_cast<Drawing*>(binder.widget(control->name()));
+        if (drawing == nullptr) continue;
+        bringToFront(*drawing);
+        drawing->refresh();
+        QAccessibleInterface* told = QAccessible::queryAccessibleInterface(drawing);
+        EXPECT_EQ(told->role(), QAccessible::Graphic) << control->name();
+        EXPECT_FALSE(told->text(QAccessible::Name).isEmpty()) << control->name();
+        EXPECT_EQ(plain(drawing->description()), form.descriptionOf(control->name()))
+            << control->name();
+        EXPECT_NE(form.descriptionOf(control->name()), "") << control->name();
+        ++pictures;
+    }
+    return pictures;
+}
+
 TEST(Accessibility, CallsNoTwoControlsOfAWindowAlikeAndNoneNothing) {
     Desk desk;
     ViewRegistry views;
@@ -266,16 +314,60 @@ TEST(Accessibility, CallsNoTwoControlsOfAWindowAlikeAndNoneNothing) {
         window.binder().buildAll();
         dress(window);
         window.show();
-        std::map<std::pair<int, std::string>, std::string> names;
-        for (const auto& control : form.controls()) {
-            if (!takesTheKeyboard(form, *control)) continue;
-            const auto told = toldOf(*window.binder().widget(control->name()));
-            EXPECT_NE(told.second, "") << control->name();
-            const auto [other, isNew] = names.emplace(told, control->name());
-            EXPECT_TRUE(isNew) << control->name() << " and " << other->second << " are both "
-                               << told.second;
-        }
+        expectNamesOfTheirOwn(form, window.binder());
+        expectSentences(form, window.binder());
     });
+}
+
+TEST(Accessibility, TellsTheUnitsOfFieldsAsTheyAreShown) {
+    Desk desk;
+    ViewRegistry views;
+    forEveryForm(desk, [&](Form& form) {
+        FormWindow window(form, views.maker(), {});
+        window.binder().buildAll();
+        expectUnitsInNames(form, window.binder());
+        if (!form.has("MetricCheck")) return;
+        form.click("MetricCheck");
+        expectUnitsInNames(form, window.binder());
+    });
+    const std::vector<ChildWindow*> open = desk.main().windows();
+    Form& zones = **std::find_if(open.begin(), open.end(), [](const ChildWindow* each) {
+        return each->formName() == "frmAvgBlock";
+    });
+    FormWindow window(zones, views.maker(), {});
+    window.binder().buildAll();
+    const QWidget* gains = window.binder().widget("LOGainsText(0)");
+    EXPECT_EQ(plain(gains->accessibleName()), "Heat Gains, 8 a.m. - Noon, kW");
+    zones.click("MetricCheck");
+    EXPECT_EQ(plain(gains->accessibleName()), "Heat Gains, 8 a.m. - Noon, MBtu/Hr");
+}
+
+/// The same with loads, pumps and lengths in the windows.
+TEST(Accessibility, TellsEveryControlAndPictureOfTheExamples) {
+    std::set<std::string> seen;
+    int pictures = 0;
+    for (const char* example : {"office", "house", "trench-office", "school-pond"}) {
+        SCOPED_TRACE(example);
+        Desk desk;
+        desk.window->openFiles({desk.folder() + "/work files/" + example + ".vht"});
+        ASSERT_EQ(desk.main().windows().size(), 2U);
+        for (const char* command : {"CASecondOpinionCommand", "CAWhatIfCommand"})
+            for (ChildWindow* child : desk.main().windows())
+                if (child->has(command)) child->click(command);
+        for (ChildWindow* child : desk.main().windows()) {
+            SCOPED_TRACE(child->formName());
+            seen.insert(child->formName());
+            child->catchUp();
+            Binder& binder = desk.shelf.windowOf(*child)->binder();
+            binder.buildAll();
+            expectNamesOfTheirOwn(*child, binder);
+            pictures += expectSentences(*child, binder);
+        }
+    }
+    EXPECT_EQ(seen,
+              (std::set<std::string>{"frmAvgBlock", "frmBHDesign", "frmHZDesign", "frmSWDesign",
+                                     "frmSecondOpinion", "frmWhatIf", "frmZoneManage"}));
+    EXPECT_GT(pictures, 40);
 }
 
 }  // namespace

@@ -30,6 +30,9 @@ struct CurvePicture {
     bool secondStale = false;           ///< the second line's factor is
     std::optional<double> turn;         ///< where the curve turns around
 
+    /// Whether a line of it is: where the whole curve is, its second line is left out.
+    bool isOlder() const { return stale || secondStale; }
+
     friend bool operator==(const CurvePicture&, const CurvePicture&) = default;
 };
 
@@ -40,6 +43,15 @@ struct FitPicture {
 
     bool empty() const;
     friend bool operator==(const FitPicture&, const FitPicture&) = default;
+};
+
+/// Curves of a model and the words that stand at them.
+struct FitCurvesPicture {
+    FitPicture curves;
+    std::string across, capacity, power;  ///< titles of the axes
+    int emptyText = 0;                    ///< what is said where there is nothing to draw
+
+    friend bool operator==(const FitCurvesPicture&, const FitCurvesPicture&) = default;
 };
 
 /// Rating points and curves over the entering water temperature.

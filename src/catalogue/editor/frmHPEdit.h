@@ -46,11 +46,10 @@ class frmHPEdit : public ChildWindow {
     bool takeRecovered(std::string_view bytes, const std::string& path);
     void actionEnds(const UserAction& action) override;
 
-    // For the pictures.
-    FitPicture rating(Mode mode) const;
-    FitPicture bothRatings() const;
-    FitPicture corrections(CorrectionKind kind) const;
-    FitPicture tested() const;
+    /// What an image of the window shows, in the units shown: `PumpChart`, `CoolingRatingChart`,
+    /// `HeatingRatingChart`, `CorrectionsChart(0)`, `CorrectionsChart(1)` or `TestChart`.
+    FitCurvesPicture chart(const std::string& image) const;
+    std::string descriptionOf(const std::string& image) const override;
 
     /// What `ProceedCommand` and `CancelCommand` are to do: "newMfg", "newSeries", "Return" or
     /// empty.

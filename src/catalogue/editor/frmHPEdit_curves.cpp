@@ -183,24 +183,4 @@ void frmHPEdit::fitStaleCurves() {
         if (stale.correction[kind]) CoefficientsCalculateCommand_Click(kind);
 }
 
-FitPicture frmHPEdit::rating(Mode mode) const {
-    const pump* shown = shownPump();
-    return shown == nullptr ? FitPicture{} : ratingPicture(*shown, {mode}, units());
-}
-
-FitPicture frmHPEdit::bothRatings() const {
-    const pump* shown = shownPump();
-    return shown == nullptr ? FitPicture{} : ratingPicture(*shown, {cooling, heating}, units());
-}
-
-FitPicture frmHPEdit::corrections(CorrectionKind kind) const {
-    const pump* shown = shownPump();
-    return shown == nullptr ? FitPicture{} : correctionPicture(*shown, kind, units());
-}
-
-FitPicture frmHPEdit::tested() const {
-    const pump* shown = shownPump();
-    return shown == nullptr ? FitPicture{} : testPicture(*shown, document_.test, units());
-}
-
 }  // namespace varnholt

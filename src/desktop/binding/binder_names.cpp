@@ -70,7 +70,8 @@ void Binder::nameTheNameless() {
     for (const auto& [name, bound] : bound_) {
         QWidget* widget = bound->widget();
         QString found = widget->accessibleName();
-        if (widget->focusPolicy() == Qt::NoFocus) continue;
+        const bool picture = bound->control().kind() == ControlKind::image;
+        if (widget->focusPolicy() == Qt::NoFocus && !picture) continue;
         if (found.isEmpty()) found = widget->toolTip();
         for (QWidget* around = widget; found.isEmpty() && around != nullptr;
              around = around->parentWidget()) {

@@ -6,6 +6,7 @@
 
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
+#include "loads/modLoads/chart_sentences.h"
 
 namespace varnholt {
 namespace {
@@ -38,7 +39,7 @@ DayChart::DayChart(Source loads, Captions captions, const Texts& texts, ChartMod
       source_(std::move(loads)),
       captionSource_(std::move(captions)) {}
 
-QString DayChart::description() const { return describeLoads(loads_, captions_, texts()); }
+QString DayChart::description() const { return qt(describe(loads_, captions_, texts())); }
 
 bool DayChart::take() {
     LoadsChart loads = source_();

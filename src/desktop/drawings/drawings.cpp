@@ -17,6 +17,7 @@
 #include "desktop/drawings/trench_picture.h"
 #include "desktop/drawings/trench_plan_picture.h"
 #include "desktop/widgets/qt_text.h"
+#include "loads/modLoads/chart_sentences.h"
 
 namespace varnholt {
 namespace {
@@ -28,12 +29,17 @@ struct LoadsBars {
 
 class LinkLamp : public Drawing {
  public:
-    LinkLamp(LinkPartner partner, const Texts& texts) : partner_(partner), texts_(texts) {
+    LinkLamp(LinkPartner partner, std::function<std::string()> sentence)
+        : partner_(partner), sentence_(std::move(sentence)) {
         setFixedSize(24, 24);
     }
 
-    void refresh() override {}
-    QString description() const override { return describeLinkLight(partner_, texts_); }
+    /// A light has no other name than what it says.
+    void refresh() override {
+        setAccessibleName(description());
+        setToolTip(description());
+    }
+    QString description() const override { return qt(sentence_()); }
     /// Goes out for a moment while loads pass.
     void flash() override {
         constexpr int milliseconds = 250;
@@ -55,7 +61,7 @@ class LinkLamp : public Drawing {
  private:
     bool dark_ = false;
     LinkPartner partner_;
-    const Texts& texts_;
+    std::function<std::string()> sentence_;
 };
 
 }  // namespace
@@ -137,8 +143,8 @@ Drawing* newLoopChart(std::function<LoopCurves()> source, const Texts& texts,
     return new LoopChart(std::move(source), texts, std::move(charts));
 }
 
-Drawing* newLinkLight(LinkPartner partner, const Texts& texts) {
-    return new LinkLamp(partner, texts);
+Drawing* newLinkLight(LinkPartner partner, std::function<std::string()> sentence) {
+    return new LinkLamp(partner, std::move(sentence));
 }
 
 Drawing* newLoadsBars(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,
@@ -150,7 +156,7 @@ Drawing* newLoadsBars(std::function<LoadsChart()> source, std::function<LoadsCap
         [&texts](const Canvas& canvas, const LoadsBars& bars) {
             paintLoads(canvas, bars.loads, bars.captions, texts);
         },
-        [&texts](const LoadsBars& bars) { return describeLoads(bars.loads, bars.captions, texts); },
+        [&texts](const LoadsBars& bars) { return qt(describe(bars.loads, bars.captions, texts)); },
         {252, 140});
 }
 

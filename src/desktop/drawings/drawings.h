@@ -43,7 +43,8 @@ Drawing* newGroundTempChart(std::function<GroundTempCurves()> source, const Text
 Drawing* newLoopChart(std::function<LoopCurves()> source, const Texts& texts,
                       ChartModuleFinder charts = findChartModule);
 /// A light that stands for one partner; it is lit while it is enabled.
-Drawing* newLinkLight(LinkPartner partner, const Texts& texts);
+/// @param sentence  what it says
+Drawing* newLinkLight(LinkPartner partner, std::function<std::string()> sentence);
 /// Small bars beside the numbers of a zone.
 Drawing* newLoadsBars(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,
                       const Texts& texts);

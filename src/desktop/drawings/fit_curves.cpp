@@ -2,10 +2,9 @@
 #include "desktop/drawings/fit_curves.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
-#include "basis/number_text.h"
+#include "catalogue/editor/curve_sentences.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
 
@@ -41,9 +40,6 @@ ChartAxis axisOfValues(const FitExtent& extent, bool fromZero) {
     return axisAround(extent.least.y() - room, extent.most.y() + room);
 }
 
-/// Whether a line of it is: where the whole curve is, its second line is left out.
-bool isOlder(const CurvePicture& curve) { return curve.stale || curve.secondStale; }
-
 ChartPicture chartOf(const ByMode<CurvePicture>& curves, const QString& across, const QString& up,
                      bool fromZero) {
     using Sign = ChartSeries::Sign;
@@ -56,7 +52,7 @@ ChartPicture chartOf(const ByMode<CurvePicture>& curves, const QString& across, 
     for (const Mode mode : modes) {
         const CurvePicture& curve = curves[mode];
         const QList<QPointF> none, line = pointsOf(curve.line), second = pointsOf(curve.secondLine);
-        draw(Sign::thinLine, mode, isOlder(curve) ? none : second);
+        draw(Sign::thinLine, mode, curve.isOlder() ? none : second);
         draw(Sign::line, mode, curve.stale ? none : line);
         draw(Sign::staleLine, mode, curve.stale ? line : curve.secondStale ? second : none);
         draw(Sign::secondMeasured, mode, pointsOf(curve.secondMeasured));
@@ -69,19 +65,6 @@ ChartPicture chartOf(const ByMode<CurvePicture>& curves, const QString& across, 
     chart.up = axisOfValues(extent, fromZero);
     chart.up.title = up;
     return chart;
-}
-
-/// Greatest distance of the drawn curve from its points, in percent of theirs.
-double distance(const CurvePicture& curve) {
-    double greatest = 0;
-    for (const FitPoint& point : curve.measured)
-        for (std::size_t i = 1; i < curve.line.size(); ++i) {
-            const FitPoint &a = curve.line[i - 1], &b = curve.line[i];
-            if (point.x < a.x || point.x > b.x || b.x == a.x || point.y == 0) continue;
-            const double value = a.y + (b.y - a.y) * (point.x - a.x) / (b.x - a.x);
-            greatest = std::max(greatest, std::fabs(value / point.y - 1) * 100);
-        }
-    return greatest;
 }
 
 }  // namespace
@@ -124,7 +107,7 @@ std::vector<LegendRow::Entry> FitCurves::legend() const {
         entries.push_back({LegendRow::Sign::second, qt(texts().text(Text::secondFlowLegend))});
     if (any([](const CurvePicture& curve) { return curve.operating.has_value(); }))
         entries.push_back({LegendRow::Sign::design, qt(texts().text(Text::testedLegend))});
-    if (any(isOlder))
+    if (any([](const CurvePicture& curve) { return curve.isOlder(); }))
         entries.push_back({LegendRow::Sign::staleLine, qt(texts().text(Text::staleLegend))});
     return entries;
 }
@@ -133,31 +116,6 @@ QString FitCurves::emptyHint() const {
     return picture_.curves.empty() ? qt(texts().text(picture_.emptyText)) : QString();
 }
 
-QString FitCurves::description() const {
-    if (picture_.curves.empty()) return emptyHint();
-    constexpr ByMode<int> capacityNames{Text::coolingCapacityCurve, Text::heatingCapacityCurve},
-        powerNames{Text::coolingPowerCurve, Text::heatingPowerCurve};
-    const auto figure = [](double value) { return qt(formatNumber(value, "###0.0#")); };
-    QString told;
-    const auto tell = [&](const CurvePicture& curve, int name) {
-        const QString words = qt(texts().text(name));
-        if (curve.operating)
-            told += qt(texts().text(Text::curveTested))
-                        .arg(words, figure(curve.operating->y), figure(curve.operating->x)) +
-                    u' ';
-        else if (isOlder(curve))
-            told += qt(texts().text(Text::curveStale)).arg(words) + u' ';
-        else if (!curve.measured.empty())
-            told +=
-                qt(texts().text(Text::curveMet))
-                    .arg(words, QString::number(curve.measured.size()), figure(distance(curve))) +
-                u' ';
-    };
-    for (const Mode mode : modes) {
-        tell(picture_.curves.capacity[mode], capacityNames[mode]);
-        tell(picture_.curves.power[mode], powerNames[mode]);
-    }
-    return told.trimmed();
-}
+QString FitCurves::description() const { return qt(describe(picture_, texts())); }
 
 }  // namespace varnholt

@@ -2,22 +2,12 @@
 #pragma once
 
 #include <functional>
-#include <string>
 
 #include "catalogue/editor/editor_pictures.h"
 #include "desktop/drawings/chart_drawing.h"
 #include "forms/texts.h"
 
 namespace varnholt {
-
-/// Curves of a model and the words that stand at them.
-struct FitCurvesPicture {
-    FitPicture curves;
-    std::string across, capacity, power;  ///< titles of the axes
-    int emptyText = 0;                    ///< what is said where there is nothing to draw
-
-    friend bool operator==(const FitCurvesPicture&, const FitCurvesPicture&) = default;
-};
 
 /// Capacity and power of a model as they are being fitted, one below the other: the points that
 /// were measured, the curves over them, and where the model is tried. A curve that was fitted from

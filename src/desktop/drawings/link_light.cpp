@@ -4,9 +4,6 @@
 #include <QRadialGradient>
 #include <algorithm>
 
-#include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
-
 namespace varnholt {
 namespace {
 
@@ -68,18 +65,6 @@ void paintLinkLight(const Canvas& canvas, LinkPartner partner, bool lit) {
         drawPartner(painter, canvas.look, partner);
     }
     painter.restore();
-}
-
-QString describeLinkLight(LinkPartner partner, const Texts& texts) {
-    switch (partner) {
-        case LinkPartner::zones:
-            return qt(texts.text(Text::linkedWithZoneManager));
-        case LinkPartner::block:
-            return qt(texts.text(Text::linkedWithAverageBlock));
-        case LinkPartner::none:
-            break;
-    }
-    return qt(texts.text(Text::notLinked));
 }
 
 }  // namespace varnholt

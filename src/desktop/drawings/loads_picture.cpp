@@ -170,21 +170,4 @@ void paintLoads(const Canvas& canvas, const LoadsChart& loads, const LoadsCaptio
     painter.drawLine(QPointF(plot.left(), base), QPointF(plot.right(), base));
 }
 
-QString describeLoads(const LoadsChart& loads, const LoadsCaptions& captions, const Texts& texts) {
-    if (loads.empty()) return qt(texts.text(Text::dayChartEmpty));
-    QStringList sentences;
-    for (const Mode mode : modes) {
-        if (!loads.peakBlock[mode]) continue;
-        sentences << qt(texts.text(Text::dayChartLargestLoad))
-                         .arg(chartWord(mode, texts), loadFigure(loads.largest[mode]),
-                              qt(captions.unit), qt(captions.blocks[*loads.peakBlock[mode]]));
-        if (!loads.capacity[mode]) continue;
-        const int words = exceeds(loads, mode, loads.largest[mode]) ? Text::chartCapacityShort
-                                                                    : Text::chartCapacity;
-        sentences
-            << qt(texts.text(words)).arg(loadFigure(*loads.capacity[mode]), qt(captions.unit));
-    }
-    return sentences.join(u' ');
-}
-
 }  // namespace varnholt

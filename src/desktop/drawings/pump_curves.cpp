@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "basis/number_text.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
+#include "loads/modLoads/chart_sentences.h"
 
 namespace varnholt {
 namespace {
@@ -34,38 +34,10 @@ struct PumpExtent {
 
 }  // namespace
 
-std::optional<double> valueAt(const PumpCurve& curve, double enteringWater) {
-    for (std::size_t i = 1; i < curve.curve.size(); ++i) {
-        const PumpChartPoint &a = curve.curve[i - 1], &b = curve.curve[i];
-        if (enteringWater < a.enteringWater || enteringWater > b.enteringWater) continue;
-        if (b.enteringWater == a.enteringWater) return a.value;
-        const double share =
-            (enteringWater - a.enteringWater) / (b.enteringWater - a.enteringWater);
-        return a.value + share * (b.value - a.value);
-    }
-    return std::nullopt;
-}
-
 PumpCurves::PumpCurves(Source picture, const Texts& texts, ChartModuleFinder charts)
     : ChartDrawing(texts, std::move(charts)), source_(std::move(picture)) {}
 
-QString PumpCurves::description() const {
-    if (picture_.pump.name.empty()) return qt(texts().text(Text::pumpCurvesEmpty));
-    QString shown = qt(texts().text(Text::pumpCurves)).arg(qt(picture_.pump.name));
-    for (const Mode mode : modes) {
-        const auto capacity = valueAt(picture_.pump.capacity[mode], picture_.designWater[mode]);
-        const auto power = valueAt(picture_.pump.power[mode], picture_.designWater[mode]);
-        if (!capacity || !power) continue;
-        const auto figure = [](double value) { return qt(formatNumber(value, "##0.0")); };
-        shown += u' ' + qt(texts().text(Text::pumpCurvesAtDesign))
-                            .arg(qt(mode == cooling ? texts().text(Text::chartCooling)
-                                                    : texts().text(Text::chartHeating)),
-                                 figure(picture_.designWater[mode]), qt(picture_.temperatureUnit),
-                                 figure(*capacity), qt(picture_.capacityUnit), figure(*power),
-                                 qt(picture_.powerUnit));
-    }
-    return shown;
-}
+QString PumpCurves::description() const { return qt(describe(picture_, texts())); }
 
 bool PumpCurves::take() {
     const PumpPicture before = std::exchange(picture_, source_());

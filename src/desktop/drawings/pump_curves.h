@@ -2,26 +2,12 @@
 #pragma once
 
 #include <functional>
-#include <optional>
-#include <string>
 
 #include "desktop/drawings/chart_drawing.h"
 #include "forms/texts.h"
 #include "loads/modLoads/loads_pictures.h"
 
 namespace varnholt {
-
-/// A model's curves and the water that the design takes it with, all in the units shown.
-struct PumpPicture {
-    PumpChart pump;
-    ByMode<double> designWater{};  ///< entering water temperature of the design
-    std::string temperatureUnit, capacityUnit, powerUnit;
-
-    friend bool operator==(const PumpPicture&, const PumpPicture&) = default;
-};
-
-/// A curve's value at a place, between its points on a straight line; nothing outside of it.
-std::optional<double> valueAt(const PumpCurve& curve, double enteringWater);
 
 /// A pump's capacity and power over the entering water temperature, both modes: the fitted curves,
 /// the catalogue's points, and the design's point on each curve.

@@ -3,8 +3,6 @@
 #include "desktop/drawings/drawings.h"
 #include "desktop/views/loads_pieces.h"
 #include "desktop/views/view_pieces.h"
-#include "forms/quantity.h"
-#include "forms/text_numbers.h"
 #include "loads/modLoads/zone_window.h"
 
 namespace varnholt {
@@ -23,19 +21,8 @@ QWidget* conditions(Binder& bind) {
 }
 
 PumpPicture pumpPicture(const Binder& bind) {
-    PumpPicture picture;
     const ZoneWindow* window = zoneWindowOf(bind);
-    if (window == nullptr) return picture;
-    picture.pump = window->pumpChart();
-    const bool metric = window->units() == UnitSystem::metric;
-    for (const Mode mode : modes)
-        picture.designWater[mode] =
-            quantities::temperature.shown(window->conditions().inletTemp[mode], window->units());
-    picture.temperatureUnit =
-        metric ? bind.text(Text::temperatureUnitsMetric) : bind.text(Text::temperatureUnitsEnglish);
-    picture.capacityUnit = loadsCaptions(bind).unit;
-    picture.powerUnit = withoutBrackets(bind.text(Text::loadUnitsMetric));
-    return picture;
+    return window == nullptr ? PumpPicture() : window->pumpPicture();
 }
 
 QWidget* catalogue(Binder& bind) {

@@ -12,6 +12,7 @@
 #include "desktop/widgets/text_label.h"
 #include "forms/text_numbers.h"
 #include "loads/import/frmImport1.h"
+#include "loads/modLoads/chart_sentences.h"
 
 namespace varnholt {
 namespace {
@@ -49,11 +50,7 @@ QWidget* importedYearFields(Binder& bind) {
 
 LoadsCaptions dayCaptions(const Binder& bind) {
     const frmImport1* form = importerOf(bind);
-    const bool metric = form != nullptr && form->units() == UnitSystem::metric;
-    return {{bind.text(Text::summaryEightToNoon), bind.text(Text::summaryNoonToFour),
-             bind.text(Text::summaryFourToEight), bind.text(Text::summaryEightToEight)},
-            withoutBrackets(metric ? bind.text(Text::loadUnitsMetric)
-                                   : bind.text(Text::loadUnitsEnglish))};
+    return form == nullptr ? LoadsCaptions() : loadsCaptions(form->units(), form->texts());
 }
 
 QWidget* transfer(Binder& bind) {

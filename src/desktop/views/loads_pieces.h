@@ -32,7 +32,5 @@ const ZoneWindow* zoneWindowOf(const Binder& bind);
 FieldRow headRow(Binder& bind, const char* caption, const char* cooling, const char* heating);
 /// Words at the pictures of loads, in the units shown.
 LoadsCaptions loadsCaptions(const Binder& bind);
-/// "kW" of "(kW)".
-std::string withoutBrackets(const std::string& unit);
 
 }  // namespace varnholt

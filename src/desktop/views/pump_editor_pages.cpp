@@ -158,39 +158,12 @@ QWidget* ratingCurves(Binder& bind, Mode mode) {
                  buttons(bind.widget(elementName("CalculateCoefficientsCommand", mode))));
 }
 
-/// Titles of the axes in the units shown.
-FitCurvesPicture titled(const Binder& bind, FitPicture curves, const std::string& across,
-                        const std::string& acrossUnit, bool factors, int emptyText) {
-    FitCurvesPicture picture;
-    picture.curves = std::move(curves);
-    picture.emptyText = emptyText;
-    const auto with = [](const std::string& words, const std::string& unit) {
-        return unit.empty() ? words : words + " (" + unit + ")";
-    };
-    const bool metric = editorOf(bind)->units() == UnitSystem::metric;
-    picture.across = with(across, acrossUnit);
-    picture.capacity = factors ? bind.text(Text::capacityFactor)
-                               : with(bind.text(Text::ratedCapacity),
-                                      withoutBrackets(bind.text(metric ? Text::loadUnitsMetric
-                                                                       : Text::loadUnitsEnglish)));
-    picture.power = factors ? bind.text(Text::powerFactor)
-                            : with(bind.text(Text::ratedPower),
-                                   withoutBrackets(bind.text(Text::loadUnitsMetric)));
-    return picture;
-}
-
-std::string degrees(const Binder& bind) {
-    return editorOf(bind)->units() == UnitSystem::metric ? bind.text(Text::temperatureUnitsMetric)
-                                                         : bind.text(Text::temperatureUnitsEnglish);
-}
-
-/// A picture of the pump on show, by what the form gives for it.
-QWidget* curves(Binder& bind, const std::string& image,
-                const std::function<FitCurvesPicture(const frmHPEdit&)>& picture) {
+/// A picture of the pump on show.
+QWidget* curves(Binder& bind, const std::string& image) {
     Drawing* drawing = newFitCurves(
-        [&bind, picture] {
+        [&bind, image] {
             const frmHPEdit* editor = editorOf(bind);
-            return editor == nullptr ? FitCurvesPicture() : picture(*editor);
+            return editor == nullptr ? FitCurvesPicture() : editor->chart(image);
         },
         bind.form()->texts());
     return bind.drawing(image, drawing);
@@ -258,20 +231,13 @@ QWidget* pumpDetailsPage(Binder& bind) {
     FieldRow type;
     type.caption = bind.widget("PumpTypeLabel");
     type.fields = {buttons(bind.widget("PumpTypeOption(0)"), bind.widget("PumpTypeOption(1)"))};
-    QWidget* chart = curves(bind, "PumpChart", [&bind](const frmHPEdit& editor) {
-        return titled(bind, editor.bothRatings(), bind.text(Text::enteringWater), degrees(bind),
-                      false, Text::nothingMeasured);
-    });
+    QWidget* chart = curves(bind, "PumpChart");
     return group(bind.frame(pageFrames[0]),
                  grow(reflow(grid(bind.row("PumpModelText"), type), grow(chart))));
 }
 
 QWidget* ratingPageOf(Binder& bind, Mode mode) {
-    QWidget* chart =
-        curves(bind, prefixOf(mode) + "RatingChart", [&bind, mode](const frmHPEdit& editor) {
-            return titled(bind, editor.rating(mode), bind.text(Text::enteringWater), degrees(bind),
-                          false, Text::nothingMeasured);
-        });
+    QWidget* chart = curves(bind, prefixOf(mode) + "RatingChart");
     QWidget* figures =
         column(flowPair(bind, mode), atLeft(ratingTable(bind, mode)),
                buttons(bind.widget(elementName("CopyTableCommand", ratingPage[mode]))),
@@ -281,14 +247,7 @@ QWidget* ratingPageOf(Binder& bind, Mode mode) {
 
 QWidget* correctionPageOf(Binder& bind, CorrectionKind kind) {
     const std::size_t page = correctionPage[kind];
-    QWidget* chart =
-        curves(bind, elementName("CorrectionsChart", kind), [&bind, kind](const frmHPEdit& editor) {
-            const bool temperature = kind == byTemperature;
-            return titled(
-                bind, editor.corrections(kind),
-                bind.text(temperature ? Text::loadTemperatureAxis : Text::loadPercentAxis),
-                temperature ? degrees(bind) : std::string(), true, Text::nothingMeasured);
-        });
+    QWidget* chart = curves(bind, elementName("CorrectionsChart", kind));
     QWidget* nominal = kind == byFlow ? grid([&bind] {
         FieldRow row = bind.row("NominalFlowText");
         row.unit = bind.widget("NominalFlowRateLabel");
@@ -302,10 +261,7 @@ QWidget* correctionPageOf(Binder& bind, CorrectionKind kind) {
 }
 
 QWidget* pumpTestPage(Binder& bind) {
-    QWidget* chart = curves(bind, "TestChart", [&bind](const frmHPEdit& editor) {
-        return titled(bind, editor.tested(), bind.text(Text::enteringWater), degrees(bind), false,
-                      Text::nothingToTest);
-    });
+    QWidget* chart = curves(bind, "TestChart");
     // One grid, so that results stand below what was typed for them.
     QWidget* figures =
         grid(bind.heads("TestModeLabel(0)", "TestModeLabel(1)"), bind.pair("TestSourceEWTText"),

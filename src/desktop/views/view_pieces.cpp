@@ -15,10 +15,11 @@ namespace varnholt {
 namespace {
 
 QWidget* light(Binder& bind, const std::string& image, LinkPartner partner) {
-    Drawing* lamp = newLinkLight(partner, bind.form()->texts());
+    Drawing* lamp = newLinkLight(partner, [&bind, image] {
+        return bind.form() == nullptr ? std::string() : bind.form()->descriptionOf(image);
+    });
     bind.drawing(image, lamp);
-    lamp->setToolTip(lamp->description());
-    lamp->setAccessibleName(lamp->description());
+    lamp->refresh();
     return lamp;
 }
 

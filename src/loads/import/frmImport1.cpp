@@ -12,6 +12,7 @@
 #include "frame/varnmain.h"
 #include "loads/import/design_day.h"
 #include "loads/import/simulation_file.h"
+#include "loads/modLoads/chart_sentences.h"
 
 namespace varnholt {
 namespace {
@@ -196,7 +197,10 @@ void frmImport1::showField() {
 }
 
 std::string frmImport1::descriptionOf(const std::string& image) const {
-    return image == "imgMonths" ? describe(monthsChart(), texts()) : std::string();
+    if (image == "imgMonths") return describe(monthsChart(), texts());
+    if (image == "imgDesignDay")
+        return describe(dayChart(), loadsCaptions(units(), texts()), texts());
+    return {};
 }
 
 MonthsChart frmImport1::monthsChart() const {

@@ -65,7 +65,9 @@ void ZoneWindow::addZonePanel() {
     if (kind_.listsZones)
         add("LOAutoSelectCommand", ControlKind::button, Text::autoSelectPump).in("LOZoneFrame");
     add("LODetailsCommand", ControlKind::button, Text::pumpDetails).in("LOZoneFrame");
-    add("LOClearPumpsCommand", ControlKind::button, Text::clearPump).in("LOZoneFrame");
+    add("LOClearPumpsCommand", ControlKind::button, Text::clearPump)
+        .in("LOZoneFrame")
+        .setAccessibleName(text(Text::clearPumpTold));
     add("LOCustomPumpCheck", ControlKind::check, Text::customPump).in("LOZoneFrame");
     addSelectFrame();
     addDetailsFrame();

@@ -28,6 +28,14 @@ struct LoadsChart {
     friend bool operator==(const LoadsChart&, const LoadsChart&) = default;
 };
 
+/// What stands at a chart of loads: the words of the four blocks and of the loads' unit.
+struct LoadsCaptions {
+    std::array<std::string, timeBlocks> blocks;
+    std::string unit;
+
+    friend bool operator==(const LoadsCaptions&, const LoadsCaptions&) = default;
+};
+
 /// One point of a model's performance over the entering water temperature.
 struct PumpChartPoint {
     double enteringWater = 0;  ///< degF or degC
@@ -49,6 +57,15 @@ struct PumpChart {
     ByMode<PumpCurve> capacity, power;
 
     friend bool operator==(const PumpChart&, const PumpChart&) = default;
+};
+
+/// A model's curves and the water that the design takes it with, all in the units shown.
+struct PumpPicture {
+    PumpChart pump;
+    ByMode<double> designWater{};  ///< entering water temperature of the design
+    std::string temperatureUnit, capacityUnit, powerUnit;
+
+    friend bool operator==(const PumpPicture&, const PumpPicture&) = default;
 };
 
 /// @param gains gains[block][mode], MBtu/hr

@@ -8,8 +8,11 @@
 #include "basis/run_time_error.h"
 #include "catalogue/catalogue_values.h"
 #include "forms/quantity.h"
+#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
+#include "loads/link_light.h"
 #include "loads/links.h"
+#include "loads/modLoads/chart_sentences.h"
 #include "loads/zone_values.h"
 
 namespace varnholt {
@@ -141,6 +144,28 @@ LoadsChart ZoneWindow::loadsChart() const {
         if (zone->pump.capacity[m] > 0)
             chart.capacity[m] = quantities::load.shown(zone->pump.capacity[m], units());
     return chart;
+}
+
+std::string ZoneWindow::descriptionOf(const std::string& image) const {
+    if (image == "LOLoadsChart")
+        return describe(loadsChart(), loadsCaptions(units(), texts()), texts());
+    if (image == "LOPumpChart") return describe(pumpPicture(), texts());
+    if (const auto light = linkLightOf(image))
+        return text(*light == LinkPartner::none ? Text::notLinked : Text::linkedWithDesign);
+    return LoadsWindow::descriptionOf(image);
+}
+
+PumpPicture ZoneWindow::pumpPicture() const {
+    PumpPicture picture;
+    picture.pump = pumpChart();
+    for (const Mode mode : modes)
+        picture.designWater[mode] =
+            quantities::temperature.shown(conditions().inletTemp[mode], units());
+    picture.temperatureUnit = text(units() == UnitSystem::metric ? Text::temperatureUnitsMetric
+                                                                 : Text::temperatureUnitsEnglish);
+    picture.capacityUnit = loadsCaptions(units(), texts()).unit;
+    picture.powerUnit = withoutBrackets(text(Text::loadUnitsMetric));
+    return picture;
 }
 
 PumpChart ZoneWindow::pumpChart() const {

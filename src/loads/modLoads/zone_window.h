@@ -107,6 +107,8 @@ class ZoneWindow : public LoadsWindow {
     std::vector<std::string> warningsOfZone(std::size_t position) const;
     LoadsChart loadsChart() const;
     PumpChart pumpChart() const;
+    PumpPicture pumpPicture() const;
+    std::string descriptionOf(const std::string& image) const override;
 
     // Load-side conditions that an evaluation carries along, and the flags that tell which count.
     ByMode<double> temporaryInletTemp{67, 70};  ///< degF

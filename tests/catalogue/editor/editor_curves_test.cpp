@@ -232,7 +232,7 @@ TEST_F(EditorCurves, WithEqualSourceFlowsEndATestInAnError) {
 
 TEST_F(EditorCurves, HavePicturesOfPointsAndLines) {
     frmHPEdit& window = opened();
-    FitPicture picture = window.rating(cooling);
+    FitPicture picture = window.chart("CoolingRatingChart").curves;
     EXPECT_EQ(picture.capacity[cooling].measured.size(), 3u);
     EXPECT_EQ(picture.capacity[cooling].measured[1], (FitPoint{85, 28.4}));
     EXPECT_EQ(picture.capacity[cooling].secondMeasured[1], (FitPoint{85, 29.3}));
@@ -243,40 +243,41 @@ TEST_F(EditorCurves, HavePicturesOfPointsAndLines) {
     EXPECT_FALSE(picture.capacity[cooling].stale);
     // Points follow the typing, the line waits for the fit.
     window.type("CoolingFR1CapacityText(1)", "29");
-    picture = window.rating(cooling);
+    picture = window.chart("CoolingRatingChart").curves;
     EXPECT_EQ(picture.capacity[cooling].measured[1].y, 29);
     EXPECT_TRUE(picture.capacity[cooling].stale);
     EXPECT_FALSE(picture.power[cooling].stale);
     EXPECT_FALSE(picture.power[cooling].secondStale);
     window.type("CoolingFR2PowerText(1)", "1.9");
-    EXPECT_FALSE(window.rating(cooling).power[cooling].stale);
-    EXPECT_TRUE(window.rating(cooling).power[cooling].secondStale);
+    EXPECT_FALSE(window.chart("CoolingRatingChart").curves.power[cooling].stale);
+    EXPECT_TRUE(window.chart("CoolingRatingChart").curves.power[cooling].secondStale);
     window.click("MetricCheck");
-    EXPECT_DOUBLE_EQ(window.rating(cooling).capacity[cooling].measured[1].y, 29 * 0.2931);
-    EXPECT_EQ(window.corrections(byTemperature).power[heating].measured.size(), 5u);
-    EXPECT_FALSE(window.corrections(byFlow).fromZero);
-    EXPECT_EQ(window.bothRatings().power[heating].measured.size(), 3u);
+    EXPECT_DOUBLE_EQ(window.chart("CoolingRatingChart").curves.capacity[cooling].measured[1].y,
+                     29 * 0.2931);
+    EXPECT_EQ(window.chart("CorrectionsChart(0)").curves.power[heating].measured.size(), 5u);
+    EXPECT_FALSE(window.chart("CorrectionsChart(1)").curves.fromZero);
+    EXPECT_EQ(window.chart("PumpChart").curves.power[heating].measured.size(), 3u);
 }
 
 TEST_F(EditorCurves, LeaveOutOfTheirPicturesWhatNoChartCanHold) {
     frmHPEdit& window = opened();
     window.type("CoolingFR1CapacityText(1)", "1e300");
-    EXPECT_EQ(window.rating(cooling).capacity[cooling].measured.size(), 2u);
+    EXPECT_EQ(window.chart("CoolingRatingChart").curves.capacity[cooling].measured.size(), 2u);
     window.type("CoolingEWTText(1)", "1e300");
-    const FitPicture picture = window.rating(cooling);
+    const FitPicture picture = window.chart("CoolingRatingChart").curves;
     for (const FitPoint& point : picture.power[cooling].line) EXPECT_LE(point.x, 1e9);
 }
 
 TEST_F(EditorCurves, CarryThePointOfTheTest) {
     frmHPEdit& window = opened();
     typeAndLeave(window, "TestSourceEWTText(0)", "88.5");
-    const FitPicture picture = window.tested();
+    const FitPicture picture = window.chart("TestChart").curves;
     ASSERT_TRUE(picture.capacity[cooling].operating);
     EXPECT_EQ(picture.capacity[cooling].operating->x, 88.5);
     EXPECT_EQ(picture.capacity[cooling].operating->y, number(window, "testCapacity(0)"));
     EXPECT_TRUE(picture.power[heating].operating);
     typeAndLeave(window, "CoolingFlowRateText(1)", "5");
-    EXPECT_TRUE(window.tested().empty());
+    EXPECT_TRUE(window.chart("TestChart").curves.empty());
 }
 
 }  // namespace
