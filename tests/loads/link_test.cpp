@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/text_numbers.h"
 #include "loads/link_fixture.h"
 
 namespace varnholt {
@@ -82,6 +83,7 @@ TEST_F(Link, ShowsTheLightOfTheZoneManager) {
     EXPECT_FALSE(design.control("imgLinkLight(8)").enabled());
     EXPECT_FALSE(design.control("imgLinkLight(6)").enabled());
     EXPECT_FALSE(design.control("imgLinkLight(6)").visible());
+    EXPECT_EQ(design.descriptionOf("imgLinkLight(0)"), texts.text(Text::linkedWithZoneManager));
     EXPECT_TRUE(loads.control("imgLinkLight(0)").visible());
     EXPECT_FALSE(loads.control("imgLinkLight(6)").visible());
 }
@@ -94,6 +96,9 @@ TEST_F(Link, ShowsTheLightOfTheAverageBlock) {
     EXPECT_FALSE(design.control("imgLinkLight(0)").enabled());
     EXPECT_TRUE(design.control("imgLinkLight(0)").visible());
     EXPECT_FALSE(design.control("imgLinkLight(6)").visible());
+    EXPECT_EQ(design.descriptionOf("imgLinkLight(0)"), texts.text(Text::notLinkedWithZoneManager));
+    EXPECT_EQ(design.descriptionOf("imgLinkLight(8)"), texts.text(Text::linkedWithAverageBlock));
+    EXPECT_EQ(design.descriptionOf("imgLinkLight(6)"), texts.text(Text::notLinked));
 }
 
 TEST_F(Link, WithoutALoadsWindowDoesNothing) {

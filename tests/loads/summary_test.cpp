@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/text_numbers.h"
 #include "loads/loads_fixture.h"
 #include "loads/modLoads/building_totals.h"
 #include "loads/modLoads/summary_lines.h"
@@ -193,6 +194,23 @@ TEST_F(SummaryTest, ChartsAreThoseOfTheZoneAndOfTheBuilding) {
     EXPECT_EQ(building.largest[heating], 30);
     window.click("MetricCheck");
     EXPECT_DOUBLE_EQ(window.buildingDayChart().largest[cooling], 45 * 0.2931);
+}
+
+TEST_F(SummaryTest, ChartsTellTheLoadsOfTheirBlocks) {
+    texts.known[Text::gainsByBlock] = "gains %1, %2, %3, %4 %5, most in %6";
+    const std::string unit = texts.text(Text::loadUnitsEnglish);
+    const std::string block = texts.text(Text::summaryNoonToFour);
+    const std::string zone = window.descriptionOf("LOLoadsChart");
+    EXPECT_TRUE(zone.starts_with("gains 0.0, 30.0, 0.0, 0.0 " + unit + ", most in " + block))
+        << zone;
+    const std::string building = window.descriptionOf("LOBuildingDayChart");
+    EXPECT_NE(building.find(", 45.0, "), std::string::npos) << building;
+    EXPECT_EQ(window.descriptionOf("LOPumpChart"), texts.text(Text::pumpCurvesEmpty));
+    EXPECT_EQ(window.descriptionOf("LOZoneList"), "");
+    window.click("MetricCheck");
+    // 30 MBtu/hr are 30 x 0.2931 = 8.8 kW.
+    EXPECT_TRUE(window.descriptionOf("LOLoadsChart")
+                    .starts_with("gains 0.0, 8.8, 0.0, 0.0 " + texts.text(Text::loadUnitsMetric)));
 }
 
 TEST_F(SummaryTest, AChartWithoutLoadsIsEmpty) {
