@@ -98,7 +98,9 @@ void LoopTab::addHeaders(std::size_t kind) {
     addHeaderCount(kind, frame);
     addCombo(elementName("PIHeaderPipeSizeCombo", kind), frame,
              elementName("PIHeaderPipeSizeLabel", kind), Text::headerPipeSize,
-             Text::loopPipeThreeQuarterInch, Text::headerPipeSixInch);
+             Text::loopPipeThreeQuarterInch, Text::headerPipeSixInch)
+        .setAccessibleName(text(headerTexts[kind]) + ", " +
+                           captionWords(text(Text::headerPipeSize)));
     onClick(elementName("PIHeaderPipeSizeCombo", kind),
             [this, kind] { PIHeaderPipeSizeCombo_Click(kind); });
     addHeaderLengths(kind, frame);
@@ -142,7 +144,7 @@ void LoopTab::addHeaderLengths(std::size_t kind, const std::string& frame) {
                              .unitLabel = elementName("PIHeaderLengthUnitsLabel", index),
                              .unit = {Text::lengthUnitsEnglish, Text::lengthUnitsMetric},
                              .help = "surface_water#headers",
-                             .accessible = Text::headerLength,
+                             .accessible = headerTexts[kind],
                              .distinction = places[place]}});
     }
 }

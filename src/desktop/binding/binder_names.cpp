@@ -49,7 +49,9 @@ std::string Binder::spokenName(const Control& control) const {
 
 void Binder::showName(const std::string& name) {
     const std::string words = spokenName(form_->control(name));
-    if (!words.empty()) find(name)->call(qt(words));
+    if (words.empty()) return;
+    find(name)->call(qt(words));
+    labelCombo(*find(name));
 }
 
 /// The label's words have changed: so have the names of those that are called by it.
@@ -63,7 +65,10 @@ void Binder::labelCombo(const BoundControl& bound) const {
     auto* combo = qobject_cast<QComboBox*>(bound.widget());
     const BoundControl* caption = find(bound.control().label());
     if (combo == nullptr || caption == nullptr) return;
-    if (auto* label = qobject_cast<QLabel*>(caption->widget())) label->setBuddy(combo);
+    auto* label = qobject_cast<QLabel*>(caption->widget());
+    if (label == nullptr) return;
+    label->setBuddy(combo);
+    label->setAccessibleName(combo->accessibleName());
 }
 
 void Binder::nameTheNameless() {

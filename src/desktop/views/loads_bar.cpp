@@ -23,6 +23,8 @@ QWidget* second(Binder& bind, const std::string& name, const char* icon) {
     auto* button = new QPushButton(houseIcon(QString::fromLatin1(icon)),
                                    qt(bind.form()->control(name).caption()));
     button->setAutoDefault(false);
+    // Not by its caption, which the other button has too.
+    button->setAccessibleName(qt(bind.form()->control(name).tooltip()));
     auto* own = static_cast<QAbstractButton*>(bind.widget(name));
     QObject::connect(button, &QPushButton::clicked, own, &QAbstractButton::click);
     return button;
