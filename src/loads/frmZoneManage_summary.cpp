@@ -76,7 +76,9 @@ void frmZoneManage::addSummary() {
                 .in(frame);
     }
     add("LOBuildingDayChart", ControlKind::image, Text::buildingDayChart).in(frame);
-    add("LOReturnFromSummaryCommand", ControlKind::button, Text::returnToZone).in(frame);
+    add("LOReturnFromSummaryCommand", ControlKind::button, Text::returnToZone)
+        .in(frame)
+        .setAccessibleName(text(Text::returnToZone) + ", " + text(Text::buildingSummary));
 }
 
 void frmZoneManage::LOSummaryCommand_Click() {

@@ -100,6 +100,7 @@ void HelpViewer::addPanes() {
     });
     connect(collection_.engine()->contentModel(), &QHelpContentModel::contentsCreated, contents,
             [contents] { contents->expandAll(); });
+    contents->setAccessibleName(text(Text::helpContentsPane));
     panes_->addTab(contents, text(Text::helpContentsPane));
     panes_->addTab(indexPane(), text(Text::helpIndexPane));
     panes_->addTab(searchPane(), text(Text::helpSearchPane));
@@ -120,6 +121,7 @@ QWidget* HelpViewer::indexPane() {
     lookFor_ = new QLineEdit;
     makeSearch(*lookFor_, text(Text::helpLookFor));
     index_ = collection_.engine()->indexWidget();
+    index_->setAccessibleName(text(Text::helpIndexPane));
     layout->addWidget(lookFor_);
     layout->addWidget(index_, 1);
     connect(lookFor_, &QLineEdit::textChanged, index_,

@@ -140,7 +140,8 @@ void MainMenu::connectAction(QAction* action, const std::string& name) {
     connect(action, &QAction::triggered, this, [this, name] {
         // What keeps a person's keys and mouse from the menus while a box waits for its answer
         // keeps no screen reader from them.
-        if (QApplication::activeModalWidget() != nullptr) return show(main_.control(name));
+        if (!scripted_ && QApplication::activeModalWidget() != nullptr)
+            return show(main_.control(name));
         ++commands_;
         guard_([&] {
             if (beforeCommand && !isEditCommand(name)) beforeCommand();

@@ -37,6 +37,9 @@ class MainMenu : public QObject, public FormObserver {
     /// How many commands a person has called.
     int commands() const { return commands_; }
 
+    /// A script gives the commands, and knows which window it has to answer first.
+    void setScripted() { scripted_ = true; }
+
     void propertyChanged(Control& control, Property property) override;
     void captionChanged(Form& form) override;
     void settled(Form& form) override;
@@ -61,6 +64,7 @@ class MainMenu : public QObject, public FormObserver {
     std::map<std::string, QAction*> actions_;
     std::map<std::string, QMenu*> menus_;
     int commands_ = 0;
+    bool scripted_ = false;
 };
 
 }  // namespace varnholt

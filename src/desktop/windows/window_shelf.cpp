@@ -46,6 +46,7 @@ void WindowShelf::setMain(MainWindow& window, Varnmain& main) {
     main_ = &main;
     QObject::connect(&window.area(), &QMdiArea::subWindowActivated, &window,
                      [this](QMdiSubWindow* frame) { userActivated(frame); });
+    if (scripted_) window.menu().setScripted();
     window.menu().beforeCommand = [this] {
         window_->tell({});
         endVisit();

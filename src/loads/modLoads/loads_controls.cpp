@@ -110,7 +110,9 @@ void ZoneWindow::addDetailsFrame() {
         .in(frame)
         .setLocked(true);
     add("LONominalFlowUnitLabel", ControlKind::label).in(frame);
-    add("LOReturnCommand", ControlKind::button, Text::returnToZone).in(frame);
+    add("LOReturnCommand", ControlKind::button, Text::returnToZone)
+        .in(frame)
+        .setAccessibleName(text(Text::returnToZone) + ", " + text(Text::heatPumpDetails));
 }
 
 void ZoneWindow::addHeatPumpTab() {
