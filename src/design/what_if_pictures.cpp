@@ -209,7 +209,7 @@ std::string describe(const LandPicture& picture, const Texts& texts) {
 }
 
 std::string describe(const FieldsPicture& picture, const Texts& texts) {
-    if (!picture.empty.empty()) return picture.empty;
+    if (!picture.empty.empty() || picture.fields.empty()) return picture.empty;
     const auto [least, most] =
         std::minmax_element(picture.fields.begin(), picture.fields.end(),
                             [](const auto& a, const auto& b) { return a.bores < b.bores; });

@@ -132,6 +132,14 @@ TEST_F(WhatIfTexts, DescribeAnEmptyPictureByItsReason) {
     EXPECT_EQ(describe(towerPicture(teller, none, true), texts), reason);
 }
 
+TEST_F(WhatIfTexts, DescribeAPictureOfNothingByNothing) {
+    // A window that has gone has nothing to show, and its pictures may still be asked.
+    EXPECT_EQ(describe(FieldsPicture(), texts), "");
+    EXPECT_EQ(describe(TornadoPicture(), texts), "");
+    EXPECT_EQ(describe(SurePicture(), texts), "");
+    EXPECT_EQ(describe(TowerPicture(), texts), "");
+}
+
 /// The dots stand in the middle of their twentieths: the first at 1/40 of the cases.
 TEST_F(WhatIfTexts, PutADotOnTheCurveForOneCaseInTwenty) {
     WhatIf what = found();

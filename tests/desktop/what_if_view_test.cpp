@@ -248,6 +248,23 @@ TEST_F(WhatIfView, TellsAScreenReaderWhatAScriptReads) {
 }
 
 /// Ink on a surface, whatever the scheme and the size.
+TEST_F(WhatIfView, ClosesWhileItIsMaximisedWithAnyPageInFront) {
+    idle();
+    what().choose("WITabs", 2);
+    what().click("WLSearchCommand");
+    idle();
+    desk.shelf.frameOf(what())->showMaximized();
+    Desk::settle();
+    for (const int page : {3, 4, 5}) {
+        what().choose("WITabs", page);
+        Desk::settle();
+    }
+    desk.main().close(what());
+    Desk::settle();
+    EXPECT_TRUE(desk.main().windowsNamed("frmWhatIf").empty());
+    EXPECT_TRUE(desk.faults.empty());
+}
+
 TEST_F(WhatIfView, DrawsItsPicturesInBothSchemesAtEverySize) {
     what().click("WIMeasureOption(0)");
     what().choose("WITabs", 2);

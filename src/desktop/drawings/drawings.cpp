@@ -70,7 +70,7 @@ Drawing* newBoreDrawing(std::function<BoreDrawing()> source, const Texts& texts)
     return new PaintedDrawing<BoreDrawing>(
         std::move(source),
         [&texts](const Canvas& canvas, const BoreDrawing& bore) { paintBore(canvas, bore, texts); },
-        [&texts](const BoreDrawing& bore) { return qt(describe(bore, texts)); }, {260, 240});
+        [&texts](const BoreDrawing& bore) { return qt(describe(bore, texts)); }, {260, 230});
 }
 
 Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts) {
@@ -111,7 +111,7 @@ Drawing* newTrenchDrawing(std::function<TrenchDrawing()> source, const Texts& te
         [&texts](const Canvas& canvas, const TrenchDrawing& trench) {
             paintTrench(canvas, trench, texts);
         },
-        [&texts](const TrenchDrawing& trench) { return qt(describe(trench, texts)); }, {380, 230});
+        [&texts](const TrenchDrawing& trench) { return qt(describe(trench, texts)); }, {380, 220});
 }
 
 Drawing* newTrenchPlanDrawing(std::function<TrenchPlan()> source, const Texts& texts) {
@@ -120,7 +120,7 @@ Drawing* newTrenchPlanDrawing(std::function<TrenchPlan()> source, const Texts& t
         [&texts](const Canvas& canvas, const TrenchPlan& plan) {
             paintTrenches(canvas, plan, texts);
         },
-        [&texts](const TrenchPlan& plan) { return qt(describe(plan, texts)); }, {380, 140});
+        [&texts](const TrenchPlan& plan) { return qt(describe(plan, texts)); }, {380, 132});
 }
 
 Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts,

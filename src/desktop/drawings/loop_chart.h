@@ -18,7 +18,7 @@ class LoopChart : public ChartDrawing {
     LoopChart(Source curves, const Texts& texts, ChartModuleFinder charts);
 
     QString description() const override;
-    QSize sizeHint() const override { return {320, 160}; }
+    QSize sizeHint() const override { return {320, 140}; }
     QSize minimumSizeHint() const override { return {240, 140}; }
 
  protected:

@@ -58,7 +58,7 @@ QString pageSheet(const Look& look) {
     return QStringLiteral(
                "a { color: %1; } h1 { font-size: x-large; } h2 { font-size: large; }"
                "h3 { font-size: medium; } th { color: %2; font-weight: 600; }"
-               "th, td { padding: 2px 5px; text-align: right; }"
+               "th, td { padding: 2px 4px; text-align: right; }"
                // A narrow column would break a figure behind its decimal point.
                "td { white-space: nowrap; } td.words { white-space: normal; }"
                ".formula { margin-left: 24px; font-style: italic; }"

@@ -53,21 +53,12 @@ QWidget* pageArea(Binder& bind) {
     return area;
 }
 
-/// Only while it has something to tell: nobody types where a page moves down.
-QWidget* lineAbovePage(Binder& bind) {
-    QWidget* line = noticeBar(bind);
-    QSizePolicy policy = line->sizePolicy();
-    policy.setRetainSizeWhenHidden(false);
-    line->setSizePolicy(policy);
-    return line;
-}
-
 }  // namespace
 
 QWidget* makeBrowserView(Binder& bind) {
     return column(bar(group(new GroupBox, group(bind.frame("tbToolBar"), toolBar(bind)),
                             group(bind.frame("picAddress"), addressBar(bind)))),
-                  lineAbovePage(bind), grow(pageArea(bind)));
+                  passingNoticeBar(bind), grow(pageArea(bind)));
 }
 
 }  // namespace varnholt

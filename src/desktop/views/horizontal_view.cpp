@@ -116,11 +116,11 @@ QWidget* pictures(Binder& bind) {
 }
 
 QWidget* configurationPage(Binder& bind) {
-    return column(
-        group(bind.frame("PAFieldFrame"),
-              grow(reflow(column(trenchFields(bind), trenchPipeFields(bind),
-                                 group(bind.frame("PATimeFrame"), grid(bind.row("PATimeText")))),
-                          grow(pictures(bind))))));
+    return column(group(bind.frame("PAFieldFrame"),
+                        grow(reflow(closeTogether(column(trenchFields(bind), trenchPipeFields(bind),
+                                                         group(bind.frame("PATimeFrame"),
+                                                               grid(bind.row("PATimeText"))))),
+                                    grow(pictures(bind))))));
 }
 
 }  // namespace

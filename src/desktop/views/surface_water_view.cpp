@@ -113,7 +113,7 @@ QWidget* pipingPage(Binder& bind) {
               grow(reflow(grow(loopFields(bind), 2),
                           grow(column(headersPanel(bind),
                                       grow(row_(bind.widget("PIPipeTablesCommand"),
-                                                grow(bind.drawing(circuit(bind, {320, 120})))))),
+                                                grow(bind.drawing(circuit(bind, {320, 100})))))),
                                3)))));
 }
 

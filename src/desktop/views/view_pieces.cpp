@@ -70,6 +70,14 @@ QWidget* noticeBar(Binder& bind) {
     return bar;
 }
 
+QWidget* passingNoticeBar(Binder& bind) {
+    QWidget* bar = noticeBar(bind);
+    QSizePolicy policy = bar->sizePolicy();
+    policy.setRetainSizeWhenHidden(false);
+    bar->setSizePolicy(policy);
+    return bar;
+}
+
 QWidget* linkLights(Binder& bind) {
     return row_(light(bind, "imgLinkLight(0)", LinkPartner::zones),
                 light(bind, "imgLinkLight(8)", LinkPartner::block),

@@ -24,6 +24,9 @@ QWidget* warningLines(Binder& bind, std::function<std::vector<std::string>()> so
 /// What a person must know of the window, and what can be done about it; unseen while there is
 /// nothing. It stands between what else is above the pages, where its place costs none.
 QWidget* noticeBar(Binder& bind);
+/// The same where it takes room only while it has something to tell: nobody types where what is
+/// below moves down.
+QWidget* passingNoticeBar(Binder& bind);
 
 /// The lights of a window's link, side by side; the form shows those that matter.
 QWidget* linkLights(Binder& bind);

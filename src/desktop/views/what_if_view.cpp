@@ -70,7 +70,7 @@ QWidget* top(Binder& bind) {
                    bind.figure("WIBoreCaptionLabel", "WIBoreLabel")));
     QWidget* measure = group(bind.frame("WIMeasureFrame"), bind.widget("WIMeasureOption(0)"),
                              bind.widget("WIMeasureOption(1)"));
-    QWidget* told = column(noticeBar(bind), wrapped(bind.widget("WIMessageLabel")),
+    QWidget* told = column(passingNoticeBar(bind), wrapped(bind.widget("WIMessageLabel")),
                            mutedText(bind, "WINoteLabel"), mutedText(bind, "WIStateLabel"));
     return reflow(need, measure, grow(told));
 }

@@ -142,10 +142,10 @@ QWidget* summary(Binder& bind) {
 /// The summary above the zone, where it is seen as soon as it opens. In a narrow window its table
 /// needs the place of the list, which then stands above it.
 QWidget* zonesPage(Binder& bind) {
-    constexpr int listShare = 1, zoneShare = 3;
+    constexpr double listPart = 0.2;
     auto* zone = new ScrollPage(
         column(firstZone(bind, Text::noZonesYet), grow(summary(bind)), zonePanel(bind)));
-    return column(grow(besidePage(zoneList(bind), zone, listShare, zoneShare)));
+    return column(grow(besidePage(zoneList(bind), zone, listPart)));
 }
 
 }  // namespace

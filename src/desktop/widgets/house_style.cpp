@@ -54,7 +54,6 @@ int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
             return gridStep;
         case PM_TitleBarHeight:
             return std::max(28, QProxyStyle::pixelMetric(metric, option, widget));
-        case PM_ToolBarItemMargin:
         case PM_ButtonShiftHorizontal:
         case PM_ButtonShiftVertical:
             return 0;

@@ -165,10 +165,14 @@ void ListView::shareWidth() {
         shares += model_->widths()[static_cast<std::size_t>(column)].share;
     }
     rest = std::max(rest, 0);
+    int taken = 0;
     for (int column = 0; column + 1 < shown; ++column) {
         const int share = model_->widths()[static_cast<std::size_t>(column)].share;
-        setColumnWidth(column, leastWidthOf(column) + rest * share / std::max(shares, 1));
+        const int width = leastWidthOf(column) + rest * share / std::max(shares, 1);
+        setColumnWidth(column, width);
+        taken += width;
     }
+    setColumnWidth(shown - 1, std::max(viewport()->width() - taken, 0));
     sharing_ = false;
 }
 

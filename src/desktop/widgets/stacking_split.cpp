@@ -40,6 +40,7 @@ StackingSplit::StackingSplit(QWidget* first, QWidget* second, std::function<int(
     setHandleWidth(gridStep);
     addWidget(first);
     addWidget(second);
+    connect(this, &QSplitter::splitterMoved, this, [this] { firstPart_ = 0; });
 }
 
 void StackingSplit::arrange() {
@@ -61,13 +62,23 @@ void StackingSplit::arrange() {
 void StackingSplit::resizeEvent(QResizeEvent* event) {
     arrange();
     QSplitter::resizeEvent(event);
+    if (orientation() == Qt::Horizontal && firstPart_ > 0) shareWidth();
 }
 
-StackingSplit* besidePage(QWidget* list, ScrollPage* page, int listShare, int pageShare) {
+/// Each piece has its least width before the first has its part.
+void StackingSplit::shareWidth() {
+    const int room = width() - handleWidth();
+    const int least = std::max(widget(0)->minimumWidth(), widget(0)->minimumSizeHint().width());
+    const int most = std::max(least, room - needed_());
+    const int first = std::clamp(static_cast<int>(firstPart_ * room), least, most);
+    setSizes({first, room - first});
+}
+
+StackingSplit* besidePage(QWidget* list, ScrollPage* page, double listPart) {
     auto* split = new StackingSplit(list, page, [page] { return widthWithoutScrolling(*page); });
     new NeedWatcher(*split, page->widget());
-    split->setStretchFactor(0, listShare);
-    split->setStretchFactor(1, pageShare);
+    split->setStretchFactor(1, 1);
+    split->setFirstPart(listPart);
     return split;
 }
 

@@ -15,6 +15,8 @@ class StackingSplit : public QSplitter {
     /// @param needed  how wide the second piece must be to stand beside the first, in pixels
     StackingSplit(QWidget* first, QWidget* second, std::function<int()> needed);
 
+    /// The first piece takes this part of the width until a person moves the bar.
+    void setFirstPart(double part) { firstPart_ = part; }
     /// Looks again whether the pieces fit side by side: their needs have changed.
     void arrange();
 
@@ -22,11 +24,15 @@ class StackingSplit : public QSplitter {
     void resizeEvent(QResizeEvent* event) override;
 
  private:
+    void shareWidth();
+
     std::function<int()> needed_;
+    double firstPart_ = 0;       ///< 0 leaves it as wide as it is
     QList<int> beside_, above_;  ///< where the bar stood last
 };
 
 /// A list beside a page that scrolls, or above it where the page would have to scroll sideways.
-StackingSplit* besidePage(QWidget* list, ScrollPage* page, int listShare, int pageShare);
+/// @param listPart  of the width, where the page leaves so much
+StackingSplit* besidePage(QWidget* list, ScrollPage* page, double listPart);
 
 }  // namespace varnholt
