@@ -46,8 +46,8 @@ struct GFunctionManner {
 ///
 /// The heat is even until the Fourier number of the bores, alpha t/rb^2, is 0.1: bores do not feel
 /// each other yet, and g is the plain integral of one of them. From there a march solves for the
-/// heat. Its error is of first order in the step, so that of half as many steps is as large again
-/// and is taken away.
+/// heat, in steps of the logarithm of time that are shorter the later they are. Its error is of
+/// first order in the step, so that of half as many steps is as large again and is taken away.
 class GFunctionWork {
  public:
     /// @param field     measured; outlives this object
