@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <signal.h>
+
 #include <QProcess>
 #include <fstream>
 #include <sstream>
@@ -80,6 +82,14 @@ class StartedProgram {
             if (double kilobytes = 0; word == "VmRSS:" && status >> kilobytes)
                 return kilobytes / 1024;
         return 0;
+    }
+
+    /// Ends the program by a signal; whether it ended by that and not in an orderly way.
+    bool endBy(int signal) {
+        ::kill(static_cast<pid_t>(process_.processId()), signal);
+        process_.waitForFinished(30000);
+        return process_.state() == QProcess::NotRunning &&
+               process_.exitStatus() == QProcess::CrashExit;
     }
 
     /// Ends the script; the program's exit status.

@@ -2,6 +2,9 @@
 #include "started_program.h"
 
 #include <gtest/gtest.h>
+#include <signal.h>
+
+#include <QTest>
 
 namespace varnholt {
 namespace {
@@ -109,6 +112,51 @@ TEST(StartedProgram, KeepsNothingOfTheWindowsThatAScriptHasClosed) {
     // A window takes about half a megabyte: three rounds that kept theirs would take 75.
     EXPECT_LT(program.megabytes() - before, mostGrowth);
     EXPECT_EQ(program.end(), 0);
+}
+
+std::size_t filesBelow(const std::filesystem::path& folder, const std::string& part) {
+    std::size_t files = 0;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+        files += entry.path().filename().string().find(part) != std::string::npos ? 1 : 0;
+    return files;
+}
+
+const std::string lockMark = ".varnholt-lock";
+
+TEST(StartedProgram, LeavesItsWorkAndNoMarkBehindWhenASignalEndsIt) {
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
+        SCOPED_TRACE(signal);
+        StartedProgram program(windows, {QStringLiteral("--recovery")});
+        program.run(
+            "click Varnmain.NewBorehole\npick school.vht\nclick Varnmain.mnuFileSaveAs\n"
+            "type frmBHDesign.INProjectNameText Unsaved");
+        EXPECT_EQ(filesBelow(program.folder(), lockMark), 1U);
+        EXPECT_TRUE(program.endBy(signal));
+        EXPECT_EQ(filesBelow(program.folder(), lockMark), 0U);
+        EXPECT_EQ(filesBelow(program.folder(), ".unsaved"), 1U);
+    }
+}
+
+TEST(StartedProgram, OfAPersonTakesItsMarkAlongWhenASignalEndsIt) {
+    const TemporaryFolder temporary;
+    const std::filesystem::path folder = temporary.path() / "program";
+    std::filesystem::create_directories(folder / "work files");
+    const std::filesystem::path project = folder / "work files" / "school.vht";
+    std::filesystem::copy_file(VARNHOLT_SOURCE_DIR "/examples/school-south.vht", project);
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    environment.insert(QStringLiteral("HOME"), QString::fromStdString(temporary.path().string()));
+    process.setProcessEnvironment(environment);
+    process.start(QString::fromStdString(windows),
+                  {QStringLiteral("--program-folder"), QString::fromStdString(folder.string()),
+                   QString::fromStdString(project.string())});
+    const auto marks = [&] { return filesBelow(temporary.path(), lockMark); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return marks() == 1; }, 20'000));
+    ::kill(static_cast<pid_t>(process.processId()), SIGTERM);
+    EXPECT_TRUE(process.waitForFinished(20'000));
+    EXPECT_EQ(process.exitStatus(), QProcess::CrashExit);
+    EXPECT_EQ(marks(), 0U);
 }
 
 }  // namespace

@@ -235,5 +235,26 @@ TEST_F(Failure, IsNoneWhereAFileIsOpenElsewhere) {
         EXPECT_EQ(entry.path().string().find("varnholt-lock"), std::string::npos) << entry.path();
 }
 
+TEST_F(Failure, BySignalLeavesNoMarkBesideAnOpenFile) {
+    write("hold.sh", replaced("mkfifo in\n"
+                              "for signal in TERM HUP; do\n"
+                              "  PROGRAM --program-folder . --locale 409 --recovery - <in >held &\n"
+                              "  exec 3>in\n"
+                              "  printf 'click Varnmain.NewBorehole\\npick %s.vht\\n' $signal >&3\n"
+                              "  printf 'click Varnmain.mnuFileSaveAs\\n' >&3\n"
+                              "  printf 'value frmBHDesign.FileName\\n' >&3\n"
+                              "  until grep -q '^value' held; do sleep 0.05; done\n"
+                              "  ls -A | grep -c varnholt-lock\n"
+                              "  kill -$signal $!\n  wait $!\n  echo $?\n"
+                              "  ls -A | grep -c varnholt-lock\n"
+                              "  exec 3>&-\n  rm held\n"
+                              "done >out\n",
+                              "PROGRAM", VARNHOLT_BIN_DIR "/varnholt-script"));
+    const ScriptOutcome held = shell("timeout 20 sh hold.sh");
+    ASSERT_EQ(held.status, 0) << held.faults;
+    // One mark while the file is open, the end by the signal (128 and its number), no mark.
+    EXPECT_EQ(wholeFile(temporary.path() / "out"), "1\n143\n0\n1\n129\n0\n");
+}
+
 }  // namespace
 }  // namespace varnholt

@@ -8,6 +8,8 @@
 #include <cerrno>
 #include <utility>
 
+#include "basis/system/held_marks.h"
+
 namespace varnholt {
 namespace {
 
@@ -21,6 +23,7 @@ int wake[2] = {-1, -1};
 void catchSignal(int signal) {
     const int before = errno;
     if (mayEnd != 0) {
+        removeHeldMarks();
         ::signal(signal, SIG_DFL);
         ::raise(signal);
     }
@@ -61,6 +64,7 @@ void EndSignals::setWaiting(bool waiting) {
 }
 
 void EndSignals::endBy(int signal) {
+    removeHeldMarks();
     ::signal(signal, SIG_DFL);
     ::raise(signal);
     ::_exit(128 + signal);

@@ -16,9 +16,10 @@ class EndSignals {
     int pending() const;
     /// A descriptor from which a byte can be read once a signal has come.
     int wakeDescriptor() const;
-    /// While everything is kept and the program waits for its input, a signal ends it at once.
+    /// While everything is kept and the program waits for its input, a signal ends it at once; the
+    /// marks that it holds go before.
     void setWaiting(bool waiting);
-    /// Ends the program as the signal does by itself.
+    /// Ends the program as the signal does by itself; the marks that it holds go before.
     [[noreturn]] static void endBy(int signal);
 };
 

@@ -10,6 +10,7 @@
 #include <cstdio>
 
 #include "basis/system/descriptor.h"
+#include "basis/system/held_marks.h"
 
 namespace varnholt {
 
@@ -39,6 +40,7 @@ void writeLaid(const LaidWords& words) {
 void writeAllLaid(int signal) {
     for (const auto& place : laid)
         if (const LaidWords* words = place.load()) writeLaid(*words);
+    removeHeldMarks();
     // The handler was for once: the signal now does what it always does.
     ::raise(signal);
 }

@@ -9,7 +9,8 @@ namespace varnholt {
 
 /// Bytes that must reach the disk even when the program fails in its own code. They are laid down
 /// here when they are made; a handler of fatal signals writes what lies here, with calls of the
-/// system alone, before the program ends as it would have without.
+/// system alone, before the program ends as it would have without. The marks that the program holds
+/// go too.
 ///
 /// A place is for one thread at a time; the handler may come in any other. So what lay in a place
 /// stays in memory until something else has been laid down there twice.

@@ -15,6 +15,7 @@
 #include "basis/run_time_error.h"
 #include "basis/system/descriptor.h"
 #include "basis/system/fingerprint.h"
+#include "basis/system/held_marks.h"
 #include "basis/system/temporary_names.h"
 
 namespace varnholt {
@@ -106,6 +107,7 @@ void FileLock::release() {
     if (mark.empty()) return;
     const std::optional<LockHolder> holder = holderOf(mark);
     if (holder && holder->process == thisProcess()) ::unlink(mark.c_str());
+    letMarkGo(mark);
 }
 
 LockAttempt lockFile(const std::string& path) {
@@ -113,7 +115,10 @@ LockAttempt lockFile(const std::string& path) {
     const LockHolder self{thisProcess(), userName()};
     constexpr int mostTries = 10;
     for (int attempt = 0; attempt < mostTries; ++attempt) {
-        if (makeMark(mark, contentOf(self))) return {FileLock(mark), std::nullopt};
+        if (makeMark(mark, contentOf(self))) {
+            holdMark(mark, contentOf(self));
+            return {FileLock(mark), std::nullopt};
+        }
         if (errno != EEXIST) return {};
         const std::optional<LockHolder> holder = holderOf(mark);
         if (holder && holder->process == self.process) return {};

@@ -18,7 +18,8 @@ struct LockHolder {
 struct LockAttempt;
 
 /// The mark that a file is open in this program: a hidden file beside it, which names the program's
-/// computer, process and user and lasts as long as this object. It keeps nobody from anything.
+/// computer, process and user and lasts as long as this object, or until a signal that can be
+/// caught ends the program. It keeps nobody from anything.
 class FileLock {
  public:
     FileLock() = default;

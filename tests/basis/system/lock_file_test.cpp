@@ -7,8 +7,12 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <fstream>
+#include <functional>
 
 #include "basis/file_system.h"
+#include "basis/system/end_signals.h"
+#include "basis/system/last_words.h"
 #include "basis/temporary_folder.h"
 
 namespace varnholt {
@@ -41,6 +45,21 @@ class Locks : public testing::Test {
         ::close(marked[0]);
         ::close(marked[1]);
         return child;
+    }
+    /// Another process that has two files open, of which it closes the first, and is then ended by
+    /// a signal; the signal.
+    int endElsewhere(const std::function<void()>& end) const {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            { const LockAttempt closed = lockFile(folder / "closed.vht"); }
+            const LockAttempt first = lockFile(path);
+            const LockAttempt second = lockFile(folder / "house.vht");
+            if (filesInFolder() == 3) end();
+            ::_exit(0);
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
     }
     static void kill(pid_t child) {
         ::kill(child, SIGKILL);
@@ -79,6 +98,59 @@ TEST_F(Locks, OfAProgramThatWasKilledAreTakenAway) {
     EXPECT_EQ(filesInFolder(), 2U);
     const LockAttempt attempt = lockFile(path);
     EXPECT_FALSE(attempt.holder.has_value());
+    EXPECT_EQ(filesInFolder(), 2U);
+}
+
+TEST_F(Locks, GoWithAProgramThatASignalEnds) {
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
+        SCOPED_TRACE(signal);
+        EXPECT_EQ(endElsewhere([&] {
+                      const EndSignals signals;
+                      EndSignals::endBy(signal);
+                  }),
+                  signal);
+        EXPECT_EQ(filesInFolder(), 1U);
+        // While the program waits, nothing but the handler runs.
+        EXPECT_EQ(endElsewhere([&] {
+                      EndSignals signals;
+                      signals.setWaiting(true);
+                      ::raise(signal);
+                  }),
+                  signal);
+        EXPECT_EQ(filesInFolder(), 1U);
+    }
+}
+
+TEST_F(Locks, GoWithAProgramThatFailsInItsOwnCode) {
+    for (const int signal : {SIGSEGV, SIGABRT}) {
+        EXPECT_EQ(endElsewhere([&] {
+                      const LastWords words;
+                      ::raise(signal);
+                  }),
+                  signal);
+        EXPECT_EQ(filesInFolder(), 1U) << signal;
+    }
+}
+
+TEST_F(Locks, OfAnotherProgramStayWhenASignalEndsThisOne) {
+    // Somebody has taken the mark away by hand, and another program has made its own since.
+    EXPECT_EQ(endElsewhere([&] {
+                  for (const auto& entry : fs::directory_iterator(folder.path()))
+                      if (entry.path().filename().string().starts_with(".varnholt-lock"))
+                          std::ofstream(entry.path()) << "another's";
+                  EndSignals::endBy(SIGTERM);
+              }),
+              SIGTERM);
+    EXPECT_EQ(filesInFolder(), 3U);
+}
+
+TEST_F(Locks, OfAProcessAreNotThoseOfItsChildren) {
+    const LockAttempt attempt = lockFile(path);
+    const pid_t child = ::fork();
+    if (child == 0) EndSignals::endBy(SIGTERM);
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status));
     EXPECT_EQ(filesInFolder(), 2U);
 }
 
