@@ -9,8 +9,10 @@
 #include <unistd.h>
 
 #include <QLineEdit>
+#include <QSessionManager>
 #include <QTest>
 #include <QTimer>
+#include <fstream>
 
 #include "desk.h"
 #include "desktop/binding/form_window.h"
@@ -43,6 +45,18 @@ class WorkKeeperTest : public testing::Test {
                 files += entry.path().extension() == ".unsaved" ? 1 : 0;
         return files;
     }
+    /// What this program has on the disk, while it runs.
+    std::vector<RecoveryRecord> onDisk() const {
+        std::vector<RecoveryRecord> records;
+        for (const auto& entry :
+             std::filesystem::recursive_directory_iterator(desk.folder() + "/recovery")) {
+            if (entry.path().extension() != ".unsaved") continue;
+            std::ifstream file(entry.path(), std::ios::binary);
+            const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+            if (auto record = readRecord(bytes)) records.push_back(std::move(*record));
+        }
+        return records;
+    }
     /// What a start that follows would offer.
     std::vector<RecoveryRecord> kept() const {
         std::vector<std::string> setAside;
@@ -62,6 +76,22 @@ TEST_F(WorkKeeperTest, KeepsWorkByTheClockWithinTenSeconds) {
     type("Kept by the clock");
     EXPECT_EQ(filesKept(), 0U);
     EXPECT_TRUE(QTest::qWaitFor([this] { return filesKept() == 1; }, 10'000));
+}
+
+TEST_F(WorkKeeperTest, KeepsWorkAtOnceWhenTheSessionEnds) {
+    Recovery recovery(desk.main());
+    const WorkKeeper keeper(*qApp, recovery);
+    type("Kept at the session's end");
+    ASSERT_EQ(filesKept(), 0U);
+    auto* session = qApp->findChild<QSessionManager*>();
+    ASSERT_NE(session, nullptr);
+    // What the toolkit does when the desktop's session manager tells of the end.
+    qApp->commitDataRequest(*session);
+    const std::vector<RecoveryRecord> records = onDisk();
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_NE(records[0].document.find("Kept at the session's end"), std::string::npos);
+    // The session may go on after all, and so does the window.
+    EXPECT_NE(desk.main().find("frmBHDesign"), nullptr);
 }
 
 class EndSignal : public WorkKeeperTest, public testing::WithParamInterface<int> {};
