@@ -4,7 +4,7 @@
 #include "basis/number_text.h"
 #include "design/arrangement_tab.h"
 #include "design/bore_tab.h"
-#include "design/borehole_warnings.h"
+#include "design/design_warnings.h"
 #include "design/extra_power_tab.h"
 #include "design/fluid_tab.h"
 #include "design/modCalculations/bore_resistance.h"
@@ -181,42 +181,7 @@ FieldPlan frmBHDesign::fieldPlan() const {
 }
 
 std::vector<std::string> frmBHDesign::warnings() const {
-    const auto shown = [this](const Quantity& quantity, double value, const char* picture) {
-        return formatNumber(quantity.shown(value, units()), picture);
-    };
-    const bool metric = units() == UnitSystem::metric;
-    const auto unit = [&](int english, int metricText) {
-        return text(metric ? metricText : english);
-    };
-    const std::string degrees =
-        unit(Text::groundTemperatureUnitsEnglish, Text::groundTemperatureUnitsMetric);
-    std::vector<std::string> sentences;
-    for (const BoreholeWarning& warning : warningsOf(project())) {
-        const std::string mode = text(warning.mode == cooling ? Text::cooling : Text::heating);
-        switch (warning.concern) {
-            case BoreholeWarning::Concern::groundNearFluid:
-                sentences.push_back(filledIn(
-                    text(Text::warningGround),
-                    {shown(quantities::temperature, project().soil.groundTemp, "###0.0"),
-                     shown(quantities::temperature, warning.figure, "###0.0"), mode, degrees,
-                     shown(quantities::temperatureDifference, warning.limit, "###0.0")}));
-                break;
-            case BoreholeWarning::Concern::boresTouch:
-                sentences.push_back(filledIn(text(Text::warningTouch),
-                                             {shown(quantities::diameter, warning.figure, "###0.0"),
-                                              shown(quantities::length, warning.limit, "###0.00"),
-                                              unit(Text::warningInches, Text::warningMillimetres),
-                                              unit(Text::warningFeet, Text::warningMetres)}));
-                break;
-            case BoreholeWarning::Concern::boreTooDeep:
-                sentences.push_back(filledIn(text(Text::warningDeep),
-                                             {shown(quantities::length, warning.figure, "###0"),
-                                              shown(quantities::length, warning.limit, "###0"),
-                                              unit(Text::warningFeet, Text::warningMetres)}));
-                break;
-        }
-    }
-    return sentences;
+    return sentencesOf(warningsOf(project()), *this);
 }
 
 }  // namespace varnholt

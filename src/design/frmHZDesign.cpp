@@ -6,6 +6,7 @@
 
 #include "basis/number_text.h"
 #include "basis/run_time_error.h"
+#include "design/design_warnings.h"
 #include "design/extra_power_tab.h"
 #include "design/fluid_tab.h"
 #include "design/labelled_ground_temp.h"
@@ -208,6 +209,10 @@ std::vector<Notice> frmHZDesign::notices() {
         year.extremeDay[cooling] == year.extremeDay[heating])
         holding.push_back({text(Text::noticeOneDayForBoth)});
     return holding;
+}
+
+std::vector<std::string> frmHZDesign::warnings() const {
+    return sentencesOf(warningsOf(project()), *this);
 }
 
 std::string frmHZDesign::shownLength(double feet) const {

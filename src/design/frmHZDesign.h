@@ -34,6 +34,7 @@ class frmHZDesign : public TowerDesign<HorizontalKind> {
     std::string baseCaption() const override;
 
     std::string descriptionOf(const std::string& image) const override;
+    std::vector<std::string> warnings() const override;
 
     LengthSummary lengthSummary() const override;
     /// What `PADiagramPicture` shows. It follows what is typed.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "basis/number_text.h"
+#include "design/design_warnings.h"
 #include "design/extra_power_tab.h"
 #include "design/fluid_tab.h"
 #include "design/header_soil_tab.h"
@@ -210,6 +211,10 @@ void frmSWDesign::resultsFound() {
     // What the run has settled among the inputs.
     soilTab_->showCorrected();
     for (const Mode mode : modes) fields().show(elementName("PIParallelLoopsText", mode));
+}
+
+std::vector<std::string> frmSWDesign::warnings() const {
+    return sentencesOf(warningsOf(project()), *this);
 }
 
 std::string frmSWDesign::shownLength(double feet) const {

@@ -44,10 +44,11 @@ class frmSWDesign : public ProjectDesign<SurfaceWaterKind> {
     using GroundDesign::showGoverningMode;
     void showGoverningMode(Mode greyed) override;
 
+    std::string descriptionOf(const std::string& image) const override;
+    std::vector<std::string> warnings() const override;
+
     LengthSummary lengthSummary() const override;
     /// What `imgCircuit` shows. It follows what is typed; flows are those of results that are not
-    std::string descriptionOf(const std::string& image) const override;
-
     /// older than it.
     CircuitPlan circuitPlan() const;
     /// What `imgGroundTemp` shows.
