@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QTest>
 #include <QToolBar>
 #include <algorithm>
 #include <filesystem>
@@ -185,6 +186,22 @@ TEST_F(Previews, FindWords) {
     Q_EMIT search->returnPressed();
     EXPECT_EQ(preview.view().page(), preview.view().found().front().page);
     EXPECT_EQ(preview.view().found().size(), 1U);
+}
+
+TEST_F(Previews, ExplainThemselvesByF1) {
+    ReportPreview& preview = shown(samples.borehole(0));
+    desk.window->activateWindow();
+    auto* search = preview.findChild<QLineEdit*>(QStringLiteral("search"));
+    for (QWidget* widget :
+         {static_cast<QWidget*>(&preview.view()), static_cast<QWidget*>(search)}) {
+        desk.main().HHTopicURL.clear();
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_F1);
+        Desk::settle();
+        EXPECT_EQ(desk.main().HHTopicURL, "reports.html#preview");
+    }
+    EXPECT_TRUE(search->text().isEmpty());
+    EXPECT_TRUE(desk.faults.empty());
 }
 
 }  // namespace

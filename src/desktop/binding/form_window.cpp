@@ -30,11 +30,11 @@ QIcon iconOf(const std::string& formName) {
     return houseIcon(QString::fromLatin1(found == icons.end() ? "window" : found->second));
 }
 
+}  // namespace
+
 bool isHelpKey(const QKeyEvent& key) {
     return key.key() == Qt::Key_F1 && (key.modifiers() & ~Qt::ShiftModifier) == 0;
 }
-
-}  // namespace
 
 FormWindow::FormWindow(Form& form, const ViewMaker& makeView, FaultTaker faults)
     : faults_(std::move(faults)), binder_(form) {

@@ -7,6 +7,8 @@
 
 #include "desktop/binding/binder.h"
 
+class QKeyEvent;
+
 namespace varnholt {
 
 /// Takes the failures of handlers, which must not pass through the toolkit.
@@ -14,6 +16,9 @@ using FaultTaker = std::function<void(std::exception_ptr)>;
 
 /// What lays out a form's controls: gets the form's binder, returns the whole view.
 using ViewMaker = std::function<QWidget*(Binder& bind)>;
+
+/// Whether the key asks for the help, or with Shift for What's This.
+bool isHelpKey(const QKeyEvent& key);
 
 /// The widgets of one form.
 class FormWindow : public QWidget {

@@ -137,6 +137,10 @@ StartFiles MainWindow::startFiles() {
 
 void MainWindow::showStartPicture(QWidget* picture) { start_->setPicture(picture); }
 
+void MainWindow::explain(const std::string& command) {
+    guarded([&] { main_.help(command); });
+}
+
 void MainWindow::tell(const std::string& sentence) {
     const QString text = qt(sentence);
     if (text == told_->text()) return;

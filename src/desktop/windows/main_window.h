@@ -47,6 +47,8 @@ class MainWindow : public QMainWindow {
     void openFiles(const std::vector<std::string>& paths);
     /// Runs something of the forms; what it throws goes to the taker of faults.
     void guarded(const std::function<void()>& action);
+    /// Opens the help at what it says of one of the main window's commands.
+    void explain(const std::string& command);
     /// Says a sentence in the status bar until something else is done; an empty one ends it.
     void tell(const std::string& sentence);
     /// What the progress of a file that comes slowly says.

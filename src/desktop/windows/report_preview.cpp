@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
@@ -13,6 +14,7 @@
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
+#include "desktop/binding/form_window.h"
 #include "desktop/paper/pdf_file.h"
 #include "desktop/paper/print_module.h"
 #include "desktop/widgets/icons.h"
@@ -58,6 +60,21 @@ ReportPreview::ReportPreview(std::shared_ptr<const Report> report, const PageSet
     view_->onChange = [this] { showState(); };
     setFocusProxy(view_);
     setSetup(setup_);
+}
+
+/// F1 asks about the preview before it is the menu's key, as in the forms' windows. There is
+/// nothing in it that What's This, with Shift, would tell of.
+bool ReportPreview::event(QEvent* event) {
+    const bool isKey =
+        event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+    const auto* key = isKey ? static_cast<const QKeyEvent*>(event) : nullptr;
+    if (!isKey || !isHelpKey(*key) || (key->modifiers() & Qt::ShiftModifier) != 0)
+        return QWidget::event(event);
+    if (event->type() == QEvent::ShortcutOverride)
+        QMetaObject::invokeMethod(
+            this, [this] { services_.help(); }, Qt::QueuedConnection);
+    event->accept();
+    return true;
 }
 
 QString ReportPreview::words(int text) const { return qt(texts_.text(text)); }

@@ -22,6 +22,8 @@ namespace varnholt {
 /// What the preview asks of the program around it.
 struct PreviewServices {
     std::function<void(const std::string& message)> tell;
+    /// Opens the help at what it says of previews.
+    std::function<void()> help;
     /// The chosen path, empty when the dialog was cancelled.
     std::function<std::string(const std::string& name, int filterText)> chooseFile;
     /// How far laying out, or writing, has come; false breaks it off.
@@ -42,6 +44,9 @@ class ReportPreview : public QWidget {
     /// Writes the report; what fails is told, and leaves nothing behind.
     void saveAs(const std::string& path);
     QSize sizeHint() const override { return {900, 900}; }
+
+ protected:
+    bool event(QEvent* event) override;
 
  private:
     void addTools();

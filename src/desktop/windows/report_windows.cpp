@@ -50,6 +50,7 @@ ReportWindows::~ReportWindows() {
 ReportPreview* ReportWindows::show(std::shared_ptr<const Report> report) {
     PreviewServices services;
     services.tell = [this](const std::string& message) { tell(message); };
+    services.help = [this] { window_.explain("mnuFilePrintSetup"); };
     services.chooseFile = [this](const std::string& name, int filterText) {
         return platform_
             .chooseFile({.saving = true,
