@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QImage>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSvgRenderer>
@@ -60,6 +62,22 @@ class Tables : public testing::Test {
         QTest::keyClick(&on, key, Qt::ControlModifier);
         Desk::settle();
     }
+    /// As by the right button of the mouse.
+    static void chooseInMenuOf(QWidget& field, const char* caption) {
+        const QPoint place = field.rect().center();
+        QContextMenuEvent asks(QContextMenuEvent::Mouse, place, field.mapToGlobal(place));
+        QCoreApplication::sendEvent(&field, &asks);
+        auto* menu = field.findChild<QMenu*>();
+        ASSERT_NE(menu, nullptr);
+        QAction* chosen = nullptr;
+        for (QAction* action : menu->actions())
+            if (action->text().startsWith(QString::fromLatin1(caption))) chosen = action;
+        ASSERT_NE(chosen, nullptr);
+        EXPECT_TRUE(chosen->isEnabled());
+        chosen->trigger();
+        menu->close();
+        Desk::settle();
+    }
     std::string text(const std::string& name) const { return loads->control(name).text(); }
 
     Desk desk;
@@ -79,6 +97,34 @@ TEST_F(Tables, OfLoadsGoOnOverTheFieldsFromTheOneWithTheKeyboard) {
     loads->undo();
     EXPECT_EQ(text("LOGainsText(1)"), "0.0");
     EXPECT_EQ(text("LOGainsText(7)"), "0.0");
+}
+
+TEST_F(Tables, GoOnOverTheFieldsFromTheMenuOfAFieldToo) {
+    desk.platform.setClipboard("12.5\t4\n20\t5\n");
+    QGuiApplication::clipboard()->setText(QStringLiteral("12.5\t4\n20\t5\n"));
+    chooseInMenuOf(widget("LOGainsText(1)"), "&Paste");
+    EXPECT_EQ(text("LOGainsText(1)"), "12.5");
+    EXPECT_EQ(text("LOGainsText(5)"), "4.0");
+    EXPECT_EQ(text("LOGainsText(6)"), "5.0");
+    EXPECT_EQ(desk.platform.told.back(), "4 values pasted.");
+}
+
+TEST_F(Tables, AreCopiedFromTheMenuOfAFieldThatStandsInOne) {
+    loads->type("LOGainsText(0)", "10");
+    chooseInMenuOf(widget("LOGainsText(1)"), "Copy Table");
+    EXPECT_NE(desk.platform.clipboardText.find("8 a.m. - Noon\t10\t0.0"), std::string::npos)
+        << desk.platform.clipboardText;
+}
+
+TEST_F(Tables, OfOneCellFromTheMenuArePastedWhereTheCursorIs) {
+    desk.platform.setClipboard("Wing");
+    QGuiApplication::clipboard()->setText(QStringLiteral("Wing"));
+    auto& label = static_cast<QLineEdit&>(widget("LOZoneReferenceText"));
+    label.setFocus();
+    label.selectAll();
+    QTest::keyClicks(&label, QStringLiteral("East "));
+    chooseInMenuOf(label, "&Paste");
+    EXPECT_EQ(text("LOZoneReferenceText"), "East Wing");
 }
 
 TEST_F(Tables, OfOneCellArePastedAsBefore) {

@@ -3,12 +3,15 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QWheelEvent>
 #include <limits>
 
 #include "desktop/binding/binder.h"
 #include "desktop/binding/bound_control.h"
+#include "desktop/binding/giving_out.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers.h"
@@ -29,6 +32,11 @@ class BoundText : public BoundControl {
             this->binder().act(
                 *this, [text](Form& f, const std::string& name) { f.type(name, plain(text)); });
         });
+        edit_->addToMenu = [edit = edit_, owner = QPointer<Binder>(&binder)](QMenu& menu) {
+            if (owner == nullptr || owner->form() == nullptr) return;
+            menu.addSeparator();
+            addGivingOut(menu, *owner->form(), edit);
+        };
         binder.watchKeys(*this, edit_);
         showAll();
     }

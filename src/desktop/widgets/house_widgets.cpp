@@ -2,8 +2,11 @@
 #include "desktop/widgets/house_widgets.h"
 
 #include <QAction>
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QFontMetrics>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -43,6 +46,24 @@ void FieldEdit::setMark(const QIcon& icon, const QString& reason) {
     if (icon.isNull()) return;
     mark_ = addAction(icon, QLineEdit::LeadingPosition);
     mark_->setToolTip(reason);
+}
+
+void FieldEdit::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (QAction* action : menu->actions()) {
+        // The toolkit tells its commands by nothing but their captions.
+        if (!action->text().startsWith(QLineEdit::tr("&Paste"))) continue;
+        QObject::disconnect(action, nullptr, this, nullptr);
+        QObject::connect(action, &QAction::triggered, this, &FieldEdit::pasteByKey);
+    }
+    if (addToMenu) addToMenu(*menu);
+    menu->popup(event->globalPos());
+}
+
+void FieldEdit::pasteByKey() {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_V, Qt::ControlModifier);
+    QCoreApplication::sendEvent(this, &press);
 }
 
 namespace {

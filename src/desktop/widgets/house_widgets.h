@@ -9,6 +9,8 @@
 #include <QVBoxLayout>
 #include <functional>
 
+class QMenu;
+
 namespace varnholt {
 
 /// A line of text as wide as so many figures.
@@ -24,7 +26,16 @@ class FieldEdit : public QLineEdit {
     /// Shows the sign of a refused value in the field's edge, before the figures.
     void setMark(const QIcon& icon, const QString& reason);
 
+    /// What its menu offers besides the toolkit's commands.
+    std::function<void(QMenu& menu)> addToMenu;
+
+ protected:
+    /// Its menu pastes as its key does.
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
  private:
+    void pasteByKey();
+
     int characters_;
     QAction* mark_ = nullptr;
 };
