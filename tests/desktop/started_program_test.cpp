@@ -159,5 +159,27 @@ TEST(StartedProgram, OfAPersonTakesItsMarkAlongWhenASignalEndsIt) {
     EXPECT_EQ(marks(), 0U);
 }
 
+TEST(StartedProgram, TakesPicturesOfTheMainWindowWithTheFiguresThatAreFoundLate) {
+    StartedProgram program(windows);
+    for (const char* name : {"school-south.vht", "school-south.zon"})
+        std::filesystem::copy_file(
+            std::filesystem::path(VARNHOLT_SOURCE_DIR "/examples") / name,
+            program.folder() / (std::string(name).ends_with("zon") ? "zones" : "work files") /
+                name);
+    program.run(
+        "pick work files/school-south.vht\nclick Varnmain.mnuFileOpen\n"
+        "click frmBHDesign.CACalculateCommand");
+    const std::filesystem::path first = program.folder() / "first.png";
+    const std::filesystem::path second = program.folder() / "second.png";
+    program.run("shot Varnmain " + first.string());
+    // What is read from now on has been found for certain.
+    const std::string read = program.run("print frmBHDesign.CASecondLengthLabel(0)");
+    EXPECT_EQ(read.find("\"-\""), std::string::npos) << read;
+    program.run("shot Varnmain " + second.string());
+    EXPECT_FALSE(wholeFile(first).empty());
+    EXPECT_EQ(wholeFile(first), wholeFile(second));
+    EXPECT_EQ(program.end(), 0);
+}
+
 }  // namespace
 }  // namespace varnholt

@@ -246,6 +246,12 @@ bool Binder::showsLate() const {
     });
 }
 
+void Binder::finishLate() {
+    if (form_ == nullptr || !form_->isBehind() || !showsLate()) return;
+    form_->catchUp();
+    settled(*form_);
+}
+
 /// One slice, and so on as long as nothing else has come up.
 void Binder::workLate() {
     lateDue_ = false;

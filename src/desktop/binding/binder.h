@@ -132,6 +132,8 @@ class Binder : public QObject, public FormObserver {
     using Verb = std::function<void(Form&, const std::string& name)>;
     /// Does what the user did, unless code is writing the widget, and has it show what came of it.
     void act(BoundControl& bound, const Verb& verb);
+    /// Finds at once what would be found while nobody works, if it is in sight.
+    void finishLate();
     /// How many verbs have been passed on.
     int actions() const { return actions_; }
     void watchKeys(BoundControl& bound, QWidget* keyboard);

@@ -267,6 +267,11 @@ Shown WidgetDriver::read(Form& form, const Control& control, Property property) 
 bool WidgetDriver::picture(Form& form, const std::string& path) {
     QWidget* frame = windows_.frameOf(form);
     if (frame == nullptr) throw ScriptFault(form.formName() + " has no window");
+    // A person who looks at the main window sees what its windows find in the next moments.
+    if (isMain(form))
+        for (const ChildWindow* child : main_.windows())
+            if (FormWindow* window = windows_.windowOf(*child); window != nullptr)
+                window->binder().finishLate();
     // Layouts that have been asked for are done before the picture is taken. Each widget around the
     // one that has changed takes a round, and the window that grows with them one more.
     constexpr int rounds = 8;
