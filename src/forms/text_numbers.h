@@ -1115,6 +1115,7 @@ constexpr int dropInformationQuestion = 4534;
 constexpr int seriesFileChanged = 4524;
 constexpr int damagedFileReplaced = 4525;
 constexpr int indexFileChanged = 4540;
+constexpr int fileWasNotThere = 4541;
 constexpr int replaceFileTitle = 4529;
 
 // Files that it could not write.

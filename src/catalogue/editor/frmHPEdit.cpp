@@ -90,7 +90,7 @@ void frmHPEdit::load() {
     const std::string path = pumpIndexPath(joinPath(main().MainDirectory, "pumps"));
     IndexFile file = readIndexFile(platform(), path);
     index_ = std::move(file.index);
-    indexKnown_ = file.fingerprint;
+    indexKnown_ = file.known;
     damagedIndex_ = {fileNameOf(path), file.report, file.other};
     if (file.error != 0 && !file.missing) damagedIndex_.report.error = file.error;
     if (file.missing)

@@ -41,9 +41,13 @@ class frmHPEdit : public ChildWindow {
     std::string seriesFile() const { return seriesPath(); }
     /// Makes what the file would hold now, wherever and whenever it is called.
     std::function<std::string()> seriesText() const;
+    /// The file as this window knows it; nothing where there was none.
+    const std::optional<KnownFile>& knownFile() const { return file_.known; }
     /// Takes pumps that were never saved, as a series file holds them; they count as changed. False
     /// where the catalogue does not list the file.
-    bool takeRecovered(std::string_view bytes, const std::string& path);
+    /// @param known  the file as it was known to the window that they were typed in
+    bool takeRecovered(std::string_view bytes, const std::string& path,
+                       const std::optional<KnownFile>& known);
     void actionEnds(const UserAction& action) override;
 
     // For the pictures.
@@ -123,6 +127,10 @@ class frmHPEdit : public ChildWindow {
     void markChanged();
     void SaveCommand_Click();
     bool mayReplaceFile();
+    /// Whether a file that another program has written since it was read here may go.
+    bool mayReplaceOther(int question, const std::string& path,
+                         const std::optional<KnownFile>& known);
+    bool mayReplace(const std::string& question);
     bool attemptToWrite(const std::string& path, const std::function<void()>& write);
     bool writeIndex(const CatalogueIndex& index);
 
@@ -197,7 +205,7 @@ class frmHPEdit : public ChildWindow {
     std::function<void()> catalogueWritten_;
     CatalogueIndex index_;
     FileDamage damagedIndex_;
-    std::optional<std::uint64_t> indexKnown_;  ///< of its file, as read or written last
+    std::optional<KnownFile> indexKnown_;  ///< of its file, as read or written last
     std::optional<SeriesPlace> place_;
     EditedSeries document_;
     TestResults results_;

@@ -5,7 +5,6 @@
 #include "basis/file_system.h"
 #include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
-#include "basis/system/fingerprint.h"
 #include "catalogue/editor/editor_names.h"
 #include "catalogue/editor/frmHPEdit.h"
 #include "catalogue/fitting/fit_quality.h"
@@ -184,7 +183,7 @@ void frmHPEdit::openSeries(const SeriesPlace& place) {
     editingSeriesInfo = false;
     SeriesFile file = readSelectedSeries();
     const int error = file.error;
-    const bool missing = !file.fingerprint && error == 0;
+    const bool missing = !file.known && error == 0;
     takeSeries(place, std::move(file));
     showPanel(document_.pumps.empty() ? Panel::nothing : Panel::data);
     if (missing)
@@ -205,7 +204,8 @@ void frmHPEdit::takeSeries(const SeriesPlace& place, SeriesFile file) {
     startHistory();
 }
 
-bool frmHPEdit::takeRecovered(std::string_view bytes, const std::string& path) {
+bool frmHPEdit::takeRecovered(std::string_view bytes, const std::string& path,
+                              const std::optional<KnownFile>& known) {
     PumpSeries series;
     try {
         readPumpSeries(bytes, series);
@@ -219,6 +219,7 @@ bool frmHPEdit::takeRecovered(std::string_view bytes, const std::string& path) {
             openSeries({m, s});
             SeriesFile file = std::move(file_);
             file.series = std::move(series);
+            if (known) file.known = known;
             takeSeries({m, s}, std::move(file));
             showSelection();
             showPanel(document_.pumps.empty() ? Panel::nothing : Panel::data);
@@ -262,13 +263,23 @@ bool isDamaged(const SeriesFile& file) {
 /// A file that is not as it was read, or not all of which was read, goes only when the user says
 /// so.
 bool frmHPEdit::mayReplaceFile() {
-    const int question = isDamaged(file_) ? Text::damagedFileReplaced
-                         : holdsOther(platform(), seriesPath(), file_.fingerprint)
-                             ? Text::seriesFileChanged
-                             : 0;
-    return question == 0 ||
-           platform().question(Buttons::yesNo, text(Text::replaceFileTitle),
-                               filledIn(text(question), {seriesPath()})) == Answer::yes;
+    if (isDamaged(file_))
+        return mayReplace(filledIn(text(Text::damagedFileReplaced), {seriesPath()}));
+    return mayReplaceOther(Text::seriesFileChanged, seriesPath(), file_.known);
+}
+
+bool frmHPEdit::mayReplaceOther(int question, const std::string& path,
+                                const std::optional<KnownFile>& known) {
+    const std::optional<FileStamp> now = stampOfOther(platform(), path, known);
+    if (!now) return true;
+    const std::string before =
+        known ? platform().timeText(known->stamp.modified) : text(Text::fileWasNotThere);
+    return mayReplace(filledIn(text(question), {path, before, platform().timeText(now->modified)}));
+}
+
+bool frmHPEdit::mayReplace(const std::string& question) {
+    return platform().question(Buttons::yesNo, text(Text::replaceFileTitle), question) ==
+           Answer::yes;
 }
 
 bool frmHPEdit::attemptToWrite(const std::string& path, const std::function<void()>& write) {
@@ -289,9 +300,11 @@ void frmHPEdit::SaveCommand_Click() {
         return show(MessageIcon::exclamation, filledIn(text(Text::fileNameUnusable), {FileName}));
     if (!mayReplaceFile()) return;
     const std::string bytes = seriesText()();
-    if (!attemptToWrite(seriesPath(), [&] { replaceWholeFile(seriesPath(), bytes); })) return;
+    FileStamp written;
+    if (!attemptToWrite(seriesPath(), [&] { written = replaceWholeFile(seriesPath(), bytes); }))
+        return;
     file_ = {};
-    file_.fingerprint = fingerprint(bytes);
+    file_.known = varnholt::knownFile(written, bytes);
     setChanged(false);
     markSaved();
     for (const Shared<pump>& model : document_.pumps)
@@ -302,16 +315,15 @@ void frmHPEdit::SaveCommand_Click() {
 
 bool frmHPEdit::writeIndex(const CatalogueIndex& index) {
     const std::string path = pumpIndexPath(joinPath(main().MainDirectory, "pumps"));
-    const int question = !damagedIndex_.isNone()                     ? Text::damagedFileReplaced
-                         : holdsOther(platform(), path, indexKnown_) ? Text::indexFileChanged
-                                                                     : 0;
-    if (question != 0 && platform().question(Buttons::yesNo, text(Text::replaceFileTitle),
-                                             filledIn(text(question), {path})) != Answer::yes)
-        return false;
+    const bool may = damagedIndex_.isNone()
+                         ? mayReplaceOther(Text::indexFileChanged, path, indexKnown_)
+                         : mayReplace(filledIn(text(Text::damagedFileReplaced), {path}));
+    if (!may) return false;
     const std::string bytes = pumpIndexText(index);
-    if (!attemptToWrite(path, [&] { replaceWholeFile(path, bytes); })) return false;
+    FileStamp written;
+    if (!attemptToWrite(path, [&] { written = replaceWholeFile(path, bytes); })) return false;
     damagedIndex_ = {};
-    indexKnown_ = fingerprint(bytes);
+    indexKnown_ = varnholt::knownFile(written, bytes);
     return true;
 }
 

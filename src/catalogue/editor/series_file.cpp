@@ -12,8 +12,9 @@ SeriesFile readSeriesFile(Platform& platform, const std::string& path) {
     SeriesFile file;
     try {
         if (!fileExists(path)) return file;
-        const std::string bytes = readFor(platform, path).bytes;
-        file.fingerprint = fingerprint(bytes);
+        const FileSource::Content content = readFor(platform, path);
+        const std::string& bytes = content.bytes;
+        file.known = knownFile(content.stamp, bytes);
         const FileKind kind = fileKind(bytes);
         if (isCertainlyOther(kind, FileKind::pumpSeries))
             file.other = kind;
@@ -25,12 +26,15 @@ SeriesFile readSeriesFile(Platform& platform, const std::string& path) {
     return file;
 }
 
-bool holdsOther(Platform& platform, const std::string& path,
-                const std::optional<std::uint64_t>& known) {
+std::optional<FileStamp> stampOfOther(Platform& platform, const std::string& path,
+                                      const std::optional<KnownFile>& known) {
     try {
-        return fileExists(path) && fingerprint(readFor(platform, path).bytes) != known;
+        if (!fileExists(path)) return std::nullopt;
+        const FileSource::Content now = readFor(platform, path);
+        if (known && fingerprint(now.bytes) == known->fingerprint) return std::nullopt;
+        return now.stamp;
     } catch (const RunTimeError&) {
-        return false;
+        return std::nullopt;
     }
 }
 
@@ -39,8 +43,9 @@ IndexFile readIndexFile(Platform& platform, const std::string& path) {
     try {
         file.missing = !fileExists(path);
         if (file.missing) return file;
-        const std::string bytes = readFor(platform, path).bytes;
-        file.fingerprint = fingerprint(bytes);
+        const FileSource::Content content = readFor(platform, path);
+        const std::string& bytes = content.bytes;
+        file.known = knownFile(content.stamp, bytes);
         const FileKind kind = fileKind(bytes);
         if (isCertainlyOther(kind, FileKind::pumpList))
             file.other = kind;

@@ -42,6 +42,7 @@ UnsavedWork workOf(const frmHPEdit& editor) {
     UnsavedWork work;
     work.record.path = editor.seriesFile();
     work.record.name = fileNameOf(work.record.path);
+    work.record.known = editor.knownFile();
     work.document = editor.seriesText();
     return work;
 }
@@ -74,7 +75,7 @@ ChildWindow* openEditor(Varnmain& main, const RecoveryRecord& record) {
     main.click("EditAdd");
     auto* editor = dynamic_cast<frmHPEdit*>(main.find(record.form));
     if (editor == nullptr) return nullptr;
-    if (editor->takeRecovered(record.document, record.path)) return editor;
+    if (editor->takeRecovered(record.document, record.path, record.known)) return editor;
     main.close(*editor);
     return nullptr;
 }

@@ -184,6 +184,48 @@ TEST_F(EditorTest, ReplacesADamagedFileOnlyWhenTheUserSaysSo) {
     EXPECT_EQ(onDisk("f_air").models[0].name, "A1x");
 }
 
+TEST_F(EditorTest, ShowsBothTimesBeforeItReplacesAFileThatAnotherProgramHasChanged) {
+    texts.known.insert({{Text::seriesFileChanged, "%2 | %3"}});
+    const std::string path = seriesFile("f_air");
+    const auto timeOnDisk = [&] { return platform.timeText(DiskFiles().stamp(path)->modified); };
+    frmHPEdit& window = opened();
+    const std::string before = timeOnDisk();
+    const std::string others = readWholeFile(path) + "another's";
+    overwrite(path, others);
+    std::filesystem::last_write_time(
+        path, std::filesystem::last_write_time(path) + std::chrono::hours(2));
+    ASSERT_NE(timeOnDisk(), before);
+    window.type("PumpModelText", "A1x");
+    platform.answers = {Answer::no};
+    window.click("SaveCommand");
+    EXPECT_EQ(platform.questions.back().text, before + " | " + timeOnDisk());
+    EXPECT_EQ(readWholeFile(path), others);
+    // Once it has been replaced the file is known again.
+    platform.answers = {Answer::yes};
+    window.click("SaveCommand");
+    const std::size_t asked = platform.questions.size();
+    window.type("PumpModelText", "A1y");
+    window.click("SaveCommand");
+    EXPECT_EQ(platform.questions.size(), asked);
+    EXPECT_EQ(onDisk("f_air").models[0].name, "A1y");
+}
+
+TEST_F(EditorTest, AsksAboutAFileThatHasChangedBetweenACrashAndTheNextStart) {
+    frmHPEdit& crashed = opened();
+    const std::optional<KnownFile> known = crashed.knownFile();
+    const std::string bytes = crashed.seriesText()();
+    main.close(crashed);
+    std::string others = bytes;
+    others.replace(others.find("A2"), 2, "Z2");
+    overwrite(seriesFile("f_air"), others);
+    frmHPEdit& window = editor();
+    ASSERT_TRUE(window.takeRecovered(bytes, seriesFile("f_air"), known));
+    platform.answers = {Answer::no};
+    window.click("SaveCommand");
+    ASSERT_FALSE(platform.questions.empty());
+    EXPECT_TRUE(platform.questions.back().text.starts_with("[4524]"));
+}
+
 TEST_F(EditorTest, ReadsAnIndexOfTenThousandLines) {
     index.clear();
     for (int m = 0; m < 1100; ++m)
