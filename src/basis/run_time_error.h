@@ -12,6 +12,8 @@ namespace varnholt {
 /// from the program's messages: 5, 6, 9, 11, 13, 53, 57, 61, 62, 70, 75, 76.
 class RunTimeError : public std::runtime_error {
  public:
+    static constexpr int fileNotFound = 53;
+
     explicit RunTimeError(int number);
     /// Of a file or folder, whose path ends the description.
     RunTimeError(int number, const std::string& path);

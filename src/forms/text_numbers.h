@@ -1146,6 +1146,7 @@ constexpr int unsavedQuestion = 8554;
 constexpr int unsavedTitle = 8555;
 constexpr int noticeOpenElsewhere = 8556;
 constexpr int noticeSetAside = 8557;
+constexpr int noticeFileNotFound = 8560;
 constexpr int readingFile = 8558;
 constexpr int noticeStillKept = 8559;
 

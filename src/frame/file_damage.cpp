@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frame/file_damage.h"
 
+#include "basis/file_system.h"
+#include "basis/run_time_error.h"
 #include "forms/text_numbers.h"
 
 namespace varnholt {
@@ -73,6 +75,13 @@ std::string damageText(const Texts& texts, const FileDamage& damage) {
     if (report.leftOut > 0)
         append(filledIn(texts.text(Text::noticeZonesLeftOut), {std::to_string(report.leftOut)}));
     return told;
+}
+
+std::string unreadableText(const Texts& texts, const std::string& path, int error) {
+    if (error == RunTimeError::fileNotFound)
+        return filledIn(texts.text(Text::noticeFileNotFound), {path});
+    return filledIn(texts.text(Text::noticeFileIncomplete), {fileNameOf(path)}) + " " +
+           filledIn(texts.text(Text::noticeReadingFailed), {RunTimeError(error).message()});
 }
 
 }  // namespace varnholt

@@ -21,4 +21,9 @@ struct FileDamage {
 /// What a window tells of it: the file, the line, what was read.
 std::string damageText(const Texts& texts, const FileDamage& damage);
 
+/// What is told of a file of which nothing was taken over, beside the box that gives the error
+/// alone.
+/// @param error  number of the RunTimeError that ended the reading
+std::string unreadableText(const Texts& texts, const std::string& path, int error);
+
 }  // namespace varnholt

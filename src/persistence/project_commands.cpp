@@ -116,6 +116,7 @@ const DesignFileKind* prepareToOpen(Varnmain& main, ProjectSource& source) {
         return source.as == OpenAs::notAtAll ? nullptr : &kindOfProject(source.content.bytes);
     } catch (const RunTimeError& error) {
         warnOfReading(main, error);
+        main.setNotice(unreadableText(main.texts(), source.path, error.number()));
     }
     return nullptr;
 }

@@ -117,10 +117,19 @@ TEST_F(Opening, ACopyOfAnOpenFileIsAnotherFile) {
 }
 
 TEST_F(Opening, AFileThatIsNotThereOpensNoWindow) {
+    texts.known.insert({{Text::noticeFileNotFound, "Not there: %1"}, {1236, "Damaged: %1"}});
     pick("work files/none.vht");
     main.click("mnuFileOpen");
     EXPECT_EQ(lastMessage(), "Varnholt - File not found");
     EXPECT_TRUE(main.windows().empty());
+    // The box has fixed words; which file, and what can be done, stands above the windows.
+    EXPECT_EQ(main.control("NoticeLabel").caption(),
+              "Not there: " + folder / "work files/none.vht");
+    pick("work files");
+    main.click("mnuFileOpen");
+    EXPECT_TRUE(main.control("NoticeLabel").caption().starts_with("Damaged: work files"));
+    saveAs(newDesign(), "work files/school.vht");
+    EXPECT_EQ(main.control("NoticeLabel").caption(), "");
 }
 
 TEST_F(Opening, AFileWithoutASecondLineOpensNoWindow) {

@@ -13,7 +13,8 @@ void throwFileError(int systemError, const std::string& path) {
     switch (systemError) {
         case ENOENT: {
             const std::string folder = folderOf(path);
-            throw RunTimeError(folder.empty() || isFolder(folder) ? 53 : 76);
+            if (folder.empty() || isFolder(folder)) throw RunTimeError(RunTimeError::fileNotFound);
+            throw RunTimeError(76, path);
         }
         case ENOTDIR:
             throw RunTimeError(76, path);

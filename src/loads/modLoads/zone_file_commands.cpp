@@ -69,7 +69,7 @@ std::optional<ZoneWindow::ReadZones> ZoneWindow::readZonesFor(const std::string&
                   &read.damage.report);
     } catch (const RunTimeError& error) {
         // Only a missing file and a file that ends too early are worth a message.
-        if (error.number() == 53 || error.number() == 62)
+        if (error.number() == RunTimeError::fileNotFound || error.number() == 62)
             show(MessageIcon::exclamation, error.message());
         read.damage.report.error = error.number();
     }
@@ -79,14 +79,17 @@ std::optional<ZoneWindow::ReadZones> ZoneWindow::readZonesFor(const std::string&
 bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
     const LoadsData& before = document_.data;
     LoadsData data = before;
+    main().setNotice({});
     std::optional<ReadZones> read = readZonesFor(path, data);
     if (!read) return false;
     const int error = read->damage.report.error;
     const bool toItsEnd = error == 0 && read->damage.other == FileKind::unknown;
     if (!toItsEnd && data == before) {
-        // A box has told that the file is missing.
-        constexpr int fileNotFound = 53;
-        if (error != fileNotFound) damage_ = damageText(texts(), read->damage);
+        // Of a file that is not there this window holds nothing.
+        if (error == RunTimeError::fileNotFound)
+            main().setNotice(unreadableText(texts(), path, error));
+        else
+            damage_ = damageText(texts(), read->damage);
         refreshNotice();
         return false;
     }
