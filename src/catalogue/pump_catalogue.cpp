@@ -62,6 +62,7 @@ void PumpCatalogue::InitializeHeatPumpLists() {
 
 void PumpCatalogue::readPumpNames() {
     index_ = std::make_shared<const CatalogueFiles::Index>();
+    lookedUp_.clear();
     const std::string path = pumpIndexPath(folder_);
     try {
         const auto file = files_->index(path);
@@ -118,6 +119,28 @@ const PumpSeriesInfo* PumpCatalogue::find(const std::string& mfgName,
     for (const PumpSeriesInfo* series : seriesOf(mfgName))
         if (series->seriesName == seriesName) return series;
     return nullptr;
+}
+
+std::shared_ptr<const PumpSeries> PumpCatalogue::readUntold(const PumpSeriesInfo* series) const {
+    if (series == nullptr || !staysInFolder(series->FileName)) return nullptr;
+    try {
+        auto read = std::make_shared<PumpSeries>();
+        readPumpSeries(DiskFiles().read(pumpSeriesPath(folder_, series->FileName)).bytes, *read);
+        return read;
+    } catch (const RunTimeError&) {
+        return nullptr;
+    }
+}
+
+const pump* PumpCatalogue::lookUp(const std::string& mfgName, const std::string& seriesName,
+                                  const std::string& modelName) const {
+    const auto [known, isNew] = lookedUp_.try_emplace({mfgName, seriesName});
+    if (isNew) known->second = readUntold(find(mfgName, seriesName));
+    if (known->second == nullptr) return nullptr;
+    const std::vector<pump>& models = known->second->models;
+    const auto found = std::find_if(models.begin(), models.end(),
+                                    [&](const pump& model) { return model.name == modelName; });
+    return found == models.end() ? nullptr : &*found;
 }
 
 const PumpSeriesInfo* PumpCatalogue::findJoined(const std::string& joinedName) const {

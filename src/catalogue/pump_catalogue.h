@@ -9,6 +9,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "catalogue/catalogue_files.h"
@@ -83,6 +84,12 @@ class PumpCatalogue {
     const PumpSeriesInfo* find(const std::string& mfgName, const std::string& seriesName) const;
     /// The entry of the first series whose joined name this is, or null.
     const PumpSeriesInfo* findJoined(const std::string& joinedName) const;
+    /// The model of that name in whatever series of the catalogue, which need not be loaded; null
+    /// where there is none. A series is looked up once and then remembered until the index is read
+    /// again. Of files that cannot be read nothing is told, and none is waited for. Lasts as long
+    /// as what is remembered.
+    const pump* lookUp(const std::string& mfgName, const std::string& seriesName,
+                       const std::string& modelName) const;
     /// Of the index and the series read last, those that could not be read whole.
     std::vector<FileDamage> damage() const;
     /// Joined name of the first series of the first manufacturer that has one, or empty.
@@ -90,6 +97,7 @@ class PumpCatalogue {
 
  private:
     std::string preferredSeries() const;
+    std::shared_ptr<const PumpSeries> readUntold(const PumpSeriesInfo* series) const;
     template <class Content>
     void noteDamage(const std::string& path, const ReadFile<Content>& file);
     void tellMissing(const std::string& path) const;
@@ -103,6 +111,9 @@ class PumpCatalogue {
     std::shared_ptr<const CatalogueFiles::Index> index_;
     std::array<LoadedSeries, 2> slots_;
     std::map<std::string, FileDamage> damage_;  ///< by the files' paths
+    /// By names of manufacturer and series; null for those that cannot be read.
+    mutable std::map<std::pair<std::string, std::string>, std::shared_ptr<const PumpSeries>>
+        lookedUp_;
 };
 
 }  // namespace varnholt

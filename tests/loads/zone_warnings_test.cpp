@@ -92,6 +92,36 @@ TEST_F(WarnedZones, AreToldOfInTheUnitsThatAreShown) {
               std::vector<std::string>{"Zone 1|5.9|" + texts.text(2839) + "|5.0|kW"});
 }
 
+TEST_F(WarnedZones, AreToldOfByTheirOwnPumpsWhicheverSeriesIsActive) {
+    texts.known[2363] = "%1|%2|%3|%4|%5";
+    for (const char* name : {"Cool", "Warm"}) {
+        pump model = modelOf();
+        model.name = name;
+        // The points of one series end at 80 degF, below the 85 of the conditions.
+        if (model.name == "Cool") model.ewt[5].temperature = 80;
+        write({{name, std::string("f_") + name, {2025, 1, 2}}, {"Third", "", "", "", ""}, {model}});
+    }
+    frmZoneManage& window = manager();
+    for (const char* name : {"Cool", "Warm", "Gone"}) {
+        addZone(window, 20, 0);
+        window.change([name](LoadsDocument& document) {
+            MiniPump& own = document.data.zones.edit(document.data.zones.size() - 1).pump;
+            own.customPump = 0;
+            own.mfgName = "Third";
+            own.seriesName = own.name = name;
+            own.capacity = {25, 20};
+        });
+    }
+    EXPECT_EQ(window.conditions().inletTemp[cooling], 85);
+    EXPECT_EQ(window.catalogue.activeSeries(), "FirstAir");
+    EXPECT_EQ(window.warningsOfZone(0),
+              std::vector<std::string>{"Zone 1|85.0|" + texts.text(2839) + "|50.0|80.0"});
+    EXPECT_TRUE(window.warningsOfZone(1).empty());
+    // Of a pump that the catalogue does not have nothing is known.
+    EXPECT_TRUE(window.warningsOfZone(2).empty());
+    EXPECT_TRUE(platform.messages.empty());
+}
+
 TEST_F(WarnedZones, ShowTheirCapacityBesideTheLoads) {
     frmZoneManage& window = manager();
     addZone(window, 20, 10);

@@ -7,18 +7,6 @@
 #include "loads/zone_warnings.h"
 
 namespace varnholt {
-namespace {
-
-/// The zone's pump among the models of a slot; null where it is not there.
-const pump* modelOf(const MiniPump& zonePump, std::span<const pump> models) {
-    for (const pump& model : models)
-        if (model.name == zonePump.name && model.mfgInfo.mfgName == zonePump.mfgName &&
-            model.seriesInfo.seriesName == zonePump.seriesName)
-            return &model;
-    return nullptr;
-}
-
-}  // namespace
 
 std::vector<std::string> ZoneWindow::warningsOfZone(std::size_t position) const {
     const Zone& zone = ZoneList()[position];
@@ -29,8 +17,9 @@ std::vector<std::string> ZoneWindow::warningsOfZone(std::size_t position) const 
     const auto degrees = [&](double value) {
         return formatNumber(quantities::temperature.shown(value, units()), "###0.0");
     };
+    const MiniPump& own = zone.pump;
     const pump* model =
-        zone.pump.customPump == 1 ? nullptr : modelOf(zone.pump, catalogue.models(activeSlot));
+        own.customPump == 1 ? nullptr : catalogue.lookUp(own.mfgName, own.seriesName, own.name);
     std::vector<std::string> sentences;
     for (const ZoneWarning& warning : warningsOf(zone, conditions().inletTemp, model)) {
         const std::string mode = text(warning.mode == cooling ? Text::cooling : Text::heating);
