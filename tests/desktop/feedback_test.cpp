@@ -126,6 +126,28 @@ TEST_F(Feedback, SaysWhyALinkIsNotMade) {
     EXPECT_TRUE(desk.platform.told.back().starts_with("Nothing is linked: several designs"));
 }
 
+TEST_F(Feedback, TellsInBothLoadsWindowsWhatIsToBeCheckedInTheZoneOnDisplay) {
+    for (const char* command : {"mnuZoneManage", "mnuAvgBlock"}) {
+        SCOPED_TRACE(command);
+        desk.main().click(command);
+        ChildWindow* loads = desk.main().activeWindow();
+        loads->click("LONewCommand");
+        Desk::settle();
+        auto* lines =
+            desk.shelf.windowOf(*loads)->findChild<QLabel*>(QStringLiteral("warningLines"));
+        ASSERT_NE(lines, nullptr);
+        EXPECT_FALSE(lines->isVisible());
+        loads->type("LOGainsText(0)", "50");
+        Desk::settle();
+        EXPECT_TRUE(lines->isVisible());
+        EXPECT_TRUE(lines->text().startsWith(QStringLiteral("To be checked: ")));
+        EXPECT_TRUE(lines->text().endsWith(QStringLiteral(" has loads and no pump.")));
+        loads->type("LOGainsText(0)", "0");
+        Desk::settle();
+        EXPECT_FALSE(lines->isVisible());
+    }
+}
+
 TEST_F(Feedback, EndsWithTheNextThingThatIsDone) {
     desk.window->tell("Something.");
     EXPECT_EQ(told(), "Something.");

@@ -138,12 +138,23 @@ QWidget* details(Binder& bind) {
     return bind.panel("LODetailsFrame", [&bind] { return detailsFields(bind); });
 }
 
+/// What is to be checked in the zone on display.
+std::vector<std::string> warningsOnDisplay(const Binder& bind) {
+    const ZoneWindow* window = zoneWindowOf(bind);
+    const int zone = window == nullptr ? -1 : window->selectedZone();
+    if (zone < 0 || static_cast<std::size_t>(zone) >= window->ZoneList().size()) return {};
+    return window->warningsOfZone(static_cast<std::size_t>(zone));
+}
+
 }  // namespace
 
 QWidget* zonePanel(Binder& bind) {
     return group(
         bind.frame("LOZoneFrame"),
-        reflow(grow(loads(bind), 3), grow(column(specifications(bind), pumpCommands(bind)), 2)),
+        reflow(grow(loads(bind), 3),
+               grow(column(specifications(bind), pumpCommands(bind),
+                           warningLines(bind, [&bind] { return warningsOnDisplay(bind); })),
+                    2)),
         selection(bind), details(bind));
 }
 
