@@ -53,7 +53,8 @@ std::vector<DesignWarning> warningsOf(const SurfaceWaterProject& project);
 
 /// A warning in the words and units of its design.
 std::string sentenceOf(const DesignWarning& warning, const GroundDesign& design);
-/// All of them.
+/// All of them, and behind them those about the pumps of the linked zones, which the design's inlet
+/// temperatures may lie beyond.
 std::vector<std::string> sentencesOf(const std::vector<DesignWarning>& warnings,
                                      const GroundDesign& design);
 

@@ -5,6 +5,8 @@
 #include "design/ground_design.h"
 #include "forms/quantity.h"
 #include "forms/text_numbers.h"
+#include "loads/loads_window.h"
+#include "loads/zone_warning_texts.h"
 
 namespace varnholt {
 namespace {
@@ -72,6 +74,9 @@ std::vector<std::string> sentencesOf(const std::vector<DesignWarning>& warnings,
                                      const GroundDesign& design) {
     std::vector<std::string> sentences;
     for (const DesignWarning& warning : warnings) sentences.push_back(sentenceOf(warning, design));
+    if (const LoadsWindow* loads = design.LoadsHome())
+        for (std::string& sentence : inletSentences(*loads, design.conditions().inletTemp, design))
+            sentences.push_back(std::move(sentence));
     return sentences;
 }
 

@@ -57,4 +57,9 @@ std::vector<ZoneWarning> warningsOf(const Zone& zone, const ByMode<double>& inle
     return warnings;
 }
 
+const pump* modelOf(const Zone& zone, const PumpCatalogue& catalogue) {
+    const MiniPump& own = zone.pump;
+    return own.customPump == 1 ? nullptr : catalogue.lookUp(own.mfgName, own.seriesName, own.name);
+}
+
 }  // namespace varnholt

@@ -5,6 +5,7 @@
 
 #include "basis/mode.h"
 #include "catalogue/pump.h"
+#include "catalogue/pump_catalogue.h"
 #include "loads/zone.h"
 
 namespace varnholt {
@@ -32,5 +33,9 @@ struct ZoneWarning {
 ///                   nothing is said of its points
 std::vector<ZoneWarning> warningsOf(const Zone& zone, const ByMode<double>& inletTemp,
                                     const pump* model);
+
+/// The zone's pump in the catalogue; null for one that was typed in by hand, or that the catalogue
+/// does not have.
+const pump* modelOf(const Zone& zone, const PumpCatalogue& catalogue);
 
 }  // namespace varnholt

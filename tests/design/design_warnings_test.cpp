@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "horizontal_window.h"
+#include "linked_project.h"
 #include "surface_water_window.h"
 
 namespace varnholt {
@@ -180,6 +181,55 @@ TEST_F(SurfaceWaterWindow, WarnsOfWaterNearItsFluid) {
     });
     ASSERT_EQ(design->warnings().size(), 1U);
     EXPECT_EQ(design->warnings()[0], "94.0 90.0 " + design->text(Text::cooling) + " 5.0");
+}
+
+class WarnedDesigns : public LoadsAndDesigns {
+ protected:
+    /// A zone with a pump whose points in cooling end at 80 degF.
+    void addWarmZone(ZoneWindow& window) {
+        addZone(window, 20, 0);
+        window.change([](LoadsDocument& document) {
+            MiniPump& own = document.data.zones.edit(document.data.zones.size() - 1).pump;
+            own.customPump = 0;
+            own.mfgName = "Third";
+            own.seriesName = own.name = "Cool";
+            own.capacity = {25, 20};
+        });
+    }
+    void writeCoolSeries() {
+        pump model;
+        model.name = "Cool";
+        for (std::size_t row = 0; row < 3; ++row) {
+            model.ewt[row].temperature = 30 + 20.0 * static_cast<double>(row);
+            model.ewt[row + 3].temperature = 50 + 15.0 * static_cast<double>(row);
+        }
+        write({{"Cool", "f_Cool", {2025, 1, 2}}, {"Third", "", "", "", ""}, {model}});
+    }
+    GroundDesign& active() { return dynamic_cast<GroundDesign&>(*main.activeWindow()); }
+};
+
+TEST_F(WarnedDesigns, OfAllKindsTellOfWaterBeyondTheDataOfTheirPumps) {
+    texts.known.insert({{2349, "%1+%2|%3"}, {2363, "%1|%2|%4|%5"}});
+    writeCoolSeries();
+    for (const char* command : {"NewBorehole", "NewHorizontal", "NewSurfaceWater"}) {
+        SCOPED_TRACE(command);
+        main.click(command);
+        GroundDesign& design = active();
+        frmZoneManage& loads = manager();
+        const int zones = loads.zoneNumber();
+        addWarmZone(loads);
+        EXPECT_TRUE(design.warnings().empty()) << "not linked yet";
+        main.activate(design);
+        main.click("mnuLink");
+        ASSERT_EQ(design.LoadsHome(), &loads);
+        design.type("FLInletTempText(0)", "81");
+        ASSERT_EQ(design.warnings().size(), 1U);
+        EXPECT_EQ(design.warnings()[0], zones == 0 ? "Zone 1|81.0|50.0|80.0"
+                                                   : "Zone 1+" + std::to_string(zones) + "|81.0");
+        design.type("FLInletTempText(0)", "80");
+        EXPECT_TRUE(design.warnings().empty());
+        main.click("mnuUnlink");
+    }
 }
 
 }  // namespace
