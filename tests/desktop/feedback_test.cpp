@@ -15,11 +15,13 @@
 
 #include "desk.h"
 #include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/text_label.h"
 #include "desktop/windows/name_finder.h"
 #include "desktop/windows/start_page.h"
 #include "frame/design_document.h"
 #include "loads/frmAvgBlock.h"
 #include "loads/frmZoneManage.h"
+#include "persistence/project_commands.h"
 
 namespace varnholt {
 namespace {
@@ -146,6 +148,32 @@ TEST_F(Feedback, TellsInBothLoadsWindowsWhatIsToBeCheckedInTheZoneOnDisplay) {
         Desk::settle();
         EXPECT_FALSE(lines->isVisible());
     }
+}
+
+TEST_F(Feedback, DimsOlderResultsAndMarksTheirPage) {
+    openProjectFile(desk.main(), VARNHOLT_SOURCE_DIR "/examples/school-south.vht");
+    design = desk.main().activeWindow();
+    design->click("CACalculateCommand");
+    Desk::settle();
+    const auto figureIsDimmed = [&](const char* label) {
+        return dynamic_cast<TextLabel&>(widget(label)).isDimmed();
+    };
+    EXPECT_TRUE(tabs().tabIcon(0).isNull());
+    EXPECT_FALSE(figureIsDimmed("CATotalLengthLabel(0)"));
+    // Another window changes the loads.
+    ChildWindow& loads = *desk.main().find("frmZoneManage");
+    desk.main().activate(loads);
+    loads.type("LOGainsText(0)", "77");
+    Desk::settle();
+    EXPECT_FALSE(tabs().tabIcon(0).isNull());
+    EXPECT_FALSE(tabs().tabToolTip(0).isEmpty());
+    EXPECT_TRUE(figureIsDimmed("CATotalLengthLabel(0)"));
+    EXPECT_TRUE(figureIsDimmed("CAUnitOutletLabel(1)"));
+    EXPECT_FALSE(figureIsDimmed("CASecondLengthLabel(0)")) << "it follows what is typed";
+    loads.undo();
+    Desk::settle();
+    EXPECT_TRUE(tabs().tabIcon(0).isNull());
+    EXPECT_FALSE(figureIsDimmed("CATotalLengthLabel(0)"));
 }
 
 TEST_F(Feedback, EndsWithTheNextThingThatIsDone) {

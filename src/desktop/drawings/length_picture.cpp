@@ -104,6 +104,8 @@ void drawFigure(const Canvas& canvas, const QString& text, const QRectF& place,
 
 void drawBar(const Canvas& canvas, const LengthSummary& lengths, Mode mode,
              const LengthScale& scale, const QRectF& row) {
+    constexpr double dimmed = 0.5;
+    const bool stale = lengths.state == LengthSummary::State::stale;
     double shorter = 0;
     double longer = 0;
     for (std::size_t i = 0; i < lengths.parts.size(); ++i) {
@@ -116,7 +118,9 @@ void drawBar(const Canvas& canvas, const LengthSummary& lengths, Mode mode,
         const QRectF place(std::min(from, to), canvas.crisp(row.top()), std::abs(to - from),
                            row.height());
         const PartStyle style = styleOf(i, lengths.parts.size());
+        canvas.painter.setOpacity(stale ? dimmed : 1);
         drawPart(canvas, mode, style, place);
+        canvas.painter.setOpacity(1);
         if (!style.hatched)
             drawFigure(canvas, qt(part.length[mode]), place, fillOf(canvas.look, mode, style));
     }
@@ -138,11 +142,12 @@ void drawWords(const Canvas& canvas, const LengthSummary& lengths, Mode mode, co
                double end, const Texts& texts) {
     const bool governs = mode == lengths.governing;
     QPainter& painter = canvas.painter;
-    painter.setPen(governs ? colourOf(canvas.look, mode) : canvas.look.muted);
+    const bool strongly = governs && lengths.state != LengthSummary::State::stale;
+    painter.setPen(strongly ? colourOf(canvas.look, mode) : canvas.look.muted);
     painter.setFont(strong(canvas.words, governs));
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, chartWord(mode, texts));
     const FigureText figure(qt(lengths.length[mode]), strong(canvas.words, governs));
-    painter.setPen(governs ? canvas.look.ink : canvas.look.muted);
+    painter.setPen(strongly ? canvas.look.ink : canvas.look.muted);
     figure.draw(painter, {end, line.center().y() - figure.size().height() / 2});
 }
 

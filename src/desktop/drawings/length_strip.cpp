@@ -132,7 +132,8 @@ double LengthStrip::drawMode(const Canvas& canvas, Mode mode, double x, bool wit
                      Qt::AlignLeft | Qt::AlignVCenter, chartWord(mode, texts_));
     const Figures figures = figuresOf(mode);
     const double line = top + wordHeight;
-    painter.setPen(governs ? canvas.look.ink : canvas.look.muted);
+    const bool stale = lengths_.state == LengthSummary::State::stale;
+    painter.setPen(governs && !stale ? canvas.look.ink : canvas.look.muted);
     figures.length.draw(painter, {x, line});
     if (withEach && hasEach()) {
         painter.setPen(canvas.look.muted);

@@ -1,12 +1,38 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What stands above and below the pages of every design.
+#include <QTabWidget>
+
+#include "design/ground_design.h"
 #include "desktop/views/design_pages.h"
 #include "desktop/views/length_pieces.h"
 #include "desktop/views/view_pieces.h"
+#include "desktop/widgets/icons.h"
+#include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
+namespace {
+
+/// The page of the results carries the sign of older ones in its tab, wherever one works.
+void markResults(Binder& bind, QWidget* pages) {
+    auto* tabs = qobject_cast<QTabWidget*>(pages);
+    const QString words = qt(bind.text(Text::staleResults));
+    const auto refresh = [tabs, words, &bind] {
+        const auto* design = static_cast<const GroundDesign*>(bind.form());
+        const bool stale =
+            design != nullptr && design->lengthSummary().state == LengthSummary::State::stale;
+        if (stale == !tabs->tabIcon(0).isNull()) return;
+        tabs->setTabIcon(0, stale ? houseIcon(QStringLiteral("stale")) : QIcon());
+        tabs->setTabToolTip(0, stale ? words : QString());
+    };
+    refresh();
+    bind.onSettled(refresh);
+}
+
+}  // namespace
 
 QWidget* designWindow(Binder& bind, QWidget* pages) {
+    markResults(bind, pages);
     // The results take more room than the zeros that they begin with.
     QWidget* window = column(
         bar(centredRow(bind.widget("MetricCheck"), grow(noticeBar(bind)), linkLights(bind))),

@@ -43,6 +43,8 @@ void showHeadline(const LengthSummary& lengths, TextLabel& figure, TextLabel& wo
     show(figure, found ? lengths.each[lengths.governing] : "\u2013");
     show(word, found ? lengths.eachWord : std::string());
     show(sentence, plain(groupedThousands(qt(found ? lengths.sentence : untilThen))));
+    for (TextLabel* label : {&figure, &sentence})
+        label->setDimmed(lengths.state == LengthSummary::State::stale);
     if (found)
         figure.setMode(lengths.governing);
     else

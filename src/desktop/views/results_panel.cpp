@@ -4,11 +4,13 @@
 #include <QPushButton>
 
 #include "design/ground_design.h"
+#include "desktop/binding/bound_control.h"
 #include "desktop/views/design_pages.h"
 #include "desktop/views/length_pieces.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/text_label.h"
 #include "forms/text_numbers.h"
 
 namespace varnholt {
@@ -55,8 +57,38 @@ QWidget* headline(Binder& bind) {
     return both;
 }
 
+/// Whether the figures on show are older than what they came from.
+bool showsOlderFigures(const Binder& bind) {
+    const auto* design = static_cast<const GroundDesign*>(bind.form());
+    return design != nullptr && design->lengthSummary().state == LengthSummary::State::stale;
+}
+
+/// The figures of a run, which those that are found late are none of: they follow what is typed.
+std::vector<TextLabel*> figuresOfRun(const Binder& bind, const std::vector<FieldRows>& parts) {
+    std::vector<TextLabel*> figures;
+    for (const FieldRows& rows : parts)
+        for (const FieldRow& row : rows)
+            for (QWidget* field : row.fields) {
+                auto* label = dynamic_cast<TextLabel*>(field);
+                const BoundControl* bound =
+                    label == nullptr ? nullptr : bind.find(plain(label->objectName()));
+                if (bound != nullptr && !bound->control().isLate()) figures.push_back(label);
+            }
+    return figures;
+}
+
+void dimWhenStale(Binder& bind, const std::vector<FieldRows>& parts) {
+    const auto refresh = [&bind, figures = figuresOfRun(bind, parts)] {
+        const bool stale = showsOlderFigures(bind);
+        for (TextLabel* figure : figures) figure->setDimmed(stale);
+    };
+    refresh();
+    bind.onSettled(refresh);
+}
+
 /// The results in two columns.
 QWidget* resultsPanel(Binder& bind, const std::vector<FieldRows>& parts) {
+    dimWhenStale(bind, parts);
     FieldRows rows{bind.heads("CATopLabel(0)", "CATopLabel(1)")};
     for (const FieldRows& part : parts) {
         if (rows.size() > 1) rows.push_back(bind.wide(rule()));

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <cmath>
+#include <utility>
 
 #include "desktop/widgets/look.h"
 
@@ -63,6 +64,10 @@ void TextLabel::setTone(Tone tone) {
     update();
 }
 
+void TextLabel::setDimmed(bool dimmed) {
+    if (std::exchange(dimmed_, dimmed) != dimmed) update();
+}
+
 void TextLabel::setFigures() {
     figures_ = true;
     updateGeometry();
@@ -71,6 +76,7 @@ void TextLabel::setFigures() {
 
 QColor TextLabel::colour() const {
     const Look& look = lookOf(palette());
+    if (dimmed_) return look.muted;
     switch (tone_) {
         case Tone::muted:
             return look.muted;

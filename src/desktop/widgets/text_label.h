@@ -22,6 +22,9 @@ class TextLabel : public QLabel {
     void setMode(Mode mode) { setTone(mode == cooling ? Tone::cooling : Tone::heating); }
     /// Shows it in the colour of all texts again.
     void setPlain() { setTone(Tone::plain); }
+    /// Shows it as something that holds no longer, whatever its colour is otherwise.
+    void setDimmed(bool dimmed);
+    bool isDimmed() const { return dimmed_; }
     /// Shows the figures in it grouped and in columns; its text stays as it is.
     void setFigures();
 
@@ -45,6 +48,7 @@ class TextLabel : public QLabel {
     void drawLine(QPainter& painter) const;
 
     Tone tone_ = Tone::plain;
+    bool dimmed_ = false;
     bool figures_ = false;
     mutable QStaticText shaped_;
     mutable QFont font_;
