@@ -215,7 +215,9 @@ TEST_F(EditorTest, AsksAboutAFileThatHasChangedBetweenACrashAndTheNextStart) {
     const std::optional<KnownFile> known = crashed.knownFile();
     const std::string bytes = crashed.seriesText()();
     main.close(crashed);
-    overwrite(seriesFile("f_air"), bytes + "another's");
+    std::string others = bytes;
+    others.replace(others.find("A2"), 2, "Z2");
+    overwrite(seriesFile("f_air"), others);
     frmHPEdit& window = editor();
     ASSERT_TRUE(window.takeRecovered(bytes, seriesFile("f_air"), known));
     platform.answers = {Answer::no};
