@@ -751,15 +751,15 @@ constexpr int pumpCurvesDesign = 2997;
 constexpr int enterLoadsFirst = 2160;
 
 // What only a screen reader tells.
-constexpr int moreOfNumber = 4230;
-constexpr int lessOfNumber = 4231;
-constexpr int emptySearch = 4232;
-constexpr int linkedWithDesign = 4233;
-constexpr int notLinkedWithZoneManager = 4234;
-constexpr int notLinkedWithAverageBlock = 4235;
-constexpr int clearPumpTold = 4236;
-constexpr int gainsByBlock = 4240;
-constexpr int lossesByBlock = 4241;
+constexpr int moreOfNumber = 3800;
+constexpr int lessOfNumber = 3801;
+constexpr int emptySearch = 3802;
+constexpr int linkedWithDesign = 3803;
+constexpr int notLinkedWithZoneManager = 3804;
+constexpr int notLinkedWithAverageBlock = 3805;
+constexpr int clearPumpTold = 3806;
+constexpr int gainsByBlock = 3810;
+constexpr int lossesByBlock = 3811;
 
 // What a design comes to: the strip at the foot of its window, the page of its results.
 constexpr int lengthsFresh = 2551;
