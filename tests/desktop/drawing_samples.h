@@ -25,8 +25,9 @@ namespace varnholt {
 class PictureTexts : public Texts {
  public:
     PictureTexts() {
-        for (const std::string name : {"1350_desktop.txt", "1500_import.txt", "2460_pictures.txt",
-                                       "2551_lengths.txt", "2800_loads.txt", "5000_horizontal.txt"})
+        for (const std::string name :
+             {"1350_desktop.txt", "1500_import.txt", "2460_pictures.txt", "2551_lengths.txt",
+              "2800_loads.txt", "3800_screen_reader.txt", "5000_horizontal.txt"})
             table_.read(readWholeFile(VARNHOLT_SOURCE_DIR "/resources/language/english/" + name),
                         name);
     }
