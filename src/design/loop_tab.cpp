@@ -99,8 +99,7 @@ void LoopTab::addHeaders(std::size_t kind) {
     addCombo(elementName("PIHeaderPipeSizeCombo", kind), frame,
              elementName("PIHeaderPipeSizeLabel", kind), Text::headerPipeSize,
              Text::loopPipeThreeQuarterInch, Text::headerPipeSixInch)
-        .setAccessibleName(text(headerTexts[kind]) + ", " +
-                           captionWords(text(Text::headerPipeSize)));
+        .setSpokenName(text(headerTexts[kind]) + ", " + captionWords(text(Text::headerPipeSize)));
     onClick(elementName("PIHeaderPipeSizeCombo", kind),
             [this, kind] { PIHeaderPipeSizeCombo_Click(kind); });
     addHeaderLengths(kind, frame);
@@ -144,8 +143,10 @@ void LoopTab::addHeaderLengths(std::size_t kind, const std::string& frame) {
                              .unitLabel = elementName("PIHeaderLengthUnitsLabel", index),
                              .unit = {Text::lengthUnitsEnglish, Text::lengthUnitsMetric},
                              .help = "surface_water#headers",
-                             .accessible = headerTexts[kind],
+                             .accessible = Text::headerLength,
                              .distinction = places[place]}});
+        Control& length = control(elementName("PIHeaderLengthText", index));
+        length.setSpokenName(text(headerTexts[kind]) + ", " + length.accessibleName());
     }
 }
 

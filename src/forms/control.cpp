@@ -90,6 +90,10 @@ Control& Control::setAccessibleName(std::string name) {
     return set(Property::accessibleName, accessibleName_, std::move(name));
 }
 
+Control& Control::setSpokenName(std::string name) {
+    return set(Property::accessibleName, spokenName_, std::move(name));
+}
+
 Control& Control::in(std::string container) {
     container_ = std::move(container);
     return *this;

@@ -139,6 +139,10 @@ class Control {
     const std::string& upDown() const { return upDown_; }
     /// What a screen reader calls the control, where that is not its label's or its own caption.
     const std::string& accessibleName() const { return accessibleName_; }
+    /// The same where another control of the window has that name too; accessibleName() else.
+    const std::string& spokenName() const {
+        return spokenName_.empty() ? accessibleName_ : spokenName_;
+    }
     /// What it shows is found only when somebody reads it; see Form::catchUp.
     bool isLate() const { return late_; }
     /// Page of the help that explains it, with its section: "soil#temperature". Empty for none.
@@ -166,6 +170,7 @@ class Control {
     Control& setDate(const Date& date);
     Control& setRefused(bool refused);
     Control& setAccessibleName(std::string name);
+    Control& setSpokenName(std::string name);
     /// Draws attention to the control for a moment; nothing of its state changes.
     void flash() { notify(Property::flash); }
     /// Asks whoever shows the control to let the keyboard work it from now on.
@@ -193,7 +198,7 @@ class Control {
     ControlKind kind_;
     ControlObserver* observer_ = nullptr;
     std::string text_, caption_, tooltip_, container_, group_;
-    std::string label_, unitLabel_, upDown_, accessibleName_, helpTopic_;
+    std::string label_, unitLabel_, upDown_, accessibleName_, spokenName_, helpTopic_;
     std::vector<std::string> items_;
     std::vector<int> selected_;
     Date date_;

@@ -78,7 +78,7 @@ void frmZoneManage::addSummary() {
     add("LOBuildingDayChart", ControlKind::image, Text::buildingDayChart).in(frame);
     add("LOReturnFromSummaryCommand", ControlKind::button, Text::returnToZone)
         .in(frame)
-        .setAccessibleName(text(Text::returnToZone) + ", " + text(Text::buildingSummary));
+        .setSpokenName(text(Text::returnToZone) + ", " + text(Text::buildingSummary));
 }
 
 void frmZoneManage::LOSummaryCommand_Click() {

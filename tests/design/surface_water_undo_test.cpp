@@ -55,8 +55,8 @@ TEST_F(UndoInAPond, OfEachFieldIsOneStepAVisit) {
         {"PILoopHeadLossText(1)", "3", "[3409], [2204]"},
         {"PIHeaderNumberText(0)", "4", "[3415], [3414]"},
         {"PIHeaderNumberText(1)", "2", "[3416], [3414]"},
-        {"PIHeaderLengthText(0)", "110", "[3415], [3417]"},
-        {"PIHeaderLengthText(3)", "35", "[3416], [3418]"},
+        {"PIHeaderLengthText(0)", "110", "[3419], [3417]"},
+        {"PIHeaderLengthText(3)", "35", "[3419], [3418]"},
         {"PIHeaderHeadLossText(0)", "1.7", "[3420], [3421]"},
         {"PIHeaderHeadLossText(3)", "2.7", "[3420], [3424]"},
         {"WALoopTempText(0)", "76", "[3502], [2203]"},
@@ -85,8 +85,8 @@ TEST_F(UndoInAPond, OfWhateverElseAPersonChanges) {
     calculate();
     expectOneStep("[3407]", [this] { design->click("PISlinkyOption"); });
     expectOneStep("[3403]", [this] { choose("PILoopPipeSizeCombo", 0); });
-    expectOneStep("[3415], [3425]", [this] { choose("PIHeaderPipeSizeCombo(0)", 6); });
-    expectOneStep("[3416], [3425]", [this] { choose("PIHeaderPipeSizeCombo(1)", 2); });
+    expectOneStep("[3425]", [this] { choose("PIHeaderPipeSizeCombo(0)", 6); });
+    expectOneStep("[3425]", [this] { choose("PIHeaderPipeSizeCombo(1)", 2); });
     expectOneStep("[3308]", [this] { choose("SOSoilTypeCombo", 0); });
     expectOneStep("[3507]", [this] { choose("WASurfaceWaterTypeCombo", 3); });
     expectOneStep("[2212]", [this] { choose("FLFluidTypeCombo", 1); });

@@ -173,7 +173,7 @@ TEST_F(UndoInTheZoneManager, OfSelectingClearingAndAutoSelectingAPump) {
     undo();
     EXPECT_EQ(pumpOf(1).name, "Air-40");
     EXPECT_EQ(shown(window, "LOPumpNameText"), "Air-40");
-    expectOneStep("[3806] Zone 2", [this] { window.click("LOClearPumpsCommand"); });
+    expectOneStep("[2833] Zone 2", [this] { window.click("LOClearPumpsCommand"); });
 }
 
 TEST_F(UndoInTheZoneManager, OfAutoSelectAllIsOneStepForAllZones) {

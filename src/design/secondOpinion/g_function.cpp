@@ -12,7 +12,9 @@ constexpr double firstHour = 1;
 constexpr double nearlyFirst = 1.15;    // times the first hour: too near for a point of its own
 constexpr double fourierOfStart = 0.1;  // of the bores' walls, alpha t/rb^2
 constexpr double evenStep = 0.3;        // of ln t, before the march
-constexpr double shortening = 0.5;      // of the march's steps, over and below their mean
+// Of the march's steps, over and below their mean. Bores that are wide for their distance feel each
+// other at once, and there long first steps sway.
+constexpr double shortening = 0.5, distanceOfNone = 5, distanceOfAll = 20;  // in radii
 constexpr double fourierOfStep = 0.03;  // of the shortest step; below 0.02 the march sways
 constexpr std::size_t timesPerSlice = 16;
 constexpr std::size_t stepsPerSlice = 8;
@@ -30,13 +32,17 @@ std::vector<double> spacedTimes(double from, double to, std::size_t steps) {
 
 /// Times of the march, both ends included: steps of the logarithm that shorten evenly to a third.
 /// Its error comes late, when the bores share the ground; before, heat hardly moves between them.
-std::vector<double> marchTimes(double from, double to, std::size_t steps) {
+/// @param radii  from a bore to its nearest neighbour
+std::vector<double> marchTimes(double from, double to, std::size_t steps, double radii) {
+    const double shortened =
+        shortening *
+        std::clamp((radii - distanceOfNone) / (distanceOfAll - distanceOfNone), 0.0, 1.0);
     std::vector<double> times;
     times.reserve(steps + 1);
     for (std::size_t i = 0; i < steps; ++i) {
         const double share = static_cast<double>(i) / static_cast<double>(steps);
         times.push_back(from *
-                        std::exp(std::log(to / from) * share * (1 + shortening * (1 - share))));
+                        std::exp(std::log(to / from) * share * (1 + shortened * (1 - share))));
     }
     times.push_back(to);
     return times;
@@ -85,8 +91,11 @@ void GFunctionWork::setTimes() {
     double start = fourierOfStart / fourierPerHour;
     if (!(start > firstHour * nearlyFirst)) start = firstHour;
     steps_ = stepsOf(start, lastHour_, fourierPerHour * start, steps_);
+    const std::vector<double>& squares = field_.squares();
+    const double nearest =
+        squares.size() < 2 ? distanceOfAll : std::sqrt(squares[1]) / shape_.radius;
     const double evenUntil = steps_ == 0 ? lastHour_ : start;
-    if (steps_ != 0) times_ = marchTimes(start, lastHour_, steps_);
+    if (steps_ != 0) times_ = marchTimes(start, lastHour_, steps_, nearest);
     if (evenUntil > firstHour) {
         const double pieces = std::ceil(std::log(evenUntil / firstHour) / evenStep);
         evenTimes_ = spacedTimes(firstHour, evenUntil, static_cast<std::size_t>(pieces));

@@ -12,12 +12,17 @@
 namespace varnholt {
 namespace {
 
+std::string without(const std::string& words, const char* around) {
+    const std::size_t first = words.find_first_not_of(around);
+    if (first == std::string::npos) return {};
+    return words.substr(first, words.find_last_not_of(around) - first + 1);
+}
+
 /// The unit as it is read out: over a column it stands in parentheses, as in "( kWh )".
 std::string unitWords(const std::string& caption) {
-    constexpr const char* around = " ():";
-    const std::size_t first = caption.find_first_not_of(around);
-    if (first == std::string::npos) return {};
-    return caption.substr(first, caption.find_last_not_of(around) - first + 1);
+    const std::string words = without(caption, " :");
+    const bool inParentheses = words.starts_with('(') && words.ends_with(')');
+    return inParentheses ? without(words.substr(1, words.size() - 2), " ") : words;
 }
 
 }  // namespace
@@ -32,7 +37,7 @@ std::string Binder::spokenName(const Control& control) const {
     if (form_ == nullptr) return {};
     const auto called = called_.find(control.name());
     const std::string& label = called == called_.end() ? control.label() : called->second.label;
-    std::string words = control.accessibleName();
+    std::string words = control.spokenName();
     if (words.empty() && has(label)) words = captionWords(form_->control(label).caption());
     if (words.empty()) return {};
     if (has(control.unitLabel())) {

@@ -17,6 +17,9 @@ namespace {
 /// The page of the results carries the sign of older ones in its tab, wherever one works.
 void markResults(Binder& bind, QWidget* pages) {
     auto* tabs = qobject_cast<QTabWidget*>(pages);
+    // No higher than the words, so that no page moves when it comes.
+    const int sign = tabs->fontMetrics().ascent();
+    tabs->setIconSize({sign, sign});
     const QString words = qt(bind.text(Text::staleResults));
     const auto refresh = [tabs, words, &bind] {
         const auto* design = static_cast<const GroundDesign*>(bind.form());

@@ -28,15 +28,14 @@ QWidget* caption(Binder& bind, const char* name) {
 }
 
 QWidget* importCommands(Binder& bind) {
-    return bar(column(
-        buttons(bind.iconButton("cmdImport(2)", QStringLiteral("open")),
-                bind.iconButton("cmdImport(5)", QStringLiteral("table")),
-                bind.iconButton("cmdImport(3)", QStringLiteral("paste")),
-                bind.widget("cmdImport(0)")),
-        reflow(row_(bind.widget("cmdCoolHeat(0)"), bind.widget("cmdCoolHeat(1)"), gap(),
-                    bind.widget("MetricCheck")),
-               grow(buttons(row_(caption(bind, "lblTitle(4)"), bind.widget("lblTitle(9)")),
-                            row_(caption(bind, "lblTitle(8)"), bind.widget("lblTitle(10)")))))));
+    return bar(column(buttons(bind.iconButton("cmdImport(2)", QStringLiteral("open")),
+                              bind.iconButton("cmdImport(5)", QStringLiteral("table")),
+                              bind.iconButton("cmdImport(3)", QStringLiteral("paste")),
+                              bind.widget("cmdImport(0)")),
+                      buttons(bind.widget("cmdCoolHeat(0)"), bind.widget("cmdCoolHeat(1)"),
+                              bind.widget("MetricCheck"),
+                              row_(caption(bind, "lblTitle(4)"), bind.widget("lblTitle(9)")),
+                              row_(caption(bind, "lblTitle(8)"), bind.widget("lblTitle(10)")))));
 }
 
 QWidget* importedYearFields(Binder& bind) {

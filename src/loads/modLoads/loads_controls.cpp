@@ -67,7 +67,7 @@ void ZoneWindow::addZonePanel() {
     add("LODetailsCommand", ControlKind::button, Text::pumpDetails).in("LOZoneFrame");
     add("LOClearPumpsCommand", ControlKind::button, Text::clearPump)
         .in("LOZoneFrame")
-        .setAccessibleName(text(Text::clearPumpTold));
+        .setSpokenName(text(Text::clearPumpTold));
     add("LOCustomPumpCheck", ControlKind::check, Text::customPump).in("LOZoneFrame");
     addSelectFrame();
     addDetailsFrame();
@@ -112,7 +112,7 @@ void ZoneWindow::addDetailsFrame() {
     add("LONominalFlowUnitLabel", ControlKind::label).in(frame);
     add("LOReturnCommand", ControlKind::button, Text::returnToZone)
         .in(frame)
-        .setAccessibleName(text(Text::returnToZone) + ", " + text(Text::heatPumpDetails));
+        .setSpokenName(text(Text::returnToZone) + ", " + text(Text::heatPumpDetails));
 }
 
 void ZoneWindow::addHeatPumpTab() {
