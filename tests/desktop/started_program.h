@@ -38,6 +38,8 @@ class StartedProgram {
             environment.value(QStringLiteral("ASAN_OPTIONS")) +
                 QStringLiteral(":quarantine_size_mb=1:thread_local_quarantine_size_kb=64"));
         process_.setProcessEnvironment(environment);
+        // Whoever runs the tests in the background ignores this signal, and what they start too.
+        process_.setChildProcessModifier([] { ::signal(SIGINT, SIG_DFL); });
         process_.start(
             QString::fromStdString(program),
             QStringList{QStringLiteral("--script"), QStringLiteral("-"), QStringLiteral("--locale"),

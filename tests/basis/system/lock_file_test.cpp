@@ -51,6 +51,8 @@ class Locks : public testing::Test {
     int endElsewhere(const std::function<void()>& end) const {
         const pid_t child = ::fork();
         if (child == 0) {
+            // Tests that run in the background would ignore some of them.
+            for (const int signal : {SIGTERM, SIGHUP, SIGINT}) ::signal(signal, SIG_DFL);
             { const LockAttempt closed = lockFile(folder / "closed.vht"); }
             const LockAttempt first = lockFile(path);
             const LockAttempt second = lockFile(folder / "house.vht");
