@@ -38,6 +38,11 @@ frmWhatIf::frmWhatIf(frmBHDesign& design)
 void frmWhatIf::load() {
     setCaption(titleNow());
     showInUnits();
+    lookAgain();
+}
+
+void frmWhatIf::lookAgain() {
+    listAlternatives();
     fallBehind();
 }
 
@@ -56,7 +61,7 @@ void frmWhatIf::actionBegins() {
 
 void frmWhatIf::actionDone() {
     setCaption(titleNow());
-    fallBehind();
+    lookAgain();
 }
 
 std::string frmWhatIf::titleNow() const {
@@ -80,7 +85,7 @@ void frmWhatIf::showDocument() {
     endVisit();
     fields().forgetRefused();
     showInUnits();
-    fallBehind();
+    lookAgain();
     refreshNotice();
 }
 
@@ -119,6 +124,23 @@ std::vector<Alternative> frmWhatIf::otherDesigns() const {
                               loopOf(water->results())});
     }
     return others;
+}
+
+void frmWhatIf::listAlternatives() {
+    std::vector<std::string> names{nameOfDesign()};
+    for (const KeptAlternative& each : inputs().alternatives) names.push_back(each.name);
+    for (const ChildWindow* window : main().windows())
+        if (const auto* other = dynamic_cast<const GroundDesign*>(window);
+            other != nullptr && other != &design_)
+            names.push_back(shortNameOf(*other));
+    Control& list = control("WVList");
+    if (names != list.items()) {
+        const int chosen = list.index();
+        list.setItems(std::move(names));
+        if (chosen >= 0 && static_cast<std::size_t>(chosen) < list.items().size())
+            list.setIndex(chosen);
+    }
+    showAlternativeCommands();
 }
 
 WhatIfCase frmWhatIf::presentCase() const {

@@ -33,7 +33,7 @@ class frmWhatIf : public ChildWindow {
     UnitSystem units() const override;
     void actionBegins() override;
     void actionDone() override;
-    void windowsChanged() override { fallBehind(); }
+    void windowsChanged() override { lookAgain(); }
     std::string descriptionOf(const std::string& image) const override;
 
     /// The design has switched its units.
@@ -155,6 +155,9 @@ class frmWhatIf : public ChildWindow {
 
     // Alternatives (frmWhatIf_alternatives.cpp).
     void addAlternatives();
+    /// Names are there at once, figures when somebody reads them.
+    void lookAgain();
+    void listAlternatives();
     void showAlternatives();
     void showAlternativeCommands();
     std::optional<std::size_t> chosenKept() const;

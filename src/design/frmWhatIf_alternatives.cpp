@@ -78,7 +78,7 @@ void frmWhatIf::addAlternatives() {
         onClick(name, [this, handler] { (this->*handler)(); });
     };
     button("WVKeepCommand", Text::whatIfKeep, &frmWhatIf::WVKeepCommand_Click);
-    add("WVList", ControlKind::list).in(keepFrame).helpedBy(help).foundLate();
+    add("WVList", ControlKind::list).in(keepFrame).helpedBy(help);
     onClick("WVList", [this] { showAlternativeCommands(); });
     button("WVRestoreCommand", Text::whatIfPutBack, &frmWhatIf::WVRestoreCommand_Click);
     button("WVRemoveCommand", Text::whatIfRemove, &frmWhatIf::WVRemoveCommand_Click);
@@ -100,9 +100,7 @@ void frmWhatIf::addAlternatives() {
 void frmWhatIf::showAlternatives() {
     const std::vector<AlternativeFigures>& all = known().alternatives;
     std::string reasons;
-    std::vector<std::string> names;
     for (const AlternativeFigures& each : all) {
-        names.push_back(each.name);
         if (!each.reason.holds()) continue;
         reasons += (reasons.empty() ? "" : " ") + each.name + ": " + teller().reason(each.reason);
     }
@@ -124,13 +122,6 @@ void frmWhatIf::showAlternatives() {
                 elementName(changeOf(row.array), n),
                 value > 0 && first > 0 ? changeText(teller(), row, value - first) : std::string());
         }
-    }
-    Control& list = control("WVList");
-    if (names != list.items()) {
-        const int chosen = list.index();
-        list.setItems(std::move(names));
-        if (chosen >= 0 && static_cast<std::size_t>(chosen) < list.items().size())
-            list.setIndex(chosen);
     }
     showAlternativeCommands();
 }

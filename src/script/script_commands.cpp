@@ -324,6 +324,8 @@ ScriptCommands::Target ScriptCommands::workable(std::string& rest,
                                       varnholt::nameOf(control.kind())));
     requireReachable(target.form);
     if (&target.form != active()) driver_.activate(target.form);
+    // A person works what they see, and that is there by then.
+    if (control.isLate()) target.form.catchUp();
     if (!target.form.isShown(control))
         throw ScriptFault(fmt::format("{} is not visible", control.name()));
     if (!isEnabled(target.form, control))

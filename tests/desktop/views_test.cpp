@@ -291,13 +291,15 @@ void expectUnitsInNames(const Form& form, Binder& binder) {
 }
 
 /// Each picture that is drawn from the model is a picture, has a name, and says what it shows.
-int expectSentences(const Form& form, Binder& binder) {
+int expectSentences(Form& form, Binder& binder) {
     int pictures = 0;
     for (const auto& control : form.controls()) {
         if (control->kind() != ControlKind::image || !form.isShown(*control)) continue;
         auto* drawing = dynamic_cast<Drawing*>(binder.widget(control->name()));
         if (drawing == nullptr) continue;
         bringToFront(*drawing);
+        Desk::settle();
+        form.catchUp();
         drawing->refresh();
         QAccessibleInterface* told = QAccessible::queryAccessibleInterface(drawing);
         EXPECT_EQ(told->role(), QAccessible::Graphic) << control->name();

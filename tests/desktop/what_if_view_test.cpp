@@ -219,7 +219,7 @@ TEST_F(WhatIfView, LetsAlternativesShareTheWidthAndScrollWithinTheirTable) {
         EXPECT_EQ(page->horizontalScrollBar()->maximum(), 0);
         EXPECT_EQ(table->verticalScrollBar()->maximum(), 0);
         const int beyond = table->horizontalScrollBar()->maximum();
-        EXPECT_TRUE(count <= 6 ? beyond == 0 : count < 8 || beyond > 0) << beyond;
+        EXPECT_TRUE(count <= 5 ? beyond == 0 : count < 8 || beyond > 0) << beyond;
         for (int column = 1; column < count; ++column)
             EXPECT_NEAR(
                 widget(elementName("WVLengthLabel", static_cast<std::size_t>(column)))->width(),

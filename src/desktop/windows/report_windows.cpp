@@ -46,12 +46,21 @@ class PreviewFrame : public QMdiSubWindow {
         QMdiSubWindow::resizeEvent(event);
         notePlace();
     }
+    void showEvent(QShowEvent* event) override {
+        QMdiSubWindow::showEvent(event);
+        if (!isMaximized()) own_ = geometry();
+    }
+    /// It takes its new size before it is known to be maximised.
+    void changeEvent(QEvent* event) override {
+        QMdiSubWindow::changeEvent(event);
+        if (event->type() == QEvent::WindowStateChange && isVisible() && !isMinimized())
+            maximised_ = isMaximized();
+    }
 
  private:
     void notePlace() {
         if (!isVisible() || isMinimized()) return;
-        maximised_ = isMaximized();
-        if (!maximised_) own_ = geometry();
+        if (!isMaximized()) own_ = geometry();
     }
 
     WindowPlaces* places_;
