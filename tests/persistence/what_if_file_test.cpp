@@ -149,12 +149,12 @@ TEST(WhatIfBlock, StandsBehindTheSecondOpinionOrAlone) {
 TEST(WhatIfBlock, StandsBehindWhateverIsLeftOfTheSecondOpinion) {
     BoreholeProject other;
     other.secondOpinion.buriedDepth = 9;
-    const std::string opinion = textOf(other).substr(without.size());
-    const std::string block = blockOf(unusual());
+    const std::string opinion = textOf(other).substr(withoutWhatIf.size());
+    const std::string block = whatIfBlock(unusualWhatIf());
     const std::size_t lastLine = opinion.rfind('\n', opinion.size() - 2) + 1;
     for (std::size_t length = 1; length <= lastLine; ++length) {
         const Read read = readWith(opinion.substr(0, length) + "\r\n" + block);
-        ASSERT_EQ(read.project.whatIf, unusual()) << length;
+        ASSERT_EQ(read.project.whatIf, unusualWhatIf()) << length;
         ASSERT_EQ(read.project.secondOpinion, SecondOpinionInputs{}) << length;
         ASSERT_EQ(read.unread, "Second Opinion") << length;
         ASSERT_FALSE(read.leftover) << length;
@@ -167,8 +167,8 @@ TEST(WhatIfBlock, StandsBehindWhateverIsLeftOfTheSecondOpinion) {
 }
 
 TEST(WhatIfBlock, IsReadBehindLinesThatBelongToNothingAndTellsThem) {
-    const Read read = readWith("stray\r\nlines\r\n" + blockOf(unusual()));
-    EXPECT_EQ(read.project.whatIf, unusual());
+    const Read read = readWith("stray\r\nlines\r\n" + whatIfBlock(unusualWhatIf()));
+    EXPECT_EQ(read.project.whatIf, unusualWhatIf());
     EXPECT_EQ(read.unread, "");
     EXPECT_TRUE(read.leftover);
     EXPECT_FALSE(read.whole);
