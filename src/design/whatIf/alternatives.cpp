@@ -2,6 +2,7 @@
 #include "design/whatIf/alternatives.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "design/borehole_project.h"
 #include "design/borehole_run.h"
@@ -99,6 +100,8 @@ AlternativeFigures loopAlternative(const Alternative& alternative, const Prices&
     result.energy = yearlyEnergy(loop.year, prices);
     result.life =
         lifeCost(result.first, yearlyCost(result.energy, loop.year.towerTons, prices), prices);
+    if (!std::isfinite(result.length) || !std::isfinite(result.first))
+        return withoutFigures(alternative, {Text::whatIfNotComputable, {}});
     return result;
 }
 

@@ -151,7 +151,7 @@ void WhatIfWork::takeBase(const CaseFigures& figures) {
     }
     if (figures.hasNeed()) {
         result_.needGoverning = figures.need();
-        result_.governing = figures.governing();
+        if (figures.need() > 0) result_.governing = figures.governing();
         result_.boreDepth = figures.need() / result_.bores;
         about_[static_cast<std::size_t>(measure_)] = result_.boreDepth;
     }
