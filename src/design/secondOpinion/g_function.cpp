@@ -12,7 +12,7 @@ constexpr double firstHour = 1;
 constexpr double nearlyFirst = 1.15;    // times the first hour: too near for a point of its own
 constexpr double fourierOfStart = 0.1;  // of the bores' walls, alpha t/rb^2
 constexpr double evenStep = 0.3;        // of ln t, before the march
-constexpr double shortening = 0.5;      // of the march's steps, over and below their mean
+constexpr double shortening = 0.25;     // of the march's steps, over and below their mean
 constexpr double fourierOfStep = 0.03;  // of the shortest step; below 0.02 the march sways
 constexpr std::size_t timesPerSlice = 16;
 constexpr std::size_t stepsPerSlice = 8;
@@ -28,8 +28,9 @@ std::vector<double> spacedTimes(double from, double to, std::size_t steps) {
     return times;
 }
 
-/// Times of the march, both ends included: steps of the logarithm that shorten evenly to a third.
-/// Its error comes late, when the bores share the ground; before, heat hardly moves between them.
+/// Times of the march, both ends included: steps of the logarithm that shorten evenly from five
+/// quarters of their mean to three. The error comes late, when the bores share the ground; before,
+/// heat hardly moves between them. Where they shorten more, g of wide and shallow bores falls.
 std::vector<double> marchTimes(double from, double to, std::size_t steps) {
     std::vector<double> times;
     times.reserve(steps + 1);

@@ -42,7 +42,7 @@ TEST(SecondOpinion, AgreesWithASecondRouteOnThatField) {
         theCase.window.typedDepth = feet(depth);
         const SecondOpinion opinion = opinionOn(theCase);
         for (std::size_t i = 0; i < expected.size(); ++i)
-            EXPECT_NEAR(opinion.gValue[i], expected[i], 0.0005 * expected[i]) << depth << " " << i;
+            EXPECT_NEAR(opinion.gValue[i], expected[i], 0.0008 * expected[i]) << depth << " " << i;
         EXPECT_NEAR(opinion.soDepth[heating] * metresPerFoot, 83.52, 0.02);
         EXPECT_EQ(opinion.soMonth[heating], 229);
     }
