@@ -2,6 +2,7 @@
 #include "design/whatIf/what_if_work.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "basis/run_time_error.h"
@@ -176,6 +177,8 @@ void WhatIfWork::planCost() {
         if (!(drawnLength_ > 0)) return true;
         const DesignCost cost =
             designCost(case_.design, zones_, result_.drawnDepth, case_.inputs.prices);
+        // A file may hold rows without end.
+        if (!std::isfinite(cost.firstCost)) return true;
         result_.costPart = cost.costPart;
         result_.firstCost = cost.firstCost;
         result_.yearlyEnergy = cost.yearlyEnergy;
