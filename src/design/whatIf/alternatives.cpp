@@ -25,6 +25,21 @@ EnergyYear yearOf(const Results& results) {
     return year;
 }
 
+/// The figures, or the reason why there are none where they are no numbers: a file may hold
+/// anything.
+AlternativeFigures numbersOr(const std::string& name, AlternativeKind kind,
+                             const AlternativeFigures& figures) {
+    for (const double each : {figures.length, figures.bores, figures.depth, figures.first})
+        if (!std::isfinite(each)) {
+            AlternativeFigures none;
+            none.name = name;
+            none.kind = kind;
+            none.reason = {Text::whatIfNotComputable, {}};
+            return none;
+        }
+    return figures;
+}
+
 }  // namespace
 
 bool operator==(const KeptAlternative& a, const KeptAlternative& b) {
@@ -85,7 +100,7 @@ AlternativeFigures boreAlternative(const std::string& name, const BoreholeInputs
     result.first = cost.firstCost;
     result.life = cost.lifeCost;
     result.energy = cost.yearlyEnergy;
-    return result;
+    return numbersOr(name, AlternativeKind::borehole, result);
 }
 
 AlternativeFigures loopAlternative(const Alternative& alternative, const Prices& prices) {
@@ -100,9 +115,7 @@ AlternativeFigures loopAlternative(const Alternative& alternative, const Prices&
     result.energy = yearlyEnergy(loop.year, prices);
     result.life =
         lifeCost(result.first, yearlyCost(result.energy, loop.year.towerTons, prices), prices);
-    if (!std::isfinite(result.length) || !std::isfinite(result.first))
-        return withoutFigures(alternative, {Text::whatIfNotComputable, {}});
-    return result;
+    return numbersOr(alternative.name, alternative.kind, result);
 }
 
 }  // namespace varnholt
