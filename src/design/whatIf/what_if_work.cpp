@@ -137,7 +137,8 @@ void WhatIfWork::planBase() {
 }
 
 void WhatIfWork::takeBase(const CaseFigures& figures) {
-    if (!figures.computed) {
+    const bool endless = figures.hasNeed() && !std::isfinite(figures.need() / result_.bores);
+    if (!figures.computed || endless) {
         result_.reason = method(measure_).reasonAgainst(measured(measure_));
         if (!result_.reason.holds()) result_.reason = {Text::whatIfNotComputable, {}};
     }
@@ -150,7 +151,7 @@ void WhatIfWork::takeBase(const CaseFigures& figures) {
         if (!result_.reasonOfMode[m].holds())
             result_.reasonOfMode[m] = method(measure_).reasonOf(measured(measure_), m);
     }
-    if (figures.hasNeed()) {
+    if (figures.hasNeed() && !result_.reason.holds()) {
         result_.needGoverning = figures.need();
         if (figures.need() > 0) result_.governing = figures.governing();
         result_.boreDepth = figures.need() / result_.bores;
