@@ -92,7 +92,7 @@ AlternativeFigures boreAlternative(const std::string& name, const BoreholeInputs
     result.bores = boresOf(design);
     if (!figures.hasNeed() || figures.need() <= 0) {
         result.reason = {Text::alternativeWithoutLength, {}};
-        return result;
+        return numbersOr(name, AlternativeKind::borehole, result);
     }
     result.length = figures.need();
     result.depth = result.length / result.bores;
