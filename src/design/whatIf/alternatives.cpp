@@ -2,6 +2,7 @@
 #include "design/whatIf/alternatives.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "design/borehole_project.h"
 #include "design/borehole_run.h"
@@ -22,6 +23,21 @@ EnergyYear yearOf(const Results& results) {
     year.heatPumpCOP = zones.heatPumpCOP();
     year.extraPower = results.inputs->loads.extraPower;
     return year;
+}
+
+/// The figures, or the reason why there are none where they are no numbers: a file may hold
+/// anything.
+AlternativeFigures numbersOr(const std::string& name, AlternativeKind kind,
+                             const AlternativeFigures& figures) {
+    for (const double each : {figures.length, figures.bores, figures.depth, figures.first})
+        if (!std::isfinite(each)) {
+            AlternativeFigures none;
+            none.name = name;
+            none.kind = kind;
+            none.reason = {Text::whatIfNotComputable, {}};
+            return none;
+        }
+    return figures;
 }
 
 }  // namespace
@@ -76,7 +92,7 @@ AlternativeFigures boreAlternative(const std::string& name, const BoreholeInputs
     result.bores = boresOf(design);
     if (!figures.hasNeed() || figures.need() <= 0) {
         result.reason = {Text::alternativeWithoutLength, {}};
-        return result;
+        return numbersOr(name, AlternativeKind::borehole, result);
     }
     result.length = figures.need();
     result.depth = result.length / result.bores;
@@ -84,7 +100,7 @@ AlternativeFigures boreAlternative(const std::string& name, const BoreholeInputs
     result.first = cost.firstCost;
     result.life = cost.lifeCost;
     result.energy = cost.yearlyEnergy;
-    return result;
+    return numbersOr(name, AlternativeKind::borehole, result);
 }
 
 AlternativeFigures loopAlternative(const Alternative& alternative, const Prices& prices) {
@@ -99,7 +115,7 @@ AlternativeFigures loopAlternative(const Alternative& alternative, const Prices&
     result.energy = yearlyEnergy(loop.year, prices);
     result.life =
         lifeCost(result.first, yearlyCost(result.energy, loop.year.towerTons, prices), prices);
-    return result;
+    return numbersOr(alternative.name, alternative.kind, result);
 }
 
 }  // namespace varnholt

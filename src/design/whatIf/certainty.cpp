@@ -75,7 +75,15 @@ double quantileOf(const std::vector<double>& sorted, double share) {
     return sorted[static_cast<std::size_t>(placeOf(share, sorted.size()))];
 }
 
-void CertaintySum::add(std::vector<CaseFigures> set) { sets_.push_back(std::move(set)); }
+/// What is no number could not be sorted: it is no length, and no temperature.
+void CertaintySum::add(std::vector<CaseFigures> set) {
+    for (CaseFigures& figures : set)
+        for (Mode m : modes) {
+            if (std::isnan(figures.length[m])) figures.length[m] = noLength;
+            if (!std::isfinite(figures.entering[m])) figures.entering[m] = 0;
+        }
+    sets_.push_back(std::move(set));
+}
 
 std::vector<double> CertaintySum::needs() const {
     std::vector<double> needs = gathered(sets_, [](const CaseFigures& c) { return c.need(); });

@@ -15,7 +15,7 @@ using namespace modCalculations;
 CostParts costParts(const PricedField& field, const Prices& prices) {
     const double above = std::min(field.depth, prices.costBand);
     const double below = field.depth - above;
-    const double trench = (field.bores - 1) * field.separation + prices.costRun;
+    const double trench = std::max(0.0, field.bores - 1) * field.separation + prices.costRun;
     return {field.bores * (prices.costFoot * above + prices.costDeep * below),
             field.bores * prices.costBore, prices.costFixed, prices.costTrench * trench,
             field.towerTons * prices.costTower};

@@ -38,6 +38,11 @@ double costOfField(const Prices& prices, double towerTons, const LatticeField& f
         costParts({static_cast<double>(field.bores), depth, field.separation, towerTons}, prices));
 }
 
+/// A field whose depth or cost is no number is none.
+bool isPriced(const LayoutField& field) {
+    return std::isfinite(field.depth) && std::isfinite(field.firstCost);
+}
+
 Figure count(double value) { return {FigureKind::count, value}; }
 Figure feet(double value) { return {FigureKind::feet, value}; }
 
@@ -198,6 +203,7 @@ void LayoutSearch::computeClassical() {
         const double need = needs_->need(fields[next_]);
         if (!(need < noLength)) continue;
         const LayoutField found = priced(fields[next_], need);
+        if (!isPriced(found)) continue;
         if (!isTooDeep(found)) {
             heap_.push_back(found);
             std::push_heap(heap_.begin(), heap_.end(), comesFirst);
@@ -229,6 +235,7 @@ void LayoutSearch::addEstimates() {
 bool LayoutSearch::take(const LatticeField& field, double need) {
     if (!(need < noLength)) return false;
     const LayoutField taken = priced(field, need);
+    if (!isPriced(taken)) return false;
     if (isTooDeep(taken)) {
         const bool shallower = !shallowest_ || taken.depth < shallowest_->depth;
         if (shallower) shallowest_ = taken;

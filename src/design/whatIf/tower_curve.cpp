@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/whatIf/tower_curve.h"
 
+#include <cmath>
+
 #include "basis/units.h"
 
 namespace varnholt {
@@ -59,6 +61,7 @@ void setTowerPercent(TowerCurve& curve, std::size_t percent, const BoreholeInput
     if (!figures.hasNeed() || figures.need() <= 0) return;
     const DesignCost cost =
         designCost(withTower(design, percent), zones, figures.need() / boresOf(design), prices);
+    if (!std::isfinite(cost.firstCost)) return;
     curve.length[percent] = figures.need();
     curve.first[percent] = cost.firstCost;
     curve.towerCost[percent] = cost.costPart[towerPart];

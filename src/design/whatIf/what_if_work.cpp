@@ -2,6 +2,7 @@
 #include "design/whatIf/what_if_work.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "basis/run_time_error.h"
@@ -136,7 +137,8 @@ void WhatIfWork::planBase() {
 }
 
 void WhatIfWork::takeBase(const CaseFigures& figures) {
-    if (!figures.computed) {
+    const bool endless = figures.hasNeed() && !std::isfinite(figures.need() / result_.bores);
+    if (!figures.computed || endless) {
         result_.reason = method(measure_).reasonAgainst(measured(measure_));
         if (!result_.reason.holds()) result_.reason = {Text::whatIfNotComputable, {}};
     }
@@ -149,9 +151,9 @@ void WhatIfWork::takeBase(const CaseFigures& figures) {
         if (!result_.reasonOfMode[m].holds())
             result_.reasonOfMode[m] = method(measure_).reasonOf(measured(measure_), m);
     }
-    if (figures.hasNeed()) {
+    if (figures.hasNeed() && !result_.reason.holds()) {
         result_.needGoverning = figures.need();
-        result_.governing = figures.governing();
+        if (figures.need() > 0) result_.governing = figures.governing();
         result_.boreDepth = figures.need() / result_.bores;
         about_[static_cast<std::size_t>(measure_)] = result_.boreDepth;
     }
@@ -176,6 +178,8 @@ void WhatIfWork::planCost() {
         if (!(drawnLength_ > 0)) return true;
         const DesignCost cost =
             designCost(case_.design, zones_, result_.drawnDepth, case_.inputs.prices);
+        // A file may hold rows without end.
+        if (!std::isfinite(cost.firstCost)) return true;
         result_.costPart = cost.costPart;
         result_.firstCost = cost.firstCost;
         result_.yearlyEnergy = cost.yearlyEnergy;
