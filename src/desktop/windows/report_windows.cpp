@@ -49,7 +49,7 @@ class PreviewFrame : public QMdiSubWindow {
 
  private:
     void notePlace() {
-        if (!isVisible() || isMinimized()) return;
+        if (isMinimized()) return;
         maximised_ = isMaximized();
         if (!maximised_) own_ = geometry();
     }
