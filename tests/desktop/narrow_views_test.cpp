@@ -48,6 +48,11 @@ std::string scrolledSideways(const QWidget& frame) {
     return scrolled;
 }
 
+/// The next project brings loads of its own.
+void closeLoads(Desk& desk) {
+    for (ChildWindow* loads : desk.main().windowsNamed("frmZoneManage")) desk.main().close(*loads);
+}
+
 class NarrowWindows : public testing::Test {
  protected:
     NarrowWindows() { desk.window->resize(1366, 740); }
@@ -124,6 +129,7 @@ TEST_F(NarrowWindows, OfPondsAndTrenchesNeedNone) {
         openProject(file);
         last(form).click("CACalculateCommand");
         expectFits(last(form));
+        closeLoads(desk);
     }
 }
 
@@ -180,6 +186,7 @@ TEST(LowScreens, ShowResultsAndPipesWithoutScrolling) {
             Desk::settle();
             EXPECT_EQ(hiddenBelow(*frame), 0) << page;
         }
+        closeLoads(desk);
     }
 }
 

@@ -58,7 +58,7 @@ QWidget* trenchFields(Binder& bind) {
 }
 
 QWidget* closeTogether(QWidget* column) {
-    column->layout()->setSpacing(gridStep / 4);
+    column->layout()->setSpacing(0);
     return column;
 }
 

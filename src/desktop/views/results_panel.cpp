@@ -39,7 +39,8 @@ QWidget* mainCommand(const Binder& bind, int caption, const char* command, const
 }
 
 /// Where a design's loads come from, with the commands for it, while it has none; then the length
-/// that the design is made for.
+/// that the design is made for. What is to be checked stands beside it, where it costs the page no
+/// height, and below it in a narrow window.
 QWidget* headline(Binder& bind) {
     QWidget* first =
         group(new GroupBox, hint(bind, Text::enterLoadsFirst, [] { return true; }),
@@ -47,7 +48,11 @@ QWidget* headline(Binder& bind) {
                       mainCommand(bind, Text::averageBlock, "mnuAvgBlock", "average-block")));
     first->setObjectName(QStringLiteral("firstLoads"));
     QWidget* lengths = lengthHeadline(bind);
-    QWidget* both = column(first, lengths);
+    QWidget* warnings = warningLines(bind, [&bind] { return warningsOf(bind); });
+    constexpr int leastLengths = 52 * gridStep, leastWarnings = 36 * gridStep;
+    lengths->setMinimumWidth(leastLengths);
+    warnings->setMinimumWidth(leastWarnings);
+    QWidget* both = column(first, reflow(grow(lengths, 3), grow(warnings, 2)));
     const auto refresh = [&bind, first, lengths] {
         first->setVisible(hasNoLoads(bind));
         lengths->setVisible(!hasNoLoads(bind));
@@ -94,8 +99,7 @@ QWidget* resultsPanel(Binder& bind, const std::vector<FieldRows>& parts) {
         if (rows.size() > 1) rows.push_back(bind.wide(rule()));
         rows.insert(rows.end(), part.begin(), part.end());
     }
-    return group(bind.frame("CACalculationFrame"), gridOf(rows),
-                 warningLines(bind, [&bind] { return warningsOf(bind); }));
+    return group(bind.frame("CACalculationFrame"), gridOf(rows));
 }
 
 }  // namespace

@@ -139,7 +139,7 @@ void addColumns(Binder& bind, ListView& list) {
     list.setColumns(
         {headsOf(bind),
          [columns](int row, int column, int role) { return columns->data(row, column, role); },
-         {{0, 0}, {8, 5}, {5, 1}, {7, 1}}});
+         {{0, 0}, {12, 5}, {6, 1}, {8, 1}}});
     list.setItemDelegateForColumn(loadColumn, new LoadBars(&list));
     list.setCells({[&list](int row) {
                        QStringList cells;

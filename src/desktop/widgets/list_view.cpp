@@ -145,7 +145,9 @@ void ListView::fitColumns() {
 
 int ListView::leastWidthOf(int column) const {
     const int digits = model_->widths()[static_cast<std::size_t>(column)].least;
-    if (digits > 0) return digits * fontMetrics().horizontalAdvance(u'0');
+    if (digits > 0)
+        return std::max(digits * fontMetrics().horizontalAdvance(u'0'),
+                        header()->minimumSectionSize());
     // With a sign before the entry, which may come any time.
     const int sign = style()->pixelMetric(QStyle::PM_SmallIconSize);
     return std::max(longestEntry() + sign + 3 * gridStep / 2, header()->sectionSizeHint(column));

@@ -195,10 +195,11 @@ void StartPage::addSection(int head, const std::vector<QWidget*>& buttons) {
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(gridStep);
     grid->setVerticalSpacing(gridStep / 2);
-    for (int column = 0; column < columns_; ++column) grid->setColumnStretch(column, 1);
+    const int columns = std::max(columns_, 1);
+    for (int column = 0; column < columns; ++column) grid->setColumnStretch(column, 1);
     int place = 0;
     for (QWidget* button : buttons) {
-        grid->addWidget(button, place / columns_, place % columns_);
+        grid->addWidget(button, place / columns, place % columns);
         ++place;
     }
     fileLines_->addWidget(section);
@@ -227,10 +228,13 @@ std::vector<QWidget*> StartPage::recentButtons() {
 /// The files are those of the moment.
 void StartPage::fillFiles() {
     while (QLayoutItem* item = fileLines_->takeAt(0)) {
-        if (item->widget() != nullptr) item->widget()->deleteLater();
+        if (QWidget* old = item->widget()) {
+            old->hide();
+            old->deleteLater();
+        }
         delete item;
     }
-    addSection(Text::startPageRecent, recentButtons());
+    const std::vector<QWidget*> recent = recentButtons();
     const std::vector<ExampleFile> examples = files_.examples();
     const auto buttonsOf = [&](std::span<const KnownExample> known,
                                const std::function<void(const std::string&)>& open) {
@@ -245,9 +249,18 @@ void StartPage::fillFiles() {
                         [open, path = file.path] { open(path); }));
         return buttons;
     };
-    addSection(Text::startPageTemplates, buttonsOf(templates, files_.openAsTemplate));
-    addSection(Text::startPageExamples, buttonsOf(knownExamples, files_.open));
+    const std::vector<QWidget*> begun = buttonsOf(templates, files_.openAsTemplate);
+    const std::vector<QWidget*> shown = buttonsOf(knownExamples, files_.open);
+    widestFile_ = 0;
+    for (const auto* section : {&recent, &begun, &shown})
+        for (const QWidget* button : *section)
+            widestFile_ = std::max(widestFile_, button->sizeHint().width());
+    columns_ = columnsIn(viewport()->width());
+    addSection(Text::startPageRecent, recent);
+    addSection(Text::startPageTemplates, begun);
+    addSection(Text::startPageExamples, shown);
     fileCard_->setVisible(fileLines_->count() > 0);
+    across_->setDirection(columns_ > 0 ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
 void StartPage::showEvent(QShowEvent* event) {
@@ -255,16 +268,18 @@ void StartPage::showEvent(QShowEvent* event) {
     QScrollArea::showEvent(event);
 }
 
+/// Columns of files that find room beside the commands; 0 where there is none, and the files stand
+/// below them.
+int StartPage::columnsIn(int width) const {
+    constexpr int edges = 10 * gridStep, mostColumns = 2;
+    const int room = width - card_->parentWidget()->sizeHint().width() - edges;
+    const int column = std::max(1, widestFile_ + gridStep);
+    return std::clamp(room / column, 0, mostColumns);
+}
+
 void StartPage::resizeEvent(QResizeEvent* event) {
-    constexpr int besideEachOther = 110 * gridStep;
-    across_->setDirection(event->size().width() < besideEachOther ? QBoxLayout::TopToBottom
-                                                                  : QBoxLayout::LeftToRight);
     QScrollArea::resizeEvent(event);
-    constexpr int roomForTwo = 150 * gridStep;
-    const int columns = event->size().width() < roomForTwo ? 1 : 2;
-    if (columns == columns_) return;
-    columns_ = columns;
-    if (isVisible()) fillFiles();
+    if (isVisible() && columnsIn(event->size().width()) != columns_) fillFiles();
 }
 
 QWidget* StartPage::line(const Varnmain& main, const std::string& entry, const char* icon,

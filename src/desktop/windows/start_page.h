@@ -44,6 +44,7 @@ class StartPage : public QScrollArea {
     QWidget* fileButton(QPushButton* button, const std::function<void()>& open);
     std::vector<QWidget*> recentButtons();
     void fillFiles();
+    int columnsIn(int width) const;
 
     const Varnmain& main_;
     std::function<void(const std::string&)> run_;
@@ -53,7 +54,8 @@ class StartPage : public QScrollArea {
     QVBoxLayout* fileLines_;
     QVBoxLayout* card_;
     QWidget* picture_ = nullptr;
-    int columns_ = 1;
+    int columns_ = 0;
+    int widestFile_ = 0;  ///< of the buttons, in pixels
 };
 
 }  // namespace varnholt
