@@ -19,7 +19,8 @@
 namespace varnholt {
 namespace {
 
-constexpr int summaryWidth = 490;
+/// Of the table of the summary: its lines with the zones' labels, and seven zones of them.
+constexpr int summaryWidth = 545, summaryHeight = 290;
 
 /// Lines come in pairs, a zone's cooling and its heating: told by the colours of the modes.
 class ModeLines : public QStyledItemDelegate {
@@ -124,7 +125,7 @@ QWidget* summaryFields(Binder& bind) {
             return window == nullptr ? LoadsChart() : window->buildingDayChart();
         },
         [&bind] { return loadsCaptions(bind); }, bind.form()->texts());
-    bind.widget("LOZoneSummaryList")->setMinimumWidth(summaryWidth);
+    bind.widget("LOZoneSummaryList")->setMinimumSize(summaryWidth, summaryHeight);
     colourModes(bind, bind.fixedPitch("LOZoneSummaryList"));
     openZones(bind);
     giveTable(bind);
@@ -142,7 +143,7 @@ QWidget* summary(Binder& bind) {
 /// The summary above the zone, where it is seen as soon as it opens. In a narrow window its table
 /// needs the place of the list, which then stands above it.
 QWidget* zonesPage(Binder& bind) {
-    constexpr double listPart = 0.2;
+    constexpr double listPart = 0.215;
     auto* zone = new ScrollPage(
         column(firstZone(bind, Text::noZonesYet), grow(summary(bind)), zonePanel(bind)));
     return column(grow(besidePage(zoneList(bind), zone, listPart)));
