@@ -110,7 +110,7 @@ function(varnholt_floor FOLDER)
     target_link_libraries(varnholt_${name} ${scope} ${ARGN})
 endfunction()
 
-# A library that the desktop loads when it is first needed, varnholt_NAME in lib/varnholt, from the
+# A library that the desktop loads when it is first needed, varnholt_NAME in lib/varnholt/modules, from the
 # sources of src/desktop/NAME. It sees the headers that the room SEEN sees and links the other
 # arguments alone.
 function(varnholt_module NAME SEEN)
@@ -123,7 +123,7 @@ function(varnholt_module NAME SEEN)
     target_link_libraries(varnholt_${NAME} PRIVATE ${ARGN})
     set_target_properties(varnholt_${NAME} PROPERTIES
         PREFIX ""
-        LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/varnholt"
+        LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/varnholt/modules"
         CXX_VISIBILITY_PRESET hidden)
     if(NOT TARGET varnholt_modules)
         add_custom_target(varnholt_modules)

@@ -11,10 +11,12 @@ if(VARNHOLT_DESKTOP)
 endif()
 install(TARGETS ${programs} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 if(VARNHOLT_DESKTOP)
-    # Where the program looks for it, whatever the system's folder of libraries is called.
-    install(TARGETS varnholt_charts varnholt_printing varnholt_help LIBRARY DESTINATION lib/varnholt)
+    # Where the program looks for it, whatever the system's folder of libraries is called, and as deep
+    # as no library lies that others link.
+    set(modules lib/varnholt/modules)
+    install(TARGETS varnholt_charts varnholt_printing varnholt_help LIBRARY DESTINATION ${modules})
     if(TARGET varnholt_web)
-        install(TARGETS varnholt_web LIBRARY DESTINATION lib/varnholt COMPONENT web)
+        install(TARGETS varnholt_web LIBRARY DESTINATION ${modules} COMPONENT web)
         install(FILES packaging/copyright
                 DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/varnholt-web COMPONENT web)
     endif()
@@ -70,10 +72,11 @@ set(CPACK_PACKAGE_VENDOR Varnholt)
 set(CPACK_PACKAGE_CONTACT "The Varnholt developers <developers@varnholt.example>")
 set(CPACK_PACKAGE_HOMEPAGE_URL https://varnholt.example)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
-set(CPACK_PACKAGE_DESCRIPTION
-    "Varnholt computes how much pipe the ground heat exchanger of a heat pump system needs.
-The designer enters the loads of a building, picks heat pumps from a catalogue, describes ground,
-pipe and field, and reads the lengths for cooling and for heating.")
+set(CPACK_DEBIAN_PROGRAM_DESCRIPTION
+    "Varnholt computes how much pipe the ground heat exchanger of a heat pump
+system needs. The designer enters the loads of a building, picks heat pumps
+from a catalogue, describes ground, pipe and field, and reads the lengths for
+cooling and for heating.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
@@ -92,8 +95,8 @@ if(TARGET varnholt_web)
     set(CPACK_DEBIAN_WEB_PACKAGE_NAME varnholt-web)
     set(CPACK_DEBIAN_WEB_PACKAGE_DEPENDS "varnholt (= ${PROJECT_VERSION})")
     set(CPACK_DEBIAN_WEB_DESCRIPTION
-        "${PROJECT_DESCRIPTION} - pages of the web
-With this package the browser window of Varnholt shows pages of the web, and sorts the tables of its
-reference pages. Without it web addresses are handed to the system's browser.")
+        "With this package the browser window of Varnholt shows pages of the web, and
+sorts the tables of its reference pages. Without it web addresses are handed
+to the system's browser.")
 endif()
 include(CPack)

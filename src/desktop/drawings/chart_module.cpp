@@ -8,7 +8,7 @@ namespace varnholt {
 
 ChartModule* findChartModule() {
     const QString program = QCoreApplication::applicationDirPath();
-    for (const char* folder : {"/", "/../lib/varnholt/"}) {
+    for (const char* folder : {"/", "/../lib/varnholt/modules/"}) {
         QPluginLoader loader(program + QLatin1String(folder) + QLatin1String("varnholt_charts"));
         if (auto* module = qobject_cast<ChartModule*>(loader.instance())) return module;
     }

@@ -34,7 +34,7 @@ class ChartModule {
 /// Finds the module; null where it is missing.
 using ChartModuleFinder = std::function<ChartModule*()>;
 
-/// The module that lies beside the program or in ../lib/varnholt.
+/// The module that lies beside the program or in ../lib/varnholt/modules.
 ChartModule* findChartModule();
 
 }  // namespace varnholt

@@ -8,7 +8,7 @@ namespace varnholt {
 
 PrintModule* findPrintModule() {
     const QString program = QCoreApplication::applicationDirPath();
-    for (const char* folder : {"/", "/../lib/varnholt/"}) {
+    for (const char* folder : {"/", "/../lib/varnholt/modules/"}) {
         QPluginLoader loader(program + QLatin1String(folder) + QLatin1String("varnholt_printing"));
         if (auto* module = qobject_cast<PrintModule*>(loader.instance())) return module;
     }

@@ -34,7 +34,7 @@ class PrintModule {
     virtual bool setUp(QWidget* parent, QPageLayout& paper) = 0;
 };
 
-/// The module that lies beside the program or in ../lib/varnholt; null where it is missing.
+/// The module that lies beside the program or in ../lib/varnholt/modules; null where it is missing.
 PrintModule* findPrintModule();
 
 }  // namespace varnholt

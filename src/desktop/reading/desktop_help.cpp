@@ -23,7 +23,7 @@ HelpModule* findHelpModule() {
 /// The library of a part of the program, as a component of the help.
 HelpComponent componentOf(const char* name) {
     const QString program = QCoreApplication::applicationDirPath();
-    for (const char* folder : {"/", "/../lib/varnholt/"}) {
+    for (const char* folder : {"/", "/../lib/varnholt/modules/"}) {
         const QString file =
             program + QLatin1String(folder) + QLatin1String(name) + QStringLiteral(".so");
         if (QFileInfo(file).isFile())

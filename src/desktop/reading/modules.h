@@ -11,7 +11,7 @@ namespace varnholt {
 template <class Module>
 Module* findModule(const char* name) {
     const QString program = QCoreApplication::applicationDirPath();
-    for (const char* folder : {"/", "/../lib/varnholt/"}) {
+    for (const char* folder : {"/", "/../lib/varnholt/modules/"}) {
         QPluginLoader loader(program + QLatin1String(folder) + QLatin1String(name));
         if (auto* module = qobject_cast<Module*>(loader.instance())) return module;
     }

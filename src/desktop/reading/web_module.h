@@ -17,8 +17,8 @@ class WebModule {
     virtual std::unique_ptr<PageEngine> newEngine(PageEvents& events, const PagePlaces& places) = 0;
 };
 
-/// The module that lies beside the program or in ../lib/varnholt; null where it is missing. It is
-/// loaded by the first call.
+/// The module that lies beside the program or in ../lib/varnholt/modules; null where it is missing.
+/// It is loaded by the first call.
 WebModule* findWebModule();
 
 }  // namespace varnholt
