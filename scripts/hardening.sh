@@ -3,16 +3,19 @@
 # What the built programs are hardened with, read from the programs themselves. Sourced by check,
 # with the root of the tree as the working directory.
 
+# What is read to its end: a reader that leaves early would end the teller, and that counts as failed.
+has_line() { grep "$@" >/dev/null; }
+
 # holds_words FILE WORDS OPTIONS...: readelf with these options tells the words of the file.
 holds_words() {
     local file=$1 words=$2
     shift 2
-    readelf -W "$@" "$file" 2>/dev/null | grep -qE -- "$words"
+    readelf -W "$@" "$file" 2>/dev/null | has_line -E -- "$words"
 }
 
 # always_with BUILD OPTION: every source of the programs in this build is compiled with the option.
 always_with() {
-    ! grep '"command".* -c .*/src/' "$1/compile_commands.json" | grep -qvF -- "$2"
+    ! grep '"command".* -c .*/src/' "$1/compile_commands.json" | has_line -vF -- "$2"
 }
 
 # protects_jumps FILE: the functions of the file begin with the mark that jumps have to land on.
