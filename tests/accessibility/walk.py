@@ -286,8 +286,13 @@ def running(path, example):
             if program.poll() is not None:
                 sys.exit(f"the program ended with {program.returncode}")
         finally:
-            program.kill()
-            program.wait()
+            # Asked to end, it takes its mark from beside the example.
+            program.terminate()
+            try:
+                program.wait(20)
+            except subprocess.TimeoutExpired:
+                program.kill()
+                program.wait()
 
 
 def main():
