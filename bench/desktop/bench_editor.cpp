@@ -27,16 +27,7 @@ void keystrokeInRatingTableToPaintedPicture(benchmark::State& state) {
     QWindow* window = desk.window->windowHandle();
     Painted painted(*binder.widget("CoolingRatingChart"));
     Desk::settle();
-    int digit = 0;
-    for (auto _ : state) {
-        QTest::keyClick(window, static_cast<char>('8' + digit));
-        painted.wait();
-        state.PauseTiming();
-        digit = 1 - digit;
-        field.selectAll();
-        Desk::settle();
-        state.ResumeTiming();
-    }
+    typeToPainted(state, window, field, painted, Desk::settle);
     if (editor.control("CoolingFR1CapacityText(0)").text().size() != 1)
         state.SkipWithError("the keys did not arrive");
 }

@@ -52,17 +52,8 @@ void typeBeside(benchmark::State& state, LateWindow& windows) {
     QWindow* window = windows.program.desk.window->windowHandle();
     Painted painted(field);
     Desk::settle();
-    int digit = 0;
-    for (auto _ : state) {
-        QTest::keyClick(window, static_cast<char>('8' + digit));
-        painted.wait();
-        state.PauseTiming();
-        digit = 1 - digit;
-        field.selectAll();
-        // Past the rest that the repaint is left, so that the figures are being found.
-        QTest::qWait(25);
-        state.ResumeTiming();
-    }
+    // Past the rest that the repaint is left, so that the figures are being found.
+    typeToPainted(state, window, field, painted, [] { QTest::qWait(25); });
     if (windows.design().control("FLInletTempText(0)").text().size() != 1)
         state.SkipWithError("the keys did not arrive");
     if (!windows.program.desk.faults.empty()) state.SkipWithError("the window has failed");

@@ -44,16 +44,7 @@ void keystrokeToPaintedWindows(benchmark::State& state) {
     QWindow* window = program.desk.window->windowHandle();
     Painted painted(field);
     Desk::settle();
-    int digit = 0;
-    for (auto _ : state) {
-        QTest::keyClick(window, static_cast<char>('8' + digit));
-        painted.wait();
-        state.PauseTiming();
-        digit = 1 - digit;
-        field.selectAll();
-        Desk::settle();
-        state.ResumeTiming();
-    }
+    typeToPainted(state, window, field, painted, Desk::settle);
     if (design.control("FLInletTempText(0)").text().size() != 1)
         state.SkipWithError("the keys did not arrive");
 }

@@ -34,7 +34,7 @@ class ZoneDesk {
             QStringLiteral("zoneFilter"));
     }
     void sortByLoad() { list().sortByColumn(loadColumn, Qt::DescendingOrder); }
-    void press(char key) { QTest::keyClick(program.desk.window->windowHandle(), key); }
+    QWindow* keys() { return program.desk.window->windowHandle(); }
 
     LinkedProject program;
 };
@@ -57,16 +57,7 @@ void keystrokeInALoadField(benchmark::State& state) {
     field.selectAll();
     Painted painted(*zones.list().viewport());
     Desk::settle();
-    int digit = 0;
-    for (auto _ : state) {
-        zones.press(static_cast<char>('5' + digit));
-        painted.wait();
-        state.PauseTiming();
-        digit = 1 - digit;
-        field.selectAll();
-        Desk::settle();
-        state.ResumeTiming();
-    }
+    typeToPainted(state, zones.keys(), field, painted, Desk::settle);
     if (field.text().size() != 1) state.SkipWithError("the keys did not arrive");
 }
 BENCHMARK(keystrokeInALoadField)

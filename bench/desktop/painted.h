@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <benchmark/benchmark.h>
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
+#include <QLineEdit>
+#include <QTest>
+#include <QWindow>
+#include <functional>
 #include <stdexcept>
 
 namespace varnholt {
@@ -34,5 +40,25 @@ class Painted : public QObject {
  private:
     int paints_ = 0;
 };
+
+/// Measures keys: a figure typed over the text of a field, to the painted pixel.
+///
+/// @param window   that the keys are given to
+/// @param field    has the focus, its text selected
+/// @param painted  waits for what a person watches
+/// @param between  what follows each key unmeasured, once the text is selected again
+inline void typeToPainted(benchmark::State& state, QWindow* window, QLineEdit& field,
+                          Painted& painted, const std::function<void()>& between) {
+    int digit = 0;
+    for (auto _ : state) {
+        QTest::keyClick(window, static_cast<char>('8' + digit));
+        painted.wait();
+        state.PauseTiming();
+        digit = 1 - digit;
+        field.selectAll();
+        between();
+        state.ResumeTiming();
+    }
+}
 
 }  // namespace varnholt
