@@ -4,9 +4,11 @@
 #include <signal.h>
 
 #include <QProcess>
+#include <chrono>
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <thread>
 
 #include "scripts/script_run.h"
 
@@ -71,6 +73,19 @@ class StartedProgram {
             if (told.starts_with("Varnmain.mnuHelp = "))
                 return replaced(transcript, folder().string(), "PROGRAM");
             transcript += told;
+        }
+    }
+
+    /// Gives the program these lines again and again until what they write tells this, for at most
+    /// ten seconds: what a page does by itself comes when the page does it; the last transcript.
+    std::string runUntil(const std::string& lines, const std::string& told) {
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+        for (;;) {
+            std::string transcript = run(lines);
+            if (transcript.find(told) != std::string::npos ||
+                std::chrono::steady_clock::now() > end)
+                return transcript;
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
         }
     }
 

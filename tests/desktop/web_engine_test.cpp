@@ -56,6 +56,7 @@ class UnknownServer : public QThread {
 
 class WebEngine : public testing::Test {
  protected:
+    const std::string notice = "print frmBrowser.NoticeLabel";
     static QStringList engine(const char* name) {
         return {QStringLiteral("--browser"), QString::fromLatin1(name)};
     }
@@ -69,6 +70,12 @@ class WebEngine : public testing::Test {
         return "<title>From</title><a href=\"" + link +
                "\">link</a><script>onload = () => setTimeout(() => document.links[0].click(), 0)"
                "</script>";
+    }
+    /// Expects that these lines tell this, as soon as the page has done what it does by itself.
+    static void expectTold(StartedProgram& program, const std::string& lines,
+                           const std::string& told) {
+        const std::string transcript = program.runUntil(lines, told);
+        EXPECT_NE(transcript.find(told), std::string::npos) << transcript;
     }
     static std::string go(const std::string& address) {
         return "type frmBrowser.cboAddress " + address + "\nkey frmBrowser.cboAddress Enter\n";
@@ -157,8 +164,7 @@ TEST_F(WebEngine, FollowsALinkFromPageToPageOfThisComputer) {
     write(program, "to.html", "<title>To</title>");
     write(program, "from.html", pageThatClicks("to.html"));
     program.run("click Varnmain.FluidProperties\n" + go(program.folder().string() + "/from.html"));
-    program.run("forms");
-    EXPECT_NE(program.run("forms").find("frmBrowser#1 \"To\""), std::string::npos);
+    expectTold(program, "forms", "frmBrowser#1 \"To\"");
     EXPECT_EQ(program.run("print frmBrowser.cboAddress"),
               "frmBrowser#1.cboAddress = \"PROGRAM/to.html\"\n");
     EXPECT_EQ(program.end(), 0);
@@ -171,12 +177,10 @@ TEST_F(WebEngine, OpensAnExampleFromAPageOfTheHelpAlone) {
     for (const char* page : {"try.html", "OnlineHelp/try.html"})
         write(program, page, pageThatClicks("example:house.zon"));
     program.run("click Varnmain.FluidProperties\n" + go(program.folder().string() + "/try.html"));
+    expectTold(program, notice, "neither a page");
     EXPECT_EQ(program.run("forms").find("frmZoneManage"), std::string::npos);
-    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("neither a page"),
-              std::string::npos);
     program.run(go(program.folder().string() + "/OnlineHelp/try.html"));
-    program.run("forms");
-    EXPECT_NE(program.run("forms").find("frmZoneManage#1"), std::string::npos);
+    expectTold(program, "forms", "frmZoneManage#1");
     EXPECT_EQ(program.end(), 0);
 }
 
@@ -226,10 +230,9 @@ TEST_F(WebEngine, RefusesWindowsDownloadsAndOtherSchemesWithALine) {
     write(program, "open.html", "<title>Open</title><script>window.open('about:blank')</script>");
     write(program, "file.zip", "PK");
     program.run("click Varnmain.FluidProperties\n" + go(program.folder().string() + "/open.html"));
-    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("another window"),
-              std::string::npos);
+    expectTold(program, notice, "another window");
     program.run(go(program.folder().string() + "/file.zip"));
-    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("save a file"), std::string::npos);
+    expectTold(program, notice, "save a file");
     for (const char* address : {"mailto:a@b", "ftp://127.0.0.1/x", "data:text/html,x"}) {
         program.run(go(address));
         EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("neither a page"),
@@ -239,8 +242,7 @@ TEST_F(WebEngine, RefusesWindowsDownloadsAndOtherSchemesWithALine) {
     // Nor does a page lead there by itself.
     write(program, "mail.html", "<title>Mail</title><script>location.href = 'mailto:a@b'</script>");
     program.run(go(program.folder().string() + "/mail.html"));
-    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("neither a page"),
-              std::string::npos);
+    expectTold(program, notice, "neither a page");
     EXPECT_EQ(program.run("forms").find("frmBrowser#2"), std::string::npos);
 }
 
@@ -265,7 +267,7 @@ TEST_F(WebEngine, RefusesAServerThatDoesNotProveWhoItIs) {
     StartedProgram program(programWithWindows, engine("web"));
     program.run("click Varnmain.FluidProperties\n" +
                 go("https://127.0.0.1:" + std::to_string(server.port()) + "/"));
-    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("cannot prove"), std::string::npos);
+    expectTold(program, notice, "cannot prove");
     EXPECT_EQ(program.run("forms").find("Working..."), std::string::npos);
     EXPECT_EQ(program.end(), 0);
 }
@@ -275,12 +277,12 @@ TEST_F(WebEngine, RefusesAPageOfAHundredMegabytes) {
     write(program, "long.html", "<title>Long</title>");
     std::filesystem::resize_file(program.folder() / "long.html", 100 << 20);
     program.run("click Varnmain.FluidProperties\n" + go(program.folder().string() + "/long.html"));
-    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("too large"), std::string::npos);
+    expectTold(program, notice, "too large");
     EXPECT_NE(program.run("forms").find("frmBrowser#1 \"Fluid properties\""), std::string::npos);
     // Nor by a link.
     write(program, "link.html", "<title>Link</title><script>location.href = 'long.html'</script>");
     program.run(go(program.folder().string() + "/link.html"));
-    EXPECT_NE(program.run("print frmBrowser.NoticeLabel").find("too large"), std::string::npos);
+    expectTold(program, notice, "too large");
     EXPECT_LT(program.megabytes(), 400);
     EXPECT_EQ(program.end(), 0);
 }
