@@ -20,7 +20,8 @@
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/quantity.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/feedback.h"
+#include "forms/text_numbers/screen_reader.h"
 #include "loads/modLoads/zone_window.h"
 
 namespace varnholt {
