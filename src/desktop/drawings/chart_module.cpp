@@ -5,8 +5,6 @@
 
 namespace varnholt {
 
-ChartModule* findChartModule() {
-    return findModule<ChartModule>("varnholt_charts");
-}
+ChartModule* findChartModule() { return findModule<ChartModule>("varnholt_charts"); }
 
 }  // namespace varnholt

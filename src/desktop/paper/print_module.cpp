@@ -5,8 +5,6 @@
 
 namespace varnholt {
 
-PrintModule* findPrintModule() {
-    return findModule<PrintModule>("varnholt_printing");
-}
+PrintModule* findPrintModule() { return findModule<PrintModule>("varnholt_printing"); }
 
 }  // namespace varnholt
