@@ -4,7 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include "desktop/desk.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/browser.h"
 #include "painted.h"
 
 namespace varnholt {

@@ -7,7 +7,8 @@
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
 #include "catalogue/makers.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/program.h"
 
 namespace varnholt {
 namespace {

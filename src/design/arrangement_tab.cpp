@@ -4,7 +4,7 @@
 #include <array>
 
 #include "design/ground_design.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 
 namespace varnholt {
 ArrangementTab::ArrangementTab(GroundDesign& design, ArrangementValues& arrangement)

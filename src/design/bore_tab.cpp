@@ -7,7 +7,7 @@
 #include "basis/run_time_error.h"
 #include "design/ground_design.h"
 #include "design/modCalculations/bore_resistance.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 
 namespace varnholt {
 namespace {

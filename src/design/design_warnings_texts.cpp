@@ -4,7 +4,9 @@
 #include "design/design_warnings.h"
 #include "design/ground_design.h"
 #include "forms/quantity.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/feedback.h"
+#include "forms/text_numbers/loads.h"
 #include "loads/loads_window.h"
 #include "loads/zone_warning_texts.h"
 

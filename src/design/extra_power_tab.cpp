@@ -5,7 +5,7 @@
 
 #include "basis/number_text.h"
 #include "design/ground_design.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 
 namespace varnholt {
 namespace {

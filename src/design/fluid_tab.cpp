@@ -6,7 +6,7 @@
 #include "basis/number_text.h"
 #include "basis/raised_flag.h"
 #include "design/ground_design.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 
 namespace varnholt {
 namespace {

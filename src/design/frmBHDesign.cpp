@@ -13,7 +13,8 @@
 #include "design/shared_values.h"
 #include "design/soil_tab.h"
 #include "forms/quantity.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/lengths.h"
 
 namespace varnholt {
 frmBHDesign::frmBHDesign(Varnmain& main, std::int16_t slot)

@@ -12,7 +12,7 @@
 #include "design/result_values.h"
 #include "design/results_tab.h"
 #include "design/second_opinion_texts.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 #include "frame/varnmain.h"
 #include "loads/import/frmImport1.h"
 

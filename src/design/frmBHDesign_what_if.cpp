@@ -4,7 +4,7 @@
 
 #include "design/frmBHDesign.h"
 #include "design/frmWhatIf.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

@@ -18,7 +18,9 @@
 #include "design/trench_rules.h"
 #include "design/trench_soil_tab.h"
 #include "design/trench_tab.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/horizontal.h"
+#include "forms/text_numbers/lengths.h"
 
 namespace varnholt {
 

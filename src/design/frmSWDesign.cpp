@@ -17,7 +17,9 @@
 #include "design/shared_values.h"
 #include "design/surface_water_rules.h"
 #include "design/water_tab.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/lengths.h"
+#include "forms/text_numbers/surface_water.h"
 
 namespace varnholt {
 namespace {

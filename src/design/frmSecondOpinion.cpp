@@ -11,7 +11,7 @@
 #include "design/frmBHDesign.h"
 #include "design/result_values.h"
 #include "design/second_opinion_texts.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/second_opinion.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

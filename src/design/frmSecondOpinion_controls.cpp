@@ -5,7 +5,8 @@
 #include "design/results_tab.h"
 #include "design/second_opinion_texts.h"
 #include "design/shared_texts.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/second_opinion.h"
 
 namespace varnholt {
 namespace {

@@ -6,7 +6,7 @@
 #include "design/frmBHDesign.h"
 #include "design/frmSecondOpinion.h"
 #include "design/second_opinion_texts.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/second_opinion.h"
 
 namespace varnholt {
 namespace {

@@ -7,7 +7,7 @@
 #include "design/frmBHDesign.h"
 #include "design/frmSecondOpinion.h"
 #include "design/month_lines.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/second_opinion.h"
 
 namespace varnholt {
 namespace {

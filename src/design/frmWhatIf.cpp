@@ -10,7 +10,7 @@
 #include "design/frmHZDesign.h"
 #include "design/frmSWDesign.h"
 #include "design/whatIf/what_if_values.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/what_if_window.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

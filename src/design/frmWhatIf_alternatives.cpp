@@ -6,7 +6,7 @@
 #include "basis/number_text.h"
 #include "design/frmBHDesign.h"
 #include "design/frmWhatIf.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/what_if_window.h"
 
 namespace varnholt {
 namespace {

@@ -4,7 +4,7 @@
 #include "design/frmBHDesign.h"
 #include "design/frmWhatIf.h"
 #include "design/shared_texts.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/what_if_window.h"
 
 namespace varnholt {
 namespace {

@@ -4,7 +4,8 @@
 #include "basis/number_text.h"
 #include "design/frmBHDesign.h"
 #include "design/frmWhatIf.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/second_opinion.h"
+#include "forms/text_numbers/what_if_window.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

@@ -6,7 +6,9 @@
 #include "design/frmBHDesign.h"
 #include "design/frmWhatIf.h"
 #include "design/whatIf/what_if_values.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/what_if_window.h"
 
 namespace varnholt {
 namespace {

@@ -5,7 +5,7 @@
 #include "design/frmWhatIf.h"
 #include "design/land_lines.h"
 #include "design/shared_texts.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/what_if_window.h"
 
 namespace varnholt {
 namespace {

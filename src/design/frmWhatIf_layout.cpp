@@ -6,7 +6,7 @@
 #include "design/land_lines.h"
 #include "design/shared_texts.h"
 #include "design/whatIf/what_if_values.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/what_if_window.h"
 
 namespace varnholt {
 namespace {

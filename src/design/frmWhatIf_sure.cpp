@@ -2,7 +2,7 @@
 // The page that tells how sure the length is.
 #include "design/frmWhatIf.h"
 #include "design/shared_texts.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/what_if_window.h"
 
 namespace varnholt {
 namespace {

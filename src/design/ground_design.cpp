@@ -5,7 +5,10 @@
 #include "basis/run_time_error.h"
 #include "design/design_tab.h"
 #include "design/shared_values.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/commands.h"
+#include "forms/text_numbers/files.h"
+#include "forms/text_numbers/loads.h"
 
 namespace varnholt {
 namespace {

@@ -3,7 +3,7 @@
 
 #include "design/ground_design.h"
 #include "design/results_tab.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 
 namespace varnholt {
 

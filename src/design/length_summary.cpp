@@ -4,7 +4,8 @@
 #include "basis/number_text.h"
 #include "design/ground_design.h"
 #include "design/results_tab.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/lengths.h"
 
 namespace varnholt {
 namespace {

@@ -9,7 +9,9 @@
 #include "design/ground_design.h"
 #include "design/shared_texts.h"
 #include "design/surface_water_rules.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/pictures.h"
+#include "forms/text_numbers/surface_water.h"
 
 namespace varnholt {
 namespace {

@@ -2,7 +2,8 @@
 #include "design/minimum_flow_tab.h"
 
 #include "design/ground_design.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/surface_water.h"
 
 namespace varnholt {
 

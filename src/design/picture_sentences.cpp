@@ -5,7 +5,9 @@
 
 #include "basis/number_text.h"
 #include "design/modCalculations/bore_grid.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/horizontal.h"
+#include "forms/text_numbers/lengths.h"
+#include "forms/text_numbers/pictures.h"
 
 namespace varnholt {
 namespace {

@@ -5,7 +5,7 @@
 #include "design/ground_design.h"
 #include "design/modCalculations/bore_resistance.h"
 #include "design/modCalculations/pipe_resistance.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 
 namespace varnholt {
 namespace {

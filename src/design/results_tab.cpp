@@ -7,7 +7,7 @@
 #include "basis/units.h"
 #include "design/ground_design.h"
 #include "design/modCalculations/extra_power.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 
 namespace varnholt {
 namespace {

@@ -8,7 +8,10 @@
 #include "design/shared_texts.h"
 #include "forms/numeric_field.h"
 #include "forms/quantity.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/calculators.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/second_opinion.h"
 
 namespace varnholt {
 namespace {

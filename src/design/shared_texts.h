@@ -5,7 +5,8 @@
 
 #include "basis/mode.h"
 #include "forms/numeric_field.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/loads.h"
 
 namespace varnholt {
 

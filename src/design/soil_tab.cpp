@@ -5,7 +5,8 @@
 
 #include "basis/run_time_error.h"
 #include "design/ground_design.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/surface_water.h"
 
 namespace varnholt {
 

@@ -10,7 +10,7 @@
 #include "design/project_design.h"
 #include "design/results_tab.h"
 #include "design/tower_panel.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 
 namespace varnholt {
 

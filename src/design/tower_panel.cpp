@@ -11,7 +11,7 @@
 #include "basis/run_time_error.h"
 #include "design/ground_design.h"
 #include "design/modCalculations/cooling_tower.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 
 namespace varnholt {
 

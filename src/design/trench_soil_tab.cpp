@@ -2,7 +2,7 @@
 #include "design/trench_soil_tab.h"
 
 #include "design/ground_design.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 
 namespace varnholt {
 

@@ -10,7 +10,8 @@
 #include "design/modCalculations/trench_limits.h"
 #include "design/shared_texts.h"
 #include "design/trench_rules.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/horizontal.h"
 
 namespace varnholt {
 namespace {

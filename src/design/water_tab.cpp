@@ -3,7 +3,8 @@
 
 #include "design/ground_design.h"
 #include "design/shared_texts.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/surface_water.h"
 
 namespace varnholt {
 namespace {

@@ -7,7 +7,11 @@
 #include "basis/number_text.h"
 #include "forms/numeric_field.h"
 #include "forms/quantity.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/second_opinion.h"
+#include "forms/text_numbers/surface_water.h"
+#include "forms/text_numbers/what_if.h"
+#include "forms/text_numbers/what_if_window.h"
 
 namespace varnholt {
 namespace {

@@ -9,7 +9,8 @@
 #include "design/shared_texts.h"
 #include "forms/numeric_field.h"
 #include "forms/quantity.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/what_if_window.h"
 
 namespace varnholt {
 namespace {

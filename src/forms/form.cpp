@@ -8,7 +8,9 @@
 
 #include "basis/number_text.h"
 #include "basis/run_time_error.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/commands.h"
+#include "forms/text_numbers/feedback.h"
+#include "forms/text_numbers/main.h"
 
 namespace varnholt {
 namespace {

@@ -3,7 +3,6 @@
 
 #include <utility>
 
-#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

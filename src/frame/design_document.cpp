@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "basis/file_system.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

@@ -3,7 +3,8 @@
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/commands.h"
+#include "forms/text_numbers/files.h"
 
 namespace varnholt {
 namespace {

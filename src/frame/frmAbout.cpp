@@ -4,7 +4,8 @@
 #include <string>
 
 #include "basis/file_system.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/files.h"
+#include "forms/text_numbers/main.h"
 #include "frame/program_version.h"
 
 namespace varnholt {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frame/frmSplash.h"
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/main.h"
 #include "frame/program_version.h"
 
 namespace varnholt {

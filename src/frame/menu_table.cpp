@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "frame/menu_table.h"
-
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/help.h"
+#include "forms/text_numbers/hints.h"
+#include "forms/text_numbers/main.h"
 
 namespace varnholt {
 namespace {

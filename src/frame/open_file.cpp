@@ -7,7 +7,7 @@
 #include "basis/system/fingerprint.h"
 #include "basis/system/kept_copy.h"
 #include "forms/patient_reading.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/files.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

@@ -2,7 +2,7 @@
 #include "loads/frmAvgBlock.h"
 
 #include "basis/raised_flag.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/loads.h"
 #include "frame/varnmain.h"
 #include "loads/representative_pump.h"
 

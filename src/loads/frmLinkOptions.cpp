@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "loads/frmLinkOptions.h"
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/commands.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

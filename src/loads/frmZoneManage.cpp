@@ -7,7 +7,8 @@
 #include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
 #include "catalogue/pump_selection.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/feedback.h"
+#include "forms/text_numbers/loads.h"
 #include "frame/varnmain.h"
 #include "loads/modLoads/progress.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "loads/link_light.h"
-
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/pictures.h"
+#include "forms/text_numbers/screen_reader.h"
 
 namespace varnholt {
 

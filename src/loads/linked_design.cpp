@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/loads.h"
 #include "frame/varnmain.h"
 #include "loads/link_light.h"
 #include "loads/links.h"

@@ -3,7 +3,8 @@
 
 #include <algorithm>
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/feedback.h"
+#include "forms/text_numbers/main.h"
 #include "frame/varnmain.h"
 #include "loads/frmLinkOptions.h"
 #include "loads/linked_design.h"

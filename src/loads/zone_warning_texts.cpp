@@ -3,7 +3,8 @@
 
 #include "basis/number_text.h"
 #include "forms/quantity.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/feedback.h"
+#include "forms/text_numbers/loads.h"
 #include "loads/loads_window.h"
 
 namespace varnholt {

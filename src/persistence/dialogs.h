@@ -6,7 +6,8 @@
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
 #include "forms/platform.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/commands.h"
+#include "forms/text_numbers/main.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

@@ -6,7 +6,9 @@
 
 #include "basis/file_system.h"
 #include "design/ground_design.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/commands.h"
+#include "forms/text_numbers/files.h"
+#include "forms/text_numbers/loads.h"
 #include "frame/varnmain.h"
 #include "loads/linked_design.h"
 #include "loads/links.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reports/frmPROptions.h"
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/reports.h"
 #include "reports/project_report_definition.h"
 
 namespace varnholt {

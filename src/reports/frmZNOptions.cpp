@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reports/frmZNOptions.h"
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/reports.h"
 #include "loads/modLoads/zone_window.h"
 #include "reports/zone_report_definitions.h"
 

@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The reports of a field of trenches.
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/horizontal.h"
+#include "forms/text_numbers/reports.h"
+#include "forms/text_numbers/surface_water.h"
 #include "reports/project_report_blocks.h"
 #include "reports/project_reports.h"
 #include "reports/trench_texts.h"

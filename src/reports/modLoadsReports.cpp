@@ -4,7 +4,8 @@
 #include <algorithm>
 
 #include "basis/run_time_error.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/reports.h"
 #include "reports/shared_bands.h"
 
 namespace varnholt {

@@ -2,7 +2,10 @@
 #include "reports/printing_facts.h"
 
 #include "basis/file_system.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/language.h"
+#include "forms/text_numbers/main.h"
+#include "forms/text_numbers/program.h"
+#include "forms/text_numbers/reports.h"
 #include "frame/program_version.h"
 #include "reports/shared_bands.h"
 

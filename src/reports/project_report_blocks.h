@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/calculators.h"
+#include "forms/text_numbers/reports.h"
+#include "forms/text_numbers/surface_water.h"
 #include "reports/computed_texts.h"
 #include "reports/project_report_definition.h"
 

@@ -6,7 +6,7 @@
 
 #include "design/results_tab.h"
 #include "forms/control.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 
 namespace varnholt {
 namespace {

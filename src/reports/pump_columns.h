@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <array>
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/heat_pump_editor.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/reports.h"
 #include "reports/report_definition.h"
 
 namespace varnholt {

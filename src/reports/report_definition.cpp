@@ -4,7 +4,7 @@
 #include <cctype>
 
 #include "basis/date.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/reports.h"
 
 namespace varnholt {
 namespace {

@@ -4,7 +4,8 @@
 #include "basis/number_text.h"
 #include "basis/units.h"
 #include "forms/quantity.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/reports.h"
 
 namespace varnholt {
 namespace {

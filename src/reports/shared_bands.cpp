@@ -5,7 +5,8 @@
 #include <string_view>
 
 #include "catalogue/makers.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/main.h"
+#include "forms/text_numbers/reports.h"
 
 namespace varnholt {
 namespace {

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The reports of pipe in surface water.
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/reports.h"
+#include "forms/text_numbers/surface_water.h"
 #include "reports/project_report_blocks.h"
 #include "reports/project_reports.h"
 

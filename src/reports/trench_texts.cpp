@@ -2,7 +2,9 @@
 #include "reports/trench_texts.h"
 
 #include "basis/number_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/horizontal.h"
+#include "forms/text_numbers/reports.h"
+#include "forms/text_numbers/surface_water.h"
 
 namespace varnholt {
 namespace {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
 #include "reports/report_definition.h"
 
 namespace varnholt {

@@ -3,7 +3,9 @@
 #include <iterator>
 #include <numeric>
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/heat_pump_editor.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/reports.h"
 #include "reports/pump_columns.h"
 #include "reports/unit_inlet.h"
 #include "reports/zone_report_bands.h"

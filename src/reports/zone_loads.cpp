@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The loads of every zone.
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/reports.h"
 #include "reports/pump_columns.h"
 #include "reports/zone_report_bands.h"
 

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every zone with all that is known of its loads and its pump.
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/heat_pump_editor.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/main.h"
+#include "forms/text_numbers/reports.h"
 #include "reports/unit_inlet.h"
 #include "reports/zone_report_bands.h"
 

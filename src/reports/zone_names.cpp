@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What every zone is called, and its heat pumps by name and number.
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/heat_pump_editor.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/reports.h"
 #include "reports/zone_report_bands.h"
 
 namespace varnholt {

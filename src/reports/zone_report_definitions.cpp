@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reports/zone_report_definitions.h"
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/reports.h"
 #include "reports/zone_report_bands.h"
 
 namespace varnholt {

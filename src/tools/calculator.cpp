@@ -4,7 +4,8 @@
 #include <utility>
 
 #include "basis/raised_flag.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/calculators.h"
+#include "forms/text_numbers/loads.h"
 
 namespace varnholt {
 

@@ -5,7 +5,8 @@
 #include <array>
 
 #include "basis/file_system.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/browser.h"
+#include "forms/text_numbers/help.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

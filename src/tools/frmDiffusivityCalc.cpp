@@ -2,7 +2,8 @@
 #include "tools/frmDiffusivityCalc.h"
 
 #include "basis/number_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/calculators.h"
 
 namespace varnholt {
 namespace {

@@ -7,7 +7,9 @@
 #include "basis/pasted_lines.h"
 #include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/calculators.h"
+#include "forms/text_numbers/loads.h"
 #include "tools/frmTransferOptions.h"
 
 namespace varnholt {

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/frmPumpPowerCalc.h"
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/calculators.h"
+#include "forms/text_numbers/main.h"
+#include "forms/text_numbers/surface_water.h"
 #include "tools/pump_power.h"
 
 namespace varnholt {

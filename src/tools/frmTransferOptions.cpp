@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/frmTransferOptions.h"
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/import.h"
+#include "forms/text_numbers/loads.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

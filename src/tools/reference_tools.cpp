@@ -5,7 +5,7 @@
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/language.h"
 #include "tools/frmBrowser.h"
 #include "tools/help_topics.h"
 

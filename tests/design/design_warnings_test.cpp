@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/text_numbers/loads.h"
 #include "horizontal_window.h"
 #include "linked_project.h"
 #include "surface_water_window.h"

@@ -4,7 +4,8 @@
 #include "design/length_summary.h"
 
 #include "borehole_window.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/lengths.h"
 #include "horizontal_window.h"
 #include "surface_water_window.h"
 

@@ -15,7 +15,7 @@
 #include "design/modCalculations/bore_resistance.h"
 #include "design/modCalculations/header_pipes.h"
 #include "design/surface_water_rules.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/surface_water.h"
 #include "tools/page_tables.h"
 #include "tools/text_table.h"
 

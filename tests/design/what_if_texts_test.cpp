@@ -6,7 +6,9 @@
 
 #include "design/what_if_pictures.h"
 #include "forms/fake_platform.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/what_if.h"
+#include "forms/text_numbers/what_if_window.h"
 
 namespace varnholt {
 namespace {

@@ -6,7 +6,8 @@
 
 #include "borehole_window.h"
 #include "design/frmWhatIf.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/what_if_window.h"
 #include "whatIf/office.h"
 
 namespace varnholt {

@@ -6,6 +6,7 @@
 
 #include "basis/number_text.h"
 #include "design/whatIf/what_if_values.h"
+#include "forms/text_numbers/what_if_window.h"
 #include "what_if_window.h"
 
 namespace varnholt {

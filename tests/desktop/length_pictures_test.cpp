@@ -12,7 +12,7 @@
 #include "desktop/drawings/length_strip.h"
 #include "desktop/widgets/qt_text.h"
 #include "drawing_samples.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/lengths.h"
 
 namespace varnholt {
 namespace {

@@ -23,7 +23,7 @@
 #include "desktop/binding/mnemonics.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/windows/desktop_platform.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/desktop.h"
 #include "frame/menu_table.h"
 
 namespace varnholt {

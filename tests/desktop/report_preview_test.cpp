@@ -21,7 +21,7 @@
 #include "desktop/windows/report_preview.h"
 #include "desktop/windows/report_windows.h"
 #include "desktop/windows/window_places.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/reports.h"
 
 namespace varnholt {
 namespace {

@@ -292,6 +292,28 @@ TEST_F(ZoneColumnsTest, CarryASignForWhatIsToBeChecked) {
     EXPECT_TRUE(list().model()->index(0, 0).data(Qt::DecorationRole).isNull());
 }
 
+TEST_F(ZoneColumnsTest, AreDrawnAnewWhenWhatTheyShowInSightChangesAndOnlyThen) {
+    ASSERT_TRUE(list().isVisible());
+    int changes = 0;
+    QObject::connect(list().model(), &QAbstractItemModel::dataChanged, &list(),
+                     [&changes] { ++changes; });
+    const auto changesBy = [&](const char* field, const char* value) {
+        changes = 0;
+        loads->type(field, value);
+        return changes;
+    };
+    EXPECT_EQ(changesBy("LODaysperWeekText", "5"), 0);       // no column tells the days
+    EXPECT_GT(changesBy("LOGainsText(0)", "72"), 0);  // the largest bar, by which all are measured
+    EXPECT_EQ(changesBy("LOGainsText(1)", "20"), 0);  // below the zone's largest
+    EXPECT_GT(changesBy("LOGainsText(7)", "9"), 0);
+    EXPECT_EQ(list().model()->index(2, 2).data().toString(), QStringLiteral("72.0 / 9.0"));
+    // Whatever decides the rows' order is asked of them all.
+    list().sortByColumn(2, Qt::DescendingOrder);
+    loads->select("LOZoneList", {0});
+    EXPECT_GT(changesBy("LOGainsText(0)", "90"), 0);
+    EXPECT_EQ(list().model()->index(0, 0).data().toString(), QStringLiteral("Zone 1"));
+}
+
 TEST_F(ZoneColumnsTest, AreOpenedFromTheSummary) {
     loads->click("LOSummaryCommand");
     Desk::settle();

@@ -15,7 +15,7 @@
 #include "desk.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/windows/window_order.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/desktop.h"
 
 namespace varnholt {
 namespace {

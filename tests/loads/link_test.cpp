@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/pictures.h"
+#include "forms/text_numbers/screen_reader.h"
 #include "loads/link_fixture.h"
 
 namespace varnholt {

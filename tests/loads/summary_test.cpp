@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/pictures.h"
+#include "forms/text_numbers/screen_reader.h"
 #include "loads/loads_fixture.h"
 #include "loads/modLoads/building_totals.h"
 #include "loads/modLoads/summary_lines.h"

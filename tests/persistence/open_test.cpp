@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/text_numbers/files.h"
 #include "persistence/project_fixture.h"
 
 namespace varnholt {

@@ -12,7 +12,11 @@
 
 #include "basis/file_system.h"
 #include "basis/text_encoding.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/desktop.h"
+#include "forms/text_numbers/language.h"
+#include "forms/text_numbers/main.h"
+#include "forms/text_numbers/reports.h"
 #include "tools/text_table.h"
 
 namespace varnholt {
@@ -21,7 +25,7 @@ namespace {
 namespace fs = std::filesystem;
 const fs::path sourceFolder = VARNHOLT_SOURCE_DIR "/src";
 const fs::path tableFolder = VARNHOLT_SOURCE_DIR "/resources/language/english";
-const std::string header = "forms/text_numbers.h";
+const std::string headers = "forms/text_numbers";
 
 /// The ranges of texts by subject; 100 to 199 are too small to be told from other numbers.
 constexpr std::pair<int, int> ranges[] = {{1000, 1399}, {1500, 1599},  {2000, 2999}, {3000, 3899},
@@ -55,14 +59,15 @@ std::string codeOf(const fs::path& file) {
     return std::regex_replace(readWholeFile(file), notCode, "");
 }
 
-/// The code of every source but the header of the names, by its path below the folder of sources.
+/// The code of every source but the headers of the names, by its path below the folder of sources.
 const std::map<std::string, std::string>& sources() {
     static const std::map<std::string, std::string> codes = [] {
         std::map<std::string, std::string> read;
         for (const auto& entry : fs::recursive_directory_iterator(sourceFolder)) {
             const fs::path& file = entry.path();
             const std::string path = fs::relative(file, sourceFolder);
-            if ((file.extension() == ".cpp" || file.extension() == ".h") && path != header)
+            if ((file.extension() == ".cpp" || file.extension() == ".h") &&
+                !path.starts_with(headers))
                 read.emplace(path, codeOf(file));
         }
         return read;
@@ -95,8 +100,23 @@ Names namesIn(const std::string& code) {
     return names;
 }
 
+/// The names of each header, by the header's name without its ending.
+const std::map<std::string, Names>& namesByHeader() {
+    static const std::map<std::string, Names> all = [] {
+        std::map<std::string, Names> read;
+        for (const auto& entry : fs::directory_iterator(sourceFolder / headers))
+            read.emplace(entry.path().stem(), namesIn(codeOf(entry.path())));
+        return read;
+    }();
+    return all;
+}
+
 const Names& names() {
-    static const Names all = namesIn(codeOf(sourceFolder / header));
+    static const Names all = [] {
+        Names joined;
+        for (const auto& [header, some] : namesByHeader()) joined.insert(some.begin(), some.end());
+        return joined;
+    }();
     return all;
 }
 
@@ -206,6 +226,17 @@ TEST(Texts, EveryNameHasAText) {
     const std::map<int, std::string> table = tableNumbers();
     for (const auto& [name, number] : names())
         EXPECT_EQ(table.count(number), 1u) << "Text::" << name << ", text " << number;
+}
+
+TEST(Texts, EveryNameStandsInTheHeaderOfItsTable) {
+    const std::map<int, std::string> table = tableNumbers();
+    for (const auto& [header, some] : namesByHeader())
+        for (const auto& [name, number] : some) {
+            const auto at = table.find(number);
+            ASSERT_NE(at, table.end()) << name;
+            // A table's name is the first of its numbers and its subject: "2800_loads.txt".
+            EXPECT_EQ(at->second.substr(at->second.find('_') + 1), header + ".txt") << name;
+        }
 }
 
 TEST(Texts, EveryNameIsUsed) {

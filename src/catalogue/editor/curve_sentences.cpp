@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "basis/number_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/heat_pump_editor.h"
 
 namespace varnholt {
 namespace {

@@ -4,7 +4,8 @@
 #include "basis/mode.h"
 #include "catalogue/fitting/pump_fit.h"
 #include "forms/numeric_field.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/heat_pump_editor.h"
+#include "forms/text_numbers/loads.h"
 
 namespace varnholt {
 

@@ -10,7 +10,10 @@
 #include "catalogue/catalogue_values.h"
 #include "catalogue/fitting/fit_quality.h"
 #include "catalogue/pump_selection.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/editor_messages.h"
+#include "forms/text_numbers/heat_pump_editor.h"
+#include "forms/text_numbers/loads.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

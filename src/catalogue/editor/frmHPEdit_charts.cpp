@@ -3,7 +3,8 @@
 #include "catalogue/editor/curve_sentences.h"
 #include "catalogue/editor/editor_names.h"
 #include "catalogue/editor/frmHPEdit.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/heat_pump_editor.h"
+#include "forms/text_numbers/loads.h"
 
 namespace varnholt {
 namespace {

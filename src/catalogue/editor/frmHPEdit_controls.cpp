@@ -2,7 +2,8 @@
 // The controls around the pages, in their reading order.
 #include "catalogue/editor/editor_names.h"
 #include "catalogue/editor/frmHPEdit.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/heat_pump_editor.h"
+#include "forms/text_numbers/loads.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

@@ -9,7 +9,9 @@
 #include "catalogue/editor/frmHPEdit.h"
 #include "catalogue/fitting/display_coefficients.h"
 #include "catalogue/fitting/fit_quality.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/editor_messages.h"
+#include "forms/text_numbers/heat_pump_editor.h"
+#include "forms/text_numbers/loads.h"
 
 namespace varnholt {
 namespace {

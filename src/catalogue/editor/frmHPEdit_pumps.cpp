@@ -9,7 +9,8 @@
 #include "basis/run_time_error.h"
 #include "catalogue/editor/editor_names.h"
 #include "catalogue/editor/frmHPEdit.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/editor_messages.h"
+#include "forms/text_numbers/heat_pump_editor.h"
 
 namespace varnholt {
 

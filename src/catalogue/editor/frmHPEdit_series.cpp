@@ -8,7 +8,11 @@
 #include "catalogue/editor/editor_names.h"
 #include "catalogue/editor/frmHPEdit.h"
 #include "catalogue/fitting/fit_quality.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/borehole.h"
+#include "forms/text_numbers/commands.h"
+#include "forms/text_numbers/editor_messages.h"
+#include "forms/text_numbers/feedback.h"
+#include "forms/text_numbers/heat_pump_editor.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

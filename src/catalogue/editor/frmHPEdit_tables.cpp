@@ -4,7 +4,7 @@
 
 #include "catalogue/editor/editor_names.h"
 #include "catalogue/editor/frmHPEdit.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/heat_pump_editor.h"
 
 namespace varnholt {
 namespace {

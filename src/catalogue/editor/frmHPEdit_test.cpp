@@ -6,7 +6,8 @@
 #include "basis/units.h"
 #include "catalogue/editor/editor_names.h"
 #include "forms/quantity.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/heat_pump_editor.h"
+#include "forms/text_numbers/loads.h"
 
 namespace varnholt {
 namespace {

@@ -7,7 +7,7 @@
 #include "design/borehole_project.h"
 #include "design/borehole_run.h"
 #include "design/modCalculations/trench_lengths.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/what_if.h"
 
 namespace varnholt {
 namespace {

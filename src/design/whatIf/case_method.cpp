@@ -2,7 +2,7 @@
 #include "design/whatIf/case_method.h"
 
 #include "basis/run_time_error.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/what_if.h"
 
 namespace varnholt {
 

@@ -10,7 +10,7 @@
 #include "design/secondOpinion/second_opinion.h"
 #include "design/whatIf/cost.h"
 #include "design/whatIf/land.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/what_if.h"
 
 namespace varnholt {
 namespace {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/whatIf/reason.h"
-
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/what_if.h"
 
 namespace varnholt {
 

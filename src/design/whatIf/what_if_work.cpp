@@ -9,7 +9,7 @@
 #include "design/borehole_project.h"
 #include "design/borehole_run.h"
 #include "design/whatIf/what_if_values.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/what_if.h"
 
 namespace varnholt {
 namespace {

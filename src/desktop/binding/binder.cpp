@@ -18,7 +18,7 @@
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/text_label.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/pictures.h"
 #include "forms/texts.h"
 
 namespace varnholt {

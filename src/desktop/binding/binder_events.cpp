@@ -10,7 +10,7 @@
 #include "desktop/binding/pasted_places.h"
 #include "desktop/binding/typing.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/feedback.h"
 
 namespace varnholt {
 namespace {

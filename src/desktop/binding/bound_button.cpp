@@ -8,7 +8,7 @@
 #include "desktop/binding/binder.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/desktop.h"
 
 namespace varnholt {
 namespace {

@@ -9,7 +9,7 @@
 #include "desktop/binding/bound_control.h"
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/screen_reader.h"
 
 namespace varnholt {
 namespace {

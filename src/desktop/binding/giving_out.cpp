@@ -15,7 +15,8 @@
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/feedback.h"
+#include "forms/text_numbers/main.h"
 
 namespace varnholt {
 namespace {

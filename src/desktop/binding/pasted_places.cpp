@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/binding/pasted_places.h"
-
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/feedback.h"
 
 namespace varnholt {
 namespace {

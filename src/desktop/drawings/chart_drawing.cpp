@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/desktop.h"
 
 namespace varnholt {
 

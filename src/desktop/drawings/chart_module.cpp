@@ -1,18 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/drawings/chart_module.h"
 
-#include <QCoreApplication>
-#include <QPluginLoader>
+#include "desktop/widgets/modules.h"
 
 namespace varnholt {
 
-ChartModule* findChartModule() {
-    const QString program = QCoreApplication::applicationDirPath();
-    for (const char* folder : {"/", "/../lib/varnholt/modules/"}) {
-        QPluginLoader loader(program + QLatin1String(folder) + QLatin1String("varnholt_charts"));
-        if (auto* module = qobject_cast<ChartModule*>(loader.instance())) return module;
-    }
-    return nullptr;
-}
+ChartModule* findChartModule() { return findModule<ChartModule>("varnholt_charts"); }
 
 }  // namespace varnholt

@@ -12,7 +12,7 @@
 
 #include "design/picture_sentences.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/pictures.h"
 
 namespace varnholt {
 namespace {

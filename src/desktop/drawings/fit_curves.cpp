@@ -6,7 +6,9 @@
 
 #include "catalogue/editor/curve_sentences.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/heat_pump_editor.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/pictures.h"
 
 namespace varnholt {
 namespace {

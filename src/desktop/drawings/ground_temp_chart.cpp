@@ -7,7 +7,7 @@
 #include "basis/units.h"
 #include "design/picture_sentences.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/pictures.h"
 
 namespace varnholt {
 namespace {

@@ -8,7 +8,7 @@
 #include "desktop/drawings/plot.h"
 #include "desktop/widgets/figure_text.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/lengths.h"
 
 namespace varnholt {
 namespace {

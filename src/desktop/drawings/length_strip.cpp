@@ -12,7 +12,6 @@
 #include "desktop/drawings/plot.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {

@@ -7,7 +7,7 @@
 #include "basis/number_text.h"
 #include "desktop/drawings/plot.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/pictures.h"
 
 namespace varnholt {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "basis/number_text.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/import.h"
 
 namespace varnholt {
 namespace {

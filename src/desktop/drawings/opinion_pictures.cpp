@@ -8,7 +8,8 @@
 #include <utility>
 
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/second_opinion.h"
 
 namespace varnholt {
 namespace {

@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/pictures.h"
 
 namespace varnholt {
 namespace {

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/pictures.h"
 #include "loads/modLoads/chart_sentences.h"
 
 namespace varnholt {

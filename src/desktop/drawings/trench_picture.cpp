@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/horizontal.h"
 
 namespace varnholt {
 namespace {

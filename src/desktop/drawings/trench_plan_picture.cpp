@@ -5,7 +5,6 @@
 
 #include "design/picture_sentences.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {

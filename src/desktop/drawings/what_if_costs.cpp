@@ -6,7 +6,7 @@
 
 #include "desktop/drawings/what_if_paintings.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/what_if_window.h"
 
 namespace varnholt {
 namespace {

@@ -19,7 +19,9 @@
 #include <QVBoxLayout>
 
 #include "desktop/reading/help_folder.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/browser.h"
+#include "forms/text_numbers/help.h"
+#include "forms/text_numbers/screen_reader.h"
 
 namespace varnholt {
 namespace {

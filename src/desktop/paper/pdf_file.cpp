@@ -6,7 +6,7 @@
 
 #include "desktop/paper/page_painter.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/main.h"
 #include "reports/pdf_supplement.h"
 
 namespace varnholt {

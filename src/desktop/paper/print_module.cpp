@@ -1,18 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/paper/print_module.h"
 
-#include <QCoreApplication>
-#include <QPluginLoader>
+#include "desktop/widgets/modules.h"
 
 namespace varnholt {
 
-PrintModule* findPrintModule() {
-    const QString program = QCoreApplication::applicationDirPath();
-    for (const char* folder : {"/", "/../lib/varnholt/modules/"}) {
-        QPluginLoader loader(program + QLatin1String(folder) + QLatin1String("varnholt_printing"));
-        if (auto* module = qobject_cast<PrintModule*>(loader.instance())) return module;
-    }
-    return nullptr;
-}
+PrintModule* findPrintModule() { return findModule<PrintModule>("varnholt_printing"); }
 
 }  // namespace varnholt

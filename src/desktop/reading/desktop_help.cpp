@@ -9,7 +9,7 @@
 #include <QWidget>
 
 #include "basis/file_system.h"
-#include "desktop/reading/modules.h"
+#include "desktop/widgets/modules.h"
 #include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
@@ -22,10 +22,8 @@ HelpModule* findHelpModule() {
 
 /// The library of a part of the program, as a component of the help.
 HelpComponent componentOf(const char* name) {
-    const QString program = QCoreApplication::applicationDirPath();
-    for (const char* folder : {"/", "/../lib/varnholt/modules/"}) {
-        const QString file =
-            program + QLatin1String(folder) + QLatin1String(name) + QStringLiteral(".so");
+    for (const QString& folder : moduleFolders()) {
+        const QString file = folder + QLatin1String(name) + QStringLiteral(".so");
         if (QFileInfo(file).isFile())
             return {plain(QFileInfo(file).canonicalFilePath()), qVersion()};
     }

@@ -7,7 +7,7 @@
 #include <QOpenGLContext>
 #include <QPalette>
 
-#include "desktop/reading/modules.h"
+#include "desktop/widgets/modules.h"
 
 // The toolkit's own call, by which its engine for the web would share contexts if it were linked.
 extern Q_GUI_EXPORT void qt_gl_set_global_share_context(QOpenGLContext* context);

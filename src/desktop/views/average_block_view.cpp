@@ -5,7 +5,7 @@
 #include "desktop/views/loads_pieces.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/views.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/feedback.h"
 
 namespace varnholt {
 namespace {

@@ -9,7 +9,7 @@
 #include "desktop/views/view_pieces.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/desktop.h"
 
 namespace varnholt {
 namespace {

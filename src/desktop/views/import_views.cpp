@@ -10,7 +10,8 @@
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/text_label.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/import.h"
+#include "forms/text_numbers/loads.h"
 #include "loads/import/frmImport1.h"
 #include "loads/modLoads/chart_sentences.h"
 

@@ -8,7 +8,7 @@
 #include "desktop/views/view_pieces.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/text_label.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/lengths.h"
 
 namespace varnholt {
 namespace {

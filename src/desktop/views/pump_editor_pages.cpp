@@ -10,7 +10,6 @@
 #include "desktop/views/loads_pieces.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/widgets/text_label.h"
-#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {

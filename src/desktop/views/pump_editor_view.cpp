@@ -10,7 +10,7 @@
 #include "desktop/views/views.h"
 #include "desktop/widgets/stacking_split.h"
 #include "desktop/widgets/text_label.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/heat_pump_editor.h"
 
 namespace varnholt {
 namespace {

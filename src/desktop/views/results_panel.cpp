@@ -11,7 +11,9 @@
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/text_label.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/lengths.h"
+#include "forms/text_numbers/main.h"
+#include "forms/text_numbers/pictures.h"
 
 namespace varnholt {
 namespace {

@@ -9,7 +9,7 @@
 #include "desktop/widgets/notice_bar.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/text_label.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/feedback.h"
 
 namespace varnholt {
 namespace {

@@ -20,7 +20,8 @@
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/quantity.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/feedback.h"
+#include "forms/text_numbers/screen_reader.h"
 #include "loads/modLoads/zone_window.h"
 
 namespace varnholt {
@@ -98,6 +99,18 @@ class ZoneColumns {
                                                                : QVariant();
     }
 
+    QString shown(int row) const {
+        QStringList shown;
+        for (const auto& [column, role] : {std::pair<int, int>{numberColumn, Qt::ToolTipRole},
+                                           {labelColumn, Qt::DisplayRole},
+                                           {loadColumn, Qt::DisplayRole},
+                                           {pumpColumn, Qt::DisplayRole}})
+            shown << data(row, column, role).toString();
+        for (const QVariant& share : data(row, loadColumn, shareRole).toList())
+            shown << QString::number(share.toDouble(), 'g', 17);
+        return shown.join(u'\n');
+    }
+
  private:
     QVariant ofNumber(const ZoneWindow& window, std::size_t position, int role) const {
         if (role == Qt::UserRole) return static_cast<int>(position);
@@ -139,6 +152,7 @@ void addColumns(Binder& bind, ListView& list) {
     list.setColumns(
         {headsOf(bind),
          [columns](int row, int column, int role) { return columns->data(row, column, role); },
+         [columns](int row) { return columns->shown(row); },
          {{0, 0}, {12, 5}, {6, 1}, {8, 1}}});
     list.setItemDelegateForColumn(loadColumn, new LoadBars(&list));
     list.setCells({[&list](int row) {

@@ -10,7 +10,7 @@
 
 #include "desktop/binding/binder.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/feedback.h"
 
 namespace varnholt {
 namespace {

@@ -13,7 +13,7 @@
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/stacking_split.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/feedback.h"
 #include "loads/frmZoneManage.h"
 
 namespace varnholt {

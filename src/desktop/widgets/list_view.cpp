@@ -201,7 +201,23 @@ void ListView::setColumns(ListColumns columns) {
     fitColumns();
 }
 
+/// What the columns show of each row in sight.
+QStringList ListView::shownRows() const {
+    QStringList shown;
+    const int end = viewport()->height();
+    for (QModelIndex at = indexAt(QPoint(0, 0)); at.isValid() && visualRect(at).top() < end;
+         at = indexBelow(at)) {
+        const int row = order_->mapToSource(at).row();
+        shown << QString::number(row) << model_->shownOf(row);
+    }
+    return shown;
+}
+
 void ListView::refreshColumns() {
+    // Rows out of sight are asked when they come into it, if none of them decides what is in sight.
+    const QStringList shown = order_->isAsGiven() ? shownRows() : QStringList();
+    if (!shown.isEmpty() && shown == shown_) return;
+    shown_ = shown;
     writing_ = true;
     model_->refreshColumns();
     writing_ = false;

@@ -17,6 +17,8 @@ struct ListColumns {
     /// What a cell of a further column, from 1, says for a role of the toolkit; of column 0, what
     /// is not the entry's own text. Sorting goes by Qt::UserRole.
     std::function<QVariant(int row, int column, int role)> data;
+    /// All that the columns show of a row, in one text, by which a change is seen.
+    std::function<QString(int row)> shown;
     /// How wide a column is until a person sizes it.
     struct Width {
         int least;  ///< in digits; 0 in the first column: as wide as the longest entry
@@ -36,6 +38,7 @@ class ListModel : public QAbstractTableModel {
     const QStringList& heads() const { return heads_; }
     void setColumns(ListColumns columns);
     bool hasColumns() const { return !further_.heads.isEmpty(); }
+    QString shownOf(int row) const { return further_.shown ? further_.shown(row) : QString(); }
     const std::vector<ListColumns::Width>& widths() const { return further_.widths; }
     /// What the further columns say has changed.
     void refreshColumns();
@@ -60,6 +63,8 @@ class ListOrder : public QSortFilterProxyModel {
     using QSortFilterProxyModel::QSortFilterProxyModel;
 
     void setText(const QString& text);
+    /// Whether rows stand in their own order, none left out.
+    bool isAsGiven() const { return text_.isEmpty() && sortColumn() < 0; }
     bool holds(int sourceRow, const QString& text) const;
 
  protected:
@@ -95,6 +100,7 @@ class ListView : public QTreeView {
     /// Puts columns beside the entries that can be sized and sorted by. Until a person sizes them
     /// they fill the list; those that find no room are not shown.
     void setColumns(ListColumns columns);
+    /// What the columns show may have changed.
     void refreshColumns();
     /// Shows only the rows that hold the text. What is selected stays selected.
     void setFilter(const QString& text);
@@ -127,6 +133,7 @@ class ListView : public QTreeView {
     void select(const std::vector<int>& rows);
 
     QModelIndex shownIndex(int row) const;
+    QStringList shownRows() const;
 
     ListModel* model_;
     ListOrder* order_;
@@ -134,6 +141,7 @@ class ListView : public QTreeView {
     QString searched_;
     QElapsedTimer lastKey_;
     Cells cells_;
+    QStringList shown_;  ///< of the rows in sight when the columns were last refreshed
     bool writing_ = false;
     bool told_ = false;
     bool sharing_ = false;

@@ -21,7 +21,8 @@
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/reports.h"
+#include "forms/text_numbers/screen_reader.h"
 #include "reports/report_shelf.h"
 
 namespace varnholt {

@@ -16,7 +16,8 @@
 #include "desktop/windows/report_preview.h"
 #include "desktop/windows/window_places.h"
 #include "forms/platform.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/main.h"
+#include "forms/text_numbers/reports.h"
 #include "reports/report_shelf.h"
 
 namespace varnholt {

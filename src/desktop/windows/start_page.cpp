@@ -20,7 +20,8 @@
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/text_label.h"
 #include "desktop/windows/project_miniature.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/desktop.h"
+#include "forms/text_numbers/feedback.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

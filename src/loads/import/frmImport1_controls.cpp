@@ -2,7 +2,9 @@
 // The importer's controls, in their reading order.
 #include <array>
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/calculators.h"
+#include "forms/text_numbers/import.h"
+#include "forms/text_numbers/loads.h"
 #include "loads/import/frmImport1.h"
 
 namespace varnholt {

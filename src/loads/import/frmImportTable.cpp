@@ -8,7 +8,8 @@
 #include "basis/number_text.h"
 #include "basis/text_encoding.h"
 #include "forms/quantity.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/import.h"
+#include "forms/text_numbers/loads.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

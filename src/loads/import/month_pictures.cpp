@@ -4,7 +4,8 @@
 #include <algorithm>
 
 #include "basis/number_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/import.h"
+#include "forms/text_numbers/loads.h"
 
 namespace varnholt {
 

@@ -2,7 +2,8 @@
 #include "loads/import/simulation_dialog.h"
 
 #include "basis/file_system.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/import.h"
+#include "forms/text_numbers/main.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

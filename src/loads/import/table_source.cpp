@@ -3,7 +3,8 @@
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/import.h"
+#include "forms/text_numbers/main.h"
 #include "frame/varnmain.h"
 #include "loads/import/load_table.h"
 

@@ -2,7 +2,10 @@
 #include "loads/modLoads/chart_sentences.h"
 
 #include "basis/number_text.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/feedback.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/pictures.h"
+#include "forms/text_numbers/screen_reader.h"
 
 namespace varnholt {
 namespace {

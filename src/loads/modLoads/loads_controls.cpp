@@ -2,7 +2,10 @@
 // The controls of the loads windows, in their reading order; fields stand with their frames.
 #include <string>
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/import.h"
+#include "forms/text_numbers/loads.h"
+#include "forms/text_numbers/main.h"
+#include "forms/text_numbers/screen_reader.h"
 #include "loads/modLoads/zone_window.h"
 
 namespace varnholt {

@@ -6,7 +6,7 @@
 #include "basis/number_text.h"
 #include "basis/raised_flag.h"
 #include "basis/run_time_error.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/loads.h"
 #include "loads/modLoads/zone_window.h"
 
 namespace varnholt {

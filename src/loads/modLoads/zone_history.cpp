@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/files.h"
 #include "loads/linked_design.h"
 #include "loads/links.h"
 #include "loads/modLoads/zone_window.h"

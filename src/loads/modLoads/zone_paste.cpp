@@ -7,7 +7,7 @@
 
 #include "basis/number_text.h"
 #include "basis/run_time_error.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/feedback.h"
 #include "frame/varnmain.h"
 #include "loads/modLoads/zone_window.h"
 

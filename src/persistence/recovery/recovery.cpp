@@ -7,7 +7,7 @@
 
 #include "basis/date.h"
 #include "basis/file_system.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/files.h"
 #include "frame/varnmain.h"
 #include "persistence/recovery/recovered_windows.h"
 

@@ -16,7 +16,6 @@
 #include "catalogue/editor/install.h"
 #include "catalogue/fitting/measured_pump.h"
 #include "forms/fake_platform.h"
-#include "forms/text_numbers.h"
 #include "frame/varnmain.h"
 
 namespace varnholt {

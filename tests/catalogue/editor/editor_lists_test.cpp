@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "catalogue/editor/editor_fixture.h"
+#include "forms/text_numbers/editor_messages.h"
 
 namespace varnholt {
 namespace {

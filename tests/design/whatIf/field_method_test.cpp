@@ -9,7 +9,7 @@
 #include "design/whatIf/certainty.h"
 #include "design/whatIf/layout_search.h"
 #include "design/whatIf/office.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/what_if.h"
 
 namespace varnholt {
 namespace {

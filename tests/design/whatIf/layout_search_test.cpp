@@ -10,7 +10,7 @@
 #include "design/whatIf/layout_run.h"
 #include "design/whatIf/office.h"
 #include "design/whatIf/tower_curve.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/what_if.h"
 
 namespace varnholt {
 namespace {

@@ -14,7 +14,7 @@
 #include "desktop/windows/main_window.h"
 #include "desktop/windows/program.h"
 #include "desktop/windows/window_shelf.h"
-#include "forms/text_numbers.h"
+#include "forms/text_numbers/language.h"
 #include "monkey/monkey.h"
 #include "monkey/session.h"
 #include "tools/program_folder.h"
