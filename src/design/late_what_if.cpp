@@ -19,61 +19,9 @@ WhatIfWanted without(const WhatIfWanted& parts, const WhatIfWanted& known) {
 
 bool isEmpty(const WhatIfWanted& parts) { return parts == WhatIfWanted{}; }
 
-void takeBase(WhatIf& known, const WhatIf& found) {
-    known.reason = found.reason;
-    known.reasonOfMode = found.reasonOfMode;
-    known.reasonOfOther = found.reasonOfOther;
-    known.needLength = found.needLength;
-    known.needGoverning = found.needGoverning;
-    known.governing = found.governing;
-    known.boreDepth = found.boreDepth;
-    known.bores = found.bores;
-    known.drawnDepth = found.drawnDepth;
-    known.otherNeed = found.otherNeed;
-    known.hiddenByRun = found.hiddenByRun;
-}
-
-void takeDecides(WhatIf& known, const WhatIf& found) {
-    known.tornadoLow = found.tornadoLow;
-    known.tornadoHigh = found.tornadoHigh;
-    known.tornadoRank = found.tornadoRank;
-    known.leverLow = found.leverLow;
-    known.leverHigh = found.leverHigh;
-    known.share = found.share;
-    known.shareAlone = found.shareAlone;
-    known.sampleCount = found.sampleCount;
-    known.failedSamples = found.failedSamples;
-}
-
-void takeSure(WhatIf& known, const WhatIf& found) {
-    known.needP10 = found.needP10;
-    known.needP50 = found.needP50;
-    known.needP90 = found.needP90;
-    known.needMean = found.needMean;
-    known.needError = found.needError;
-    known.lengthP10 = found.lengthP10;
-    known.lengthP50 = found.lengthP50;
-    known.lengthP90 = found.lengthP90;
-    known.holds = found.holds;
-    known.holdsMode = found.holdsMode;
-    known.confidentDepth = found.confidentDepth;
-    known.testDepth = found.testDepth;
-    known.testSaves = found.testSaves;
-    known.enteringP10 = found.enteringP10;
-    known.enteringP50 = found.enteringP50;
-    known.enteringP90 = found.enteringP90;
-    known.sampleCount = found.sampleCount;
-    known.failedSamples = found.failedSamples;
-    known.needs = found.needs;
-    known.otherNeeds = found.otherNeeds;
-}
-
-void takeCost(WhatIf& known, const WhatIf& found) {
-    known.costPart = found.costPart;
-    known.firstCost = found.firstCost;
-    known.yearlyEnergy = found.yearlyEnergy;
-    known.yearlyCost = found.yearlyCost;
-    known.lifeCost = found.lifeCost;
+template <class Part>
+void takePart(WhatIf& known, const WhatIf& found) {
+    static_cast<Part&>(known) = found;
 }
 
 /// Whether there is something new to be seen of a run on the way.
@@ -99,10 +47,14 @@ void LateWhatIf::take() {
     ++revision_;
     if (!showsCase_) known_ = {};
     showsCase_ = true;
-    takeBase(known_, found);
-    if (runParts_.sure) takeSure(known_, found);
-    if (runParts_.decides) takeDecides(known_, found);
-    if (runParts_.cost) takeCost(known_, found);
+    takePart<WhatIfNeed>(known_, found);
+    if (runParts_.sure) takePart<WhatIfSure>(known_, found);
+    if (runParts_.decides) takePart<WhatIfDecides>(known_, found);
+    if (runParts_.cost) takePart<WhatIfCost>(known_, found);
+    if (runParts_.sure || runParts_.decides) {
+        known_.sampleCount = found.sampleCount;
+        known_.failedSamples = found.failedSamples;
+    }
     if (runParts_.tower) known_.tower = found.tower;
     if (runParts_.alternatives) known_.alternatives = found.alternatives;
 }

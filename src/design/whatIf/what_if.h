@@ -42,15 +42,12 @@ struct WhatIfWanted {
     friend bool operator==(const WhatIfWanted&, const WhatIfWanted&) = default;
 };
 
-/// Everything that the window computes but the layouts, in English units and under the names that
-/// scripts know. A figure that cannot be had is 0.
-struct WhatIf {
-    // Why there is nothing, or a mode has nothing.
+/// The design as it stands, or why there is nothing, or a mode has nothing.
+struct WhatIfNeed {
     Reason reason;
     ByMode<Reason> reasonOfMode{};
     Reason reasonOfOther;  ///< why the other method has no need
 
-    // The design as it stands.
     ByMode<double> needLength{};    ///< ft
     double needGoverning = 0;       ///< the greater, ft; 0 where a loaded mode has none
     std::optional<Mode> governing;  ///< none without a need
@@ -62,13 +59,21 @@ struct WhatIf {
     /// does not settle there.
     ByMode<bool> hiddenByRun{};
 
-    // What decides.
+    friend bool operator==(const WhatIfNeed&, const WhatIfNeed&) = default;
+};
+
+/// What decides the need.
+struct WhatIfDecides {
     std::array<double, quantityCount> tornadoLow{}, tornadoHigh{};  ///< ft
     std::array<std::size_t, quantityCount> tornadoRank{};           ///< longest bar first
     std::array<double, leverCount> leverLow{}, leverHigh{};         ///< ft
     std::array<double, quantityCount> share{}, shareAlone{};        ///< fractions
 
-    // How sure.
+    friend bool operator==(const WhatIfDecides&, const WhatIfDecides&) = default;
+};
+
+/// How sure the need is.
+struct WhatIfSure {
     double needP10 = 0, needP50 = 0, needP90 = 0, needMean = 0, needError = 0;  ///< ft
     ByMode<double> lengthP10{}, lengthP50{}, lengthP90{};                       ///< ft
     double holds = 0;  ///< share of the cases
@@ -77,13 +82,24 @@ struct WhatIf {
     double testDepth = 0;       ///< the same had a test confirmed the middle values, ft
     double testSaves = 0;       ///< of all bores, ft
     ByMode<double> enteringP10{}, enteringP50{}, enteringP90{};  ///< degF
-    std::size_t sampleCount = 0, failedSamples = 0;
     /// Needs of all cases, sorted, those without a length as noLength: the curves of both methods.
     std::vector<double> needs, otherNeeds;
 
-    // Cost of the design at its drawn depth.
+    friend bool operator==(const WhatIfSure&, const WhatIfSure&) = default;
+};
+
+/// Cost of the design at its drawn depth.
+struct WhatIfCost {
     std::array<double, 5> costPart{};
     double firstCost = 0, yearlyEnergy = 0, yearlyCost = 0, lifeCost = 0;
+
+    friend bool operator==(const WhatIfCost&, const WhatIfCost&) = default;
+};
+
+/// Everything that the window computes but the layouts, in English units and under the names that
+/// scripts know. A figure that cannot be had is 0.
+struct WhatIf : WhatIfNeed, WhatIfDecides, WhatIfSure, WhatIfCost {
+    std::size_t sampleCount = 0, failedSamples = 0;  ///< of the cases behind what decides, how sure
 
     TowerCurve tower;
     std::vector<AlternativeFigures> alternatives;
