@@ -2,61 +2,24 @@
 // The second opinion in the real windows: found while nobody types, shown in reading order, drawn.
 #include <gtest/gtest.h>
 
-#include <QDeadlineTimer>
-#include <QMouseEvent>
-#include <filesystem>
-
-#include "design/frmBHDesign.h"
 #include "design/frmSecondOpinion.h"
 #include "design/second_opinion_texts.h"
-#include "desk.h"
-#include "desktop/binding/form_window.h"
 #include "desktop/drawings/opinion_pictures.h"
 #include "desktop/widgets/qt_text.h"
 #include "drawing_samples.h"
+#include "late_window.h"
 
 namespace varnholt {
 namespace {
 
-class SecondOpinionView : public testing::Test {
+class SecondOpinionView : public LateWindow<frmSecondOpinion> {
  protected:
-    SecondOpinionView() {
-        const std::filesystem::path examples = VARNHOLT_SOURCE_DIR "/examples";
-        const std::filesystem::path program = desk.folder();
-        constexpr auto replacing = std::filesystem::copy_options::overwrite_existing;
-        std::filesystem::copy(examples / "school-south.vht", program / "work files", replacing);
-        std::filesystem::copy(examples / "school-south.zon", program / "zones", replacing);
-        desk.platform.picks.push_back("work files/school-south.vht");
-        desk.main().click("mnuFileOpen");
-        desk.main().activate(design());
-        design().click("CASecondOpinionCommand");
-    }
-    frmBHDesign& design() {
-        return dynamic_cast<frmBHDesign&>(*desk.main().windowsNamed("frmBHDesign").back());
-    }
-    frmSecondOpinion& opinion() {
-        return dynamic_cast<frmSecondOpinion&>(
-            *desk.main().windowsNamed("frmSecondOpinion").back());
-    }
-    /// Lets the loop turn until the figures have been found.
-    void idle() {
-        const QDeadlineTimer patience(5000);
-        while ((design().isBehind() || opinion().isBehind()) && !patience.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-        QCoreApplication::processEvents();
-    }
-    QWidget* widget(const std::string& name) {
-        return desk.shelf.windowOf(opinion())->binder().widget(name);
-    }
-    void press(QWidget* target, double share) {
-        const QPointF place(target->width() * share, target->height() / 2.0);
-        QMouseEvent down(QEvent::MouseButtonPress, place, target->mapToGlobal(place),
-                         Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(target, &down);
-    }
+    SecondOpinionView() : LateWindow("CASecondOpinionCommand", "frmSecondOpinion") {}
 
-    Desk desk;
-    ViewRegistry views;
+    frmSecondOpinion& opinion() { return late(); }
+    static void pressAcross(QWidget* target, double share) {
+        press(target, {target->width() * share, target->height() / 2.0});
+    }
 };
 
 TEST_F(SecondOpinionView, FindsItsFiguresWhenTheLoopIsIdle) {
@@ -113,13 +76,13 @@ TEST_F(SecondOpinionView, ShowsTheMonthsOfAYearThatIsPressed) {
     history->repaint();
     // Twenty years from a little right of the left edge to the right one: the middle is year 10 or
     // 11.
-    press(history, 0.5);
+    pressAcross(history, 0.5);
     const double year = opinion().control("SEYearUpDown").value();
     EXPECT_GE(year, 9);
     EXPECT_LE(year, 11);
     EXPECT_EQ(opinion().historyPicture().year, static_cast<std::size_t>(year) - 1);
     history->repaint();
-    press(history, 0.5);
+    pressAcross(history, 0.5);
     EXPECT_EQ(opinion().control("SEYearUpDown").value(), 0);
 }
 

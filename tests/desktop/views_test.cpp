@@ -46,6 +46,21 @@ void forEveryForm(Desk& desk, const Inspect& inspect) {
     EXPECT_GE(seen.size(), 4U);
 }
 
+/// The same with each form in a window that is all built and shown at its usual size.
+void forEveryWindow(const std::function<void(Form&, FormWindow&)>& inspect) {
+    Desk desk;
+    const ViewRegistry views;
+    forEveryForm(desk, [&](Form& form) {
+        FormWindow window(form, views.maker(), {});
+        window.binder().buildAll();
+        dress(window);
+        window.resize(window.sizeHint());
+        window.show();
+        Desk::settle();
+        inspect(form, window);
+    });
+}
+
 /// What a widget needs to be read whole.
 QSize needOf(const QWidget& widget) {
     if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
@@ -195,13 +210,7 @@ bool takesTheKeyboard(const Form& form, const Control& control) {
 }
 
 TEST(Keyboard, ReachesEveryControlByTab) {
-    Desk desk;
-    ViewRegistry views;
-    forEveryForm(desk, [&](Form& form) {
-        FormWindow window(form, views.maker(), {});
-        window.binder().buildAll();
-        dress(window);
-        window.show();
+    forEveryWindow([](Form& form, FormWindow& window) {
         for (const auto& control : form.controls()) {
             if (!takesTheKeyboard(form, *control)) continue;
             QWidget* widget = window.binder().widget(control->name());
@@ -214,15 +223,7 @@ TEST(Keyboard, ReachesEveryControlByTab) {
 }
 
 TEST(Keyboard, GoesThroughTheFieldsOfAGroupFromTopToBottomAndLeftToRight) {
-    Desk desk;
-    ViewRegistry views;
-    forEveryForm(desk, [&](Form& form) {
-        FormWindow window(form, views.maker(), {});
-        window.binder().buildAll();
-        dress(window);
-        window.resize(window.sizeHint());
-        window.show();
-        Desk::settle();
+    forEveryWindow([](Form&, FormWindow& window) {
         const std::vector<QWidget*> order = tabOrder(window);
         for (std::size_t i = 1; i < order.size(); ++i) {
             const QWidget* before = order[i - 1];
@@ -238,13 +239,7 @@ TEST(Keyboard, GoesThroughTheFieldsOfAGroupFromTopToBottomAndLeftToRight) {
 }
 
 TEST(Accessibility, GivesEveryFieldAName) {
-    Desk desk;
-    ViewRegistry views;
-    forEveryForm(desk, [&](Form& form) {
-        FormWindow window(form, views.maker(), {});
-        window.binder().buildAll();
-        dress(window);
-        window.show();
+    forEveryWindow([](Form& form, FormWindow& window) {
         for (const auto& control : form.controls()) {
             if (!takesTheKeyboard(form, *control)) continue;
             EXPECT_FALSE(window.binder().widget(control->name())->accessibleName().isEmpty())
@@ -313,13 +308,7 @@ int expectSentences(Form& form, Binder& binder) {
 }
 
 TEST(Accessibility, CallsNoTwoControlsOfAWindowAlikeAndNoneNothing) {
-    Desk desk;
-    ViewRegistry views;
-    forEveryForm(desk, [&](Form& form) {
-        FormWindow window(form, views.maker(), {});
-        window.binder().buildAll();
-        dress(window);
-        window.show();
+    forEveryWindow([](Form& form, FormWindow& window) {
         expectNamesOfTheirOwn(form, window.binder());
         expectSentences(form, window.binder());
     });

@@ -2,63 +2,26 @@
 // What If in the real windows: found while nobody types, walked in reading order, pressed.
 #include <gtest/gtest.h>
 
-#include <QDeadlineTimer>
-#include <QMouseEvent>
 #include <QScrollBar>
 #include <algorithm>
-#include <filesystem>
 #include <iterator>
 #include <set>
 
-#include "design/frmBHDesign.h"
 #include "design/frmWhatIf.h"
-#include "desk.h"
-#include "desktop/binding/form_window.h"
 #include "desktop/drawings/what_if_paintings.h"
 #include "desktop/views/comparison_table.h"
 #include "desktop/widgets/qt_text.h"
 #include "drawing_samples.h"
+#include "late_window.h"
 
 namespace varnholt {
 namespace {
 
-class WhatIfView : public testing::Test {
+class WhatIfView : public LateWindow<frmWhatIf> {
  protected:
-    WhatIfView() {
-        const std::filesystem::path examples = VARNHOLT_SOURCE_DIR "/examples";
-        const std::filesystem::path program = desk.folder();
-        constexpr auto replacing = std::filesystem::copy_options::overwrite_existing;
-        std::filesystem::copy(examples / "school-south.vht", program / "work files", replacing);
-        std::filesystem::copy(examples / "school-south.zon", program / "zones", replacing);
-        desk.platform.picks.push_back("work files/school-south.vht");
-        desk.main().click("mnuFileOpen");
-        desk.main().activate(design());
-        design().click("CAWhatIfCommand");
-    }
-    frmBHDesign& design() {
-        return dynamic_cast<frmBHDesign&>(*desk.main().windowsNamed("frmBHDesign").back());
-    }
-    frmWhatIf& what() {
-        return dynamic_cast<frmWhatIf&>(*desk.main().windowsNamed("frmWhatIf").back());
-    }
-    /// Lets the loop turn until the figures have been found.
-    void idle() {
-        const QDeadlineTimer patience(60'000);
-        while (what().isBehind() && !patience.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-        QCoreApplication::processEvents();
-    }
-    QWidget* widget(const std::string& name) {
-        return desk.shelf.windowOf(what())->binder().widget(name);
-    }
-    void press(QWidget* target, const QPointF& place) {
-        QMouseEvent down(QEvent::MouseButtonPress, place, target->mapToGlobal(place),
-                         Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(target, &down);
-    }
+    WhatIfView() : LateWindow("CAWhatIfCommand", "frmWhatIf") {}
 
-    Desk desk;
-    ViewRegistry views;
+    frmWhatIf& what() { return late(); }
 };
 
 TEST_F(WhatIfView, FindsItsFiguresWhenTheLoopIsIdle) {
