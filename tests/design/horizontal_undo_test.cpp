@@ -30,7 +30,7 @@ class UndoInTrenches : public HorizontalWindow {
 };
 
 TEST_F(UndoInTrenches, OfEachFieldIsOneStepAVisit) {
-    const FieldStep cases[] = {
+    const std::vector<FieldStep> cases{
         {"FLInletTempText(0)", "90", "[2202], [2203]"},
         {"FLFlowRateText", "2.5", "[2208]"},
         {"SOGroundTempText", "55", "[2303]"},
@@ -53,13 +53,7 @@ TEST_F(UndoInTrenches, OfEachFieldIsOneStepAVisit) {
         {"INProjectNameText", "School", "[2701]"},
     };
     calculate();
-    for (const auto& [field, typed, name] : cases) {
-        SCOPED_TRACE(field);
-        expectOneStep(name, [this, field = field, typed = typed] {
-            type(field, "1");
-            typeAndLeave(field, typed);
-        });
-    }
+    expectOneStepEach(main, *design, cases);
 }
 
 TEST_F(UndoInTrenches, OfWhateverElseAPersonChanges) {

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "forms/shown.h"
 #include "frame/varnmain.h"
@@ -39,6 +40,19 @@ void expectOneStepIn(Varnmain& main, Window& design, const std::string& name,
     main.click("mnuRedo");
     EXPECT_TRUE(design.project() == after);
     EXPECT_EQ(differences(shownAfter, shownBy(design)), "");
+}
+
+/// Proves it of each of these visits: two values typed into a field, which is then left.
+template <class Window>
+void expectOneStepEach(Varnmain& main, Window& design, const std::vector<FieldStep>& visits) {
+    for (const FieldStep& visit : visits) {
+        SCOPED_TRACE(visit.field);
+        expectOneStepIn(main, design, visit.name, [&design, &visit] {
+            design.type(visit.field, "1");
+            design.type(visit.field, visit.typed);
+            design.leave(visit.field);
+        });
+    }
 }
 
 }  // namespace varnholt

@@ -36,7 +36,7 @@ TEST_F(SurfaceWaterWindow, HasANameForWhateverAPersonChanges) {
 }
 
 TEST_F(UndoInAPond, OfEachFieldIsOneStepAVisit) {
-    const FieldStep cases[] = {
+    const std::vector<FieldStep> cases{
         {"FLInletTempText(0)", "90", "[2202], [2203]"},
         {"FLFlowRateText", "2.5", "[2208]"},
         {"FLSpecificHeatText", "0.9", "[2216]"},
@@ -72,13 +72,7 @@ TEST_F(UndoInAPond, OfEachFieldIsOneStepAVisit) {
         {"INCommentsRichTextBox", "School", "[2714]"},
     };
     calculate();
-    for (const auto& [field, typed, name] : cases) {
-        SCOPED_TRACE(field);
-        expectOneStep(name, [this, field = field, typed = typed] {
-            type(field, "1");
-            typeAndLeave(field, typed);
-        });
-    }
+    expectOneStepEach(main, *design, cases);
 }
 
 TEST_F(UndoInAPond, OfWhateverElseAPersonChanges) {

@@ -24,7 +24,7 @@ TEST_F(BoreholeWindow, HasANameForWhateverAPersonChanges) {
 }
 
 TEST_F(UndoInADesign, OfEachFieldIsOneStepAVisit) {
-    const FieldStep cases[] = {
+    const std::vector<FieldStep> cases{
         {"FLInletTempText(0)", "90", "[2202], [2203]"},
         {"FLFlowRateText", "2.5", "[2208]"},
         {"FLSpecificHeatText", "0.95", "[2216]"},
@@ -49,13 +49,7 @@ TEST_F(UndoInADesign, OfEachFieldIsOneStepAVisit) {
         {"INCommentsRichTextBox", "School", "[2714]"},
     };
     calculate();
-    for (const auto& [field, typed, name] : cases) {
-        SCOPED_TRACE(field);
-        expectOneStep(name, [this, field = field, typed = typed] {
-            type(field, "1");
-            typeAndLeave(field, typed);
-        });
-    }
+    expectOneStepEach(main, *design, cases);
 }
 
 TEST_F(UndoInADesign, OfWhateverElseAPersonChanges) {
