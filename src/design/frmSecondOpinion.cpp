@@ -4,10 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
-#include "basis/raised_flag.h"
-#include "basis/run_time_error.h"
 #include "design/frmBHDesign.h"
 #include "design/result_values.h"
 #include "design/second_opinion_texts.h"
@@ -17,59 +14,13 @@
 namespace varnholt {
 
 frmSecondOpinion::frmSecondOpinion(frmBHDesign& design)
-    : ChildWindow("frmSecondOpinion", design.main()), design_(design) {
-    fields().setManner({[this] { return settingUnits; }, [this] { return units(); }, {}});
+    : BesideDesign("frmSecondOpinion", Text::opinionTitle, design) {
     addControls();
     hookInputs();
     registerValues();
 }
 
-void frmSecondOpinion::load() {
-    setCaption(titleNow());
-    showInUnits();
-    fallBehind();
-}
-
-void frmSecondOpinion::unloaded() { design_.forgetSecondOpinionWindow(); }
-
-ChildWindow& frmSecondOpinion::owner() { return design_; }
-UnitSystem frmSecondOpinion::units() const { return design_.units(); }
-
-/// What is done here is a step of the design.
-void frmSecondOpinion::actionBegins() {
-    ChildWindow::actionBegins();
-    design_.touch();
-    pasteFault_.clear();
-}
-
-void frmSecondOpinion::actionDone() {
-    setCaption(titleNow());
-    fallBehind();
-}
-
-/// Before it has a file or a name, a project is called as its window is.
-std::string frmSecondOpinion::titleNow() const {
-    const std::string& project = design_.information().projectName;
-    const std::string& name = !design_.FileName.empty() ? design_.FileName
-                              : !project.empty()        ? project
-                                                        : design_.caption();
-    return text(Text::opinionTitle) + " - " + name;
-}
-
-void frmSecondOpinion::showInUnits() {
-    const RaisedFlag setting(settingUnits);
-    showCaptions();
-    showInputs();
-    showFigures();
-}
-
-void frmSecondOpinion::showDocument() {
-    endVisit();
-    fields().forgetRefused();
-    showInUnits();
-    fallBehind();
-    refreshNotice();
-}
+void frmSecondOpinion::unloaded() { design().forgetSecondOpinionWindow(); }
 
 void frmSecondOpinion::hookInputs() {
     onClick("SEShapeCombo", [this] {
@@ -97,13 +48,13 @@ void frmSecondOpinion::typedDepth() {
 }
 
 const SecondOpinion& frmSecondOpinion::opinion() const {
-    return design_.lateSecondOpinion().known();
+    return design().lateSecondOpinion().known();
 }
 
-SecondOpinionInputs& frmSecondOpinion::inputs() const { return design_.secondOpinionInputs(); }
+SecondOpinionInputs& frmSecondOpinion::inputs() const { return design().secondOpinionInputs(); }
 
 bool frmSecondOpinion::workLate(bool whole) {
-    if (!design_.advanceSecondOpinion(whole)) return false;
+    if (!design().advanceSecondOpinion(whole)) return false;
     showFigures();
     return true;
 }
@@ -120,9 +71,10 @@ std::size_t frmSecondOpinion::yearsShown() const {
 }
 
 OpinionScene frmSecondOpinion::scene() const {
-    OpinionScene scene{texts(), units(),
-                       shownMessage(texts(), opinion(), design_.project().soil.groundTemp, units()),
-                       design_.conditions().inletTemp, yearsShown()};
+    OpinionScene scene{
+        texts(), units(),
+        shownMessage(texts(), opinion(), design().project().soil.groundTemp, units()),
+        design().conditions().inletTemp, yearsShown()};
     const double year = control("SEYearUpDown").value();
     if (year >= 1) scene.year = static_cast<std::size_t>(year) - 1;
     return scene;
@@ -167,7 +119,7 @@ void frmSecondOpinion::registerValues() {
     registerInputs(publicValues());
     using O = const SecondOpinion&;
     ResultValues<SecondOpinion> of(publicValues(),
-                                   [this]() -> O { return design_.secondOpinion(); });
+                                   [this]() -> O { return design().secondOpinion(); });
     registerYear(of);
     registerSizes(of);
     registerShown(of);
@@ -198,7 +150,7 @@ void frmSecondOpinion::registerSizes(ResultValues<SecondOpinion>& of) {
     of.array(
         "soMonth", [](O o) -> auto& { return o.soMonth; });
     publicValues().add("lengthPart", 2, [this](const Values::Indices& i) {
-        const auto& parts = publicElement(design_.secondOpinion().lengthPart, i[1]);
+        const auto& parts = publicElement(design().secondOpinion().lengthPart, i[1]);
         return publicElement(parts.value_or(LengthParts{}), i[0]);
     });
 }
@@ -211,7 +163,7 @@ void frmSecondOpinion::registerShown(ResultValues<SecondOpinion>& of) {
         "gValue", [](O o) -> auto& { return o.gValue; });
     const auto line = [&](const char* name, std::optional<double> OpinionYearLine::*member) {
         publicValues().add(name, 1, [this, member](const Values::Indices& i) {
-            return (publicElement(design_.secondOpinion().years, i[0]).*member).value_or(0);
+            return (publicElement(design().secondOpinion().years, i[0]).*member).value_or(0);
         });
     };
     line("gPenalty", &OpinionYearLine::penalty);

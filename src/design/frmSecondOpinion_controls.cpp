@@ -48,16 +48,6 @@ void frmSecondOpinion::addControls() {
     addTable();
 }
 
-Control& frmSecondOpinion::addOutput(const std::string& name, const std::string& frame) {
-    return add(name, ControlKind::label).in(frame).foundLate();
-}
-
-void frmSecondOpinion::addUnitLabel(const std::string& name, const std::string& frame,
-                                    UnitTexts caption) {
-    unitCaptions_.push_back({name, caption});
-    add(name, ControlKind::label).in(frame);
-}
-
 void frmSecondOpinion::addSizeRow(const std::string& array, UnitTexts caption) {
     addUnitLabel(elementName(array, captionElement), sizesFrame, caption);
     for (const Mode mode : modes) addOutput(elementName(array, mode), sizesFrame);
@@ -78,7 +68,7 @@ void frmSecondOpinion::addSizes() {
 
 void frmSecondOpinion::addParts() {
     add(partsFrame, ControlKind::frame);
-    unitCaptions_.push_back({partsFrame, {Text::opinionPartsEnglish, Text::opinionPartsMetric}});
+    followUnits(partsFrame, {Text::opinionPartsEnglish, Text::opinionPartsMetric});
     add("SEPartTopLabel(0)", ControlKind::label, Text::resultsCooling).in(partsFrame);
     add("SEPartTopLabel(1)", ControlKind::label, Text::resultsHeating).in(partsFrame);
     for (std::size_t part = 0; part < lengthPartTexts.size(); ++part) {

@@ -18,12 +18,6 @@ std::string temperatureOrDash(const std::optional<double>& value, const Quantity
 
 }  // namespace
 
-void frmSecondOpinion::showCaptions() {
-    for (const UnitCaption& each : unitCaptions_)
-        control(each.control).setCaption(text(each.caption.in(units())));
-    fields().showCaptions();
-}
-
 void frmSecondOpinion::showInputs() {
     fields().showAll();
     control("SEShapeCombo").setIndex(inputs().shape);
@@ -48,7 +42,7 @@ void frmSecondOpinion::showFigures() {
 
 void frmSecondOpinion::showSizes() {
     const SecondOpinion& shown = opinion();
-    const auto& rows = design_.project().arrangement.patternRows;
+    const auto& rows = design().project().arrangement.patternRows;
     const double bores = rows[0] * rows[1];
     for (const Mode mode : modes) {
         const double classical = shown.classicalLength[mode];
@@ -93,7 +87,7 @@ void frmSecondOpinion::showTable() {
     for (const Mode mode : modes) {
         std::optional<double> penalty;
         if (opinion().classicalLength[mode] > 0)
-            penalty = design_.lateSecondOpinion().classicalPenalty()[mode];
+            penalty = design().lateSecondOpinion().classicalPenalty()[mode];
         write("SEClassicalPenaltyLabel", mode,
               temperatureOrDash(penalty, quantities::temperatureDifference, units()));
     }
@@ -113,7 +107,7 @@ void frmSecondOpinion::showYearOfMonths() {
 
 void frmSecondOpinion::showMessage() {
     const std::string reasons =
-        opinionMessage(texts(), opinion(), design_.project().soil.groundTemp, units());
+        opinionMessage(texts(), opinion(), design().project().soil.groundTemp, units());
     control("SEMessageLabel").setCaption(pasteFault_.empty() ? reasons : pasteFault_);
 }
 

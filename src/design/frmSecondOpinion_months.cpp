@@ -41,7 +41,7 @@ void frmSecondOpinion::SEPasteCommand_Click() {
 /// The months as they can be pasted again: as they were typed, else as energies and peaks in the
 /// units shown. Below them the table of years.
 void frmSecondOpinion::SECopyCommand_Click() {
-    design_.secondOpinion();
+    design().secondOpinion();
     showFigures();
     const bool typed = inputs().shape == typedYear;
     const YearPicture year = yearPicture();

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "basis/raised_flag.h"
 #include "design/frmBHDesign.h"
 #include "design/frmHZDesign.h"
 #include "design/frmSWDesign.h"
@@ -28,17 +27,9 @@ std::string shortNameOf(const Design& design) {
 
 }  // namespace
 
-frmWhatIf::frmWhatIf(frmBHDesign& design)
-    : ChildWindow("frmWhatIf", design.main()), design_(design) {
-    fields().setManner({[this] { return settingUnits; }, [this] { return units(); }, {}});
+frmWhatIf::frmWhatIf(frmBHDesign& design) : BesideDesign("frmWhatIf", Text::whatIfTitle, design) {
     addControls();
     registerValues();
-}
-
-void frmWhatIf::load() {
-    setCaption(titleNow());
-    showInUnits();
-    lookAgain();
 }
 
 void frmWhatIf::lookAgain() {
@@ -46,48 +37,11 @@ void frmWhatIf::lookAgain() {
     fallBehind();
 }
 
-void frmWhatIf::unloaded() { design_.forgetWhatIfWindow(); }
+void frmWhatIf::unloaded() { design().forgetWhatIfWindow(); }
 
-ChildWindow& frmWhatIf::owner() { return design_; }
-UnitSystem frmWhatIf::units() const { return design_.units(); }
-WhatIfInputs& frmWhatIf::inputs() const { return design_.whatIfInputs(); }
+WhatIfInputs& frmWhatIf::inputs() const { return design().whatIfInputs(); }
 
-/// What is done here is a step of the design.
-void frmWhatIf::actionBegins() {
-    ChildWindow::actionBegins();
-    design_.touch();
-    landFault_.clear();
-}
-
-void frmWhatIf::actionDone() {
-    setCaption(titleNow());
-    lookAgain();
-}
-
-std::string frmWhatIf::titleNow() const {
-    const std::string& project = design_.information().projectName;
-    const std::string& name = !design_.FileName.empty() ? design_.FileName
-                              : !project.empty()        ? project
-                                                        : design_.caption();
-    return text(Text::whatIfTitle) + " - " + name;
-}
-
-std::string frmWhatIf::nameOfDesign() const { return shortNameOf(design_); }
-
-void frmWhatIf::showInUnits() {
-    const RaisedFlag setting(settingUnits);
-    showCaptions();
-    showInputs();
-    showFigures();
-}
-
-void frmWhatIf::showDocument() {
-    endVisit();
-    fields().forgetRefused();
-    showInUnits();
-    lookAgain();
-    refreshNotice();
-}
+std::string frmWhatIf::nameOfDesign() const { return shortNameOf(design()); }
 
 std::vector<Notice> frmWhatIf::notices() {
     if (const auto refused = fields().refused()) return {refusedNotice(*refused)};
@@ -112,7 +66,7 @@ WhatIfWanted frmWhatIf::wantedByPage() const {
 std::vector<Alternative> frmWhatIf::otherDesigns() const {
     std::vector<Alternative> others;
     for (ChildWindow* window : main().windows()) {
-        if (window == &design_) continue;
+        if (window == &design()) continue;
         if (const auto* bores = dynamic_cast<frmBHDesign*>(window))
             others.push_back(
                 {shortNameOf(*bores), AlternativeKind::borehole, bores->presentCase().design, {}});
@@ -131,7 +85,7 @@ void frmWhatIf::listAlternatives() {
     for (const KeptAlternative& each : inputs().alternatives) names.push_back(each.name);
     for (const ChildWindow* window : main().windows())
         if (const auto* other = dynamic_cast<const GroundDesign*>(window);
-            other != nullptr && other != &design_)
+            other != nullptr && other != &design())
             names.push_back(shortNameOf(*other));
     Control& list = control("WVList");
     if (names != list.items()) {
@@ -144,7 +98,7 @@ void frmWhatIf::listAlternatives() {
 }
 
 WhatIfCase frmWhatIf::presentCase() const {
-    SecondOpinionCase now = design_.presentCase();
+    SecondOpinionCase now = design().presentCase();
     WhatIfCase what{nameOfDesign(),        std::move(now.design),   inputs(),
                     std::move(now.window), std::move(now.imported), {}};
     what.others = otherDesigns();

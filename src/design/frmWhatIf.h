@@ -8,38 +8,22 @@
 #include <string>
 #include <vector>
 
+#include "design/beside_design.h"
 #include "design/late_what_if.h"
 #include "design/layout_finder.h"
 #include "design/what_if_pictures.h"
-#include "frame/child_window.h"
 
 namespace varnholt {
 
-class frmBHDesign;
-
 /// What decides the length of one borehole design, how sure it is, and which field, alternative or
-/// tower is cheapest.
-///
-/// Its inputs belong to the design, and so do its units, its steps and its file: the window edits
-/// and shows them. It closes with its design. Each page has a file of its own.
-class frmWhatIf : public ChildWindow {
+/// tower is cheapest. Each page has a file of its own.
+class frmWhatIf : public BesideDesign {
  public:
     /// @param design  outlives the window
     explicit frmWhatIf(frmBHDesign& design);
 
-    void load() override;
     void unloaded() override;
-    ChildWindow& owner() override;
-    UnitSystem units() const override;
-    void actionBegins() override;
-    void actionDone() override;
-    void windowsChanged() override { lookAgain(); }
     std::string descriptionOf(const std::string& image) const override;
-
-    /// The design has switched its units.
-    void showInUnits();
-    /// Another state of the design has been put back.
-    void showDocument();
 
     // What the pictures show.
     TornadoPicture tornadoPicture() const;
@@ -57,15 +41,14 @@ class frmWhatIf : public ChildWindow {
  protected:
     bool workLate(bool whole) override;
     std::vector<Notice> notices() override;
+    void showInputs() override;
+    void showFigures() override;
+    /// Names are there at once, figures when somebody reads them.
+    void lookAgain() override;
 
  private:
     /// The pages in their order.
     enum Page { decidesPage, surePage, layoutPage, costPage, alternativesPage, towerPage };
-    /// A caption for each system of units.
-    struct UnitCaption {
-        std::string control;
-        UnitTexts caption;
-    };
     /// A numeric field over one of the inputs; limits and default are the input's own.
     struct NumberField {
         std::string control;
@@ -84,18 +67,10 @@ class frmWhatIf : public ChildWindow {
     void addControls();
     void addTop();
     void addNumber(const NumberField& field, const std::string& help);
-    /// A caption that follows the units.
-    void addUnitLabel(const std::string& name, const std::string& frame, UnitTexts caption);
-    /// A figure that is found late.
-    Control& addOutput(const std::string& name, const std::string& frame = {});
     void addOption(const std::string& array, std::size_t index, int caption,
                    const std::string& frame, const std::string& help);
-    void showCaptions();
-    void showInputs();
-    void showFigures();
     void showTop();
     void write(const std::string& label, const std::string& caption);
-    std::string titleNow() const;
     Page page() const;
     WhatIfWanted wantedByPage() const;
     WhatIfCase presentCase() const;
@@ -155,8 +130,6 @@ class frmWhatIf : public ChildWindow {
 
     // Alternatives (frmWhatIf_alternatives.cpp).
     void addAlternatives();
-    /// Names are there at once, figures when somebody reads them.
-    void lookAgain();
     void listAlternatives();
     void showAlternatives();
     void showAlternativeCommands();
@@ -171,14 +144,10 @@ class frmWhatIf : public ChildWindow {
     std::optional<std::size_t> bestTower() const;
     void WTTakeCommand_Click();
 
-    frmBHDesign& design_;
-    std::vector<UnitCaption> unitCaptions_;
     LateWhatIf late_;
     LayoutFinder finder_;
     /// How much of the finder's list is on show.
     int shownList_ = -1;
-    /// Why the last command of the layout page has changed nothing.
-    std::string landFault_;
 };
 
 }  // namespace varnholt

@@ -145,12 +145,12 @@ void frmWhatIf::WVKeepCommand_Click() {
     std::string name = control("WVNameText").text();
     if (name.empty())
         name = filledIn(text(Text::whatIfAlternativeName), {std::to_string(kept.size() + 2)});
-    kept.push_back({name, std::make_shared<const BoreholeProject>(design_.keptValue())});
+    kept.push_back({name, std::make_shared<const BoreholeProject>(design().keptValue())});
     control("WVNameText").setText({});
 }
 
 void frmWhatIf::WVRestoreCommand_Click() {
-    if (const auto chosen = chosenKept()) design_.putBack(*inputs().alternatives[*chosen].design);
+    if (const auto chosen = chosenKept()) design().putBack(*inputs().alternatives[*chosen].design);
 }
 
 void frmWhatIf::WVRemoveCommand_Click() {

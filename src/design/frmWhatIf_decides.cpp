@@ -101,8 +101,8 @@ void frmWhatIf::pointAtBar(std::size_t bar) {
     if (bar >= picture.bars.size()) return;
     const TornadoPicture::Bar& pointed = picture.bars[bar];
     if (pointed.lever) {
-        main().activate(design_);
-        design_.showField(leverFields[pointed.index]);
+        main().activate(design());
+        design().showField(leverFields[pointed.index]);
     } else {
         control(elementName("WILowText", pointed.index)).takeFocus();
     }

@@ -75,15 +75,6 @@ void frmWhatIf::addOption(const std::string& array, std::size_t index, int capti
         .helpedBy("what_if#" + help);
 }
 
-Control& frmWhatIf::addOutput(const std::string& name, const std::string& frame) {
-    return add(name, ControlKind::label).in(frame).foundLate();
-}
-
-void frmWhatIf::addUnitLabel(const std::string& name, const std::string& frame, UnitTexts caption) {
-    unitCaptions_.push_back({name, caption});
-    add(name, ControlKind::label).in(frame);
-}
-
 /// A value above the limit or below 0 is refused as it is typed, one below a limit above 0 when the
 /// field is left: "3" may become "300".
 void frmWhatIf::addNumber(const NumberField& field, const std::string& help) {
@@ -107,12 +98,6 @@ void frmWhatIf::addNumber(const NumberField& field, const std::string& help) {
     if (number->least > 0) row.leastWhenLeft = number->least;
     row.changed = field.changed;
     addField(std::move(row));
-}
-
-void frmWhatIf::showCaptions() {
-    for (const UnitCaption& each : unitCaptions_)
-        control(each.control).setCaption(text(each.caption.in(units())));
-    fields().showCaptions();
 }
 
 void frmWhatIf::showInputs() {

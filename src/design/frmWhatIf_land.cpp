@@ -147,13 +147,13 @@ void frmWhatIf::WLPasteCommand_Click() {
                            : filledIn(text(Text::whatIfNoGoArea), {std::to_string(lines.polygon)});
     switch (lines.fault) {
         case LandFault::noNumbers:
-            landFault_ = filledIn(text(Text::whatIfPasteNumbers), {std::to_string(lines.line)});
+            pasteFault_ = filledIn(text(Text::whatIfPasteNumbers), {std::to_string(lines.line)});
             break;
         case LandFault::tooFewCorners:
-            landFault_ = filledIn(text(Text::whatIfPasteCorners), {name});
+            pasteFault_ = filledIn(text(Text::whatIfPasteCorners), {name});
             break;
         case LandFault::sidesCross:
-            landFault_ = filledIn(text(Text::whatIfPasteCrosses), {name});
+            pasteFault_ = filledIn(text(Text::whatIfPasteCrosses), {name});
             break;
         case LandFault::none:
             inputs().land.corner = lines.polygons.front();

@@ -90,7 +90,7 @@ void frmWhatIf::addSearch() {
 /// What the search would start from now, and nothing else: neither the design's own field nor what
 /// other pages ask matter to it.
 WhatIfCase frmWhatIf::layoutQuestion() const {
-    SecondOpinionCase now = design_.presentCase();
+    SecondOpinionCase now = design().presentCase();
     now.design.arrangement.patternRows = ArrangementValues{}.patternRows;
     now.design.arrangement.boreSeparation = ArrangementValues{}.boreSeparation;
     WhatIfInputs asked;
@@ -147,7 +147,7 @@ void frmWhatIf::showLayout() {
 }
 
 std::string frmWhatIf::layoutMessageNow() const {
-    if (!landFault_.empty()) return landFault_;
+    if (!pasteFault_.empty()) return pasteFault_;
     return layoutMessage(teller(), finder_.result());
 }
 
@@ -184,8 +184,8 @@ void frmWhatIf::WLTakeCommand_Click() {
     const std::optional<std::size_t> chosen = chosenField();
     if (!chosen) return;
     const LatticeField& field = finder_.result().fields[*chosen].field;
-    design_.takeField(static_cast<double>(field.rows), static_cast<double>(field.columns),
-                      field.separation);
+    design().takeField(static_cast<double>(field.rows), static_cast<double>(field.columns),
+                       field.separation);
 }
 
 void frmWhatIf::WLCopyCommand_Click() {

@@ -31,13 +31,13 @@ std::optional<std::size_t> frmWhatIf::bestTower() const {
 void frmWhatIf::showTower() {
     const TowerPicture picture = towerPicture();
     write("WTBestLabel", picture.best ? describe(picture, texts()) : "-");
-    control("WTTakeCommand").setEnabled(bestTower() && design_.towerMoves());
+    control("WTTakeCommand").setEnabled(bestTower() && design().towerMoves());
 }
 
 /// Asked for before the curve has been computed to its end, it computes the rest first.
 void frmWhatIf::WTTakeCommand_Click() {
     figures(&WhatIfWanted::tower);
-    if (const auto best = bestTower()) design_.moveTower(*best);
+    if (const auto best = bestTower()) design().moveTower(*best);
 }
 
 }  // namespace varnholt
