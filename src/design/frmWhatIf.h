@@ -56,6 +56,7 @@ class frmWhatIf : public ChildWindow {
 
  protected:
     bool workLate(bool whole) override;
+    void isRead(const Control& control) override;
     std::vector<Notice> notices() override;
 
  private:
@@ -97,7 +98,8 @@ class frmWhatIf : public ChildWindow {
     void write(const std::string& label, const std::string& caption);
     std::string titleNow() const;
     Page page() const;
-    WhatIfWanted wantedByPage() const;
+    /// The page that a control stands on; none for one that stands on every page.
+    std::optional<Page> pageOf(const Control& control) const;
     WhatIfCase presentCase() const;
     std::string nameOfDesign() const;
     std::vector<Alternative> otherDesigns() const;
@@ -173,6 +175,10 @@ class frmWhatIf : public ChildWindow {
 
     frmBHDesign& design_;
     std::vector<UnitCaption> unitCaptions_;
+    /// How many controls there are before the first page, and up to the end of each.
+    std::vector<std::size_t> pageEnds_;
+    /// The page that somebody reads from, in front or not.
+    std::optional<Page> read_;
     LateWhatIf late_;
     LayoutFinder finder_;
     /// How much of the finder's list is on show.

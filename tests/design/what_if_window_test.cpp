@@ -425,6 +425,32 @@ TEST_F(WhatIfWindow, SetsTheTowerByTheSliderOfTheDesign) {
     EXPECT_EQ(value("hybridPercent"), 0);
 }
 
+TEST_F(WhatIfWindow, SetsTheTowerThoughNobodyHasReadWhichIsBest) {
+    calculate();
+    what->choose("WITabs", 5);
+    const Control& command = what->control("WTTakeCommand");
+    ASSERT_TRUE(command.isLate());
+    what->catchUp(command);
+    EXPECT_TRUE(command.enabled());
+    what->click("WTTakeCommand");
+    EXPECT_EQ(value("hybridPercent"), 44);
+}
+
+TEST_F(WhatIfWindow, FindsWhatIsReadOfAPageThatIsNotInFront) {
+    what->choose("WITabs", 2);
+    enter("WIDepthText", "300");
+    what->catchUp(what->control("WIQuestionLabel"));
+    EXPECT_EQ(what->control("WIQuestionLabel").caption(), "68 of 100: 30 bores of 300 ft");
+    EXPECT_EQ(what->control("WCResultLabel(0)").caption(), "-");
+    what->catchUp(what->control("WCResultLabel(0)"));
+    // 30 x 300 x 14 + 30 x 200 + 5000 + 10 x (29 x 20 + 50)
+    EXPECT_EQ(what->control("WCResultLabel(0)").caption(), "$143,300");
+    what->catchUp(what->control("imgTornado"));
+    EXPECT_FALSE(what->tornadoPicture().bars.empty());
+    what->catchUp(what->control("WTBestLabel"));
+    EXPECT_EQ(what->towerPicture().best, std::size_t{44});
+}
+
 TEST_F(WhatIfWindow, ComputesNothingThatItsPageDoesNotShow) {
     what->choose("WITabs", 2);
     what->catchUp();
