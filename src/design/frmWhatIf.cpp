@@ -181,11 +181,15 @@ bool frmWhatIf::workLate(bool whole) {
 
 WhatIfTeller frmWhatIf::teller() const { return {texts(), units(), inputs().currency}; }
 
+WhatIfTeller frmWhatIf::tellerOf(bool WhatIfWanted::*part) const {
+    return {texts(), units(), inputs().currency, !late_.knows(part)};
+}
+
 TornadoPicture frmWhatIf::tornadoPicture() const {
-    return varnholt::tornadoPicture(teller(), known());
+    return varnholt::tornadoPicture(tellerOf(&WhatIfWanted::decides), known());
 }
 SurePicture frmWhatIf::surePicture() const {
-    return varnholt::surePicture(teller(), known(), inputs());
+    return varnholt::surePicture(tellerOf(&WhatIfWanted::sure), known(), inputs());
 }
 LandPicture frmWhatIf::landPicture() const {
     const std::optional<std::size_t> chosen = chosenField();
@@ -196,9 +200,12 @@ LandPicture frmWhatIf::landPicture() const {
 FieldsPicture frmWhatIf::fieldsPicture() const {
     return varnholt::fieldsPicture(teller(), finder_.result(), chosenField());
 }
-CostPicture frmWhatIf::costPicture() const { return varnholt::costPicture(teller(), known()); }
+CostPicture frmWhatIf::costPicture() const {
+    return varnholt::costPicture(tellerOf(&WhatIfWanted::cost), known());
+}
 TowerPicture frmWhatIf::towerPicture() const {
-    return varnholt::towerPicture(teller(), known(), control("WTJudgeOption(1)").checked());
+    return varnholt::towerPicture(tellerOf(&WhatIfWanted::tower), known(),
+                                  control("WTJudgeOption(1)").checked());
 }
 
 std::string frmWhatIf::descriptionOf(const std::string& image) const {

@@ -108,6 +108,8 @@ class frmWhatIf : public ChildWindow {
     const WhatIf& figures(bool WhatIfWanted::*part = nullptr);
     WhatIfInputs& inputs() const;
     WhatIfTeller teller() const;
+    /// One that says so while a part of the figures is still being found.
+    WhatIfTeller tellerOf(bool WhatIfWanted::*part) const;
     void registerValues();
     void registerInputs();
     void registerFigures();

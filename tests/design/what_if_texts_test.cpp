@@ -132,6 +132,20 @@ TEST_F(WhatIfTexts, DescribeAnEmptyPictureByItsReason) {
     EXPECT_EQ(describe(towerPicture(teller, none, true), texts), reason);
 }
 
+/// The need is known before all else, and what is drawn beside it comes later.
+TEST_F(WhatIfTexts, SayThatFiguresAreStillBeingFoundInPlaceOfAPictureWithoutAny) {
+    teller.working = true;
+    const WhatIf what = found();
+    const std::string working = texts.text(Text::whatIfWorking);
+    EXPECT_EQ(describe(tornadoPicture(teller, what), texts), working);
+    EXPECT_EQ(describe(surePicture(teller, what, {}), texts), working);
+    EXPECT_EQ(describe(costPicture(teller, what), texts), working);
+    EXPECT_EQ(describe(towerPicture(teller, what, true), texts), working);
+    EXPECT_EQ(describe(tornadoPicture(teller, {}), texts), working);
+    teller.working = false;
+    EXPECT_EQ(describe(costPicture(teller, what), texts), texts.text(Text::whatIfNoNeed));
+}
+
 TEST_F(WhatIfTexts, DescribeAPictureOfNothingByNothing) {
     // A window that has gone has nothing to show, and its pictures may still be asked.
     EXPECT_EQ(describe(FieldsPicture(), texts), "");

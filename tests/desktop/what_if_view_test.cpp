@@ -18,6 +18,7 @@
 #include "desktop/views/comparison_table.h"
 #include "desktop/widgets/qt_text.h"
 #include "drawing_samples.h"
+#include "forms/text_numbers.h"
 
 namespace varnholt {
 namespace {
@@ -236,6 +237,18 @@ struct Page {
 };
 constexpr Page pictures[] = {{0, "imgTornado"}, {1, "imgSure"}, {2, "imgLand"},
                              {2, "imgFields"},  {3, "imgCost"}, {5, "imgTower"}};
+
+/// The length stands long before what decides it, by g-functions.
+TEST_F(WhatIfView, DrawsNoBarsBeforeTheyAreFound) {
+    const std::string working = what().texts().text(Text::whatIfWorking);
+    EXPECT_EQ(what().descriptionOf("imgTornado"), working);
+    const QDeadlineTimer patience(60'000);
+    while (what().control("WINeedLabel(0)").caption() == "-" && !patience.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    EXPECT_EQ(what().descriptionOf("imgTornado"), working);
+    idle();
+    EXPECT_EQ(what().tornadoPicture().bars.size(), quantityTexts.size() + leverTexts.size());
+}
 
 TEST_F(WhatIfView, TellsAScreenReaderWhatAScriptReads) {
     what().click("WIMeasureOption(0)");
