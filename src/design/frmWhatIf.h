@@ -24,6 +24,9 @@ class frmBHDesign;
 /// and shows them. It closes with its design. Each page has a file of its own.
 class frmWhatIf : public ChildWindow {
  public:
+    /// Columns of the table of alternatives; the list has them all.
+    static constexpr std::size_t alternativeColumns = 16;
+
     /// @param design  outlives the window
     explicit frmWhatIf(frmBHDesign& design);
 

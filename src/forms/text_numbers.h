@@ -1746,5 +1746,6 @@ constexpr int whatIfTowerLifeTells = 3789;
 constexpr int whatIfTowerFirstTells = 3790;
 constexpr int whatIfTowerHeating = 3791;
 constexpr int whatIfHeatingGoverns = 3792;
+constexpr int whatIfMoreAlternatives = 3793;
 
 }  // namespace varnholt::Text

@@ -400,6 +400,19 @@ TEST_F(WhatIfWindow, KeepsAnAlternativeAndPutsItBackInOneStep) {
     EXPECT_EQ(value("boreSeparation"), 12);
 }
 
+TEST_F(WhatIfWindow, SaysHowManyAlternativesFindNoPlaceInTheTable) {
+    texts.known.insert({Text::whatIfMoreAlternatives, "%1 of %2"});
+    what->choose("WITabs", 4);
+    constexpr std::size_t columns = frmWhatIf::alternativeColumns;
+    // The design itself stands in the first column.
+    for (std::size_t kept = 1; kept < columns; ++kept) what->click("WVKeepCommand");
+    EXPECT_EQ(captioned("WVReasonLabel"), "");
+    EXPECT_NE(captioned(elementName("WVLengthLabel", columns - 1)), "");
+    what->click("WVKeepCommand");
+    EXPECT_EQ(captioned("WVReasonLabel"), "16 of 17");
+    EXPECT_EQ(what->control("WVList").items().size(), columns + 1);
+}
+
 TEST_F(WhatIfWindow, RemovesAnAlternativeThatWasKept) {
     what->type("WVNameText", "Wide");
     what->click("WVKeepCommand");

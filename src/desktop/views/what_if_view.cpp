@@ -14,8 +14,6 @@
 namespace varnholt {
 namespace {
 
-constexpr std::size_t alternativeColumns = 8;
-
 const frmWhatIf* formOf(const Binder& bind) { return static_cast<const frmWhatIf*>(bind.form()); }
 
 /// What the form has to show, or nothing once it has gone.
@@ -201,14 +199,14 @@ QWidget* costPage(Binder& bind) {
 // Alternatives.
 
 QWidget* comparison(Binder& bind) {
+    constexpr std::size_t columns = frmWhatIf::alternativeColumns;
     constexpr const char* arrays[] = {"WVLength", "WVBores", "WVDepth",
                                       "WVFirst",  "WVLife",  "WVEnergy"};
-    std::vector<FieldRow> rows{headRow(bind, "WVHeadLabel", alternativeColumns)};
+    std::vector<FieldRow> rows{headRow(bind, "WVHeadLabel", columns)};
     for (std::size_t i = 0; i < std::size(arrays); ++i) {
         const std::string array = arrays[i];
-        rows.push_back(
-            figureRow(bind, elementName("WVRowLabel", i), array + "Label", alternativeColumns));
-        rows.push_back(headRow(bind, array + "ChangeLabel", alternativeColumns));
+        rows.push_back(figureRow(bind, elementName("WVRowLabel", i), array + "Label", columns));
+        rows.push_back(headRow(bind, array + "ChangeLabel", columns));
     }
     auto* table = new ComparisonTable(rows);
     table->setObjectName(QStringLiteral("alternativesTable"));
