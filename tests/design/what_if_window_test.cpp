@@ -75,6 +75,8 @@ TEST_F(WhatIfWindow, RefusesWhatIsOutOfRange) {
                  {"WILowText(0)", "90", "spreadLow(0)", 90, 90},
                  {"WIHighText(0)", "301", "spreadHigh(0)", 20, 20},
                  {"WIHighText(2)", "31", "spreadHigh(2)", 2, 2},
+                 {"WILowText(2)", "31", "spreadLow(2)", 2, 2},
+                 {"WILowText(2)", "30", "spreadLow(2)", 30, 30},
                  {"WIHighText(8)", "301", "spreadHigh(8)", 10, 10},
                  {"WITieText(0)", "0.96", "tie(0)", 0, 0},
                  {"WITieText(0)", "-0.95", "tie(0)", -0.95, -0.95},

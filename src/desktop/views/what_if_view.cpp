@@ -191,8 +191,12 @@ QWidget* costPage(Binder& bind) {
             bind.figure(elementName("WCResultCaptionLabel", i), elementName("WCResultLabel", i)));
     QWidget* picture = bind.drawing(
         "imgCost", newCostDrawing(from(bind, &frmWhatIf::costPicture), bind.form()->texts()));
-    QWidget* cost = group(bind.frame("WCResultFrame"), reflow(gridOf(parts), grow(gridOf(results))),
-                          grow(picture), mutedText(bind, "WCLeftOutLabel"));
+    QWidget* figures = gridOf(parts);
+    // Room between a figure and the caption beside it.
+    figures->setContentsMargins(0, 0, 4 * gridStep, 0);
+    QWidget* cost = group(bind.frame("WCResultFrame"),
+                          reflow(figures, grow(column(gridOf(results), stretch()))), grow(picture),
+                          mutedText(bind, "WCLeftOutLabel"));
     return column(reflow(build, others, grow(energy)), grow(cost));
 }
 
