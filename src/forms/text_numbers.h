@@ -1749,5 +1749,6 @@ constexpr int whatIfHeatingGoverns = 3792;
 constexpr int whatIfMoreAlternatives = 3793;
 constexpr int whatIfSomeSpreadsBuiltIn = 3794;
 constexpr int whatIfSomePricesBuiltIn = 3795;
+constexpr int alternativeWithoutYear = 3796;
 
 }  // namespace varnholt::Text

@@ -248,6 +248,20 @@ TEST(WhatIf, ComparesAlternativesEachAtItsOwnNeed) {
     EXPECT_EQ(result.alternatives[3].first, 0);
 }
 
+TEST(WhatIf, KnowsNoCostOverLifeOfALoopWithoutLoads) {
+    WhatIfCase theCase = officeCase();
+    Alternative trench{"Trenches", AlternativeKind::horizontal, {}, {}};
+    trench.loop.pipe = 12'000;
+    trench.loop.trench = 6'000;
+    theCase.others = {trench};
+    const AlternativeFigures loop = found(theCase, {.alternatives = true}).alternatives.at(1);
+    EXPECT_EQ(loop.length, 12'000);
+    EXPECT_EQ(loop.first, 5'000 + 8 * 6'000 + 12'000);
+    EXPECT_EQ(loop.energy, 0);
+    EXPECT_EQ(loop.life, 0);
+    EXPECT_EQ(loop.reason.text, Text::alternativeWithoutYear);
+}
+
 TEST(WhatIf, ComputesAlternativesWhereTheDesignItselfHasNone) {
     WhatIfCase theCase = officeCase();
     theCase.inputs.alternatives.push_back({"Sound", std::make_shared<BoreholeProject>()});
