@@ -231,6 +231,19 @@ TEST_F(WhatIfWindow, MakesAnOutlineOfARectangleWhoseCornerIsTyped) {
     EXPECT_TRUE(inputs().land.corner.empty());
 }
 
+TEST_F(WhatIfWindow, SaysAtOnceWhenATypedCornerMakesSidesCross) {
+    what->choose("WITabs", 2);
+    what->choose("WLCornerList", 2);
+    // From (300, 0) to (-50, 100) a side runs through the one from (0, 200) to (0, 0).
+    enter("WLCornerXText", "-50");
+    enter("WLCornerYText", "100");
+    EXPECT_EQ(captioned("WLMessageLabel"), texts.text(Text::layoutOutlineCrosses));
+    EXPECT_EQ(what->descriptionOf("imgLand"), captioned("WLMessageLabel"));
+    EXPECT_EQ(held("landArea"), 0);
+    enter("WLCornerXText", "250");
+    EXPECT_EQ(captioned("WLMessageLabel"), "");
+}
+
 // The search. Nobody works between two actions here, so it ends with its click.
 
 TEST_F(WhatIfWindow, FindsFieldsAndChoosesTheCheapest) {
