@@ -282,6 +282,18 @@ TEST_F(WhatIfView, ClosesWhileItIsMaximisedWithAnyPageInFront) {
     EXPECT_TRUE(desk.faults.empty());
 }
 
+TEST_F(WhatIfView, TellsInWhichUnitTheDepthsOfTheFieldsAre) {
+    FieldsPicture fields;
+    fields.fields = {{24, 320, 120'000}, {30, 300, 130'000}};
+    const auto drawn = [&](const char* unit) {
+        fields.unit = unit;
+        const auto paint = [&](const Canvas& c) { paintFields(c, fields, what().texts()); };
+        return renderedSample({"what_if_fields", {320, 220}, paint}, lightLook(), 1);
+    };
+    EXPECT_EQ(drawn("ft"), drawn("ft"));
+    EXPECT_NE(drawn("ft"), drawn("m"));
+}
+
 TEST_F(WhatIfView, DrawsItsPicturesInBothSchemesAtEverySize) {
     what().click("WIMeasureOption(0)");
     what().choose("WITabs", 2);
