@@ -52,16 +52,16 @@ frmWhatIf::Page frmWhatIf::page() const {
     return static_cast<Page>(std::max(0, control("WITabs").index()));
 }
 
-/// A page needs what it shows and no more.
-WhatIfWanted frmWhatIf::wantedByPage() const {
-    WhatIfWanted wanted;
-    wanted.decides = page() == decidesPage;
-    wanted.sure = page() == surePage;
-    wanted.cost = page() == costPage;
-    wanted.alternatives = page() == alternativesPage;
-    wanted.tower = page() == towerPage;
-    return wanted;
+std::optional<frmWhatIf::Page> frmWhatIf::pageOf(const Control& control) const {
+    const auto here = [&](const auto& each) { return each.get() == &control; };
+    const auto place = static_cast<std::size_t>(
+        std::find_if(controls().begin(), controls().end(), here) - controls().begin());
+    if (place < pageEnds_.front() || place >= pageEnds_.back()) return std::nullopt;
+    const auto end = std::upper_bound(pageEnds_.begin(), pageEnds_.end(), place);
+    return static_cast<Page>(end - pageEnds_.begin() - 1);
 }
+
+void frmWhatIf::isRead(const Control& control) { read_ = pageOf(control); }
 
 std::vector<Alternative> frmWhatIf::otherDesigns() const {
     std::vector<Alternative> others;
@@ -112,10 +112,19 @@ const WhatIf& frmWhatIf::figures(bool WhatIfWanted::*part) {
     return known();
 }
 
-/// The search goes on behind the figures that stand on every page.
+/// A page needs what it shows and no more. The search goes on behind the figures that stand on
+/// every page.
 bool frmWhatIf::workLate(bool whole) {
     const int revision = late_.revision(), list = finder_.revision();
-    const bool found = late_.advance(presentCase(), wantedByPage(), whole);
+    const std::optional<Page> read = std::exchange(read_, std::nullopt);
+    const auto asked = [&](Page of) { return page() == of || read == of; };
+    WhatIfWanted wanted;
+    wanted.decides = asked(decidesPage);
+    wanted.sure = asked(surePage);
+    wanted.cost = asked(costPage);
+    wanted.alternatives = asked(alternativesPage);
+    wanted.tower = asked(towerPage);
+    const bool found = late_.advance(presentCase(), wanted, whole);
     const bool searched = found || whole ? finder_.advance(whole) : !finder_.isRunning();
     const bool done = found && searched;
     const bool more = revision != late_.revision() || list != finder_.revision();
@@ -126,11 +135,15 @@ bool frmWhatIf::workLate(bool whole) {
 
 WhatIfTeller frmWhatIf::teller() const { return {texts(), units(), inputs().currency}; }
 
+WhatIfTeller frmWhatIf::tellerOf(bool WhatIfWanted::*part) const {
+    return {texts(), units(), inputs().currency, !late_.knows(part)};
+}
+
 TornadoPicture frmWhatIf::tornadoPicture() const {
-    return varnholt::tornadoPicture(teller(), known());
+    return varnholt::tornadoPicture(tellerOf(&WhatIfWanted::decides), known());
 }
 SurePicture frmWhatIf::surePicture() const {
-    return varnholt::surePicture(teller(), known(), inputs());
+    return varnholt::surePicture(tellerOf(&WhatIfWanted::sure), known(), inputs());
 }
 LandPicture frmWhatIf::landPicture() const {
     const std::optional<std::size_t> chosen = chosenField();
@@ -141,9 +154,12 @@ LandPicture frmWhatIf::landPicture() const {
 FieldsPicture frmWhatIf::fieldsPicture() const {
     return varnholt::fieldsPicture(teller(), finder_.result(), chosenField());
 }
-CostPicture frmWhatIf::costPicture() const { return varnholt::costPicture(teller(), known()); }
+CostPicture frmWhatIf::costPicture() const {
+    return varnholt::costPicture(tellerOf(&WhatIfWanted::cost), known());
+}
 TowerPicture frmWhatIf::towerPicture() const {
-    return varnholt::towerPicture(teller(), known(), control("WTJudgeOption(1)").checked());
+    return varnholt::towerPicture(tellerOf(&WhatIfWanted::tower), known(),
+                                  control("WTJudgeOption(1)").checked());
 }
 
 std::string frmWhatIf::descriptionOf(const std::string& image) const {

@@ -19,6 +19,9 @@ namespace varnholt {
 /// tower is cheapest. Each page has a file of its own.
 class frmWhatIf : public BesideDesign {
  public:
+    /// Columns of the table of alternatives; the list has them all.
+    static constexpr std::size_t alternativeColumns = 16;
+
     /// @param design  outlives the window
     explicit frmWhatIf(frmBHDesign& design);
 
@@ -40,6 +43,7 @@ class frmWhatIf : public BesideDesign {
 
  protected:
     bool workLate(bool whole) override;
+    void isRead(const Control& control) override;
     std::vector<Notice> notices() override;
     void showInputs() override;
     void showFigures() override;
@@ -72,7 +76,8 @@ class frmWhatIf : public BesideDesign {
     void showTop();
     void write(const std::string& label, const std::string& caption);
     Page page() const;
-    WhatIfWanted wantedByPage() const;
+    /// The page that a control stands on; none for one that stands on every page.
+    std::optional<Page> pageOf(const Control& control) const;
     WhatIfCase presentCase() const;
     std::string nameOfDesign() const;
     std::vector<Alternative> otherDesigns() const;
@@ -81,6 +86,8 @@ class frmWhatIf : public BesideDesign {
     const WhatIf& figures(bool WhatIfWanted::*part = nullptr);
     WhatIfInputs& inputs() const;
     WhatIfTeller teller() const;
+    /// One that says so while a part of the figures is still being found.
+    WhatIfTeller tellerOf(bool WhatIfWanted::*part) const;
     void registerValues();
     void registerInputs();
     void registerFigures();
@@ -144,6 +151,10 @@ class frmWhatIf : public BesideDesign {
     std::optional<std::size_t> bestTower() const;
     void WTTakeCommand_Click();
 
+    /// How many controls there are before the first page, and up to the end of each.
+    std::vector<std::size_t> pageEnds_;
+    /// The page that somebody reads from, in front or not.
+    std::optional<Page> read_;
     LateWhatIf late_;
     LayoutFinder finder_;
     /// How much of the finder's list is on show.

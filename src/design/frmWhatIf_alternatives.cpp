@@ -6,6 +6,7 @@
 #include "basis/number_text.h"
 #include "design/frmBHDesign.h"
 #include "design/frmWhatIf.h"
+#include "design/shared_texts.h"
 #include "forms/text_numbers/what_if_window.h"
 
 namespace varnholt {
@@ -13,9 +14,6 @@ namespace {
 
 constexpr const char* keepFrame = "WVKeepFrame";
 constexpr const char* alternativesFrame = "WVTableFrame";
-
-/// Columns of the table; the list has them all.
-constexpr std::size_t alternativeColumns = 8;
 
 /// A row of the table: the lower the better where one is best at all.
 struct AlternativeRow {
@@ -102,8 +100,12 @@ void frmWhatIf::showAlternatives() {
     std::string reasons;
     for (const AlternativeFigures& each : all) {
         if (!each.reason.holds()) continue;
-        reasons += (reasons.empty() ? "" : " ") + each.name + ": " + teller().reason(each.reason);
+        appendSentence(reasons, each.name + ": " + teller().reason(each.reason));
     }
+    if (all.size() > alternativeColumns)
+        appendSentence(reasons,
+                       filledIn(text(Text::whatIfMoreAlternatives),
+                                {std::to_string(alternativeColumns), std::to_string(all.size())}));
     write("WVReasonLabel", reasons);
     for (std::size_t n = 0; n < alternativeColumns; ++n) {
         write(elementName("WVHeadLabel", n), n < all.size() ? all[n].name : std::string());

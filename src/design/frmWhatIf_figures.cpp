@@ -41,12 +41,13 @@ void frmWhatIf::addControls() {
           Text::whatIfCostPage, Text::whatIfAlternativesPage, Text::whatIfTowerPage})
         pages.push_back(text(number));
     add("WITabs", ControlKind::tabs).setItems(std::move(pages)).setIndex(0);
-    addDecides();
-    addSure();
-    addLayout();
-    addCost();
-    addAlternatives();
-    addTower();
+    pageEnds_ = {controls().size()};
+    for (void (frmWhatIf::*addPage)() :
+         {&frmWhatIf::addDecides, &frmWhatIf::addSure, &frmWhatIf::addLayout, &frmWhatIf::addCost,
+          &frmWhatIf::addAlternatives, &frmWhatIf::addTower}) {
+        (this->*addPage)();
+        pageEnds_.push_back(controls().size());
+    }
 }
 
 void frmWhatIf::addTop() {

@@ -148,6 +148,9 @@ void frmWhatIf::showLayout() {
 
 std::string frmWhatIf::layoutMessageNow() const {
     if (!pasteFault_.empty()) return pasteFault_;
+    // A corner that is moved may make sides cross long before anybody searches.
+    const Reason reason = reasonAgainst(landOf(withinLimits(inputs()).land));
+    if (reason.holds()) return teller().reason(reason);
     return layoutMessage(teller(), finder_.result());
 }
 

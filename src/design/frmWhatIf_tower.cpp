@@ -18,7 +18,8 @@ void frmWhatIf::addTower() {
     addOutput("WTBestLabel", frame);
     add("WTTakeCommand", ControlKind::button, Text::whatIfSetTower)
         .in(frame)
-        .helpedBy("what_if#tower");
+        .helpedBy("what_if#tower")
+        .foundLate();
     onClick("WTTakeCommand", [this] { WTTakeCommand_Click(); });
     add("imgTower", ControlKind::image, Text::whatIfTowerPicture).foundLate();
 }

@@ -21,6 +21,8 @@ class LateWhatIf {
     const WhatIf& known() const { return known_; }
     /// Nothing of the case asked for last is still to come.
     bool isFinal() const { return !run_; }
+    /// Whether a part stands in what is known, down to its last figure.
+    bool knows(bool WhatIfWanted::*part) const { return showsCase_ && knownParts_.*part; }
     /// Grows whenever more is known.
     int revision() const { return revision_; }
 

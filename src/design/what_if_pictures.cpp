@@ -20,10 +20,20 @@ constexpr std::size_t dotCount = 20;
 constexpr std::size_t curvePlaces = 100;
 
 /// Why a page has nothing to draw.
-std::string emptyBecause(const WhatIfTeller& teller, const WhatIf& found) {
-    if (found.needGoverning > 0) return {};
-    const std::string message = whatIfMessage(teller, found);
-    return message.empty() ? teller.text(Text::whatIfNoNeed) : message;
+/// @param there  what it draws has been found
+std::string emptyBecause(const WhatIfTeller& teller, const WhatIf& found, bool there) {
+    const bool needs = found.needGoverning > 0;
+    if (needs && there) return {};
+    const std::string message = needs ? std::string() : whatIfMessage(teller, found);
+    if (!message.empty()) return message;
+    return teller.text(teller.working ? Text::whatIfWorking : Text::whatIfNoNeed);
+}
+
+/// A bar at least is as long as the base, so all of them are 0 until they have been found.
+bool hasBars(const WhatIf& found) {
+    const auto isLong = [](double length) { return length > 0; };
+    return std::any_of(found.tornadoLow.begin(), found.tornadoLow.end(), isLong) ||
+           std::any_of(found.tornadoHigh.begin(), found.tornadoHigh.end(), isLong);
 }
 
 std::string lengthUnitOf(const WhatIfTeller& teller) {
@@ -64,7 +74,7 @@ Polygon shownPolygon(const WhatIfTeller& teller, Polygon polygon) {
 
 TornadoPicture tornadoPicture(const WhatIfTeller& teller, const WhatIf& found) {
     TornadoPicture picture;
-    picture.empty = emptyBecause(teller, found);
+    picture.empty = emptyBecause(teller, found, hasBars(found));
     if (!picture.empty.empty()) return picture;
     picture.base = shownLength(teller, found.needGoverning);
     picture.unit = lengthUnitOf(teller);
@@ -90,7 +100,7 @@ TornadoPicture tornadoPicture(const WhatIfTeller& teller, const WhatIf& found) {
 SurePicture surePicture(const WhatIfTeller& teller, const WhatIf& found,
                         const WhatIfInputs& inputs) {
     SurePicture picture;
-    picture.empty = emptyBecause(teller, found);
+    picture.empty = emptyBecause(teller, found, !found.needs.empty());
     if (!picture.empty.empty()) return picture;
     picture.curve = placesOf(teller, found.needs, found.bores, curvePlaces);
     picture.other = placesOf(teller, found.otherNeeds, found.bores, curvePlaces);
@@ -148,10 +158,10 @@ FieldsPicture fieldsPicture(const WhatIfTeller& teller, const Layouts& found,
 
 CostPicture costPicture(const WhatIfTeller& teller, const WhatIf& found) {
     CostPicture picture;
-    picture.empty = found.firstCost > 0 ? std::string() : emptyBecause(teller, found);
-    if (!(found.firstCost > 0) && picture.empty.empty())
-        picture.empty = teller.text(Text::whatIfNoNeed);
-    if (!picture.empty.empty()) return picture;
+    if (!(found.firstCost > 0)) {
+        picture.empty = emptyBecause(teller, found, false);
+        return picture;
+    }
     for (std::size_t part = 0; part < costPartTexts.size(); ++part)
         if (found.costPart[part] > 0)
             picture.parts.push_back({captionWords(teller.text(costPartTexts[part])),
@@ -164,8 +174,7 @@ TowerPicture towerPicture(const WhatIfTeller& teller, const WhatIf& found, bool 
     TowerPicture picture;
     const TowerCurve& curve = found.tower;
     if (!curve.best) {
-        picture.empty = emptyBecause(teller, found);
-        if (picture.empty.empty()) picture.empty = teller.text(Text::whatIfNoNeed);
+        picture.empty = emptyBecause(teller, found, false);
         return picture;
     }
     picture.first.assign(curve.first.begin(), curve.first.end());

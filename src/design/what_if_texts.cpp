@@ -57,6 +57,38 @@ std::string otherMethodClause(const WhatIfTeller& teller, const WhatIf& found,
     return filledIn(teller.text(words), {formatNumber(std::abs(difference), "###0")});
 }
 
+/// Whether the spreads are all those that the program gives for this knowledge of the ground, or
+/// some of them. That the method itself is not in doubt is nobody's figure.
+void tellOfSpreads(const WhatIfTeller& teller, const WhatIfInputs& inputs, std::string& note) {
+    const Spreads builtIn = withKnowledge({}, static_cast<GroundKnowledge>(inputs.knowledge));
+    const Spreads& now = inputs.spreads;
+    if (now == builtIn) return appendSentence(note, teller.text(Text::whatIfSpreadsBuiltIn));
+    for (std::size_t j = 0; j < method; ++j)
+        if (now.low[j] == builtIn.low[j] && now.high[j] == builtIn.high[j])
+            return appendSentence(note, teller.text(Text::whatIfSomeSpreadsBuiltIn));
+}
+
+/// Whether any sum of money is the program's, beside some that are not.
+bool hasPriceBuiltIn(const Prices& prices) {
+    constexpr double Prices::*sums[] = {&Prices::costFixed, &Prices::costBore,   &Prices::costFoot,
+                                        &Prices::costDeep,  &Prices::costTrench, &Prices::costTower,
+                                        &Prices::costCare,  &Prices::costGround, &Prices::costPipe,
+                                        &Prices::costEnergy};
+    const Prices builtIn;
+    return std::any_of(std::begin(sums), std::end(sums),
+                       [&](double Prices::*sum) { return prices.*sum == builtIn.*sum; });
+}
+
+void tellOfPrices(const WhatIfTeller& teller, const WhatIfInputs& inputs, std::string& note) {
+    const bool builtIn = inputs.prices == Prices{};
+    const int words = builtIn                   ? Text::whatIfPricesBuiltIn
+                      : inputs.pricesOf.empty() ? Text::whatIfPricesIn
+                                                : Text::whatIfPricesOf;
+    appendSentence(note, filledIn(teller.text(words), {inputs.currency, inputs.pricesOf}));
+    if (!builtIn && hasPriceBuiltIn(inputs.prices))
+        appendSentence(note, teller.text(Text::whatIfSomePricesBuiltIn));
+}
+
 }  // namespace
 
 const std::array<int, quantityCount> quantityTexts{
@@ -164,12 +196,8 @@ std::string whatIfNote(const WhatIfTeller& teller, const WhatIf& found,
     const std::string clause = otherMethodClause(teller, found, inputs.measure);
     std::string note = clause.empty() ? teller.text(Text::whatIfNotCounted)
                                       : filledIn(teller.text(Text::whatIfNotCountedBut), {clause});
-    if (inputs.spreads == Spreads{}) appendSentence(note, teller.text(Text::whatIfSpreadsBuiltIn));
-    const bool builtIn = inputs.prices == Prices{};
-    const int prices = builtIn                   ? Text::whatIfPricesBuiltIn
-                       : inputs.pricesOf.empty() ? Text::whatIfPricesIn
-                                                 : Text::whatIfPricesOf;
-    appendSentence(note, filledIn(teller.text(prices), {inputs.currency, inputs.pricesOf}));
+    tellOfSpreads(teller, inputs, note);
+    tellOfPrices(teller, inputs, note);
     return note;
 }
 
@@ -191,7 +219,7 @@ std::string testSentence(const WhatIfTeller& teller, const WhatIf& found,
     const double saved = drilling(found.confidentDepth) - drilling(found.testDepth);
     return filledIn(
         teller.text(Text::whatIfTestSaves),
-        {teller.depthAtLeast(found.testDepth), teller.depthAtLeast(found.confidentDepth),
+        {figureAtLeast(teller, found.testDepth, 0), teller.depthAtLeast(found.confidentDepth),
          formatNumber(inputs.confidence, "#0"), teller.length(found.testSaves),
          teller.money(roundedMoney(saved))});
 }

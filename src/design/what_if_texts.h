@@ -25,6 +25,7 @@ struct WhatIfTeller {
     const Texts& texts;
     UnitSystem units;
     std::string currency = "$";
+    bool working = false;  ///< figures are still being found
 
     std::string text(int number) const { return texts.text(number); }
 

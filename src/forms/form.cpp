@@ -319,6 +319,11 @@ bool Form::hasIdleTime() const {
 /// A reader is told what holds now, whether or not it is known to have changed.
 void Form::catchUp() { behind_ = !workLate(true); }
 
+void Form::catchUp(const Control& read) {
+    isRead(read);
+    catchUp();
+}
+
 void Form::catchUpABit() {
     if (behind_) behind_ = !workLate(false);
 }

@@ -136,6 +136,8 @@ class Form {
     bool isBehind() const { return behind_; }
     /// Somebody reads: finds them all.
     void catchUp();
+    /// Somebody reads one control: finds what it shows, also where nobody sees it.
+    void catchUp(const Control& read);
     /// Finds a part of them, in a few milliseconds.
     void catchUpABit();
 
@@ -189,6 +191,9 @@ class Form {
     /// Does a part of the work that is due, or all of it, and shows what has been found. True when
     /// nothing is left to do.
     virtual bool workLate(bool /*whole*/) { return true; }
+    /// The whole of the late work comes next, and what one control shows belongs to it even where
+    /// that control is out of sight.
+    virtual void isRead(const Control& /*control*/) {}
     /// Code has put another state into the form: no field is being visited any more.
     void endVisit() { visited_.clear(); }
 

@@ -211,7 +211,7 @@ void ScriptCommands::print(std::string& rest) {
     const Property wanted = property.value_or(usual);
     if (!hasProperty(kind, wanted))
         throw ScriptFault(fmt::format("a {} has no {}", varnholt::nameOf(kind), nameOf(wanted)));
-    if (target.control.isLate()) target.form.catchUp();
+    if (target.control.isLate()) target.form.catchUp(target.control);
     const std::string suffix = wanted == usual ? "" : std::string(".") + nameOf(wanted);
     transcript_.line(fmt::format("{}.{}{} = {}", platform_.forms().nameOf(target.form),
                                  target.control.name(), suffix,
@@ -325,7 +325,7 @@ ScriptCommands::Target ScriptCommands::workable(std::string& rest,
     requireReachable(target.form);
     if (&target.form != active()) driver_.activate(target.form);
     // A person works what they see, and that is there by then.
-    if (control.isLate()) target.form.catchUp();
+    if (control.isLate()) target.form.catchUp(control);
     if (!target.form.isShown(control))
         throw ScriptFault(fmt::format("{} is not visible", control.name()));
     if (!isEnabled(target.form, control))

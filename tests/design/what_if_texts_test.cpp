@@ -28,6 +28,8 @@ class WhatIfTexts : public testing::Test {
                             {Text::whatIfClassicalLess, "classical %1 less"},
                             {Text::whatIfSpreadsBuiltIn, "Spreads not yours."},
                             {Text::whatIfPricesBuiltIn, "Prices not yours, %1."},
+                            {Text::whatIfSomeSpreadsBuiltIn, "Some spreads not yours."},
+                            {Text::whatIfSomePricesBuiltIn, "Some prices not yours."},
                             {Text::whatIfPricesIn, "Prices in %1."},
                             {Text::whatIfPricesOf, "Prices in %1 of %2."},
                             {Text::layoutTooDeep, "%1 by %2, %3 apart: %4 of %5"}});
@@ -81,7 +83,7 @@ TEST_F(WhatIfTexts, GroupDigitsAndPutTheCurrencyBefore) {
 
 /// 528 ft at $14: 30 x (342.5 - 324.9) x 14 = $7,392, of which two figures count.
 TEST_F(WhatIfTexts, TellWhatATestWouldSave) {
-    EXPECT_EQ(testSentence(teller, found(), {}), "325 ft for 343 ft in 90: 528 ft, $7,400");
+    EXPECT_EQ(testSentence(teller, found(), {}), "325 for 343 ft in 90: 528 ft, $7,400");
     WhatIf nothing = found();
     nothing.testSaves = 0;
     EXPECT_EQ(testSentence(teller, nothing, {}), "");
@@ -104,10 +106,37 @@ TEST_F(WhatIfTexts, SayWhatIsNotInTheFigureAndWhoseFiguresTheyAre) {
     WhatIf turned = found();
     std::swap(turned.needGoverning, turned.otherNeed);
     // 8297/9762 = 0.8499.
-    EXPECT_EQ(whatIfNote(teller, turned, inputs), "Not counted; classical 15 less. Prices in $.");
+    EXPECT_EQ(whatIfNote(teller, turned, inputs),
+              "Not counted; classical 15 less. Some spreads not yours. Prices in $. "
+              "Some prices not yours.");
     inputs.pricesOf = "2027";
     turned.otherNeed = 0;
-    EXPECT_EQ(whatIfNote(teller, turned, inputs), "Not counted. Prices in $ of 2027.");
+    EXPECT_EQ(whatIfNote(teller, turned, inputs),
+              "Not counted. Some spreads not yours. Prices in $ of 2027. Some prices not yours.");
+}
+
+TEST_F(WhatIfTexts, CallTheSpreadsOfTheGroundsKnowledgeTheProgramsOwn) {
+    WhatIf alone = found();
+    alone.otherNeed = 0;
+    WhatIfInputs inputs;
+    inputs.knowledge = responseTest;
+    inputs.spreads = withKnowledge({}, responseTest);
+    EXPECT_EQ(whatIfNote(teller, alone, inputs),
+              "Not counted. Spreads not yours. Prices not yours, $.");
+}
+
+TEST_F(WhatIfTexts, CallNothingTheProgramsOwnOnceAllIsTyped) {
+    WhatIf alone = found();
+    alone.otherNeed = 0;
+    WhatIfInputs inputs;
+    inputs.knowledge = knownAsTyped;
+    for (std::size_t j = 0; j < method; ++j) ++inputs.spreads.low[j];
+    Prices& prices = inputs.prices;
+    for (double* sum : {&prices.costFixed, &prices.costBore, &prices.costFoot, &prices.costDeep,
+                        &prices.costTrench, &prices.costTower, &prices.costCare, &prices.costGround,
+                        &prices.costPipe, &prices.costEnergy})
+        ++*sum;
+    EXPECT_EQ(whatIfNote(teller, alone, inputs), "Not counted. Prices in $.");
 }
 
 TEST_F(WhatIfTexts, TellAReasonInTheUnitsShown) {
@@ -132,6 +161,20 @@ TEST_F(WhatIfTexts, DescribeAnEmptyPictureByItsReason) {
     EXPECT_EQ(describe(surePicture(teller, none, {}), texts), reason);
     EXPECT_EQ(describe(costPicture(teller, none), texts), reason);
     EXPECT_EQ(describe(towerPicture(teller, none, true), texts), reason);
+}
+
+/// The need is known before all else, and what is drawn beside it comes later.
+TEST_F(WhatIfTexts, SayThatFiguresAreStillBeingFoundInPlaceOfAPictureWithoutAny) {
+    teller.working = true;
+    const WhatIf what = found();
+    const std::string working = texts.text(Text::whatIfWorking);
+    EXPECT_EQ(describe(tornadoPicture(teller, what), texts), working);
+    EXPECT_EQ(describe(surePicture(teller, what, {}), texts), working);
+    EXPECT_EQ(describe(costPicture(teller, what), texts), working);
+    EXPECT_EQ(describe(towerPicture(teller, what, true), texts), working);
+    EXPECT_EQ(describe(tornadoPicture(teller, {}), texts), working);
+    teller.working = false;
+    EXPECT_EQ(describe(costPicture(teller, what), texts), texts.text(Text::whatIfNoNeed));
 }
 
 TEST_F(WhatIfTexts, DescribeAPictureOfNothingByNothing) {

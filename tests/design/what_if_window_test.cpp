@@ -6,6 +6,7 @@
 
 #include "basis/number_text.h"
 #include "design/whatIf/what_if_values.h"
+#include "forms/text_numbers/what_if.h"
 #include "forms/text_numbers/what_if_window.h"
 #include "what_if_window.h"
 
@@ -76,6 +77,8 @@ TEST_F(WhatIfWindow, RefusesWhatIsOutOfRange) {
                  {"WILowText(0)", "90", "spreadLow(0)", 90, 90},
                  {"WIHighText(0)", "301", "spreadHigh(0)", 20, 20},
                  {"WIHighText(2)", "31", "spreadHigh(2)", 2, 2},
+                 {"WILowText(2)", "31", "spreadLow(2)", 2, 2},
+                 {"WILowText(2)", "30", "spreadLow(2)", 30, 30},
                  {"WIHighText(8)", "301", "spreadHigh(8)", 10, 10},
                  {"WITieText(0)", "0.96", "tie(0)", 0, 0},
                  {"WITieText(0)", "-0.95", "tie(0)", -0.95, -0.95},
@@ -228,6 +231,19 @@ TEST_F(WhatIfWindow, MakesAnOutlineOfARectangleWhoseCornerIsTyped) {
     EXPECT_EQ(inputs().land.corner[2], (Point{250, 200}));
     design->undo();
     EXPECT_TRUE(inputs().land.corner.empty());
+}
+
+TEST_F(WhatIfWindow, SaysAtOnceWhenATypedCornerMakesSidesCross) {
+    what->choose("WITabs", 2);
+    what->choose("WLCornerList", 2);
+    // From (300, 0) to (-50, 100) a side runs through the one from (0, 200) to (0, 0).
+    enter("WLCornerXText", "-50");
+    enter("WLCornerYText", "100");
+    EXPECT_EQ(captioned("WLMessageLabel"), texts.text(Text::layoutOutlineCrosses));
+    EXPECT_EQ(what->descriptionOf("imgLand"), captioned("WLMessageLabel"));
+    EXPECT_EQ(held("landArea"), 0);
+    enter("WLCornerXText", "250");
+    EXPECT_EQ(captioned("WLMessageLabel"), "");
 }
 
 // The search. Nobody works between two actions here, so it ends with its click.
@@ -401,6 +417,19 @@ TEST_F(WhatIfWindow, KeepsAnAlternativeAndPutsItBackInOneStep) {
     EXPECT_EQ(value("boreSeparation"), 12);
 }
 
+TEST_F(WhatIfWindow, SaysHowManyAlternativesFindNoPlaceInTheTable) {
+    texts.known.insert({Text::whatIfMoreAlternatives, "%1 of %2"});
+    what->choose("WITabs", 4);
+    constexpr std::size_t columns = frmWhatIf::alternativeColumns;
+    // The design itself stands in the first column.
+    for (std::size_t kept = 1; kept < columns; ++kept) what->click("WVKeepCommand");
+    EXPECT_EQ(captioned("WVReasonLabel"), "");
+    EXPECT_NE(captioned(elementName("WVLengthLabel", columns - 1)), "");
+    what->click("WVKeepCommand");
+    EXPECT_EQ(captioned("WVReasonLabel"), "16 of 17");
+    EXPECT_EQ(what->control("WVList").items().size(), columns + 1);
+}
+
 TEST_F(WhatIfWindow, RemovesAnAlternativeThatWasKept) {
     what->type("WVNameText", "Wide");
     what->click("WVKeepCommand");
@@ -424,6 +453,32 @@ TEST_F(WhatIfWindow, SetsTheTowerByTheSliderOfTheDesign) {
     EXPECT_EQ(design->control("CAHybridSlider").value(), 44);
     design->undo();
     EXPECT_EQ(value("hybridPercent"), 0);
+}
+
+TEST_F(WhatIfWindow, SetsTheTowerThoughNobodyHasReadWhichIsBest) {
+    calculate();
+    what->choose("WITabs", 5);
+    const Control& command = what->control("WTTakeCommand");
+    ASSERT_TRUE(command.isLate());
+    what->catchUp(command);
+    EXPECT_TRUE(command.enabled());
+    what->click("WTTakeCommand");
+    EXPECT_EQ(value("hybridPercent"), 44);
+}
+
+TEST_F(WhatIfWindow, FindsWhatIsReadOfAPageThatIsNotInFront) {
+    what->choose("WITabs", 2);
+    enter("WIDepthText", "300");
+    what->catchUp(what->control("WIQuestionLabel"));
+    EXPECT_EQ(what->control("WIQuestionLabel").caption(), "68 of 100: 30 bores of 300 ft");
+    EXPECT_EQ(what->control("WCResultLabel(0)").caption(), "-");
+    what->catchUp(what->control("WCResultLabel(0)"));
+    // 30 x 300 x 14 + 30 x 200 + 5000 + 10 x (29 x 20 + 50)
+    EXPECT_EQ(what->control("WCResultLabel(0)").caption(), "$143,300");
+    what->catchUp(what->control("imgTornado"));
+    EXPECT_FALSE(what->tornadoPicture().bars.empty());
+    what->catchUp(what->control("WTBestLabel"));
+    EXPECT_EQ(what->towerPicture().best, std::size_t{44});
 }
 
 TEST_F(WhatIfWindow, ComputesNothingThatItsPageDoesNotShow) {

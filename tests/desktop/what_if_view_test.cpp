@@ -12,6 +12,7 @@
 #include "desktop/views/comparison_table.h"
 #include "desktop/widgets/qt_text.h"
 #include "drawing_samples.h"
+#include "forms/text_numbers/what_if_window.h"
 #include "late_window.h"
 
 namespace varnholt {
@@ -200,6 +201,18 @@ struct Page {
 constexpr Page pictures[] = {{0, "imgTornado"}, {1, "imgSure"}, {2, "imgLand"},
                              {2, "imgFields"},  {3, "imgCost"}, {5, "imgTower"}};
 
+/// The length stands long before what decides it, by g-functions.
+TEST_F(WhatIfView, DrawsNoBarsBeforeTheyAreFound) {
+    const std::string working = what().texts().text(Text::whatIfWorking);
+    EXPECT_EQ(what().descriptionOf("imgTornado"), working);
+    const QDeadlineTimer patience(60'000);
+    while (what().control("WINeedLabel(0)").caption() == "-" && !patience.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    EXPECT_EQ(what().descriptionOf("imgTornado"), working);
+    idle();
+    EXPECT_EQ(what().tornadoPicture().bars.size(), quantityTexts.size() + leverTexts.size());
+}
+
 TEST_F(WhatIfView, TellsAScreenReaderWhatAScriptReads) {
     what().click("WIMeasureOption(0)");
     for (const auto& [page, image] : pictures) {
@@ -230,6 +243,18 @@ TEST_F(WhatIfView, ClosesWhileItIsMaximisedWithAnyPageInFront) {
     Desk::settle();
     EXPECT_TRUE(desk.main().windowsNamed("frmWhatIf").empty());
     EXPECT_TRUE(desk.faults.empty());
+}
+
+TEST_F(WhatIfView, TellsInWhichUnitTheDepthsOfTheFieldsAre) {
+    FieldsPicture fields;
+    fields.fields = {{24, 320, 120'000}, {30, 300, 130'000}};
+    const auto drawn = [&](const char* unit) {
+        fields.unit = unit;
+        const auto paint = [&](const Canvas& c) { paintFields(c, fields, what().texts()); };
+        return renderedSample({"what_if_fields", {320, 220}, paint}, lightLook(), 1);
+    };
+    EXPECT_EQ(drawn("ft"), drawn("ft"));
+    EXPECT_NE(drawn("ft"), drawn("m"));
 }
 
 TEST_F(WhatIfView, DrawsItsPicturesInBothSchemesAtEverySize) {

@@ -8,6 +8,7 @@
 #include "design/borehole_run.h"
 #include "design/modCalculations/trench_lengths.h"
 #include "forms/text_numbers/what_if.h"
+#include "forms/text_numbers/what_if_window.h"
 
 namespace varnholt {
 namespace {
@@ -23,6 +24,12 @@ EnergyYear yearOf(const Results& results) {
     year.heatPumpCOP = zones.heatPumpCOP();
     year.extraPower = results.inputs->loads.extraPower;
     return year;
+}
+
+/// A design whose zones have not been found has its lengths and no year. Its life would cost what
+/// it costs to build, and be the cheapest of all.
+bool hasLoads(const EnergyYear& year) {
+    return year.annualTonHours[cooling] > 0 || year.annualTonHours[heating] > 0;
 }
 
 /// The figures, or the reason why there are none where they are no numbers: a file may hold
@@ -112,9 +119,13 @@ AlternativeFigures loopAlternative(const Alternative& alternative, const Prices&
     result.length = loop.pipe;
     result.first =
         loopCost(loop.trench, loop.pipe, prices) + loop.year.towerTons * prices.costTower;
-    result.energy = yearlyEnergy(loop.year, prices);
-    result.life =
-        lifeCost(result.first, yearlyCost(result.energy, loop.year.towerTons, prices), prices);
+    if (hasLoads(loop.year)) {
+        result.energy = yearlyEnergy(loop.year, prices);
+        result.life =
+            lifeCost(result.first, yearlyCost(result.energy, loop.year.towerTons, prices), prices);
+    } else {
+        result.reason = {Text::alternativeWithoutYear, {}};
+    }
     return numbersOr(alternative.name, alternative.kind, result);
 }
 

@@ -50,7 +50,7 @@ struct AlternativeFigures {
     double first = 0;   ///< first cost
     double life = 0;    ///< cost over life
     double energy = 0;  ///< kWh a year
-    Reason reason;      ///< why there is no length
+    Reason reason;      ///< why there is no length, or no year
 
     friend bool operator==(const AlternativeFigures&, const AlternativeFigures&) = default;
 };

@@ -77,6 +77,14 @@ Land landOf(const LandValues& values) {
             values.noGo, values.boundaryClearance, values.noGoClearance};
 }
 
+Reason reasonAgainst(const Land& land) {
+    if (!isSimple(land.outline)) return {Text::layoutOutlineCrosses, {}};
+    for (std::size_t n = 0; n < land.noGo.size(); ++n)
+        if (!isSimple(land.noGo[n]))
+            return {Text::layoutNoGoCrosses, {count(static_cast<double>(n + 1))}};
+    return {};
+}
+
 LayoutSearch::LayoutSearch(LayoutCase theCase, NeedByGFunctions byGFunctions)
     : case_(std::move(theCase)), byGFunctions_(std::move(byGFunctions)), land_(landOf(case_.land)) {
     try {
@@ -92,10 +100,7 @@ void LayoutSearch::fail(Reason reason) {
 }
 
 void LayoutSearch::prepare() {
-    if (!isSimple(land_.outline)) return fail({Text::layoutOutlineCrosses, {}});
-    for (std::size_t n = 0; n < land_.noGo.size(); ++n)
-        if (!isSimple(land_.noGo[n]))
-            return fail({Text::layoutNoGoCrosses, {count(static_cast<double>(n + 1))}});
+    if (const Reason reason = reasonAgainst(land_); reason.holds()) return fail(reason);
     result_.landArea = areaOf(land_.outline);
     result_.noGoCount = land_.noGo.size();
     zones_.emplace(case_.design.loads.zones);

@@ -69,6 +69,9 @@ struct LayoutCase {
 /// The land as it is typed or drawn.
 Land landOf(const LandValues& values);
 
+/// Why it is no land: sides that cross.
+Reason reasonAgainst(const Land& land);
+
 /// The need of a field by g-functions, ft, however deep its bores would have to be; noLength where
 /// there is none. None while it is being computed: asked again, it works on it for some
 /// milliseconds.

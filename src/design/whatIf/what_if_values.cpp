@@ -31,11 +31,17 @@ template <auto member>
 constexpr auto price = inPart<&WhatIfInputs::prices, member>;
 
 void addSpreads(std::vector<WhatIfNumber>& numbers) {
+    // The ground's temperature is off by degrees, all else by percent.
+    constexpr double mostDegrees = 30;
+    const auto most = [](std::size_t j, double percent) {
+        return j == groundTemperature ? mostDegrees : percent;
+    };
     for (std::size_t j = 0; j < quantityCount; ++j)
-        numbers.push_back({fmt::format("spreadLow({})", j), inSpreads<&Spreads::low>, j, 0, 90});
+        numbers.push_back(
+            {fmt::format("spreadLow({})", j), inSpreads<&Spreads::low>, j, 0, most(j, 90)});
     for (std::size_t j = 0; j < quantityCount; ++j)
-        numbers.push_back({fmt::format("spreadHigh({})", j), inSpreads<&Spreads::high>, j, 0,
-                           j == groundTemperature ? 30.0 : 300.0});
+        numbers.push_back(
+            {fmt::format("spreadHigh({})", j), inSpreads<&Spreads::high>, j, 0, most(j, 300)});
     for (std::size_t n = 0; n < tieCount; ++n)
         numbers.push_back({fmt::format("tie({})", n), inSpreads<&Spreads::tie>, n, -0.95, 0.95});
 }

@@ -77,12 +77,14 @@ double drawSigns(const Canvas& canvas, const std::vector<LegendSign>& signs) {
     return height + gridStep;
 }
 
-Plot drawPlot(const Canvas& canvas, const PlotScale& scale, double head) {
+Plot drawPlot(const Canvas& canvas, const PlotScale& scale, double head, const QString& unit) {
     const int figures = static_cast<int>(std::round((scale.most - scale.least) / scale.step));
+    const auto told = [&](int i) {
+        const QString number = figure(scale.least + i * scale.step, scale.step);
+        return i < figures || unit.isEmpty() ? number : number + u' ' + unit;
+    };
     double widest = 0;
-    for (int i = 0; i <= figures; ++i)
-        widest =
-            std::max(widest, canvas.textWidth(figure(scale.least + i * scale.step, scale.step)));
+    for (int i = 0; i <= figures; ++i) widest = std::max(widest, canvas.textWidth(told(i)));
     const double foot = canvas.textHeight() + gridStep / 2.0;
     const Plot plot{canvas.area.adjusted(widest + gridStep, head, -gridStep / 2.0, -foot), scale};
     canvas.painter.setFont(canvas.figures);
@@ -94,7 +96,7 @@ Plot drawPlot(const Canvas& canvas, const PlotScale& scale, double head) {
         canvas.painter.setPen(canvas.look.muted);
         canvas.painter.drawText(
             QRectF(canvas.area.left(), y - canvas.textHeight() / 2, widest, canvas.textHeight()),
-            Qt::AlignRight | Qt::AlignVCenter, figure(value, scale.step));
+            Qt::AlignRight | Qt::AlignVCenter, told(i));
     }
     return plot;
 }

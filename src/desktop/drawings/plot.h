@@ -45,7 +45,8 @@ double drawSigns(const Canvas& canvas, const std::vector<LegendSign>& signs);
 /// The plot between the legend, the figures at its left and a line of words below, with a hairline
 /// at each figure.
 /// @param head  height of the legend
-Plot drawPlot(const Canvas& canvas, const PlotScale& scale, double head);
+/// @param unit  behind the greatest figure
+Plot drawPlot(const Canvas& canvas, const PlotScale& scale, double head, const QString& unit = {});
 
 /// A word below the plot, centred about the place.
 void drawBelow(const Canvas& canvas, const Plot& plot, double x, const QString& word,

@@ -309,8 +309,8 @@ std::vector<QPointF> paintFields(const Canvas& canvas, const FieldsPicture& pict
         std::minmax_element(picture.fields.begin(), picture.fields.end(), byDepth);
     const auto [few, many] =
         std::minmax_element(picture.fields.begin(), picture.fields.end(), byBores);
-    const Plot plot =
-        drawPlot(canvas, scaleAround(shallow->depth, deep->depth, usualFigures), head);
+    const Plot plot = drawPlot(canvas, scaleAround(shallow->depth, deep->depth, usualFigures), head,
+                               qt(picture.unit));
     const PlotScale across = scaleAround(few->bores, many->bores, usualFigures);
     drawAcross(canvas, plot, across, qt(captionWords(texts.text(Text::whatIfRowBores))));
     const double least = picture.fields.front().cost, most = picture.fields.back().cost;

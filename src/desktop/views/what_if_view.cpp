@@ -14,8 +14,6 @@
 namespace varnholt {
 namespace {
 
-constexpr std::size_t alternativeColumns = 8;
-
 const frmWhatIf* formOf(const Binder& bind) { return static_cast<const frmWhatIf*>(bind.form()); }
 
 /// What the form has to show, or nothing once it has gone.
@@ -193,22 +191,26 @@ QWidget* costPage(Binder& bind) {
             bind.figure(elementName("WCResultCaptionLabel", i), elementName("WCResultLabel", i)));
     QWidget* picture = bind.drawing(
         "imgCost", newCostDrawing(from(bind, &frmWhatIf::costPicture), bind.form()->texts()));
-    QWidget* cost = group(bind.frame("WCResultFrame"), reflow(gridOf(parts), grow(gridOf(results))),
-                          grow(picture), mutedText(bind, "WCLeftOutLabel"));
+    QWidget* figures = gridOf(parts);
+    // Room between a figure and the caption beside it.
+    figures->setContentsMargins(0, 0, 4 * gridStep, 0);
+    QWidget* cost = group(bind.frame("WCResultFrame"),
+                          reflow(figures, grow(column(gridOf(results), stretch()))), grow(picture),
+                          mutedText(bind, "WCLeftOutLabel"));
     return column(reflow(build, others, grow(energy)), grow(cost));
 }
 
 // Alternatives.
 
 QWidget* comparison(Binder& bind) {
+    constexpr std::size_t columns = frmWhatIf::alternativeColumns;
     constexpr const char* arrays[] = {"WVLength", "WVBores", "WVDepth",
                                       "WVFirst",  "WVLife",  "WVEnergy"};
-    std::vector<FieldRow> rows{headRow(bind, "WVHeadLabel", alternativeColumns)};
+    std::vector<FieldRow> rows{headRow(bind, "WVHeadLabel", columns)};
     for (std::size_t i = 0; i < std::size(arrays); ++i) {
         const std::string array = arrays[i];
-        rows.push_back(
-            figureRow(bind, elementName("WVRowLabel", i), array + "Label", alternativeColumns));
-        rows.push_back(headRow(bind, array + "ChangeLabel", alternativeColumns));
+        rows.push_back(figureRow(bind, elementName("WVRowLabel", i), array + "Label", columns));
+        rows.push_back(headRow(bind, array + "ChangeLabel", columns));
     }
     auto* table = new ComparisonTable(rows);
     table->setObjectName(QStringLiteral("alternativesTable"));

@@ -198,5 +198,9 @@ constexpr int whatIfTowerLifeTells = 3789;
 constexpr int whatIfTowerFirstTells = 3790;
 constexpr int whatIfTowerHeating = 3791;
 constexpr int whatIfHeatingGoverns = 3792;
+constexpr int whatIfMoreAlternatives = 3793;
+constexpr int whatIfSomeSpreadsBuiltIn = 3794;
+constexpr int whatIfSomePricesBuiltIn = 3795;
+constexpr int alternativeWithoutYear = 3796;
 
 }  // namespace varnholt::Text

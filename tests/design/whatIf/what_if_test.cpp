@@ -10,6 +10,7 @@
 #include "design/whatIf/office.h"
 #include "design/whatIf/what_if_values.h"
 #include "forms/text_numbers/what_if.h"
+#include "forms/text_numbers/what_if_window.h"
 
 namespace varnholt {
 namespace {
@@ -246,6 +247,20 @@ TEST(WhatIf, ComparesAlternativesEachAtItsOwnNeed) {
                 result.alternatives[2].first + 40'314 * 0.12 * presentWorth({}), 1);
     EXPECT_EQ(result.alternatives[3].reason.text, Text::alternativeWithoutLength);
     EXPECT_EQ(result.alternatives[3].first, 0);
+}
+
+TEST(WhatIf, KnowsNoCostOverLifeOfALoopWithoutLoads) {
+    WhatIfCase theCase = officeCase();
+    Alternative trench{"Trenches", AlternativeKind::horizontal, {}, {}};
+    trench.loop.pipe = 12'000;
+    trench.loop.trench = 6'000;
+    theCase.others = {trench};
+    const AlternativeFigures loop = found(theCase, {.alternatives = true}).alternatives.at(1);
+    EXPECT_EQ(loop.length, 12'000);
+    EXPECT_EQ(loop.first, 5'000 + 8 * 6'000 + 12'000);
+    EXPECT_EQ(loop.energy, 0);
+    EXPECT_EQ(loop.life, 0);
+    EXPECT_EQ(loop.reason.text, Text::alternativeWithoutYear);
 }
 
 TEST(WhatIf, ComputesAlternativesWhereTheDesignItselfHasNone) {
