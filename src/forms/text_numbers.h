@@ -1144,6 +1144,7 @@ constexpr int loadsWindowInUse = 8539;
 constexpr int zoneFileNotFound = 8540;
 constexpr int systemInformationUnavailable = 8541;
 constexpr int zoneFileDamaged = 8543;
+constexpr int zoneFileNotOpened = 8900;
 constexpr int changedOnDisk = 8544;
 constexpr int changedOnDiskTitle = 8545;
 constexpr int openElsewhere = 8546;

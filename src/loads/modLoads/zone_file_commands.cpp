@@ -81,6 +81,7 @@ bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
     LoadsData data = before;
     main().setNotice({});
     std::optional<ReadZones> read = readZonesFor(path, data);
+    zoneOpenCancelled = !read;
     if (!read) return false;
     const int error = read->damage.report.error;
     const bool toItsEnd = error == 0 && read->damage.other == FileKind::unknown;
