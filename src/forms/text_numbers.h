@@ -1162,6 +1162,7 @@ constexpr int noticeSetAside = 8557;
 constexpr int noticeFileNotFound = 8560;
 constexpr int readingFile = 8558;
 constexpr int noticeStillKept = 8559;
+constexpr int noticeOpenLine = 8901;
 
 // The importer.
 constexpr int importTitle = 1502;

@@ -63,6 +63,9 @@ std::string damageText(const Texts& texts, const FileDamage& damage) {
         return filledIn(texts.text(Text::noticeOtherKind),
                         {damage.name, texts.text(nameOf(damage.other))});
     const ReadingReport& report = damage.report;
+    if (damage.isNone())
+        return filledIn(texts.text(Text::noticeOpenLine),
+                        {damage.name, std::to_string(report.openLine)});
     std::string told = filledIn(texts.text(Text::noticeFileIncomplete), {damage.name});
     const auto append = [&](const std::string& sentence) {
         if (!sentence.empty()) told += " " + sentence;

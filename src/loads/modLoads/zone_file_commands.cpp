@@ -98,8 +98,8 @@ bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
     forgetZoneFile();
     openFile_ = std::move(read->file);
     if (toItsEnd && read->as == OpenAs::itself) takeFile(path);
-    if (!read->damage.isNone())
-        damage_ = damageText(texts(), read->damage) + " " + text(Text::noticeSaveAsksForName);
+    if (read->damage.isTold()) damage_ = damageText(texts(), read->damage);
+    if (!read->damage.isNone()) damage_ += " " + text(Text::noticeSaveAsksForName);
     startHistory(toItsEnd);
     // What is left of a damaged file must not take the file's place without a question.
     setChanged(!toItsEnd && !ZoneList().empty());
