@@ -85,8 +85,11 @@ std::string damageText(const Texts& texts, const FileDamage& damage) {
 std::string unreadableText(const Texts& texts, const std::string& path, int error) {
     if (error == RunTimeError::fileNotFound)
         return filledIn(texts.text(Text::noticeFileNotFound), {path});
+    // Of the disk or the right to it, not of what the file holds: then its place matters.
+    const bool ofPlace = error == 57 || error == 70 || error == 75 || error == 76;
+    const RunTimeError told = ofPlace ? RunTimeError(error, path) : RunTimeError(error);
     return filledIn(texts.text(Text::noticeFileIncomplete), {fileNameOf(path)}) + " " +
-           filledIn(texts.text(Text::noticeReadingFailed), {RunTimeError(error).message()});
+           filledIn(texts.text(Text::noticeReadingFailed), {told.message()});
 }
 
 }  // namespace varnholt

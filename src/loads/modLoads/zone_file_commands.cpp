@@ -17,6 +17,16 @@ namespace {
 
 constexpr int zoneFilesFilter = 3;
 
+/// Of a file that could not even be opened the path matters.
+std::string textOfNothingRead(const Texts& texts, const std::string& path,
+                              const FileDamage& damage) {
+    constexpr int inputPastEnd = 62;
+    const ReadingReport& report = damage.report;
+    const bool wasOpened =
+        damage.other != FileKind::unknown || report.line > 0 || report.error == inputPastEnd;
+    return wasOpened ? damageText(texts, damage) : unreadableText(texts, path, report.error);
+}
+
 }  // namespace
 
 /// The project's name serves a new list of zones.
@@ -90,7 +100,7 @@ bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
         if (error == RunTimeError::fileNotFound)
             main().setNotice(unreadableText(texts(), path, error));
         else
-            damage_ = damageText(texts(), read->damage);
+            damage_ = textOfNothingRead(texts(), path, read->damage);
         refreshNotice();
         return false;
     }
