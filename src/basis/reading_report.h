@@ -17,6 +17,8 @@ struct ReadingReport {
     int error = 0;          ///< number of the RunTimeError that ended the reading; 0 for none
     std::size_t line = 0;   ///< the line read last, from 1
     bool leftover = false;  ///< lines follow that nothing in the file accounts for
+    /// The last line, where nothing ends it: it may have lost its own end. 0 where it is ended.
+    std::size_t openLine = 0;
     std::vector<UnreadPart> unread;  ///< parts behind the body that cannot be read
     std::size_t stated = 0;          ///< entries of its list, such as zones, by the file's own word
     std::size_t found = 0;           ///< how many of them could be read whole
@@ -41,6 +43,8 @@ void reportReading(const LineFileReader& file, ReadingReport* report, const Read
     report->leftover = file.leftoverLine() != 0 || file.holdsMore();
     if (report->leftover)
         report->line = file.leftoverLine() != 0 ? file.leftoverLine() : file.lineNumber() + 1;
+    const bool mayBeCut = report->isWhole() && !file.isLineEnded();
+    report->openLine = mayBeCut ? file.lineNumber() : 0;
 }
 
 }  // namespace varnholt

@@ -76,7 +76,11 @@ std::string utf8Text(std::string_view bytes) {
 }
 
 std::string windows1252Text(std::string_view bytes) {
+    const auto beyond = std::count_if(bytes.begin(), bytes.end(),
+                                      [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
     std::string text;
+    // A text that grows step by step would take twice its memory on the way.
+    text.reserve(bytes.size() + 2 * static_cast<std::size_t>(beyond));
     for (const char c : bytes) {
         const auto byte = static_cast<unsigned char>(c);
         appendUtf8(text, byte >= 0x80 && byte < 0xA0 ? windows1252[byte - 0x80] : byte);
@@ -103,7 +107,9 @@ std::string carriedText(std::string_view bytes) {
 /// U+EF80 to U+EFFF are the bytes EE BE 80 to EE BF BF: the last six bits stand in the third byte,
 /// the seventh in the second.
 std::string uncarriedText(std::string_view text) {
+    if (text.find('\xEE') == text.npos) return std::string(text);
     std::string bytes;
+    bytes.reserve(text.size());
     while (!text.empty()) {
         const bool first = text.starts_with("\xEE\xBE"), second = text.starts_with("\xEE\xBF");
         if ((first || second) && text.size() > 2) {

@@ -174,10 +174,10 @@ void PumpCatalogue::tellMissing(const std::string& path) const {
 template <class Content>
 void PumpCatalogue::noteDamage(const std::string& path, const ReadFile<Content>& file) {
     const FileDamage damage{fileNameOf(path), file.report, file.other};
-    if (damage.isNone())
-        damage_.erase(path);
-    else
+    if (damage.isTold())
         damage_[path] = damage;
+    else
+        damage_.erase(path);
 }
 
 std::vector<FileDamage> PumpCatalogue::damage() const {

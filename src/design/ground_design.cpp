@@ -167,9 +167,9 @@ void GroundDesign::showRestored(bool stale) {
 
 std::vector<Notice> GroundDesign::notices() {
     std::vector<Notice> holding;
-    if (!damage_.isNone())
-        holding.push_back({damageText(texts(), damage_) + " " + text(Text::noticeDoubtedResults) +
-                           " " + text(Text::noticeSaveAsksForName)});
+    if (damage_.isTold())
+        holding.push_back({damageText(texts(), damage_) + " " + text(Text::noticeDoubtedResults)});
+    if (!damage_.isNone()) holding.back().text += " " + text(Text::noticeSaveAsksForName);
     if (openFile.asksForName) holding.push_back({text(Text::noticeSaveAsksForName)});
     if (openFile.readOnly)
         holding.push_back({filledIn(text(Text::noticeOpenElsewhere), {FileName})});

@@ -64,6 +64,9 @@ std::string damageText(const Texts& texts, const FileDamage& damage) {
         return filledIn(texts.text(Text::noticeOtherKind),
                         {damage.name, texts.text(nameOf(damage.other))});
     const ReadingReport& report = damage.report;
+    if (damage.isNone())
+        return filledIn(texts.text(Text::noticeOpenLine),
+                        {damage.name, std::to_string(report.openLine)});
     std::string told = filledIn(texts.text(Text::noticeFileIncomplete), {damage.name});
     const auto append = [&](const std::string& sentence) {
         if (!sentence.empty()) told += " " + sentence;
@@ -83,8 +86,11 @@ std::string damageText(const Texts& texts, const FileDamage& damage) {
 std::string unreadableText(const Texts& texts, const std::string& path, int error) {
     if (error == RunTimeError::fileNotFound)
         return filledIn(texts.text(Text::noticeFileNotFound), {path});
+    // Of the disk or the right to it, not of what the file holds: then its place matters.
+    const bool ofPlace = error == 57 || error == 70 || error == 75 || error == 76;
+    const RunTimeError told = ofPlace ? RunTimeError(error, path) : RunTimeError(error);
     return filledIn(texts.text(Text::noticeFileIncomplete), {fileNameOf(path)}) + " " +
-           filledIn(texts.text(Text::noticeReadingFailed), {RunTimeError(error).message()});
+           filledIn(texts.text(Text::noticeReadingFailed), {told.message()});
 }
 
 }  // namespace varnholt

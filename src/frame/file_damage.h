@@ -16,9 +16,11 @@ struct FileDamage {
     FileKind other = FileKind::unknown;  ///< what it is for certain, if not what it should be
 
     bool isNone() const { return report.isWhole() && other == FileKind::unknown; }
+    /// There is something to tell, though all may be there.
+    bool isTold() const { return !isNone() || report.openLine != 0; }
 };
 
-/// What a window tells of it: the file, the line, what was read.
+/// What a window tells of it, where there is something to tell: the file, the line, what was read.
 std::string damageText(const Texts& texts, const FileDamage& damage);
 
 /// What is told of a file of which nothing was taken over, beside the box that gives the error

@@ -62,6 +62,8 @@ class LoadsWindow : public ChildWindow {
                                const std::optional<KnownFile>& /*known*/) {}
     /// The last save was cancelled.
     bool zoneSaveCancelled = false;
+    /// The person has decided not to open the zone file that was to be read last.
+    bool zoneOpenCancelled = false;
 
     /// Reads the catalogue afresh, loads the active series, fills the lists of the heat pump tab.
     virtual void InitializeHeatPumpLists() = 0;

@@ -94,7 +94,8 @@ bool linkWithFile(LinkedDesign& design, const std::string& path, OtherZones othe
         return false;
     }
     if (!holdsFile(*loads, path) && !loads->LOOpenZoneFile(path)) {
-        warn(design.main(), design.text(Text::zoneFileDamaged) + "\n\n" + path);
+        const int why = loads->zoneOpenCancelled ? Text::zoneFileNotOpened : Text::zoneFileDamaged;
+        warn(design.main(), design.text(why) + "\n\n" + path);
         return false;
     }
     // The design is about to be shown in the main window's units.

@@ -84,8 +84,9 @@ TEST(DamagedCatalogue, TellsOfEveryCutOfTheIndex) {
         SCOPED_TRACE(end);
         const std::string cut = whole.substr(0, end);
         const auto read = readIndex(cut);
-        // One that has lost a line says so; one that has lost the end of a text cannot.
+        // One that has lost a line says so; one that has lost the end of a text has an open line.
         EXPECT_EQ(read.report.isWhole(), linesOf(cut) == linesOf(whole));
+        EXPECT_EQ(read.report.openLine != 0, read.report.isWhole() && end < whole.size() - 1);
         if (read.report.isWhole()) continue;
         EXPECT_EQ(read.report.error, 62);
         EXPECT_EQ(static_cast<std::ptrdiff_t>(read.report.line), linesOf(cut));

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/stat.h>
 
 #include <QTest>
 
@@ -43,6 +44,20 @@ TEST(StartedProgram, DoesWithoutTheChartsWhereTheyAreMissing) {
     EXPECT_EQ(program.filesInMemory().find("varnholt_charts"), std::string::npos);
     EXPECT_TRUE(std::filesystem::exists(picture));
     EXPECT_EQ(program.end(), 0);
+}
+
+TEST(StartedProgram, WaitsForNobodyWhoReadsItsPictureFromAPipe) {
+    const TemporaryFolder folder;
+    const std::string pipe = folder / "window.png", script = folder / "shot.vscript";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    std::ofstream(script) << "shot Varnmain " << pipe << "\n";
+    const std::string faults = folder / "faults";
+    const int status =
+        std::system(("QT_QPA_PLATFORM=offscreen timeout 60 " + programWithWindows +
+                     " --program-folder " + folder.path() + " --script " + script + " 2>" + faults)
+                        .c_str());
+    EXPECT_EQ(WEXITSTATUS(status), 2);
+    EXPECT_EQ(wholeFile(faults), script + ":1: " + pipe + " cannot be written\n");
 }
 
 TEST(StartedProgram, LoadsTheHelpWithItsFirstPage) {

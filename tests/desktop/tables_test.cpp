@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Tables and pictures on their way in and out, by a person's own keys.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -238,6 +239,10 @@ TEST_F(Pictures, ThatCannotBeSavedSaySo) {
     savePicture(*loads, &widget("LOLoadsChart"));
     EXPECT_TRUE(desk.platform.told.back().starts_with("The picture could not be saved"));
     EXPECT_FALSE(writePicture(drawing(), qt(desk.folder() + "/chart.doc")));
+    const std::string pipe = desk.folder() + "/pipe.png";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_FALSE(writePicture(drawing(), qt(pipe)));
+    EXPECT_TRUE(std::filesystem::is_fifo(pipe));
 }
 
 TEST_F(Pictures, AreNoLightsOfALink) {

@@ -283,6 +283,22 @@ TEST(ZoneFile, LeavesOutTheZonesThatTheProgramDoesNotCount) {
     EXPECT_FALSE(report.isWhole());
 }
 
+TEST(ZoneFile, TellsOfALastLineThatNothingEnds) {
+    LoadsData data, read;
+    data.zones = std::vector<Zone>(2);
+    const std::string whole = zonesText(data);
+    const auto lines = static_cast<std::size_t>(std::count(whole.begin(), whole.end(), '\n'));
+    ReadingReport report;
+    readZones(whole.substr(0, whole.size() - 2), context, read, &report);
+    EXPECT_EQ(report.openLine, lines);
+    EXPECT_TRUE(report.isWhole());
+    // A carriage return ends a line too.
+    readZones(whole.substr(0, whole.size() - 1), context, read, &report);
+    EXPECT_EQ(report.openLine, 0U);
+    readZones(whole, context, read, &report);
+    EXPECT_EQ(report.openLine, 0U);
+}
+
 TEST(ZoneFile, TellsOfLinesThatBelongToNothing) {
     LoadsData data, read;
     data.zones = std::vector<Zone>(2);

@@ -185,8 +185,14 @@ TEST_F(ZoneFileWindowTest, AMissingFileIsToldAndChangesNothing) {
 }
 
 TEST_F(ZoneFileWindowTest, OtherErrorsOfReadingPassSilently) {
-    EXPECT_FALSE(window.LOOpenZoneFile(folder.path() + "/zones"));  // a folder
+    texts.known[1245] = "Reading ended in %1.";
+    const std::string zones = folder.path() + "/zones";
+    EXPECT_FALSE(window.LOOpenZoneFile(zones));  // a folder
     EXPECT_TRUE(platform.messages.empty());
+    // The notice says which.
+    EXPECT_TRUE(window.control("NoticeLabel")
+                    .caption()
+                    .ends_with("Reading ended in " + RunTimeError(75, zones).message() + "."));
     writeFile(zoneFile("huge.zon"), "Zone Data File Version 3.0\r\n1\r\n1e999\r\n");
     EXPECT_FALSE(window.LOOpenZoneFile(zoneFile("huge.zon")));
     EXPECT_TRUE(platform.messages.empty());

@@ -19,7 +19,8 @@ class OtherHands : public ProjectTest {
                             {1252, "a zone file"},
                             {1256, "UTF-16"},
                             {1257, "no text"},
-                            {8544, "%1 changed: %2, %3"}});
+                            {8544, "%1 changed: %2, %3"},
+                            {8901, "%1: line %2 is open."}});
         saveAs(newDesign(), "work files/school.vht");
         school = folder / "work files/school.vht";
         whole = bytesOf(school);
@@ -108,6 +109,18 @@ TEST_F(OtherHands, AreToldOfByLinesThatBelongToNothing) {
     EXPECT_EQ(notice(), "");
 }
 
+TEST_F(OtherHands, AreToldOfByALastLineThatMayHaveLostItsEnd) {
+    closeAll();
+    const auto lines = std::to_string(std::count(whole.begin(), whole.end(), '\n'));
+    writeBytes(school, whole.substr(0, whole.size() - 2));
+    open("work files/school.vht");
+    EXPECT_EQ(notice(), "school.vht: line " + lines + " is open. Doubted.");
+    // Nothing more is in the file that saving could take away.
+    click("mnuFileSave");
+    EXPECT_TRUE(bytesOf(school).ends_with("\r\n"));
+    EXPECT_EQ(notice(), "");
+}
+
 TEST_F(OtherHands, AreNotTakenOverFromAFileOfAnotherKind) {
     closeAll();
     struct Case {
@@ -153,7 +166,12 @@ TEST_F(OtherHands, NeverMakeATrapOfAProjectThatIsCutAnywhere) {
             EXPECT_LT(linesOf(whole.substr(0, end)), 3);
             continue;
         }
-        // A file that has lost a line says so; one that has lost the end of a number cannot.
+        // So does one that has lost the end of its last line; nothing is lost with a line feed
+        // alone.
+        if (end < whole.size() - 1) {
+            EXPECT_NE(notice(), "");
+        }
+        // A file that has lost a line is not overwritten by a click.
         if (linesOf(whole.substr(0, end)) < linesOf(whole)) {
             EXPECT_NE(notice(), "");
             pick(std::nullopt);

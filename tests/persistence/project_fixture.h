@@ -29,6 +29,8 @@ class FileLoads : public PlainLoads {
 
     bool LOOpenZoneFile(const std::string& path) override {
         ++filesRead;
+        zoneOpenCancelled = cancelsOpening;
+        if (cancelsOpening) return false;
         LoadsData data;
         bool whole = true;
         try {
@@ -52,7 +54,7 @@ class FileLoads : public PlainLoads {
     bool CheckForSave() override { return checkForSave; }
     bool queryClose() override { return mayClose; }
 
-    bool refuseSave = false, checkForSave = true, mayClose = true;
+    bool refuseSave = false, checkForSave = true, mayClose = true, cancelsOpening = false;
     std::string savePath;
     int filesRead = 0;
 

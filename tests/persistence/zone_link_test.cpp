@@ -108,6 +108,16 @@ TEST_F(ZoneLink, IsNotMadeWithADamagedZoneFile) {
     EXPECT_EQ(loads().zoneNumber(), 1);
 }
 
+TEST_F(ZoneLink, IsNotMadeWithAZoneFileThatThePersonDidNotWantToOpen) {
+    main.click("mnuZoneManage");
+    loads().cancelsOpening = true;
+    const frmBHDesign& d = reopen();
+    // Nothing is wrong with the file, and nothing says so.
+    EXPECT_EQ(lastMessage(), "[8900]\n\n" + (folder / "zones/school.zon"));
+    expectForgotten(d);
+    EXPECT_EQ(loads().zoneNumber(), 0);
+}
+
 TEST_F(ZoneLink, IsRefusedWhenTheLoadsWindowHoldsAnotherFile) {
     writeZones(folder / "zones/other.zon", 2);
     main.click("mnuZoneManage");

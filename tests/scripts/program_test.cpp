@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "scripts/script_run.h"
 
@@ -54,6 +55,15 @@ TEST_F(Program, AnUnknownOptionAndAMissingFileAreStatusTwo) {
     EXPECT_EQ(missing.status, 2);
     EXPECT_EQ(missing.faults, "varnholt-script: missing.vscript cannot be read\n");
     EXPECT_EQ(call(".").status, 2);
+}
+
+TEST_F(Program, IsStoppedByNoScriptThatNeverEnds) {
+    ASSERT_EQ(::mkfifo(std::string(temporary / "pipe.vscript").c_str(), 0600), 0);
+    const ScriptOutcome pipe = call("pipe.vscript");
+    EXPECT_EQ(pipe.status, 2);
+    const ScriptOutcome device = call("/dev/zero");
+    EXPECT_EQ(device.status, 2);
+    EXPECT_EQ(device.faults, "varnholt-script: /dev/zero cannot be read\n");
 }
 
 TEST_F(Program, TellsItsOptionsAndItsVersion) {

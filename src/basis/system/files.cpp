@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "basis/system/files.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 
+#include "basis/run_time_error.h"
 #include "basis/system/descriptor.h"
 #include "basis/system/file_source.h"
 #include "basis/system/system_error.h"
@@ -38,21 +41,43 @@ std::string readFileStart(const std::string& path, std::size_t most) {
 }
 
 void copyFile(const std::string& from, const std::string& to) {
-    std::error_code error;
-    fs::copy_file(from, to, error);
-    if (error) throwFileError(error.value(), from);
-    fs::permissions(to, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add,
-                    error);
-    if (error) throwFileError(error.value(), to);
+    constexpr std::size_t anyLength = std::size_t{1} << 40;
+    const std::string bytes = readWholeFile(from, {anyLength, upTo(std::chrono::seconds(30))});
+    const Descriptor file(uninterrupted([&] {
+        return ::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+    }));
+    if (!file.isOpen()) throwFileError(errno, to);
+    if (writeAll(file.number(), bytes)) return;
+    const int reason = errno;
+    ::unlink(to.c_str());
+    throwFileError(reason, to);
 }
 
 bool removeFile(const std::string& path) { return ::unlink(path.c_str()) == 0; }
 
+namespace {
+
+/// What whoever called the program has opened for it, such as a pipe of the shell's, or what ends
+/// at once.
+bool isCallersOwnInput(const std::string& path) {
+    return path == "/dev/stdin" || path == "/dev/null" || path.starts_with("/dev/fd/") ||
+           path.starts_with("/proc/self/fd/");
+}
+
+}  // namespace
+
 std::unique_ptr<std::istream> openInput(const std::string& path) {
-    auto file = std::make_unique<std::ifstream>(path, std::ios::binary);
-    // A folder opens, but nothing can be read from it.
-    if (!*file || (file->peek(), file->bad())) return nullptr;
-    return file;
+    if (isCallersOwnInput(path)) {
+        auto file = std::make_unique<std::ifstream>(path, std::ios::binary);
+        // A folder opens, but nothing can be read from it.
+        if (!*file || (file->peek(), file->bad())) return nullptr;
+        return file;
+    }
+    try {
+        return std::make_unique<std::istringstream>(readWholeFile(path));
+    } catch (const RunTimeError&) {
+        return nullptr;
+    }
 }
 
 bool samePath(const std::string& a, const std::string& b) {

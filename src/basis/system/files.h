@@ -53,7 +53,9 @@ void copyFile(const std::string& from, const std::string& to);
 /// Takes a file away. False when that cannot be, and for one that is not there.
 bool removeFile(const std::string& path);
 
-/// A file, pipe or device to be read line by line as it comes; null when it cannot be read.
+/// A text to be read line by line: a regular file of no more bytes than any that is read, or what
+/// the caller of the program has opened for it ("/dev/stdin", "/dev/fd/3"), as it comes. Null when
+/// it cannot be read, and for pipes and devices by their names, which may never end.
 std::unique_ptr<std::istream> openInput(const std::string& path);
 
 /// Whether two paths name the same file, links and ".." resolved where the files exist.

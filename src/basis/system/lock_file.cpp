@@ -68,11 +68,17 @@ void removeStale(const std::string& mark) {
     ::unlink(aside.c_str());
 }
 
+/// False, with errno and without a file, where it cannot be written whole.
 bool writeNew(const std::string& path, const std::string& content) {
     const Descriptor file(uninterrupted([&] {
         return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644);
     }));
-    return file.isOpen() && writeAll(file.number(), content);
+    if (!file.isOpen()) return false;
+    if (writeAll(file.number(), content)) return true;
+    const int reason = errno;
+    ::unlink(path.c_str());
+    errno = reason;
+    return false;
 }
 
 /// Makes the mark in one step. False, with errno, where that cannot be.

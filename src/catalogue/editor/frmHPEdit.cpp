@@ -182,7 +182,7 @@ std::vector<Notice> frmHPEdit::notices() {
     FileDamage series{place_ ? fileNameOf(seriesPath()) : std::string(), file_.report, file_.other};
     series.report.error = file_.error;
     for (const FileDamage& damage : {series, damagedIndex_})
-        if (!damage.isNone()) holding.push_back({damageText(texts(), damage)});
+        if (damage.isTold()) holding.push_back({damageText(texts(), damage)});
     return holding;
 }
 

@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QBuffer>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDateEdit>
@@ -17,6 +18,8 @@
 #include <QTabWidget>
 #include <utility>
 
+#include "basis/file_system.h"
+#include "basis/run_time_error.h"
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/qt_text.h"
 #include "frame/varnmain.h"
@@ -277,7 +280,14 @@ bool WidgetDriver::picture(Form& form, const std::string& path) {
     constexpr int rounds = 8;
     for (int round = 0; round < rounds; ++round)
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    if (!frame->grab().save(qt(path), "PNG")) throw ScriptFault(path + " cannot be written");
+    QBuffer png;
+    png.open(QIODevice::WriteOnly);
+    if (!frame->grab().save(&png, "PNG")) throw ScriptFault(path + " cannot be written");
+    try {
+        replaceWholeFile(path, {png.data().constData(), static_cast<std::size_t>(png.size())});
+    } catch (const RunTimeError&) {
+        throw ScriptFault(path + " cannot be written");
+    }
     return true;
 }
 

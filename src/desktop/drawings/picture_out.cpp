@@ -5,12 +5,14 @@
 #include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 #include <QSvgRenderer>
 
+#include "basis/file_system.h"
+#include "basis/run_time_error.h"
 #include "desktop/drawings/drawing.h"
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
 namespace {
@@ -84,9 +86,13 @@ bool writePicture(Drawing& drawing, const QString& path) {
         bytes = pdfOf(drawing);
     else if (ending == QLatin1String("png"))
         bytes = pngOf(drawing);
-    QSaveFile file(path);
-    return !bytes.isEmpty() && file.open(QIODevice::WriteOnly) &&
-           file.write(bytes) == bytes.size() && file.commit();
+    if (bytes.isEmpty()) return false;
+    try {
+        replaceWholeFile(plain(path), {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    } catch (const RunTimeError&) {
+        return false;
+    }
+    return true;
 }
 
 }  // namespace varnholt

@@ -3,7 +3,6 @@
 
 #include <QMessageBox>
 #include <QTimer>
-#include <fstream>
 #include <iostream>
 #include <memory>
 
@@ -180,10 +179,9 @@ void prepareForScript() {
 
 int runScriptInWindows(QApplication& application, const CommandLine& line) {
     if (*line.script == "-") return runReading(application, line, std::cin);
-    std::ifstream file(*line.script, std::ios::binary);
-    // A folder opens, but nothing can be read from it.
-    if (!file || (file.peek(), file.bad())) return usageFault(*line.script + " cannot be read");
-    return runReading(application, line, file);
+    const std::unique_ptr<std::istream> file = openInput(*line.script);
+    return file ? runReading(application, line, *file)
+                : usageFault(*line.script + " cannot be read");
 }
 
 }  // namespace varnholt

@@ -24,6 +24,8 @@ constexpr int unsavedTitle = 8555;
 constexpr int noticeOpenElsewhere = 8556;
 constexpr int noticeSetAside = 8557;
 constexpr int noticeFileNotFound = 8560;
+constexpr int zoneFileNotOpened = 8900;
+constexpr int noticeOpenLine = 8901;
 constexpr int readingFile = 8558;
 constexpr int noticeStillKept = 8559;
 

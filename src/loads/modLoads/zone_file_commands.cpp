@@ -19,6 +19,16 @@ namespace {
 
 constexpr int zoneFilesFilter = 3;
 
+/// Of a file that could not even be opened the path matters.
+std::string textOfNothingRead(const Texts& texts, const std::string& path,
+                              const FileDamage& damage) {
+    constexpr int inputPastEnd = 62;
+    const ReadingReport& report = damage.report;
+    const bool wasOpened =
+        damage.other != FileKind::unknown || report.line > 0 || report.error == inputPastEnd;
+    return wasOpened ? damageText(texts, damage) : unreadableText(texts, path, report.error);
+}
+
 }  // namespace
 
 /// The project's name serves a new list of zones.
@@ -83,6 +93,7 @@ bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
     LoadsData data = before;
     main().setNotice({});
     std::optional<ReadZones> read = readZonesFor(path, data);
+    zoneOpenCancelled = !read;
     if (!read) return false;
     const int error = read->damage.report.error;
     const bool toItsEnd = error == 0 && read->damage.other == FileKind::unknown;
@@ -91,7 +102,7 @@ bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
         if (error == RunTimeError::fileNotFound)
             main().setNotice(unreadableText(texts(), path, error));
         else
-            damage_ = damageText(texts(), read->damage);
+            damage_ = textOfNothingRead(texts(), path, read->damage);
         refreshNotice();
         return false;
     }
@@ -99,8 +110,8 @@ bool ZoneWindow::LOOpenZoneFile(const std::string& path) {
     forgetZoneFile();
     openFile_ = std::move(read->file);
     if (toItsEnd && read->as == OpenAs::itself) takeFile(path);
-    if (!read->damage.isNone())
-        damage_ = damageText(texts(), read->damage) + " " + text(Text::noticeSaveAsksForName);
+    if (read->damage.isTold()) damage_ = damageText(texts(), read->damage);
+    if (!read->damage.isNone()) damage_ += " " + text(Text::noticeSaveAsksForName);
     startHistory(toItsEnd);
     // What is left of a damaged file must not take the file's place without a question.
     setChanged(!toItsEnd && !ZoneList().empty());

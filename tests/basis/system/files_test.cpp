@@ -2,7 +2,10 @@
 #include "basis/system/files.h"
 
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 
@@ -83,6 +86,38 @@ TEST_F(Files, InputIsReadLineByLineAndAFolderIsNone) {
     EXPECT_EQ(openInput(path("missing")), nullptr);
     replaceWholeFile(path("empty"), "");
     EXPECT_NE(openInput(path("empty")), nullptr);
+}
+
+TEST_F(Files, InputIsNoPipeOrDeviceThatMayNeverEndButWhatTheCallerHasOpened) {
+    ASSERT_EQ(::mkfifo(path("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(openInput(path("pipe")), nullptr);
+    EXPECT_EQ(openInput("/dev/zero"), nullptr);
+    EXPECT_NE(openInput("/dev/null"), nullptr);
+
+    int ends[2];
+    ASSERT_EQ(::pipe(ends), 0);
+    ASSERT_EQ(::write(ends[1], "one\n", 4), 4);
+    ::close(ends[1]);
+    const std::unique_ptr<std::istream> input = openInput("/dev/fd/" + std::to_string(ends[0]));
+    ::close(ends[0]);
+    ASSERT_NE(input, nullptr);
+    std::string line;
+    std::getline(*input, line);
+    EXPECT_EQ(line, "one");
+}
+
+TEST_F(Files, ACopyThatFindsTheDiskFullSaysSoAndLeavesNothing) {
+    replaceWholeFile(path("original"), std::string(5000, 'x'));
+    struct rlimit before {};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto ignored = ::signal(SIGXFSZ, SIG_IGN);
+    const struct rlimit small { 1000, before.rlim_max };
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    const int error = errorOf([&] { copyFile(path("original"), path("copy")); });
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    ::signal(SIGXFSZ, ignored);
+    EXPECT_EQ(error, 61);
+    EXPECT_FALSE(fs::exists(path("copy")));
 }
 
 TEST_F(Files, PathsThatMeetInOneFileAreTheSame) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -93,6 +94,19 @@ TEST_F(Locks, TellWhoHasTheFileOpen) {
         EXPECT_EQ(attempt.holder->user, userName());
     }
     kill(child);
+}
+
+TEST_F(Locks, LeaveNothingBehindWhereTheDiskIsFull) {
+    struct rlimit before {};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto ignored = ::signal(SIGXFSZ, SIG_IGN);
+    const struct rlimit small { 4, before.rlim_max };
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    const LockAttempt attempt = lockFile(path);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    ::signal(SIGXFSZ, ignored);
+    EXPECT_FALSE(attempt.holder.has_value());
+    EXPECT_EQ(filesInFolder(), 1U);
 }
 
 TEST_F(Locks, OfAProgramThatWasKilledAreTakenAway) {
