@@ -166,7 +166,7 @@ Drawing* newMonthsPicture(std::function<MonthsChart()> source, const Texts& text
         [&texts](const Canvas& canvas, const MonthsChart& year) {
             paintMonths(canvas, year, texts);
         },
-        [&texts](const MonthsChart& year) { return qt(describe(year, texts)); }, {420, 190});
+        [&texts](const MonthsChart& year) { return qt(describe(year, texts)); }, {420, 150});
 }
 
 Drawing* newDayChart(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,
