@@ -157,7 +157,7 @@ Drawing* newLoadsBars(std::function<LoadsChart()> source, std::function<LoadsCap
             paintLoads(canvas, bars.loads, bars.captions, texts);
         },
         [&texts](const LoadsBars& bars) { return qt(describe(bars.loads, bars.captions, texts)); },
-        {252, 140});
+        {252, 96});
 }
 
 Drawing* newMonthsPicture(std::function<MonthsChart()> source, const Texts& texts) {
@@ -166,7 +166,7 @@ Drawing* newMonthsPicture(std::function<MonthsChart()> source, const Texts& text
         [&texts](const Canvas& canvas, const MonthsChart& year) {
             paintMonths(canvas, year, texts);
         },
-        [&texts](const MonthsChart& year) { return qt(describe(year, texts)); }, {420, 150});
+        [&texts](const MonthsChart& year) { return qt(describe(year, texts)); }, {420, 170});
 }
 
 Drawing* newDayChart(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,
