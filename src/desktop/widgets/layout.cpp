@@ -88,6 +88,8 @@ FieldGrid::FieldGrid(const std::vector<FieldRow>& rows) : layout_(new QGridLayou
     int line = 0;
     for (const FieldRow& row : rows) addRow(line++, row, fieldColumns);
     layout_->setColumnStretch(fieldColumns + 3, 1);
+    // Rows stay together where what stands beside them is higher.
+    layout_->setRowStretch(line, 1);
     // Columns of figures stand apart whatever their figures are; fields have widths of their own.
     if (fieldColumns > 1 && !holdsFields(rows))
         for (int column = 1; column <= fieldColumns; ++column)
