@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QGraphicsTextItem>
+#include <QGraphicsView>
 #include <QLabel>
 #include <algorithm>
 #include <memory>
@@ -11,6 +14,7 @@
 #include "design/picture_sentences.h"
 #include "desktop/widgets/qt_text.h"
 #include "drawing_samples.h"
+#include "forms/text_numbers/pictures.h"
 #include "loads/import/month_pictures.h"
 #include "loads/modLoads/chart_sentences.h"
 
@@ -262,6 +266,33 @@ TEST(ChartAxes, EndAtRoundNumbers) {
     EXPECT_EQ(water.step, 20);
     EXPECT_NEAR(water.lowest, 37.6, 1e-12);
     EXPECT_NEAR(water.highest, 102.4, 1e-12);
+}
+
+/// The words in the charts of a drawing.
+QStringList wordsIn(const Drawing& drawing) {
+    QStringList words;
+    for (const QGraphicsView* chart : drawing.findChildren<QGraphicsView*>())
+        for (const QGraphicsItem* item : chart->items())
+            if (const auto* text = dynamic_cast<const QGraphicsTextItem*>(item))
+                words << text->toPlainText();
+    return words;
+}
+
+TEST(Charts, ShowTheUnitAloneWhereAnAxisHasNoRoomForItsTitle) {
+    LoopCurves curves;
+    curves.lengthUnit = "ft";
+    curves.differenceUnit = "deg F";
+    for (const Mode mode : modes) curves.perTon[mode] = {{4, 600}, {24, 200}};
+    const std::unique_ptr<Drawing> loops(newLoopChart([&] { return curves; }, pictureTexts()));
+    const QString title = qt(pictureTexts().text(Text::loopChartPerTon)) + QStringLiteral(" (ft)");
+    loops->resize(500, 500);
+    loops->show();
+    for (int round = 0; round < 5; ++round) QCoreApplication::processEvents();
+    EXPECT_TRUE(wordsIn(*loops).contains(title));
+    loops->resize(500, 140);
+    for (int round = 0; round < 5; ++round) QCoreApplication::processEvents();
+    EXPECT_FALSE(wordsIn(*loops).contains(title));
+    EXPECT_TRUE(wordsIn(*loops).contains(QStringLiteral("ft")));
 }
 
 TEST(Charts, FollowTheirSource) {

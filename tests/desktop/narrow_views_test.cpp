@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractScrollArea>
+#include <QDeadlineTimer>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScrollBar>
@@ -12,6 +13,8 @@
 #include <tuple>
 #include <utility>
 
+#include "design/frmSecondOpinion.h"
+#include "design/frmWhatIf.h"
 #include "desk.h"
 #include "desktop/binding/form_window.h"
 #include "desktop/report_samples.h"
@@ -165,9 +168,34 @@ int hiddenBelow(const QWidget& frame) {
 }
 
 /// A screen of 1366 by 768 without what the desktop puts around the main window.
-TEST(LowScreens, ShowResultsAndPipesWithoutScrolling) {
+class LowScreens : public testing::Test {
+ protected:
+    LowScreens() { desk.window->resize(1350, 720); }
+    void openSchool() {
+        desk.platform.picks.push_back("work files/school-south.vht");
+        desk.main().click("mnuFileOpen");
+        Desk::settle();
+    }
+    ChildWindow& last(const char* form) { return *desk.main().windowsNamed(form).back(); }
+    QWidget& frameOf(const char* form) { return *desk.shelf.frameOf(last(form)); }
+    /// Until the figures that come while nobody types have come.
+    template <class Window>
+    void idle(const char* form) {
+        const QDeadlineTimer patience(60'000);
+        while (dynamic_cast<Window&>(last(form)).isBehind() && !patience.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+        Desk::settle();
+    }
+    void expectNothingHidden(const char* form) {
+        SCOPED_TRACE(form);
+        QWidget& frame = frameOf(form);
+        onEveryPage(frame, [&] { EXPECT_EQ(hiddenBelow(frame), 0); });
+    }
+
     Desk desk;
-    desk.window->resize(1350, 720);
+};
+
+TEST_F(LowScreens, ShowResultsAndPipesWithoutScrolling) {
     const std::tuple<const char*, const char*, std::vector<int>> projects[] = {
         {"school-south.vht", "frmBHDesign", {0, 3, 4}},
         {"school-pond.vht", "frmSWDesign", {0, 3}},
@@ -188,6 +216,47 @@ TEST(LowScreens, ShowResultsAndPipesWithoutScrolling) {
         }
         closeLoads(desk);
     }
+}
+
+TEST_F(LowScreens, ShowWhatIfWithoutScrolling) {
+    openSchool();
+    desk.main().activate(last("frmBHDesign"));
+    last("frmBHDesign").click("CAWhatIfCommand");
+    idle<frmWhatIf>("frmWhatIf");
+    expectNothingHidden("frmWhatIf");
+}
+
+TEST_F(LowScreens, ShowTheFiguresOfASecondOpinionWithTheFirstPicture) {
+    openSchool();
+    desk.main().activate(last("frmBHDesign"));
+    last("frmBHDesign").click("CASecondOpinionCommand");
+    idle<frmSecondOpinion>("frmSecondOpinion");
+    const auto* page = frameOf("frmSecondOpinion").findChild<QScrollArea*>();
+    ASSERT_NE(page, nullptr);
+    Binder& binder = desk.shelf.windowOf(last("frmSecondOpinion"))->binder();
+    for (const char* name : {"SESizesFrame", "SEPartsFrame", "imgHistory"}) {
+        const QWidget* shown = binder.widget(name);
+        const QRect place(shown->mapTo(page->viewport(), QPoint(0, 0)), shown->size());
+        EXPECT_TRUE(page->viewport()->rect().contains(place)) << name;
+    }
+    EXPECT_LT(page->verticalScrollBar()->maximum(), page->viewport()->height() / 2);
+}
+
+TEST_F(LowScreens, ShowZonesPumpsAndImportedLoadsWithoutScrolling) {
+    openSchool();
+    last("frmZoneManage").select("LOZoneList", {24});
+    expectNothingHidden("frmZoneManage");
+    desk.main().click("EditAdd");
+    ChildWindow& editor = last("frmHPEdit");
+    // The second series of the first manufacturer.
+    editor.choose("MfgCombo", 2);
+    editor.choose("SeriesCombo", 2);
+    expectNothingHidden("frmHPEdit");
+    desk.main().click("mnuMonthlyLoadsImport");
+    desk.platform.picks.push_back("zones/school-south.gth");
+    last("frmImport1").click("cmdImport(2)");
+    Desk::settle();
+    expectNothingHidden("frmImport1");
 }
 
 TEST(NewWindows, FitIntoTheMainWindow) {

@@ -23,6 +23,15 @@ class WhatIfView : public LateWindow<frmWhatIf> {
     WhatIfView() : LateWindow("CAWhatIfCommand", "frmWhatIf") {}
 
     frmWhatIf& what() { return late(); }
+    /// Where the tornado's bars stand, as it is painted.
+    std::vector<QRectF> rowsOf(const QWidget& tornado) {
+        std::vector<QRectF> rows;
+        const auto paint = [&](const Canvas& canvas) {
+            rows = paintTornado(canvas, what().tornadoPicture(), what().texts());
+        };
+        renderedSample({"tornado", tornado.size(), paint}, lightLook(), 1);
+        return rows;
+    }
 };
 
 TEST_F(WhatIfView, FindsItsFiguresWhenTheLoopIsIdle) {
@@ -116,8 +125,9 @@ TEST_F(WhatIfView, PutsTheKeyboardIntoTheFieldOfABarThatIsPressed) {
     QWidget* tornado = widget("imgTornado");
     ASSERT_TRUE(tornado->isVisible());
     tornado->repaint();
-    // The first row stands below the legend.
-    press(tornado, {tornado->width() / 2.0, tornado->height() * 0.12});
+    const std::vector<QRectF> rows = rowsOf(*tornado);
+    ASSERT_FALSE(rows.empty());
+    press(tornado, rows.front().center());
     const std::size_t longest = what().tornadoPicture().bars.front().index;
     const QWidget* focused = desk.shelf.windowOf(what())->focusWidget();
     ASSERT_NE(focused, nullptr);
@@ -129,11 +139,7 @@ TEST_F(WhatIfView, PutsTheKeyboardIntoTheDesignsFieldOfALeverThatIsPressed) {
     idle();
     QWidget* tornado = widget("imgTornado");
     tornado->repaint();
-    std::vector<QRectF> rows;
-    const auto paint = [&](const Canvas& canvas) {
-        rows = paintTornado(canvas, what().tornadoPicture(), what().texts());
-    };
-    renderedSample({"tornado", tornado->size(), paint}, lightLook(), 1);
+    const std::vector<QRectF> rows = rowsOf(*tornado);
     const auto bars = what().tornadoPicture().bars;
     ASSERT_EQ(rows.size(), bars.size());
     constexpr const char* fields[] = {"FLInletTempText(0)", "FLInletTempText(1)",

@@ -358,7 +358,7 @@ FieldRow Binder::heads(const std::string& coolingHead, const std::string& heatin
     FieldRow row;
     for (const std::string& name : {coolingHead, heatingHead}) {
         auto* head = static_cast<QLabel*>(widget(name));
-        head->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        head->setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
         QFont font = head->font();
         font.setWeight(QFont::DemiBold);
         head->setFont(font);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/charts/chart_view.h"
 
+#include <QFontMetricsF>
 #include <QGraphicsLayout>
 #include <QtCharts/QCategoryAxis>
 #include <QtCharts/QLegend>
@@ -52,10 +53,18 @@ void setScale(QValueAxis& engine, const ChartAxis& axis) {
 }
 
 void drawAxis(QAbstractAxis& engine, const ChartAxis& axis) {
-    engine.setTitleText(axis.title);
     if (axis.parts.empty()) return setScale(static_cast<QValueAxis&>(engine), axis);
     engine.setRange(axis.lowest, axis.highest);
     nameParts(static_cast<QCategoryAxis&>(engine), axis);
+}
+
+/// The engine would end a title that is too long in dots, and with it the unit.
+void fitTitle(QAbstractAxis& engine, const ChartAxis& axis, double room) {
+    constexpr double edges = 4;
+    const double needed = QFontMetricsF(engine.titleFont()).horizontalAdvance(axis.title) + edges;
+    const bool cut = room > 0 && needed > room && !axis.unit.isEmpty();
+    const QString& title = cut ? axis.unit : axis.title;
+    if (engine.titleText() != title) engine.setTitleText(title);
 }
 
 void dressAxis(QAbstractAxis& engine, const Look& look, const QFont& font) {
@@ -89,6 +98,7 @@ ChartView::ChartView(QWidget* parent) : QChartView(newPlainChart(), parent) {
     // The wheel belongs to the page.
     setInteractive(false);
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    connect(chart(), &QChart::plotAreaChanged, this, [this] { fitTitles(); });
 }
 
 bool ChartView::hasPartsOf(const ChartPicture& picture) const {
@@ -127,6 +137,7 @@ void ChartView::draw(const ChartPicture& picture) {
             series_[i].draw(picture.series[i].points);
     picture_ = picture;
     if (!built) dressAll();
+    fitTitles();
 }
 
 void ChartView::dress(const Look& look, const QFont& figures) {
@@ -139,6 +150,14 @@ void ChartView::dressAll() {
     if (look_ == nullptr || across_ == nullptr) return;
     for (QAbstractAxis* axis : {across_, up_}) dressAxis(*axis, *look_, figures_);
     for (PlottedSeries& series : series_) series.dress(*look_);
+    fitTitles();
+}
+
+void ChartView::fitTitles() {
+    if (across_ == nullptr) return;
+    const QSizeF room = chart()->plotArea().size();
+    fitTitle(*across_, picture_.across, room.width());
+    fitTitle(*up_, picture_.up, room.height());
 }
 
 }  // namespace varnholt

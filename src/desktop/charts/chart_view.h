@@ -24,6 +24,7 @@ class ChartView : public QChartView, public Chart {
     bool hasPartsOf(const ChartPicture& picture) const;
     void build(const ChartPicture& picture);
     void dressAll();
+    void fitTitles();
 
     ChartPicture picture_;
     QAbstractAxis *across_ = nullptr, *up_ = nullptr;

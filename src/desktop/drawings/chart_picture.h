@@ -23,6 +23,8 @@ struct ChartAxis {
     };
 
     QString title;
+    /// Stands alone where the title would be cut; empty where there is none.
+    QString unit;
     double lowest = 0, highest = 1;
     /// Figures stand at the multiples of the step...
     double step = 1;

@@ -70,7 +70,7 @@ Drawing* newBoreDrawing(std::function<BoreDrawing()> source, const Texts& texts)
     return new PaintedDrawing<BoreDrawing>(
         std::move(source),
         [&texts](const Canvas& canvas, const BoreDrawing& bore) { paintBore(canvas, bore, texts); },
-        [&texts](const BoreDrawing& bore) { return qt(describe(bore, texts)); }, {260, 230});
+        [&texts](const BoreDrawing& bore) { return qt(describe(bore, texts)); }, {260, 188});
 }
 
 Drawing* newFieldDrawing(std::function<FieldPlan()> source, const Texts& texts) {
@@ -120,7 +120,7 @@ Drawing* newTrenchPlanDrawing(std::function<TrenchPlan()> source, const Texts& t
         [&texts](const Canvas& canvas, const TrenchPlan& plan) {
             paintTrenches(canvas, plan, texts);
         },
-        [&texts](const TrenchPlan& plan) { return qt(describe(plan, texts)); }, {380, 132});
+        [&texts](const TrenchPlan& plan) { return qt(describe(plan, texts)); }, {340, 132});
 }
 
 Drawing* newCircuitDrawing(std::function<CircuitPlan()> source, const Texts& texts,
@@ -157,7 +157,7 @@ Drawing* newLoadsBars(std::function<LoadsChart()> source, std::function<LoadsCap
             paintLoads(canvas, bars.loads, bars.captions, texts);
         },
         [&texts](const LoadsBars& bars) { return qt(describe(bars.loads, bars.captions, texts)); },
-        {252, 140});
+        {252, 96});
 }
 
 Drawing* newMonthsPicture(std::function<MonthsChart()> source, const Texts& texts) {
@@ -166,7 +166,7 @@ Drawing* newMonthsPicture(std::function<MonthsChart()> source, const Texts& text
         [&texts](const Canvas& canvas, const MonthsChart& year) {
             paintMonths(canvas, year, texts);
         },
-        [&texts](const MonthsChart& year) { return qt(describe(year, texts)); }, {420, 190});
+        [&texts](const MonthsChart& year) { return qt(describe(year, texts)); }, {420, 150});
 }
 
 Drawing* newDayChart(std::function<LoadsChart()> source, std::function<LoadsCaptions()> captions,

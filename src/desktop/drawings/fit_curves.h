@@ -19,7 +19,7 @@ class FitCurves : public ChartDrawing {
     FitCurves(Source picture, const Texts& texts, ChartModuleFinder charts);
 
     QString description() const override;
-    QSize sizeHint() const override { return {400, 400}; }
+    QSize sizeHint() const override { return {400, 370}; }
 
  protected:
     bool take() override;

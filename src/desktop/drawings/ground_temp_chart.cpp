@@ -45,6 +45,7 @@ ChartAxis GroundTempChart::temperatures() const {
         }
     ChartAxis axis = axisAround(lowest, highest);
     axis.title = titleWithUnit(texts().text(Text::groundChartTemperature), curves_.temperatureUnit);
+    axis.unit = qt(curves_.temperatureUnit);
     return axis;
 }
 

@@ -18,7 +18,7 @@ class GroundTempChart : public ChartDrawing {
     GroundTempChart(Source curves, const Texts& texts, ChartModuleFinder charts);
 
     QString description() const override;
-    QSize sizeHint() const override { return {420, 400}; }
+    QSize sizeHint() const override { return {420, 370}; }
     QSize minimumSizeHint() const override { return {280, 320}; }
 
  protected:

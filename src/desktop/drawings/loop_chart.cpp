@@ -41,6 +41,7 @@ std::vector<ChartPicture> LoopChart::pictures() const {
         titleWithUnit(texts().text(Text::loopChartDifference), curves_.differenceUnit);
     chart.up = axisFromZero(longest);
     chart.up.title = titleWithUnit(texts().text(Text::loopChartPerTon), curves_.lengthUnit);
+    chart.up.unit = qt(curves_.lengthUnit);
     return {chart};
 }
 

@@ -10,7 +10,7 @@
 namespace varnholt {
 namespace {
 
-constexpr QSize opinionSize{420, 220};
+constexpr QSize opinionSize{320, 200};
 
 /// A year of the band can be pressed, and the months that follow it too, to come back.
 class HistoryDrawing : public PaintedDrawing<HistoryPicture> {

@@ -10,8 +10,8 @@
 namespace varnholt {
 namespace {
 
-constexpr QSize whatIfSize{460, 300};
-constexpr QSize beside{320, 220};  // of two pictures in one line
+constexpr QSize whatIfSize{460, 290};
+constexpr QSize beside{320, 180};  // of two pictures in one line
 constexpr QSize low{420, 72};
 
 /// A picture of which parts can be pressed.

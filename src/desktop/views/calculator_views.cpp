@@ -34,8 +34,8 @@ QWidget* makeDiffusivityView(Binder& bind) {
     return page(column(units(bind),
                        group(bind.frame("fraDiffCalc"),
                              grid(bind.row("txtDiffCalc(0)"), bind.row("txtDiffCalc(1)"),
-                                  bind.row("txtDiffCalc(2)"), bind.row("txtDiffCalc(3)"),
-                                  bind.wide(rule()), largeResult(bind, "txtDiffCalc(4)"))),
+                                  bind.row("txtDiffCalc(2)"), bind.row("txtDiffCalc(3)")),
+                             rule(), grid(largeResult(bind, "txtDiffCalc(4)"))),
                        row_(bind.widget("cmdSoilTables"), stretch(), bind.widget("cmdClose"))));
 }
 
@@ -43,8 +43,8 @@ QWidget* makePumpPowerView(Binder& bind) {
     return page(column(units(bind),
                        group(bind.frame("fraPumpPower"),
                              grid(bind.row("txtPumpPowerCalc(1)"), bind.row("txtPumpPowerCalc(2)"),
-                                  bind.row("txtPumpPowerCalc(3)"), bind.wide(rule()),
-                                  largeResult(bind, "txtPumpPowerCalc(0)"))),
+                                  bind.row("txtPumpPowerCalc(3)")),
+                             rule(), grid(largeResult(bind, "txtPumpPowerCalc(0)"))),
                        row_(stretch(), bind.widget("cmdClose"))));
 }
 

@@ -34,7 +34,7 @@ ComparisonTable::ComparisonTable(const std::vector<FieldRow>& rows) : heads_(row
     for (QWidget* head : heads_) {
         auto* label = static_cast<QLabel*>(head);
         label->setWordWrap(true);
-        label->setAlignment(Qt::AlignRight | Qt::AlignBottom);
+        label->setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignBottom);
         label->installEventFilter(this);
     }
     setFrameShape(QFrame::NoFrame);

@@ -11,13 +11,14 @@ namespace varnholt {
 QWidget* figureLabel(Binder& bind, const std::string& name) {
     auto* label = static_cast<QLabel*>(bind.widget(name));
     label->setFont(figureFont(label->font()));
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label->setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
     return label;
 }
 
 QWidget* headLabel(Binder& bind, const std::string& name) {
     auto* label = static_cast<QLabel*>(bind.widget(name));
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    // Figures stand at the right of their columns in every language.
+    label->setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
     mute(label);
     return label;
 }

@@ -93,7 +93,7 @@ QWidget* makeImporterView(Binder& bind) {
                             reflow(new MonthTable(bind), grow(column(grow(importedYearFields(bind)),
                                                                      grow(transfer(bind))))),
                             row_(stretch(), bind.widget("cmdImport(1)"))))))),
-                 {960, 720});
+                 {135 * gridStep, 720});
 }
 
 QWidget* makeImportTableView(Binder& bind) {

@@ -44,8 +44,9 @@ QLabel* MonthTable::label(const std::string& name, int row, int column, bool fig
         label->setMinimumWidth(cellWidth);
         label->setContentsMargins(6, 2, 6, 2);
     }
-    const Qt::Alignment right = Qt::AlignRight | (figure ? Qt::AlignAbsolute : Qt::Alignment());
-    label->setAlignment((column == 0 ? Qt::AlignLeft : right) | Qt::AlignVCenter);
+    // Figures and their heads stand at the right of their columns in every language.
+    label->setAlignment((column == 0 ? Qt::AlignLeft : Qt::AlignRight | Qt::AlignAbsolute) |
+                        Qt::AlignVCenter);
     grid_->addWidget(label, row, column);
     return label;
 }

@@ -2,6 +2,7 @@
 // Tables of measured data with their curves: figures at the left, pictures at the right.
 #include "desktop/views/pump_editor_pages.h"
 
+#include <QGridLayout>
 #include <QLabel>
 
 #include "catalogue/editor/editor_names.h"
@@ -66,8 +67,15 @@ QWidget* asHighAsFields(QWidget* button) {
     return button;
 }
 
-/// A table without captions, which need not stand behind those of what follows it.
-QWidget* atLeft(QWidget* table) { return row_(table, stretch()); }
+/// A table with its command beside it, or below it where the window is narrow.
+QWidget* withCommand(QWidget* table, QWidget* command) { return reflow(table, column(command)); }
+
+/// Each curve's fit stands near the curve.
+QWidget* curveGrid(const std::vector<FieldRow>& rows) {
+    QWidget* curves = gridOf(rows);
+    static_cast<QGridLayout*>(curves->layout())->setVerticalSpacing(gridStep / 4);
+    return curves;
+}
 
 FieldRow tableRow(std::vector<QWidget*> cells) {
     FieldRow row;
@@ -153,8 +161,9 @@ QWidget* ratingCurves(Binder& bind, Mode mode) {
         factors.fields.push_back(
             narrow(bind.widget(elementName(prefix + "FlowFactorText", quantity)), figuresOfTerm));
     rows.push_back(factors);
-    return group(bind.frame(prefix + "CoefficientsFrame"), gridOf(rows),
-                 buttons(bind.widget(elementName("CalculateCoefficientsCommand", mode))));
+    return group(bind.frame(prefix + "CoefficientsFrame"),
+                 withCommand(curveGrid(rows),
+                             bind.widget(elementName("CalculateCoefficientsCommand", mode))));
 }
 
 /// A picture of the pump on show.
@@ -220,8 +229,9 @@ QWidget* correctionCurves(Binder& bind, CorrectionKind kind) {
         for (const FittedQuantity quantity : fittedQuantities)
             addCurve(rows, bind, correctionStem(mode, quantity), "(" + std::to_string(kind) + ")",
                      kind * mostTerms, mostTerms, mode);
-    return group(bind.frame(elementName("CorrectionsCoefficientsFrame", kind)), gridOf(rows),
-                 buttons(bind.widget(elementName("CoefficientsCalculateCommand", kind))));
+    return group(bind.frame(elementName("CorrectionsCoefficientsFrame", kind)),
+                 withCommand(curveGrid(rows),
+                             bind.widget(elementName("CoefficientsCalculateCommand", kind))));
 }
 
 }  // namespace
@@ -238,8 +248,9 @@ QWidget* pumpDetailsPage(Binder& bind) {
 QWidget* ratingPageOf(Binder& bind, Mode mode) {
     QWidget* chart = curves(bind, prefixOf(mode) + "RatingChart");
     QWidget* figures =
-        column(flowPair(bind, mode), atLeft(ratingTable(bind, mode)),
-               buttons(bind.widget(elementName("CopyTableCommand", ratingPage[mode]))),
+        column(flowPair(bind, mode),
+               withCommand(ratingTable(bind, mode),
+                           bind.widget(elementName("CopyTableCommand", ratingPage[mode]))),
                ratingCurves(bind, mode));
     return group(bind.frame(pageFrames[ratingPage[mode]]), grow(reflow(figures, grow(chart))));
 }
@@ -253,8 +264,9 @@ QWidget* correctionPageOf(Binder& bind, CorrectionKind kind) {
         return row;
     }())
                                       : nullptr;
-    QWidget* figures = column(nominal, atLeft(correctionTable(bind, kind)),
-                              buttons(bind.widget(elementName("CopyTableCommand", page))),
+    QWidget* figures = column(nominal,
+                              withCommand(correctionTable(bind, kind),
+                                          bind.widget(elementName("CopyTableCommand", page))),
                               correctionCurves(bind, kind));
     return group(bind.frame(pageFrames[page]), grow(reflow(figures, grow(chart))));
 }

@@ -73,7 +73,10 @@ QWidget* data(Binder& bind) {
                                    [&bind] { return page(correctionPageOf(bind, byFlow)); },
                                    [&bind] { return page(pumpTestPage(bind)); }});
     auto* place = new QWidget;
-    QWidget* frame = group(bind.frame("PumpDataPicture"), grow(place));
+    GroupBox* card = bind.frame("PumpDataPicture");
+    // The cards of the pages have edges of their own.
+    card->setLow();
+    QWidget* frame = group(card, grow(place));
     // Behind the frame's back, so that the page that is built first is a card as the others are.
     auto* layout = new QVBoxLayout(place);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The window of the second opinion: figures above, pictures in the middle, inputs and years below.
+// The window of the second opinion: figures above, what is asked at the left, pictures and years at
+// the right.
 #include <QLabel>
 
 #include "design/frmSecondOpinion.h"
@@ -113,8 +114,8 @@ QWidget* yearOfOpinion(Binder& bind) {
     std::vector<FieldRow> rows{heads};
     for (std::size_t month = 0; month < opinionMonthsOfYear; ++month)
         rows.push_back(monthRow(bind, month));
-    return group(bind.frame("SEYearFrame"), grid(bind.row("SEShapeCombo")),
-                 bind.widget("SESouthCheck"), gridOf(rows),
+    return group(bind.frame("SEYearFrame"),
+                 grid(bind.row("SEShapeCombo", {bind.widget("SESouthCheck")})), gridOf(rows),
                  buttons(bind.iconButton("SEPasteCommand", QStringLiteral("paste")),
                          bind.widget("SECopyCommand")));
 }
@@ -134,22 +135,21 @@ QWidget* table(Binder& bind) {
     return group(bind.frame("SETableFrame"), gridOf(rows), rule(),
                  row_(bind.widget("SEClassicalPenaltyLabel(2)"), gap(),
                       figureLabel(bind, "SEClassicalPenaltyLabel(0)"), gap(),
-                      figureLabel(bind, "SEClassicalPenaltyLabel(1)"), stretch()),
-                 stretch());
+                      figureLabel(bind, "SEClassicalPenaltyLabel(1)"), stretch()));
 }
 
 }  // namespace
 
 QWidget* makeSecondOpinionView(Binder& bind) {
     QWidget* figures = reflow(sizes(bind), grow(parts(bind)));
-    QWidget* choices = column(inputs(bind), depth(bind), noticeBar(bind), stretch());
-    QWidget* pictures =
-        column(grow(history(bind)), grow(reflow(grow(months(bind)), grow(gFunction(bind)))));
-    QWidget* middle = reflow(choices, grow(pictures));
-    QWidget* below = reflow(yearOfOpinion(bind), grow(table(bind)));
-    constexpr int width = 130 * gridStep, height = 95 * gridStep;
-    return roomy(column(grow(new ScrollPage(page(column(figures, grow(middle), below))))),
-                 {width, height});
+    QWidget* asked = column(reflow(inputs(bind), grow(depth(bind))), passingNoticeBar(bind),
+                            yearOfOpinion(bind), stretch());
+    QWidget* told = column(grow(history(bind)),
+                           grow(reflow(grow(months(bind)), grow(gFunction(bind)))), table(bind));
+    constexpr int width = 130 * gridStep, height = 110 * gridStep;
+    return roomy(
+        column(grow(new ScrollPage(page(column(figures, grow(reflow(asked, grow(told)))))))),
+        {width, height});
 }
 
 }  // namespace varnholt

@@ -9,6 +9,7 @@
 #include "desktop/views/figure_labels.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/views.h"
+#include "desktop/widgets/list_view.h"
 #include "desktop/widgets/text_label.h"
 
 namespace varnholt {
@@ -49,7 +50,8 @@ FieldRow figureRow(Binder& bind, const std::string& caption, const std::string& 
     for (std::size_t i = 1; i < count; ++i)
         row.fields.push_back(bind.figure(caption, elementName(array, i)).fields.front());
     for (QWidget* field : row.fields)
-        static_cast<QLabel*>(field)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        static_cast<QLabel*>(field)->setAlignment(Qt::AlignRight | Qt::AlignAbsolute |
+                                                  Qt::AlignVCenter);
     return row;
 }
 
@@ -60,13 +62,20 @@ FieldRow headRow(Binder& bind, const std::string& array, std::size_t count) {
     return row;
 }
 
+/// The cards above the pages, which are to have the height.
+GroupBox* lowFrame(Binder& bind, const std::string& name) {
+    GroupBox* frame = bind.frame(name);
+    frame->setLow();
+    return frame;
+}
+
 QWidget* top(Binder& bind) {
     QWidget* need =
-        group(bind.frame("WINeedFrame"),
+        group(lowFrame(bind, "WINeedFrame"),
               grid(bind.heads("WITopLabel(0)", "WITopLabel(1)"), bind.results("WINeedLabel")),
               grid(bind.figure("WIGoverningCaptionLabel", "WIGoverningLabel"),
                    bind.figure("WIBoreCaptionLabel", "WIBoreLabel")));
-    QWidget* measure = group(bind.frame("WIMeasureFrame"), bind.widget("WIMeasureOption(0)"),
+    QWidget* measure = group(lowFrame(bind, "WIMeasureFrame"), bind.widget("WIMeasureOption(0)"),
                              bind.widget("WIMeasureOption(1)"));
     QWidget* told = column(passingNoticeBar(bind), wrapped(bind.widget("WIMessageLabel")),
                            mutedText(bind, "WINoteLabel"), mutedText(bind, "WIStateLabel"));
@@ -92,10 +101,10 @@ QWidget* decidesPage(Binder& bind) {
                      buttons(bind.widget("WIGroundOption(0)"), bind.widget("WIGroundOption(1)"),
                              bind.widget("WIGroundOption(2)"))),
                spreads(bind), stretch());
-    QWidget* ties =
-        group(bind.frame("WITieFrame"),
-              grid(bind.row("WITieText(0)"), bind.row("WITieText(1)"), bind.row("WITieText(2)")),
-              mutedText(bind, "WITiedLabel"));
+    QWidget* ties = group(
+        bind.frame("WITieFrame"),
+        reflow(grid(bind.row("WITieText(0)"), bind.row("WITieText(1)"), bind.row("WITieText(2)")),
+               grow(mutedText(bind, "WITiedLabel"))));
     QWidget* picture =
         bind.drawing("imgTornado",
                      newTornadoDrawing(from(bind, &frmWhatIf::tornadoPicture), bind.form()->texts(),
@@ -132,13 +141,21 @@ QWidget* surePage(Binder& bind) {
 
 // Layout.
 
+/// A list that leaves its height to the page: it takes what the window has.
+QWidget* lowList(Binder& bind, const std::string& name) {
+    constexpr int rows = 5;
+    auto* list = static_cast<ListView*>(bind.widget(name));
+    list->setUsualRows(rows);
+    return list;
+}
+
 QWidget* land(Binder& bind) {
     return group(bind.frame("WLLandFrame"),
                  grid(bind.row("WLAcrossText"), bind.row("WLDownText"), bind.row("WLBoundaryText"),
                       bind.row("WLClearText")),
                  buttons(bind.iconButton("WLPasteCommand", QStringLiteral("paste")),
                          bind.widget("WLRectangleCommand")),
-                 bind.widget("WLCornerLabel"), bind.widget("WLCornerList"),
+                 bind.widget("WLCornerLabel"), grow(lowList(bind, "WLCornerList")),
                  grid(bind.row("WLCornerXText"), bind.row("WLCornerYText")));
 }
 
@@ -159,11 +176,11 @@ QWidget* layoutPage(Binder& bind) {
         "imgFields", newFieldsDrawing(from(bind, &frmWhatIf::fieldsPicture), texts,
                                       pointing(bind, "imgFields", &frmWhatIf::pointAtField)));
     QWidget* list = group(bind.frame("WLFieldsFrame"), mutedText(bind, "WLStateLabel"),
-                          grow(bind.widget("WLList")),
+                          grow(lowList(bind, "WLList")),
                           buttons(bind.widget("WLTakeCommand"), bind.widget("WLCopyCommand")));
     QWidget* found = column(wrapped(bind.widget("WLMessageLabel")),
                             grow(reflow(grow(picture), grow(points)), 3), grow(list, 2));
-    return reflow(column(land(bind), stretch()), column(search(bind), stretch()), grow(found));
+    return reflow(land(bind), column(search(bind), stretch()), grow(found));
 }
 
 // Cost.
@@ -191,11 +208,8 @@ QWidget* costPage(Binder& bind) {
             bind.figure(elementName("WCResultCaptionLabel", i), elementName("WCResultLabel", i)));
     QWidget* picture = bind.drawing(
         "imgCost", newCostDrawing(from(bind, &frmWhatIf::costPicture), bind.form()->texts()));
-    QWidget* figures = gridOf(parts);
-    // Room between a figure and the caption beside it.
-    figures->setContentsMargins(0, 0, 4 * gridStep, 0);
-    QWidget* cost = group(bind.frame("WCResultFrame"),
-                          reflow(figures, grow(column(gridOf(results), stretch()))), grow(picture),
+    QWidget* figures = row_(gridOf(parts), gap(), gap(), gridOf(results), gap());
+    QWidget* cost = group(bind.frame("WCResultFrame"), grow(reflow(figures, grow(picture))),
                           mutedText(bind, "WCLeftOutLabel"));
     return column(reflow(build, others, grow(energy)), grow(cost));
 }
@@ -244,7 +258,7 @@ QWidget* makeWhatIfView(Binder& bind) {
          [&bind] { return page(layoutPage(bind)); }, [&bind] { return page(costPage(bind)); },
          [&bind] { return page(alternativesPage(bind)); },
          [&bind] { return page(towerPage(bind)); }});
-    return roomy(column(bar(top(bind)), grow(pages)), {960, 820});
+    return roomy(column(bar(top(bind)), grow(pages)), {148 * gridStep, 820});
 }
 
 }  // namespace varnholt

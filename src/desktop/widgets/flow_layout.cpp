@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/widgets/flow_layout.h"
 
+#include <QStyle>
 #include <QWidget>
 #include <algorithm>
 
@@ -53,21 +54,37 @@ void FlowLayout::setGeometry(const QRect& rect) {
     place(rect, true);
 }
 
+/// Lines begin where the language begins to read.
 int FlowLayout::place(const QRect& rect, bool move) const {
-    int x = rect.x(), y = rect.y(), lineHeight = 0;
+    int y = rect.y(), lineHeight = 0;
+    const Qt::LayoutDirection way = parentWidget()->layoutDirection();
+    for (const Line& line : linesFor(rect.width())) {
+        if (lineHeight > 0) y += lineHeight + spacing();
+        lineHeight = line.height;
+        int x = rect.x();
+        for (QLayoutItem* item : line.items) {
+            const QSize size = item->sizeHint();
+            const QRect place(QPoint(x, y + (lineHeight - size.height()) / 2), size);
+            if (move) item->setGeometry(QStyle::visualRect(way, rect, place));
+            x += size.width() + spacing();
+        }
+    }
+    return y + lineHeight - rect.y();
+}
+
+std::vector<FlowLayout::Line> FlowLayout::linesFor(int width) const {
+    std::vector<Line> lines;
+    int taken = 0;
     for (QLayoutItem* item : items_) {
         if (item->isEmpty()) continue;
         const QSize size = item->sizeHint();
-        if (x > rect.x() && x + size.width() > rect.x() + rect.width()) {
-            x = rect.x();
-            y += lineHeight + spacing();
-            lineHeight = 0;
-        }
-        if (move) item->setGeometry({QPoint(x, y), size});
-        x += size.width() + spacing();
-        lineHeight = std::max(lineHeight, size.height());
+        const bool fits = !lines.empty() && taken + spacing() + size.width() <= width;
+        taken = fits ? taken + spacing() + size.width() : size.width();
+        if (!fits) lines.emplace_back();
+        lines.back().items.push_back(item);
+        lines.back().height = std::max(lines.back().height, size.height());
     }
-    return y + lineHeight - rect.y();
+    return lines;
 }
 
 }  // namespace varnholt

@@ -7,7 +7,8 @@
 
 namespace varnholt {
 
-/// Items in lines that break where the width ends, as words do.
+/// Items in lines that break where the width ends, as words do; those of a line stand in the middle
+/// of its height.
 class FlowLayout : public QLayout {
  public:
     explicit FlowLayout(QWidget* parent);
@@ -25,6 +26,12 @@ class FlowLayout : public QLayout {
     void setGeometry(const QRect& rect) override;
 
  private:
+    struct Line {
+        std::vector<QLayoutItem*> items;
+        int height = 0;
+    };
+
+    std::vector<Line> linesFor(int width) const;
     /// Height that the items take in that place; moves them there when asked to.
     int place(const QRect& rect, bool move) const;
 

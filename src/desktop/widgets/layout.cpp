@@ -2,9 +2,11 @@
 #include "desktop/widgets/layout.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -27,11 +29,18 @@ class FieldGrid : public QWidget {
     int captionWidth() const;
     void setCaptionWidth(int width);
 
+ protected:
+    bool event(QEvent* event) override;
+
  private:
     void addRow(int line, const FieldRow& row, int fieldColumns);
+    void addOnlyField(int line, const FieldRow& row, int fieldColumns);
+    void addUnit(int line, const FieldRow& row, int fieldColumns);
+    void alignCombos();
 
     QGridLayout* layout_;
     std::vector<QWidget*> captions_;
+    std::vector<QComboBox*> combos_;
 };
 
 int mostFields(const std::vector<FieldRow>& rows) {
@@ -48,12 +57,6 @@ bool hasOwnWidth(const QWidget* widget) {
     return widget->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
 }
 
-bool holdsFields(const std::vector<FieldRow>& rows) {
-    for (const FieldRow& row : rows)
-        if (std::any_of(row.fields.begin(), row.fields.end(), hasOwnWidth)) return true;
-    return false;
-}
-
 /// Buttons and check boxes are as wide as their captions, at the left.
 Qt::Alignment ownWidth(QWidget* widget) {
     const bool isButton = qobject_cast<QAbstractButton*>(widget) != nullptr;
@@ -66,6 +69,16 @@ bool takesPlace(const QWidget* field) {
            qobject_cast<const QLabel*>(field) == nullptr;
 }
 
+bool holdsFields(const std::vector<FieldRow>& rows) {
+    const auto isField = [](const QWidget* field) {
+        return hasOwnWidth(field) || qobject_cast<const QLineEdit*>(field) != nullptr ||
+               qobject_cast<const QComboBox*>(field) != nullptr;
+    };
+    for (const FieldRow& row : rows)
+        if (std::any_of(row.fields.begin(), row.fields.end(), isField)) return true;
+    return false;
+}
+
 FieldGrid::FieldGrid(const std::vector<FieldRow>& rows) : layout_(new QGridLayout(this)) {
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setHorizontalSpacing(gridStep);
@@ -75,6 +88,8 @@ FieldGrid::FieldGrid(const std::vector<FieldRow>& rows) : layout_(new QGridLayou
     int line = 0;
     for (const FieldRow& row : rows) addRow(line++, row, fieldColumns);
     layout_->setColumnStretch(fieldColumns + 3, 1);
+    // Rows stay together where what stands beside them is higher.
+    layout_->setRowStretch(line, 1);
     // Columns of figures stand apart whatever their figures are; fields have widths of their own.
     if (fieldColumns > 1 && !holdsFields(rows))
         for (int column = 1; column <= fieldColumns; ++column)
@@ -82,7 +97,6 @@ FieldGrid::FieldGrid(const std::vector<FieldRow>& rows) : layout_(new QGridLayou
 }
 
 void FieldGrid::addRow(int line, const FieldRow& row, int fieldColumns) {
-    const int unitColumn = fieldColumns + 1;
     const int moreColumn = fieldColumns + 2;
     if (row.wide) {
         QWidget* wide = row.fields.front();
@@ -95,14 +109,8 @@ void FieldGrid::addRow(int line, const FieldRow& row, int fieldColumns) {
     }
     int column = 1;
     for (QWidget* field : row.fields) {
-        const bool spans = takesPlace(field) && row.unit == nullptr && row.fields.size() == 1;
-        if (spans && row.more.empty())
-            layout_->addWidget(field, line, column, 1, fieldColumns + 3,
-                               field->sizePolicy().horizontalPolicy() == QSizePolicy::Preferred
-                                   ? Qt::AlignLeft | Qt::AlignVCenter
-                                   : Qt::Alignment());
-        else if (spans)
-            layout_->addWidget(field, line, column, 1, fieldColumns + 1);
+        if (takesPlace(field) && row.unit == nullptr && row.fields.size() == 1)
+            addOnlyField(line, row, fieldColumns);
         else
             // Below the heads of their columns, which stand at the right.
             layout_->addWidget(
@@ -110,15 +118,46 @@ void FieldGrid::addRow(int line, const FieldRow& row, int fieldColumns) {
                 fieldColumns > 1 && hasOwnWidth(field) ? Qt::AlignRight : Qt::Alignment());
         ++column;
     }
-    if (row.unit != nullptr) {
-        mute(row.unit);
-        row.unit->setProperty(unitProperty, true);
-        layout_->addWidget(row.unit, line, unitColumn, Qt::AlignLeft | Qt::AlignVCenter);
-    }
+    if (row.unit != nullptr) addUnit(line, row, fieldColumns);
     if (row.more.empty()) return;
     std::vector<Piece> pieces(row.more.begin(), row.more.end());
     pieces.push_back(stretch());
     layout_->addWidget(rowOf(pieces), line, moreColumn, 1, 2);
+}
+
+/// A text takes the whole place, a combo as much as the widest below one another.
+void FieldGrid::addOnlyField(int line, const FieldRow& row, int fieldColumns) {
+    QWidget* field = row.fields.front();
+    const bool keepsToItself = field->sizePolicy().horizontalPolicy() == QSizePolicy::Preferred;
+    auto* combo = qobject_cast<QComboBox*>(field);
+    if (combo != nullptr && keepsToItself) combos_.push_back(combo);
+    const int columns = row.more.empty() ? fieldColumns + 3 : fieldColumns + 1;
+    layout_->addWidget(field, line, 1, 1, columns,
+                       combo == nullptr && keepsToItself && row.more.empty()
+                           ? Qt::AlignLeft | Qt::AlignVCenter
+                           : Qt::Alignment());
+}
+
+/// Beside the field that it belongs to, where others have one more.
+void FieldGrid::addUnit(int line, const FieldRow& row, int fieldColumns) {
+    const bool alone = row.fields.size() == 1 && hasOwnWidth(row.fields.front());
+    const int column = alone ? 2 : fieldColumns + 1;
+    mute(row.unit);
+    row.unit->setProperty(unitProperty, true);
+    layout_->addWidget(row.unit, line, column, 1, fieldColumns + 2 - column,
+                       Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+bool FieldGrid::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Polish) alignCombos();
+    return QWidget::event(event);
+}
+
+void FieldGrid::alignCombos() {
+    int widest = 0;
+    for (const QComboBox* combo : combos_) widest = std::max(widest, combo->sizeHint().width());
+    for (QComboBox* combo : combos_)
+        if (combo->maximumWidth() != widest) combo->setMaximumWidth(widest);
 }
 
 int FieldGrid::captionWidth() const {

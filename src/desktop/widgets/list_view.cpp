@@ -361,10 +361,9 @@ int ListView::longestEntry() const {
 }
 
 QSize ListView::sizeHint() const {
-    // As wide as its longest entry and eight rows high; whoever places it may stretch it.
     constexpr int edges = 48;
     const int wide = std::max(160, longestEntry() + edges);
-    return {std::min(wide, 520), 8 * std::max(18, sizeHintForRow(0)) + 8};
+    return {std::min(wide, 520), usualRows_ * std::max(18, sizeHintForRow(0)) + 8};
 }
 
 }  // namespace varnholt

@@ -109,6 +109,9 @@ class ListView : public QTreeView {
     /// The row that stands at a place; -1 for none.
     int rowAt(const QPoint& place) const;
 
+    /// How many rows it asks room for; whoever places it may stretch it.
+    void setUsualRows(int rows) { usualRows_ = rows; }
+
     /// A person has opened a row, by a double click or Enter.
     std::function<void(int row)> onOpened;
     /// A person has picked rows, possibly the same as before.
@@ -135,6 +138,7 @@ class ListView : public QTreeView {
     QModelIndex shownIndex(int row) const;
     QStringList shownRows() const;
 
+    int usualRows_ = 8;
     ListModel* model_;
     ListOrder* order_;
     std::vector<int> picked_;
