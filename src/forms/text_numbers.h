@@ -188,6 +188,7 @@ constexpr int noticeValueTooSmall = 1238;
 constexpr int noticeValueNotAbove = 1239;
 constexpr int noticeValueTooLarge = 1240;
 constexpr int noticeValueNotTaken = 1241;
+constexpr int noticeValueBesideZero = 2442;
 
 // Lines of the status bar for the entries of the menus.
 constexpr int newBoreholeHint = 1300;

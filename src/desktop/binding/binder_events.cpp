@@ -166,8 +166,10 @@ bool Binder::pasteBlock(const std::string& field) {
 void Binder::showRefusal() {
     if (scripted_ || form_ == nullptr) return;
     const std::optional<RefusedValue> refused = form_->fields().refused();
-    const BoundControl* field = refused ? find(refused->control) : nullptr;
+    BoundControl* field = refused ? find(refused->control) : nullptr;
     if (field == nullptr || !field->widget()->isVisible()) return;
+    // A field that refuses one value after another stays marked, and says why of the last.
+    field->show(Property::refused);
     const std::string why = form_->whyRefused(*refused);
     if (refusal_ == nullptr) refusal_ = std::make_unique<RefusalHint>();
     if (refusal_->isShownFor(field->widget(), why)) return;

@@ -77,7 +77,8 @@ class BoundText : public BoundControl {
     }
     void showRefused() {
         const QString reason = control().refused() ? reasonOf() : QString();
-        if (edit_->property("refused").toBool() == control().refused()) return;
+        const bool marked = edit_->property("refused").toBool();
+        if (marked == control().refused() && edit_->accessibleDescription() == reason) return;
         setStyleProperty("refused", control().refused());
         edit_->setMark(control().refused() ? houseIcon(QStringLiteral("refused")) : QIcon(),
                        reason);
