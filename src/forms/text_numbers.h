@@ -385,6 +385,7 @@ constexpr int linkedAlready = 2355;
 constexpr int noLinkToEnd = 2356;
 constexpr int numberWanted = 2357;
 constexpr int noticeValueNoNumber = 2358;
+constexpr int closeWindowHint = 2443;
 constexpr int warningsTitle = 2360;
 constexpr int warningCapacity = 2361;
 constexpr int warningNoPump = 2362;

@@ -243,17 +243,26 @@ TEST_F(Keys, ControlAndPageKeysTurnThePages) {
     EXPECT_EQ(tabs().currentIndex(), (first + pages - 1) % pages);
 }
 
+TEST_F(Keys, ControlAndPageKeysTurnThePagesFromAFieldOfThem) {
+    field(ground);
+    press(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(tabs().currentIndex(), 3);
+    press(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(tabs().currentIndex(), 2);
+}
+
 TEST_F(Keys, F6GoesFromPaneToPaneAndRound) {
     field(ground);
     std::vector<QWidget*> visited;
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 5; ++i) {
         press(Qt::Key_F6);
         visited.push_back(QApplication::focusWidget());
     }
     EXPECT_EQ(visited[0], tabs().tabBar());
     EXPECT_EQ(plain(visited[1]->objectName()), "MetricCheck");
-    EXPECT_TRUE(tabs().currentWidget()->isAncestorOf(visited[3]))
-        << visited[3]->metaObject()->className();
+    EXPECT_EQ(plain(visited[2]->objectName()), "CACalculateCommand") << "below the pages";
+    EXPECT_TRUE(tabs().currentWidget()->isAncestorOf(visited[4]))
+        << visited[4]->metaObject()->className();
 }
 
 TEST_F(Keys, EscapeLeavesAnOpenPanel) {

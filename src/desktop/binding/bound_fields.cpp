@@ -32,10 +32,13 @@ class BoundText : public BoundControl {
             this->binder().act(
                 *this, [text](Form& f, const std::string& name) { f.type(name, plain(text)); });
         });
-        edit_->addToMenu = [edit = edit_, owner = QPointer<Binder>(&binder)](QMenu& menu) {
+        edit_->addToMenu = [edit = edit_, owner = QPointer<Binder>(&binder)](QMenu& menu,
+                                                                             bool byKey) {
             if (owner == nullptr || owner->form() == nullptr) return;
             menu.addSeparator();
             addGivingOut(menu, *owner->form(), edit);
+            if (byKey && owner->window() != nullptr)
+                addPicturesOf(menu, *owner->form(), *owner->window());
         };
         binder.watchKeys(*this, edit_);
         showAll();
