@@ -212,15 +212,23 @@ Form::FilledCells Form::fill(const std::vector<TypedCell>& cells) {
     return filled;
 }
 
+std::string Form::unitOf(const std::string& name) const {
+    const std::string& label = control(name).unitLabel();
+    return has(label) ? unitWords(control(label).caption()) : std::string();
+}
+
 std::string Form::whyRefused(const RefusedValue& refused) const {
     const int words = refused.noNumber          ? Text::noticeValueNoNumber
                       : refused.tooLarge        ? Text::noticeValueTooLarge
                       : refused.single          ? Text::noticeValueNotTaken
+                      : !refused.least.empty()  ? Text::noticeValueBesideZero
                       : refused.lowestIsRefused ? Text::noticeValueNotAbove
                       : refused.highest.empty() ? Text::noticeValueTooSmall
                                                 : Text::noticeValueOutsideRange;
-    return filledIn(text(words), {control(refused.control).accessibleName(), refused.typed,
-                                  refused.lowest, refused.highest, refused.taken});
+    const std::string unit = refused.unit.empty() ? std::string() : " " + refused.unit;
+    return filledIn(text(words),
+                    {control(refused.control).accessibleName(), refused.typed, refused.lowest,
+                     refused.highest, refused.taken, unit, refused.least});
 }
 
 void Form::key(const std::string& name, const std::string& key) {

@@ -114,7 +114,10 @@ class Form {
     /// The field in which something has been typed and which has not been left since; empty for
     /// none.
     const std::string& visitedField() const { return visited_; }
-    /// Why a field holds another value than was typed, in a sentence.
+    /// The unit in which a control shows its number, by the label behind it; empty for none.
+    std::string unitOf(const std::string& control) const;
+    /// Why a field holds another value than was typed, in a sentence: what it takes, in the unit in
+    /// which that was typed, and what stands.
     std::string whyRefused(const RefusedValue& refused) const;
     /// Whether keys in the control have a meaning of their own.
     bool takesKeys(const std::string& control) const;

@@ -91,8 +91,10 @@ void NumericFields::refuse(const NumericFieldRow& row, const std::string& typed,
     std::erase_if(refused_, [&](const RefusedValue& old) { return old.control == row.control; });
     refused_.push_back({row.control, typed, shownAs(row, row.lowest),
                         highest < unlimited ? shownAs(row, highest) : std::string(),
-                        shownAs(row, row.stored.get()), row.lowestIsRefused,
-                        tooLarge && highest >= unlimited, row.notTaken.has_value()});
+                        row.leastBesideZero ? shownAs(row, *row.leastBesideZero) : std::string(),
+                        shownAs(row, row.stored.get()), form_.unitOf(row.control),
+                        row.lowestIsRefused, tooLarge && highest >= unlimited,
+                        row.notTaken.has_value()});
     form_.control(row.control).setRefused(true);
 }
 

@@ -93,7 +93,9 @@ struct RefusedValue {
     std::string control;
     std::string typed;
     std::string lowest, highest;  ///< what it would have taken; empty for no limit
+    std::string least;            ///< what it would have taken above the lowest; empty for any
     std::string taken;            ///< what stands in its place
+    std::string unit;             ///< of all of them, as the field told it then; empty for none
     bool lowestIsRefused = false;
     bool tooLarge = false;  ///< for the field to hold at all, whatever its limits
     bool single = false;    ///< it takes any other value

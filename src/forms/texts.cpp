@@ -19,9 +19,25 @@ std::string filledIn(const std::string& text, std::initializer_list<std::string>
     return filled;
 }
 
+namespace {
+
+std::string without(const std::string& words, const char* around) {
+    const std::size_t first = words.find_first_not_of(around);
+    if (first == std::string::npos) return {};
+    return words.substr(first, words.find_last_not_of(around) - first + 1);
+}
+
+}  // namespace
+
 std::string captionWords(std::string caption) {
     while (!caption.empty() && (caption.back() == ':' || caption.back() == ' ')) caption.pop_back();
     return caption;
+}
+
+std::string unitWords(const std::string& caption) {
+    const std::string words = without(caption, " :");
+    const bool inParentheses = words.starts_with('(') && words.ends_with(')');
+    return inParentheses ? without(words.substr(1, words.size() - 2), " ") : words;
 }
 
 }  // namespace varnholt

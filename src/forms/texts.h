@@ -21,5 +21,8 @@ class Texts {
 std::string filledIn(const std::string& text, std::initializer_list<std::string> parts);
 /// A caption as words in a sentence: without the colon and the blanks at its end.
 std::string captionWords(std::string caption);
+/// The unit that a label tells, as words in a sentence: over a column it stands in parentheses, as
+/// in "( kWh )".
+std::string unitWords(const std::string& caption);
 
 }  // namespace varnholt

@@ -71,8 +71,7 @@ TEST_F(Feedback, TellsBesideTheFieldAndInTheStatusBarWhyAValueWasRefused) {
     Desk::settle();
     ASSERT_NE(hint(), nullptr);
     EXPECT_TRUE(hint()->isVisible());
-    const std::string why =
-        "Ground Temperature: 500 is refused, for it takes 0.0 to 212.0. It is 62.0 now.";
+    const std::string why = "Ground Temperature: 500 is outside 0.0 to 212.0 deg F; 62.0 stands.";
     EXPECT_EQ(plain(hint()->text()), why);
     EXPECT_EQ(told(), why);
     QTest::keyClick(&widget(ground), Qt::Key_Tab);
@@ -82,6 +81,26 @@ TEST_F(Feedback, TellsBesideTheFieldAndInTheStatusBarWhyAValueWasRefused) {
     QTest::keyClicks(&field(ground), QStringLiteral("60"));
     EXPECT_FALSE(hint()->isVisible());
     EXPECT_EQ(told(), "");
+}
+
+TEST_F(Feedback, TellsTheRangeOfARefusedValueInTheUnitsThatTheFieldShows) {
+    design->click("MetricCheck");
+    QTest::keyClicks(&field(ground), QStringLiteral("500"));
+    Desk::settle();
+    // 0 and 212 deg F are -17.8 and 100 deg C, the 62 deg F of a new design 16.7 deg C.
+    const std::string why = "Ground Temperature: 500 is outside -17.8 to 100.0 deg C; 16.7 stands.";
+    EXPECT_EQ(plain(hint()->text()), why);
+    EXPECT_EQ(told(), why);
+    EXPECT_EQ(plain(widget(ground).accessibleDescription()), why);
+}
+
+TEST_F(Feedback, TellsAScreenReaderOfTheLastOfSeveralRefusedValues) {
+    QLineEdit& edit = field(ground);
+    design->type(ground, "500");
+    design->type(ground, "600");
+    EXPECT_EQ(plain(edit.accessibleDescription()),
+              "Ground Temperature: 600 is outside 0.0 to 212.0 deg F; 62.0 stands.");
+    EXPECT_EQ(edit.actions().size(), 1);
 }
 
 TEST_F(Feedback, TakesNoKeyThatIsNoPartOfANumber) {
@@ -224,17 +243,26 @@ TEST_F(Keys, ControlAndPageKeysTurnThePages) {
     EXPECT_EQ(tabs().currentIndex(), (first + pages - 1) % pages);
 }
 
+TEST_F(Keys, ControlAndPageKeysTurnThePagesFromAFieldOfThem) {
+    field(ground);
+    press(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(tabs().currentIndex(), 3);
+    press(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(tabs().currentIndex(), 2);
+}
+
 TEST_F(Keys, F6GoesFromPaneToPaneAndRound) {
     field(ground);
     std::vector<QWidget*> visited;
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 5; ++i) {
         press(Qt::Key_F6);
         visited.push_back(QApplication::focusWidget());
     }
     EXPECT_EQ(visited[0], tabs().tabBar());
     EXPECT_EQ(plain(visited[1]->objectName()), "MetricCheck");
-    EXPECT_TRUE(tabs().currentWidget()->isAncestorOf(visited[3]))
-        << visited[3]->metaObject()->className();
+    EXPECT_EQ(plain(visited[2]->objectName()), "CACalculateCommand") << "below the pages";
+    EXPECT_TRUE(tabs().currentWidget()->isAncestorOf(visited[4]))
+        << visited[4]->metaObject()->className();
 }
 
 TEST_F(Keys, EscapeLeavesAnOpenPanel) {

@@ -13,7 +13,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUrl>
@@ -216,20 +215,6 @@ TEST_F(MainWindowTest, SetsTheMarkOfUnsavedWorkOnlyWhenItChanges) {
     loads.type("LOGainsText(0)", "12");
     EXPECT_TRUE(frameOf(loads)->isWindowModified());
     EXPECT_EQ(marks.set, 1);
-}
-
-TEST_F(MainWindowTest, TurnsThePagesOfAWindowByKeys) {
-    ChildWindow& design = open("NewBorehole");
-    QWidget* pages = desk.shelf.windowOf(design)->binder().widget("BHTabs");
-    std::map<QString, QShortcut*> keys;
-    for (QShortcut* shortcut : pages->findChildren<QShortcut*>())
-        keys[shortcut->key().toString()] = shortcut;
-    ASSERT_EQ(keys.count("Ctrl+PgDown"), 1U);
-    keys["Ctrl+PgDown"]->activated();
-    EXPECT_EQ(design.control("BHTabs").index(), 1);
-    keys["Ctrl+PgUp"]->activated();
-    keys["Ctrl+PgUp"]->activated();
-    EXPECT_EQ(design.control("BHTabs").index(), 6);
 }
 
 TEST_F(MainWindowTest, TellsInTheStatusBarWhatACommandDoes) {

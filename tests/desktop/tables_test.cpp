@@ -17,6 +17,7 @@
 
 #include "basis/file_system.h"
 #include "desk.h"
+#include "desktop/binding/button_keys.h"
 #include "desktop/binding/giving_out.h"
 #include "desktop/binding/pasted_places.h"
 #include "desktop/binding/shown_table.h"
@@ -190,7 +191,7 @@ TEST_F(Tables, OfAnEmptyListBeginWithTheButtonsForTheFirstZone) {
     QPushButton* first = nullptr;
     for (auto* button : desk.shelf.windowOf(*loads)->findChildren<QPushButton*>())
         if (button->objectName().isEmpty() && button->isVisible() &&
-            qt(loads->control("LONewCommand").caption()) == button->text())
+            qt(loads->control("LONewCommand").caption()) == wordsOfButton(*button))
             first = button;
     ASSERT_NE(first, nullptr);
     first->click();

@@ -13,8 +13,11 @@ namespace {
 class TestForm : public Form {
  public:
     TestForm(Platform& platform, const Texts& texts) : Form("frmTest", platform, texts) {
-        for (const char* field : {"Temperature", "Count", "Days", "Flow", "Efficiency", "Name"})
+        for (const char* field :
+             {"Temperature", "Count", "Days", "Flow", "Efficiency", "Pulse", "Name"})
             add(std::string(field) + "Text", ControlKind::text);
+        add("TemperatureUnit", ControlKind::label).setCaption("( deg F )");
+        control("TemperatureText").unitsIn("TemperatureUnit");
         add("Frame", ControlKind::frame);
         add("Go", ControlKind::button, 2001).in("Frame");
         add("Broken", ControlKind::button);
@@ -39,7 +42,7 @@ class TestForm : public Form {
 
     bool guard = false;
     int changes = 0, clicks = 0, chained = 0;
-    double temperature = 85, flow = 3, days = 7, efficiency = 85;
+    double temperature = 85, flow = 3, days = 7, efficiency = 85, pulse = 0;
     std::int16_t count = 4;
     std::string name;
     std::array<double, 2> pair{1.5, 2.5};
@@ -81,6 +84,11 @@ class TestForm : public Form {
                       .highest = 100,
                       .fallback = 100,
                       .whileEmpty = 100});
+        fields().add({.control = "PulseText",
+                      .stored = &pulse,
+                      .highest = 24,
+                      .fallback = 0,
+                      .leastBesideZero = 1});
     }
 };
 
@@ -107,6 +115,30 @@ TEST_F(FormTest, ARefusedValueFallsBackAtOnceAndIsMarked) {
     EXPECT_TRUE(form.control("TemperatureText").refused());
     form.type("TemperatureText", "70");
     EXPECT_FALSE(form.control("TemperatureText").refused());
+}
+
+TEST_F(FormTest, ARefusedValueIsToldInTheUnitInWhichItWasTyped) {
+    texts.known[1237] = "%2 is outside %3 to %4%6; %5 stands.";
+    form.type("TemperatureText", "213");
+    EXPECT_EQ(form.unitOf("TemperatureText"), "deg F");
+    // What the field shows later is another matter: the limits told are those of that moment.
+    form.control("TemperatureUnit").setCaption("deg C");
+    EXPECT_EQ(form.whyRefused(*form.fields().refused()),
+              "213 is outside 0.0 to 212.0 deg F; 85.0 stands.");
+}
+
+TEST_F(FormTest, ARefusedValueOfAFieldWithoutAUnitIsToldWithoutOne) {
+    texts.known[1237] = "%2 is outside %3 to %4%6; %5 stands.";
+    form.type("DaysText", "8");
+    EXPECT_EQ(form.unitOf("DaysText"), "");
+    EXPECT_EQ(form.whyRefused(*form.fields().refused()), "8 is outside 0.0 to 7.0; 7.0 stands.");
+}
+
+TEST_F(FormTest, AValueBetweenZeroAndTheLeastBesideItIsToldBoth) {
+    texts.known[2442] = "%2 is neither %3 nor within %7 to %4%6; %5 stands.";
+    form.type("PulseText", "0.5");
+    EXPECT_EQ(form.whyRefused(*form.fields().refused()),
+              "0.5 is neither 0.0 nor within 1.0 to 24.0; 0.0 stands.");
 }
 
 TEST_F(FormTest, APartlyTypedMinusInMetricIsZeroDegreesAndNotRefused) {

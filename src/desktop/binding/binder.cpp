@@ -187,9 +187,29 @@ void Binder::leave(BoundControl& bound) {
 
 void Binder::propertyChanged(Control& control, Property property) {
     const Counting writing(writing_);
+    if (property == Property::visible && control.kind() == ControlKind::frame) noteOpener(control);
     if (BoundControl* bound = find(control.name())) bound->show(property);
     refreshLater();
     if (property == Property::caption) renameAround(control.name());
+}
+
+/// The keyboard goes back to where a panel was opened from when that goes with the keyboard in it:
+/// the toolkit would hand it to whatever comes next.
+void Binder::noteOpener(const Control& panel) {
+    QWidget* focused = QApplication::focusWidget();
+    const BoundControl* bound = find(panel.name());
+    if (scripted_ || bound == nullptr || focused == nullptr || window_ == nullptr ||
+        !window_->isAncestorOf(focused))
+        return;
+    const bool inside = bound->widget()->isAncestorOf(focused);
+    if (panel.visible() && !inside) {
+        openers_[panel.name()] = focused;
+        return;
+    }
+    QWidget* opener = openers_[panel.name()];
+    if (!panel.visible() && inside && opener != nullptr && opener->isVisible() &&
+        opener->isEnabled())
+        opener->setFocus(Qt::OtherFocusReason);
 }
 
 void Binder::captionChanged(Form&) {

@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 #include <exception>
 #include <functional>
@@ -100,6 +101,7 @@ class Binder : public QObject, public FormObserver {
 
     /// The window that holds the widgets: colours follow its scheme.
     void setWindow(QWidget* window);
+    QWidget* window() const { return window_; }
     /// The form ends: nothing is passed on in either direction from now on.
     void detach();
     /// Takes the failures of handlers, which must not pass through the toolkit.
@@ -185,6 +187,7 @@ class Binder : public QObject, public FormObserver {
     void stepCompanion(const BoundControl& bound, int steps);
     void refreshDrawings();
     void recolour();
+    void noteOpener(const Control& panel);
     void refreshLater();
     bool showsLate() const;
     void workLateIn(int milliseconds);
@@ -210,6 +213,8 @@ class Binder : public QObject, public FormObserver {
     std::vector<std::function<void()>> refreshers_;
     std::vector<std::vector<std::vector<std::string>>> blocks_;
     std::unique_ptr<RefusalHint> refusal_;
+    /// What had the keyboard when a panel was opened, by the panel's name.
+    std::map<std::string, QPointer<QWidget>> openers_;
     std::function<void(std::exception_ptr)> faults_;
     bool scripted_ = false;
     bool leavesByFocus_ = true;

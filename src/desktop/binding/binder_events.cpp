@@ -125,12 +125,13 @@ bool Binder::keyPressed(BoundControl& bound, int key, Qt::KeyboardModifiers modi
 /// and a comma is the point where the user's locale has it for one.
 bool Binder::takesKey(const BoundControl& bound, const QKeyEvent& key, QObject* keyboard) {
     const std::string& name = bound.control().name();
-    constexpr Qt::KeyboardModifiers command =
-        Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    constexpr Qt::KeyboardModifiers command = Qt::ControlModifier | Qt::MetaModifier;
     const QString typed = key.text();
     if (scripted_ || !form_->fields().has(name) || bound.control().locked() || typed.isEmpty() ||
         (key.modifiers() & command) != 0 || !typed.front().isPrint())
         return true;
+    // The key of a button that is not there: the toolkit would type the letter.
+    if ((key.modifiers() & Qt::AltModifier) != 0) return false;
     if (typed == u"," && form_->platform().decimalMark() == ',') {
         QKeyEvent point(QEvent::KeyPress, Qt::Key_Period, Qt::NoModifier, QStringLiteral("."));
         QCoreApplication::sendEvent(keyboard, &point);
@@ -166,8 +167,10 @@ bool Binder::pasteBlock(const std::string& field) {
 void Binder::showRefusal() {
     if (scripted_ || form_ == nullptr) return;
     const std::optional<RefusedValue> refused = form_->fields().refused();
-    const BoundControl* field = refused ? find(refused->control) : nullptr;
+    BoundControl* field = refused ? find(refused->control) : nullptr;
     if (field == nullptr || !field->widget()->isVisible()) return;
+    // A field that refuses one value after another stays marked, and says why of the last.
+    field->show(Property::refused);
     const std::string why = form_->whyRefused(*refused);
     if (refusal_ == nullptr) refusal_ = std::make_unique<RefusalHint>();
     if (refusal_->isShownFor(field->widget(), why)) return;

@@ -10,23 +10,6 @@
 #include "forms/texts.h"
 
 namespace varnholt {
-namespace {
-
-std::string without(const std::string& words, const char* around) {
-    const std::size_t first = words.find_first_not_of(around);
-    if (first == std::string::npos) return {};
-    return words.substr(first, words.find_last_not_of(around) - first + 1);
-}
-
-/// The unit as it is read out: over a column it stands in parentheses, as in "( kWh )".
-std::string unitWords(const std::string& caption) {
-    const std::string words = without(caption, " :");
-    const bool inParentheses = words.starts_with('(') && words.ends_with(')');
-    return inParentheses ? without(words.substr(1, words.size() - 2), " ") : words;
-}
-
-}  // namespace
-
 void Binder::nameBy(const std::string& name, const std::string& label, int distinction) {
     named_.emplace(label, name);
     called_.insert_or_assign(name, CalledAfter{label, distinction});
@@ -41,7 +24,7 @@ std::string Binder::spokenName(const Control& control) const {
     if (words.empty() && has(label)) words = captionWords(form_->control(label).caption());
     if (words.empty()) return {};
     if (has(control.unitLabel())) {
-        const std::string unit = unitWords(form_->control(control.unitLabel()).caption());
+        const std::string unit = form_->unitOf(control.name());
         const bool told = words.find("(" + unit + ")") != std::string::npos;
         if (!unit.empty() && !told) words += ", " + unit;
     }

@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "desktop/binding/binder.h"
+#include "desktop/binding/button_keys.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers/desktop.h"
@@ -52,7 +53,9 @@ void BoundButton::setIcon(const QString& icon) {
 void BoundButton::show(Property property) {
     switch (property) {
         case Property::caption:
-            button_->setText(buttonCaption(control().caption()));
+            // The words that stand there keep the key that is marked in them.
+            if (shown(property) != Shown(control().caption()))
+                button_->setText(buttonCaption(control().caption()));
             if (!control().caption().empty()) button_->setAccessibleName(qt(control().caption()));
             break;
         case Property::tooltip:
@@ -69,7 +72,7 @@ void BoundButton::show(Property property) {
 }
 
 Shown BoundButton::shown(Property property) const {
-    if (property == Property::caption) return captionOfButton(button_->text());
+    if (property == Property::caption) return plain(wordsOfButton(*button_));
     if (property == Property::checked) return button_->isChecked();
     return BoundControl::shown(property);
 }

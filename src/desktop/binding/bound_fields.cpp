@@ -32,10 +32,13 @@ class BoundText : public BoundControl {
             this->binder().act(
                 *this, [text](Form& f, const std::string& name) { f.type(name, plain(text)); });
         });
-        edit_->addToMenu = [edit = edit_, owner = QPointer<Binder>(&binder)](QMenu& menu) {
+        edit_->addToMenu = [edit = edit_, owner = QPointer<Binder>(&binder)](QMenu& menu,
+                                                                             bool byKey) {
             if (owner == nullptr || owner->form() == nullptr) return;
             menu.addSeparator();
             addGivingOut(menu, *owner->form(), edit);
+            if (byKey && owner->window() != nullptr)
+                addPicturesOf(menu, *owner->form(), *owner->window());
         };
         binder.watchKeys(*this, edit_);
         showAll();
@@ -77,7 +80,8 @@ class BoundText : public BoundControl {
     }
     void showRefused() {
         const QString reason = control().refused() ? reasonOf() : QString();
-        if (edit_->property("refused").toBool() == control().refused()) return;
+        const bool marked = edit_->property("refused").toBool();
+        if (marked == control().refused() && edit_->accessibleDescription() == reason) return;
         setStyleProperty("refused", control().refused());
         edit_->setMark(control().refused() ? houseIcon(QStringLiteral("refused")) : QIcon(),
                        reason);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/binding/bound_tabs.h"
 
-#include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -21,20 +20,8 @@ BoundTabs::BoundTabs(Binder& binder, Control& control)
     // The bar scrolls, so that no caption is cut, and none needs to be measured for it.
     tabs_->setElideMode(Qt::ElideNone);
     tabs_->tabBar()->setDrawBase(false);
-    addPageKey(QKeySequence::fromString(QStringLiteral("Ctrl+PgDown")), 1);
-    addPageKey(QKeySequence::fromString(QStringLiteral("Ctrl+PgUp")), -1);
     QObject::connect(tabs_, &QTabWidget::currentChanged, &binder,
                      [this](int page) { turnTo(page); });
-}
-
-/// Keys that turn the pages, whichever field has the focus.
-void BoundTabs::addPageKey(const QKeySequence& keys, int pages) {
-    auto* shortcut = new QShortcut(keys, tabs_);
-    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-    QObject::connect(shortcut, &QShortcut::activated, tabs_, [this, pages] {
-        const int count = tabs_->count();
-        if (count > 0) tabs_->setCurrentIndex((tabs_->currentIndex() + pages + count) % count);
-    });
 }
 
 void BoundTabs::addPages(std::vector<PartMaker> makers) {

@@ -26,7 +26,6 @@ class BoundTabs : public BoundControl, public LateParts {
  private:
     void turnTo(int page);
     void build(std::size_t page);
-    void addPageKey(const QKeySequence& keys, int pages);
 
     QTabWidget* tabs_;
     /// Empty for the pages that have been built.

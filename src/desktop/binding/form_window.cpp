@@ -10,6 +10,7 @@
 #include <QWhatsThis>
 #include <utility>
 
+#include "desktop/binding/button_keys.h"
 #include "desktop/binding/giving_out.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/layout.h"
@@ -47,6 +48,9 @@ FormWindow::FormWindow(Form& form, const ViewMaker& makeView, FaultTaker faults)
     setWindowIcon(iconOf(form.formName()));
     finish();
     binder_.onBuilt = [this] { finish(); };
+    binder_.onSettled([this] {
+        if (isVisible()) giveKeys(*this);
+    });
 }
 
 /// What can only be told once the widgets stand in their places.
@@ -80,6 +84,11 @@ void FormWindow::showWhatsThis(const QPoint& place, const QPoint& onScreen) {
     if (form == nullptr) return;
     const QString text = qt(form->whatsThis(controlOf(childAt(place))));
     if (!text.isEmpty()) QWhatsThis::showText(onScreen, text.toHtmlEscaped(), this);
+}
+
+void FormWindow::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    giveKeys(*this);
 }
 
 /// F1 is the window's own key before it is the menu's: it asks about the control that has the
@@ -125,14 +134,17 @@ void FormWindow::growToContents() {
     if (!lacking.isNull()) frame->resize(frame->size() + lacking);
 }
 
-/// Tables and pictures under the pointer can be taken away.
+/// Tables and pictures under the pointer can be taken away. The keyboard points at what has the
+/// focus, which no picture has: it is offered all that are on show.
 void FormWindow::contextMenuEvent(QContextMenuEvent* event) {
     const Form* form = binder_.form();
-    QWidget* widget = childAt(event->pos());
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    QWidget* widget = byKey ? QApplication::focusWidget() : childAt(event->pos());
     if (form == nullptr || widget == nullptr) return;
     QMenu menu(this);
     if (binder_.addToMenu) binder_.addToMenu(menu, controlOf(widget));
     addGivingOut(menu, *form, widget);
+    if (byKey) addPicturesOf(menu, *form, *this);
     if (!menu.isEmpty()) menu.exec(event->globalPos());
 }
 

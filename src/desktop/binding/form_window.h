@@ -35,6 +35,7 @@ class FormWindow : public QWidget {
     bool event(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
  private:
     void finish();

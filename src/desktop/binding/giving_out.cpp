@@ -57,6 +57,17 @@ std::string proposedName(const Drawing& drawing) {
     return plain(name.simplified() + QStringLiteral(".svg"));
 }
 
+void addGiving(QMenu& menu, const Form& form, QWidget* widget, int caption,
+               void (*run)(const Form&, QWidget*)) {
+    QObject::connect(menu.addAction(qt(form.text(caption))), &QAction::triggered, widget,
+                     [&form, widget, run] { run(form, widget); });
+}
+
+void addPictureEntries(QMenu& menu, const Form& form, QWidget* widget) {
+    addGiving(menu, form, widget, Text::copyPicture, copyPicture);
+    addGiving(menu, form, widget, Text::savePicture, savePicture);
+}
+
 }  // namespace
 
 Drawing* drawingAround(QWidget* widget) {
@@ -119,17 +130,24 @@ void savePicture(const Form& form, QWidget* widget) {
 }
 
 void addGivingOut(QMenu& menu, const Form& form, QWidget* widget) {
-    const auto add = [&](int caption, auto run) {
-        QObject::connect(menu.addAction(qt(form.text(caption))), &QAction::triggered, widget,
-                         [&form, widget, run] { run(form, widget); });
-    };
     if (!selectedLines(widget).isEmpty())
-        add(Text::copy, [](const Form& f, QWidget* w) { copyShown(f, w); });
+        addGiving(menu, form, widget, Text::copy,
+                  [](const Form& f, QWidget* w) { copyShown(f, w); });
     if (!tableAround(widget).isEmpty())
-        add(Text::copyWholeTable, [](const Form& f, QWidget* w) { copyTable(f, w); });
-    if (drawingAround(widget) == nullptr) return;
-    add(Text::copyPicture, [](const Form& f, QWidget* w) { copyPicture(f, w); });
-    add(Text::savePicture, [](const Form& f, QWidget* w) { savePicture(f, w); });
+        addGiving(menu, form, widget, Text::copyWholeTable,
+                  [](const Form& f, QWidget* w) { copyTable(f, w); });
+    if (drawingAround(widget) != nullptr) addPictureEntries(menu, form, widget);
+}
+
+void addPicturesOf(QMenu& menu, const Form& form, QWidget& window) {
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        auto* drawing = dynamic_cast<Drawing*>(widget);
+        if (drawing == nullptr || !drawing->isVisible() || isSign(*drawing)) continue;
+        QString name = drawing->accessibleName();
+        if (name.isEmpty()) continue;
+        name.replace(u'&', QStringLiteral("&&"));
+        addPictureEntries(*menu.addMenu(name), form, drawing);
+    }
 }
 
 }  // namespace varnholt

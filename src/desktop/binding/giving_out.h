@@ -32,5 +32,7 @@ void savePicture(const Form& form, QWidget* widget);
 
 /// The commands that there are for the widget.
 void addGivingOut(QMenu& menu, const Form& form, QWidget* widget);
+/// A menu for every picture on show in the window, by its name.
+void addPicturesOf(QMenu& menu, const Form& form, QWidget& window);
 
 }  // namespace varnholt

@@ -33,14 +33,15 @@ std::vector<QString> withMnemonics(const std::vector<std::string>& captions) {
     for (const std::string& text : captions) {
         const QString caption = qt(text);
         const qsizetype at = keyOf(caption, taken);
-        if (at < 0) {
-            marked.push_back(escaped(caption));
-            continue;
-        }
-        taken.insert(caption[at].toLower());
-        marked.push_back(escaped(caption.left(at)) + u'&' + escaped(caption.mid(at)));
+        if (at >= 0) taken.insert(caption[at].toLower());
+        marked.push_back(withMark(caption, at));
     }
     return marked;
+}
+
+QString withMark(const QString& caption, qsizetype at) {
+    if (at < 0) return escaped(caption);
+    return escaped(caption.left(at)) + u'&' + escaped(caption.mid(at));
 }
 
 std::string withoutMnemonic(const QString& text) {

@@ -11,6 +11,9 @@ namespace varnholt {
 /// where it is still free, else any letter. A caption without a free letter stays unmarked.
 std::vector<QString> withMnemonics(const std::vector<std::string>& captions);
 
+/// The caption with the key marked at a place of it; -1 marks none.
+QString withMark(const QString& caption, qsizetype at);
+
 /// The caption again, of a marked text.
 std::string withoutMnemonic(const QString& text);
 

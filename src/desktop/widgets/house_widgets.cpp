@@ -59,7 +59,7 @@ void FieldEdit::contextMenuEvent(QContextMenuEvent* event) {
         QObject::disconnect(action, nullptr, this, nullptr);
         QObject::connect(action, &QAction::triggered, this, &FieldEdit::pasteByKey);
     }
-    if (addToMenu) addToMenu(*menu);
+    if (addToMenu) addToMenu(*menu, event->reason() == QContextMenuEvent::Keyboard);
     menu->popup(event->globalPos());
 }
 

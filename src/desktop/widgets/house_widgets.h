@@ -27,8 +27,8 @@ class FieldEdit : public QLineEdit {
     /// Shows the sign of a refused value in the field's edge, before the figures.
     void setMark(const QIcon& icon, const QString& reason);
 
-    /// What its menu offers besides the toolkit's commands.
-    std::function<void(QMenu& menu)> addToMenu;
+    /// What its menu offers besides the toolkit's commands; whether a key has asked for it.
+    std::function<void(QMenu& menu, bool byKey)> addToMenu;
 
  protected:
     /// Its menu pastes as its key does.

@@ -13,6 +13,7 @@
 #include "desktop/binding/mnemonics.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/tool_keys.h"
 #include "frame/menu_table.h"
 #include "frame/varnmain.h"
 #include "script/properties.h"
@@ -129,10 +130,8 @@ void MainMenu::addTools(QToolBar& toolbar) {
         const auto look = commandLooks.find(row.command);
         action->setProperty("keys", QKeySequence(QString::fromLatin1(look->second.shortcut))
                                         .toString(QKeySequence::NativeText));
-        if (QWidget* button = toolbar.widgetForAction(action)) {
-            button->setObjectName(qt(name));
-            button->setFocusPolicy(Qt::TabFocus);
-        }
+        if (QWidget* button = toolbar.widgetForAction(action)) button->setObjectName(qt(name));
+        workByKeyboard(toolbar, action);
     }
 }
 

@@ -30,6 +30,7 @@
 #include "desktop/windows/start_page.h"
 #include "desktop/windows/window_keys.h"
 #include "desktop/windows/window_order.h"
+#include "forms/text_numbers/calculators.h"
 #include "forms/text_numbers/desktop.h"
 #include "forms/text_numbers/feedback.h"
 #include "forms/text_numbers/files.h"
@@ -342,14 +343,16 @@ void MainWindow::addWindowMenu() {
                         {Text::loadsBesideDesign, Text::loadsBesideDesignHint, "Ctrl+Shift+D",
                          [this] { setLoadsBesideDesign(); }},
                         {Text::nextWindow, Text::nextWindowHint, "Ctrl+Tab",
-                         [this] { area_->activateNextSubWindow(); }}};
+                         [this] { area_->activateNextSubWindow(); }},
+                        {Text::closeWindow, Text::closeWindowHint, "Ctrl+W; Ctrl+F4",
+                         [this] { area_->closeActiveSubWindow(); }}};
     std::vector<std::string> captions;
     for (const Row& row : rows) captions.push_back(main_.text(row.caption));
     const std::vector<QString> marked = withMnemonics(captions);
     std::size_t place = 0;
     for (const Row& row : rows) {
         QAction* action = menu->addAction(marked[place++]);
-        action->setShortcut(QKeySequence(QString::fromLatin1(row.shortcut)));
+        action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(row.shortcut)));
         action->setStatusTip(qt(main_.text(row.hint)));
         connect(action, &QAction::triggered, area_, [run = row.run] { run(); });
     }

@@ -14,6 +14,7 @@
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
+#include "desktop/binding/button_keys.h"
 #include "desktop/binding/form_window.h"
 #include "desktop/paper/pdf_file.h"
 #include "desktop/paper/print_module.h"
@@ -79,6 +80,11 @@ bool ReportPreview::event(QEvent* event) {
     return true;
 }
 
+void ReportPreview::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    giveKeys(*this);
+}
+
 QString ReportPreview::words(int text) const { return qt(texts_.text(text)); }
 
 QAction* ReportPreview::tool(QToolBar* bar, const char* name, int text, const char* keys,
@@ -93,6 +99,7 @@ QAction* ReportPreview::tool(QToolBar* bar, const char* name, int text, const ch
                 .arg(words(text), action->shortcut().toString(QKeySequence::NativeText)));
     }
     addAction(action);
+    workByKeyboard(*bar, action);
     connect(action, &QAction::triggered, this, run);
     return action;
 }
@@ -208,6 +215,8 @@ void ReportPreview::showState() {
         zoom_->setEditText(QStringLiteral("%1 %").arg(qRound(100 * view_->zoom())));
     else
         zoom_->setCurrentIndex(view_->fit() == ReportView::Fit::width ? 0 : 1);
+    // An action whose mark has changed writes its words anew.
+    if (isVisible()) giveKeys(*this);
 }
 
 void ReportPreview::print() {

@@ -47,6 +47,7 @@ class ReportPreview : public QWidget {
 
  protected:
     bool event(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
  private:
     void addTools();

@@ -3,10 +3,15 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
+#include <algorithm>
+#include <set>
+#include <string>
 #include <vector>
 
 #include "desktop/binding/form_window.h"
@@ -59,21 +64,38 @@ struct Pane {
     QWidget* first;
 };
 
-/// The toolbar, what stands above the pages, the tabs, the page in front.
+/// The page in front, the tabs, what stands above and below the pages.
+std::vector<QWidget*> panesOfForm(const FormWindow& content) {
+    auto* tabs = content.findChild<QTabWidget*>();
+    if (tabs == nullptr) return {content.view()};
+    std::vector<QWidget*> wholes{tabs->currentWidget(), tabs->tabBar()};
+    const QLayout* layout = content.view()->layout();
+    for (int i = 0; layout != nullptr && i < layout->count(); ++i) {
+        QWidget* part = layout->itemAt(i)->widget();
+        if (part != nullptr && part != tabs && !part->isAncestorOf(tabs)) wholes.push_back(part);
+    }
+    return wholes;
+}
+
+/// The parts of a window that shows no form, such as a report's, the last one first: that is what
+/// it is about.
+std::vector<QWidget*> panesOfOther(const QWidget& content) {
+    std::vector<QWidget*> wholes;
+    for (QObject* part : content.children())
+        if (auto* widget = qobject_cast<QWidget*>(part)) wholes.insert(wholes.begin(), widget);
+    std::reverse(wholes.begin() + (wholes.empty() ? 0 : 1), wholes.end());
+    return wholes;
+}
+
+/// The panes of the window in front, and the toolbar.
 std::vector<Pane> panesOf(MainWindow& window) {
     std::vector<QWidget*> wholes;
-    if (FormWindow* content = window.activeContent()) {
-        auto* tabs = content->findChild<QTabWidget*>();
-        if (tabs != nullptr) {
-            wholes = {tabs->currentWidget(), tabs->tabBar()};
-            wholes.push_back(content->view()->layout() == nullptr
-                                 ? nullptr
-                                 : content->view()->layout()->itemAt(0)->widget());
-        } else {
-            wholes = {content};
-        }
-    }
-    wholes.push_back(window.findChild<QToolBar*>());
+    const QMdiSubWindow* front = window.area().activeSubWindow();
+    if (const FormWindow* content = window.activeContent())
+        wholes = panesOfForm(*content);
+    else if (front != nullptr && front->widget() != nullptr)
+        wholes = panesOfOther(*front->widget());
+    wholes.push_back(window.findChild<QToolBar*>(QString(), Qt::FindDirectChildrenOnly));
     std::vector<Pane> panes;
     for (QWidget* whole : wholes)
         if (QWidget* first = firstOf(whole)) panes.push_back({whole, first});
@@ -92,15 +114,35 @@ void nextPane(MainWindow& window, bool back) {
                                                            : Qt::TabFocusReason);
 }
 
-/// The buttons that lead out of panels, each with the frame of its panel.
+/// Whether the window holds nothing of its own: closed, it can be opened again as it was.
+bool standsBesideAnother(const Form& form) {
+    static const std::set<std::string> beside{"frmSecondOpinion", "frmWhatIf", "frmDiffusivityCalc",
+                                              "frmEqvHoursCalc", "frmPumpPowerCalc"};
+    return beside.count(form.formName()) > 0;
+}
+
+/// From the tools of a report to its pages, and from there out of it.
+void leaveReport(QMdiSubWindow& frame) {
+    QWidget* pages = frame.widget() == nullptr ? nullptr : frame.widget()->focusProxy();
+    if (pages == nullptr || pages->hasFocus())
+        frame.close();
+    else
+        pages->setFocus(Qt::OtherFocusReason);
+}
+
+/// Presses the button that leads out of the panel that is open, if one is; a window that stands
+/// beside another one is left itself.
 void leavePanel(MainWindow& window) {
     FormWindow* content = window.activeContent();
-    const Form* form = content == nullptr ? nullptr : content->binder().form();
-    if (form == nullptr) return;
+    QMdiSubWindow* frame = window.area().activeSubWindow();
+    if (frame == nullptr) return;
+    if (content == nullptr) return leaveReport(*frame);
+    const Form& form = *content->binder().form();
     for (const char* name : {"LOCancelCommand", "LOReturnCommand", "LOReturnFromSummaryCommand"}) {
-        if (!form->has(name) || !form->isShown(form->control(name))) continue;
+        if (!form.has(name) || !form.isShown(form.control(name))) continue;
         if (QAbstractButton* button = buttonOf(*content, name)) return button->click();
     }
+    if (standsBesideAnother(form)) frame->close();
 }
 
 template <class Run>

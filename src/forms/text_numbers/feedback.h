@@ -87,5 +87,7 @@ constexpr int exampleHouse = 2393;
 constexpr int exampleTrench = 2394;
 constexpr int examplePond = 2395;
 constexpr int exampleSouth = 2396;
+constexpr int noticeValueBesideZero = 2442;
+constexpr int closeWindowHint = 2443;
 
 }  // namespace varnholt::Text

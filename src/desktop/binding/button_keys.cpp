@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/binding/button_keys.h"
+
+#include <QAction>
+#include <QHash>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QToolButton>
+#include <limits>
+
+#include "desktop/binding/mnemonics.h"
+#include "desktop/widgets/qt_text.h"
+
+namespace varnholt {
+namespace {
+
+constexpr const char* givenKey = "givenKey";
+/// Of a letter that opens a menu: no button takes it.
+constexpr int keyOfAMenu = std::numeric_limits<int>::max();
+
+using KeyUses = QHash<QChar, int>;
+
+/// The letter that the text marks as its key; null for none.
+QChar markedLetter(const QString& text) {
+    for (qsizetype i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] != u'&') continue;
+        if (text[i + 1] != u'&') return text[i + 1].toLower();
+        ++i;
+    }
+    return {};
+}
+
+KeyUses keysOfMenus(const QWidget& window) {
+    KeyUses uses;
+    const auto* bar = window.window()->findChild<QMenuBar*>(QString(), Qt::FindDirectChildrenOnly);
+    if (bar == nullptr) return uses;
+    for (const QAction* menu : bar->actions()) uses.insert(markedLetter(menu->text()), keyOfAMenu);
+    return uses;
+}
+
+/// Where the letter stands that is a key least often; of several the first at the start of a word.
+qsizetype placeOfKey(const QString& words, const KeyUses& uses) {
+    qsizetype place = -1;
+    int least = keyOfAMenu;
+    for (const bool startsOnly : {true, false})
+        for (qsizetype i = 0; i < words.size(); ++i) {
+            const bool starts = i == 0 || !words[i - 1].isLetterOrNumber();
+            if (!words[i].isLetterOrNumber() || (startsOnly && !starts)) continue;
+            const int used = uses.value(words[i].toLower());
+            if (used >= least) continue;
+            place = i;
+            least = used;
+        }
+    return place;
+}
+
+bool hasWords(const QAbstractButton& button) {
+    const auto* tool = qobject_cast<const QToolButton*>(&button);
+    const bool shows = tool == nullptr ? qobject_cast<const QPushButton*>(&button) != nullptr
+                                       : tool->toolButtonStyle() == Qt::ToolButtonTextOnly;
+    return shows && !button.text().isEmpty();
+}
+
+/// True when the button has a key of its own, which is not to be given another.
+bool keepsItsKey(const QAbstractButton& button) {
+    return !button.property(givenKey).toBool() && !markedLetter(button.text()).isNull();
+}
+
+void giveKey(QAbstractButton& button, KeyUses& uses) {
+    const QString words = wordsOfButton(button);
+    const qsizetype place = placeOfKey(words, uses);
+    if (place >= 0) ++uses[words[place].toLower()];
+    button.setProperty(givenKey, true);
+    const QString marked = withMark(words, place);
+    if (button.text() != marked) button.setText(marked);
+}
+
+}  // namespace
+
+void giveKeys(QWidget& window) {
+    KeyUses uses = keysOfMenus(window);
+    for (QWidget* widget = window.nextInFocusChain(); widget != &window && widget != nullptr;
+         widget = widget->nextInFocusChain()) {
+        auto* button = qobject_cast<QAbstractButton*>(widget);
+        if (button == nullptr || !window.isAncestorOf(button) || !hasWords(*button) ||
+            !button->isVisibleTo(&window))
+            continue;
+        if (keepsItsKey(*button))
+            ++uses[markedLetter(button->text())];
+        else
+            giveKey(*button, uses);
+    }
+}
+
+QString wordsOfButton(const QAbstractButton& button) {
+    if (!button.property(givenKey).toBool()) {
+        QString words = button.text();
+        return words.replace(QLatin1String("&&"), QLatin1String("&"));
+    }
+    return qt(withoutMnemonic(button.text()));
+}
+
+}  // namespace varnholt

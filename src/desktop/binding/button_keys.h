@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+class QAbstractButton;
+class QWidget;
+
+namespace varnholt {
+
+/// Marks a key in the words of every button on show in the window, in reading order: a letter that
+/// is the key of no menu and of no other of these buttons, at the start of a word where one is
+/// left. Once the letters are used up, buttons share one, which goes from one of them to the next.
+/// Words that mark a key of their own keep it. Marks follow what is on show, so it is called again
+/// when that has changed.
+void giveKeys(QWidget& window);
+
+/// The words of a button without the mark that giveKeys has put into them.
+QString wordsOfButton(const QAbstractButton& button);
+
+}  // namespace varnholt
