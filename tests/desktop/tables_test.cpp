@@ -308,7 +308,7 @@ TEST_F(ZoneColumnsTest, AreDrawnAnewWhenWhatTheyShowInSightChangesAndOnlyThen) {
         loads->type(field, value);
         return changes;
     };
-    EXPECT_EQ(changesBy("LODaysperWeekText", "5"), 0);       // no column tells the days
+    EXPECT_EQ(changesBy("LODaysperWeekText", "5"), 0);  // no column tells the days
     EXPECT_GT(changesBy("LOGainsText(0)", "72"), 0);  // the largest bar, by which all are measured
     EXPECT_EQ(changesBy("LOGainsText(1)", "20"), 0);  // below the zone's largest
     EXPECT_GT(changesBy("LOGainsText(7)", "9"), 0);

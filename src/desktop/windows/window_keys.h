@@ -6,8 +6,8 @@ namespace varnholt {
 class MainWindow;
 
 /// The keys that work whatever window is in front: F9 calculates, Ctrl and PageUp or PageDown turn
-/// the pages, F6 goes from pane to pane, Escape leaves an open panel, or a window that stands beside
-/// another one.
+/// the pages, F6 goes from pane to pane, Escape leaves an open panel, or a window that stands
+/// beside another one.
 void addWindowKeys(MainWindow& window);
 
 }  // namespace varnholt
