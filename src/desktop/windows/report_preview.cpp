@@ -22,6 +22,7 @@
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/tool_keys.h"
 #include "forms/text_numbers/reports.h"
 #include "forms/text_numbers/screen_reader.h"
 #include "reports/report_shelf.h"
