@@ -245,15 +245,17 @@ void paintField(const Canvas& canvas, const FieldPlan& field, const Texts& texts
 
 void paintSmallField(const Canvas& canvas, const FieldPlan& field, const Texts& texts) {
     if (isNone(field)) return drawNone(canvas, texts);
-    const double line = canvas.textHeight();
+    const QString measures = qt(fieldMeasures(field, texts));
+    // As many lines as the words take.
+    constexpr int inLines = Qt::AlignHCenter | Qt::AlignBottom | Qt::TextWordWrap;
+    const double lines =
+        QFontMetricsF(canvas.words).boundingRect(canvas.area, inLines, measures).height();
     const QRectF room = canvas.area.adjusted(groundAround, groundAround, -groundAround,
-                                             -groundAround - line - gridStep / 2.0);
+                                             -groundAround - lines - gridStep / 2.0);
     drawPlan(canvas, gridIn(canvas, room, field));
     canvas.painter.setPen(canvas.look.muted);
     canvas.painter.setFont(canvas.words);
-    canvas.painter.drawText(
-        QRectF(canvas.area.left(), canvas.area.bottom() - line, canvas.area.width(), line),
-        Qt::AlignCenter, qt(fieldMeasures(field, texts)));
+    canvas.painter.drawText(canvas.area, inLines, measures);
 }
 
 }  // namespace varnholt

@@ -83,7 +83,7 @@ TornadoFrame frameOf(const Canvas& canvas, const TornadoPicture& picture, double
             most = std::max(most, end);
         }
     }
-    frame.names = std::min(frame.names, canvas.area.width() * 0.4);
+    frame.names = std::min(frame.names, canvas.area.width() * 0.5);
     const double foot = canvas.textHeight() + gridStep / 2.0;
     // A gap of one row stands between what is in doubt and what is chosen.
     frame.row = (canvas.area.height() - head - foot) / static_cast<double>(picture.bars.size() + 1);
@@ -99,8 +99,10 @@ void drawBar(const Canvas& canvas, const TornadoFrame& frame, const TornadoPictu
     QPainter& painter = canvas.painter;
     painter.setFont(canvas.words);
     painter.setPen(canvas.look.ink);
-    painter.drawText(QRectF(canvas.area.left(), row.top(), frame.names, row.height()),
-                     Qt::AlignRight | Qt::AlignVCenter, qt(bar.name));
+    painter.drawText(
+        QRectF(canvas.area.left(), row.top(), frame.names, row.height()),
+        Qt::AlignRight | Qt::AlignVCenter,
+        QFontMetricsF(canvas.words).elidedText(qt(bar.name), Qt::ElideRight, frame.names));
     painter.setFont(canvas.figures);
     painter.setPen(canvas.look.muted);
     painter.drawText(
