@@ -1163,6 +1163,7 @@ constexpr int noticeFileNotFound = 8560;
 constexpr int readingFile = 8558;
 constexpr int noticeStillKept = 8559;
 constexpr int noticeOpenLine = 8901;
+constexpr int noticeLeftUnread = 8902;
 
 // The importer.
 constexpr int importTitle = 1502;
