@@ -30,6 +30,7 @@ class NoticeLine : public testing::Test {
         desk.main().activate(*design);
         design->choose("BHTabs", 2);
         desk.window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(desk.window.get()));
         Desk::settle();
     }
     ~NoticeLine() override { EXPECT_TRUE(desk.faults.empty()); }
@@ -43,6 +44,8 @@ class NoticeLine : public testing::Test {
     void type(const char* text) {
         QLineEdit& edit = temperature();
         edit.setFocus();
+        // A person types once the field has the focus; a busy machine gives it later.
+        EXPECT_TRUE(QTest::qWaitFor([&edit] { return edit.hasFocus(); }));
         edit.selectAll();
         QTest::keyClicks(&edit, QString::fromLatin1(text));
         Desk::settle();

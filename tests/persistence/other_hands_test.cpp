@@ -20,7 +20,7 @@ class OtherHands : public ProjectTest {
                             {1256, "UTF-16"},
                             {1257, "no text"},
                             {8544, "%1 changed: %2, %3"},
-                            {8901, "%1: line %2 is open."}});
+                            {8562, "%1: line %2 is open."}});
         saveAs(newDesign(), "work files/school.vht");
         school = folder / "work files/school.vht";
         whole = bytesOf(school);

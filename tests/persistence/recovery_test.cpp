@@ -70,7 +70,8 @@ class UnsavedWork : public ProjectTest {
                             {8553, "No file."},
                             {8554, "Open?"},
                             {8557, "Set aside: %1"},
-                            {8559, "Still kept: %1"}});
+                            {8559, "Still kept: %1"},
+                            {8563, "Left: %1"}});
         saveAs(newDesign(), "work files/school.vht");
     }
 
@@ -211,6 +212,24 @@ TEST_F(UnsavedWork, ThatIsDamagedIsSetAside) {
     EXPECT_EQ(filesKept(), 1U);
     EXPECT_TRUE(main.control("NoticeLabel").caption().starts_with("Set aside: "));
     EXPECT_TRUE(main.control("NoticeLabel").caption().ends_with(".damaged"));
+}
+
+TEST_F(UnsavedWork, OfAnotherVersionOfTheProgramIsLeftToItAndThatIsTold) {
+    crashWithChanges();
+    // A record of version 2, whose fingerprint goes with what it holds.
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder / "recovery")) {
+        if (!entry.is_regular_file()) continue;
+        std::string bytes = bytesOf(entry.path());
+        bytes[bytes.find('\n') - 1] = '2';
+        EXPECT_TRUE(isOfAnotherVersion(bytes));
+        EXPECT_FALSE(isOfAnotherVersion(bytes + "x"));
+        writeBytes(entry.path(), bytes);
+    }
+    offer();
+    EXPECT_TRUE(platform.questions.empty());
+    EXPECT_EQ(filesKept(), 1U);
+    EXPECT_TRUE(main.control("NoticeLabel").caption().starts_with("Left: "));
+    EXPECT_TRUE(main.control("NoticeLabel").caption().ends_with(".unsaved"));
 }
 
 TEST_F(UnsavedWork, OfAWindowThatIsInUseIsKeptAndThatIsTold) {

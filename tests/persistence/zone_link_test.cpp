@@ -113,7 +113,7 @@ TEST_F(ZoneLink, IsNotMadeWithAZoneFileThatThePersonDidNotWantToOpen) {
     loads().cancelsOpening = true;
     const frmBHDesign& d = reopen();
     // Nothing is wrong with the file, and nothing says so.
-    EXPECT_EQ(lastMessage(), "[8900]\n\n" + (folder / "zones/school.zon"));
+    EXPECT_EQ(lastMessage(), "[8561]\n\n" + (folder / "zones/school.zon"));
     expectForgotten(d);
     EXPECT_EQ(loads().zoneNumber(), 0);
 }

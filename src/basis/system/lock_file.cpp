@@ -7,6 +7,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <limits>
 #include <utility>
 
 #include "basis/file_system.h"
@@ -46,9 +47,14 @@ std::optional<LockHolder> holderOf(const std::string& mark) {
         if (file.line() != title) return std::nullopt;
         LockHolder holder;
         holder.process.host = file.line();
-        holder.process.number = static_cast<int>(leadingNumber(file.line()));
-        holder.process.begun = static_cast<std::uint64_t>(leadingNumber(file.line()));
+        const double number = leadingNumber(file.line()), begun = leadingNumber(file.line());
         holder.user = file.line();
+        // What no process can have is no word of this program's.
+        constexpr double mostNumber = std::numeric_limits<int>::max(), mostTicks = 1e18;
+        if (!(number >= 1 && number <= mostNumber && begun >= 0 && begun <= mostTicks))
+            return std::nullopt;
+        holder.process.number = static_cast<int>(number);
+        holder.process.begun = static_cast<std::uint64_t>(begun);
         return holder;
     } catch (const RunTimeError&) {
         return std::nullopt;

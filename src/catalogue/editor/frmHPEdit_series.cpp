@@ -229,6 +229,7 @@ bool frmHPEdit::takeRecovered(std::string_view bytes, const std::string& path,
             showPanel(document_.pumps.empty() ? Panel::nothing : Panel::data);
             startHistory(false);
             setChanged(true);
+            refreshNotice();
             return true;
         }
     return false;

@@ -24,8 +24,9 @@ constexpr int unsavedTitle = 8555;
 constexpr int noticeOpenElsewhere = 8556;
 constexpr int noticeSetAside = 8557;
 constexpr int noticeFileNotFound = 8560;
-constexpr int zoneFileNotOpened = 8900;
-constexpr int noticeOpenLine = 8901;
+constexpr int zoneFileNotOpened = 8561;
+constexpr int noticeOpenLine = 8562;
+constexpr int noticeLeftUnread = 8563;
 constexpr int readingFile = 8558;
 constexpr int noticeStillKept = 8559;
 

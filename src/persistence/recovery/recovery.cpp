@@ -87,15 +87,17 @@ void Recovery::drop(int serial) {
 }
 
 void Recovery::offer() {
-    std::vector<std::string> setAside;
-    std::vector<RecoveryFolder::Found> found = folder_.take(setAside);
+    RecoveryFolder::Taken taken = folder_.take();
+    std::vector<RecoveryFolder::Found>& found = taken.found;
     // Designs look for the windows of their loads.
     std::stable_partition(found.begin(), found.end(), [](const RecoveryFolder::Found& each) {
         return !isDesignForm(each.record.form);
     });
     std::vector<std::string> told;
-    for (const std::string& path : setAside)
+    for (const std::string& path : taken.setAside)
         told.push_back(filledIn(main_.text(Text::noticeSetAside), {path}));
+    for (const std::string& path : taken.left)
+        told.push_back(filledIn(main_.text(Text::noticeLeftUnread), {path}));
     for (const RecoveryFolder::Found& each : found) told.push_back(offer(each));
     std::string notice;
     for (const std::string& sentence : told)

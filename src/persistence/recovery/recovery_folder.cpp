@@ -75,10 +75,10 @@ void RecoveryFolder::takeFrom(const std::string& folder, std::vector<std::string
     removeEmptyFolder(folder);
 }
 
-std::vector<RecoveryFolder::Found> RecoveryFolder::take(std::vector<std::string>& setAside) {
+std::vector<std::string> RecoveryFolder::takeFiles() {
     std::vector<std::string> taken;
     try {
-        if (!isFolder(folder_)) return {};
+        if (!isFolder(folder_)) return taken;
         for (const std::string& folder : foldersIn(folder_)) {
             const std::optional<ProcessIdentity> process = processOf(fileNameOf(folder));
             if (process && hasEnded(*process)) takeFrom(folder, taken);
@@ -86,25 +86,31 @@ std::vector<RecoveryFolder::Found> RecoveryFolder::take(std::vector<std::string>
     } catch (const RunTimeError&) {
         // What cannot be taken stays where it is.
     }
-    std::vector<Found> found;
-    for (const std::string& path : taken) {
-        std::optional<RecoveryRecord> record;
+    return taken;
+}
+
+RecoveryFolder::Taken RecoveryFolder::take() {
+    Taken taken;
+    for (const std::string& path : takeFiles()) {
+        std::string bytes;
         try {
-            record = readRecord(readWholeFile(path, {largestRecord, {}}));
+            bytes = readWholeFile(path, {largestRecord, {}});
         } catch (const RunTimeError&) {
             // The disk failed, which may pass: the next start tries again.
+            taken.left.push_back(path);
             continue;
         }
-        if (record) {
-            found.push_back({path, std::move(*record)});
-        } else {
-            const std::string aside = path + ".damaged";
-            if (moveFile(path, aside)) setAside.push_back(aside);
-        }
+        const std::string aside = path + ".damaged";
+        if (std::optional<RecoveryRecord> record = readRecord(bytes))
+            taken.found.push_back({path, std::move(*record)});
+        else if (isOfAnotherVersion(bytes))
+            taken.left.push_back(path);
+        else if (moveFile(path, aside))
+            taken.setAside.push_back(aside);
     }
-    std::sort(found.begin(), found.end(),
+    std::sort(taken.found.begin(), taken.found.end(),
               [](const Found& a, const Found& b) { return a.record.changed < b.record.changed; });
-    return found;
+    return taken;
 }
 
 }  // namespace varnholt

@@ -21,9 +21,15 @@ class RecoveryFolder {
         RecoveryRecord record;
     };
 
-    /// Takes what programs have left that have ended, the oldest first. A file that is damaged is
-    /// set aside under another name, and its path added to `setAside`. Does not throw.
-    std::vector<Found> take(std::vector<std::string>& setAside);
+    struct Taken {
+        std::vector<Found> found;           ///< the oldest first
+        std::vector<std::string> setAside;  ///< paths of damaged files under their new names
+        /// Paths of files that cannot be read now, or only by another version of the program: the
+        /// next start meets them again.
+        std::vector<std::string> left;
+    };
+    /// Takes what programs have left that have ended. Does not throw.
+    Taken take();
 
     /// A path in the own folder, which need not exist yet, that nothing has and nothing was given.
     std::string newPath();
@@ -32,6 +38,7 @@ class RecoveryFolder {
 
  private:
     void takeFrom(const std::string& folder, std::vector<std::string>& taken);
+    std::vector<std::string> takeFiles();
 
     std::string folder_, own_;
     int last_ = 0;

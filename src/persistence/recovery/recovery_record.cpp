@@ -10,6 +10,7 @@
 namespace varnholt {
 namespace {
 
+constexpr std::string_view titleOfRecords = "Varnholt Recovery Version ";
 constexpr std::string_view recordTitle = "Varnholt Recovery Version 1";
 
 /// A text with a line end in it would be two lines.
@@ -71,6 +72,12 @@ std::optional<KnownFile> takeStamp(Lines& lines) {
     return known;
 }
 
+/// Whether what is left goes with the number on the line before it.
+bool isIntact(Lines& lines) {
+    const auto expected = lines.number<std::uint64_t>();
+    return !lines.hasFailed() && fingerprint(lines.left()) == expected;
+}
+
 }  // namespace
 
 std::string recordBytes(const RecoveryRecord& record) {
@@ -85,9 +92,7 @@ std::string recordBytes(const RecoveryRecord& record) {
 
 std::optional<RecoveryRecord> readRecord(std::string_view bytes) {
     Lines lines(bytes);
-    if (lines.take() != recordTitle) return std::nullopt;
-    const auto expected = lines.number<std::uint64_t>();
-    if (lines.hasFailed() || fingerprint(lines.left()) != expected) return std::nullopt;
+    if (lines.take() != recordTitle || !isIntact(lines)) return std::nullopt;
     RecoveryRecord record;
     record.form = lines.take();
     record.path = lines.take();
@@ -100,6 +105,12 @@ std::optional<RecoveryRecord> readRecord(std::string_view bytes) {
     record.document = lines.left();
     if (lines.hasFailed() || record.document.size() != size) return std::nullopt;
     return record;
+}
+
+bool isOfAnotherVersion(std::string_view bytes) {
+    Lines lines(bytes);
+    const std::string_view title = lines.take();
+    return title.starts_with(titleOfRecords) && title != recordTitle && isIntact(lines);
 }
 
 }  // namespace varnholt

@@ -28,4 +28,7 @@ std::string recordBytes(const RecoveryRecord& record);
 /// Nothing for bytes that are not exactly those of a record of this version.
 std::optional<RecoveryRecord> readRecord(std::string_view bytes);
 
+/// Whether the bytes are an intact record that another version of the program has written.
+bool isOfAnotherVersion(std::string_view bytes);
+
 }  // namespace varnholt

@@ -170,6 +170,23 @@ TEST_F(Locks, OfAProcessAreNotThoseOfItsChildren) {
     EXPECT_EQ(filesInFolder(), 2U);
 }
 
+TEST_F(Locks, ThatNameWhatCanBeNoProcessAreTakenAway) {
+    std::string mark;
+    {
+        const LockAttempt attempt = lockFile(path);
+        for (const auto& entry : fs::directory_iterator(folder.path()))
+            if (entry.path() != path) mark = entry.path().string();
+    }
+    for (const char* number : {"0", "-5", "999999999999", "x"}) {
+        std::ofstream(mark) << "Varnholt Lock\n"
+                            << thisProcess().host << '\n'
+                            << number << "\n1\nanna\n";
+        const LockAttempt attempt = lockFile(path);
+        EXPECT_FALSE(attempt.holder.has_value()) << number;
+        EXPECT_EQ(filesInFolder(), 2U);
+    }
+}
+
 TEST_F(Locks, OfFilesWithTheLongestNamesAreMadeToo) {
     const std::string longest = folder / (std::string(251, 'n') + ".vht");
     replaceWholeFile(longest, "");

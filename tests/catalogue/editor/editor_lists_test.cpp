@@ -227,6 +227,21 @@ TEST_F(EditorTest, AsksAboutAFileThatHasChangedBetweenACrashAndTheNextStart) {
     EXPECT_TRUE(platform.questions.back().text.starts_with("[4524]"));
 }
 
+TEST_F(EditorTest, TellsAfterACrashWhatItToldBefore) {
+    texts.known[4530] = "older: %1";
+    frmHPEdit& crashed = opened();
+    crashed.type("CoolingFR1CapacityText(0)", "31");
+    const std::string told = control(crashed, "NoticeLabel").caption();
+    EXPECT_TRUE(told.starts_with("older: "));
+    const std::string bytes = crashed.seriesText()();
+    const std::optional<KnownFile> known = crashed.knownFile();
+    platform.answers = {Answer::no};
+    main.close(crashed);
+    frmHPEdit& window = editor();
+    ASSERT_TRUE(window.takeRecovered(bytes, seriesFile("f_air"), known));
+    EXPECT_EQ(control(window, "NoticeLabel").caption(), told);
+}
+
 TEST_F(EditorTest, ReadsAnIndexOfTenThousandLines) {
     index.clear();
     for (int m = 0; m < 1100; ++m)
