@@ -14,11 +14,13 @@
 #include <QTimer>
 #include <atomic>
 #include <chrono>
+#include <fstream>
 #include <memory>
 #include <thread>
 
 #include "app/application.h"
 #include "basis/system/patience.h"
+#include "basis/temporary_folder.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/theme.h"
 #include "desktop/windows/main_window.h"
@@ -117,6 +119,22 @@ TEST_F(DesktopPlatformTest, OffersTheKindsOfFilesWithTheOneAskedForInFront) {
         true, "Save Zones", "/tmp", "a b.zon", "Projects (*.vht)|*.vht|Zone Files (*.zon)|*.zon",
         2,    true};
     EXPECT_EQ(platform.chooseFile(dialog), std::nullopt);
+}
+
+TEST_F(DesktopPlatformTest, OffersTheFoldersOfTheLastFilesAtTheSideAndNamesEveryCombo) {
+    TemporaryFolder folder;
+    std::ofstream(folder / "river.vht") << "x";
+    program.main().fileUsed(folder / "river.vht");
+    whenShown<QFileDialog>([&](QFileDialog& dialog) {
+        EXPECT_TRUE(dialog.sidebarUrls().contains(QUrl::fromLocalFile(qt(folder.path()))));
+        for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+            if (!label->isVisible() || label->text().isEmpty()) continue;
+            EXPECT_NE(label->buddy(), nullptr) << plain(label->text());
+        }
+        dialog.reject();
+    });
+    EXPECT_EQ(platform.chooseFile({false, "Open", "/tmp", "", "Projects (*.vht)|*.vht", 1, false}),
+              std::nullopt);
 }
 
 TEST_F(DesktopPlatformTest, RunsADialogUntilItsFormEndsItself) {

@@ -22,6 +22,9 @@ class BoundToggle : public BoundControl {
         QObject::connect(button_, &QAbstractButton::clicked, &binder, [this] {
             this->binder().act(*this, [](Form& f, const std::string& name) { f.click(name); });
         });
+        QObject::connect(button_, &QAbstractButton::toggled, &binder, [this] {
+            if (hasOtherState()) followLater();
+        });
     }
 
     void show(Property property) override {
@@ -43,8 +46,23 @@ class BoundToggle : public BoundControl {
  protected:
     QAbstractButton* button() const { return button_; }
     virtual void showChecked() { button_->setChecked(control().checked()); }
+    /// The button shows what the control is not, as it does for a moment in every click.
+    virtual bool hasOtherState() const {
+        return binder().form() != nullptr && button_->isChecked() != control().checked();
+    }
 
  private:
+    /// Assistive technology toggles a button without a click. A click has been handled by then.
+    void followLater() {
+        QMetaObject::invokeMethod(
+            &binder(),
+            [this] {
+                if (hasOtherState())
+                    binder().act(*this, [](Form& f, const std::string& name) { f.click(name); });
+            },
+            Qt::QueuedConnection);
+    }
+
     QAbstractButton* button_;
 };
 
@@ -70,6 +88,10 @@ class BoundOption : public BoundToggle {
         group_->setExclusive(false);
         BoundToggle::showChecked();
         group_->setExclusive(true);
+    }
+    /// The one that is chosen speaks for its group.
+    bool hasOtherState() const override {
+        return button()->isChecked() && BoundToggle::hasOtherState();
     }
 
  private:

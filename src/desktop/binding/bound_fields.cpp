@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Text fields, rich text, combos and dates.
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QItemSelectionModel>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QWheelEvent>
 #include <limits>
 
+#include "basis/raised_flag.h"
 #include "desktop/binding/binder.h"
 #include "desktop/binding/bound_control.h"
 #include "desktop/binding/giving_out.h"
@@ -32,6 +35,9 @@ class BoundText : public BoundControl {
             this->binder().act(
                 *this, [text](Form& f, const std::string& name) { f.type(name, plain(text)); });
         });
+        QObject::connect(edit_, &QLineEdit::textChanged, &binder, [this] {
+            if (hasOtherText()) followLater();
+        });
         edit_->addToMenu = [edit = edit_, owner = QPointer<Binder>(&binder)](QMenu& menu,
                                                                              bool byKey) {
             if (owner == nullptr || owner->form() == nullptr) return;
@@ -48,7 +54,10 @@ class BoundText : public BoundControl {
         if (property == Property::text) {
             // Writing the text that stands there would move the cursor away from where one types.
             if (plain(edit_->text()) == control().text()) return;
-            edit_->setText(qt(control().text()));
+            {
+                const RaisedFlag writing(writes_);
+                edit_->setText(qt(control().text()));
+            }
             if (!edit_->hasFocus()) edit_->setCursorPosition(0);
         } else if (property == Property::locked) {
             edit_->setReadOnly(control().locked());
@@ -72,6 +81,22 @@ class BoundText : public BoundControl {
     }
 
  private:
+    bool hasOtherText() const {
+        return !writes_ && binder().form() != nullptr && plain(edit_->text()) != control().text();
+    }
+    /// Assistive technology writes a text without a key, and goes on without leaving the field.
+    /// What keys have typed has been handled by then.
+    void followLater() {
+        QMetaObject::invokeMethod(
+            &binder(),
+            [this] {
+                if (!hasOtherText()) return;
+                binder().act(*this, [text = plain(edit_->text())](
+                                        Form& f, const std::string& name) { f.type(name, text); });
+                if (!edit_->hasFocus()) binder().leave(*this);
+            },
+            Qt::QueuedConnection);
+    }
     QString reasonOf() const {
         const Form* form = binder().form();
         const auto refused = form == nullptr ? std::nullopt : form->fields().refused();
@@ -89,6 +114,7 @@ class BoundText : public BoundControl {
     }
 
     FieldEdit* edit_;
+    bool writes_ = false;
 };
 
 class BoundRichText : public BoundControl {
@@ -153,6 +179,7 @@ class BoundCombo : public BoundControl {
             this->binder().act(
                 *this, [index](Form& f, const std::string& name) { f.choose(name, index); });
         });
+        if (QAccessible::isActive()) followItsList();
         binder.watchKeys(*this, combo_);
         showAll();
     }
@@ -211,6 +238,28 @@ class BoundCombo : public BoundControl {
                 binder().act(
                     *this, [text](Form& f, const std::string& name) { f.type(name, plain(text)); });
             });
+    }
+
+    /// Assistive technology chooses an entry in the list that is not open, of which the combo
+    /// itself takes no notice.
+    void followItsList() {
+        QObject::connect(combo_->view()->selectionModel(), &QItemSelectionModel::selectionChanged,
+                         &binder(), [this](const QItemSelection& chosen) {
+                             if (chosen.isEmpty() || combo_->view()->isVisible()) return;
+                             chooseLater(chosen.indexes().front().row());
+                         });
+    }
+    void chooseLater(int index) {
+        QMetaObject::invokeMethod(
+            &binder(),
+            [this, index] {
+                if (binder().form() == nullptr || index == control().index() ||
+                    index >= combo_->count())
+                    return;
+                binder().act(*this,
+                             [index](Form& f, const std::string& name) { f.choose(name, index); });
+            },
+            Qt::QueuedConnection);
     }
 
     void showText() {

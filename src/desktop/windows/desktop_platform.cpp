@@ -3,11 +3,14 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDesktopServices>
+#include <QDir>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
 #include <QProgressDialog>
@@ -90,6 +93,27 @@ void widenColumns(const QFileDialog& picker) {
         files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
 }
 
+/// The folders at the side where the desktop has no file dialog of its own, after the toolkit's.
+void offerFolders(QFileDialog& picker, const std::vector<std::string>& folders) {
+    QList<QUrl> places{QUrl(QStringLiteral("file:")), QUrl::fromLocalFile(QDir::homePath())};
+    for (const std::string& folder : folders)
+        if (const QUrl place = QUrl::fromLocalFile(qt(folder));
+            QDir(qt(folder)).exists() && !places.contains(place))
+            places << place;
+    picker.setSidebarUrls(places);
+}
+
+/// The toolkit's own dialog has labels for its combos, and leaves them without names.
+void nameCombos(const QFileDialog& picker) {
+    for (const QString& stem : {QStringLiteral("lookIn"), QStringLiteral("fileType")}) {
+        auto* label = picker.findChild<QLabel*>(stem + QStringLiteral("Label"));
+        auto* combo = picker.findChild<QComboBox*>(stem + QStringLiteral("Combo"));
+        if (label == nullptr || combo == nullptr) continue;
+        combo->setAccessibleName(qt(captionWords(plain(label->text()))));
+        label->setBuddy(combo);
+    }
+}
+
 /// Between two repaints of a progress, ms.
 constexpr int repaintEvery = 40;
 
@@ -128,6 +152,8 @@ Answer DesktopPlatform::ask(MessageIcon icon, Buttons buttons, const std::string
 std::optional<std::string> DesktopPlatform::chooseFile(const FileDialog& dialog) {
     QFileDialog picker(shelf_.mainWindow().dialogParent(), qt(dialog.title), qt(dialog.folder));
     widenColumns(picker);
+    nameCombos(picker);
+    offerFolders(picker, shelf_.mainWindow().usualFolders());
     picker.setAcceptMode(dialog.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     picker.setFileMode(dialog.saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     picker.setOption(QFileDialog::DontConfirmOverwrite, !dialog.overwritePrompt);

@@ -13,10 +13,12 @@
 #include <QPointer>
 #include <QScreen>
 #include <QStackedWidget>
+#include <QStandardPaths>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "basis/file_system.h"
 #include "desktop/binding/giving_out.h"
@@ -287,6 +289,19 @@ void MainWindow::addControlsOf(ChildFrame& frame, std::vector<NamedThing>& thing
             area_->setActiveSubWindow(kept);
             guarded(run);
         };
+}
+
+std::vector<std::string> MainWindow::usualFolders() const {
+    std::vector<std::string> folders{
+        plain(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))};
+    const auto add = [&folders](const std::string& file) {
+        std::string folder = folderOf(file);
+        if (std::find(folders.begin(), folders.end(), folder) == folders.end())
+            folders.push_back(std::move(folder));
+    };
+    for (const ExampleFile& example : exampleFiles(main_.MainDirectory)) add(example.path);
+    for (const std::string& file : recent_.files()) add(file);
+    return folders;
 }
 
 FormWindow* MainWindow::activeContent() const {

@@ -53,6 +53,9 @@ class MainWindow : public QMainWindow {
     void tell(const std::string& sentence);
     /// What the progress of a file that comes slowly says.
     std::string reading(const std::string& file) const;
+    /// Folders where somebody's files are likely to be, each once: the person's own documents, the
+    /// examples, and where the last files are.
+    std::vector<std::string> usualFolders() const;
     /// The widgets of the window in front; null where there is none.
     FormWindow* activeContent() const;
     /// The window that a dialog belongs to: the innermost dialog on show, else this one.

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What assistive technology does with the controls of a window reaches its form: it acts on them
+// without keys and without a pointer.
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QComboBox>
+#include <QLineEdit>
+
+#include "desk.h"
+#include "desktop/widgets/qt_text.h"
+
+namespace varnholt {
+namespace {
+
+class Assistive : public testing::Test {
+ protected:
+    Assistive() {
+        QAccessible::setActive(true);
+        desk.main().click("NewBorehole");
+        design = desk.main().activeWindow();
+        Desk::settle();
+    }
+    ~Assistive() override {
+        QAccessible::setActive(false);
+        EXPECT_TRUE(desk.faults.empty());
+    }
+
+    QWidget& widget(const char* name, int page) {
+        design->choose("BHTabs", page);
+        Desk::settle();
+        return *desk.shelf.windowOf(*design)->binder().require(name)->widget();
+    }
+    static QAccessibleInterface& told(QWidget& widget) {
+        return *QAccessible::queryAccessibleInterface(&widget);
+    }
+    static void toggle(QWidget& widget) {
+        told(widget).actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        Desk::settle();
+    }
+
+    Desk desk;
+    ChildWindow* design = nullptr;
+};
+
+TEST_F(Assistive, WritesANumberAsIfItWereTypedAndLeft) {
+    QWidget& ground = widget("SOGroundTempText", 2);
+    told(ground).setText(QAccessible::Value, QStringLiteral("58"));
+    Desk::settle();
+    EXPECT_EQ(design->control("SOGroundTempText").text(), "58.0");
+    EXPECT_EQ(plain(static_cast<QLineEdit&>(ground).text()), "58.0");
+}
+
+TEST_F(Assistive, IsToldWhyANumberIsRefused) {
+    QWidget& ground = widget("SOGroundTempText", 2);
+    ground.setFocus();
+    told(ground).setText(QAccessible::Value, QStringLiteral("500"));
+    EXPECT_EQ(plain(static_cast<QLineEdit&>(ground).text()), "500");
+    Desk::settle();
+    EXPECT_EQ(design->control("SOGroundTempText").text(), "62.0");
+}
+
+TEST_F(Assistive, TogglesACheckOnce) {
+    const bool before = design->control("MetricCheck").checked();
+    toggle(widget("MetricCheck", 2));
+    EXPECT_NE(design->control("MetricCheck").checked(), before);
+    // 62 deg F are 16.7 deg C: the units have changed with it.
+    EXPECT_EQ(design->control("SOGroundTempText").text(), "16.7");
+}
+
+TEST_F(Assistive, ChoosesOneOfSeveralOptions) {
+    ASSERT_FALSE(design->control("PIPlacementOption(0)").checked());
+    toggle(widget("PIPlacementOption(0)", 3));
+    EXPECT_TRUE(design->control("PIPlacementOption(0)").checked());
+    EXPECT_FALSE(design->control("PIPlacementOption(1)").checked());
+}
+
+TEST_F(Assistive, ChoosesAnEntryOfAComboThatIsNotOpen) {
+    auto& fluids = static_cast<QComboBox&>(widget("FLFluidTypeCombo", 1));
+    fluids.view()->selectionModel()->select(fluids.model()->index(3, 0),
+                                            QItemSelectionModel::ClearAndSelect);
+    Desk::settle();
+    EXPECT_EQ(design->control("FLFluidTypeCombo").index(), 3);
+    EXPECT_EQ(fluids.currentIndex(), 3);
+}
+
+TEST_F(Assistive, ClicksOnceWhereAPersonDoes) {
+    auto& metric = static_cast<QAbstractButton&>(widget("MetricCheck", 2));
+    const bool before = design->control("MetricCheck").checked();
+    metric.click();
+    Desk::settle();
+    EXPECT_NE(design->control("MetricCheck").checked(), before);
+}
+
+}  // namespace
+}  // namespace varnholt
