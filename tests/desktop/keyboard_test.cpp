@@ -9,6 +9,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -79,9 +80,9 @@ TEST(ButtonKeys, AreFoundAgainInTheSameWords) {
     EXPECT_EQ(plain(wordsOfButton(button)), "R&D");
 }
 
-class Keyboard : public testing::Test {
+class ByKeyboard : public testing::Test {
  protected:
-    ~Keyboard() override { EXPECT_TRUE(desk.faults.empty()); }
+    ~ByKeyboard() override { EXPECT_TRUE(desk.faults.empty()); }
 
     ChildWindow& opened(const char* command) {
         desk.main().click(command);
@@ -105,7 +106,7 @@ class Keyboard : public testing::Test {
     Desk desk;
 };
 
-TEST_F(Keyboard, HasAKeyForEveryButtonOfTheLoadsWindow) {
+TEST_F(ByKeyboard, HasAKeyForEveryButtonOfTheLoadsWindow) {
     ChildWindow& loads = opened("mnuAvgBlock");
     loads.click("LONewCommand");
     Desk::settle();
@@ -121,7 +122,7 @@ TEST_F(Keyboard, HasAKeyForEveryButtonOfTheLoadsWindow) {
         << "the form's words are without it";
 }
 
-TEST_F(Keyboard, TypesNoLetterIntoANumberByAKeyThatNoButtonHas) {
+TEST_F(ByKeyboard, TypesNoLetterIntoANumberByAKeyThatNoButtonHas) {
     ChildWindow& design = opened("NewBorehole");
     design.choose("BHTabs", 2);
     Desk::settle();
@@ -130,7 +131,7 @@ TEST_F(Keyboard, TypesNoLetterIntoANumberByAKeyThatNoButtonHas) {
     EXPECT_EQ(edit.text(), QStringLiteral("62.0"));
 }
 
-TEST_F(Keyboard, ShowsAFieldThatIsOnlyReadByItsRingToo) {
+TEST_F(ByKeyboard, ShowsAFieldThatIsOnlyReadByItsRingToo) {
     ChildWindow& loads = opened("mnuAvgBlock");
     loads.click("LONewCommand");
     Desk::settle();
@@ -141,7 +142,7 @@ TEST_F(Keyboard, ShowsAFieldThatIsOnlyReadByItsRingToo) {
     EXPECT_EQ(picture.pixelColor(picture.width() / 2, 0), lightLook().accent);
 }
 
-TEST_F(Keyboard, ComesBackToTheButtonThatHasOpenedAPanel) {
+TEST_F(ByKeyboard, ComesBackToTheButtonThatHasOpenedAPanel) {
     ChildWindow& loads = opened("mnuAvgBlock");
     loads.click("LONewCommand");
     Desk::settle();
@@ -156,7 +157,7 @@ TEST_F(Keyboard, ComesBackToTheButtonThatHasOpenedAPanel) {
     EXPECT_TRUE(select.hasFocus());
 }
 
-TEST_F(Keyboard, ClosesTheWindowInFront) {
+TEST_F(ByKeyboard, ClosesTheWindowInFront) {
     opened("NewBorehole");
     opened("NewHorizontal");
     press(Qt::Key_W, Qt::ControlModifier);
@@ -166,7 +167,7 @@ TEST_F(Keyboard, ClosesTheWindowInFront) {
     EXPECT_TRUE(desk.main().windows().empty());
 }
 
-TEST_F(Keyboard, LeavesAWindowBesideAnotherByEscapeAndNoOtherOne) {
+TEST_F(ByKeyboard, LeavesAWindowBesideAnotherByEscapeAndNoOtherOne) {
     ChildWindow& design = opened("NewBorehole");
     design.click("CASecondOpinionCommand");
     Desk::settle();
@@ -177,7 +178,7 @@ TEST_F(Keyboard, LeavesAWindowBesideAnotherByEscapeAndNoOtherOne) {
     EXPECT_EQ(desk.main().activeWindow(), &design);
 }
 
-TEST_F(Keyboard, PressesAButtonOfTheToolbarByEnter) {
+TEST_F(ByKeyboard, PressesAButtonOfTheToolbarByEnter) {
     auto* bar = desk.window->findChild<QToolBar*>(QString(), Qt::FindDirectChildrenOnly);
     auto* first = bar->findChild<QToolButton*>(QStringLiteral("tbrMain(0)"));
     ASSERT_NE(first, nullptr);
@@ -189,7 +190,7 @@ TEST_F(Keyboard, PressesAButtonOfTheToolbarByEnter) {
     EXPECT_EQ(desk.main().activeWindow()->formName(), "frmBHDesign");
 }
 
-TEST_F(Keyboard, TakesEveryPictureOnShowByTheMenuKey) {
+TEST_F(ByKeyboard, TakesEveryPictureOnShowByTheMenuKey) {
     ChildWindow& design = opened("NewBorehole");
     QWidget& button = focused(design, "CASecondOpinionCommand");
     QStringList names;
@@ -209,7 +210,7 @@ TEST_F(Keyboard, TakesEveryPictureOnShowByTheMenuKey) {
               static_cast<std::size_t>(names.size()));
 }
 
-class KeyboardInPreviews : public Keyboard {
+class KeyboardInPreviews : public ByKeyboard {
  protected:
     ReportSamples samples{desk};
     ReportWindows windows{*desk.window, desk.platform, desk.program.reports(), desk.program.texts(),
@@ -251,8 +252,11 @@ TEST_F(KeyboardInPreviews, ComeFromTheToolsToThePagesAndOutByEscape) {
     Desk::settle();
     press(Qt::Key_Escape);
     EXPECT_TRUE(preview->view().hasFocus());
+    const QPointer<ReportPreview> left(preview);
     press(Qt::Key_Escape);
-    EXPECT_TRUE(desk.window->area().subWindowList().isEmpty());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(left.isNull());
+    EXPECT_EQ(desk.main().windows().size(), 1U) << "the design that the report tells of";
 }
 
 TEST_F(KeyboardInPreviews, GoFromPaneToPaneOfAReport) {

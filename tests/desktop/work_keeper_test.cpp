@@ -59,11 +59,11 @@ class WorkKeeperTest : public testing::Test {
     }
     /// What a start that follows would offer.
     std::vector<RecoveryRecord> kept() const {
-        std::vector<std::string> setAside;
+        RecoveryFolder::Taken taken = RecoveryFolder(desk.folder()).take();
         std::vector<RecoveryRecord> records;
-        for (auto& found : RecoveryFolder(desk.folder()).take(setAside))
-            records.push_back(std::move(found.record));
-        EXPECT_TRUE(setAside.empty());
+        for (auto& found : taken.found) records.push_back(std::move(found.record));
+        EXPECT_TRUE(taken.setAside.empty());
+        EXPECT_TRUE(taken.left.empty());
         return records;
     }
 

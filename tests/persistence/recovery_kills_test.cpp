@@ -58,14 +58,15 @@ class RandomEditing : public ProjectTest {
 
     /// The number that was kept last; 0 for none.
     int kept() {
-        std::vector<std::string> setAside;
+        const RecoveryFolder::Taken taken = RecoveryFolder(folder.path()).take();
         int number = 0;
-        for (const auto& found : RecoveryFolder(folder.path()).take(setAside)) {
+        for (const auto& found : taken.found) {
             LineFileReader file(found.record.document);
             file.skipLines(2);
             number = std::max(number, static_cast<int>(leadingNumber(file.line())));
         }
-        EXPECT_TRUE(setAside.empty());
+        EXPECT_TRUE(taken.setAside.empty());
+        EXPECT_TRUE(taken.left.empty());
         std::filesystem::remove_all(folder / "recovery");
         return number;
     }

@@ -14,6 +14,7 @@
 #include "desktop/windows/desktop_platform.h"
 #include "desktop/windows/main_window.h"
 #include "desktop/windows/report_preview.h"
+#include "desktop/windows/window_keys.h"
 #include "desktop/windows/window_places.h"
 #include "forms/platform.h"
 #include "forms/text_numbers/main.h"
@@ -125,6 +126,7 @@ ReportPreview* ReportWindows::show(std::shared_ptr<const Report> report) {
     auto* frame = new PreviewFrame(remembered_);
     frame->setWidget(shown);
     window_.area().addSubWindow(frame);
+    leaveKeysToTheMenu(*frame);
     place(*frame, shown->sizeHint());
     QObject::connect(shown, &QObject::destroyed, &window_, [this] {
         QMetaObject::invokeMethod(

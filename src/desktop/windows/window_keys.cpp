@@ -2,9 +2,11 @@
 #include "desktop/windows/window_keys.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
@@ -64,16 +66,28 @@ struct Pane {
     QWidget* first;
 };
 
+/// What stands around the pages at any depth, from top to bottom.
+void addAround(const QWidget& pages, QWidget* around, std::vector<QWidget*>& wholes) {
+    std::vector<QWidget*> parts;
+    for (QObject* child : around->children()) {
+        auto* part = qobject_cast<QWidget*>(child);
+        if (part != nullptr && part != &pages && part->isVisible()) parts.push_back(part);
+    }
+    std::sort(parts.begin(), parts.end(),
+              [](const QWidget* a, const QWidget* b) { return a->y() < b->y(); });
+    for (QWidget* part : parts)
+        if (part->isAncestorOf(&pages))
+            addAround(pages, part, wholes);
+        else
+            wholes.push_back(part);
+}
+
 /// The page in front, the tabs, what stands above and below the pages.
 std::vector<QWidget*> panesOfForm(const FormWindow& content) {
     auto* tabs = content.findChild<QTabWidget*>();
     if (tabs == nullptr) return {content.view()};
     std::vector<QWidget*> wholes{tabs->currentWidget(), tabs->tabBar()};
-    const QLayout* layout = content.view()->layout();
-    for (int i = 0; layout != nullptr && i < layout->count(); ++i) {
-        QWidget* part = layout->itemAt(i)->widget();
-        if (part != nullptr && part != tabs && !part->isAncestorOf(tabs)) wholes.push_back(part);
-    }
+    addAround(*tabs, content.view(), wholes);
     return wholes;
 }
 
@@ -160,6 +174,11 @@ void addWindowKeys(MainWindow& window) {
     addKey(window, Qt::Key_F6, [&window] { nextPane(window, false); });
     addKey(window, Qt::SHIFT | Qt::Key_F6, [&window] { nextPane(window, true); });
     addKey(window, Qt::Key_Escape, [&window] { leavePanel(window); });
+}
+
+void leaveKeysToTheMenu(const QMdiSubWindow& frame) {
+    if (frame.systemMenu() == nullptr) return;
+    for (QAction* action : frame.systemMenu()->actions()) action->setShortcuts({});
 }
 
 }  // namespace varnholt

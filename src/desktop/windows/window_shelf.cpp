@@ -10,6 +10,7 @@
 
 #include "desktop/widgets/qt_text.h"
 #include "desktop/windows/main_window.h"
+#include "desktop/windows/window_keys.h"
 #include "frame/design_document.h"
 #include "frame/varnmain.h"
 #include "loads/loads_window.h"
@@ -107,6 +108,7 @@ void WindowShelf::openChild(ChildWindow& form) {
     window_->showArea(true);
     auto* frame = new ChildFrame;
     window_->area().addSubWindow(frame);
+    leaveKeysToTheMenu(*frame);
     frame->setContent(makeContent(form));
     places_[&form].child = frame;
     frame->onCloseBox = [this, &form] { closeByBox(&form); };
