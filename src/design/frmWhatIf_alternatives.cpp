@@ -107,21 +107,26 @@ void frmWhatIf::showAlternatives() {
                        filledIn(text(Text::whatIfMoreAlternatives),
                                 {std::to_string(alternativeColumns), std::to_string(all.size())}));
     write("WVReasonLabel", reasons);
-    for (std::size_t n = 0; n < alternativeColumns; ++n) {
-        write(elementName("WVHeadLabel", n), n < all.size() ? all[n].name : std::string());
-        control(elementName("WVHeadLabel", n)).setVisible(n < all.size());
-    }
+    // A column without an alternative takes no room.
+    const auto writeCell = [&](const std::string& array, std::size_t n, const std::string& what) {
+        write(elementName(array, n), what);
+        control(elementName(array, n)).setVisible(n < all.size());
+    };
+    for (std::size_t n = 0; n < alternativeColumns; ++n)
+        writeCell("WVHeadLabel", n, n < all.size() ? all[n].name : std::string());
     for (const AlternativeRow& row : alternativeRows) {
         const std::optional<double> best = bestOf(all, row);
         for (std::size_t n = 0; n < alternativeColumns; ++n) {
             const bool there = n < all.size();
             const double value = there ? all[n].*row.figure : 0;
             const double first = there ? all.front().*row.figure : 0;
-            Control& cell = control(elementName(row.array, n));
-            cell.setCaption(value > 0 ? figureText(teller(), row, value) : there ? "-" : "");
-            cell.setBold(best && value == *best);
-            write(
-                elementName(changeOf(row.array), n),
+            writeCell(row.array, n,
+                      value > 0 ? figureText(teller(), row, value)
+                      : there   ? "-"
+                                : "");
+            control(elementName(row.array, n)).setBold(best && value == *best);
+            writeCell(
+                changeOf(row.array), n,
                 value > 0 && first > 0 ? changeText(teller(), row, value - first) : std::string());
         }
     }
