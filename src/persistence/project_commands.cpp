@@ -49,6 +49,7 @@ struct ProjectSource {
     FileSource::Content content;
     OpenFile file;
     OpenAs as = OpenAs::itself;
+    bool isRecovered = false;
 };
 
 /// Whatever goes wrong, the window keeps the values read so far.
@@ -74,7 +75,9 @@ void readProject(GroundDesign& design, ProjectSource& source) {
     zones.exists = !zones.name.empty();
     design.takeZoneFile(zones);
     fileKindOf(design).linkKeepingResults(
-        design, [&design, linkIsStored] { resolveZoneLink(design, linkIsStored); });
+        design, [&design, linkIsStored, isRecovered = source.isRecovered] {
+            resolveZoneLink(design, linkIsStored, isRecovered);
+        });
 }
 
 /// Opens a window of the kind in the next free slot; its set-up reads the project, or the defaults
@@ -200,6 +203,7 @@ void openTemplate(Varnmain& main, const std::string& path) {
 GroundDesign* openRecoveredDesign(Varnmain& main, const DesignFileKind& kind,
                                   const RecoveryRecord& record) {
     ProjectSource source{record.path, {record.document, {}}, {}};
+    source.isRecovered = true;
     if (isFileInUse(main, record.path, nullptr)) source.path.clear();
     if (!source.path.empty()) {
         LockAttempt attempt = lockFile(source.path);

@@ -57,6 +57,18 @@ LoadsWindow* loadsWindowFor(LinkedDesign& design, const std::string& path, Other
     return others == OtherZones::giveWay ? loads : nullptr;
 }
 
+/// The loads window that a design was linked to when its program ended, where that has come back
+/// too: it holds the design's zone file, or zones that were never saved. Null where there is none.
+LoadsWindow* loadsThatCameBack(const LinkedDesign& design, const std::string& path) {
+    auto* loads = dynamic_cast<LoadsWindow*>(design.main().find(wantedWindow(design)));
+    if (loads == nullptr || design.loads().linkType.empty() || isEmpty(*loads)) return nullptr;
+    const ZoneFile& file = design.loads().file;
+    const bool same = loads->file().exists ? holdsFile(*loads, path) ||
+                                                 holdsFile(*loads, joinPath(file.folder, file.name))
+                                           : path.empty();
+    return same ? loads : nullptr;
+}
+
 /// Zones without a link give way to the file that the person has chosen, after the question about
 /// unsaved changes. False when that was cancelled.
 bool mayReplaceZones(LinkedDesign& design, const std::string& path) {
@@ -85,6 +97,12 @@ void saveZones(LinkedDesign& design, LoadsWindow& loads) {
     design.main().saveCancelled = true;
 }
 
+void join(LinkedDesign& design, LoadsWindow& loads) {
+    // The design is about to be shown in the main window's units.
+    loads.switchUnits(design.main().units());
+    design.takeZonesOf(loads);
+}
+
 /// Opens the file in the loads window and takes its zones. False, after a message, where that
 /// cannot be.
 bool linkWithFile(LinkedDesign& design, const std::string& path, OtherZones others) {
@@ -98,9 +116,7 @@ bool linkWithFile(LinkedDesign& design, const std::string& path, OtherZones othe
         warn(design.main(), design.text(why) + "\n\n" + path);
         return false;
     }
-    // The design is about to be shown in the main window's units.
-    loads->switchUnits(design.main().units());
-    design.takeZonesOf(*loads);
+    join(design, *loads);
     return true;
 }
 
@@ -117,7 +133,7 @@ FileDialog zoneFileDialog(const LinkedDesign& design) {
 
 }  // namespace
 
-void resolveZoneLink(LinkedDesign& design, bool linkIsStored) {
+void resolveZoneLink(LinkedDesign& design, bool linkIsStored, bool isRecovered) {
     // The zone file makes the link. A project that was saved when its loads window had been closed
     // names a file and no window: it would be without loads if it were not linked again.
     const std::string file = design.loads().file.name;
@@ -125,7 +141,9 @@ void resolveZoneLink(LinkedDesign& design, bool linkIsStored) {
     design.showLinkLight();
     if (file.empty() || !linkIsStored) return;
     const std::string path = placeOfZoneFile(design);
-    if (path.empty()) {
+    if (LoadsWindow* loads = isRecovered ? loadsThatCameBack(design, path) : nullptr) {
+        join(design, *loads);
+    } else if (path.empty()) {
         warn(design.main(), design.text(Text::zoneFileNotFound) + "\n\n" + file);
         design.forgetZoneFile();
         design.setMissingZoneFile(file);

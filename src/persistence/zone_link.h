@@ -12,7 +12,9 @@ class LinkedDesign;
 /// it, opening that window if need be. Where that cannot be, says why and leaves the design
 /// without a link and without a zone file.
 /// @param linkIsStored  the project's file can tell of a link at all
-void resolveZoneLink(LinkedDesign& design, bool linkIsStored);
+/// @param isRecovered   the project is the unsaved work of a program that has ended: the loads that
+///                      it had may be open again beside it, with or without a file
+void resolveZoneLink(LinkedDesign& design, bool linkIsStored, bool isRecovered);
 
 /// Asks where the zone file is that was missing, and links the design with it.
 void findZoneFile(GroundDesign& design);

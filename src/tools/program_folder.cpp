@@ -9,6 +9,7 @@
 #include "basis/run_time_error.h"
 #include "basis/system/folders.h"
 #include "basis/system/process.h"
+#include "basis/system/temporary_names.h"
 
 namespace varnholt {
 namespace {
@@ -73,6 +74,19 @@ void supply(const std::string& folder, const InstalledFiles& from) {
     }
 }
 
+/// Takes away what starts have left that were killed while they filled a folder.
+void removeHalfFilled(const std::string& parent) {
+    if (!isFolder(parent)) return;
+    try {
+        for (const std::string& folder : foldersIn(parent)) {
+            const auto maker = makerOfTemporary(fileNameOf(folder));
+            if (maker && hasEnded(*maker)) removeFolder(folder);
+        }
+    } catch (const RunTimeError&) {
+        // A folder that cannot be read does not keep the program from its own.
+    }
+}
+
 /// Gives the filled folder its name, unless another start of the program was faster.
 void takeName(const std::string& filled, const std::string& folder) {
     if (renameFolder(filled, folder)) return;
@@ -113,7 +127,8 @@ std::string userProgramFolder() {
 void fillProgramFolder(const std::string& path, const InstalledFiles& from) {
     const std::string folder = withoutSlashAtEnd(path);
     if (isFolder(folder)) return supply(folder, from);
-    const std::string filling = folder + ".new-" + std::to_string(processNumber());
+    removeHalfFilled(folderOf(folder));
+    const std::string filling = temporaryPath(folderOf(folder));
     try {
         makeFolders(filling);
         fill(filling, from);

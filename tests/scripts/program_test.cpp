@@ -195,6 +195,33 @@ TEST_F(Program, KeepsUnsavedWorkOfAScriptThatAsksForIt) {
     EXPECT_FALSE(std::filesystem::exists(temporary / "recovery"));
 }
 
+TEST_F(Program, LinksRecoveredDesignsWithTheRecoveredLoadsThatTheyHad) {
+    for (const char* name : {"work files", "zones", "pumps"})
+        std::filesystem::create_directory(temporary / name);
+    // Two designs of one building, whose zones were never saved.
+    write("first.vscript",
+          "click Varnmain.mnuZoneManage\nclick frmZoneManage.LONewCommand\n"
+          "type frmZoneManage.LOGainsText(1) 36\n"
+          "click Varnmain.NewBorehole\nclick Varnmain.mnuLink\n"
+          "click Varnmain.NewBorehole\nclick Varnmain.mnuLink\n"
+          "value frmBHDesign#1.linkType\nvalue frmBHDesign#2.linkType\n");
+    write("next.vscript",
+          "answer yes\nanswer yes\nanswer yes\n"
+          "value frmBHDesign#1.linkType\nvalue frmBHDesign#2.linkType\n"
+          "value frmBHDesign#2.ZoneList(0).gains(1,0)\n");
+    const std::string options = " --program-folder . --locale 409 --recovery";
+    const std::string linked =
+        "value frmBHDesign#1.linkType = \"frmZoneManage\"\n"
+        "value frmBHDesign#2.linkType = \"frmZoneManage\"\n";
+    const ScriptOutcome first = call("first.vscript" + options);
+    EXPECT_TRUE(first.transcript.ends_with(linked)) << first.transcript << first.faults;
+    const ScriptOutcome next = call("next.vscript" + options);
+    EXPECT_TRUE(
+        next.transcript.ends_with(linked + "value frmBHDesign#2.ZoneList(0).gains(1,0) = 36\n"))
+        << next.transcript << next.faults;
+    EXPECT_EQ(next.transcript.find("without its loads"), std::string::npos) << next.transcript;
+}
+
 TEST_F(Program, KeepsNothingOfAScriptThatDoesNotAskForIt) {
     write("first.vscript",
           "click Varnmain.NewBorehole\ntype frmBHDesign.INProjectNameText Unsaved\n");

@@ -2,6 +2,8 @@
 #include "tools/program_folder.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -9,6 +11,7 @@
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
+#include "basis/system/temporary_names.h"
 #include "tools/scratch_folder.h"
 
 namespace varnholt {
@@ -109,7 +112,22 @@ TEST_F(ProgramFolder, ThatCannotBeMadeIsAnErrorAndLeavesNothingBehind) {
     }
     EXPECT_THROW(fillProgramFolder(scratch.path("file"), from), RunTimeError);
     for (const auto& entry : fs::directory_iterator(scratch.path()))
-        EXPECT_EQ(entry.path().string().find(".new-"), std::string::npos) << entry.path();
+        EXPECT_EQ(entry.path().string().find(".varnholt-save-"), std::string::npos) << entry.path();
+}
+
+TEST_F(ProgramFolder, TakesAwayWhatAStartHasLeftThatWasKilled) {
+    const std::string data = scratch.path("data");
+    fs::create_directories(data);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        fs::create_directories(temporaryPath(data) + "/zones");
+        ::_exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_FALSE(fs::is_empty(data));
+    fillProgramFolder(folder(""), from);
+    EXPECT_EQ(std::distance(fs::directory_iterator(data), fs::directory_iterator()), 1);
 }
 
 TEST(InstalledFiles, LieBesideTheExecutablesFolder) {
