@@ -4,27 +4,39 @@
 
 The windows are opened by menus and buttons over the bus, and page after page is turned to.
 Everything that a person can work has to have a name of its own in its window: none nameless, no
-two alike. Pictures have to say what they show. Display and bus are private; nothing of the session
-at hand is used.
+two alike. Pictures have to say what they show. Before that a design is made from nothing to a
+printed report. Display and bus are private; nothing of the session at hand is used.
 
 usage: walk.py PROGRAM EXAMPLES
 """
 
-import contextlib
 import os
-import subprocess
 import sys
 import tempfile
 import time
 
-PRIVATE = "VARNHOLT_PRIVATE_BUS"
+from session import PRIVATE, private_session
 
+if __name__ == "__main__" and PRIVATE not in os.environ:
+    if len(sys.argv) != 3:
+        sys.exit(__doc__)
+    sys.exit(private_session(__file__))
+
+from bus import (  # noqa: E402
+    Atspi, Role, State, WINDOWS, appeared, below, has, name_of, own_name, press, role_of, running,
+    told,
+)
+from design import Designer  # noqa: E402
+
+# The button of the importer that reads a table, which it asks for by a file dialog.
+TABLE = ("Read hours or months from a table: a file of a spreadsheet or of a simulation, "
+         "or the clipboard")
 # What is opened over each example, in this order: by entries of menus, or by buttons of windows.
 SESSIONS = {
     "office": [
-        "Print Preview", "Second Opinion...", "What If...", "Summary", "Details", "New Borehole",
-        "New Horizontal", "New Surface Water", "Average Block Loads", "Monthly Loads Importer",
-        "Edit/Add Pumps", "Diffusivity Calculator", "Eqivalent Hours Calculator",
+        "Open", "Save As", "Print Preview", "Second Opinion...", "What If...", "Summary", "Details",
+        "New Borehole", "New Horizontal", "New Surface Water", "Average Block Loads",
+        "Monthly Loads Importer", TABLE, "Edit/Add Pumps", "Diffusivity Calculator", "Eqivalent Hours Calculator",
         "Pump Power Calculator", "Fluid Properties", "Help", "About",
         "Find Command, Field or Example…",
     ],
@@ -33,44 +45,6 @@ SESSIONS = {
 }
 
 
-def private_session():
-    """Runs this program again on a display and a bus of its own; returns its status."""
-    read, write = os.pipe()
-    with subprocess.Popen(
-        ["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp"],
-        pass_fds=[write], stderr=subprocess.DEVNULL,
-    ) as display:
-        os.close(write)
-        try:
-            number = b""
-            while not number.endswith(b"\n"):
-                more = os.read(read, 16)
-                if not more:
-                    sys.exit("no display could be made")
-                number += more
-            with tempfile.TemporaryDirectory() as runtime:
-                environment = dict(os.environ, DISPLAY=":" + number.decode().strip(),
-                                   XDG_RUNTIME_DIR=runtime, QT_QPA_PLATFORM="xcb",
-                                   QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", **{PRIVATE: "1"})
-                environment.pop("XAUTHORITY", None)
-                command = ["dbus-run-session", "--", sys.executable, os.path.abspath(__file__)]
-                return subprocess.run(command + sys.argv[1:], env=environment).returncode
-        finally:
-            display.terminate()
-
-
-if __name__ == "__main__" and PRIVATE not in os.environ:
-    if len(sys.argv) != 3:
-        sys.exit(__doc__)
-    sys.exit(private_session())
-
-import gi  # noqa: E402
-
-gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402
-
-Role, State = Atspi.Role, Atspi.StateType
-
 # What a person works. Cells of lists are data and may be alike.
 WORKED = {
     Role.PUSH_BUTTON, Role.TOGGLE_BUTTON, Role.CHECK_BOX, Role.RADIO_BUTTON, Role.COMBO_BOX,
@@ -78,57 +52,10 @@ WORKED = {
     Role.LIST_BOX, Role.TREE, Role.TREE_TABLE, Role.TABLE, Role.PAGE_TAB, Role.LINK,
 }
 BOXES = {Role.DIALOG, Role.ALERT}
-WINDOWS = {Role.FRAME, Role.WINDOW} | BOXES
 # How what waits for an answer is answered.
 ANSWERS = ("OK", "Close", "Cancel")
 # Parts of these work what has a name of its own.
 WHOLES = {Role.COMBO_BOX, Role.SPIN_BUTTON, Role.SCROLL_BAR}
-
-
-def told(ask, otherwise):
-    """What the program answers; an answer that does not come is none."""
-    try:
-        return ask()
-    except GLib.Error:
-        return otherwise
-
-
-def role_of(node):
-    return told(node.get_role, Role.INVALID)
-
-
-def own_name(node):
-    return told(node.get_name, "")
-
-
-def has(node, state):
-    return told(lambda: node.get_state_set().contains(state), False)
-
-
-def children(node):
-    for i in range(told(node.get_child_count, 0)):
-        child = told(lambda i=i: node.get_child_at_index(i), None)
-        if child is not None:
-            yield child
-
-
-def below(node, descends):
-    """The node and what is below it, in reading order; where descends says no, nothing further."""
-    yield node
-    if descends(node):
-        for child in children(node):
-            yield from below(child, descends)
-
-
-def name_of(node):
-    """What a screen reader calls it: by its label where it has one, else by its own name."""
-    for relation in told(node.get_relation_set, None) or []:
-        if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY:
-            words = own_name(relation.get_target(0)).rstrip(": ")
-            if words:
-                return words
-    # A combo tells what is chosen for its name, which says nothing of what it is.
-    return "" if role_of(node) == Role.COMBO_BOX else own_name(node)
 
 
 def place_of(node):
@@ -139,12 +66,6 @@ def place_of(node):
             around.append(own_name(node))
         node = told(node.get_parent, None)
     return " in ".join(around) or "the window itself"
-
-
-def press(node):
-    """The first thing that can be done with it. What a box keeps waiting answers late."""
-    told(lambda: node.do_action(0), False)
-    time.sleep(0.7)
 
 
 class Walk:
@@ -230,6 +151,8 @@ class Walk:
         if entry is None:
             return self.fault(f"there is no {name!r}")
         press(entry)
+        if name == TABLE:
+            self.give_table()
         # A button may open a panel of its window, and units change every name.
         if window is not None:
             self.seen.pop(own_name(window), None)
@@ -243,6 +166,24 @@ class Walk:
                 return None
             time.sleep(0.7)
         return self.fault(f"{name!r} opens nothing that was not there")
+
+    def give_table(self):
+        """Answers the file dialog of a table with one of twelve months."""
+        with tempfile.NamedTemporaryFile("w", suffix=".csv", delete=False) as table:
+            table.write("Month,Cooling,Heating\n")
+            for month in range(1, 13):
+                table.write(f"{month},{100 * month},{50 * month}\n")
+        for box in [w for w in self.windows() if role_of(w) in BOXES]:
+            self.whole(box)
+            for node in self.parts(box):
+                if role_of(node) == Role.TEXT and name_of(node) == "File name":
+                    told(lambda node=node: node.set_text_contents(table.name), False)
+            for node in self.parts(box):
+                if role_of(node) == Role.PUSH_BUTTON and own_name(node) == "Open":
+                    press(node)
+        os.remove(table.name)
+        if not any(own_name(w) == "Import a Table" for w in self.windows()):
+            self.fault("the importer shows no table")
 
     def button(self, name):
         """The button on show and its window."""
@@ -263,42 +204,19 @@ class Walk:
         return False
 
 
-def appeared(program):
-    """The program on the bus, once its window is there."""
-    for _ in range(300):
-        for one in children(Atspi.get_desktop(0)):
-            if own_name(one) == "varnholt" and any(children(one)):
-                time.sleep(2)
-                return one
-        if program.poll() is not None:
-            sys.exit(f"the program ended with {program.returncode} before it was seen")
-        time.sleep(0.2)
-    sys.exit("the program does not appear on the accessibility bus")
-
-
-@contextlib.contextmanager
-def running(path, example):
-    with tempfile.TemporaryDirectory() as home:
-        program = subprocess.Popen([path, example], env=dict(os.environ, XDG_DATA_HOME=home),
-                                   stderr=subprocess.DEVNULL)
-        try:
-            yield program
-            if program.poll() is not None:
-                sys.exit(f"the program ended with {program.returncode}")
-        finally:
-            # Asked to end, it takes its mark from beside the example.
-            program.terminate()
-            try:
-                program.wait(20)
-            except subprocess.TimeoutExpired:
-                program.kill()
-                program.wait()
+def from_nothing_to_a_report(path):
+    """The faults met on the way."""
+    with running(path) as program:
+        designer = Designer(appeared(program), program.home)
+        designer.make()
+        print(f"from nothing to a report: {designer.steps} steps", flush=True)
+        return designer.faults
 
 
 def main():
     path, examples = sys.argv[1:3]
     Atspi.set_timeout(3000, 15000)
-    faults, controls = [], 0
+    faults, controls = from_nothing_to_a_report(path), 0
     for example, entries in SESSIONS.items():
         with running(path, os.path.join(examples, example + ".vht")) as program:
             walk = Walk(appeared(program))
