@@ -67,6 +67,19 @@ TEST_F(Previews, GoAwayByThemselves) {
     EXPECT_TRUE(desk.faults.empty());
 }
 
+TEST_F(Previews, GiveTheFrontBackToTheWindowThatHadItBefore) {
+    desk.main().click("mnuAvgBlock");
+    desk.main().click("NewBorehole");
+    const ChildWindow* design = desk.main().activeWindow();
+    ReportPreview& preview = shown(samples.borehole(1));
+    auto* frame = qobject_cast<QMdiSubWindow*>(preview.parentWidget());
+    desk.window->area().setActiveSubWindow(frame);
+    frame->close();
+    Desk::settle();
+    EXPECT_EQ(desk.main().activeWindow(), design);
+    EXPECT_EQ(desk.window->area().activeSubWindow(), desk.shelf.frameOf(*design));
+}
+
 TEST_F(Previews, OpenWhereAPersonHasLeftTheLastOne) {
     WindowPlaces places(folder / "places.ini");
     windows.rememberPlaces(places);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/windows/report_windows.h"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QMdiArea>
@@ -40,6 +41,16 @@ class PreviewFrame : public QMdiSubWindow {
     PreviewFrame& operator=(const PreviewFrame&) = delete;
 
  protected:
+    /// The window that was in front before comes back, and not the first of all.
+    void closeEvent(QCloseEvent* event) override {
+        QMdiArea* area = mdiArea();
+        const QList<QMdiSubWindow*> order =
+            area == nullptr ? QList<QMdiSubWindow*>()
+                            : area->subWindowList(QMdiArea::ActivationHistoryOrder);
+        if (order.size() > 1 && order.back() == this)
+            area->setActiveSubWindow(order[order.size() - 2]);
+        QMdiSubWindow::closeEvent(event);
+    }
     void moveEvent(QMoveEvent* event) override {
         QMdiSubWindow::moveEvent(event);
         notePlace();
