@@ -41,6 +41,14 @@ OpenAs askAboutHolder(Varnmain& main, const std::string& path, const LockHolder&
     return answer == Answer::no ? OpenAs::itself : OpenAs::notAtAll;
 }
 
+/// Tells other programs of the file, or asks what to do where one of them has it open.
+OpenAs markFile(Varnmain& main, const std::string& path, OpenFile& file) {
+    LockAttempt attempt = lockFile(path);
+    if (attempt.holder) return askAboutHolder(main, path, *attempt.holder, file);
+    file.lock = std::move(attempt.lock);
+    return OpenAs::itself;
+}
+
 /// Whether the other program's change may go.
 Answer askAboutChange(Varnmain& main, const std::string& path, const FileStamp& known,
                       const FileStamp& now) {
@@ -58,11 +66,13 @@ OpenAs takeFile(Varnmain& main, const std::string& path, std::size_t mostBytes,
     if (main.guardsFiles && isRestored(main, path))
         content = readFor(main.platform(), path, mostBytes);
     file.known = knownFile(content.stamp, content.bytes);
+    return main.guardsFiles ? markFile(main, path, file) : OpenAs::itself;
+}
+
+OpenAs guardFile(Varnmain& main, const std::string& path, OpenFile& file) {
     if (!main.guardsFiles) return OpenAs::itself;
-    LockAttempt attempt = lockFile(path);
-    if (attempt.holder) return askAboutHolder(main, path, *attempt.holder, file);
-    file.lock = std::move(attempt.lock);
-    return OpenAs::itself;
+    static_cast<void>(isRestored(main, path));
+    return markFile(main, path, file);
 }
 
 SavedAs saveFile(Varnmain& main, const std::string& path, std::string_view bytes, OpenFile& file) {

@@ -29,6 +29,9 @@ enum class OpenAs { itself, copy, notAtAll };
 /// @param content  what has been read of the file
 OpenAs takeFile(Varnmain& main, const std::string& path, std::size_t mostBytes,
                 FileSource::Content& content, OpenFile& file);
+/// The same questions about a file that is read only after them; what is known of it stays as it
+/// is. Throws as readFor.
+OpenAs guardFile(Varnmain& main, const std::string& path, OpenFile& file);
 
 enum class SavedAs {
     itself,     ///< the file has been written

@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <utility>
@@ -16,6 +17,23 @@ namespace varnholt {
 namespace {
 
 constexpr std::string_view blanks = " \t";
+constexpr std::size_t longestLine = std::size_t{16} << 20;
+
+/// Reads up to the next LF, or somewhat more than the longest line. False where nothing is left.
+bool readPieces(std::istream& input, std::string& text) {
+    text.clear();
+    std::array<char, 65'536> piece;
+    while (text.size() <= longestLine) {
+        input.getline(piece.data(), piece.size());
+        const auto got = static_cast<std::size_t>(input.gcount());
+        const bool ended = input.good();
+        text.append(piece.data(), ended ? got - 1 : got);
+        if (ended || input.eof() || input.bad()) return ended || !text.empty();
+        // The piece is full, and the line is not at its end.
+        input.clear();
+    }
+    return true;
+}
 
 template <class Number>
 std::optional<Number> readWhole(std::string_view text) {
@@ -32,7 +50,7 @@ ScriptReader::ScriptReader(std::istream& input, std::string name)
 
 bool ScriptReader::readLine(std::string& text) {
     if (waits_ && input_.rdbuf()->in_avail() <= 0) waits_(true);
-    const bool read = static_cast<bool>(std::getline(input_, text));
+    const bool read = readPieces(input_, text);
     if (waits_) waits_(false);
     return read;
 }
@@ -40,6 +58,7 @@ bool ScriptReader::readLine(std::string& text) {
 std::optional<ScriptLine> ScriptReader::next() {
     for (std::string text; readLine(text);) {
         ++line_;
+        if (text.size() > longestLine) throw ScriptFault("the line is longer than 16 MB");
         if (!text.empty() && text.back() == '\r') text.pop_back();
         text = line_ == 1 ? decodeText(text) : utf8Text(text);
         text.erase(0, std::min(text.find_first_not_of(blanks), text.size()));

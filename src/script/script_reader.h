@@ -33,7 +33,8 @@ class ScriptReader {
     /// when a line has been read.
     void setWaits(std::function<void(bool)> waits) { waits_ = std::move(waits); }
 
-    /// The next command; nothing at the end.
+    /// The next command; nothing at the end. Throws ScriptFault for a line of more than 16 MB, of
+    /// which the rest is not read.
     std::optional<ScriptLine> next();
     /// "FILE:LINE: what", of the line read last.
     std::string faultText(const std::string& what) const;

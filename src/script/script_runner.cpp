@@ -34,7 +34,7 @@ int ScriptRunner::run() {
 /// Runs lines until the modal form has ended; without one, to the end of the script.
 void ScriptRunner::runLines(const Form* modal) {
     while (!over_ && (modal == nullptr || !modal->modalEnded())) {
-        const std::optional<ScriptLine> line = reader_.next();
+        const std::optional<ScriptLine> line = nextLine();
         if (line) {
             runLine(*line);
             continue;
@@ -44,6 +44,15 @@ void ScriptRunner::runLines(const Form* modal) {
         over_ = true;
     }
     if (over_ && modal != nullptr) unwind();
+}
+
+std::optional<ScriptLine> ScriptRunner::nextLine() {
+    try {
+        return reader_.next();
+    } catch (const ScriptFault& fault) {
+        report(fault.what, fault.status);
+        return std::nullopt;
+    }
 }
 
 void ScriptRunner::runModal(Form& form) { runLines(&form); }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <ostream>
 #include <string>
 
@@ -38,6 +39,7 @@ class ScriptRunner : private ScriptHost {
     [[noreturn]] void unwind();
 
     void runLines(const Form* modal);
+    std::optional<ScriptLine> nextLine();
     void runLine(const ScriptLine& line);
     void execute(const ScriptLine& line);
     void report(const std::string& what, ScriptStatus status);

@@ -149,6 +149,29 @@ TEST_F(Runner, AHandlerThatSwallowsEverythingDoesNotOutliveTheScript) {
     EXPECT_EQ(result.faults, "");
 }
 
+TEST_F(Runner, ALineEndsWhereItsLineFeedStandsHoweverLongItIs) {
+    // About the 65,535 characters that are read at once, and at the end of the script.
+    for (const std::size_t length : {65'533U, 65'534U, 65'535U, 65'536U, 131'070U, 131'071U}) {
+        SCOPED_TRACE(length);
+        const std::string comment = "#" + std::string(length - 1, 'c');
+        EXPECT_EQ(run(comment + "\r\n\n" + comment + "\nnonsense\n").faults.substr(0, 15),
+                  "test.vscript:4:");
+        EXPECT_EQ(run(comment).status, 0);
+        EXPECT_EQ(run("forms\n" + comment).status, 0);
+    }
+}
+
+TEST_F(Runner, ALineOfMoreThan16MBIsRefused) {
+    const std::size_t longest = 16 * 1024 * 1024;
+    const Outcome refused = run("\n#" + std::string(longest, 'c') + "\nforms\n");
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_EQ(refused.faults, "test.vscript:2: the line is longer than 16 MB\n");
+    EXPECT_EQ(refused.out, "");
+    const Outcome longestOfAll = run("#" + std::string(longest - 1, 'c') + "\nforms\n");
+    EXPECT_EQ(longestOfAll.status, 0);
+    EXPECT_EQ(longestOfAll.faults, "");
+}
+
 TEST_F(Runner, AProgramWhoseToolkitNoExceptionMayPassIsEndedWithTheStatus) {
     main.click("NewBorehole");
     std::istringstream input("click frmEveryKind.ModalCommand\nclick frmSample.None\n");

@@ -64,6 +64,9 @@ TEST_F(Program, IsStoppedByNoScriptThatNeverEnds) {
     const ScriptOutcome device = call("/dev/zero");
     EXPECT_EQ(device.status, 2);
     EXPECT_EQ(device.faults, "varnholt-script: /dev/zero cannot be read\n");
+    const ScriptOutcome endless = call("--program-folder . </dev/zero");
+    EXPECT_EQ(endless.status, 2);
+    EXPECT_EQ(endless.faults, "-:1: the line is longer than 16 MB\n");
 }
 
 TEST_F(Program, TellsItsOptionsAndItsVersion) {

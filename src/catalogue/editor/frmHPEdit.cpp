@@ -12,6 +12,7 @@
 #include "catalogue/pump_selection.h"
 #include "forms/text_numbers/borehole.h"
 #include "forms/text_numbers/editor_messages.h"
+#include "forms/text_numbers/files.h"
 #include "forms/text_numbers/heat_pump_editor.h"
 #include "forms/text_numbers/loads.h"
 #include "frame/varnmain.h"
@@ -181,6 +182,7 @@ std::vector<Notice> frmHPEdit::notices() {
                       {std::to_string(document_.pumps.size()), std::to_string(selectableModels)})});
     FileDamage series{place_ ? fileNameOf(seriesPath()) : std::string(), file_.report, file_.other};
     series.report.error = file_.error;
+    if (readOnly_) holding.push_back({filledIn(text(Text::noticeOpenElsewhere), {series.name})});
     for (const FileDamage& damage : {series, damagedIndex_})
         if (damage.isTold()) holding.push_back({damageText(texts(), damage)});
     return holding;

@@ -13,6 +13,7 @@
 #include "catalogue/editor/series_file.h"
 #include "frame/child_window.h"
 #include "frame/file_damage.h"
+#include "frame/open_file.h"
 
 namespace varnholt {
 
@@ -20,7 +21,8 @@ namespace varnholt {
 ///
 /// It holds one series in memory. `SaveCommand` is enabled as long as the pumps differ from their
 /// file; the index is written at once with every manufacturer and series that comes, goes or
-/// changes.
+/// changes. A series that is open in another program is opened to be read, or as a copy: its pumps
+/// are saved as a series of their own.
 class frmHPEdit : public ChildWindow {
  public:
     /// @param catalogueWritten  called after the catalogue's files have been written
@@ -119,7 +121,9 @@ class frmHPEdit : public ChildWindow {
     const PumpManufacturerInfo& selectedManufacturer() const;
     std::string seriesPath() const;
     SeriesFile readSelectedSeries() const;
+    std::optional<OpenFile> guardSeries(const PumpSeriesInfo& series);
     void openSeries(const SeriesPlace& place);
+    void showSeries(const SeriesPlace& place);
     void takeSeries(const SeriesPlace& place, SeriesFile file);
     void closeSeries();
     void setChanged(bool changed);
@@ -148,6 +152,7 @@ class frmHPEdit : public ChildWindow {
     PumpSeriesInfo typedSeries() const;
     std::string faultOfInformation() const;
     void enterSeries();
+    void enterCopy();
     void changeSeries();
     void finishFileName();
 
@@ -212,6 +217,9 @@ class frmHPEdit : public ChildWindow {
     std::optional<Shared<pump>> triedPump_;
     /// What is known of the file of the series.
     SeriesFile file_;
+    FileLock lock_;             ///< tells other programs that it is open here
+    bool readOnly_ = false;     ///< it is open elsewhere: saving asks for a series of its own
+    bool copiesPumps_ = false;  ///< the series that is being entered gets the pumps in memory
     bool changed_ = false;
     bool droppedChanges_ = false;
     std::int16_t labelledType_ = 0;

@@ -130,6 +130,10 @@ std::string frmHPEdit::faultOfInformation() const {
     const bool sameFile = editing && series.FileName == selectedSeries().FileName;
     if (!sameFile && !isUsableFileName(series.FileName))
         return filledIn(text(Text::fileNameUnusable), {series.FileName});
+    // A file that no series of the catalogue has is not the copy's to replace.
+    const std::string pumps = joinPath(main().MainDirectory, "pumps");
+    if (copiesPumps_ && fileExists(pumpSeriesPath(pumps, series.FileName)))
+        return text(Text::fileNameTaken);
     if (!editing && under && index_[*under].seriesInfo.size() >= seriesPerManufacturer)
         return text(Text::tooManySeries);
     return {};
@@ -145,7 +149,22 @@ void frmHPEdit::ProceedCommand_Click() {
         enterSeries();
 }
 
-/// A new series starts with an empty file, or with the pumps of a file that is there already.
+/// The pumps in memory become a series of their own, of a manufacturer that is proposed.
+void frmHPEdit::enterCopy() {
+    if (copiesPumps_) return;
+    shownTarget_ = static_cast<int>(place_->manufacturer) + hintEntries;
+    control("SelectMfgCombo").setIndex(shownTarget_).setEnabled(true);
+    editingSeriesInfo = false;
+    pumpInfoFrameMode = "newSeries";
+    lockManufacturer(true);
+    revealInformation(selectedManufacturer(), {{}, {}, platform().today()});
+    control("ProceedCommand").setCaption(text(Text::proceedWithInformation));
+    copiesPumps_ = true;
+    showPanel(Panel::information);
+}
+
+/// A new series starts with an empty file, with the pumps of a file that is there already, or with
+/// copies of those in memory.
 void frmHPEdit::enterSeries() {
     CatalogueIndex index = index_;
     const PumpManufacturerInfo maker = typedManufacturer();
@@ -156,12 +175,22 @@ void frmHPEdit::enterSeries() {
         known ? insertSeries(index, *known, series) : insertManufacturer(index, maker, series);
     const std::string pumps = joinPath(main().MainDirectory, "pumps");
     const std::string path = pumpSeriesPath(pumps, series.FileName);
-    const bool found = fileExists(path);
+    std::optional<OpenFile> guarded = guardSeries(series);
+    if (!guarded) return;
+    const bool found = fileExists(path), copies = copiesPumps_;
+    PumpSeries first{series, maker, {}};
+    if (copies)
+        for (const Shared<pump>& model : document_.pumps) first.models.push_back(*model);
     // The file first: an index must not list a series whose file could not be made.
-    if (!found && !attemptToWrite(path, [&] { WritePumpSeries(pumps, {series, maker, {}}); }))
+    if (!found && !attemptToWrite(path, [&] { WritePumpSeries(pumps, first); })) return;
+    if (!writeIndex(index)) {
+        // Else the same copy could not be entered once more.
+        if (copies) removeFile(path);
         return;
-    if (!writeIndex(index)) return;
+    }
     index_ = std::move(index);
+    lock_ = std::move(guarded->lock);
+    readOnly_ = guarded->readOnly || guarded->asksForName;
     SeriesFile file = readSeriesFile(platform(), path);
     const int error = file.error;
     const bool otherHead =
@@ -189,13 +218,18 @@ void frmHPEdit::changeSeries() {
     series = typedSeries();
     const bool otherNames =
         manufacturer.mfgInfo != selectedManufacturer() || series != selectedSeries();
-    if (!writeIndex(index)) return;
+    std::optional<OpenFile> guarded = otherFile ? guardSeries(series) : std::nullopt;
+    if ((otherFile && !guarded) || !writeIndex(index)) return;
     index_ = std::move(index);
     for (Shared<pump>& model : document_.pumps) {
         model.edit().mfgInfo = selectedManufacturer();
         model.edit().seriesInfo = selectedSeries();
     }
-    if (otherFile) file_ = {};
+    if (guarded) {
+        file_ = {};
+        lock_ = std::move(guarded->lock);
+        readOnly_ = guarded->readOnly || guarded->asksForName;
+    }
     // Under the new name there is no file yet, not even for a series without pumps.
     if (otherFile || (otherNames && !document_.pumps.empty())) setChanged(true);
     editingSeriesInfo = false;

@@ -29,6 +29,7 @@ frmHPEdit::Panel frmHPEdit::panel() const {
 }
 
 void frmHPEdit::showPanel(Panel panel) {
+    if (panel != Panel::information) copiesPumps_ = false;
     control("NoInfoPicture").setVisible(panel == Panel::nothing);
     control("PumpInfoPicture").setVisible(panel == Panel::information);
     control("PumpDataPicture").setVisible(panel == Panel::data);
@@ -112,7 +113,7 @@ void frmHPEdit::MfgCombo_Click() {
         // What has been dropped does not come back with the panel behind this one.
         if (std::exchange(droppedChanges_, false) && place_)
             takeSeries(*place_, readSelectedSeries());
-        editingSeriesInfo = false;
+        editingSeriesInfo = copiesPumps_ = false;
         control("SelectMfgCombo").setIndex(0).setEnabled(true);
         shownTarget_ = 0;
         control("InsidePumpInfoPicture").setVisible(false);
@@ -180,8 +181,42 @@ SeriesFile frmHPEdit::readSelectedSeries() const {
                                                     : SeriesFile{};
 }
 
-/// Reads the file of a series; what there is of it comes into memory.
+/// Before the file of a series becomes that of this window: nothing where it is not to be opened.
+/// A copy stays without a file until its own series has been entered.
+std::optional<OpenFile> frmHPEdit::guardSeries(const PumpSeriesInfo& series) {
+    OpenFile file;
+    if (!staysInFolder(series.FileName)) return file;
+    const std::string pumps = joinPath(main().MainDirectory, "pumps");
+    try {
+        const OpenAs as = guardFile(main(), pumpSeriesPath(pumps, series.FileName), file);
+        if (as == OpenAs::notAtAll) return std::nullopt;
+        file.asksForName = as == OpenAs::copy;
+    } catch (const RunTimeError& error) {
+        show(MessageIcon::exclamation, error.message());
+        return std::nullopt;
+    }
+    return file;
+}
+
+/// Opens a series, unless another program has it open and the user cancels.
 void frmHPEdit::openSeries(const SeriesPlace& place) {
+    // The series may be the one in memory: this program's own mark is none of another.
+    lock_.release();
+    std::optional<OpenFile> guarded =
+        guardSeries(index_[place.manufacturer].seriesInfo[place.series]);
+    if (!guarded) {
+        closeSeries();
+        control("SeriesCombo").setIndex(0);
+        return;
+    }
+    lock_ = std::move(guarded->lock);
+    readOnly_ = guarded->readOnly || guarded->asksForName;
+    showSeries(place);
+    if (guarded->asksForName && !document_.pumps.empty()) enterCopy();
+}
+
+/// Reads the file of a series; what there is of it comes into memory.
+void frmHPEdit::showSeries(const SeriesPlace& place) {
     place_ = place;
     pumpInfoFrameMode.clear();
     editingSeriesInfo = false;
@@ -220,7 +255,10 @@ bool frmHPEdit::takeRecovered(std::string_view bytes, const std::string& path,
     for (std::size_t m = 0; m < index_.size(); ++m)
         for (std::size_t s = 0; s < index_[m].seriesInfo.size(); ++s) {
             if (pumpSeriesPath(pumps, index_[m].seriesInfo[s].FileName) != path) continue;
-            openSeries({m, s});
+            LockAttempt attempt = lockFile(path);
+            lock_ = std::move(attempt.lock);
+            readOnly_ = attempt.holder.has_value();
+            showSeries({m, s});
             SeriesFile file = std::move(file_);
             file.series = std::move(series);
             if (known) file.known = known;
@@ -240,6 +278,8 @@ void frmHPEdit::closeSeries() {
     editingSeriesInfo = false;
     document_.pumps.clear();
     file_ = {};
+    lock_.release();
+    readOnly_ = false;
     pumpInfoFrameMode.clear();
     setChanged(false);
     savedStale_.clear();
@@ -300,6 +340,7 @@ bool frmHPEdit::attemptToWrite(const std::string& path, const std::function<void
 
 void frmHPEdit::SaveCommand_Click() {
     if (!place_) return;
+    if (readOnly_) return enterCopy();
     const std::string& FileName = selectedSeries().FileName;
     if (!staysInFolder(FileName))
         return show(MessageIcon::exclamation, filledIn(text(Text::fileNameUnusable), {FileName}));
