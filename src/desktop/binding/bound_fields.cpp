@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QWheelEvent>
 #include <limits>
+#include <utility>
 
 #include "basis/raised_flag.h"
 #include "desktop/binding/binder.h"
@@ -166,7 +167,7 @@ class CalmCombo : public QComboBox {
     }
 };
 
-class BoundCombo : public BoundControl {
+class BoundCombo : public BoundControl, private QAccessible::ActivationObserver {
  public:
     BoundCombo(Binder& binder, Control& control)
         : BoundControl(binder, control, new CalmCombo), combo_(static_cast<QComboBox*>(widget())) {
@@ -180,9 +181,13 @@ class BoundCombo : public BoundControl {
                 *this, [index](Form& f, const std::string& name) { f.choose(name, index); });
         });
         if (QAccessible::isActive()) followItsList();
+        QAccessible::installActivationObserver(this);
         binder.watchKeys(*this, combo_);
         showAll();
     }
+    ~BoundCombo() override { QAccessible::removeActivationObserver(this); }
+    BoundCombo(const BoundCombo&) = delete;
+    BoundCombo& operator=(const BoundCombo&) = delete;
 
     void show(Property property) override {
         switch (property) {
@@ -240,9 +245,13 @@ class BoundCombo : public BoundControl {
             });
     }
 
+    void accessibilityActiveChanged(bool active) override {
+        if (active) followItsList();
+    }
     /// Assistive technology chooses an entry in the list that is not open, of which the combo
-    /// itself takes no notice.
+    /// itself takes no notice. The list is made for that, which would cost everybody else.
     void followItsList() {
+        if (std::exchange(followsItsList_, true)) return;
         QObject::connect(combo_->view()->selectionModel(), &QItemSelectionModel::selectionChanged,
                          &binder(), [this](const QItemSelection& chosen) {
                              if (chosen.isEmpty() || combo_->view()->isVisible()) return;
@@ -289,6 +298,7 @@ class BoundCombo : public BoundControl {
     }
 
     QComboBox* combo_;
+    bool followsItsList_ = false;
 };
 
 class CalmDateEdit : public QDateEdit {
