@@ -117,6 +117,37 @@ std::string LineFileReader::line() {
     return isUtf8_ ? std::string(found) : windows1252Text(found);
 }
 
+void LineFileReader::text(std::string& value) {
+    std::string found = line();
+    value = carriesBytes(found) ? uncarriedText(found) : std::move(found);
+}
+
+void LineFileReader::text(SharedText& value) {
+    std::string found;
+    text(found);
+    value = std::move(found);
+}
+
+void LineFileReader::lines(std::size_t count, SharedText& text) {
+    std::size_t there = 0, length = 0;
+    for (std::string_view ahead = left_; there < count && !ahead.empty(); ++there) {
+        const std::string_view line = takeFirstLine(ahead);
+        length += 2 + (isUtf8_ ? line.size() : windows1252Length(line));
+    }
+    std::string all;
+    all.reserve(length);
+    for (std::size_t i = 0; i < there; ++i) {
+        if (i > 0) all += "\r\n";
+        const std::string_view line = takeLine();
+        if (isUtf8_)
+            all += line;
+        else
+            appendWindows1252(all, line);
+    }
+    text = std::move(all);
+    if (there < count) throw RunTimeError(62);
+}
+
 void LineFileReader::skipLines(std::size_t count) {
     for (; count > 0; --count) takeLine();
 }
@@ -125,14 +156,32 @@ void LineFileWriter::title(std::string_view prefix) {
     fixed(std::string(prefix).append(fileVersion));
 }
 
-void LineFileWriter::text(const std::string& value) {
+void LineFileWriter::textItem(std::string_view value) {
     if (isValidUtf8(value))
         fixed(value);
     else
         fixed(carriedText(value));
 }
 
+void LineFileWriter::lines(std::size_t count, std::string_view text) {
+    makeRoomFor(text.size() + count);
+    std::size_t start = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t feed = std::min(text.find('\n', start), text.size());
+        std::string_view line = text.substr(start, feed - start);
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        textItem(line);
+        start = feed + 1;
+    }
+}
+
+void LineFileWriter::makeRoomFor(std::size_t bytes) {
+    constexpr std::size_t isLong = std::size_t{1} << 20, roomBehind = std::size_t{1} << 18;
+    if (bytes > isLong) text_.reserve(text_.size() + bytes + roomBehind);
+}
+
 void LineFileWriter::fixed(std::string_view text) {
+    makeRoomFor(text.size());
     const auto start = static_cast<std::ptrdiff_t>(text_.size());
     text_ += text;
     std::replace_if(

@@ -6,9 +6,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "basis/date.h"
+#include "basis/shared_text.h"
 #include "basis/text_encoding.h"
 
 namespace varnholt {
@@ -52,7 +54,8 @@ class LineFileReader {
     bool since(double version) const { return version_ >= version; }
     double version() const { return version_; }
 
-    void text(std::string& value) { value = uncarriedText(line()); }
+    void text(std::string& value);
+    void text(SharedText& value);
     void number(double& value);
     void integer(std::int16_t& value);
     void date(Date& value);
@@ -76,6 +79,9 @@ class LineFileReader {
 
     /// A whole line; what is left of one that was read in part.
     std::string line();
+    /// So many lines as one text, with CR LF between them. Where there are fewer it is what there
+    /// is, and RunTimeError 62.
+    void lines(std::size_t count, SharedText& text);
     /// Passes over so many lines. RunTimeError 62 where there are fewer.
     void skipLines(std::size_t count);
     bool atEnd() const { return left_.empty(); }
@@ -129,7 +135,7 @@ class LineFileWriter {
     bool since(double) const { return true; }
 
     /// Bytes that are not UTF-8 are carried so that reading gives them back; see carriedText.
-    void text(const std::string& value);
+    void text(const std::string& value) { textItem(value); }
     void number(double value);
     void integer(std::int16_t value);
     void date(const Date& value);
@@ -139,14 +145,20 @@ class LineFileWriter {
         ((line += (line.empty() ? "" : ",") + numberItem(values)), ...);
         fixed(line);
     }
+    /// The lines of a text, so many, each an item of its own.
+    void lines(std::size_t count, std::string_view text);
     /// Line ends inside a text become blanks, so that every item is one line, titles too.
     void fixed(std::string_view text);
     std::size_t count(std::size_t written, std::size_t linesEach);
 
-    const std::string& bytes() const { return text_; }
+    const std::string& bytes() const& { return text_; }
+    std::string bytes() && { return std::move(text_); }
 
  private:
     static std::string numberItem(double value);
+    void textItem(std::string_view value);
+    /// Makes room for a text that is long: growing in steps would take it three times on the way.
+    void makeRoomFor(std::size_t bytes);
 
     std::string text_;
 };

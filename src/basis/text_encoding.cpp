@@ -30,6 +30,11 @@ void appendUtf8(std::string& text, char16_t c) {
     }
 }
 
+char16_t ofWindows1252(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte >= 0x80 && byte < 0xA0 ? windows1252[byte - 0x80] : byte;
+}
+
 /// So many bytes at the front are ASCII, in steps of eight: nearly all of every file.
 std::size_t plainPrefix(std::string_view bytes) {
     constexpr std::uint64_t highBits = 0x8080808080808080;
@@ -76,16 +81,24 @@ std::string utf8Text(std::string_view bytes) {
 }
 
 std::string windows1252Text(std::string_view bytes) {
-    const auto beyond = std::count_if(bytes.begin(), bytes.end(),
-                                      [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
     std::string text;
     // A text that grows step by step would take twice its memory on the way.
-    text.reserve(bytes.size() + 2 * static_cast<std::size_t>(beyond));
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        appendUtf8(text, byte >= 0x80 && byte < 0xA0 ? windows1252[byte - 0x80] : byte);
-    }
+    text.reserve(windows1252Length(bytes));
+    appendWindows1252(text, bytes);
     return text;
+}
+
+std::size_t windows1252Length(std::string_view bytes) {
+    std::size_t length = 0;
+    for (const char c : bytes) {
+        const char16_t character = ofWindows1252(c);
+        length += character < 0x80 ? 1 : character < 0x800 ? 2 : 3;
+    }
+    return length;
+}
+
+void appendWindows1252(std::string& text, std::string_view bytes) {
+    for (const char c : bytes) appendUtf8(text, ofWindows1252(c));
 }
 
 std::string carriedText(std::string_view bytes) {
@@ -104,10 +117,12 @@ std::string carriedText(std::string_view bytes) {
     return text;
 }
 
+bool carriesBytes(std::string_view text) { return text.find('\xEE') != text.npos; }
+
 /// U+EF80 to U+EFFF are the bytes EE BE 80 to EE BF BF: the last six bits stand in the third byte,
 /// the seventh in the second.
 std::string uncarriedText(std::string_view text) {
-    if (text.find('\xEE') == text.npos) return std::string(text);
+    if (!carriesBytes(text)) return std::string(text);
     std::string bytes;
     bytes.reserve(text.size());
     while (!text.empty()) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,10 @@ bool isValidUtf8(std::string_view bytes);
 
 /// Bytes of Windows-1252 as UTF-8 text.
 std::string windows1252Text(std::string_view bytes);
+/// How many bytes that text has.
+std::size_t windows1252Length(std::string_view bytes);
+/// The same text behind another.
+void appendWindows1252(std::string& text, std::string_view bytes);
 
 /// The bytes as UTF-8 text: as they are when they are valid UTF-8, otherwise taken as Windows-1252,
 /// the encoding of old files.
@@ -27,5 +32,7 @@ std::string_view withoutByteOrderMark(std::string_view bytes);
 /// The bytes as valid UTF-8, from which the next function brings them back.
 std::string carriedText(std::string_view bytes);
 std::string uncarriedText(std::string_view text);
+/// Whether the text may hold such characters: without them it is the bytes as it stands.
+bool carriesBytes(std::string_view text);
 
 }  // namespace varnholt

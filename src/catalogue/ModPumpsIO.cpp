@@ -229,13 +229,13 @@ std::string pumpIndexText(const std::vector<PumpList>& manufacturers) {
     LineFileWriter file;
     std::size_t stated = 0;
     describeIndex(file, manufacturers, stated);
-    return file.bytes();
+    return std::move(file).bytes();
 }
 
 std::string pumpSeriesText(const PumpSeries& series) {
     LineFileWriter file;
     describeSeries(file, series);
-    return file.bytes();
+    return std::move(file).bytes();
 }
 
 void WritePumpList(const std::string& pumpsFolder, const std::vector<PumpList>& manufacturers) {

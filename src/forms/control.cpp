@@ -32,7 +32,7 @@ Control& Control::set(Property property, T& member, T value) {
     return *this;
 }
 
-Control& Control::setText(std::string text) { return set(Property::text, text_, std::move(text)); }
+Control& Control::setText(SharedText text) { return set(Property::text, text_, std::move(text)); }
 Control& Control::setCaption(std::string caption) {
     return set(Property::caption, caption_, std::move(caption));
 }
@@ -44,7 +44,8 @@ Control& Control::setChecked(bool checked) { return set(Property::checked, check
 Control& Control::setIndex(int index) {
     const bool known = index >= 0 && index < static_cast<int>(items_.size());
     if (kind_ == ControlKind::combo)
-        set(Property::text, text_, known ? items_[static_cast<std::size_t>(index)] : text_);
+        set(Property::text, text_,
+            known ? SharedText(items_[static_cast<std::size_t>(index)]) : text_);
     if (kind_ == ControlKind::list)
         set(Property::selected, selected_, known ? std::vector<int>{index} : std::vector<int>{});
     return set(Property::index, index_, index);

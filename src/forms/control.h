@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "basis/date.h"
+#include "basis/shared_text.h"
 
 namespace varnholt {
 
@@ -95,7 +96,8 @@ class Control {
     const std::string& name() const { return name_; }
     ControlKind kind() const { return kind_; }
 
-    const std::string& text() const { return text_; }
+    const std::string& text() const { return text_.string(); }
+    const SharedText& sharedText() const { return text_; }
     const std::string& caption() const { return caption_; }
     bool enabled() const { return enabled_; }
     /// Its own mark; see Form::isShown for the frames around it.
@@ -148,7 +150,7 @@ class Control {
     /// Page of the help that explains it, with its section: "soil#temperature". Empty for none.
     const std::string& helpTopic() const { return helpTopic_; }
 
-    Control& setText(std::string text);
+    Control& setText(SharedText text);
     Control& setCaption(std::string caption);
     Control& setEnabled(bool enabled);
     Control& setVisible(bool visible);
@@ -197,7 +199,8 @@ class Control {
     std::string name_;
     ControlKind kind_;
     ControlObserver* observer_ = nullptr;
-    std::string text_, caption_, tooltip_, container_, group_;
+    SharedText text_;
+    std::string caption_, tooltip_, container_, group_;
     std::string label_, unitLabel_, upDown_, accessibleName_, spokenName_, helpTopic_;
     std::vector<std::string> items_;
     std::vector<int> selected_;

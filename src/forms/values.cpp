@@ -24,6 +24,9 @@ void Values::add(const std::string& name, const bool* value) {
 void Values::add(const std::string& name, const std::string* value) {
     add(name, 0, [value](const Indices&) { return *value; });
 }
+void Values::add(const std::string& name, const SharedText* value) {
+    add(name, 0, [value](const Indices&) { return value->string(); });
+}
 void Values::add(const std::string& name, const Date* value) {
     add(name, 0, [value](const Indices&) { return *value; });
 }

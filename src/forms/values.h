@@ -11,6 +11,7 @@
 
 #include "basis/date.h"
 #include "basis/mode.h"
+#include "basis/shared_text.h"
 
 namespace varnholt {
 
@@ -32,6 +33,7 @@ class Values {
     void add(const std::string& name, const std::int16_t* value);
     void add(const std::string& name, const bool* value);
     void add(const std::string& name, const std::string* value);
+    void add(const std::string& name, const SharedText* value);
     void add(const std::string& name, const Date* value);
 
     /// An array: one index. Elements outside are RunTimeError 9.

@@ -15,7 +15,7 @@ struct InformationRow {
     const char* control;
     const char* label;
     int captionText;
-    std::string ProjectInformation::*member;
+    SharedText ProjectInformation::*member;
 };
 
 constexpr std::array<InformationRow, 11> informationRows{{
@@ -114,7 +114,7 @@ void DesignDocument::addInformationControls() {
             .captionedBy(row.label)
             .helpedBy("borehole#information");
         onChange(row.control, [this, member = row.member, name = std::string(row.control)] {
-            information_.*member = control(name).text();
+            information_.*member = control(name).sharedText();
         });
     }
     addDate("INDateDTPicker", "INDateLabel", Text::projectDate, &ProjectInformation::currentDate);
@@ -125,7 +125,7 @@ void DesignDocument::addInformationControls() {
         .in("INProjectFrame")
         .captionedBy("INCommentsLabel");
     onChange("INCommentsRichTextBox",
-             [this] { information_.comments = control("INCommentsRichTextBox").text(); });
+             [this] { information_.comments = control("INCommentsRichTextBox").sharedText(); });
 }
 
 void DesignDocument::addLabel(const char* name, int captionText) {

@@ -1,21 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string>
-
 #include "basis/date.h"
+#include "basis/shared_text.h"
 #include "forms/values.h"
 
 namespace varnholt {
 
 /// Who the project is for and who made it, as the information tab edits it.
 struct ProjectInformation {
-    std::string projectName, designerName, clientName;
-    std::string addressLine1, addressLine2, city, state, zip, country;
-    std::string phone, fax, email;
+    SharedText projectName, designerName, clientName;
+    SharedText addressLine1, addressLine2, city, state, zip, country;
+    SharedText phone, fax, email;
     Date currentDate, projectStartDate;
     /// Lines end in CR LF.
-    std::string comments;
+    SharedText comments;
 
     friend bool operator==(const ProjectInformation&, const ProjectInformation&) = default;
 };

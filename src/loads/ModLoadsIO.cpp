@@ -132,7 +132,7 @@ void readZones(std::string_view bytes, const ZoneFileContext& context, LoadsData
 std::string zonesText(const LoadsData& data) {
     LineFileWriter file;
     describeFile(file, {}, data);
-    return file.bytes();
+    return std::move(file).bytes();
 }
 
 void readZoneFile(const std::string& path, const ZoneFileContext& context, LoadsData& data) {

@@ -40,7 +40,7 @@ void LoadsWindow::takeSeries(const std::string& activeSeries) {
 }
 
 void LoadsWindow::takeProject(const ProjectInformation& information) {
-    std::string comments = std::move(document_.information.comments);
+    SharedText comments = std::move(document_.information.comments);
     document_.information = information;
     document_.information.comments = std::move(comments);
 }

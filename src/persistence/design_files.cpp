@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <type_traits>
+#include <utility>
 
 #include "basis/file_system.h"
 #include "basis/run_time_error.h"
@@ -165,7 +166,7 @@ template <class Project>
 std::string textOf(const Project& project) {
     LineFileWriter file;
     describeFile(file, project);
-    return file.bytes();
+    return std::move(file).bytes();
 }
 
 template <class Project>
@@ -191,7 +192,7 @@ void readProjectText(std::string_view bytes, SurfaceWaterProject& project) {
 std::string projectText(const GroundDesign& design) {
     LineFileWriter file;
     fileKindOf(design).writeProject(file, design);
-    return file.bytes();
+    return std::move(file).bytes();
 }
 
 void readProjectText(std::string_view bytes, GroundDesign& design, ReadingReport* report) {

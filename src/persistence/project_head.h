@@ -15,25 +15,13 @@ namespace varnholt {
 /// one empty line.
 template <class File, class Text>
 void describeComments(File& file, Text& comments) {
-    const auto feeds = static_cast<std::size_t>(std::count(comments.begin(), comments.end(), '\n'));
+    const std::string& text = comments;
+    const auto feeds = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
     const std::size_t lines = file.count(feeds + 1, 1);
-    if constexpr (File::reading) {
-        comments.clear();
-        for (std::size_t i = 0; i < lines; ++i) {
-            const std::string line = file.line();
-            if (i > 0) comments += "\r\n";
-            comments += line;
-        }
-    } else {
-        std::size_t start = 0;
-        for (std::size_t i = 0; i < lines; ++i) {
-            const std::size_t feed = std::min(comments.find('\n', start), comments.size());
-            std::string line = comments.substr(start, feed - start);
-            if (!line.empty() && line.back() == '\r') line.pop_back();
-            file.text(line);
-            start = feed + 1;
-        }
-    }
+    if constexpr (File::reading)
+        file.lines(lines, comments);
+    else
+        file.lines(lines, text);
 }
 
 /// The head that project files of every kind share: version, kind, who and for whom, comments.

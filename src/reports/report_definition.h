@@ -31,7 +31,7 @@ struct ShownIn {
 };
 /// A member of the calling window's project information.
 struct OfProject {
-    std::string ProjectInformation::*text = nullptr;
+    SharedText ProjectInformation::*text = nullptr;
     Date ProjectInformation::*date = nullptr;
 };
 /// A field of the row at hand of the zone table or of the pump table.
@@ -51,7 +51,7 @@ constexpr Source words(int metric, int english) { return Words{english, metric};
 constexpr Source shown(const char* control, const char* units = nullptr) {
     return ShownIn{control, units};
 }
-constexpr Source project(std::string ProjectInformation::*text) { return OfProject{text, nullptr}; }
+constexpr Source project(SharedText ProjectInformation::*text) { return OfProject{text, nullptr}; }
 constexpr Source project(Date ProjectInformation::*date) { return OfProject{nullptr, date}; }
 constexpr Source computed(std::string (*text)(const FillContext&)) { return Computed{text}; }
 /// A field by its name; a name that the table lacks does not compile.

@@ -101,7 +101,9 @@ void frmBrowser::go(const std::string& address) {
 }
 
 void frmBrowser::cboAddress_Click() {
-    if (!browserLoading_) go(control("cboAddress").text());
+    // The list may show another address before the page has come.
+    const std::string address = control("cboAddress").text();
+    if (!browserLoading_) go(address);
 }
 
 void frmBrowser::tbToolBar_ButtonClick(int button) {

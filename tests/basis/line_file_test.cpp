@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <string>
+#include <utility>
 
 #include "basis/run_time_error.h"
 
@@ -16,6 +18,72 @@ TEST(LineFile, KeepsEveryItemOnALineOfItsOwn) {
     file.text("first\nsecond");
     file.fixed("one\r\n");
     EXPECT_EQ(file.bytes(), "Two  lines List Version 3.0\r\nfirst second\r\none  \r\n");
+}
+
+TEST(LineFile, ReadsSeveralLinesAsOneText) {
+    LineFileReader file("one\n\r\nthree\rnext\r\n");
+    SharedText text("before");
+    file.lines(3, text);
+    EXPECT_EQ(text, "one\r\n\r\nthree");
+    EXPECT_EQ(file.lineNumber(), 3U);
+    EXPECT_EQ(file.line(), "next");
+}
+
+TEST(LineFile, KeepsTheLinesThatThereAreWhereMoreAreStated) {
+    LineFileReader file("one\r\ntwo");
+    SharedText text;
+    EXPECT_THROW(file.lines(3, text), RunTimeError);
+    EXPECT_EQ(text, "one\r\ntwo");
+    EXPECT_TRUE(file.atEnd());
+    EXPECT_FALSE(file.isLineEnded());
+}
+
+TEST(LineFile, ReadsSeveralLinesInTheEncodingOfTheWholeFile) {
+    // E9 and 80 are U+00E9 and U+20AC in Windows-1252: two and three bytes of UTF-8.
+    LineFileReader file("\xE9\n\x80\n");
+    SharedText text;
+    file.lines(2, text);
+    EXPECT_EQ(text, "\xC3\xA9\r\n\xE2\x82\xAC");
+}
+
+TEST(LineFile, WritesTheLinesOfATextEachAsAnItem) {
+    LineFileWriter file;
+    file.lines(4, "one\r\n\ntwo\rhalf\nlast\xE9");
+    // A carriage return in the midst of a line becomes a blank, and E9 alone is carried as U+EFE9.
+    EXPECT_EQ(file.bytes(), "one\r\n\r\ntwo half\r\nlast\xEE\xBF\xA9\r\n");
+    LineFileReader again(file.bytes());
+    SharedText text;
+    again.lines(3, text);
+    EXPECT_EQ(text, "one\r\n\r\ntwo half");
+}
+
+TEST(LineFile, KeepsALongTextWhole) {
+    const std::string longText(3'000'000, 'n');
+    LineFileWriter file;
+    file.text("short");
+    file.text(longText);
+    file.text("behind");
+    LineFileReader again(std::move(file).bytes());
+    SharedText first, second, third;
+    again.text(first);
+    again.text(second);
+    again.text(third);
+    EXPECT_EQ(first, "short");
+    EXPECT_TRUE(second == longText);
+    EXPECT_EQ(third, "behind");
+}
+
+TEST(SharedTexts, AreHeldOnceHoweverManyCopiesThereAre) {
+    const SharedText text = std::string(100, 't');
+    SharedText copy = text;
+    EXPECT_TRUE(copy.isSameAs(text));
+    EXPECT_EQ(&copy.string(), &text.string());
+    copy = "another";
+    EXPECT_EQ(text, std::string(100, 't'));
+    EXPECT_FALSE(copy == text);
+    EXPECT_EQ(SharedText(std::string("another")), copy);
+    EXPECT_EQ(SharedText(), SharedText(""));
+    EXPECT_EQ(SharedText().string(), "");
 }
 
 TEST(LineFileRow, PutsItsNumbersOnOneLine) {

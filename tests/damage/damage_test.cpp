@@ -182,6 +182,45 @@ TEST_P(Giant, FilesAreReadOrRefusedByAProgramThatGoesOn) {
     end();
 }
 
+/// A project whose name, or whose comment, is as long as the file may be.
+class LongText : public Reading, public testing::WithParamInterface<std::string> {};
+
+TEST_P(LongText, OfAProjectIsHeldOnce) {
+    const FileOfAKind& kind = filesOfAllKinds().front();
+    ASSERT_EQ(kind.name, "Borehole");
+    begin(GetParam());
+    const std::string whole = bytesOf(VARNHOLT_SOURCE_DIR "/" + kind.sample);
+    const std::size_t largest = std::size_t{memoryCounts ? 64 : 4} << 20;
+    const std::size_t length = largest - whole.size() - 100;
+    const auto lineAt = [&](std::size_t number) {
+        std::size_t at = 0;
+        for (std::size_t i = 1; i < number; ++i) at = whole.find('\n', at) + 1;
+        return at;
+    };
+    const auto instead = [&](std::size_t first, std::size_t behind, const std::string& text) {
+        return whole.substr(0, lineAt(first)) + text + "\r\n" + whole.substr(lineAt(behind));
+    };
+    // Line 3 is the project's name, line 17 the number of the comment's lines.
+    constexpr std::size_t name = 3, comment = 17;
+    const std::size_t afterComment = comment + 1 + std::stoul(whole.substr(lineAt(comment)));
+    // A byte of Windows-1252 that is two of UTF-8.
+    const std::string two(length, '\xE9');
+    ASSERT_TRUE(stands(kind, instead(name, name + 1, std::string(length, 'n')), mostForAGiant));
+    ASSERT_TRUE(stands(kind, instead(name, name + 1, two), mostForAGiant));
+    ASSERT_TRUE(stands(kind, instead(comment, afterComment, "1\r\n" + std::string(length, 'c')),
+                       mostForAGiant));
+    ASSERT_TRUE(stands(kind, instead(comment, afterComment, "1\r\n" + two), mostForAGiant));
+    ASSERT_TRUE(stands(kind,
+                       instead(comment, afterComment,
+                               std::to_string(length + 1) + "\r\n" + std::string(length, '\n')),
+                       mostForAGiant));
+    end();
+}
+
+INSTANTIATE_TEST_SUITE_P(InBoth, LongText, testing::ValuesIn(programs()), [](const auto& each) {
+    return each.param == "varnholt" ? "InWindows" : "InScripts";
+});
+
 std::vector<Case> giantCases() {
     std::vector<Case> cases;
     for (const Case& each : allCases())

@@ -2,6 +2,7 @@
 #include "loads/import/imported_loads_text.h"
 
 #include <cstddef>
+#include <utility>
 
 #include "basis/line_file.h"
 
@@ -41,7 +42,7 @@ void describeLoads(File& file, Loads& loads) {
 std::string importedLoadsText(const ImportedLoads& loads) {
     LineFileWriter file;
     describeLoads(file, loads);
-    return file.bytes();
+    return std::move(file).bytes();
 }
 
 void readImportedLoads(std::string_view bytes, ImportedLoads& loads) {

@@ -13,7 +13,7 @@ namespace varnholt {
 
 std::uint64_t fingerprintOf(const RecoveryRecord& record) {
     const std::string flags{record.isStale ? 's' : '-', record.savesUnderNewName ? 'n' : '-'};
-    return fingerprint(record.document + flags + record.path);
+    return fingerprint(record.path, fingerprint(flags, fingerprint(record.document)));
 }
 
 KeptWork::KeptWork(std::string path, std::shared_ptr<LastWords> lastWords, std::size_t place,

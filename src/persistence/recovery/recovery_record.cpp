@@ -81,13 +81,19 @@ bool isIntact(Lines& lines) {
 }  // namespace
 
 std::string recordBytes(const RecoveryRecord& record) {
-    const std::string body =
-        fmt::format("{}\n{}\n{}\n{}\n{}\n{} {}\n{}\n{}", record.form,
+    const std::string head =
+        fmt::format("{}\n{}\n{}\n{}\n{}\n{} {}\n{}\n", record.form,
                     // A path that one line does not hold leads nowhere.
                     record.path == oneLine(record.path) ? record.path : "", oneLine(record.name),
                     record.changed, stampText(record.known), int{record.isStale},
-                    int{record.savesUnderNewName}, record.document.size(), record.document);
-    return fmt::format("{}\n{}\n{}", recordTitle, fingerprint(body), body);
+                    int{record.savesUnderNewName}, record.document.size());
+    std::string bytes =
+        fmt::format("{}\n{}\n", recordTitle, fingerprint(record.document, fingerprint(head)));
+    // A document may be long: it stands here once.
+    bytes.reserve(bytes.size() + head.size() + record.document.size());
+    bytes += head;
+    bytes += record.document;
+    return bytes;
 }
 
 std::optional<RecoveryRecord> readRecord(std::string_view bytes) {
