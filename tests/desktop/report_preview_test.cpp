@@ -69,9 +69,10 @@ TEST_F(Previews, GoAwayByThemselves) {
 
 TEST_F(Previews, GiveTheFrontBackToTheWindowThatHadItBefore) {
     desk.main().click("mnuAvgBlock");
-    desk.main().click("NewBorehole");
+    const auto report = samples.borehole(1);
     const ChildWindow* design = desk.main().activeWindow();
-    ReportPreview& preview = shown(samples.borehole(1));
+    ASSERT_EQ(design->formName(), "frmBHDesign");
+    ReportPreview& preview = shown(report);
     auto* frame = qobject_cast<QMdiSubWindow*>(preview.parentWidget());
     desk.window->area().setActiveSubWindow(frame);
     frame->close();
