@@ -233,6 +233,24 @@ TEST(Keyboard, ReachesEveryControlByTab) {
     });
 }
 
+TEST(Keyboard, ComesToTheChosenOneOfOptionsThatExcludeEachOther) {
+    int chosen = 0;
+    forEveryWindow([&chosen](Form& form, FormWindow& window) {
+        for (const auto& control : form.controls()) {
+            if (control->kind() != ControlKind::option || !takesTheKeyboard(form, *control) ||
+                !control->checked())
+                continue;
+            QWidget* widget = window.binder().widget(control->name());
+            bringToFront(*widget);
+            const std::vector<QWidget*> order = tabOrder(window);
+            EXPECT_NE(std::find(order.begin(), order.end(), widget), order.end())
+                << control->name();
+            ++chosen;
+        }
+    });
+    EXPECT_GT(chosen, 5);
+}
+
 TEST(Keyboard, GoesThroughTheFieldsOfAGroupFromTopToBottomAndLeftToRight) {
     forEveryWindow([](Form&, FormWindow& window) {
         const std::vector<QWidget*> order = tabOrder(window);

@@ -88,6 +88,7 @@ class BoundOption : public BoundToggle {
         group_->setExclusive(false);
         BoundToggle::showChecked();
         group_->setExclusive(true);
+        stopAtChosen();
     }
     /// The one that is chosen speaks for its group.
     bool hasOtherState() const override {
@@ -95,6 +96,15 @@ class BoundOption : public BoundToggle {
     }
 
  private:
+    /// The keyboard comes to the option that is chosen, and the arrow keys go on from there. The
+    /// toolkit sees to that only once one of them has had the focus.
+    void stopAtChosen() {
+        const QAbstractButton* chosen = group_->checkedButton();
+        for (QAbstractButton* option : group_->buttons())
+            option->setFocusPolicy(chosen == nullptr || option == chosen ? Qt::StrongFocus
+                                                                         : Qt::ClickFocus);
+    }
+
     QButtonGroup* group_;
 };
 
