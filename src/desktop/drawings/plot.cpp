@@ -21,6 +21,10 @@ void drawSign(const Canvas& canvas, const LegendSign& sign, double x, double mid
         painter.setBrush(sign.wash);
         painter.drawRect(
             QRectF(canvas.crisp(x), canvas.crisp(middle - signSize / 2), signSize, signSize));
+    } else if (sign.kind == Kind::pair) {
+        const QRectF first(x, middle - signSize / 2, signSize, signSize);
+        painter.fillRect(first, sign.colour);
+        painter.fillRect(first.translated(signSize, 0), sign.wash);
     } else if (sign.kind == Kind::mark) {
         painter.fillRect(QRectF(x, middle - strongPen, signSize, 2 * strongPen), sign.colour);
     } else {

@@ -32,10 +32,10 @@ struct Plot {
 
 /// A sign with its word, in the line over a plot.
 struct LegendSign {
-    enum class Kind { area, line, thinLine, dashes, mark };
+    enum class Kind { area, pair, line, thinLine, dashes, mark };
 
     Kind kind;
-    QColor colour, wash;
+    QColor colour, wash;  ///< the border and what it holds; of a pair the two areas side by side
     QString word;
 };
 
