@@ -39,7 +39,8 @@ struct LegendSign {
     QString word;
 };
 
-/// Draws the line over a plot from left to right, as far as there is room, and gives its height.
+/// Draws the signs over a plot from left to right, in as many lines as they take, and gives their
+/// height.
 double drawSigns(const Canvas& canvas, const std::vector<LegendSign>& signs);
 
 /// The plot between the legend, the figures at its left and a line of words below, with a hairline
