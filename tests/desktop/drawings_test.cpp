@@ -260,6 +260,11 @@ TEST(ChartAxes, EndAtRoundNumbers) {
     EXPECT_EQ(loads.highest, 60);
     EXPECT_EQ(loads.figures, 4);
     EXPECT_EQ(axisFromZero(100).highest, 100);
+    // 612 / 3 = 204, which the next round step of 250 takes in three steps.
+    const ChartAxis low = axisFromZero(612, 3);
+    EXPECT_EQ(low.step, 250);
+    EXPECT_EQ(low.highest, 750);
+    EXPECT_EQ(low.figures, 4);
     EXPECT_EQ(axisFromZero(0).highest, 1);
     // 40 to 100 has steps of 20, and 4 % of 60 as room at each end.
     const ChartAxis water = axisAround(40, 100);

@@ -8,8 +8,6 @@
 namespace varnholt {
 namespace {
 
-constexpr int mostSteps = 4;
-
 /// The smallest of 1, 2, 2.5, 5 times a power of ten that is not below the number.
 double roundStep(double atLeast) {
     const double power = std::pow(10, std::floor(std::log10(atLeast)));
@@ -20,13 +18,13 @@ double roundStep(double atLeast) {
 
 }  // namespace
 
-ChartAxis axisFromZero(double highest) {
+ChartAxis axisFromZero(double highest, int steps) {
     if (!(highest > 0)) highest = 1;
     ChartAxis axis;
-    axis.step = roundStep(highest / mostSteps);
-    const double steps = std::ceil(highest / axis.step - 1e-9);
-    axis.highest = steps * axis.step;
-    axis.figures = static_cast<int>(steps) + 1;
+    axis.step = roundStep(highest / steps);
+    const double taken = std::ceil(highest / axis.step - 1e-9);
+    axis.highest = taken * axis.step;
+    axis.figures = static_cast<int>(taken) + 1;
     return axis;
 }
 
@@ -44,7 +42,7 @@ ChartAxis axisAround(double lowest, double highest) {
     if (!(highest > lowest)) highest = lowest + 1;
     const double room = (highest - lowest) * 0.04;
     ChartAxis axis;
-    axis.step = roundStep((highest - lowest) / mostSteps);
+    axis.step = roundStep((highest - lowest) / usualChartSteps);
     axis.lowest = lowest - room;
     axis.highest = highest + room;
     return axis;

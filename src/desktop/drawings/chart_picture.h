@@ -65,8 +65,11 @@ struct ChartPicture {
     friend bool operator==(const ChartPicture&, const ChartPicture&) = default;
 };
 
+constexpr int usualChartSteps = 4;
+
 /// From zero to the next round number at or beyond the highest value.
-ChartAxis axisFromZero(double highest);
+/// @param steps  at most, between the figures
+ChartAxis axisFromZero(double highest, int steps = usualChartSteps);
 
 /// A curve's points as a series takes them.
 QList<QPointF> pointsOf(const Curve& curve);

@@ -39,7 +39,9 @@ std::vector<ChartPicture> LoopChart::pictures() const {
     chart.across = axisFromZero(farthest);
     chart.across.title =
         titleWithUnit(texts().text(Text::loopChartDifference), curves_.differenceUnit);
-    chart.up = axisFromZero(longest);
+    // It is low on a small screen, and figures that stand too close would end in dots.
+    constexpr int stepsUp = 3;
+    chart.up = axisFromZero(longest, stepsUp);
     chart.up.title = titleWithUnit(texts().text(Text::loopChartPerTon), curves_.lengthUnit);
     chart.up.unit = qt(curves_.lengthUnit);
     return {chart};

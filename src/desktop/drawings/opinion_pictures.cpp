@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "desktop/widgets/qt_text.h"
@@ -162,16 +163,23 @@ QPolygonF curveOf(const Plot& plot, const std::vector<double>& hours,
     return curve;
 }
 
+/// The hairlines of the times, with their names as far as none runs into the next: the last one
+/// keeps its own.
 void drawTimes(const Canvas& canvas, const Plot& plot, const GFunctionPicture& picture) {
     const std::vector<double>& hours = picture.curves.hours;
     const double first = std::log(hours.front()), last = std::log(hours.back());
-    for (const GFunctionPicture::Time& time : picture.times) {
-        const double share = (std::log(time.hours) - first) / (last - first);
+    double free = std::numeric_limits<double>::max();
+    for (auto time = picture.times.rbegin(); time != picture.times.rend(); ++time) {
+        const double share = (std::log(time->hours) - first) / (last - first);
         if (share < -1e-9 || share > 1 + 1e-9) continue;
-        const double x = canvas.crisp(plot.area.left() + share * plot.area.width());
-        canvas.painter.setPen(QPen(canvas.look.hairline, 1));
-        canvas.painter.drawLine(QPointF(x, plot.area.top()), QPointF(x, plot.area.bottom()));
-        drawBelow(canvas, plot, x, qt(time.name));
+        const double x = plot.area.left() + share * plot.area.width();
+        drawUpright(canvas, plot, x, canvas.look.hairline, Qt::SolidLine);
+        const QString name = qt(time->name);
+        const double width = canvas.textWidth(name);
+        const double left = std::min(x - width / 2, canvas.area.right() - width);
+        if (left + width + gridStep / 2.0 > free) continue;
+        drawBelow(canvas, plot, x, name);
+        free = left;
     }
 }
 

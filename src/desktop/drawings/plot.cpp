@@ -21,6 +21,10 @@ void drawSign(const Canvas& canvas, const LegendSign& sign, double x, double mid
         painter.setBrush(sign.wash);
         painter.drawRect(
             QRectF(canvas.crisp(x), canvas.crisp(middle - signSize / 2), signSize, signSize));
+    } else if (sign.kind == Kind::pair) {
+        const QRectF first(x, middle - signSize / 2, signSize, signSize);
+        painter.fillRect(first, sign.colour);
+        painter.fillRect(first.translated(signSize, 0), sign.wash);
     } else if (sign.kind == Kind::mark) {
         painter.fillRect(QRectF(x, middle - strongPen, signSize, 2 * strongPen), sign.colour);
     } else {
@@ -60,21 +64,24 @@ double Plot::heightOf(double value) const {
 
 double drawSigns(const Canvas& canvas, const std::vector<LegendSign>& signs) {
     const double height = canvas.textHeight() + gridStep / 2.0;
-    const double middle = canvas.area.top() + height / 2;
     double x = canvas.area.left();
+    double top = canvas.area.top();
     const QFontMetricsF metrics(canvas.words);
     for (const LegendSign& sign : signs) {
         const double word = metrics.horizontalAdvance(sign.word);
-        if (x + widthOf(sign) + 6 + word > canvas.area.right()) break;
-        drawSign(canvas, sign, x, middle);
+        if (x > canvas.area.left() && x + widthOf(sign) + 6 + word > canvas.area.right()) {
+            x = canvas.area.left();
+            top += height;
+        }
+        drawSign(canvas, sign, x, top + height / 2);
         x += widthOf(sign) + 6;
         canvas.painter.setFont(canvas.words);
         canvas.painter.setPen(canvas.look.ink);
-        canvas.painter.drawText(QRectF(x, canvas.area.top(), word + 2, height),
-                                Qt::AlignLeft | Qt::AlignVCenter, sign.word);
+        canvas.painter.drawText(QRectF(x, top, word + 2, height), Qt::AlignLeft | Qt::AlignVCenter,
+                                sign.word);
         x += word + 2 * gridStep;
     }
-    return height + gridStep;
+    return top - canvas.area.top() + height + gridStep;
 }
 
 Plot drawPlot(const Canvas& canvas, const PlotScale& scale, double head, const QString& unit) {

@@ -32,14 +32,15 @@ struct Plot {
 
 /// A sign with its word, in the line over a plot.
 struct LegendSign {
-    enum class Kind { area, line, thinLine, dashes, mark };
+    enum class Kind { area, pair, line, thinLine, dashes, mark };
 
     Kind kind;
-    QColor colour, wash;
+    QColor colour, wash;  ///< the border and what it holds; of a pair the two areas side by side
     QString word;
 };
 
-/// Draws the line over a plot from left to right, as far as there is room, and gives its height.
+/// Draws the signs over a plot from left to right, in as many lines as they take, and gives their
+/// height.
 double drawSigns(const Canvas& canvas, const std::vector<LegendSign>& signs);
 
 /// The plot between the legend, the figures at its left and a line of words below, with a hairline

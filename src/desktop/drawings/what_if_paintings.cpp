@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "desktop/widgets/qt_text.h"
+#include "forms/text_numbers/pictures.h"
 #include "forms/text_numbers/what_if_window.h"
 
 namespace varnholt {
@@ -94,6 +95,15 @@ TornadoFrame frameOf(const Canvas& canvas, const TornadoPicture& picture, double
     return frame;
 }
 
+// What comes of the low end is lighter.
+constexpr double lowTone = 0.35, highTone = 0.75;
+
+/// What tells the ends of the bars apart, in the colours of both kinds of them.
+LegendSign endSign(const Look& look, double tone, const QString& word) {
+    return {Kind::pair, between(look.surface, look.accent, tone),
+            between(look.surface, look.muted, tone), word};
+}
+
 void drawBar(const Canvas& canvas, const TornadoFrame& frame, const TornadoPicture& picture,
              const TornadoPicture::Bar& bar, const QRectF& row) {
     QPainter& painter = canvas.painter;
@@ -117,9 +127,8 @@ void drawBar(const Canvas& canvas, const TornadoFrame& frame, const TornadoPictu
         const double x = frame.placeOf(end);
         const QRectF half(QPointF(std::min(x, base), top),
                           QPointF(std::max(x, base), top + height));
-        // What comes of the low end is lighter.
-        const double share = end == bar.low ? 0.35 : 0.75;
-        painter.fillRect(half, between(canvas.look.surface, colour, share));
+        const double tone = end == bar.low ? lowTone : highTone;
+        painter.fillRect(half, between(canvas.look.surface, colour, tone));
     }
 }
 
@@ -207,6 +216,8 @@ std::vector<QRectF> paintTornado(const Canvas& canvas, const TornadoPicture& pic
                             qt(texts.text(Text::whatIfInDoubt))},
                            {Kind::area, look.muted, between(look.surface, look.muted, 0.5),
                             qt(texts.text(Text::whatIfChosen))},
+                           endSign(look, lowTone, qt(texts.text(Text::pictureLowEnd))),
+                           endSign(look, highTone, qt(texts.text(Text::pictureHighEnd))),
                            {Kind::thinLine, look.ink, {}, qt(texts.text(Text::whatIfBase))}});
     const TornadoFrame frame = frameOf(canvas, picture, head);
     const Plot plot{frame.bars, {}};

@@ -11,6 +11,7 @@
 #include "basis/file_system.h"
 #include "desktop/widgets/modules.h"
 #include "desktop/widgets/qt_text.h"
+#include "desktop/widgets/theme.h"
 
 namespace varnholt {
 namespace {
@@ -48,6 +49,7 @@ long DesktopHelp::display(const HelpRequest& request) {
         HelpModule* module = findHelpModule();
         if (module == nullptr) return displayPage(request);
         window_ = module->newWindow(places_);
+        dress(*window_->window());
     }
     if (!window_->display(request)) return 0;
     showWindow(request.onTop);

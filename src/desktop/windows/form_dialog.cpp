@@ -4,10 +4,25 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
+namespace {
+
+/// What a dialog would like, as far as the screen has room.
+QSize firstSizeOf(const QDialog& dialog) {
+    const QSize room = dialog.screen()->availableSize() * 0.9;
+    QSize size = dialog.sizeHint().boundedTo(room);
+    // A view that is narrower than it would like stacks its columns, and needs more height.
+    if (dialog.hasHeightForWidth())
+        size.setHeight(
+            std::clamp(dialog.heightForWidth(size.width()), size.height(), room.height()));
+    return size;
+}
+
+}  // namespace
 
 FormDialog::FormDialog(FormWindow* content, QWidget* parent) : QDialog(parent), content_(content) {
     // It stops the program's windows and not the help, which F1 opens beside it.
@@ -16,7 +31,7 @@ FormDialog::FormDialog(FormWindow* content, QWidget* parent) : QDialog(parent), 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(content);
-    resize(sizeHint().boundedTo(screen()->availableSize() * 0.9));
+    resize(firstSizeOf(*this));
     makeFirstButtonDefault();
     content_->binder().onSettled([this] { endWithForm(); });
 }
