@@ -111,7 +111,11 @@ void frmHPEdit::load() {
 
 bool frmHPEdit::queryClose() { return mayLeave(); }
 
-void frmHPEdit::unloaded() { main().HPEditWindowExists = false; }
+void frmHPEdit::unloaded() {
+    main().HPEditWindowExists = false;
+    // The window itself may be there until another one opens.
+    lock_.release();
+}
 
 /// The buttons of curves that wait to be fitted keep their colour.
 void frmHPEdit::MetricCheck_Click() {
