@@ -202,6 +202,8 @@ bool GroundDesign::queryClose() { return !files.queryClose || files.queryClose()
 
 void GroundDesign::unloaded() {
     main().releaseSlot(kind(), counter);
+    // The window itself may be there until another one opens.
+    openFile.lock.release();
     LinkedDesign::unloaded();
 }
 

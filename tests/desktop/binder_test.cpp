@@ -12,6 +12,7 @@
 #include <QPlainTextEdit>
 #include <QTabBar>
 #include <stdexcept>
+#include <string>
 
 #include "desktop/binding/form_window.h"
 #include "desktop/views/view_registry.h"
@@ -77,6 +78,38 @@ TEST_F(BinderTest, ATextThatCodeWritesIsShownAndRaisesNothing) {
     EXPECT_EQ(text("NameText"), "Riverside");
     EXPECT_EQ(text("NotesRichTextBox"), "two\r\nlines");
     EXPECT_TRUE(form.events.empty());
+}
+
+TEST_F(BinderTest, ATextThatIsTooLongForItsFieldIsShownInPartAndStaysWhole) {
+    auto* line = find<QLineEdit>("NameText");
+    auto* notes = find<QPlainTextEdit>("NotesRichTextBox");
+    // The last letter that fits would be cut in two: one byte stands before letters of two.
+    std::string name = "n", comment = "n";
+    for (int i = 0; i < 60'000; ++i) name += "\u00E9";
+    for (int i = 0; i < 600'000; ++i) comment += "\u00E9";
+    control("NameText").setText(name);
+    control("NotesRichTextBox").setText(comment);
+    EXPECT_EQ(line->text().size(), 1 + 49'999);
+    EXPECT_TRUE(notes->toPlainText().size() == 1 + 499'999);
+    EXPECT_TRUE(line->isReadOnly());
+    EXPECT_TRUE(notes->isReadOnly());
+    EXPECT_EQ(plain(line->toolTip()), "[8565]");
+    EXPECT_TRUE(text("NameText") == name);
+    EXPECT_TRUE(text("NotesRichTextBox") == comment);
+    press(line, Qt::Key_A, QStringLiteral("a"));
+    press(notes, Qt::Key_A, QStringLiteral("a"));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(control("NameText").text() == name);
+    EXPECT_TRUE(control("NotesRichTextBox").text() == comment);
+    EXPECT_TRUE(form.events.empty());
+    control("NameText").setText("short");
+    control("NotesRichTextBox").setText("short");
+    EXPECT_FALSE(line->isReadOnly());
+    EXPECT_FALSE(notes->isReadOnly());
+    EXPECT_EQ(plain(line->toolTip()), "");
+    press(line, Qt::Key_End);
+    press(line, Qt::Key_A, QStringLiteral("a"));
+    EXPECT_EQ(control("NameText").text(), "shorta");
 }
 
 TEST_F(BinderTest, ARefusedValueIsReplacedInTheFieldAndMarkedByMoreThanColour) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Files that others have changed, damaged or mistaken for projects.
 #include <algorithm>
+#include <filesystem>
 
 #include "persistence/project_fixture.h"
 
@@ -74,6 +75,21 @@ TEST_F(OtherHands, AreNotSeenInTheProgramsOwnSaves) {
     }
     EXPECT_TRUE(platform.questions.empty());
     EXPECT_NE(bytesOf(school).find("Three"), std::string::npos);
+}
+
+TEST_F(OtherHands, AreToldOfAFileForAsLongAsItsWindowIsOpen) {
+    const auto marks = [this] {
+        const std::filesystem::directory_iterator entries(folder / "work files");
+        return std::count_if(begin(entries), end(entries), [](const auto& entry) {
+            return entry.path().filename().string().starts_with(".varnholt-lock");
+        });
+    };
+    closeAll();
+    main.guardsFiles = true;
+    open("work files/school.vht");
+    EXPECT_EQ(marks(), 1);
+    closeAll();
+    EXPECT_EQ(marks(), 0);
 }
 
 TEST_F(OtherHands, TakeNoFileAwayThatCouldNotBeReadWhole) {

@@ -113,6 +113,7 @@ bool frmHPEdit::queryClose() { return mayLeave(); }
 
 void frmHPEdit::unloaded() {
     main().HPEditWindowExists = false;
+    // The window itself may be there until another one opens.
     lock_.release();
 }
 

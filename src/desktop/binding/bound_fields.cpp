@@ -9,6 +9,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QWheelEvent>
+#include <cstddef>
 #include <limits>
 #include <utility>
 
@@ -19,12 +20,38 @@
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/qt_text.h"
 #include "forms/text_numbers/desktop.h"
+#include "forms/text_numbers/files.h"
 
 namespace varnholt {
 namespace {
 
 /// Figures that a numeric field must have room for: "-12345.67".
 constexpr int figuresInField = 9;
+
+/// A field lays its whole text out, which takes a second for some hundred thousand letters in one
+/// line, or a million in several, and much memory. Of a longer text it shows the beginning, and
+/// cannot be typed into.
+std::size_t mostBytesInField(const Control& control) {
+    return control.kind() == ControlKind::richText ? 1'000'000 : 100'000;
+}
+
+bool isShownInPart(const Control& control) {
+    return control.text().size() > mostBytesInField(control);
+}
+
+/// As much of the control's text as its field shows, up to a whole character.
+std::string textInField(const Control& control) {
+    if (!isShownInPart(control)) return control.text();
+    const auto goesOn = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; };
+    std::size_t end = mostBytesInField(control);
+    while (end > 0 && goesOn(control.text()[end])) --end;
+    return control.text().substr(0, end);
+}
+
+/// Why a field that shows a part cannot be typed into; the control's own tip otherwise.
+QString tipOf(const Binder& binder, const Control& control) {
+    return qt(isShownInPart(control) ? binder.text(Text::textShownInPart) : control.tooltip());
+}
 
 class BoundText : public BoundControl {
  public:
@@ -53,15 +80,9 @@ class BoundText : public BoundControl {
 
     void show(Property property) override {
         if (property == Property::text) {
-            // Writing the text that stands there would move the cursor away from where one types.
-            if (plain(edit_->text()) == control().text()) return;
-            {
-                const RaisedFlag writing(writes_);
-                edit_->setText(qt(control().text()));
-            }
-            if (!edit_->hasFocus()) edit_->setCursorPosition(0);
+            showText();
         } else if (property == Property::locked) {
-            edit_->setReadOnly(control().locked());
+            edit_->setReadOnly(control().locked() || isShownInPart(control()));
         } else if (property == Property::refused) {
             showRefused();
         } else {
@@ -69,8 +90,9 @@ class BoundText : public BoundControl {
         }
     }
     Shown shown(Property property) const override {
-        if (property == Property::text) return plain(edit_->text());
-        if (property == Property::locked) return edit_->isReadOnly();
+        const bool part = isShownInPart(control());
+        if (property == Property::text) return part ? control().text() : plain(edit_->text());
+        if (property == Property::locked) return part ? control().locked() : edit_->isReadOnly();
         return BoundControl::shown(property);
     }
 
@@ -82,8 +104,24 @@ class BoundText : public BoundControl {
     }
 
  private:
+    void showText() {
+        const bool part = isShownInPart(control());
+        if (part != std::exchange(inPart_, part)) {
+            show(Property::locked);
+            edit_->setToolTip(tipOf(binder(), control()));
+        }
+        const std::string text = textInField(control());
+        // Writing the text that stands there would move the cursor away from where one types.
+        if (plain(edit_->text()) == text) return;
+        {
+            const RaisedFlag writing(writes_);
+            edit_->setText(qt(text));
+        }
+        if (!edit_->hasFocus()) edit_->setCursorPosition(0);
+    }
     bool hasOtherText() const {
-        return !writes_ && binder().form() != nullptr && plain(edit_->text()) != control().text();
+        return !writes_ && binder().form() != nullptr && !isShownInPart(control()) &&
+               plain(edit_->text()) != control().text();
     }
     /// Assistive technology writes a text without a key, and goes on without leaving the field.
     /// What keys have typed has been handled by then.
@@ -115,7 +153,7 @@ class BoundText : public BoundControl {
     }
 
     FieldEdit* edit_;
-    bool writes_ = false;
+    bool writes_ = false, inPart_ = false;
 };
 
 class BoundRichText : public BoundControl {
@@ -126,6 +164,7 @@ class BoundRichText : public BoundControl {
         edit_->setTabChangesFocus(true);
         edit_->setMinimumHeight(6 * edit_->fontMetrics().lineSpacing());
         QObject::connect(edit_, &QPlainTextEdit::textChanged, &binder, [this] {
+            if (isShownInPart(this->control())) return;
             const std::string text = written();
             if (text == this->control().text()) return;
             this->binder().act(*this,
@@ -137,23 +176,34 @@ class BoundRichText : public BoundControl {
 
     void show(Property property) override {
         if (property == Property::text) {
-            if (written() != control().text()) edit_->setPlainText(documentText(control().text()));
+            showText();
         } else if (property == Property::locked) {
-            edit_->setReadOnly(control().locked());
+            edit_->setReadOnly(control().locked() || isShownInPart(control()));
         } else {
             BoundControl::show(property);
         }
     }
     Shown shown(Property property) const override {
-        if (property == Property::text) return written();
-        if (property == Property::locked) return edit_->isReadOnly();
+        const bool part = isShownInPart(control());
+        if (property == Property::text) return part ? control().text() : written();
+        if (property == Property::locked) return part ? control().locked() : edit_->isReadOnly();
         return BoundControl::shown(property);
     }
 
  private:
+    void showText() {
+        const bool part = isShownInPart(control());
+        if (part != std::exchange(inPart_, part)) {
+            show(Property::locked);
+            edit_->setToolTip(tipOf(binder(), control()));
+        }
+        const std::string text = textInField(control());
+        if (written() != text) edit_->setPlainText(documentText(text));
+    }
     std::string written() const { return textOfDocument(edit_->document()->toRawText()); }
 
     QPlainTextEdit* edit_;
+    bool inPart_ = false;
 };
 
 /// A combo that the wheel changes only when one works it, not while the page scrolls by.

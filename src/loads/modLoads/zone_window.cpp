@@ -105,6 +105,8 @@ bool ZoneWindow::queryClose() { return CheckForSave(); }
 void ZoneWindow::unloaded() {
     LoadsWindow::unloaded();
     main().*kind_.windowExists = false;
+    // The window itself may be there until another one opens.
+    openFile_.lock.release();
 }
 
 void ZoneWindow::setChanged(bool changed) {
