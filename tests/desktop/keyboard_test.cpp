@@ -61,8 +61,21 @@ TEST(ButtonKeys, LeaveTheLettersOfTheMenusAlone) {
 }
 
 TEST(ButtonKeys, AreSharedWhereNoLetterIsLeft) {
-    EXPECT_EQ(markedWords({"No", "On", "No"}, nullptr),
-              (std::vector<std::string>{"&No", "&On", "&No"}));
+    EXPECT_EQ(markedWords({"No", "On", "Noon"}, nullptr),
+              (std::vector<std::string>{"&No", "&On", "&Noon"}));
+}
+
+TEST(ButtonKeys, AreLeftToTheButtonThatAnotherOneRepeats) {
+    QWidget window;
+    QPushButton beginners(QStringLiteral("New"), &window), own(QStringLiteral("New"), &window);
+    own.setObjectName(QStringLiteral("NewCommand"));
+    window.show();
+    giveKeys(window);
+    EXPECT_EQ(plain(beginners.text()), "New");
+    EXPECT_EQ(plain(own.text()), "&New");
+    own.setEnabled(false);
+    giveKeys(window);
+    EXPECT_NE(plain(beginners.text()), "New");
 }
 
 TEST(ButtonKeys, KeepThoseThatTheWordsMarkThemselves) {
@@ -122,6 +135,14 @@ TEST_F(ByKeyboard, HasAKeyForEveryButtonOfTheLoadsWindow) {
         << "the form's words are without it";
 }
 
+TEST_F(ByKeyboard, MakesTheFirstZoneByTheKeyOfTwoButtonsThatSayTheSame) {
+    ChildWindow& loads = opened("mnuZoneManage");
+    press(Qt::Key_N, Qt::AltModifier);
+    // A button that is pressed by its key shows that for a moment before it acts.
+    EXPECT_TRUE(
+        QTest::qWaitFor([&loads] { return loads.control("LOZoneList").items().size() == 1U; }));
+}
+
 TEST_F(ByKeyboard, TypesNoLetterIntoANumberByAKeyThatNoButtonHas) {
     ChildWindow& design = opened("NewBorehole");
     design.choose("BHTabs", 2);
@@ -176,6 +197,16 @@ TEST_F(ByKeyboard, LeavesAWindowBesideAnotherByEscapeAndNoOtherOne) {
     ASSERT_EQ(desk.main().activeWindow(), &design);
     press(Qt::Key_Escape);
     EXPECT_EQ(desk.main().activeWindow(), &design);
+}
+
+TEST_F(ByKeyboard, BeginsAtTheChosenOptionOfAWindow) {
+    ChildWindow& design = opened("NewBorehole");
+    design.click("CAWhatIfCommand");
+    Desk::settle();
+    ChildWindow& what = *desk.main().activeWindow();
+    ASSERT_EQ(what.formName(), "frmWhatIf");
+    EXPECT_TRUE(what.control("WIMeasureOption(1)").checked());
+    EXPECT_EQ(QApplication::focusWidget(), &widget(what, "WIMeasureOption(1)"));
 }
 
 TEST_F(ByKeyboard, PressesAButtonOfTheToolbarByEnter) {

@@ -2,6 +2,7 @@
 // Check boxes, options, lists, sliders and spin buttons.
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QFocusEvent>
 #include <QRadioButton>
 #include <type_traits>
 
@@ -73,10 +74,25 @@ class BoundCheck : public BoundToggle {
     }
 };
 
+/// An option that lets the chosen one of its group have the focus of a window that comes to the
+/// front: the toolkit gives it to the first widget there is.
+class OptionOfSeveral : public QRadioButton {
+ protected:
+    void focusInEvent(QFocusEvent* event) override {
+        QAbstractButton* chosen = group() == nullptr ? nullptr : group()->checkedButton();
+        const bool byWindow = event->reason() == Qt::ActiveWindowFocusReason ||
+                              event->reason() == Qt::OtherFocusReason;
+        if (byWindow && !isChecked() && chosen != nullptr && chosen->isVisible())
+            chosen->setFocus(event->reason());
+        else
+            QRadioButton::focusInEvent(event);
+    }
+};
+
 class BoundOption : public BoundToggle {
  public:
     BoundOption(Binder& binder, Control& control)
-        : BoundToggle(binder, control, new QRadioButton),
+        : BoundToggle(binder, control, new OptionOfSeveral),
           group_(binder.optionGroup(control.group())) {
         group_->addButton(button());
         showAll();

@@ -6,7 +6,9 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QToolButton>
+#include <algorithm>
 #include <limits>
+#include <vector>
 
 #include "desktop/binding/mnemonics.h"
 #include "desktop/widgets/qt_text.h"
@@ -66,12 +68,32 @@ bool keepsItsKey(const QAbstractButton& button) {
     return !button.property(givenKey).toBool() && !markedLetter(button.text()).isNull();
 }
 
-void giveKey(QAbstractButton& button, KeyUses& uses) {
-    const QString words = wordsOfButton(button);
-    const qsizetype place = placeOfKey(words, uses);
-    if (place >= 0) ++uses[words[place].toLower()];
+/// The buttons on show that say in words what they do, in reading order.
+std::vector<QAbstractButton*> buttonsWithWords(QWidget& window) {
+    std::vector<QAbstractButton*> buttons;
+    for (QWidget* widget = window.nextInFocusChain(); widget != &window && widget != nullptr;
+         widget = widget->nextInFocusChain()) {
+        auto* button = qobject_cast<QAbstractButton*>(widget);
+        if (button != nullptr && window.isAncestorOf(button) && hasWords(*button) &&
+            button->isVisibleTo(&window))
+            buttons.push_back(button);
+    }
+    return buttons;
+}
+
+/// True for a button that a view repeats for beginners. It does what the form's own one does, by
+/// that one's key: if both had it, it would only take the focus from one to the other.
+bool repeats(const QAbstractButton& button, const std::vector<QAbstractButton*>& buttons) {
+    return button.objectName().isEmpty() &&
+           std::any_of(buttons.begin(), buttons.end(), [&button](const QAbstractButton* other) {
+               return !other->objectName().isEmpty() && other->isEnabled() &&
+                      wordsOfButton(*other) == wordsOfButton(button);
+           });
+}
+
+void giveKey(QAbstractButton& button, qsizetype place) {
+    const QString marked = withMark(wordsOfButton(button), place);
     button.setProperty(givenKey, true);
-    const QString marked = withMark(words, place);
     if (button.text() != marked) button.setText(marked);
 }
 
@@ -79,16 +101,16 @@ void giveKey(QAbstractButton& button, KeyUses& uses) {
 
 void giveKeys(QWidget& window) {
     KeyUses uses = keysOfMenus(window);
-    for (QWidget* widget = window.nextInFocusChain(); widget != &window && widget != nullptr;
-         widget = widget->nextInFocusChain()) {
-        auto* button = qobject_cast<QAbstractButton*>(widget);
-        if (button == nullptr || !window.isAncestorOf(button) || !hasWords(*button) ||
-            !button->isVisibleTo(&window))
-            continue;
-        if (keepsItsKey(*button))
+    const std::vector<QAbstractButton*> buttons = buttonsWithWords(window);
+    for (QAbstractButton* button : buttons) {
+        if (keepsItsKey(*button)) {
             ++uses[markedLetter(button->text())];
-        else
-            giveKey(*button, uses);
+            continue;
+        }
+        const QString words = wordsOfButton(*button);
+        const qsizetype place = repeats(*button, buttons) ? -1 : placeOfKey(words, uses);
+        if (place >= 0) ++uses[words[place].toLower()];
+        giveKey(*button, place);
     }
 }
 

@@ -11,6 +11,7 @@ namespace varnholt {
 /// Marks a key in the words of every button on show in the window, in reading order: a letter that
 /// is the key of no menu and of no other of these buttons, at the start of a word where one is
 /// left. Once the letters are used up, buttons share one, which goes from one of them to the next.
+/// A button without a name that has the words of an enabled one with a name leaves the key to that.
 /// Words that mark a key of their own keep it. Marks follow what is on show, so it is called again
 /// when that has changed.
 void giveKeys(QWidget& window);

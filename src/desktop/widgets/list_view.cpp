@@ -150,7 +150,7 @@ int ListView::leastWidthOf(int column) const {
                         header()->minimumSectionSize());
     // With a sign before the entry, which may come any time.
     const int sign = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    return std::max(longestEntry() + sign + 3 * gridStep / 2, header()->sectionSizeHint(column));
+    return std::max(longestEntry() + sign + 3 * gridStep, header()->sectionSizeHint(column));
 }
 
 /// Columns from the first on, as many as find room, the last one up to the list's edge.
