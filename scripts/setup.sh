@@ -6,8 +6,8 @@
 # shellcheck disable=SC2034  # Read by the scripts that source this file.
 build_packages=(cmake ninja-build g++ ccache python3 libfmt-dev libsqlitecpp-dev libsqlite3-dev
     libgtest-dev libbenchmark-dev qt6-base-dev libqt6opengl6-dev qt6-svg-dev qt6-charts-dev
-    qt6-tools-dev qt6-documentation-tools libqt6sql6-sqlite qt6-webengine-dev fonts-inter
-    fonts-dejavu-core poppler-utils)
+    qt6-tools-dev qt6-documentation-tools libqt6sql6-sqlite qt6-webengine-dev
+    libharfbuzz-dev fonts-inter fonts-dejavu-core poppler-utils)
 
 say() { printf '\n== %s\n' "$*"; }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/widgets/tabular_faces.h"
 #include "forms/control.h"
 
 namespace varnholt {
@@ -29,12 +30,10 @@ QColor lightened(QColor colour, const QColor& surface) {
     return colour;
 }
 
-QFont oneOf(const QFont& around, std::initializer_list<const char*> families) {
-    QFont font = around;
+QStringList familiesOf(std::initializer_list<const char*> families) {
     QStringList names;
     for (const char* family : families) names << QString::fromLatin1(family);
-    font.setFamilies(names);
-    return font;
+    return names;
 }
 
 }  // namespace
@@ -119,11 +118,17 @@ double contrast(const QColor& a, const QColor& b) {
 }
 
 QFont figureFont(const QFont& around) {
-    return oneOf(around, {"DejaVu Sans Condensed", "DejaVu Sans", "Liberation Sans"});
+    QStringList families;
+    for (const QString& family : around.families()) families << tabularFamily(family);
+    families += familiesOf({"DejaVu Sans Condensed", "DejaVu Sans", "Liberation Sans"});
+    QFont font = around;
+    font.setFamilies(families);
+    return font;
 }
 
 QFont fixedPitchFont(const QFont& around) {
-    QFont font = oneOf(around, {"DejaVu Sans Mono", "Liberation Mono", "monospace"});
+    QFont font = around;
+    font.setFamilies(familiesOf({"DejaVu Sans Mono", "Liberation Mono", "monospace"}));
     font.setStyleHint(QFont::Monospace);
     return font;
 }

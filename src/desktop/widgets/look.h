@@ -42,7 +42,8 @@ QColor backColour(int number, const Look& look);
 /// Ratio of the luminances of two colours, 1 to 21 (Web Content Accessibility Guidelines 2.1).
 double contrast(const QColor& a, const QColor& b);
 
-/// The font of figures: every digit is as wide as every other, so that columns align.
+/// The font of figures: the face around with digits of one width, so that columns align, where
+/// registerTabularFaces() found such digits; else a condensed face whose digits are so.
 QFont figureFont(const QFont& around);
 /// The font of lists whose columns are made of blanks.
 QFont fixedPitchFont(const QFont& around);

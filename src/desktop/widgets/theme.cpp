@@ -10,6 +10,7 @@
 
 #include "desktop/widgets/house_style.h"
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/tabular_faces.h"
 
 static void loadPictures() { Q_INIT_RESOURCE(pictures); }
 
@@ -121,7 +122,9 @@ void applyTheme(QApplication& application, Scheme scheme, const QString& fontFac
     loadPictures();
     const bool desktopIsDark = lookOf(QGuiApplication::palette()).dark;
     QApplication::setStyle(new HouseStyle);
-    QApplication::setFont(houseFont(fontFace));
+    const QFont font = houseFont(fontFace);
+    registerTabularFaces(font);
+    QApplication::setFont(font);
     if (scheme == Scheme::followDesktop) {
         wear(desktopIsDark ? darkLook() : lightLook());
         new DesktopFollower(application);
