@@ -152,11 +152,8 @@ QWidget* zonesPage(Binder& bind) {
 }  // namespace
 
 QWidget* makeZoneManagerView(Binder& bind) {
-    return roomy(
-        column(loadsBar(bind),
-               grow(bind.tabs("tabLoads", {[&bind] { return page(zonesPage(bind)); },
-                                           [&bind] { return page(heatPumpPage(bind)); }}))),
-        {1220, 700});
+    return loadsWindow(bind, bind.tabs("tabLoads", {[&bind] { return page(zonesPage(bind)); },
+                                                    [&bind] { return page(heatPumpPage(bind)); }}));
 }
 
 }  // namespace varnholt

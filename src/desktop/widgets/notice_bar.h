@@ -19,6 +19,9 @@ class NoticeBar : public QFrame {
     /// @param action the button behind it, hidden where nothing can be done
     NoticeBar(QLabel* text, QAbstractButton* action);
 
+    /// Its least width while it tells something, whether it does now or not, in pixels.
+    int leastWithText() const;
+
     /// Tells screen readers of a text that has changed since the last time.
     void announce();
     /// How they are told: by an alert, to whichever of them listen.
