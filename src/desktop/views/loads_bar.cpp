@@ -44,9 +44,9 @@ void beginAfterNew(Binder& bind) {
 }  // namespace
 
 QWidget* firstZone(Binder& bind, int text) {
-    QWidget* first = group(
-        new GroupBox, hint(bind, text, [] { return true; }),
-        buttons(second(bind, "LONewCommand", "zones"), second(bind, "LOOpenCommand", "open")));
+    QWidget* first =
+        firstSteps(hint(bind, text, [] { return true; }),
+                   {second(bind, "LONewCommand", "zones"), second(bind, "LOOpenCommand", "open")});
     const auto refresh = [&bind, first] {
         const ZoneWindow* window = zoneWindowOf(bind);
         const bool shown = window != nullptr && window->ZoneList().empty();

@@ -73,6 +73,10 @@ QWidget* noticeBar(Binder& bind) {
     return bar;
 }
 
+QWidget* firstSteps(QWidget* words, const std::vector<QWidget*>& commands) {
+    return group(new GroupBox, reflow(grow(wrapped(words)), buttonsOf(commands)));
+}
+
 QWidget* headedTabs(Binder& bind, QWidget* pages, const std::vector<QWidget*>& ends) {
     QWidget* metric = bind.widget("MetricCheck");
     auto* notice = static_cast<NoticeBar*>(noticeBar(bind));

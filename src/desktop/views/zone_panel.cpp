@@ -72,7 +72,11 @@ FieldRow pumpName(Binder& bind) {
 }
 
 QWidget* specifications(Binder& bind) {
-    return group(bind.frame("LOSpecificationsFrame"), grid(pumpName(bind)),
+    // Else a long title would keep the panel from standing beside the loads.
+    constexpr int widestTitle = 47 * gridStep;
+    GroupBox* frame = bind.frame("LOSpecificationsFrame");
+    frame->breakTitleBeyond(widestTitle);
+    return group(frame, grid(pumpName(bind)),
                  grid(headRow(bind, nullptr, "LOCoolingLabel", "LOHeatingLabel"),
                       bind.pair("LOCapacityText"), bind.pair("LOPowerText"), bind.pair("LOCOPText"),
                       bind.pair("LOFlowRateText"), bind.pair("LOPLFText")));
