@@ -58,14 +58,14 @@ TEST_F(TabsWithBar, HaveItAboveThemInANarrowWindow) {
 
 TEST_F(TabsWithBar, HaveItInTheirLineInAWideOneAndKeepItThereUntilItFitsNoMore) {
     const int least = tabsWidth() + 300;
-    // Four steps to spare before it comes, none while it is there.
-    layOut(least + 4 * gridStep - 1);
+    // Eight steps to spare before it comes, none while it is there.
+    layOut(least + 8 * gridStep - 1);
     EXPECT_FALSE(layout->isBeside());
-    layOut(least + 4 * gridStep);
+    layOut(least + 8 * gridStep);
     EXPECT_TRUE(layout->isBeside());
     // A quarter of a step above the line, and the lower of both at its end.
-    EXPECT_EQ(tabs->geometry(), QRect(0, 2, least + 32, 398));
-    EXPECT_EQ(bar->geometry(), QRect(tabsWidth(), 2 + tabsHeight() - 20, 332, 20));
+    EXPECT_EQ(tabs->geometry(), QRect(0, 2, least + 64, 398));
+    EXPECT_EQ(bar->geometry(), QRect(tabsWidth(), 2 + tabsHeight() - 20, 364, 20));
     layOut(least);
     EXPECT_TRUE(layout->isBeside());
     layOut(least - 1);
@@ -94,9 +94,9 @@ TEST_F(TabsWithBar, LeaveTheLineToThemWhenItIsMuchHigher) {
 
 TEST_F(TabsWithBar, AskForWhatItMayComeToNeed) {
     layout->barNeeds = [] { return 700; };
-    layOut(tabsWidth() + 700 + 4 * gridStep - 1);
+    layOut(tabsWidth() + 700 + 8 * gridStep - 1);
     EXPECT_FALSE(layout->isBeside());
-    layOut(tabsWidth() + 700 + 4 * gridStep);
+    layOut(tabsWidth() + 700 + 8 * gridStep);
     EXPECT_TRUE(layout->isBeside());
 }
 

@@ -14,9 +14,9 @@ namespace {
 
 /// Between the last tab and the bar, which has a margin of its own.
 constexpr int behindTabs = gridStep;
-/// What the bar must have to spare before it goes to the tabs, so that it does not go to and fro
-/// with every tab that becomes strong.
-constexpr int spareForTabs = 4 * gridStep;
+/// What the bar must have to spare before it goes to the tabs: a tab becomes strong or has a sign,
+/// a notice has a longer button, and nothing is to jump for that.
+constexpr int spareForTabs = 8 * gridStep;
 /// How much higher than the tabs their line may become: a notice of two lines.
 constexpr int higherThanTabs = 2 * gridStep;
 /// Above the line.
