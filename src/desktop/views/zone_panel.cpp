@@ -16,7 +16,8 @@ FieldRow unitRow(Binder& bind, const char* cooling, const char* heating) {
     for (const char* name : {cooling, heating}) {
         auto* unit = static_cast<QLabel*>(bind.widget(name));
         mute(unit);
-        unit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        // Below the heads, whichever way the language reads.
+        unit->setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
         row.fields.push_back(unit);
     }
     return row;
