@@ -83,7 +83,8 @@ struct CharacterGlyph {
     quint32 character, glyph;
 };
 
-/// A map of characters, OpenType's "cmap" with one table of format 12.
+/// A map of characters, OpenType's "cmap" with one table of format 12. It stands as that of the
+/// Unicode platform too, beside which FreeType makes no map from the names of the glyphs.
 QByteArray characterMap(const std::vector<CharacterGlyph>& entries) {
     QByteArray groups;
     quint32 count = 0;
@@ -97,9 +98,13 @@ QByteArray characterMap(const std::vector<CharacterGlyph>& entries) {
         append(groups, entries[i].glyph);
         i = end;
     }
+    constexpr quint32 start = 20;
     QByteArray map;
-    append(map, {0, 1, 3, 10});
-    append<quint32>(map, 12);
+    append(map, {0, 2});
+    for (const auto& [platform, encoding] : {std::pair<quint16, quint16>{0, 4}, {3, 10}}) {
+        append(map, {platform, encoding});
+        append<quint32>(map, start);
+    }
     append(map, {12, 0});
     append<quint32>(map, 16 + static_cast<quint32>(groups.size()));
     append<quint32>(map, 0);
