@@ -75,6 +75,9 @@ std::string damageText(const Texts& texts, const FileDamage& damage) {
         append(
             filledIn(texts.text(Text::noticeUnreadPart), {part.name, std::to_string(part.line)}));
     append(endOfReading(texts, report));
+    if (report.shortenedLine != 0)
+        append(filledIn(texts.text(Text::noticeShortenedLine),
+                        {std::to_string(report.shortenedLine)}));
     if (report.stated != report.found && report.leftOut == 0)
         append(filledIn(texts.text(wordsFor(report.entries)),
                         {std::to_string(report.found), std::to_string(report.stated)}));
