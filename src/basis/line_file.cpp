@@ -131,12 +131,13 @@ std::string LineFileReader::line() {
 
 std::string LineFileReader::textOf(std::string_view line) const {
     std::string found = isUtf8_ ? std::string(line) : windows1252Text(line);
-    return carriesBytes(found) ? uncarriedText(found) : found;
+    if (carriesBytes(found)) found = uncarriedText(found);
+    return found;
 }
 
 void LineFileReader::text(std::string& value) {
     std::string_view found = lineAsItStands();
-    const std::size_t length = isUtf8_ ? found.size() : windows1252Length(found);
+    const std::size_t length = lengthOf(found);
     if (length <= roomForNames_) {
         roomForNames_ -= length;
     } else if (found.size() > keptOfLongName) {
@@ -146,19 +147,31 @@ void LineFileReader::text(std::string& value) {
     value = textOf(found);
 }
 
-void LineFileReader::text(SharedText& value) { value = textOf(lineAsItStands()); }
+void LineFileReader::text(SharedText& value) { value = textOf(fitting(lineAsItStands(), 0)); }
+
+std::size_t LineFileReader::lengthOf(std::string_view line) const {
+    return isUtf8_ ? line.size() : windows1252Length(line);
+}
+
+std::string_view LineFileReader::fitting(std::string_view line, std::size_t beside) {
+    const std::size_t room = roomForTexts - std::min(beside, roomForTexts);
+    if (lengthOf(line) <= room) return line;
+    if (shortenedLine_ == 0) shortenedLine_ = lineNumber_;
+    constexpr std::size_t bytesOfASign = 3;
+    return isUtf8_ ? beginningOf(line, room) : line.substr(0, room / bytesOfASign);
+}
 
 void LineFileReader::lines(std::size_t count, SharedText& text) {
     std::size_t there = 0, length = 0;
     for (std::string_view ahead = left_; there < count && !ahead.empty(); ++there) {
         const std::string_view line = takeFirstLine(ahead);
-        length += 2 + (isUtf8_ ? line.size() : windows1252Length(line));
+        length += 2 + lengthOf(line);
     }
     std::string all;
-    all.reserve(length);
+    all.reserve(std::min(length, roomForTexts + 2 * there));
     for (std::size_t i = 0; i < there; ++i) {
         if (i > 0) all += "\r\n";
-        const std::string_view line = takeLine();
+        const std::string_view line = fitting(takeLine(), all.size());
         if (isUtf8_)
             all += line;
         else

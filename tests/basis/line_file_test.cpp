@@ -118,6 +118,23 @@ TEST(LineFileNames, TakeTheRoomOfTheTextThatTheyBecome) {
     EXPECT_EQ(name, "next");
 }
 
+// 45 MB of euro signs, one byte each in Windows-1252, would be 135 of text, and 128 are kept: the
+// largest number of whole signs is a third of them.
+TEST(LineFile, KeepsOfATextThatBecomesTooLongWhatThereIsRoomFor) {
+    const std::string euros(std::size_t{45} << 20, '\x80');
+    const std::size_t kept = (std::size_t{128} << 20) / 3 * 3;
+    LineFileReader file(euros + "\r\n" + euros + "\r\nbehind\r\nnext\r\n");
+    SharedText text;
+    file.text(text);
+    EXPECT_EQ(text.string().size(), kept);
+    EXPECT_EQ(file.shortenedLine(), 1U);
+    file.lines(2, text);
+    // Its two bytes of line end too, and nothing of what stands behind.
+    EXPECT_EQ(text.string().size(), kept + 2);
+    file.text(text);
+    EXPECT_EQ(text, "next");
+}
+
 TEST(SharedTexts, AreHeldOnceHoweverManyCopiesThereAre) {
     const SharedText text = std::string(100, 't');
     SharedText copy = text;

@@ -220,10 +220,12 @@ TEST_P(LongText, OfAProjectIsHeldOnce) {
     // Line 3 is the project's name, line 17 the number of the comment's lines.
     constexpr std::size_t name = 3, comment = 17;
     const std::size_t afterComment = comment + 1 + std::stoul(whole.substr(lineAt(comment)));
-    // A byte of Windows-1252 that is two of UTF-8.
-    const std::string two(length, '\xE9');
+    // Bytes of Windows-1252 that are two and three of UTF-8.
+    const std::string two(length, '\xE9'), three(length, '\x80');
     ASSERT_TRUE(stands(kind, instead(name, name + 1, std::string(length, 'n')), mostForAGiant));
     ASSERT_TRUE(stands(kind, instead(name, name + 1, two), mostForAGiant));
+    ASSERT_TRUE(stands(kind, instead(name, name + 1, three), mostForAGiant));
+    ASSERT_TRUE(stands(kind, instead(comment, afterComment, "1\r\n" + three), mostForAGiant));
     ASSERT_TRUE(stands(kind, instead(comment, afterComment, "1\r\n" + std::string(length, 'c')),
                        mostForAGiant));
     ASSERT_TRUE(stands(kind, instead(comment, afterComment, "1\r\n" + two), mostForAGiant));

@@ -59,6 +59,7 @@ TEST_F(TabularFaces, KeepTheWeightsApart) {
         return QRawFont::fromFont(figureFont(labels(weight))).weight();
     };
     EXPECT_EQ(weightOf(QFont::Normal), QFont::Normal);
+    EXPECT_EQ(weightOf(QFont::Medium), QFont::Medium);
     EXPECT_EQ(weightOf(QFont::DemiBold), QFont::DemiBold);
     EXPECT_EQ(weightOf(QFont::Bold), QFont::Bold);
 }
