@@ -75,6 +75,36 @@ TEST(FigureLabels, KeepTheirTextAsItIs) {
     EXPECT_FALSE(label.grab().toImage().isNull());
 }
 
+/// A label as it is painted.
+QImage paintedLabel(const QString& text, bool asSentence, bool wraps, int width) {
+    TextLabel label(text);
+    label.setWordWrap(wraps);
+    if (asSentence) label.setSentence();
+    label.resize(width, 80);
+    return label.grab().toImage();
+}
+
+TEST(SentenceLabels, ShowThinSpacesAndKeepTheirText) {
+    const QString held = QStringLiteral("3,249 ft of bore, $58,000");
+    TextLabel label(held);
+    label.setSentence();
+    EXPECT_EQ(label.text(), held);
+    for (const bool wraps : {false, true})
+        for (const int width : {400, 90}) {
+            SCOPED_TRACE(width);
+            const QImage shown = paintedLabel(held, true, wraps, width);
+            EXPECT_NE(shown, paintedLabel(held, false, wraps, width));
+            EXPECT_EQ(shown, paintedLabel(thinThousands(held), false, wraps, width));
+        }
+}
+
+TEST(SentenceLabels, TakeNoMoreRoomThanTheirTextDoes) {
+    TextLabel label(QStringLiteral("$58,000,000"));
+    const int before = label.sizeHint().width();
+    label.setSentence();
+    EXPECT_LE(label.sizeHint().width(), before);
+}
+
 TEST(FigureLabels, OfAWindowTellScriptsTheFigureThatTheFormHolds) {
     Desk desk;
     desk.main().click("NewBorehole");
