@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QWhatsThis>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -70,6 +71,8 @@ class Desk {
         program.start();
     }
     ~Desk() {
+        // The question mark would take the first press of the mouse of the next desk.
+        QWhatsThis::leaveWhatsThisMode();
         for (ChildWindow* child : main().windows()) shelf.closed(*child);
         window.reset();
         settle();

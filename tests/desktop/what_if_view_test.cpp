@@ -29,12 +29,10 @@ class WhatIfView : public LateWindow<frmWhatIf> {
     frmWhatIf& what() { return late(); }
     /// Where the tornado's bars stand, as it is painted.
     std::vector<QRectF> rowsOf(const QWidget& tornado) {
-        std::vector<QRectF> rows;
-        const auto paint = [&](const Canvas& canvas) {
-            rows = paintTornado(canvas, what().tornadoPicture(), what().texts());
-        };
-        renderedSample({"tornado", tornado.size(), paint}, lightLook(), 1);
-        return rows;
+        QImage image(tornado.size(), QImage::Format_RGB32);
+        QPainter painter(&image);
+        return paintTornado(canvasFor(painter, tornado.rect(), tornado.palette(), tornado.font()),
+                            what().tornadoPicture(), what().texts());
     }
 };
 
