@@ -89,6 +89,13 @@ class Desk {
         return places;
     }
     const std::string& folder() const { return folder_; }
+    /// Gives the command to open a window, and a person the keyboard of that window.
+    ChildWindow& opened(const std::string& command) {
+        main().click(command);
+        window->activateWindow();
+        settle();
+        return *main().activeWindow();
+    }
     /// Lets the toolkit do what it has put off.
     static void settle() {
         for (int round = 0; round < 5; ++round) QCoreApplication::processEvents();
