@@ -31,12 +31,7 @@ namespace {
 
 class Feedback : public testing::Test {
  protected:
-    Feedback() {
-        desk.main().click("NewBorehole");
-        design = desk.main().activeWindow();
-        desk.window->activateWindow();
-        Desk::settle();
-    }
+    Feedback() { design = &desk.opened("NewBorehole"); }
     ~Feedback() override { EXPECT_TRUE(desk.faults.empty()); }
 
     QWidget& widget(const std::string& name) {

@@ -97,12 +97,6 @@ class ByKeyboard : public testing::Test {
  protected:
     ~ByKeyboard() override { EXPECT_TRUE(desk.faults.empty()); }
 
-    ChildWindow& opened(const char* command) {
-        desk.main().click(command);
-        desk.window->activateWindow();
-        Desk::settle();
-        return *desk.main().activeWindow();
-    }
     QWidget& widget(const Form& form, const char* name) {
         return *desk.shelf.windowOf(form)->binder().require(name)->widget();
     }
@@ -120,7 +114,7 @@ class ByKeyboard : public testing::Test {
 };
 
 TEST_F(ByKeyboard, HasAKeyForEveryButtonOfTheLoadsWindow) {
-    ChildWindow& loads = opened("mnuAvgBlock");
+    ChildWindow& loads = desk.opened("mnuAvgBlock");
     loads.click("LONewCommand");
     Desk::settle();
     int marked = 0;
@@ -136,7 +130,7 @@ TEST_F(ByKeyboard, HasAKeyForEveryButtonOfTheLoadsWindow) {
 }
 
 TEST_F(ByKeyboard, MakesTheFirstZoneByTheKeyOfTwoButtonsThatSayTheSame) {
-    ChildWindow& loads = opened("mnuZoneManage");
+    ChildWindow& loads = desk.opened("mnuZoneManage");
     press(Qt::Key_N, Qt::AltModifier);
     // A button that is pressed by its key shows that for a moment before it acts.
     EXPECT_TRUE(
@@ -144,7 +138,7 @@ TEST_F(ByKeyboard, MakesTheFirstZoneByTheKeyOfTwoButtonsThatSayTheSame) {
 }
 
 TEST_F(ByKeyboard, TypesNoLetterIntoANumberByAKeyThatNoButtonHas) {
-    ChildWindow& design = opened("NewBorehole");
+    ChildWindow& design = desk.opened("NewBorehole");
     design.choose("BHTabs", 2);
     Desk::settle();
     auto& edit = static_cast<QLineEdit&>(focused(design, "SOGroundTempText"));
@@ -153,7 +147,7 @@ TEST_F(ByKeyboard, TypesNoLetterIntoANumberByAKeyThatNoButtonHas) {
 }
 
 TEST_F(ByKeyboard, ShowsAFieldThatIsOnlyReadByItsRingToo) {
-    ChildWindow& loads = opened("mnuAvgBlock");
+    ChildWindow& loads = desk.opened("mnuAvgBlock");
     loads.click("LONewCommand");
     Desk::settle();
     QWidget& edit = focused(loads, "LOPowerText(1)");
@@ -164,7 +158,7 @@ TEST_F(ByKeyboard, ShowsAFieldThatIsOnlyReadByItsRingToo) {
 }
 
 TEST_F(ByKeyboard, ComesBackToTheButtonThatHasOpenedAPanel) {
-    ChildWindow& loads = opened("mnuAvgBlock");
+    ChildWindow& loads = desk.opened("mnuAvgBlock");
     loads.click("LONewCommand");
     Desk::settle();
     QWidget& select = focused(loads, "LOSelectCommand");
@@ -179,8 +173,8 @@ TEST_F(ByKeyboard, ComesBackToTheButtonThatHasOpenedAPanel) {
 }
 
 TEST_F(ByKeyboard, ClosesTheWindowInFront) {
-    opened("NewBorehole");
-    opened("NewHorizontal");
+    desk.opened("NewBorehole");
+    desk.opened("NewHorizontal");
     press(Qt::Key_W, Qt::ControlModifier);
     ASSERT_EQ(desk.main().windows().size(), 1U);
     EXPECT_EQ(desk.main().activeWindow()->formName(), "frmBHDesign");
@@ -189,7 +183,7 @@ TEST_F(ByKeyboard, ClosesTheWindowInFront) {
 }
 
 TEST_F(ByKeyboard, LeavesAWindowBesideAnotherByEscapeAndNoOtherOne) {
-    ChildWindow& design = opened("NewBorehole");
+    ChildWindow& design = desk.opened("NewBorehole");
     design.click("CASecondOpinionCommand");
     Desk::settle();
     ASSERT_EQ(desk.main().activeWindow()->formName(), "frmSecondOpinion");
@@ -200,7 +194,7 @@ TEST_F(ByKeyboard, LeavesAWindowBesideAnotherByEscapeAndNoOtherOne) {
 }
 
 TEST_F(ByKeyboard, BeginsAtTheChosenOptionOfAWindow) {
-    ChildWindow& design = opened("NewBorehole");
+    ChildWindow& design = desk.opened("NewBorehole");
     design.click("CAWhatIfCommand");
     Desk::settle();
     ChildWindow& what = *desk.main().activeWindow();
@@ -222,7 +216,7 @@ TEST_F(ByKeyboard, PressesAButtonOfTheToolbarByEnter) {
 }
 
 TEST_F(ByKeyboard, TakesEveryPictureOnShowByTheMenuKey) {
-    ChildWindow& design = opened("NewBorehole");
+    ChildWindow& design = desk.opened("NewBorehole");
     QWidget& button = focused(design, "CASecondOpinionCommand");
     QStringList names;
     QTimer::singleShot(0, [&] {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window of What If: what the design needs above, six pages below.
 #include <QLabel>
+#include <QStyledItemDelegate>
 #include <QTabWidget>
 
 #include "design/frmWhatIf.h"
@@ -9,6 +10,7 @@
 #include "desktop/views/figure_labels.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/views.h"
+#include "desktop/widgets/figure_text.h"
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/text_label.h"
 
@@ -149,6 +151,23 @@ QWidget* lowList(Binder& bind, const std::string& name) {
     return list;
 }
 
+/// Shows the thousands of its lines parted as those of figures are; the list's entries stay as they
+/// are.
+class SentenceLines : public QStyledItemDelegate {
+ public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant& value, const QLocale&) const override {
+        return thinThousands(value.toString());
+    }
+};
+
+QWidget* foundFields(Binder& bind) {
+    auto* list = static_cast<ListView*>(lowList(bind, "WLList"));
+    list->setItemDelegate(new SentenceLines(list));
+    return list;
+}
+
 QWidget* land(Binder& bind) {
     return group(bind.frame("WLLandFrame"),
                  grid(bind.row("WLAcrossText"), bind.row("WLDownText"), bind.row("WLBoundaryText"),
@@ -175,9 +194,9 @@ QWidget* layoutPage(Binder& bind) {
     QWidget* points = bind.drawing(
         "imgFields", newFieldsDrawing(from(bind, &frmWhatIf::fieldsPicture), texts,
                                       pointing(bind, "imgFields", &frmWhatIf::pointAtField)));
-    QWidget* list = group(bind.frame("WLFieldsFrame"), mutedText(bind, "WLStateLabel"),
-                          grow(lowList(bind, "WLList")),
-                          buttons(bind.widget("WLTakeCommand"), bind.widget("WLCopyCommand")));
+    QWidget* list =
+        group(bind.frame("WLFieldsFrame"), mutedText(bind, "WLStateLabel"), grow(foundFields(bind)),
+              buttons(bind.widget("WLTakeCommand"), bind.widget("WLCopyCommand")));
     QWidget* found = column(wrapped(bind.widget("WLMessageLabel")),
                             grow(reflow(grow(picture), grow(points)), 3), grow(list, 2));
     return reflow(land(bind), column(search(bind), stretch()), grow(found));
@@ -225,6 +244,7 @@ QWidget* comparison(Binder& bind) {
         const std::string array = arrays[i];
         rows.push_back(figureRow(bind, elementName("WVRowLabel", i), array + "Label", columns));
         rows.push_back(headRow(bind, array + "ChangeLabel", columns));
+        for (QWidget* change : rows.back().fields) asSentence(change);
     }
     auto* table = new ComparisonTable(rows);
     table->setObjectName(QStringLiteral("alternativesTable"));

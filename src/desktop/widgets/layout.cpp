@@ -361,6 +361,7 @@ QWidget* wrapped(QWidget* label) {
         text->setWordWrap(true);
         text->setMinimumWidth(240);
     }
+    asSentence(label);
     return label;
 }
 

@@ -81,7 +81,7 @@ QWidget* buttons(B... widgets) {
     return buttonsOf({widgets...});
 }
 
-/// A label that may take several lines.
+/// A label of sentences, which may take several lines.
 QWidget* wrapped(QWidget* label);
 
 /// Makes Tab go through the widgets in the order of reading: pieces in the order in which the
