@@ -43,7 +43,7 @@ std::function<void(std::size_t)> pointing(Binder& bind, const char* image,
 QWidget* mutedText(Binder& bind, const std::string& name) {
     QWidget* label = bind.widget(name);
     mute(label);
-    return wrapped(label);
+    return sentences(label);
 }
 
 FieldRow figureRow(Binder& bind, const std::string& caption, const std::string& array,
@@ -121,7 +121,7 @@ QWidget* largest(QWidget* label) {
     QFont font = label->font();
     font.setPointSizeF(font.pointSizeF() * larger);
     label->setFont(font);
-    return wrapped(label);
+    return sentences(label);
 }
 
 QWidget* surePage(Binder& bind) {
@@ -136,7 +136,7 @@ QWidget* surePage(Binder& bind) {
               mutedText(bind, "WISamplingLabel"));
     QWidget* picture = bind.drawing(
         "imgSure", newSureDrawing(from(bind, &frmWhatIf::surePicture), bind.form()->texts()));
-    QWidget* told = column(asked, depths, wrapped(bind.widget("WITestLabel")),
+    QWidget* told = column(asked, depths, sentences(bind.widget("WITestLabel")),
                            mutedText(bind, "WISafetyLabel"), stretch());
     return column(largest(bind.widget("WIQuestionLabel")), grow(reflow(told, grow(picture))));
 }
@@ -197,7 +197,7 @@ QWidget* layoutPage(Binder& bind) {
     QWidget* list =
         group(bind.frame("WLFieldsFrame"), mutedText(bind, "WLStateLabel"), grow(foundFields(bind)),
               buttons(bind.widget("WLTakeCommand"), bind.widget("WLCopyCommand")));
-    QWidget* found = column(wrapped(bind.widget("WLMessageLabel")),
+    QWidget* found = column(sentences(bind.widget("WLMessageLabel")),
                             grow(reflow(grow(picture), grow(points)), 3), grow(list, 2));
     return reflow(land(bind), column(search(bind), stretch()), grow(found));
 }
@@ -248,7 +248,7 @@ QWidget* comparison(Binder& bind) {
     }
     auto* table = new ComparisonTable(rows);
     table->setObjectName(QStringLiteral("alternativesTable"));
-    return group(bind.frame("WVTableFrame"), grow(table), wrapped(bind.widget("WVReasonLabel")));
+    return group(bind.frame("WVTableFrame"), grow(table), sentences(bind.widget("WVReasonLabel")));
 }
 
 QWidget* alternativesPage(Binder& bind) {
@@ -262,7 +262,7 @@ QWidget* alternativesPage(Binder& bind) {
 
 QWidget* towerPage(Binder& bind) {
     QWidget* judge = group(bind.frame("WTJudgeFrame"), bind.widget("WTJudgeOption(0)"),
-                           bind.widget("WTJudgeOption(1)"), wrapped(bind.widget("WTBestLabel")),
+                           bind.widget("WTJudgeOption(1)"), sentences(bind.widget("WTBestLabel")),
                            buttons(bind.widget("WTTakeCommand")));
     QWidget* picture = bind.drawing(
         "imgTower", newTowerDrawing(from(bind, &frmWhatIf::towerPicture), bind.form()->texts()));

@@ -361,8 +361,12 @@ QWidget* wrapped(QWidget* label) {
         text->setWordWrap(true);
         text->setMinimumWidth(240);
     }
-    asSentence(label);
     return label;
+}
+
+QWidget* sentences(QWidget* label) {
+    asSentence(label);
+    return wrapped(label);
 }
 
 void setReadingOrder(QWidget* view) {

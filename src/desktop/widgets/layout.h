@@ -81,8 +81,10 @@ QWidget* buttons(B... widgets) {
     return buttonsOf({widgets...});
 }
 
-/// A label of sentences, which may take several lines.
+/// A label that may take several lines.
 QWidget* wrapped(QWidget* label);
+/// The same of sentences about results, in which no name stands whose commas are its own.
+QWidget* sentences(QWidget* label);
 
 /// Makes Tab go through the widgets in the order of reading: pieces in the order in which the
 /// layouts hold them, rows from left to right. Called once a view is complete.
