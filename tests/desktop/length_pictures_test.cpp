@@ -40,6 +40,15 @@ TEST(LengthPicture, SaysWhatToDoBeforeARun) {
               pictureTexts().text(Text::lengthPartsEmpty));
 }
 
+TEST(LengthPicture, OfAFileSaysThatItsPartsAreNotKept) {
+    LengthSummary lengths = sampleLengths();
+    lengths.parts.clear();
+    lengths.state = LengthSummary::State::kept;
+    EXPECT_EQ(describe(lengths, pictureTexts()),
+              "The file keeps the lengths, but not what they are made of. Press Calculate to see "
+              "it.");
+}
+
 /// One long-term part for each mode in a picture without words.
 LengthSummary twoBars(double cool, double heat) {
     LengthSummary lengths = sampleLengths();
@@ -90,6 +99,10 @@ TEST(LengthStrips, TellTheLengthsAndWhetherTheyAreThoseOfTheInputs) {
     strip.refresh();
     EXPECT_EQ(plain(strip.accessibleName()),
               "Required length: cooling 2029.1 ft, heating 1420.1 ft. Out of date.");
+    lengths.state = LengthSummary::State::kept;
+    strip.refresh();
+    EXPECT_EQ(plain(strip.accessibleName()),
+              "Required length: cooling 2029.1 ft, heating 1420.1 ft. As in the file.");
     lengths = {};
     strip.refresh();
     EXPECT_EQ(plain(strip.accessibleName()), "Not calculated yet");

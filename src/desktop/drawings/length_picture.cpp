@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <vector>
 
+#include "design/picture_sentences.h"
 #include "desktop/drawings/plot.h"
 #include "desktop/widgets/figure_text.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers/lengths.h"
 
 namespace varnholt {
 namespace {
@@ -192,17 +192,17 @@ void drawLegend(const Canvas& canvas, const LengthSummary& lengths,
     }
 }
 
-void drawEmpty(const Canvas& canvas, const Texts& texts) {
+void drawEmpty(const Canvas& canvas, const LengthSummary& lengths, const Texts& texts) {
     canvas.painter.setPen(canvas.look.muted);
     canvas.painter.setFont(canvas.words);
     canvas.painter.drawText(canvas.area, Qt::AlignCenter | Qt::TextWordWrap,
-                            qt(texts.text(Text::lengthPartsEmpty)));
+                            qt(wordsWithoutParts(lengths, texts)));
 }
 
 }  // namespace
 
 void paintLengths(const Canvas& canvas, const LengthSummary& lengths, const Texts& texts) {
-    if (lengths.parts.empty()) return drawEmpty(canvas, texts);
+    if (lengths.parts.empty()) return drawEmpty(canvas, lengths, texts);
     const QFontMetricsF heavy(strong(canvas.words, true));
     double before = 0;
     double behind = 0;
