@@ -180,7 +180,11 @@ TEST_F(Feedback, DimsOlderResultsAndMarksTheirPage) {
     const auto figureIsDimmed = [&](const char* label) {
         return dynamic_cast<TextLabel&>(widget(label)).isDimmed();
     };
+    const auto toneOf = [&](const char* button) {
+        return plain(widget(button).property("tone").toString());
+    };
     EXPECT_TRUE(tabs().tabIcon(0).isNull());
+    EXPECT_EQ(toneOf("CACalculateCommand"), "primary");
     EXPECT_FALSE(figureIsDimmed("CATotalLengthLabel(0)"));
     // Another window changes the loads.
     ChildWindow& loads = *desk.main().find("frmZoneManage");
@@ -189,12 +193,14 @@ TEST_F(Feedback, DimsOlderResultsAndMarksTheirPage) {
     Desk::settle();
     EXPECT_FALSE(tabs().tabIcon(0).isNull());
     EXPECT_FALSE(tabs().tabToolTip(0).isEmpty());
+    EXPECT_EQ(toneOf("CACalculateCommand"), "stale") << "though its window is not active";
     EXPECT_TRUE(figureIsDimmed("CATotalLengthLabel(0)"));
     EXPECT_TRUE(figureIsDimmed("CAUnitOutletLabel(1)"));
     EXPECT_FALSE(figureIsDimmed("CASecondLengthLabel(0)")) << "it follows what is typed";
     loads.undo();
     Desk::settle();
     EXPECT_TRUE(tabs().tabIcon(0).isNull());
+    EXPECT_EQ(toneOf("CACalculateCommand"), "primary");
     EXPECT_FALSE(figureIsDimmed("CATotalLengthLabel(0)"));
 }
 

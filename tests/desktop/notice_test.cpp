@@ -93,6 +93,21 @@ TEST_F(NoticeLine, IsWorkedByKey) {
     EXPECT_FALSE(bar().isVisible());
 }
 
+TEST_F(NoticeLine, LeavesTheKeyToTheButtonThatItsOwnOneStandsInFor) {
+    calculate();
+    type("58");
+    ASSERT_TRUE(bar().isVisible());
+    const auto& calculation = static_cast<QAbstractButton&>(widget("CACalculateCommand"));
+    EXPECT_EQ(plain(calculation.text()), "&Calculate");
+    EXPECT_EQ(plain(action().text()), "Calculate");
+    EXPECT_TRUE(action().shortcut().isEmpty());
+    design->choose("BHTabs", 5);
+    Desk::settle();
+    EXPECT_EQ(plain(calculation.text()), "&Calculate") << "beside the Pump Power Calculator";
+    EXPECT_NE(static_cast<QAbstractButton&>(widget("EKWPumpPowerCommand")).shortcut(),
+              calculation.shortcut());
+}
+
 TEST_F(NoticeLine, MovesNoFieldWhenItComesAndGoes) {
     calculate();
     const auto place = [this] { return temperature().mapTo(desk.window.get(), QPoint()); };
