@@ -2,7 +2,9 @@
 // What a person is told, and what finds its way by keys and names.
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QAction>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -279,6 +281,27 @@ TEST_F(Keys, EscapeLeavesAnOpenPanel) {
     ASSERT_TRUE(loads->control("LOSummaryPicture").visible());
     press(Qt::Key_Escape);
     EXPECT_FALSE(loads->control("LOSummaryPicture").visible());
+}
+
+TEST_F(Keys, EscapeClosesAnOpenListAndNotThePanelAroundIt) {
+    desk.main().click("mnuZoneManage");
+    Form* loads = desk.main().activeWindow();
+    loads->click("LONewCommand");
+    loads->click("LOSelectCommand");
+    Desk::settle();
+    ASSERT_TRUE(loads->control("LOSelectFrame").visible());
+    auto& combo = static_cast<QComboBox&>(
+        *desk.shelf.windowOf(*loads)->binder().require("LOMfgCombo")->widget());
+    combo.showPopup();
+    Desk::settle();
+    const QWidget* list = QApplication::activePopupWidget();
+    ASSERT_NE(list, nullptr);
+    QTest::keyClick(list->windowHandle(), Qt::Key_Escape);
+    Desk::settle();
+    EXPECT_FALSE(combo.view()->isVisible());
+    EXPECT_TRUE(loads->control("LOSelectFrame").visible());
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(loads->control("LOSelectFrame").visible());
 }
 
 TEST_F(Keys, AltAndHAreTheHelpAndNoMenusShareALetter) {
