@@ -427,7 +427,10 @@ TEST_F(FirstMinutes, ADesignWithoutLoadsOffersTheWindowsInWhichTheyAreEntered) {
     ASSERT_NE(first, nullptr);
     ASSERT_TRUE(first->isVisible());
     const QList<QPushButton*> commands = first->findChildren<QPushButton*>();
-    ASSERT_EQ(commands.size(), 2);
+    ASSERT_EQ(commands.size(), 3);
+    commands[2]->click();
+    Desk::settle();
+    EXPECT_TRUE(desk.platform.told.back().starts_with("Nothing is linked: "));
     commands[0]->click();
     Desk::settle();
     EXPECT_NE(dynamic_cast<frmZoneManage*>(desk.main().activeWindow()), nullptr);
@@ -435,7 +438,10 @@ TEST_F(FirstMinutes, ADesignWithoutLoadsOffersTheWindowsInWhichTheyAreEntered) {
     Desk::settle();
     EXPECT_NE(dynamic_cast<frmAvgBlock*>(desk.main().activeWindow()), nullptr);
     desk.main().activeWindow()->click("LONewCommand");
-    desk.main().click("mnuLink");
+    desk.main().close(*desk.main().find("frmZoneManage"));
+    desk.main().activate(design);
+    Desk::settle();
+    commands[2]->click();
     Desk::settle();
     EXPECT_FALSE(first->isVisible());
 }
