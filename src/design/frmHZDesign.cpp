@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "basis/number_text.h"
 #include "basis/run_time_error.h"
@@ -103,8 +104,8 @@ LengthSummary frmHZDesign::lengthSummary() const {
                                        governingMode(),
                                        resultsState()},
                                       words);
-    summary.parts = groundParts(*this, results().lengthShares, total, Text::pipeResistancePart);
-    return summary;
+    return withParts(std::move(summary),
+                     groundParts(*this, results().lengthShares, total, Text::pipeResistancePart));
 }
 
 std::vector<ResultRow> frmHZDesign::resultRows() const {

@@ -78,6 +78,21 @@ TEST(ButtonKeys, AreLeftToTheButtonThatAnotherOneRepeats) {
     EXPECT_NE(plain(beginners.text()), "New");
 }
 
+TEST(ButtonKeys, AreGivenFirstToTheButtonThatTheWindowIsAbout) {
+    QWidget window;
+    QPushButton calculator(QStringLiteral("Pump Power Calculator"), &window);
+    QPushButton calculate(QStringLiteral("Calculate"), &window);
+    QMenuBar menus(&window);
+    for (const char* menu : {"&Pumps", "T&ables", "&Loads", "&Units", "&Tools", "&Edit"})
+        menus.addAction(QString::fromLatin1(menu));
+    calculate.setProperty(mainButtonProperty, true);
+    window.show();
+    giveKeys(window);
+    EXPECT_EQ(plain(calculate.text()), "&Calculate");
+    // Of "Pump Power Calculator" no word begins with a free letter: the first free one is the m.
+    EXPECT_EQ(plain(calculator.text()), "Pu&mp Power Calculator");
+}
+
 TEST(ButtonKeys, KeepThoseThatTheWordsMarkThemselves) {
     EXPECT_EQ(markedWords({"S&ystem", "Yes"}, nullptr),
               (std::vector<std::string>{"S&ystem", "Y&es"}));
