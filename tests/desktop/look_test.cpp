@@ -96,5 +96,13 @@ TEST(Figures, AreAllEquallyWide) {
             << digit;
 }
 
+TEST(Figures, KeepTheirFaceWhereTheyAreMadeFiguresOnceMore) {
+    QFont labels;
+    labels.setFamilies({QStringLiteral("Inter"), QStringLiteral("DejaVu Sans")});
+    const QFont once = figureFont(labels);
+    EXPECT_NE(once.families(), labels.families());
+    EXPECT_EQ(figureFont(once).families(), once.families());
+}
+
 }  // namespace
 }  // namespace varnholt

@@ -170,7 +170,7 @@ int hiddenBelow(const QWidget& frame) {
 /// A screen of 1366 by 768 without what the desktop puts around the main window.
 class LowScreens : public testing::Test {
  protected:
-    LowScreens() { desk.window->resize(1350, 720); }
+    explicit LowScreens(const QSize& room = {1350, 720}) { desk.window->resize(room); }
     void openSchool() {
         desk.platform.picks.push_back("work files/school-south.vht");
         desk.main().click("mnuFileOpen");
@@ -191,40 +191,53 @@ class LowScreens : public testing::Test {
         QWidget& frame = frameOf(form);
         onEveryPage(frame, [&] { EXPECT_EQ(hiddenBelow(frame), 0); });
     }
+    void expectDesignsWhole() {
+        const std::tuple<const char*, const char*, std::vector<int>> projects[] = {
+            {"school-south.vht", "frmBHDesign", {0, 3, 4}},
+            {"school-pond.vht", "frmSWDesign", {0, 3}},
+            {"house.vht", "frmHZDesign", {0, 4}},
+            {"trench-office.vht", "frmHZDesign", {0, 4}}};
+        for (const auto& [file, name, pages] : projects) {
+            SCOPED_TRACE(file);
+            desk.platform.picks.push_back(std::string("work files/") + file);
+            desk.main().click("mnuFileOpen");
+            ChildWindow& form = last(name);
+            desk.main().activate(form);
+            form.click("CACalculateCommand");
+            QWidget* frame = desk.shelf.frameOf(form);
+            for (const int page : pages) {
+                frame->findChild<QTabWidget*>()->setCurrentIndex(page);
+                Desk::settle();
+                EXPECT_EQ(hiddenBelow(*frame), 0) << page;
+            }
+            closeLoads(desk);
+        }
+    }
+    void expectWhatIfWhole() {
+        openSchool();
+        desk.main().activate(last("frmBHDesign"));
+        last("frmBHDesign").click("CAWhatIfCommand");
+        idle<frmWhatIf>("frmWhatIf");
+        expectNothingHidden("frmWhatIf");
+    }
+    void expectZonesAndPumpsWhole() {
+        openSchool();
+        last("frmZoneManage").select("LOZoneList", {24});
+        expectNothingHidden("frmZoneManage");
+        desk.main().click("EditAdd");
+        ChildWindow& editor = last("frmHPEdit");
+        // The second series of the first manufacturer.
+        editor.choose("MfgCombo", 2);
+        editor.choose("SeriesCombo", 2);
+        expectNothingHidden("frmHPEdit");
+    }
 
     Desk desk;
 };
 
-TEST_F(LowScreens, ShowResultsAndPipesWithoutScrolling) {
-    const std::tuple<const char*, const char*, std::vector<int>> projects[] = {
-        {"school-south.vht", "frmBHDesign", {0, 3, 4}},
-        {"school-pond.vht", "frmSWDesign", {0, 3}},
-        {"house.vht", "frmHZDesign", {0, 4}},
-        {"trench-office.vht", "frmHZDesign", {0, 4}}};
-    for (const auto& [file, name, pages] : projects) {
-        SCOPED_TRACE(file);
-        desk.platform.picks.push_back(std::string("work files/") + file);
-        desk.main().click("mnuFileOpen");
-        ChildWindow& form = *desk.main().windowsNamed(name).back();
-        desk.main().activate(form);
-        form.click("CACalculateCommand");
-        QWidget* frame = desk.shelf.frameOf(form);
-        for (const int page : pages) {
-            frame->findChild<QTabWidget*>()->setCurrentIndex(page);
-            Desk::settle();
-            EXPECT_EQ(hiddenBelow(*frame), 0) << page;
-        }
-        closeLoads(desk);
-    }
-}
+TEST_F(LowScreens, ShowResultsAndPipesWithoutScrolling) { expectDesignsWhole(); }
 
-TEST_F(LowScreens, ShowWhatIfWithoutScrolling) {
-    openSchool();
-    desk.main().activate(last("frmBHDesign"));
-    last("frmBHDesign").click("CAWhatIfCommand");
-    idle<frmWhatIf>("frmWhatIf");
-    expectNothingHidden("frmWhatIf");
-}
+TEST_F(LowScreens, ShowWhatIfWithoutScrolling) { expectWhatIfWhole(); }
 
 TEST_F(LowScreens, ShowTheFiguresOfASecondOpinionWithTheFirstPicture) {
     openSchool();
@@ -243,20 +256,30 @@ TEST_F(LowScreens, ShowTheFiguresOfASecondOpinionWithTheFirstPicture) {
 }
 
 TEST_F(LowScreens, ShowZonesPumpsAndImportedLoadsWithoutScrolling) {
-    openSchool();
-    last("frmZoneManage").select("LOZoneList", {24});
-    expectNothingHidden("frmZoneManage");
-    desk.main().click("EditAdd");
-    ChildWindow& editor = last("frmHPEdit");
-    // The second series of the first manufacturer.
-    editor.choose("MfgCombo", 2);
-    editor.choose("SeriesCombo", 2);
-    expectNothingHidden("frmHPEdit");
+    expectZonesAndPumpsWhole();
     desk.main().click("mnuMonthlyLoadsImport");
     desk.platform.picks.push_back("zones/school-south.gth");
     last("frmImport1").click("cmdImport(2)");
     Desk::settle();
     expectNothingHidden("frmImport1");
+}
+
+/// A screen of 1280 by 720, or of 2560 by 1440 at twice the size.
+class LowestScreens : public LowScreens {
+ protected:
+    LowestScreens() : LowScreens({1264, 672}) {}
+};
+
+TEST_F(LowestScreens, ShowResultsAndPipesWithoutScrolling) { expectDesignsWhole(); }
+
+TEST_F(LowestScreens, ShowWhatIfWithoutScrolling) { expectWhatIfWhole(); }
+
+TEST_F(LowestScreens, ShowZonesAndPumpsWithoutScrolling) { expectZonesAndPumpsWhole(); }
+
+TEST_F(LowestScreens, ShowADesignWithoutLoadsWithoutScrolling) {
+    desk.main().click("NewBorehole");
+    Desk::settle();
+    EXPECT_EQ(hiddenBelow(frameOf("frmBHDesign")), 0);
 }
 
 TEST(NewWindows, FitIntoTheMainWindow) {

@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QImage>
 #include <QLineEdit>
 #include <QMenu>
@@ -272,6 +273,25 @@ TEST_F(ZoneColumnsTest, AreSortedToLookAtAndTheListsOwnOrderStays) {
     QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
                       list().visualRect(list().model()->index(1, 0)).center());
     EXPECT_EQ(loads->control("LOZoneList").selected(), std::vector<int>{1});
+}
+
+TEST(ListColumnsTest, AreAsWideAsTheirHeadsWhileAllFindRoom) {
+    ListView list(false);
+    list.setColumns({{QStringLiteral("Zone"), QStringLiteral("Refrigeration")},
+                     [](int, int, int) { return QVariant(); },
+                     [](int) { return QString(); },
+                     {{0, 0}, {2, 1}}});
+    list.setItems({"Zone 1"});
+    list.resize(400, 200);
+    list.show();
+    Desk::settle();
+    const QHeaderView& heads = *list.header();
+    const int needed = heads.fontMetrics().horizontalAdvance(QStringLiteral("Refrigeration"));
+    EXPECT_GT(heads.sectionSize(1), needed);
+    // Where the head finds no room the column is left out rather than cut.
+    list.resize(heads.sectionSize(0) + needed, 200);
+    Desk::settle();
+    EXPECT_TRUE(list.isColumnHidden(1));
 }
 
 TEST_F(ZoneColumnsTest, ShowTheZonesThatHoldATextAndKeepTheSelection) {

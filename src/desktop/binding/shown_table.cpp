@@ -53,7 +53,7 @@ GridRow rowOf(const QGridLayout& grid, int line) {
     for (int column = 0; column < grid.columnCount(); ++column) {
         const QLayoutItem* item = grid.itemAtPosition(line, column);
         const QWidget* cell = item == nullptr ? nullptr : item->widget();
-        if (cell == nullptr) continue;
+        if (cell == nullptr || cell->property(titleProperty).toBool()) continue;
         if (column > 0 && item == grid.itemAtPosition(line, column - 1)) continue;
         const QString text = textOf(cell).simplified();
         row.hasFields = row.hasFields || qobject_cast<const QLineEdit*>(cell) != nullptr;

@@ -157,7 +157,7 @@ Drawing* newLoadsBars(std::function<LoadsChart()> source, std::function<LoadsCap
             paintLoads(canvas, bars.loads, bars.captions, texts);
         },
         [&texts](const LoadsBars& bars) { return qt(describe(bars.loads, bars.captions, texts)); },
-        {252, 96});
+        {252, 88});
 }
 
 Drawing* newMonthsPicture(std::function<MonthsChart()> source, const Texts& texts) {

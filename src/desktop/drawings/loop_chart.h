@@ -18,8 +18,8 @@ class LoopChart : public ChartDrawing {
     LoopChart(Source curves, const Texts& texts, ChartModuleFinder charts);
 
     QString description() const override;
-    QSize sizeHint() const override { return {320, 140}; }
-    QSize minimumSizeHint() const override { return {240, 140}; }
+    QSize sizeHint() const override { return {320, 136}; }
+    QSize minimumSizeHint() const override { return {240, 136}; }
 
  protected:
     bool take() override;

@@ -10,7 +10,7 @@
 namespace varnholt {
 namespace {
 
-constexpr QSize whatIfSize{460, 290};
+constexpr QSize whatIfSize{460, 272};
 constexpr QSize beside{320, 180};  // of two pictures in one line
 constexpr QSize low{420, 72};
 

@@ -18,11 +18,8 @@ QWidget* blockPage(Binder& bind) {
 }  // namespace
 
 QWidget* makeAverageBlockView(Binder& bind) {
-    return roomy(
-        column(loadsBar(bind),
-               grow(bind.tabs("tabLoads", {[&bind] { return page(blockPage(bind)); },
-                                           [&bind] { return page(heatPumpPage(bind)); }}))),
-        {1220, 700});
+    return loadsWindow(bind, bind.tabs("tabLoads", {[&bind] { return page(blockPage(bind)); },
+                                                    [&bind] { return page(heatPumpPage(bind)); }}));
 }
 
 }  // namespace varnholt

@@ -42,10 +42,9 @@ QWidget* designWindow(Binder& bind, QWidget* pages) {
     QWidget* calculate = bind.primary("CACalculateCommand");
     markResults(bind, pages, *static_cast<BoundButton*>(bind.find("CACalculateCommand")));
     // The results take more room than the zeros that they begin with.
-    QWidget* window =
-        column(bar(centredRow(bind.widget("MetricCheck"), grow(noticeBar(bind)), linkLights(bind))),
-               grow(pages), foot(centredRow(grow(lengthStrip(bind)), calculate)));
-    // A screen is low: the tabs follow the line above them, and the foot the page.
+    QWidget* window = column(grow(headedTabs(bind, pages, {linkLights(bind)})),
+                             foot(centredRow(grow(lengthStrip(bind)), calculate)));
+    // A screen is low: the foot follows the page.
     window->layout()->setSpacing(0);
     return roomy(window, {1180, 700});
 }

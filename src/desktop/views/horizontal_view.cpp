@@ -57,11 +57,6 @@ QWidget* trenchFields(Binder& bind) {
                       bind.row("PASeparationText(2)")));
 }
 
-QWidget* closeTogether(QWidget* column) {
-    column->layout()->setSpacing(0);
-    return column;
-}
-
 /// Straight pipes beside slinkies.
 QWidget* arrangements(Binder& bind) {
     return row_(closeTogether(column(bind.widget("PAConfigurationOption(0)"),

@@ -44,9 +44,9 @@ void beginAfterNew(Binder& bind) {
 }  // namespace
 
 QWidget* firstZone(Binder& bind, int text) {
-    QWidget* first = group(
-        new GroupBox, hint(bind, text, [] { return true; }),
-        buttons(second(bind, "LONewCommand", "zones"), second(bind, "LOOpenCommand", "open")));
+    QWidget* first =
+        firstSteps(hint(bind, text, [] { return true; }),
+                   {second(bind, "LONewCommand", "zones"), second(bind, "LOOpenCommand", "open")});
     const auto refresh = [&bind, first] {
         const ZoneWindow* window = zoneWindowOf(bind);
         const bool shown = window != nullptr && window->ZoneList().empty();
@@ -57,17 +57,20 @@ QWidget* firstZone(Binder& bind, int text) {
     return first;
 }
 
-QWidget* loadsBar(Binder& bind) {
+QWidget* loadsWindow(Binder& bind, QWidget* pages) {
     beginAfterNew(bind);
-    return bar(column(
+    QWidget* commands = column(
         buttons(bind.widget("LONewCommand"), ifAny(bind, "LOCopyCommand"),
                 ifAny(bind, "LORemoveCommand"), ifAny(bind, "LORenumberCommand"),
                 bind.widget("LOClearCommand"), ifAny(bind, "LOSummaryCommand"),
                 withIcon(bind, "LOOpenCommand", "open"), withIcon(bind, "LOSaveCommand", "save"),
                 withIcon(bind, "LOPrintCommand", "print"), bind.widget("LOImportCommand"),
-                ifAny(bind, "LOAutoSelectAllCommand"), bind.widget("LOUpdatePumpsCommand")),
-        centredRow(bind.widget("MetricCheck"), grow(noticeBar(bind)),
-                   bind.widget("LOWorkingZoneLabel"), linkLights(bind))));
+                ifAny(bind, "LOAutoSelectAllCommand"), bind.widget("LOUpdatePumpsCommand")));
+    QWidget* window = column(
+        bar(commands),
+        grow(headedTabs(bind, pages, {bind.widget("LOWorkingZoneLabel"), linkLights(bind)})));
+    window->layout()->setSpacing(gridStep / 2);
+    return roomy(window, {1220, 700});
 }
 
 QWidget* zoneList(Binder& bind) {

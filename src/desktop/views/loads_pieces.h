@@ -13,8 +13,8 @@ class ZoneWindow;
 // What the views of the two loads windows are made of. A control that only one of them has is
 // left out of the other's view.
 
-/// The commands, the units, the zone file and the lights of the link.
-QWidget* loadsBar(Binder& bind);
+/// The commands, the units, the zone file and the lights of the link, around the pages.
+QWidget* loadsWindow(Binder& bind, QWidget* pages);
 /// The zones by their names.
 QWidget* zoneList(Binder& bind);
 /// What to do first while there is no zone, with the buttons for it.

@@ -152,7 +152,8 @@ FieldRow termHeads(Binder& bind, const std::string& array, std::size_t first, st
 
 QWidget* ratingCurves(Binder& bind, Mode mode) {
     const std::string prefix = prefixOf(mode);
-    std::vector<FieldRow> rows{termHeads(bind, prefix + "CoefficientLabel", 0, 3)};
+    GroupBox* frame = bind.frame(prefix + "CoefficientsFrame");
+    std::vector<FieldRow> rows{titled(frame, termHeads(bind, prefix + "CoefficientLabel", 0, 3))};
     for (const FittedQuantity quantity : fittedQuantities)
         addCurve(rows, bind, ratingStem(mode, quantity), {}, 0, 3, mode);
     FieldRow factors;
@@ -161,9 +162,8 @@ QWidget* ratingCurves(Binder& bind, Mode mode) {
         factors.fields.push_back(
             narrow(bind.widget(elementName(prefix + "FlowFactorText", quantity)), figuresOfTerm));
     rows.push_back(factors);
-    return group(bind.frame(prefix + "CoefficientsFrame"),
-                 withCommand(curveGrid(rows),
-                             bind.widget(elementName("CalculateCoefficientsCommand", mode))));
+    return group(frame, withCommand(curveGrid(rows), bind.widget(elementName(
+                                                         "CalculateCoefficientsCommand", mode))));
 }
 
 /// A picture of the pump on show.
@@ -223,15 +223,22 @@ QWidget* correctionTable(Binder& bind, CorrectionKind kind) {
 }
 
 QWidget* correctionCurves(Binder& bind, CorrectionKind kind) {
+    GroupBox* frame = bind.frame(elementName("CorrectionsCoefficientsFrame", kind));
     std::vector<FieldRow> rows{
-        termHeads(bind, "CorrectionsCoefficientLabel", kind * mostTerms, mostTerms)};
+        titled(frame, termHeads(bind, "CorrectionsCoefficientLabel", kind * mostTerms, mostTerms))};
     for (const Mode mode : modes)
         for (const FittedQuantity quantity : fittedQuantities)
             addCurve(rows, bind, correctionStem(mode, quantity), "(" + std::to_string(kind) + ")",
                      kind * mostTerms, mostTerms, mode);
-    return group(bind.frame(elementName("CorrectionsCoefficientsFrame", kind)),
-                 withCommand(curveGrid(rows),
-                             bind.widget(elementName("CoefficientsCalculateCommand", kind))));
+    return group(frame, withCommand(curveGrid(rows), bind.widget(elementName(
+                                                         "CoefficientsCalculateCommand", kind))));
+}
+
+/// The flow that the table's are shares of, in the line of the page's title.
+QWidget* nominalFlow(Binder& bind, GroupBox* frame) {
+    FieldRow row = bind.row("NominalFlowText");
+    row.unit = bind.widget("NominalFlowRateLabel");
+    return row_(frame->takeTitle(), gap(), grid(row), stretch());
 }
 
 }  // namespace
@@ -258,17 +265,13 @@ QWidget* ratingPageOf(Binder& bind, Mode mode) {
 QWidget* correctionPageOf(Binder& bind, CorrectionKind kind) {
     const std::size_t page = correctionPage[kind];
     QWidget* chart = curves(bind, elementName("CorrectionsChart", kind));
-    QWidget* nominal = kind == byFlow ? grid([&bind] {
-        FieldRow row = bind.row("NominalFlowText");
-        row.unit = bind.widget("NominalFlowRateLabel");
-        return row;
-    }())
-                                      : nullptr;
+    GroupBox* frame = bind.frame(pageFrames[page]);
+    QWidget* nominal = kind == byFlow ? nominalFlow(bind, frame) : nullptr;
     QWidget* figures = column(nominal,
                               withCommand(correctionTable(bind, kind),
                                           bind.widget(elementName("CopyTableCommand", page))),
                               correctionCurves(bind, kind));
-    return group(bind.frame(pageFrames[page]), grow(reflow(figures, grow(chart))));
+    return group(frame, grow(reflow(figures, grow(chart))));
 }
 
 QWidget* pumpTestPage(Binder& bind) {

@@ -45,20 +45,22 @@ QWidget* mainCommand(const Binder& bind, int caption, const char* command, const
 /// height, and below it in a narrow window.
 QWidget* headline(Binder& bind) {
     QWidget* first =
-        group(new GroupBox, hint(bind, Text::enterLoadsFirst, [] { return true; }),
-              buttons(mainCommand(bind, Text::zoneManager, "mnuZoneManage", "zones"),
-                      mainCommand(bind, Text::averageBlock, "mnuAvgBlock", "average-block"),
-                      mainCommand(bind, Text::linkLoads, "mnuLink", "link")));
+        firstSteps(hint(bind, Text::enterLoadsFirst, [] { return true; }),
+                   {mainCommand(bind, Text::zoneManager, "mnuZoneManage", "zones"),
+                    mainCommand(bind, Text::averageBlock, "mnuAvgBlock", "average-block"),
+                    mainCommand(bind, Text::linkLoads, "mnuLink", "link")});
     first->setObjectName(QStringLiteral("firstLoads"));
     QWidget* lengths = lengthHeadline(bind);
     QWidget* warnings = warningLines(bind, [&bind] { return warningsOf(bind); });
     constexpr int leastLengths = 52 * gridStep, leastWarnings = 36 * gridStep;
     lengths->setMinimumWidth(leastLengths);
     warnings->setMinimumWidth(leastWarnings);
-    QWidget* both = column(first, reflow(grow(lengths, 3), grow(warnings, 2)));
-    const auto refresh = [&bind, first, lengths] {
+    QWidget* line = reflow(grow(lengths, 3), grow(warnings, 2));
+    QWidget* both = column(first, line);
+    const auto refresh = [&bind, first, lengths, line, warnings] {
         first->setVisible(hasNoLoads(bind));
         lengths->setVisible(!hasNoLoads(bind));
+        line->setVisible(!lengths->isHidden() || !warnings->isHidden());
     };
     refresh();
     bind.onSettled(refresh);

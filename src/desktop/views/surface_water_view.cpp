@@ -39,7 +39,7 @@ QWidget* waterResultsPage(Binder& bind) {
     return resultsPageOf(
         bind, parts,
         {grow(group(bind.frame("CACircuitFrame"),
-                    grow(bind.drawing("imgCircuit", circuit(bind, {440, 190})))))});
+                    grow(bind.drawing("imgCircuit", circuit(bind, {440, 168})))))});
 }
 
 QWidget* headersInSoil(Binder& bind) {

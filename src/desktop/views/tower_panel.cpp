@@ -7,9 +7,12 @@ namespace varnholt {
 namespace {
 
 FieldRow loadBalance(Binder& bind) {
+    // With long captions too the panel finds room beside the field.
+    constexpr int leastSlider = 16 * gridStep;
     FieldRow row;
     row.caption = bind.widget("CAPercentHybridLabel(1)");
     row.fields = {bind.widget("CAHybridSlider")};
+    row.fields.front()->setMinimumWidth(leastSlider);
     row.more = {bind.widget("CAPercentHybridLabel(0)")};
     return row;
 }

@@ -2,10 +2,13 @@
 #include "desktop/views/view_pieces.h"
 
 #include <QAbstractButton>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QTabWidget>
 #include <utility>
 
 #include "desktop/drawings/drawings.h"
+#include "desktop/widgets/headed_tabs.h"
 #include "desktop/widgets/notice_bar.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/text_label.h"
@@ -68,6 +71,34 @@ QWidget* noticeBar(Binder& bind) {
                               static_cast<QAbstractButton*>(bind.widget("NoticeCommand")));
     bind.onSettled([bar] { bar->announce(); });
     return bar;
+}
+
+QWidget* firstSteps(QWidget* words, const std::vector<QWidget*>& commands) {
+    return group(new GroupBox, reflow(grow(wrapped(words)), buttonsOf(commands)));
+}
+
+QWidget* headedTabs(Binder& bind, QWidget* pages, const std::vector<QWidget*>& ends) {
+    QWidget* metric = bind.widget("MetricCheck");
+    auto* notice = static_cast<NoticeBar*>(noticeBar(bind));
+    std::vector<Piece> pieces{metric, grow(notice)};
+    pieces.insert(pieces.end(), ends.begin(), ends.end());
+    QWidget* line = bar(centredRowOf(pieces));
+    auto* around = new QWidget;
+    auto* layout = new HeadedTabsLayout(around, line, static_cast<QTabWidget*>(pages));
+    // The bar keeps its place when the notice comes.
+    layout->barNeeds = [line, notice] {
+        return line->minimumSizeHint().width() - notice->minimumSizeHint().width() +
+               notice->leastWithText();
+    };
+    layout->onTurned = [line, metric](bool beside) {
+        auto* row = static_cast<QHBoxLayout*>(line->layout());
+        row->setContentsMargins(2 * gridStep, beside ? 0 : gridStep / 2, 2 * gridStep, 0);
+        // Beside the tabs nothing stands in the midst of the line while there is no notice.
+        row->removeWidget(metric);
+        row->insertWidget(beside ? 1 : 0, metric, 0, Qt::AlignVCenter);
+        setReadingOrder(line);
+    };
+    return around;
 }
 
 QWidget* passingNoticeBar(Binder& bind) {

@@ -27,6 +27,10 @@ QWidget* noticeBar(Binder& bind);
 /// The same where it takes room only while it has something to tell: nobody types where what is
 /// below moves down.
 QWidget* passingNoticeBar(Binder& bind);
+/// What to do first in an empty window, with the buttons for it behind the words.
+QWidget* firstSteps(QWidget* words, const std::vector<QWidget*>& commands);
+/// The units, the notice and what ends their bar, in the line of the pages' tabs or above them.
+QWidget* headedTabs(Binder& bind, QWidget* pages, const std::vector<QWidget*>& ends);
 
 /// The lights of a window's link, side by side; the form shows those that matter.
 QWidget* linkLights(Binder& bind);

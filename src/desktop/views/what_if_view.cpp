@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window of What If: what the design needs above, six pages below.
 #include <QLabel>
+#include <QLayout>
 #include <QStyledItemDelegate>
 #include <QTabWidget>
 
@@ -72,29 +73,35 @@ GroupBox* lowFrame(Binder& bind, const std::string& name) {
 }
 
 QWidget* top(Binder& bind) {
-    QWidget* need =
-        group(lowFrame(bind, "WINeedFrame"),
-              grid(bind.heads("WITopLabel(0)", "WITopLabel(1)"), bind.results("WINeedLabel")),
-              grid(bind.figure("WIGoverningCaptionLabel", "WIGoverningLabel"),
-                   bind.figure("WIBoreCaptionLabel", "WIBoreLabel")));
-    QWidget* measure = group(lowFrame(bind, "WIMeasureFrame"), bind.widget("WIMeasureOption(0)"),
-                             bind.widget("WIMeasureOption(1)"));
-    QWidget* told = column(passingNoticeBar(bind), wrapped(bind.widget("WIMessageLabel")),
-                           mutedText(bind, "WINoteLabel"), mutedText(bind, "WIStateLabel"));
+    GroupBox* needFrame = lowFrame(bind, "WINeedFrame");
+    QWidget* need = group(needFrame,
+                          grid(titled(needFrame, bind.heads("WITopLabel(0)", "WITopLabel(1)")),
+                               bind.results("WINeedLabel")),
+                          grid(bind.figure("WIGoverningCaptionLabel", "WIGoverningLabel"),
+                               bind.figure("WIBoreCaptionLabel", "WIBoreLabel")));
+    QWidget* measure = group(lowFrame(bind, "WIMeasureFrame"),
+                             closeTogether(column(bind.widget("WIMeasureOption(0)"),
+                                                  bind.widget("WIMeasureOption(1)"))));
+    QWidget* told =
+        column(passingNoticeBar(bind), passing(wrapped(bind.widget("WIMessageLabel"))),
+               passing(mutedText(bind, "WINoteLabel")), passing(mutedText(bind, "WIStateLabel")));
+    // In one line with the titles of the cards.
+    told->layout()->setContentsMargins(0, gridStep / 2, 0, 0);
     return reflow(need, measure, grow(told));
 }
 
 // What decides.
 
 QWidget* spreads(Binder& bind) {
-    std::vector<FieldRow> rows{headRow(bind, "WISpreadHeadLabel", 3)};
+    GroupBox* frame = bind.frame("WISpreadFrame");
+    std::vector<FieldRow> rows{titled(frame, headRow(bind, "WISpreadHeadLabel", 3))};
     for (std::size_t j = 0; j < quantityCount; ++j) {
         FieldRow row = bind.row(elementName("WILowText", j));
         row.fields.push_back(bind.widget(elementName("WIHighText", j)));
         row.fields.push_back(figureLabel(bind, elementName("WIShareLabel", j)));
         rows.push_back(row);
     }
-    return group(bind.frame("WISpreadFrame"), gridOf(rows));
+    return group(frame, gridOf(rows));
 }
 
 QWidget* decidesPage(Binder& bind) {
@@ -194,10 +201,10 @@ QWidget* layoutPage(Binder& bind) {
     QWidget* points = bind.drawing(
         "imgFields", newFieldsDrawing(from(bind, &frmWhatIf::fieldsPicture), texts,
                                       pointing(bind, "imgFields", &frmWhatIf::pointAtField)));
-    QWidget* list =
-        group(bind.frame("WLFieldsFrame"), mutedText(bind, "WLStateLabel"), grow(foundFields(bind)),
-              buttons(bind.widget("WLTakeCommand"), bind.widget("WLCopyCommand")));
-    QWidget* found = column(sentences(bind.widget("WLMessageLabel")),
+    QWidget* list = group(bind.frame("WLFieldsFrame"), passing(mutedText(bind, "WLStateLabel")),
+                          grow(foundFields(bind)),
+                          buttons(bind.widget("WLTakeCommand"), bind.widget("WLCopyCommand")));
+    QWidget* found = column(passing(sentences(bind.widget("WLMessageLabel"))),
                             grow(reflow(grow(picture), grow(points)), 3), grow(list, 2));
     return reflow(land(bind), column(search(bind), stretch()), grow(found));
 }
@@ -278,7 +285,10 @@ QWidget* makeWhatIfView(Binder& bind) {
          [&bind] { return page(layoutPage(bind)); }, [&bind] { return page(costPage(bind)); },
          [&bind] { return page(alternativesPage(bind)); },
          [&bind] { return page(towerPage(bind)); }});
-    return roomy(column(bar(top(bind)), grow(pages)), {148 * gridStep, 820});
+    QWidget* window = column(bar(top(bind)), grow(pages));
+    // A screen is low: the tabs follow the cards.
+    window->layout()->setSpacing(0);
+    return roomy(window, {148 * gridStep, 820});
 }
 
 }  // namespace varnholt

@@ -158,7 +158,7 @@ QWidget* summary(Binder& bind) {
 /// The summary above the zone, where it is seen as soon as it opens. In a narrow window its table
 /// needs the place of the list, which then stands above it.
 QWidget* zonesPage(Binder& bind) {
-    constexpr double listPart = 0.215;
+    constexpr double listPart = 0.23;
     auto* zone = new ScrollPage(
         column(firstZone(bind, Text::noZonesYet), grow(summary(bind)), zonePanel(bind)));
     QWidget* list = zoneList(bind);
@@ -169,11 +169,8 @@ QWidget* zonesPage(Binder& bind) {
 }  // namespace
 
 QWidget* makeZoneManagerView(Binder& bind) {
-    return roomy(
-        column(loadsBar(bind),
-               grow(bind.tabs("tabLoads", {[&bind] { return page(zonesPage(bind)); },
-                                           [&bind] { return page(heatPumpPage(bind)); }}))),
-        {1220, 700});
+    return loadsWindow(bind, bind.tabs("tabLoads", {[&bind] { return page(zonesPage(bind)); },
+                                                    [&bind] { return page(heatPumpPage(bind)); }}));
 }
 
 }  // namespace varnholt

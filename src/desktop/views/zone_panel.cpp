@@ -16,7 +16,8 @@ FieldRow unitRow(Binder& bind, const char* cooling, const char* heating) {
     for (const char* name : {cooling, heating}) {
         auto* unit = static_cast<QLabel*>(bind.widget(name));
         mute(unit);
-        unit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        // Below the heads, whichever way the language reads.
+        unit->setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
         row.fields.push_back(unit);
     }
     return row;
@@ -72,7 +73,11 @@ FieldRow pumpName(Binder& bind) {
 }
 
 QWidget* specifications(Binder& bind) {
-    return group(bind.frame("LOSpecificationsFrame"), grid(pumpName(bind)),
+    // Else a long title would keep the panel from standing beside the loads.
+    constexpr int widestTitle = 47 * gridStep;
+    GroupBox* frame = bind.frame("LOSpecificationsFrame");
+    frame->breakTitleBeyond(widestTitle);
+    return group(frame, grid(pumpName(bind)),
                  grid(headRow(bind, nullptr, "LOCoolingLabel", "LOHeatingLabel"),
                       bind.pair("LOCapacityText"), bind.pair("LOPowerText"), bind.pair("LOCOPText"),
                       bind.pair("LOFlowRateText"), bind.pair("LOPLFText")));

@@ -215,6 +215,24 @@ void GroupBox::setTitle(const QString& title) {
     title_->setText(title);
     title_->setVisible(!title.isEmpty());
     setAccessibleName(title);
+    fitTitle();
+}
+
+QWidget* GroupBox::takeTitle() {
+    layout_->removeWidget(title_);
+    title_->setProperty(titleProperty, true);
+    return title_;
+}
+
+void GroupBox::breakTitleBeyond(int width) {
+    widestTitle_ = width;
+    fitTitle();
+}
+
+void GroupBox::fitTitle() {
+    if (widestTitle_ == 0) return;
+    const int width = title_->fontMetrics().horizontalAdvance(title_->text());
+    title_->setWordWrap(width > widestTitle_);
 }
 
 void GroupBox::setLow() {
@@ -233,23 +251,26 @@ void GroupBox::setContent(QWidget* content) {
 
 void GroupBox::setNested(bool nested) {
     nested_ = nested;
-    layout_->setContentsMargins(0, gridStep / 2, 0, gridStep / 2);
+    // What follows stands apart by the gap between pieces.
+    layout_->setContentsMargins(0, gridStep / 2, 0, 0);
+}
+
+/// From the title to the edge.
+void GroupBox::drawRule(QPainter& painter, const QColor& colour) const {
+    if (title_->isHidden() || title_->parentWidget() != this) return;
+    const int middle = title_->geometry().center().y();
+    const int from =
+        title_->x() + title_->fontMetrics().horizontalAdvance(title_->text()) + gridStep;
+    const QRect line(from, middle, width() - from, 1);
+    if (from < width())
+        painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), line), colour);
 }
 
 void GroupBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Look& look = lookOf(palette());
     painter.setPen(look.hairline);
-    if (nested_) {
-        if (title_->isHidden()) return;
-        const int middle = title_->geometry().center().y();
-        const int from =
-            title_->x() + title_->fontMetrics().horizontalAdvance(title_->text()) + gridStep;
-        const QRect line(from, middle, width() - from, 1);
-        if (from < width())
-            painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), line), look.hairline);
-        return;
-    }
+    if (nested_) return drawRule(painter, look.hairline);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(look.surface);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);

@@ -14,6 +14,9 @@ class QMenu;
 
 namespace varnholt {
 
+/// Marks the title of a group that stands in the group's table.
+constexpr const char* titleProperty = "groupTitle";
+
 /// A line of text as wide as so many figures.
 class FieldEdit : public QLineEdit {
  public:
@@ -125,6 +128,10 @@ class GroupBox : public QWidget {
     void setTitle(const QString& title);
     QString title() const { return title_->text(); }
     QLabel* titleLabel() const { return title_; }
+    /// Gives the title away, to stand in the line of the heads of the group's table.
+    QWidget* takeTitle();
+    /// A title wider than so many pixels breaks its line instead of widening the group.
+    void breakTitleBeyond(int width);
     /// A card of one line, no higher than the line needs.
     void setLow();
     /// Takes what the group shows. Groups within it become sections.
@@ -136,11 +143,14 @@ class GroupBox : public QWidget {
 
  private:
     void setNested(bool nested);
+    void fitTitle();
+    void drawRule(QPainter& painter, const QColor& colour) const;
 
     QLabel* title_;
     QWidget* content_ = nullptr;
     QVBoxLayout* layout_;
     bool nested_ = false;
+    int widestTitle_ = 0;  ///< 0 for any width in one line
 };
 
 /// A page that scrolls when the window is smaller than what it shows.

@@ -216,6 +216,30 @@ void collectGrids(QWidget* piece, std::vector<FieldGrid*>& grids) {
 }
 
 constexpr const char* expandsProperty = "expands";
+constexpr const char* passingProperty = "passing";
+
+/// The place of a label in a column: none while it says nothing, though it is not hidden.
+class PassingItem : public QWidgetItem {
+ public:
+    explicit PassingItem(QLabel* label) : QWidgetItem(label), label_(label) {}
+    bool isEmpty() const override { return QWidgetItem::isEmpty() || label_->text().isEmpty(); }
+    void setGeometry(const QRect& rect) override {
+        if (label_->text().isEmpty())
+            label_->setGeometry(rect.x(), rect.y(), rect.width(), 0);
+        else
+            QWidgetItem::setGeometry(rect);
+    }
+
+ private:
+    QLabel* label_;
+};
+
+/// What a label takes with the pieces around it, or null for other pieces.
+QLayoutItem* passingItem(QWidget* piece, QWidget* column) {
+    if (!piece->property(passingProperty).toBool()) return nullptr;
+    piece->setParent(column);
+    return new PassingItem(static_cast<QLabel*>(piece));
+}
 
 /// Whether a piece makes use of more height than it needs.
 bool expands(const Piece& piece) {
@@ -278,6 +302,8 @@ QWidget* columnOf(const std::vector<Piece>& pieces) {
     for (const Piece& piece : pieces) {
         if (piece.widget == nullptr)
             layout->addStretch(piece.stretch);
+        else if (QLayoutItem* place = passingItem(piece.widget, column))
+            layout->addItem(place);
         else
             layout->addWidget(piece.widget, std::max(piece.stretch, expands(piece) ? 1 : 0),
                               ownWidth(piece.widget));
@@ -338,6 +364,11 @@ QWidget* centredRowOf(const std::vector<Piece>& pieces) {
 
 QWidget* gridOf(const std::vector<FieldRow>& rows) { return new FieldGrid(rows); }
 
+FieldRow titled(GroupBox* frame, FieldRow heads) {
+    heads.caption = frame->takeTitle();
+    return heads;
+}
+
 QWidget* groupOf(GroupBox* frame, const std::vector<Piece>& pieces) {
     frame->setContent(columnOf(pieces));
     frame->setProperty(expandsProperty, anyExpands(pieces));
@@ -367,6 +398,16 @@ QWidget* wrapped(QWidget* label) {
 QWidget* sentences(QWidget* label) {
     asSentence(label);
     return wrapped(label);
+}
+
+QWidget* passing(QWidget* label) {
+    label->setProperty(passingProperty, qobject_cast<QLabel*>(label) != nullptr);
+    return label;
+}
+
+QWidget* closeTogether(QWidget* column) {
+    column->layout()->setSpacing(0);
+    return column;
 }
 
 void setReadingOrder(QWidget* view) {

@@ -67,6 +67,9 @@ QWidget* grid(R... rows) {
     return gridOf({rows...});
 }
 
+/// Heads with a group's title in their line, where the captions of the rows below begin.
+FieldRow titled(GroupBox* frame, FieldRow heads);
+
 /// A group box around pieces below one another.
 QWidget* groupOf(GroupBox* frame, const std::vector<Piece>& pieces);
 template <class... P>
@@ -85,6 +88,12 @@ QWidget* buttons(B... widgets) {
 QWidget* wrapped(QWidget* label);
 /// The same of sentences about results, in which no name stands whose commas are its own.
 QWidget* sentences(QWidget* label);
+
+/// A label that takes no place in its column while it says nothing.
+QWidget* passing(QWidget* label);
+
+/// A column whose pieces stand without gaps.
+QWidget* closeTogether(QWidget* column);
 
 /// Makes Tab go through the widgets in the order of reading: pieces in the order in which the
 /// layouts hold them, rows from left to right. Called once a view is complete.

@@ -145,9 +145,12 @@ void ListView::fitColumns() {
 
 int ListView::leastWidthOf(int column) const {
     const int digits = model_->widths()[static_cast<std::size_t>(column)].least;
-    if (digits > 0)
-        return std::max(digits * fontMetrics().horizontalAdvance(u'0'),
-                        header()->minimumSectionSize());
+    if (digits > 0) {
+        const QString head = model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        const int headWidth = header()->fontMetrics().horizontalAdvance(head) + 2 * gridStep;
+        return std::max({digits * fontMetrics().horizontalAdvance(u'0'),
+                         header()->minimumSectionSize(), headWidth});
+    }
     // With a sign before the entry, which may come any time.
     const int sign = style()->pixelMetric(QStyle::PM_SmallIconSize);
     return std::max(longestEntry() + sign + 3 * gridStep, header()->sectionSizeHint(column));

@@ -119,7 +119,11 @@ double contrast(const QColor& a, const QColor& b) {
 
 QFont figureFont(const QFont& around) {
     QStringList families;
-    for (const QString& family : around.families()) families << tabularFamily(family);
+    for (const QString& family : around.families()) {
+        // A face of figures has no sister of its own.
+        if (family.endsWith(tabularFamily({}))) return around;
+        families << tabularFamily(family);
+    }
     families += familiesOf({"DejaVu Sans Condensed", "DejaVu Sans", "Liberation Sans"});
     QFont font = around;
     font.setFamilies(families);

@@ -43,7 +43,8 @@ QColor backColour(int number, const Look& look);
 double contrast(const QColor& a, const QColor& b);
 
 /// The font of figures: the face around with digits of one width, so that columns align, where
-/// registerTabularFaces() found such digits; else a condensed face whose digits are so.
+/// registerTabularFaces() found such digits; else a condensed face whose digits are so. A font of
+/// figures stays what it is.
 QFont figureFont(const QFont& around);
 /// The font of lists whose columns are made of blanks.
 QFont fixedPitchFont(const QFont& around);

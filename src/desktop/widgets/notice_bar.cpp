@@ -37,9 +37,16 @@ NoticeBar::NoticeBar(QLabel* text, QAbstractButton* action)
     row->addWidget(action);
     keepPlace(*this);
     keepPlace(*action);
+    // As high as a field: the pages are to have the height.
+    action->setProperty("inTable", true);
     sign_->setFixedSize(signSize, signSize);
     text->installEventFilter(this);
     follow();
+}
+
+int NoticeBar::leastWithText() const {
+    const int least = minimumSizeHint().width();
+    return text_->isHidden() ? least + text_->minimumWidth() + layout()->spacing() : least;
 }
 
 void NoticeBar::drawSign() {
