@@ -190,7 +190,13 @@ void frmHZDesign::registerPairTable() {
 
 void frmHZDesign::followGroundTemp() { project_.groundTempAtDepth = groundTempAtTrench(project_); }
 
+void frmHZDesign::defaultsRead() {
+    settleCoil(project_.arrangement);
+    followGroundTemp();
+}
+
 void frmHZDesign::projectRead() {
+    settleCoil(project_.arrangement);
     TowerDesign::projectRead();
     followGroundTemp();
 }
