@@ -49,6 +49,13 @@ void prepare(ZoneDesk& zones, int looks) {
     Desk::settle();
 }
 
+/// Times a benchmark in each of these states.
+void inEveryState(benchmark::internal::Benchmark* timed) {
+    for (const ZoneLooks looks : {asOpened, sortedByLoad, filteredByLabel, withSummary})
+        timed->Arg(looks);
+    timed->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime();
+}
+
 void keystrokeInALoadField(benchmark::State& state) {
     ZoneDesk zones;
     prepare(zones, static_cast<int>(state.range(0)));
@@ -60,13 +67,7 @@ void keystrokeInALoadField(benchmark::State& state) {
     typeToPainted(state, zones.keys(), field, painted, Desk::settle);
     if (field.text().size() != 1) state.SkipWithError("the keys did not arrive");
 }
-BENCHMARK(keystrokeInALoadField)
-    ->Arg(asOpened)
-    ->Arg(sortedByLoad)
-    ->Arg(filteredByLabel)
-    ->Arg(withSummary)
-    ->Unit(benchmark::kMillisecond)
-    ->MeasureProcessCPUTime();
+BENCHMARK(keystrokeInALoadField)->Apply(inEveryState);
 
 void selectAZone(benchmark::State& state) {
     ZoneDesk zones;
@@ -82,13 +83,7 @@ void selectAZone(benchmark::State& state) {
     if (zones.loads().control("LOZoneList").selected() != std::vector<int>{row})
         state.SkipWithError("the zone was not chosen");
 }
-BENCHMARK(selectAZone)
-    ->Arg(asOpened)
-    ->Arg(sortedByLoad)
-    ->Arg(filteredByLabel)
-    ->Arg(withSummary)
-    ->Unit(benchmark::kMillisecond)
-    ->MeasureProcessCPUTime();
+BENCHMARK(selectAZone)->Apply(inEveryState);
 
 void selectAllZones(benchmark::State& state) {
     ZoneDesk zones;

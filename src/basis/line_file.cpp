@@ -28,6 +28,16 @@ std::string_view takeFirstLine(std::string_view& text) {
     return line;
 }
 
+/// At most so many bytes of a UTF-8 text, no character of which is cut.
+std::string_view beginningOf(std::string_view text, std::size_t bytes) {
+    if (text.size() <= bytes) return text;
+    const auto continues = [&](std::size_t at) {
+        return (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;
+    };
+    while (bytes > 0 && continues(bytes)) --bytes;
+    return text.substr(0, bytes);
+}
+
 }  // namespace
 
 LineFileReader::LineFileReader(std::string_view bytes)
@@ -41,8 +51,10 @@ LineFileReader LineFileReader::open(const std::string& path) {
 }
 
 void LineFileReader::title(std::string_view) {
-    const std::string text = line();
-    version_ = text.size() < 3 ? 0 : leadingNumber(std::string_view(text).substr(text.size() - 3));
+    const std::string_view found = lineAsItStands();
+    const std::string_view end =
+        found.substr(found.size() - std::min<std::size_t>(found.size(), 3));
+    version_ = end.size() < 3 ? 0 : leadingNumber(end);
 }
 
 void LineFileReader::number(double& value) {
@@ -55,7 +67,7 @@ void LineFileReader::integer(std::int16_t& value) {
     value = toInteger(leadingNumber(lineAsItStands()));
 }
 
-void LineFileReader::date(Date& value) { value = readDate(line()).value_or(Date{}); }
+void LineFileReader::date(Date& value) { value = readDate(lineAsItStands()).value_or(Date{}); }
 
 std::size_t LineFileReader::linesLeft(std::size_t most) const {
     std::size_t lines = 0;
@@ -117,28 +129,49 @@ std::string LineFileReader::line() {
     return isUtf8_ ? std::string(found) : windows1252Text(found);
 }
 
-void LineFileReader::text(std::string& value) {
-    std::string found = line();
-    value = carriesBytes(found) ? uncarriedText(found) : std::move(found);
+std::string LineFileReader::textOf(std::string_view line) const {
+    std::string found = isUtf8_ ? std::string(line) : windows1252Text(line);
+    if (carriesBytes(found)) found = uncarriedText(found);
+    return found;
 }
 
-void LineFileReader::text(SharedText& value) {
-    std::string found;
-    text(found);
-    value = std::move(found);
+void LineFileReader::text(std::string& value) {
+    std::string_view found = lineAsItStands();
+    const std::size_t length = lengthOf(found);
+    if (length <= roomForNames_) {
+        roomForNames_ -= length;
+    } else if (found.size() > keptOfLongName) {
+        if (shortenedLine_ == 0) shortenedLine_ = lineNumber_;
+        found = isUtf8_ ? beginningOf(found, keptOfLongName) : found.substr(0, keptOfLongName);
+    }
+    value = textOf(found);
+}
+
+void LineFileReader::text(SharedText& value) { value = textOf(fitting(lineAsItStands(), 0)); }
+
+std::size_t LineFileReader::lengthOf(std::string_view line) const {
+    return isUtf8_ ? line.size() : windows1252Length(line);
+}
+
+std::string_view LineFileReader::fitting(std::string_view line, std::size_t beside) {
+    const std::size_t room = roomForTexts - std::min(beside, roomForTexts);
+    if (lengthOf(line) <= room) return line;
+    if (shortenedLine_ == 0) shortenedLine_ = lineNumber_;
+    constexpr std::size_t bytesOfASign = 3;
+    return isUtf8_ ? beginningOf(line, room) : line.substr(0, room / bytesOfASign);
 }
 
 void LineFileReader::lines(std::size_t count, SharedText& text) {
     std::size_t there = 0, length = 0;
     for (std::string_view ahead = left_; there < count && !ahead.empty(); ++there) {
         const std::string_view line = takeFirstLine(ahead);
-        length += 2 + (isUtf8_ ? line.size() : windows1252Length(line));
+        length += 2 + lengthOf(line);
     }
     std::string all;
-    all.reserve(length);
+    all.reserve(std::min(length, roomForTexts + 2 * there));
     for (std::size_t i = 0; i < there; ++i) {
         if (i > 0) all += "\r\n";
-        const std::string_view line = takeLine();
+        const std::string_view line = fitting(takeLine(), all.size());
         if (isUtf8_)
             all += line;
         else

@@ -18,6 +18,16 @@ namespace varnholt {
 /// The program's own version, as files carry it: "3.0".
 inline constexpr std::string_view fileVersion = "3.0";
 
+/// The labels and names of a file may take so many bytes in all: ten times those of the longest
+/// list of zones. Windows keep several copies of them, which of a file that is one endless line
+/// would take the machine's memory.
+inline constexpr std::size_t roomForNames = std::size_t{16} << 20;
+/// What is kept of a label or name beyond them.
+inline constexpr std::size_t keptOfLongName = 255;
+/// Other texts, such as comments, are held once. They may take so many bytes: twice a project file
+/// of 64 MB, which only one of Windows-1252 can exceed, whose signs become up to three bytes.
+inline constexpr std::size_t roomForTexts = std::size_t{128} << 20;
+
 /// A part of a file, by its name, that is there and cannot be read.
 struct UnreadPart {
     std::string name;
@@ -54,7 +64,10 @@ class LineFileReader {
     bool since(double version) const { return version_ >= version; }
     double version() const { return version_; }
 
+    /// A label or a name. Of a file's labels and names so many bytes are kept as roomForNames;
+    /// of one that is beyond them the beginning stands.
     void text(std::string& value);
+    /// A text that may be long: as many of its bytes as there is room for them in roomForTexts.
     void text(SharedText& value);
     void number(double& value);
     void integer(std::int16_t& value);
@@ -80,7 +93,7 @@ class LineFileReader {
     /// A whole line; what is left of one that was read in part.
     std::string line();
     /// So many lines as one text, with CR LF between them. Where there are fewer it is what there
-    /// is, and RunTimeError 62.
+    /// is, and RunTimeError 62; beyond roomForTexts it is what there is room for.
     void lines(std::size_t count, SharedText& text);
     /// Passes over so many lines. RunTimeError 62 where there are fewer.
     void skipLines(std::size_t count);
@@ -100,11 +113,19 @@ class LineFileReader {
     void noteLeftover() { leftoverLine_ = lineNumber_ + 1; }
     /// The line noted so; 0 for none.
     std::size_t leftoverLine() const { return leftoverLine_; }
+    /// The first line of whose text only the beginning was kept; 0 for none.
+    std::size_t shortenedLine() const { return shortenedLine_; }
     /// Number of the line read last, from 1; 0 before the first.
     std::size_t lineNumber() const { return lineNumber_; }
 
  private:
     std::string_view takeLine();
+    /// A line's bytes as the text that was written.
+    std::string textOf(std::string_view line) const;
+    std::size_t lengthOf(std::string_view line) const;
+    /// As much of the line read last as there is room for beside so many bytes of texts; notes
+    /// where that is not all.
+    std::string_view fitting(std::string_view line, std::size_t beside);
     /// The line's bytes, in whichever encoding: a number needs no copy of a line that is long.
     std::string_view lineAsItStands();
     /// How many lines are left, at most so many.
@@ -124,6 +145,8 @@ class LineFileReader {
     bool lineEnded_ = false;
     std::vector<UnreadPart> unread_;
     std::size_t leftoverLine_ = 0;
+    std::size_t roomForNames_ = roomForNames;
+    std::size_t shortenedLine_ = 0;
 };
 
 /// Composes a line-oriented text file in memory.

@@ -17,6 +17,8 @@ struct ReadingReport {
     int error = 0;          ///< number of the RunTimeError that ended the reading; 0 for none
     std::size_t line = 0;   ///< the line read last, from 1
     bool leftover = false;  ///< lines follow that nothing in the file accounts for
+    /// The first line that is longer than a name may be, and was shortened; 0 for none.
+    std::size_t shortenedLine = 0;
     /// The last line, where nothing ends it: it may have lost its own end. 0 where it is ended.
     std::size_t openLine = 0;
     std::vector<UnreadPart> unread;  ///< parts behind the body that cannot be read
@@ -26,7 +28,9 @@ struct ReadingReport {
     Entries entries = Entries::zones;
 
     /// Everything that the file holds has been read.
-    bool isWhole() const { return error == 0 && !leftover && unread.empty() && leftOut == 0; }
+    bool isWhole() const {
+        return error == 0 && !leftover && shortenedLine == 0 && unread.empty() && leftOut == 0;
+    }
 };
 
 /// Reads, and fills the report, which may be null. What the reading throws is thrown on.
@@ -35,10 +39,14 @@ void reportReading(const LineFileReader& file, ReadingReport* report, const Read
     try {
         read();
     } catch (const RunTimeError& error) {
-        if (report != nullptr) report->error = error.number(), report->line = file.lineNumber();
+        if (report == nullptr) throw;
+        report->error = error.number();
+        report->line = file.lineNumber();
+        report->shortenedLine = file.shortenedLine();
         throw;
     }
     if (report == nullptr) return;
+    report->shortenedLine = file.shortenedLine();
     report->unread = file.unread();
     report->leftover = file.leftoverLine() != 0 || file.holdsMore();
     if (report->leftover)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/frmBHDesign.h"
 
+#include <utility>
+
 #include "basis/number_text.h"
 #include "design/arrangement_tab.h"
 #include "design/bore_tab.h"
@@ -88,8 +90,8 @@ LengthSummary frmBHDesign::lengthSummary() const {
                                        governingMode(),
                                        resultsState()},
                                       words);
-    summary.parts = groundParts(*this, results().lengthShares, lengths(), Text::boreResistancePart);
-    return summary;
+    return withParts(std::move(summary), groundParts(*this, results().lengthShares, lengths(),
+                                                     Text::boreResistancePart));
 }
 
 void frmBHDesign::registerBoreholeValues() {

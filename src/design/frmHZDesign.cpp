@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "basis/number_text.h"
 #include "basis/run_time_error.h"
@@ -103,8 +104,8 @@ LengthSummary frmHZDesign::lengthSummary() const {
                                        governingMode(),
                                        resultsState()},
                                       words);
-    summary.parts = groundParts(*this, results().lengthShares, total, Text::pipeResistancePart);
-    return summary;
+    return withParts(std::move(summary),
+                     groundParts(*this, results().lengthShares, total, Text::pipeResistancePart));
 }
 
 std::vector<ResultRow> frmHZDesign::resultRows() const {
@@ -189,7 +190,13 @@ void frmHZDesign::registerPairTable() {
 
 void frmHZDesign::followGroundTemp() { project_.groundTempAtDepth = groundTempAtTrench(project_); }
 
+void frmHZDesign::defaultsRead() {
+    settleCoil(project_.arrangement);
+    followGroundTemp();
+}
+
 void frmHZDesign::projectRead() {
+    settleCoil(project_.arrangement);
     TowerDesign::projectRead();
     followGroundTemp();
 }

@@ -52,7 +52,7 @@ class frmHZDesign : public TowerDesign<HorizontalKind> {
     bool tellsError(int) const override { return true; }
     std::vector<int> pageCaptions() const override;
     std::string pagesName() const override { return "HZTabs"; }
-    void defaultsRead() override { followGroundTemp(); }
+    void defaultsRead() override;
     void projectRead() override;
     std::vector<Notice> notices() override;
 

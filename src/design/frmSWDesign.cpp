@@ -132,9 +132,7 @@ LengthSummary frmSWDesign::lengthSummary() const {
     found.governing = governingMode();
     found.state = resultsState();
     for (const Mode mode : modes) found.number[mode] = inputsOnShow().loop.parallelLoops[mode];
-    LengthSummary summary = summaryOf(*this, found, words);
-    summary.parts = lengthParts();
-    return summary;
+    return withParts(summaryOf(*this, found, words), lengthParts());
 }
 
 void frmSWDesign::registerInputs() {

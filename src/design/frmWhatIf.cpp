@@ -87,14 +87,17 @@ void frmWhatIf::listAlternatives() {
         if (const auto* other = dynamic_cast<const GroundDesign*>(window);
             other != nullptr && other != &design())
             names.push_back(shortNameOf(*other));
-    Control& list = control("WVList");
-    if (names != list.items()) {
-        const int chosen = list.index();
-        list.setItems(std::move(names));
-        if (chosen >= 0 && static_cast<std::size_t>(chosen) < list.items().size())
-            list.setIndex(chosen);
-    }
+    showLines("WVList", std::move(names));
     showAlternativeCommands();
+}
+
+void frmWhatIf::showLines(const char* name, std::vector<std::string> lines) {
+    Control& shown = control(name);
+    if (lines == shown.items()) return;
+    const int chosen = shown.index();
+    shown.setItems(std::move(lines));
+    if (chosen >= 0 && static_cast<std::size_t>(chosen) < shown.items().size())
+        shown.setIndex(chosen);
 }
 
 WhatIfCase frmWhatIf::presentCase() const {

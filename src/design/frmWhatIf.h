@@ -93,6 +93,8 @@ class frmWhatIf : public BesideDesign {
     void registerFigures();
     void registerLayouts();
     void registerAlternatives();
+    /// Lists the lines; what is chosen stays so by its place, as long as there is one.
+    void showLines(const char* name, std::vector<std::string> lines);
 
     // What decides (frmWhatIf_decides.cpp).
     void addDecides();

@@ -121,13 +121,7 @@ void frmWhatIf::showCorners() {
     add(text(Text::whatIfOutline), landOf(land).outline);
     for (std::size_t n = 0; n < land.noGo.size(); ++n)
         add(filledIn(text(Text::whatIfNoGoArea), {std::to_string(n + 1)}), land.noGo[n]);
-    Control& list = control("WLCornerList");
-    if (lines != list.items()) {
-        const int chosen = list.index();
-        list.setItems(std::move(lines));
-        if (chosen >= 0 && static_cast<std::size_t>(chosen) < list.items().size())
-            list.setIndex(chosen);
-    }
+    showLines("WLCornerList", std::move(lines));
     control("WLRectangleCommand").setEnabled(!land.corner.empty() || !land.noGo.empty());
     showCornerFields();
 }

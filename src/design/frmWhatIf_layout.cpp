@@ -157,21 +157,15 @@ std::string frmWhatIf::layoutMessageNow() const {
 /// The cheapest is chosen as soon as the list stands; a field that has been chosen stays so by its
 /// place.
 void frmWhatIf::showList() {
-    Control& list = control("WLList");
     const auto& found = finder_.result().fields;
     std::vector<std::string> lines;
     for (std::size_t n = 0; n < std::min(found.size(), listedFields); ++n)
         lines.push_back(layoutLine(teller(), found[n]));
-    const int chosen = list.index();
     const bool fresh = shownList_ < 0 && (finder_.isListed() || !finder_.isRunning());
-    if (lines != list.items()) {
-        list.setItems(std::move(lines));
-        if (chosen >= 0 && static_cast<std::size_t>(chosen) < list.items().size())
-            list.setIndex(chosen);
-    }
+    showLines("WLList", std::move(lines));
     if (!fresh) return;
     shownList_ = finder_.revision();
-    if (!list.items().empty()) list.setIndex(0);
+    if (Control& list = control("WLList"); !list.items().empty()) list.setIndex(0);
 }
 
 void frmWhatIf::showLayoutCommands() {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "design/length_summary.h"
 
+#include <utility>
+
 #include "basis/number_text.h"
 #include "design/ground_design.h"
 #include "design/results_tab.h"
@@ -66,6 +68,14 @@ LengthSummary summaryOf(const GroundDesign& design, const FoundLengths& found,
     summary.each = shownLengths(design, found.each);
     summary.eachWord = design.text(words.each);
     if (summary.found()) summary.sentence = sentenceOf(design, found, words);
+    return summary;
+}
+
+LengthSummary withParts(LengthSummary summary, std::vector<LengthSegment> parts) {
+    summary.parts = std::move(parts);
+    const bool fromAFile = summary.parts.empty() && summary.hasLength();
+    if (summary.state == LengthSummary::State::fresh && fromAFile)
+        summary.state = LengthSummary::State::kept;
     return summary;
 }
 

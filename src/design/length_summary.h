@@ -23,7 +23,9 @@ struct LengthSegment {
 /// What a design comes to: how long the loop must be in each mode, which mode governs, and where
 /// the lengths come from. Texts are in the active units.
 struct LengthSummary {
-    enum class State { none, fresh, stale };  ///< stale where the inputs have changed since
+    /// Stale where the inputs have changed since. Kept where the lengths come from a file, which
+    /// holds neither their parts nor whether they were found with its own inputs.
+    enum class State { none, fresh, stale, kept };
 
     State state = State::none;
     Mode governing = heating;
@@ -35,6 +37,8 @@ struct LengthSummary {
     std::vector<LengthSegment> parts;  ///< none before a run of this session
 
     bool found() const { return state != State::none; }
+    /// Whether a mode has a length: a run may find none for either.
+    bool hasLength() const { return feet[cooling] > 0 || feet[heating] > 0; }
     friend bool operator==(const LengthSummary&, const LengthSummary&) = default;
 };
 
@@ -56,6 +60,10 @@ struct FoundLengths {
 /// The summary without its parts.
 LengthSummary summaryOf(const GroundDesign& design, const FoundLengths& found,
                         const LoopWords& words);
+
+/// The summary with the parts of its lengths: none tell that the lengths come from a file, as every
+/// run that finds a length leaves parts.
+LengthSummary withParts(LengthSummary summary, std::vector<LengthSegment> parts);
 
 /// A part by the text of its name, ft.
 LengthSegment partOf(const GroundDesign& design, int name, const ByMode<double>& feet);

@@ -167,8 +167,12 @@ std::string fieldMeasures(const FieldPlan& field, const Texts& texts) {
                      field.separationLabel});
 }
 
+std::string wordsWithoutParts(const LengthSummary& lengths, const Texts& texts) {
+    return texts.text(lengths.hasLength() ? Text::lengthPartsNotKept : Text::lengthPartsEmpty);
+}
+
 std::string describe(const LengthSummary& lengths, const Texts& texts) {
-    if (lengths.parts.empty()) return texts.text(Text::lengthPartsEmpty);
+    if (lengths.parts.empty()) return wordsWithoutParts(lengths, texts);
     std::string sentences;
     for (const Mode mode : modes) {
         if (!(lengths.feet[mode] > 0)) continue;
@@ -189,6 +193,8 @@ std::string stateWords(LengthSummary::State state, const Texts& texts) {
             return texts.text(Text::lengthsFresh);
         case LengthSummary::State::stale:
             return texts.text(Text::lengthsStale);
+        case LengthSummary::State::kept:
+            return texts.text(Text::lengthsKept);
         default:
             return texts.text(Text::lengthsNone);
     }

@@ -27,6 +27,8 @@ std::string describe(const TrenchPlan& plan, const Texts& texts);
 std::string describe(const CircuitPlan& plan, const Texts& texts);
 std::string describe(const GroundTempCurves& curves, const Texts& texts);
 std::string describe(const LoopCurves& curves, const Texts& texts);
+/// What stands in the place of the parts: how to come to them.
+std::string wordsWithoutParts(const LengthSummary& lengths, const Texts& texts);
 /// Each mode's length with its parts.
 std::string describe(const LengthSummary& lengths, const Texts& texts);
 

@@ -36,6 +36,10 @@ void takePipes(double count, HorizontalArrangementValues& pipes) {
     if (!modCalculations::offsetIsOffered(layoutOf({}, pipes))) pipes.offsetRows = 0;
 }
 
+void settleCoil(HorizontalArrangementValues& pipes) {
+    if (modCalculations::isCoil(pipes.trenchConfiguration)) takePipes(1, pipes);
+}
+
 void takeTrenches(double count, TrenchValues& trench) { trench.trenchCount = toInteger(count); }
 
 bool deepenTrench(TrenchValues& trench, const HorizontalArrangementValues& pipes) {

@@ -22,6 +22,10 @@ void selectArrangement(std::int16_t arrangement, TrenchValues& trench,
 /// Throws RunTimeError 6 beyond 16 bits.
 void takePipes(double count, HorizontalArrangementValues& pipes);
 
+/// Lets a coil be the single pipe without an offset that it is, whatever a file holds beside it.
+/// Pipes side by side stay as they are.
+void settleCoil(HorizontalArrangementValues& pipes);
+
 /// Takes a number of trenches, rounded to a whole one. Throws RunTimeError 6 beyond 16 bits.
 void takeTrenches(double count, TrenchValues& trench);
 

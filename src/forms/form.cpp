@@ -47,8 +47,8 @@ std::string withFullLineEnds(const std::string& text) {
     return full;
 }
 
-/// A field of one line takes a cell of a spreadsheet, which ends in a line end, and puts a blank
-/// between the lines of longer texts.
+/// A field of one line, also that of a combo, takes a cell of a spreadsheet, which ends in a line
+/// end, and puts a blank between the lines of longer texts.
 std::string inOneLine(const std::string& text) {
     const std::size_t end = text.find_last_not_of("\r\n") + 1;
     std::string line;
@@ -61,7 +61,8 @@ std::string inOneLine(const std::string& text) {
 
 std::string asTaken(const Control& field, const std::string& typed) {
     if (field.kind() == ControlKind::richText) return withFullLineEnds(typed);
-    return field.kind() == ControlKind::text ? inOneLine(typed) : typed;
+    const bool ofOneLine = field.kind() == ControlKind::text || field.kind() == ControlKind::combo;
+    return ofOneLine ? inOneLine(typed) : typed;
 }
 
 }  // namespace

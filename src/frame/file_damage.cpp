@@ -9,6 +9,8 @@
 namespace varnholt {
 namespace {
 
+constexpr int inputPastEnd = 62;
+
 int nameOf(FileKind kind) {
     switch (kind) {
         case FileKind::project:
@@ -32,7 +34,7 @@ int nameOf(FileKind kind) {
 
 /// Where the reading ended, and why.
 std::string endOfReading(const Texts& texts, const ReadingReport& report) {
-    constexpr int overflow = 6, inputPastEnd = 62;
+    constexpr int overflow = 6;
     // The lines of a part that cannot be read are left over with it.
     const bool ofPart = !report.unread.empty() && report.unread.back().line == report.line;
     if (report.leftover && !ofPart)
@@ -75,6 +77,9 @@ std::string damageText(const Texts& texts, const FileDamage& damage) {
         append(
             filledIn(texts.text(Text::noticeUnreadPart), {part.name, std::to_string(part.line)}));
     append(endOfReading(texts, report));
+    if (report.shortenedLine != 0)
+        append(filledIn(texts.text(Text::noticeShortenedLine),
+                        {std::to_string(report.shortenedLine)}));
     if (report.stated != report.found && report.leftOut == 0)
         append(filledIn(texts.text(wordsFor(report.entries)),
                         {std::to_string(report.found), std::to_string(report.stated)}));
@@ -86,6 +91,8 @@ std::string damageText(const Texts& texts, const FileDamage& damage) {
 std::string unreadableText(const Texts& texts, const std::string& path, int error) {
     if (error == RunTimeError::fileNotFound)
         return filledIn(texts.text(Text::noticeFileNotFound), {path});
+    if (error == inputPastEnd)
+        return filledIn(texts.text(Text::noticeEndsAtOnce), {fileNameOf(path)});
     // Of the disk or the right to it, not of what the file holds: then its place matters.
     const bool ofPlace = error == 57 || error == 70 || error == 75 || error == 76;
     const RunTimeError told = ofPlace ? RunTimeError(error, path) : RunTimeError(error);

@@ -132,6 +132,9 @@ void frmZoneManage::LOAutoSelectAllCommand_Click() {
             if (!autoSelect(i)) append(without, ZoneList()[i].name);
             progress.tell(i + 1);
         }
+        if (without.empty())
+            platform().tell(
+                filledIn(text(Text::pumpsSelected), {std::to_string(ZoneList().size())}));
     });
     showSelectedPumps();
     if (control("LOSummaryPicture").visible()) control("LOAutoSelectAllCommand").setEnabled(false);

@@ -47,6 +47,11 @@ bool isLoadsWindowOpen(const Varnmain& main) {
 
 void tell(const Varnmain& main, int sentence) { main.platform().tell(main.text(sentence)); }
 
+void tellLinked(const LinkedDesign& design) {
+    const Varnmain& main = design.main();
+    main.platform().tell(filledIn(main.text(Text::linkMade), {design.caption()}));
+}
+
 void linkDesign(LinkedDesign& design) {
     Varnmain& main = design.main();
     if (design.link() != nullptr) return tell(main, Text::linkedAlready);
@@ -57,6 +62,7 @@ void linkDesign(LinkedDesign& design) {
     loads->switchUnits(design.units());
     linkWithTransfer(design, *loads);
     shareSeries(design, *loads);
+    tellLinked(design);
 }
 
 /// Only one free design is an unmistakable partner.
@@ -76,6 +82,7 @@ void linkLoadsWindow(LoadsWindow& loads) {
     partner->switchUnits(loads.units());
     linkWithTransfer(*partner, loads);
     partner->takeSeries(loads.activeSeries());
+    tellLinked(*partner);
 }
 
 /// The links that name the window, on either side.
@@ -127,6 +134,7 @@ void mnuUnlink_Click(Varnmain& main) {
     changed.erase(std::unique(changed.begin(), changed.end()), changed.end());
     const DocumentStep step(changed, main.text(Text::unlinkLoads));
     cleanupLinks(*active);
+    if (!linked.empty()) tell(main, Text::linkEnded);
 }
 
 void cleanupLinks(ChildWindow& closing) {

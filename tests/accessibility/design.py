@@ -182,6 +182,7 @@ class Designer:
     def enter_design(self):
         self.page(DESIGN, "Fluid")
         self.write(DESIGN, "Design Fluid Inlet Temperatures, Heating, deg F", "45", "45.0")
+        self.write(DESIGN, "Fluid Type", "Site mixture")
         self.choose(DESIGN, "Fluid Type", "Methanol")
         self.page(DESIGN, "Soil")
         self.write(DESIGN, "Ground Temperature, deg F", "500", "62.0")

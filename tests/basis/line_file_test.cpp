@@ -73,6 +73,68 @@ TEST(LineFile, KeepsALongTextWhole) {
     EXPECT_EQ(third, "behind");
 }
 
+/// The names of a file: one that takes all the room that there is for them, and the next.
+std::pair<std::string, std::string> namesBesideAll(const std::string& next) {
+    LineFileReader file(std::string(roomForNames, 'x') + "\r\n" + next + "\r\n7\r\n");
+    std::string all, behind;
+    file.text(all);
+    EXPECT_EQ(file.shortenedLine(), 0U);
+    file.text(behind);
+    EXPECT_EQ(file.shortenedLine(), behind == next ? 0U : 2U);
+    double number = 0;
+    file.number(number);
+    EXPECT_EQ(number, 7) << "what follows is found all the same";
+    return {all, behind};
+}
+
+TEST(LineFileNames, AreKeptWholeWhileThereIsRoomForThem) {
+    const auto [all, none] = namesBesideAll("");
+    EXPECT_EQ(all.size(), 16U * 1024 * 1024);
+    EXPECT_EQ(none, "");
+}
+
+TEST(LineFileNames, BeyondTheRoomForThemKeepTheirBeginning) {
+    EXPECT_EQ(namesBesideAll(std::string(300, 'y')).second, std::string(255, 'y'));
+    EXPECT_EQ(namesBesideAll("short").second, "short") << "a short one is its own beginning";
+}
+
+// 127 letters of two bytes are 254; the 128th would be cut by the 255th byte.
+TEST(LineFileNames, AreCutBetweenTwoCharacters) {
+    std::string letters, kept;
+    for (int i = 0; i < 200; ++i) letters += "\u00E9";
+    for (int i = 0; i < 127; ++i) kept += "\u00E9";
+    EXPECT_EQ(namesBesideAll(letters).second, kept);
+}
+
+// The euro sign, one byte in Windows-1252, is three in the text that is kept.
+TEST(LineFileNames, TakeTheRoomOfTheTextThatTheyBecome) {
+    const std::string euros(roomForNames / 3 + 1, '\x80');
+    LineFileReader file(euros + "\r\nnext\r\n");
+    std::string name;
+    file.text(name);
+    EXPECT_EQ(file.shortenedLine(), 1U);
+    EXPECT_EQ(name.size(), 3U * 255);
+    file.text(name);
+    EXPECT_EQ(name, "next");
+}
+
+// 45 MB of euro signs, one byte each in Windows-1252, would be 135 of text, and 128 are kept: the
+// largest number of whole signs is a third of them.
+TEST(LineFile, KeepsOfATextThatBecomesTooLongWhatThereIsRoomFor) {
+    const std::string euros(std::size_t{45} << 20, '\x80');
+    const std::size_t kept = (std::size_t{128} << 20) / 3 * 3;
+    LineFileReader file(euros + "\r\n" + euros + "\r\nbehind\r\nnext\r\n");
+    SharedText text;
+    file.text(text);
+    EXPECT_EQ(text.string().size(), kept);
+    EXPECT_EQ(file.shortenedLine(), 1U);
+    file.lines(2, text);
+    // Its two bytes of line end too, and nothing of what stands behind.
+    EXPECT_EQ(text.string().size(), kept + 2);
+    file.text(text);
+    EXPECT_EQ(text, "next");
+}
+
 TEST(SharedTexts, AreHeldOnceHoweverManyCopiesThereAre) {
     const SharedText text = std::string(100, 't');
     SharedText copy = text;

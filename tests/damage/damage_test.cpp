@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <memory>
 
 #include "damage/damaged_files.h"
@@ -158,6 +159,18 @@ class Giant : public Reading, public testing::WithParamInterface<Case> {
         head.resize(size, '1');
         return head;
     }
+
+    /// The file with its first label or name made so long that it has this size.
+    static std::string withLongName(const FileOfAKind& kind, const std::string& whole, char letter,
+                                    std::size_t size) {
+        const std::map<std::string, int> lines{
+            {"Borehole", 68}, {"Zones", 26}, {"Index", 4}, {"Series", 4}};
+        std::size_t start = 0;
+        for (int line = 1; line < lines.at(kind.name); ++line) start = whole.find('\n', start) + 1;
+        const std::size_t end = whole.find_first_of("\r\n", start);
+        return whole.substr(0, start) + std::string(size - whole.size(), letter) +
+               whole.substr(end);
+    }
 };
 
 TEST_P(Giant, FilesAreReadOrRefusedByAProgramThatGoesOn) {
@@ -176,6 +189,10 @@ TEST_P(Giant, FilesAreReadOrRefusedByAProgramThatGoesOn) {
     }
     ASSERT_TRUE(stands(kind, title + std::string(largest - title.size(), 'x'), mostForAGiant));
     ASSERT_TRUE(stands(kind, ofSize(head, (megabytes << 20) + 1), mostForAGiant));
+    // The last is a byte of Windows-1252 that is three of UTF-8.
+    for (const char letter : {'x', '\x80'})
+        ASSERT_TRUE(stands(kind, withLongName(kind, whole, letter, largest), mostForAGiant))
+            << "a long name";
     if (memoryCounts) {
         EXPECT_LE(processor_, mostProcessorSeconds);
     }
@@ -203,10 +220,12 @@ TEST_P(LongText, OfAProjectIsHeldOnce) {
     // Line 3 is the project's name, line 17 the number of the comment's lines.
     constexpr std::size_t name = 3, comment = 17;
     const std::size_t afterComment = comment + 1 + std::stoul(whole.substr(lineAt(comment)));
-    // A byte of Windows-1252 that is two of UTF-8.
-    const std::string two(length, '\xE9');
+    // Bytes of Windows-1252 that are two and three of UTF-8.
+    const std::string two(length, '\xE9'), three(length, '\x80');
     ASSERT_TRUE(stands(kind, instead(name, name + 1, std::string(length, 'n')), mostForAGiant));
     ASSERT_TRUE(stands(kind, instead(name, name + 1, two), mostForAGiant));
+    ASSERT_TRUE(stands(kind, instead(name, name + 1, three), mostForAGiant));
+    ASSERT_TRUE(stands(kind, instead(comment, afterComment, "1\r\n" + three), mostForAGiant));
     ASSERT_TRUE(stands(kind, instead(comment, afterComment, "1\r\n" + std::string(length, 'c')),
                        mostForAGiant));
     ASSERT_TRUE(stands(kind, instead(comment, afterComment, "1\r\n" + two), mostForAGiant));

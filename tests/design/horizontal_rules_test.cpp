@@ -194,6 +194,28 @@ TEST(TrenchDepth, OnceCorrectedIsNotCorrectedAgain) {
         }
 }
 
+TEST(ReadingACoil, LeavesASinglePipeWithoutOffsetAndTheRestAsItWas) {
+    for (std::int16_t arrangement : {lyingCoil, standingCoil}) {
+        HeldField field;
+        field.pipes.trenchConfiguration = arrangement;
+        field.pipes.pipesPerTrench = 5;
+        field.pipes.offsetRows = 1;
+        settleCoil(field.pipes);
+        EXPECT_EQ(field.pipes.pipesPerTrench, 1);
+        EXPECT_EQ(field.pipes.offsetRows, 0);
+        EXPECT_EQ(field.pipes.trenchConfiguration, arrangement);
+    }
+}
+
+TEST(ReadingPipesSideBySide, LeavesTheirNumberAndOffset) {
+    for (std::int16_t arrangement : {singleColumn, twoColumns, threeColumns}) {
+        HeldField field = fieldOf(arrangement, 6, true);
+        settleCoil(field.pipes);
+        EXPECT_EQ(field.pipes.pipesPerTrench, 6);
+        EXPECT_EQ(field.pipes.offsetRows, 1);
+    }
+}
+
 TEST(TrenchDepth, OfACoilHasNoLimit) {
     for (std::int16_t arrangement : {lyingCoil, standingCoil}) {
         HeldField field = fieldOf(arrangement, 1);

@@ -135,6 +135,34 @@ TEST_F(BoreholeLengthSummary, AreStaleOnceAnInputHasChanged) {
     EXPECT_EQ(design->lengthSummary().state, State::fresh);
 }
 
+TEST_F(BoreholeLengthSummary, OfAFileDoNotClaimToAnswerItsInputs) {
+    enterHandCheck();
+    change(*design, [](BoreholeProject& of) {
+        of.results.edit().lengths.boreLength = {1910.475, 1010.005};
+    });
+    design->loadsFound(false);
+    const LengthSummary kept = design->lengthSummary();
+    EXPECT_EQ(kept.state, State::kept);
+    EXPECT_TRUE(kept.parts.empty());
+    EXPECT_EQ(kept.length, (ByMode<std::string>{"1910.5 ft", "1010.0 ft"}));
+    typeAndLeave("SOGroundTempText", "58");
+    EXPECT_EQ(design->lengthSummary().state, State::stale);
+    calculate();
+    EXPECT_EQ(design->lengthSummary().state, State::fresh);
+    EXPECT_FALSE(design->lengthSummary().parts.empty());
+}
+
+TEST(LengthSummaries, OfARunThatFindsNoLengthAreNoneOfAFile) {
+    LengthSummary none;
+    none.state = State::fresh;
+    EXPECT_EQ(withParts(none, {}).state, State::fresh);
+    none.feet = {0, 12};
+    EXPECT_EQ(withParts(none, {}).state, State::kept);
+    EXPECT_EQ(withParts(none, {{"", {0, 12}, {"", ""}}}).state, State::fresh);
+    none.state = State::stale;
+    EXPECT_EQ(withParts(none, {}).state, State::stale);
+}
+
 class TrenchLengthSummary : public HorizontalWindow {
  protected:
     TrenchLengthSummary() { texts.known.insert(words().begin(), words().end()); }

@@ -49,6 +49,13 @@ class WhatIfTexts : public testing::Test {
         return what;
     }
 
+    /// The note where the other method has no length to compare with.
+    std::string noteAlone(const WhatIfInputs& inputs) const {
+        WhatIf alone = found();
+        alone.otherNeed = 0;
+        return whatIfNote(teller, alone, inputs);
+    }
+
     FakeTexts texts;
     WhatIfTeller teller{texts, UnitSystem::english};
 };
@@ -116,18 +123,13 @@ TEST_F(WhatIfTexts, SayWhatIsNotInTheFigureAndWhoseFiguresTheyAre) {
 }
 
 TEST_F(WhatIfTexts, CallTheSpreadsOfTheGroundsKnowledgeTheProgramsOwn) {
-    WhatIf alone = found();
-    alone.otherNeed = 0;
     WhatIfInputs inputs;
     inputs.knowledge = responseTest;
     inputs.spreads = withKnowledge({}, responseTest);
-    EXPECT_EQ(whatIfNote(teller, alone, inputs),
-              "Not counted. Spreads not yours. Prices not yours, $.");
+    EXPECT_EQ(noteAlone(inputs), "Not counted. Spreads not yours. Prices not yours, $.");
 }
 
 TEST_F(WhatIfTexts, CallNothingTheProgramsOwnOnceAllIsTyped) {
-    WhatIf alone = found();
-    alone.otherNeed = 0;
     WhatIfInputs inputs;
     inputs.knowledge = knownAsTyped;
     for (std::size_t j = 0; j < method; ++j) ++inputs.spreads.low[j];
@@ -136,7 +138,7 @@ TEST_F(WhatIfTexts, CallNothingTheProgramsOwnOnceAllIsTyped) {
                         &prices.costTrench, &prices.costTower, &prices.costCare, &prices.costGround,
                         &prices.costPipe, &prices.costEnergy})
         ++*sum;
-    EXPECT_EQ(whatIfNote(teller, alone, inputs), "Not counted. Prices in $.");
+    EXPECT_EQ(noteAlone(inputs), "Not counted. Prices in $.");
 }
 
 TEST_F(WhatIfTexts, TellAReasonInTheUnitsShown) {

@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QComboBox>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 
 #include "desk.h"
@@ -85,6 +86,65 @@ TEST_F(Assistive, ChoosesAnEntryOfAComboThatIsNotOpen) {
     Desk::settle();
     EXPECT_EQ(design->control("FLFluidTypeCombo").index(), 3);
     EXPECT_EQ(fluids.currentIndex(), 3);
+}
+
+TEST_F(Assistive, WritesIntoAComboAsIfItWereTypedAndLeft) {
+    auto& fluids = static_cast<QComboBox&>(widget("FLFluidTypeCombo", 1));
+    fluids.clearFocus();
+    QAccessibleInterface& line = told(*fluids.lineEdit());
+    EXPECT_EQ(plain(line.text(QAccessible::Name)), "Fluid Type");
+    line.setText(QAccessible::Value, QStringLiteral("Site mixture"));
+    Desk::settle();
+    EXPECT_EQ(design->control("FLFluidTypeCombo").text(), "Site mixture");
+    EXPECT_EQ(design->control("FLFluidTypeCombo").index(), -1);
+    EXPECT_EQ(design->visitedField(), "");
+    line.editableTextInterface()->insertText(0, QStringLiteral("The "));
+    Desk::settle();
+    EXPECT_EQ(design->control("FLFluidTypeCombo").text(), "The Site mixture");
+    line.editableTextInterface()->deleteText(0, 4);
+    Desk::settle();
+    EXPECT_EQ(design->control("FLFluidTypeCombo").text(), "Site mixture");
+    EXPECT_EQ(plain(fluids.currentText()), "Site mixture");
+}
+
+TEST_F(Assistive, ChoosesTheEntryOfAComboWhoseNameItWrites) {
+    auto& fluids = static_cast<QComboBox&>(widget("FLFluidTypeCombo", 1));
+    const std::string entry = design->control("FLFluidTypeCombo").items()[2];
+    told(*fluids.lineEdit()).setText(QAccessible::Value, qt(entry));
+    Desk::settle();
+    EXPECT_EQ(design->control("FLFluidTypeCombo").index(), 2);
+    EXPECT_EQ(fluids.currentIndex(), 2);
+}
+
+/// The toolkit tells of the new text before it tells of the choice.
+TEST_F(Assistive, IsNotTakenForAPersonWhoChoosesOrTypes) {
+    auto& fluids = static_cast<QComboBox&>(widget("FLFluidTypeCombo", 1));
+    const Binder& binder = desk.shelf.windowOf(*design)->binder();
+    const int before = binder.actions();
+    fluids.setCurrentIndex(2);
+    Q_EMIT fluids.activated(2);
+    Desk::settle();
+    EXPECT_EQ(binder.actions(), before + 1);
+    fluids.lineEdit()->selectAll();
+    QInputMethodEvent typed;
+    typed.setCommitString(QStringLiteral("Site mixture"));
+    QCoreApplication::sendEvent(fluids.lineEdit(), &typed);
+    Desk::settle();
+    EXPECT_EQ(binder.actions(), before + 2);
+    EXPECT_EQ(design->control("FLFluidTypeCombo").text(), "Site mixture");
+}
+
+/// The bus offers to write into a field whatever keys may do.
+TEST_F(Assistive, WritesNothingIntoALockedField) {
+    auto& percent = static_cast<QLineEdit&>(widget("FLPercentAntifreezeText", 1));
+    design->choose("FLFluidTypeCombo", 0);
+    const Control& held = design->control("FLPercentAntifreezeText");
+    ASSERT_TRUE(held.locked());
+    const std::string before = held.text();
+    told(percent).setText(QAccessible::Value, QStringLiteral("50"));
+    Desk::settle();
+    EXPECT_EQ(held.text(), before);
+    EXPECT_EQ(plain(percent.text()), before);
 }
 
 TEST_F(Assistive, ClicksOnceWhereAPersonDoes) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QWhatsThis>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -70,6 +71,8 @@ class Desk {
         program.start();
     }
     ~Desk() {
+        // The question mark would take the first press of the mouse of the next desk.
+        QWhatsThis::leaveWhatsThisMode();
         for (ChildWindow* child : main().windows()) shelf.closed(*child);
         window.reset();
         settle();
@@ -86,6 +89,13 @@ class Desk {
         return places;
     }
     const std::string& folder() const { return folder_; }
+    /// Gives the command to open a window, and a person the keyboard of that window.
+    ChildWindow& opened(const std::string& command) {
+        main().click(command);
+        window->activateWindow();
+        settle();
+        return *main().activeWindow();
+    }
     /// Lets the toolkit do what it has put off.
     static void settle() {
         for (int round = 0; round < 5; ++round) QCoreApplication::processEvents();

@@ -2,7 +2,9 @@
 // What a person is told, and what finds its way by keys and names.
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QAction>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -31,12 +33,7 @@ namespace {
 
 class Feedback : public testing::Test {
  protected:
-    Feedback() {
-        desk.main().click("NewBorehole");
-        design = desk.main().activeWindow();
-        desk.window->activateWindow();
-        Desk::settle();
-    }
+    Feedback() { design = &desk.opened("NewBorehole"); }
     ~Feedback() override { EXPECT_TRUE(desk.faults.empty()); }
 
     QWidget& widget(const std::string& name) {
@@ -180,7 +177,11 @@ TEST_F(Feedback, DimsOlderResultsAndMarksTheirPage) {
     const auto figureIsDimmed = [&](const char* label) {
         return dynamic_cast<TextLabel&>(widget(label)).isDimmed();
     };
+    const auto toneOf = [&](const char* button) {
+        return plain(widget(button).property("tone").toString());
+    };
     EXPECT_TRUE(tabs().tabIcon(0).isNull());
+    EXPECT_EQ(toneOf("CACalculateCommand"), "primary");
     EXPECT_FALSE(figureIsDimmed("CATotalLengthLabel(0)"));
     // Another window changes the loads.
     ChildWindow& loads = *desk.main().find("frmZoneManage");
@@ -189,12 +190,14 @@ TEST_F(Feedback, DimsOlderResultsAndMarksTheirPage) {
     Desk::settle();
     EXPECT_FALSE(tabs().tabIcon(0).isNull());
     EXPECT_FALSE(tabs().tabToolTip(0).isEmpty());
+    EXPECT_EQ(toneOf("CACalculateCommand"), "stale") << "though its window is not active";
     EXPECT_TRUE(figureIsDimmed("CATotalLengthLabel(0)"));
     EXPECT_TRUE(figureIsDimmed("CAUnitOutletLabel(1)"));
     EXPECT_FALSE(figureIsDimmed("CASecondLengthLabel(0)")) << "it follows what is typed";
     loads.undo();
     Desk::settle();
     EXPECT_TRUE(tabs().tabIcon(0).isNull());
+    EXPECT_EQ(toneOf("CACalculateCommand"), "primary");
     EXPECT_FALSE(figureIsDimmed("CATotalLengthLabel(0)"));
 }
 
@@ -273,6 +276,27 @@ TEST_F(Keys, EscapeLeavesAnOpenPanel) {
     ASSERT_TRUE(loads->control("LOSummaryPicture").visible());
     press(Qt::Key_Escape);
     EXPECT_FALSE(loads->control("LOSummaryPicture").visible());
+}
+
+TEST_F(Keys, EscapeClosesAnOpenListAndNotThePanelAroundIt) {
+    desk.main().click("mnuZoneManage");
+    Form* loads = desk.main().activeWindow();
+    loads->click("LONewCommand");
+    loads->click("LOSelectCommand");
+    Desk::settle();
+    ASSERT_TRUE(loads->control("LOSelectFrame").visible());
+    auto& combo = static_cast<QComboBox&>(
+        *desk.shelf.windowOf(*loads)->binder().require("LOMfgCombo")->widget());
+    combo.showPopup();
+    Desk::settle();
+    const QWidget* list = QApplication::activePopupWidget();
+    ASSERT_NE(list, nullptr);
+    QTest::keyClick(list->windowHandle(), Qt::Key_Escape);
+    Desk::settle();
+    EXPECT_FALSE(combo.view()->isVisible());
+    EXPECT_TRUE(loads->control("LOSelectFrame").visible());
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(loads->control("LOSelectFrame").visible());
 }
 
 TEST_F(Keys, AltAndHAreTheHelpAndNoMenusShareALetter) {
@@ -398,7 +422,10 @@ TEST_F(FirstMinutes, ADesignWithoutLoadsOffersTheWindowsInWhichTheyAreEntered) {
     ASSERT_NE(first, nullptr);
     ASSERT_TRUE(first->isVisible());
     const QList<QPushButton*> commands = first->findChildren<QPushButton*>();
-    ASSERT_EQ(commands.size(), 2);
+    ASSERT_EQ(commands.size(), 3);
+    commands[2]->click();
+    Desk::settle();
+    EXPECT_TRUE(desk.platform.told.back().starts_with("Nothing is linked: "));
     commands[0]->click();
     Desk::settle();
     EXPECT_NE(dynamic_cast<frmZoneManage*>(desk.main().activeWindow()), nullptr);
@@ -406,7 +433,10 @@ TEST_F(FirstMinutes, ADesignWithoutLoadsOffersTheWindowsInWhichTheyAreEntered) {
     Desk::settle();
     EXPECT_NE(dynamic_cast<frmAvgBlock*>(desk.main().activeWindow()), nullptr);
     desk.main().activeWindow()->click("LONewCommand");
-    desk.main().click("mnuLink");
+    desk.main().close(*desk.main().find("frmZoneManage"));
+    desk.main().activate(design);
+    Desk::settle();
+    commands[2]->click();
     Desk::settle();
     EXPECT_FALSE(first->isVisible());
 }

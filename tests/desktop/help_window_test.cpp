@@ -253,5 +253,14 @@ TEST_F(HelpWindowTest, IsShownFromAFolderThatMayNotBeWrittenTo) {
     EXPECT_NE(pageText().find("Varnholt help"), std::string::npos);
 }
 
+TEST(QuestionMark, GoesWithTheDeskThatAskedForIt) {
+    {
+        Desk desk;
+        desk.main().click("mnuWhatsThis");
+        EXPECT_TRUE(QWhatsThis::inWhatsThisMode());
+    }
+    EXPECT_FALSE(QWhatsThis::inWhatsThisMode());
+}
+
 }  // namespace
 }  // namespace varnholt

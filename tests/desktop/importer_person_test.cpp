@@ -20,12 +20,6 @@ class ImportPerson : public testing::Test {
  protected:
     ~ImportPerson() override { EXPECT_TRUE(desk.faults.empty()); }
 
-    Form& open(const char* command) {
-        desk.main().click(command);
-        desk.window->activateWindow();
-        Desk::settle();
-        return *desk.main().activeWindow();
-    }
     template <class Widget>
     Widget& widget(Form& form, const std::string& name) {
         return *qobject_cast<Widget*>(desk.shelf.windowOf(form)->binder().widget(name));
@@ -35,7 +29,7 @@ class ImportPerson : public testing::Test {
 };
 
 TEST_F(ImportPerson, ClicksACellTypesAndGoesOnWithEnter) {
-    Form& form = open("mnuMonthlyLoadsImport");
+    Form& form = desk.opened("mnuMonthlyLoadsImport");
     auto& edit = widget<QLineEdit>(form, "txtImport1");
     auto& cell = widget<QLabel>(form, "lblTotal(3)");
     QTest::mouseClick(&cell, Qt::LeftButton);
@@ -61,7 +55,7 @@ TEST_F(ImportPerson, ClicksACellTypesAndGoesOnWithEnter) {
 }
 
 TEST_F(ImportPerson, SeesTheModeOnScreenPressed) {
-    Form& form = open("mnuMonthlyLoadsImport");
+    Form& form = desk.opened("mnuMonthlyLoadsImport");
     auto& cool = widget<QAbstractButton>(form, "cmdCoolHeat(0)");
     auto& heat = widget<QAbstractButton>(form, "cmdCoolHeat(1)");
     QTest::mouseClick(&heat, Qt::LeftButton);
@@ -73,7 +67,7 @@ TEST_F(ImportPerson, SeesTheModeOnScreenPressed) {
 }
 
 TEST_F(ImportPerson, GoesDownTheHoursCalculatorWithEnter) {
-    Form& form = open("mnuEqvHours");
+    Form& form = desk.opened("mnuEqvHours");
     auto& first = widget<QLineEdit>(form, "txtEqvHours(0)");
     first.setFocus();
     first.selectAll();
@@ -94,7 +88,7 @@ TEST_F(ImportPerson, FindsTheResultOfACalculatorLargest) {
          {std::tuple{"mnuDiffCalc", "txtDiffCalc(4)", "txtDiffCalc(0)"},
           std::tuple{"mnuPumpPowerCalc", "txtPumpPowerCalc(0)", "txtPumpPowerCalc(1)"},
           std::tuple{"mnuEqvHours", "txtEqvHours(13)", "txtEqvHours(0)"}}) {
-        Form& form = open(command);
+        Form& form = desk.opened(command);
         EXPECT_GT(widget<QLineEdit>(form, result).height(), widget<QLineEdit>(form, input).height())
             << command;
     }

@@ -78,6 +78,21 @@ TEST(ButtonKeys, AreLeftToTheButtonThatAnotherOneRepeats) {
     EXPECT_NE(plain(beginners.text()), "New");
 }
 
+TEST(ButtonKeys, AreGivenFirstToTheButtonThatTheWindowIsAbout) {
+    QWidget window;
+    QPushButton calculator(QStringLiteral("Pump Power Calculator"), &window);
+    QPushButton calculate(QStringLiteral("Calculate"), &window);
+    QMenuBar menus(&window);
+    for (const char* menu : {"&Pumps", "T&ables", "&Loads", "&Units", "&Tools", "&Edit"})
+        menus.addAction(QString::fromLatin1(menu));
+    calculate.setProperty(mainButtonProperty, true);
+    window.show();
+    giveKeys(window);
+    EXPECT_EQ(plain(calculate.text()), "&Calculate");
+    // Of "Pump Power Calculator" no word begins with a free letter: the first free one is the m.
+    EXPECT_EQ(plain(calculator.text()), "Pu&mp Power Calculator");
+}
+
 TEST(ButtonKeys, KeepThoseThatTheWordsMarkThemselves) {
     EXPECT_EQ(markedWords({"S&ystem", "Yes"}, nullptr),
               (std::vector<std::string>{"S&ystem", "Y&es"}));
@@ -97,12 +112,6 @@ class ByKeyboard : public testing::Test {
  protected:
     ~ByKeyboard() override { EXPECT_TRUE(desk.faults.empty()); }
 
-    ChildWindow& opened(const char* command) {
-        desk.main().click(command);
-        desk.window->activateWindow();
-        Desk::settle();
-        return *desk.main().activeWindow();
-    }
     QWidget& widget(const Form& form, const char* name) {
         return *desk.shelf.windowOf(form)->binder().require(name)->widget();
     }
@@ -120,7 +129,7 @@ class ByKeyboard : public testing::Test {
 };
 
 TEST_F(ByKeyboard, HasAKeyForEveryButtonOfTheLoadsWindow) {
-    ChildWindow& loads = opened("mnuAvgBlock");
+    ChildWindow& loads = desk.opened("mnuAvgBlock");
     loads.click("LONewCommand");
     Desk::settle();
     int marked = 0;
@@ -136,7 +145,7 @@ TEST_F(ByKeyboard, HasAKeyForEveryButtonOfTheLoadsWindow) {
 }
 
 TEST_F(ByKeyboard, MakesTheFirstZoneByTheKeyOfTwoButtonsThatSayTheSame) {
-    ChildWindow& loads = opened("mnuZoneManage");
+    ChildWindow& loads = desk.opened("mnuZoneManage");
     press(Qt::Key_N, Qt::AltModifier);
     // A button that is pressed by its key shows that for a moment before it acts.
     EXPECT_TRUE(
@@ -144,7 +153,7 @@ TEST_F(ByKeyboard, MakesTheFirstZoneByTheKeyOfTwoButtonsThatSayTheSame) {
 }
 
 TEST_F(ByKeyboard, TypesNoLetterIntoANumberByAKeyThatNoButtonHas) {
-    ChildWindow& design = opened("NewBorehole");
+    ChildWindow& design = desk.opened("NewBorehole");
     design.choose("BHTabs", 2);
     Desk::settle();
     auto& edit = static_cast<QLineEdit&>(focused(design, "SOGroundTempText"));
@@ -153,7 +162,7 @@ TEST_F(ByKeyboard, TypesNoLetterIntoANumberByAKeyThatNoButtonHas) {
 }
 
 TEST_F(ByKeyboard, ShowsAFieldThatIsOnlyReadByItsRingToo) {
-    ChildWindow& loads = opened("mnuAvgBlock");
+    ChildWindow& loads = desk.opened("mnuAvgBlock");
     loads.click("LONewCommand");
     Desk::settle();
     QWidget& edit = focused(loads, "LOPowerText(1)");
@@ -164,7 +173,7 @@ TEST_F(ByKeyboard, ShowsAFieldThatIsOnlyReadByItsRingToo) {
 }
 
 TEST_F(ByKeyboard, ComesBackToTheButtonThatHasOpenedAPanel) {
-    ChildWindow& loads = opened("mnuAvgBlock");
+    ChildWindow& loads = desk.opened("mnuAvgBlock");
     loads.click("LONewCommand");
     Desk::settle();
     QWidget& select = focused(loads, "LOSelectCommand");
@@ -179,8 +188,8 @@ TEST_F(ByKeyboard, ComesBackToTheButtonThatHasOpenedAPanel) {
 }
 
 TEST_F(ByKeyboard, ClosesTheWindowInFront) {
-    opened("NewBorehole");
-    opened("NewHorizontal");
+    desk.opened("NewBorehole");
+    desk.opened("NewHorizontal");
     press(Qt::Key_W, Qt::ControlModifier);
     ASSERT_EQ(desk.main().windows().size(), 1U);
     EXPECT_EQ(desk.main().activeWindow()->formName(), "frmBHDesign");
@@ -189,7 +198,7 @@ TEST_F(ByKeyboard, ClosesTheWindowInFront) {
 }
 
 TEST_F(ByKeyboard, LeavesAWindowBesideAnotherByEscapeAndNoOtherOne) {
-    ChildWindow& design = opened("NewBorehole");
+    ChildWindow& design = desk.opened("NewBorehole");
     design.click("CASecondOpinionCommand");
     Desk::settle();
     ASSERT_EQ(desk.main().activeWindow()->formName(), "frmSecondOpinion");
@@ -200,7 +209,7 @@ TEST_F(ByKeyboard, LeavesAWindowBesideAnotherByEscapeAndNoOtherOne) {
 }
 
 TEST_F(ByKeyboard, BeginsAtTheChosenOptionOfAWindow) {
-    ChildWindow& design = opened("NewBorehole");
+    ChildWindow& design = desk.opened("NewBorehole");
     design.click("CAWhatIfCommand");
     Desk::settle();
     ChildWindow& what = *desk.main().activeWindow();
@@ -222,7 +231,7 @@ TEST_F(ByKeyboard, PressesAButtonOfTheToolbarByEnter) {
 }
 
 TEST_F(ByKeyboard, TakesEveryPictureOnShowByTheMenuKey) {
-    ChildWindow& design = opened("NewBorehole");
+    ChildWindow& design = desk.opened("NewBorehole");
     QWidget& button = focused(design, "CASecondOpinionCommand");
     QStringList names;
     QTimer::singleShot(0, [&] {

@@ -40,6 +40,15 @@ TEST(LengthPicture, SaysWhatToDoBeforeARun) {
               pictureTexts().text(Text::lengthPartsEmpty));
 }
 
+TEST(LengthPicture, OfAFileSaysThatItsPartsAreNotKept) {
+    LengthSummary lengths = sampleLengths();
+    lengths.parts.clear();
+    lengths.state = LengthSummary::State::kept;
+    EXPECT_EQ(describe(lengths, pictureTexts()),
+              "The file keeps the lengths, but not what they are made of. Press Calculate to see "
+              "it.");
+}
+
 /// One long-term part for each mode in a picture without words.
 LengthSummary twoBars(double cool, double heat) {
     LengthSummary lengths = sampleLengths();
@@ -80,6 +89,35 @@ TEST(LengthPicture, DrawsWhatShortensLeftwardOfTheLineAtZero) {
     EXPECT_LT(firstHeat, firstCool - 50);
 }
 
+TEST(LengthPicture, LeavesTheMarkOfTheLengthFreeOfFigures) {
+    // A part of 1000 ft that the next shortens to 520: the mark goes through the middle of its bar.
+    LengthSummary lengths = twoBars(520, 520);
+    lengths.parts = {{"", {1000, 1000}, {"1000.0 ft", "1000.0 ft"}}, {"", {-480, -480}, {"", ""}}};
+    const DrawingSample sample{"", {520, 130}, [&](const Canvas& canvas) {
+                                   paintLengths(canvas, lengths, pictureTexts());
+                               }};
+    LengthSummary wordless = lengths;
+    wordless.parts[0].length = {"", ""};
+    const DrawingSample bare{"", {520, 130}, [&](const Canvas& canvas) {
+                                 paintLengths(canvas, wordless, pictureTexts());
+                             }};
+    const QImage image = renderedSample(sample, lightLook(), 1);
+    const QImage without = renderedSample(bare, lightLook(), 1);
+    EXPECT_NE(image, without) << "the figure stands beside the mark";
+    // The mark is a column of ink over the height of a bar and beyond: beside it nothing differs.
+    int marks = 0;
+    for (int x = 80; x < without.width() - 2; ++x) {
+        int ink = 0;
+        for (int y = 0; y < 45; ++y)
+            if (without.pixelColor(x, y) == lightLook().ink) ++ink;
+        if (ink < 20) continue;
+        ++marks;
+        for (int near = x - 2; near <= x + 2; ++near)
+            for (int y = 0; y < 45; ++y) EXPECT_EQ(image.pixel(near, y), without.pixel(near, y));
+    }
+    EXPECT_GT(marks, 0);
+}
+
 TEST(LengthStrips, TellTheLengthsAndWhetherTheyAreThoseOfTheInputs) {
     LengthSummary lengths = sampleLengths();
     LengthStrip strip([&] { return lengths; }, pictureTexts());
@@ -90,6 +128,10 @@ TEST(LengthStrips, TellTheLengthsAndWhetherTheyAreThoseOfTheInputs) {
     strip.refresh();
     EXPECT_EQ(plain(strip.accessibleName()),
               "Required length: cooling 2029.1 ft, heating 1420.1 ft. Out of date.");
+    lengths.state = LengthSummary::State::kept;
+    strip.refresh();
+    EXPECT_EQ(plain(strip.accessibleName()),
+              "Required length: cooling 2029.1 ft, heating 1420.1 ft. As in the file.");
     lengths = {};
     strip.refresh();
     EXPECT_EQ(plain(strip.accessibleName()), "Not calculated yet");

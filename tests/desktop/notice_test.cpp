@@ -6,11 +6,13 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiArea>
 #include <QTest>
 #include <algorithm>
 #include <filesystem>
 #include <map>
 
+#include "basis/file_system.h"
 #include "desk.h"
 #include "desktop/binding/form_window.h"
 #include "desktop/widgets/look.h"
@@ -93,6 +95,21 @@ TEST_F(NoticeLine, IsWorkedByKey) {
     EXPECT_FALSE(bar().isVisible());
 }
 
+TEST_F(NoticeLine, LeavesTheKeyToTheButtonThatItsOwnOneStandsInFor) {
+    calculate();
+    type("58");
+    ASSERT_TRUE(bar().isVisible());
+    const auto& calculation = static_cast<QAbstractButton&>(widget("CACalculateCommand"));
+    EXPECT_EQ(plain(calculation.text()), "&Calculate");
+    EXPECT_EQ(plain(action().text()), "Calculate");
+    EXPECT_TRUE(action().shortcut().isEmpty());
+    design->choose("BHTabs", 5);
+    Desk::settle();
+    EXPECT_EQ(plain(calculation.text()), "&Calculate") << "beside the Pump Power Calculator";
+    EXPECT_NE(static_cast<QAbstractButton&>(widget("EKWPumpPowerCommand")).shortcut(),
+              calculation.shortcut());
+}
+
 TEST_F(NoticeLine, MovesNoFieldWhenItComesAndGoes) {
     calculate();
     const auto place = [this] { return temperature().mapTo(desk.window.get(), QPoint()); };
@@ -131,6 +148,29 @@ TEST_F(NoticeLine, WrapsALongTextAndShowsItWhole) {
     EXPECT_GE(label->height(), label->heightForWidth(label->width()));
     EXPECT_TRUE(bar().rect().contains(label->geometry()));
     EXPECT_TRUE(bar().rect().contains(action().geometry()));
+}
+
+TEST_F(NoticeLine, AboveAllWindowsGoesByItsButton) {
+    const std::string letter = desk.folder() + "/letter.vht";
+    replaceWholeFile(letter, "Dear aunt");
+    desk.platform.picks = {letter};
+    desk.window->menu().action("mnuFileOpen")->trigger();
+    Desk::settle();
+    auto* label = desk.window->centralWidget()->findChild<QLabel*>(QStringLiteral("NoticeLabel"));
+    ASSERT_NE(label, nullptr);
+    EXPECT_TRUE(label->isVisible());
+    EXPECT_EQ(plain(label->text()),
+              "letter.vht was not opened: it ends before it begins as a file of this program does. "
+              "Choose another file, or an earlier copy of this one.");
+    auto* close = label->parentWidget()->findChild<QAbstractButton*>();
+    ASSERT_NE(close, nullptr);
+    const int above = label->parentWidget()->parentWidget()->height();
+    const int area = desk.window->area().height();
+    QTest::mouseClick(close, Qt::LeftButton);
+    Desk::settle();
+    EXPECT_FALSE(label->isVisible());
+    EXPECT_EQ(desk.main().control("NoticeLabel").caption(), "");
+    EXPECT_EQ(desk.window->area().height(), area + above);
 }
 
 /// The ground of a picture, and the colour on it that stands out most.

@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -32,6 +33,9 @@ class Previews : public testing::Test {
         ReportPreview* preview = windows.show(report);
         Desk::settle();
         return *preview;
+    }
+    std::string toldInPassing() {
+        return plain(desk.window->findChild<QLabel*>(QStringLiteral("toldLabel"))->text());
     }
     static void trigger(ReportPreview& preview, const char* name) {
         preview.findChild<QAction*>(QString::fromLatin1(name))->trigger();
@@ -160,6 +164,7 @@ TEST_F(Previews, SaveEveryKindOfFile) {
     for (const char* name : {"a.pdf", "a.html", "a.csv"}) {
         preview.saveAs(folder / name);
         EXPECT_GT(std::filesystem::file_size(folder / name), 500U) << name;
+        EXPECT_EQ(toldInPassing(), "Saved as " + (folder / name) + ".");
     }
     EXPECT_TRUE(desk.platform.messages.empty());
 }
@@ -170,6 +175,7 @@ TEST_F(Previews, TellWhatCannotBeSavedAndLeaveNothingBehind) {
     ASSERT_EQ(desk.platform.messages.size(), 1U);
     EXPECT_NE(desk.platform.messages[0].text.find("missing/a.pdf"), std::string::npos);
     EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
+    EXPECT_EQ(toldInPassing(), "");
 }
 
 TEST_F(Previews, CopyThePageInFrontAsText) {
@@ -178,6 +184,7 @@ TEST_F(Previews, CopyThePageInFrontAsText) {
     const QString text = QGuiApplication::clipboard()->text();
     EXPECT_TRUE(text.contains(QStringLiteral("Borehole Design Project Report")));
     EXPECT_TRUE(text.contains(QStringLiteral("1 / ")));
+    EXPECT_EQ(toldInPassing(), std::to_string(text.count(u'\n')) + " lines copied.");
 }
 
 TEST_F(Previews, CopyAPageWithItsColumns) {

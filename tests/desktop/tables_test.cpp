@@ -346,6 +346,20 @@ TEST_F(ZoneColumnsTest, AreOpenedFromTheSummary) {
     auto& summary = static_cast<ListView&>(widget("LOZoneSummaryList"));
     summary.onOpened(3);  // the second line of the second zone
     EXPECT_EQ(loads->selectedZone(), 1);
+    EXPECT_FALSE(widget("LOZoneReferenceText").visibleRegion().isEmpty());
+}
+
+TEST_F(ZoneColumnsTest, BringAClickedZoneIntoSightBelowTheSummary) {
+    loads->click("LOSummaryCommand");
+    Desk::settle();
+    ASSERT_TRUE(widget("LOZoneReferenceText").visibleRegion().isEmpty()) << "the summary is long";
+    QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
+                      list().visualRect(list().model()->index(1, 0)).center());
+    Desk::settle();
+    EXPECT_EQ(loads->selectedZone(), 1);
+    EXPECT_FALSE(widget("LOZoneReferenceText").visibleRegion().isEmpty());
+    EXPECT_FALSE(widget("LOGainsText(0)").visibleRegion().isEmpty());
+    EXPECT_TRUE(loads->control("LOSummaryPicture").visible()) << "it stays as it was left";
 }
 
 }  // namespace

@@ -41,12 +41,15 @@ TEST_F(TabularFaces, AreTheFaceOfTheLabels) {
     EXPECT_EQ(QFontMetricsF(figureFont(labels())).height(), QFontMetricsF(labels()).height());
 }
 
+// The face's own tabular 4 is up to 0.4 of 200 pixels narrower than the others in its bold weights,
+// a fortieth of a pixel in a field.
 TEST_F(TabularFaces, HaveDigitsOfOneWidthInEveryWeight) {
-    ASSERT_NE(width(labels(), QStringLiteral("1")), width(labels(), QStringLiteral("0")));
+    const auto zero = QStringLiteral("0"), one = QStringLiteral("1");
+    ASSERT_GT(width(labels(), zero) - width(labels(), one), 20) << "which the labels have not";
     for (const auto weight : {QFont::Normal, QFont::Medium, QFont::DemiBold, QFont::Bold}) {
         const QFont font = figureFont(labels(weight));
         for (int digit = 1; digit < 10; ++digit)
-            EXPECT_EQ(width(font, QString::number(digit)), width(font, QStringLiteral("0")))
+            EXPECT_NEAR(width(font, QString::number(digit)), width(font, zero), 0.4)
                 << digit << " at " << weight;
     }
 }
@@ -56,6 +59,7 @@ TEST_F(TabularFaces, KeepTheWeightsApart) {
         return QRawFont::fromFont(figureFont(labels(weight))).weight();
     };
     EXPECT_EQ(weightOf(QFont::Normal), QFont::Normal);
+    EXPECT_EQ(weightOf(QFont::Medium), QFont::Medium);
     EXPECT_EQ(weightOf(QFont::DemiBold), QFont::DemiBold);
     EXPECT_EQ(weightOf(QFont::Bold), QFont::Bold);
 }

@@ -48,17 +48,22 @@ void forEveryForm(Desk& desk, const Inspect& inspect) {
     EXPECT_GE(seen.size(), 4U);
 }
 
+/// Builds all of the window and shows it at its usual size.
+void showWhole(FormWindow& window) {
+    window.binder().buildAll();
+    dress(window);
+    window.resize(window.sizeHint());
+    window.show();
+    Desk::settle();
+}
+
 /// The same with each form in a window that is all built and shown at its usual size.
 void forEveryWindow(const std::function<void(Form&, FormWindow&)>& inspect) {
     Desk desk;
     const ViewRegistry views;
     forEveryForm(desk, [&](Form& form) {
         FormWindow window(form, views.maker(), {});
-        window.binder().buildAll();
-        dress(window);
-        window.resize(window.sizeHint());
-        window.show();
-        Desk::settle();
+        showWhole(window);
         inspect(form, window);
     });
 }
@@ -136,11 +141,7 @@ class Views : public testing::TestWithParam<Case> {
     void inspect(Form& form) const {
         for (const auto& control : form.controls()) lengthen(*control);
         FormWindow window(form, views_.maker(), {});
-        window.binder().buildAll();
-        dress(window);
-        window.resize(window.sizeHint());
-        window.show();
-        Desk::settle();
+        showWhole(window);
         expectNothingClipped(form, window);
     }
 

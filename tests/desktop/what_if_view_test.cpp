@@ -2,7 +2,10 @@
 // What If in the real windows: found while nobody types, walked in reading order, pressed.
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
+#include <QLabel>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <algorithm>
 #include <iterator>
 #include <set>
@@ -10,6 +13,7 @@
 #include "design/frmWhatIf.h"
 #include "desktop/drawings/what_if_paintings.h"
 #include "desktop/views/comparison_table.h"
+#include "desktop/widgets/figure_text.h"
 #include "desktop/widgets/qt_text.h"
 #include "drawing_samples.h"
 #include "forms/text_numbers/what_if_window.h"
@@ -25,12 +29,10 @@ class WhatIfView : public LateWindow<frmWhatIf> {
     frmWhatIf& what() { return late(); }
     /// Where the tornado's bars stand, as it is painted.
     std::vector<QRectF> rowsOf(const QWidget& tornado) {
-        std::vector<QRectF> rows;
-        const auto paint = [&](const Canvas& canvas) {
-            rows = paintTornado(canvas, what().tornadoPicture(), what().texts());
-        };
-        renderedSample({"tornado", tornado.size(), paint}, lightLook(), 1);
-        return rows;
+        QImage image(tornado.size(), QImage::Format_RGB32);
+        QPainter painter(&image);
+        return paintTornado(canvasFor(painter, tornado.rect(), tornado.palette(), tornado.font()),
+                            what().tornadoPicture(), what().texts());
     }
 };
 
@@ -249,6 +251,40 @@ TEST_F(WhatIfView, ClosesWhileItIsMaximisedWithAnyPageInFront) {
     Desk::settle();
     EXPECT_TRUE(desk.main().windowsNamed("frmWhatIf").empty());
     EXPECT_TRUE(desk.faults.empty());
+}
+
+/// A person sees thin spaces where scripts and screen readers read commas.
+TEST_F(WhatIfView, ShowsThinSpacesInItsSentencesAndTellsCommas) {
+    const QString sentence = QStringLiteral("3,249 ft of bore, $58,000");
+    what().choose("WITabs", 5);
+    auto* label = dynamic_cast<QLabel*>(widget("WTBestLabel"));
+    ASSERT_NE(label, nullptr);
+    label->setFixedSize(400, 60);
+    const auto shown = [&](const QString& text) {
+        label->setText(text);
+        return label->grab().toImage();
+    };
+    EXPECT_EQ(shown(sentence), shown(thinThousands(sentence)));
+    EXPECT_NE(shown(sentence), shown(QStringLiteral("3249 ft of bore, $58000")));
+    what().control("WTBestLabel").setCaption(plain(sentence));
+    EXPECT_EQ(label->text(), sentence);
+}
+
+TEST_F(WhatIfView, ShowsThinSpacesInTheLinesOfItsFields) {
+    what().choose("WITabs", 2);
+    auto* list = dynamic_cast<QAbstractItemView*>(widget("WLList"));
+    ASSERT_NE(list, nullptr);
+    const auto* lines = dynamic_cast<QStyledItemDelegate*>(list->itemDelegate());
+    ASSERT_NE(lines, nullptr);
+    EXPECT_EQ(lines->displayText(qt("5 by 6, 30 bores: $151,700"), QLocale::c()),
+              thinThousands(qt("5 by 6, 30 bores: $151,700")));
+    what().click("WIMeasureOption(0)");
+    what().click("WLSearchCommand");
+    idle();
+    const std::vector<std::string>& items = what().control("WLList").items();
+    ASSERT_FALSE(items.empty());
+    EXPECT_NE(items.front().find(','), std::string::npos);
+    EXPECT_EQ(plain(list->model()->index(0, 0).data().toString()), items.front());
 }
 
 TEST_F(WhatIfView, TellsInWhichUnitTheDepthsOfTheFieldsAre) {

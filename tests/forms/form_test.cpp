@@ -282,6 +282,13 @@ TEST_F(FormTest, AFieldOfOneLineTakesItsTextInOneLine) {
     EXPECT_EQ(form.name, "");
 }
 
+TEST_F(FormTest, AComboTakesItsTypedTextInOneLine) {
+    form.control("Combo").editableText();
+    platform.clipboardText = "Glycol\r\n30 %\r\n";
+    form.key("Combo", "Ctrl+V");
+    EXPECT_EQ(form.control("Combo").text(), "Glycol 30 %");
+}
+
 TEST_F(FormTest, PastingLeavesALockedFieldAlone) {
     platform.clipboardText = "Riverside";
     form.control("NameText").setLocked(true);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/text_numbers/feedback.h"
 #include "loads/link_fixture.h"
 
 namespace varnholt {
@@ -25,7 +26,9 @@ TEST_F(LinkEnd, FromTheDesign) {
     loads.setZones({zone(3)});
     PlainDesign& design = newDesign();
     link(design);
+    texts.known[Text::linkEnded] = "The link has ended.";
     main.click("mnuUnlink");
+    EXPECT_EQ(platform.told.back(), "The link has ended.");
     expectUnlinked(design);
     expectPlain(loads);
     // The design keeps its copy.

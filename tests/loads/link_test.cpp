@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/text_numbers/feedback.h"
 #include "forms/text_numbers/pictures.h"
 #include "forms/text_numbers/screen_reader.h"
 #include "loads/link_fixture.h"
@@ -26,8 +27,10 @@ TEST_F(Link, FromADesignTakesTheOnlyLoadsWindow) {
     loads.edit().file.folder = "/zones";
     loads.edit().file.exists = true;
     PlainDesign& design = newDesign();
+    texts.known[Text::linkMade] = "%1 is linked.";
     link(design);
 
+    EXPECT_EQ(platform.told, std::vector<std::string>{design.caption() + " is linked."});
     EXPECT_EQ(design.loads().linkType, "frmZoneManage");
     EXPECT_EQ(design.LoadsHome(), &loads);
     EXPECT_EQ(loads.links().designLinkID(), design.myID);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Pumps that the Zone Manager selects and updates by itself.
+#include "forms/text_numbers/feedback.h"
 #include "loads/pump_choice_fixture.h"
 
 namespace varnholt {
@@ -122,6 +123,7 @@ TEST_F(PumpSelectionTest, AutoSelectAllServesEveryZoneAndKeepsTheSelection) {
     window.choose("LOZoneList", 1);
     window.click("LOCustomPumpCheck");
     setSaved(window, "a.zon");
+    texts.known[Text::pumpsSelected] = "Pumps for %1 zones.";
     window.click("LOAutoSelectAllCommand");
     EXPECT_EQ(pumpOf(0).name, "Air-10");
     EXPECT_EQ(pumpOf(1).name, "Air-20");
@@ -131,6 +133,7 @@ TEST_F(PumpSelectionTest, AutoSelectAllServesEveryZoneAndKeepsTheSelection) {
     EXPECT_EQ(shown(window, "LOPumpNameText"), "Air-20");
     EXPECT_TRUE(window.hasUnsavedChanges());
     EXPECT_EQ(platform.progressSteps, (std::vector<std::size_t>{1, 2, 3}));
+    EXPECT_EQ(platform.told, std::vector<std::string>{"Pumps for 3 zones."});
 }
 
 TEST_F(PumpSelectionTest, AutoSelectAllNamesTheZonesWithoutAPumpInOneMessage) {
@@ -138,6 +141,7 @@ TEST_F(PumpSelectionTest, AutoSelectAllNamesTheZonesWithoutAPumpInOneMessage) {
     window.click("LOAutoSelectAllCommand");
     ASSERT_EQ(platform.messages.size(), 1U);
     EXPECT_EQ(lastMessage(), "[2941]\n\nZone 2, Zone 4");
+    EXPECT_TRUE(platform.told.empty());
     EXPECT_EQ(pumpOf(1).name, "No Pump");
     EXPECT_EQ(pumpOf(2).name, "Air-20");
     EXPECT_EQ(platform.progressSteps.back(), 4U);

@@ -299,6 +299,21 @@ TEST(ZoneFile, TellsOfALastLineThatNothingEnds) {
     EXPECT_EQ(report.openLine, 0U);
 }
 
+TEST(ZoneFile, TellsOfALabelOfManyMegabytes) {
+    LoadsData data, read;
+    Zone zone;
+    zone.title = std::string(std::size_t{20} << 20, 'x');
+    data.zones = std::vector<Zone>{zone, {}};
+    ReadingReport report;
+    readZones(zonesText(data), context, read, &report);
+    EXPECT_EQ(read.zones.size(), 2U);
+    EXPECT_EQ(read.zones[0].title, std::string(255, 'x'));
+    // The title, the count, and 23 lines of gains, losses, hours, pump and days stand before it.
+    EXPECT_EQ(report.shortenedLine, 26U);
+    EXPECT_EQ(report.error, 0);
+    EXPECT_FALSE(report.isWhole());
+}
+
 TEST(ZoneFile, TellsOfLinesThatBelongToNothing) {
     LoadsData data, read;
     data.zones = std::vector<Zone>(2);

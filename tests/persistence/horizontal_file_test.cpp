@@ -221,6 +221,25 @@ TEST_F(HorizontalFile, OfThreePipesShowsThemAndItsArrangement) {
     EXPECT_EQ(messages(), 0u);
 }
 
+TEST_F(HorizontalFile, OfACoilWithMorePipesAndAnOffsetOpensAsOnePipeWithoutOne) {
+    for (const char* coil : {"3", "4"}) {
+        std::vector<std::string> lines = trenchLines;
+        lines[31] = coil;  // arrangement, then the pipes; the offset is in row 35
+        lines[32] = "7";
+        ASSERT_EQ(lines[35], "1");
+        writeBytes(folder / "work files/coil.vht", trenchHead("3.0") + linesOf(lines));
+        const frmHZDesign& d = openField("work files/coil.vht");
+        EXPECT_EQ(d.project().arrangement.pipesPerTrench, 1) << coil;
+        EXPECT_EQ(d.project().arrangement.offsetRows, 0) << coil;
+        // Neither the width of 40 in nor what was found gives way to the coil's own.
+        EXPECT_EQ(d.project().trench.trenchGeometry, (std::array<double, 3>{15, 7.5, 40})) << coil;
+        EXPECT_EQ(d.control("CATotalLengthLabel(0)").caption(), "2359.5") << coil;
+        EXPECT_FALSE(d.isStale()) << coil;
+        EXPECT_EQ(messages(), 0u) << coil;
+        closeAll();
+    }
+}
+
 TEST_F(HorizontalFile, SavedByItsWindowIsTheSame) {
     writeBytes(folder / "work files/mill.vht", newTrenchFile());
     openField("work files/mill.vht");

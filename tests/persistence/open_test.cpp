@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "forms/text_numbers/commands.h"
 #include "forms/text_numbers/files.h"
 #include "persistence/project_fixture.h"
 
@@ -134,11 +135,13 @@ TEST_F(Opening, AFileThatIsNotThereOpensNoWindow) {
 }
 
 TEST_F(Opening, AFileWithoutASecondLineOpensNoWindow) {
+    texts.known[Text::noticeEndsAtOnce] = "%1 is no project.";
     for (const char* bytes : {"", "Varnholt Data File Version 3.0\r\n"}) {
         writeBytes(folder / "short.vht", bytes);
         pick("short.vht");
         main.click("mnuFileOpen");
         EXPECT_EQ(lastMessage(), "Varnholt - Input past end of file");
+        EXPECT_EQ(main.control("NoticeLabel").caption(), "short.vht is no project.");
     }
     EXPECT_TRUE(main.windows().empty());
     EXPECT_FALSE(main.openCall);

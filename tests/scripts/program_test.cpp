@@ -21,6 +21,13 @@ class Program : public testing::Test {
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, wholeFile(out), wholeFile(faults)};
     }
 
+    /// The call ends with the status of a script that cannot be run, and says why.
+    void expectFault(const std::string& arguments, const std::string& fault) const {
+        const ScriptOutcome outcome = call(arguments);
+        EXPECT_EQ(outcome.status, 2) << arguments;
+        EXPECT_EQ(outcome.faults, fault + "\n") << arguments;
+    }
+
     void write(const std::string& name, const std::string& text) const {
         std::ofstream(temporary / name) << text;
     }
@@ -41,32 +48,21 @@ TEST_F(Program, ReadsAFileOrStandardInput) {
 
 TEST_F(Program, NamesTheFileAndTheLineOfAFault) {
     write("bad.vscript", "# first\ndance\n");
-    const ScriptOutcome file = call("bad.vscript --program-folder .");
-    EXPECT_EQ(file.status, 2);
-    EXPECT_EQ(file.faults, "bad.vscript:2: dance is no command\n");
-    EXPECT_EQ(call("--program-folder . < bad.vscript").faults, "-:2: dance is no command\n");
+    expectFault("bad.vscript --program-folder .", "bad.vscript:2: dance is no command");
+    expectFault("--program-folder . < bad.vscript", "-:2: dance is no command");
 }
 
 TEST_F(Program, AnUnknownOptionAndAMissingFileAreStatusTwo) {
-    const ScriptOutcome option = call("--fast </dev/null");
-    EXPECT_EQ(option.status, 2);
-    EXPECT_EQ(option.faults, "varnholt-script: unknown option --fast\n");
-    const ScriptOutcome missing = call("missing.vscript");
-    EXPECT_EQ(missing.status, 2);
-    EXPECT_EQ(missing.faults, "varnholt-script: missing.vscript cannot be read\n");
+    expectFault("--fast </dev/null", "varnholt-script: unknown option --fast");
+    expectFault("missing.vscript", "varnholt-script: missing.vscript cannot be read");
     EXPECT_EQ(call(".").status, 2);
 }
 
 TEST_F(Program, IsStoppedByNoScriptThatNeverEnds) {
     ASSERT_EQ(::mkfifo(std::string(temporary / "pipe.vscript").c_str(), 0600), 0);
-    const ScriptOutcome pipe = call("pipe.vscript");
-    EXPECT_EQ(pipe.status, 2);
-    const ScriptOutcome device = call("/dev/zero");
-    EXPECT_EQ(device.status, 2);
-    EXPECT_EQ(device.faults, "varnholt-script: /dev/zero cannot be read\n");
-    const ScriptOutcome endless = call("--program-folder . </dev/zero");
-    EXPECT_EQ(endless.status, 2);
-    EXPECT_EQ(endless.faults, "-:1: the line is longer than 16 MB\n");
+    EXPECT_EQ(call("pipe.vscript").status, 2);
+    expectFault("/dev/zero", "varnholt-script: /dev/zero cannot be read");
+    expectFault("--program-folder . </dev/zero", "-:1: the line is longer than 16 MB");
 }
 
 TEST_F(Program, TellsItsOptionsAndItsVersion) {

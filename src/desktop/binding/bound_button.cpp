@@ -42,6 +42,13 @@ BoundButton::BoundButton(Binder& binder, Control& control)
 
 void BoundButton::makePrimary() {
     tone_ = QStringLiteral("primary");
+    button_->setProperty(mainButtonProperty, true);
+    showBackcolor();
+}
+
+void BoundButton::setOlder(bool older) {
+    if (older == older_) return;
+    older_ = older;
     showBackcolor();
 }
 
@@ -79,7 +86,7 @@ Shown BoundButton::shown(Property property) const {
 
 void BoundButton::showBackcolor() {
     const bool alarm = control().backcolor() == colours::alarm;
-    const bool marked = alarm || control().backcolor() == colours::stale;
+    const bool marked = alarm || older_ || control().backcolor() == colours::stale;
     const QString tone = alarm ? QStringLiteral("alarm") : QStringLiteral("stale");
     setStyleProperty("tone", marked ? tone : tone_);
     const QString icon = marked ? QStringLiteral("stale") : icon_;

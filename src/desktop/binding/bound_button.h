@@ -16,6 +16,9 @@ class BoundButton : public BoundControl {
 
     /// Makes it the one that its window is about.
     void makePrimary();
+    /// Gives it the look of a button whose results are older than what they come from, whatever
+    /// colour the form has given it: the form learns of changed loads once its window is active.
+    void setOlder(bool older);
     /// Puts a drawn icon beside the caption.
     void setIcon(const QString& icon);
 
@@ -28,6 +31,7 @@ class BoundButton : public BoundControl {
  private:
     QPushButton* button_;
     QString tone_, icon_;
+    bool older_ = false;
 };
 
 }  // namespace varnholt

@@ -53,135 +53,65 @@ QString tipOf(const Binder& binder, const Control& control) {
     return qt(isShownInPart(control) ? binder.text(Text::textShownInPart) : control.tooltip());
 }
 
-class BoundText : public BoundControl {
+/// A line of text that is typed into, by keys or by assistive technology.
+class FollowedLine {
  public:
-    BoundText(Binder& binder, Control& control, bool numeric)
-        : BoundControl(binder, control, new FieldEdit(numeric ? figuresInField : 0)),
-          edit_(static_cast<FieldEdit*>(widget())) {
-        if (numeric) edit_->setFont(figureFont(edit_->font()));
-        QObject::connect(edit_, &QLineEdit::textEdited, &binder, [this](const QString& text) {
-            this->binder().act(
-                *this, [text](Form& f, const std::string& name) { f.type(name, plain(text)); });
-        });
-        QObject::connect(edit_, &QLineEdit::textChanged, &binder, [this] {
+    FollowedLine(Binder& binder, BoundControl& bound) : binder_(binder), bound_(bound) {}
+
+    /// Takes to the form what is written into the line from now on.
+    void follow(QLineEdit* line) {
+        line_ = line;
+        QObject::connect(line, &QLineEdit::textEdited, &binder_, [this] { type(); });
+        QObject::connect(line, &QLineEdit::textChanged, &binder_, [this] {
             if (hasOtherText()) followLater();
         });
-        edit_->addToMenu = [edit = edit_, owner = QPointer<Binder>(&binder)](QMenu& menu,
-                                                                             bool byKey) {
-            if (owner == nullptr || owner->form() == nullptr) return;
-            menu.addSeparator();
-            addGivingOut(menu, *owner->form(), edit);
-            if (byKey && owner->window() != nullptr)
-                addPicturesOf(menu, *owner->form(), *owner->window());
-        };
-        binder.watchKeys(*this, edit_);
-        showAll();
     }
-
-    void show(Property property) override {
-        if (property == Property::text) {
-            showText();
-        } else if (property == Property::locked) {
-            edit_->setReadOnly(control().locked() || isShownInPart(control()));
-        } else if (property == Property::refused) {
-            showRefused();
-        } else {
-            BoundControl::show(property);
-        }
-    }
-    Shown shown(Property property) const override {
-        const bool part = isShownInPart(control());
-        if (property == Property::text) return part ? control().text() : plain(edit_->text());
-        if (property == Property::locked) return part ? control().locked() : edit_->isReadOnly();
-        return BoundControl::shown(property);
-    }
-
- protected:
-    /// What is typed next takes the place of what stands there.
-    void takeFocus() override {
-        BoundControl::takeFocus();
-        edit_->selectAll();
-    }
+    /// While this stands, the line is written as the control has it.
+    [[nodiscard]] RaisedFlag writing() { return RaisedFlag(writes_); }
 
  private:
-    void showText() {
-        const bool part = isShownInPart(control());
-        if (part != std::exchange(inPart_, part)) {
-            show(Property::locked);
-            edit_->setToolTip(tipOf(binder(), control()));
-        }
-        const std::string text = textInField(control());
-        // Writing the text that stands there would move the cursor away from where one types.
-        if (plain(edit_->text()) == text) return;
-        {
-            const RaisedFlag writing(writes_);
-            edit_->setText(qt(text));
-        }
-        if (!edit_->hasFocus()) edit_->setCursorPosition(0);
+    void type() {
+        binder_.act(bound_, [text = plain(line_->text())](Form& f, const std::string& name) {
+            f.type(name, text);
+        });
     }
     bool hasOtherText() const {
-        return !writes_ && binder().form() != nullptr && !isShownInPart(control()) &&
-               plain(edit_->text()) != control().text();
+        const Control& control = bound_.control();
+        return !writes_ && binder_.form() != nullptr && !isShownInPart(control) &&
+               plain(line_->text()) != control.text();
     }
-    /// Assistive technology writes a text without a key, and goes on without leaving the field.
-    /// What keys have typed has been handled by then.
+    bool takesText() const { return bound_.widget()->isEnabled() && !bound_.control().locked(); }
+    /// Assistive technology writes a text without a key, and goes on without leaving the field; it
+    /// may do so where no key could. What keys have typed has been handled by then.
     void followLater() {
         QMetaObject::invokeMethod(
-            &binder(),
+            &binder_,
             [this] {
                 if (!hasOtherText()) return;
-                binder().act(*this, [text = plain(edit_->text())](
-                                        Form& f, const std::string& name) { f.type(name, text); });
-                if (!edit_->hasFocus()) binder().leave(*this);
+                if (!takesText()) return bound_.show(Property::text);
+                type();
+                if (!bound_.widget()->hasFocus()) binder_.leave(bound_);
             },
             Qt::QueuedConnection);
     }
-    QString reasonOf() const {
-        const Form* form = binder().form();
-        const auto refused = form == nullptr ? std::nullopt : form->fields().refused();
-        const bool mine = refused && refused->control == control().name();
-        return qt(mine ? form->whyRefused(*refused) : binder().text(Text::refusedValue));
-    }
-    void showRefused() {
-        const QString reason = control().refused() ? reasonOf() : QString();
-        const bool marked = edit_->property("refused").toBool();
-        if (marked == control().refused() && edit_->accessibleDescription() == reason) return;
-        setStyleProperty("refused", control().refused());
-        edit_->setMark(control().refused() ? houseIcon(QStringLiteral("refused")) : QIcon(),
-                       reason);
-        edit_->setAccessibleDescription(reason);
-    }
 
-    FieldEdit* edit_;
-    bool writes_ = false, inPart_ = false;
+    Binder& binder_;
+    BoundControl& bound_;
+    QLineEdit* line_ = nullptr;
+    bool writes_ = false;
 };
 
-class BoundRichText : public BoundControl {
+/// A text in one line or in several, or the beginning of one that is too long.
+template <class Edit>
+class BoundEdit : public BoundControl {
  public:
-    BoundRichText(Binder& binder, Control& control)
-        : BoundControl(binder, control, new QPlainTextEdit),
-          edit_(static_cast<QPlainTextEdit*>(widget())) {
-        edit_->setTabChangesFocus(true);
-        edit_->setMinimumHeight(6 * edit_->fontMetrics().lineSpacing());
-        QObject::connect(edit_, &QPlainTextEdit::textChanged, &binder, [this] {
-            if (isShownInPart(this->control())) return;
-            const std::string text = written();
-            if (text == this->control().text()) return;
-            this->binder().act(*this,
-                               [text](Form& f, const std::string& name) { f.type(name, text); });
-        });
-        binder.watchKeys(*this, edit_);
-        showAll();
-    }
-
     void show(Property property) override {
-        if (property == Property::text) {
+        if (property == Property::text)
             showText();
-        } else if (property == Property::locked) {
+        else if (property == Property::locked)
             edit_->setReadOnly(control().locked() || isShownInPart(control()));
-        } else {
+        else
             BoundControl::show(property);
-        }
     }
     Shown shown(Property property) const override {
         const bool part = isShownInPart(control());
@@ -190,6 +120,14 @@ class BoundRichText : public BoundControl {
         return BoundControl::shown(property);
     }
 
+ protected:
+    BoundEdit(Binder& binder, Control& control, Edit* edit)
+        : BoundControl(binder, control, edit), edit_(edit) {}
+
+    Edit* edit() const { return edit_; }
+    virtual std::string written() const = 0;
+    virtual void write(const std::string& text) = 0;
+
  private:
     void showText() {
         const bool part = isShownInPart(control());
@@ -197,13 +135,95 @@ class BoundRichText : public BoundControl {
             show(Property::locked);
             edit_->setToolTip(tipOf(binder(), control()));
         }
-        const std::string text = textInField(control());
-        if (written() != text) edit_->setPlainText(documentText(text));
+        // Writing the text that stands there would move the cursor away from where one types.
+        if (const std::string text = textInField(control()); written() != text) write(text);
     }
-    std::string written() const { return textOfDocument(edit_->document()->toRawText()); }
 
-    QPlainTextEdit* edit_;
+    Edit* edit_;
     bool inPart_ = false;
+};
+
+class BoundText : public BoundEdit<FieldEdit> {
+ public:
+    BoundText(Binder& binder, Control& control, bool numeric)
+        : BoundEdit(binder, control, new FieldEdit(numeric ? figuresInField : 0)),
+          line_(binder, *this) {
+        if (numeric) edit()->setFont(figureFont(edit()->font()));
+        line_.follow(edit());
+        edit()->addToMenu = [edit = edit(), owner = QPointer<Binder>(&binder)](QMenu& menu,
+                                                                               bool byKey) {
+            if (owner == nullptr || owner->form() == nullptr) return;
+            menu.addSeparator();
+            addGivingOut(menu, *owner->form(), edit);
+            if (byKey && owner->window() != nullptr)
+                addPicturesOf(menu, *owner->form(), *owner->window());
+        };
+        binder.watchKeys(*this, edit());
+        showAll();
+    }
+
+    void show(Property property) override {
+        if (property == Property::refused)
+            showRefused();
+        else
+            BoundEdit::show(property);
+    }
+
+ protected:
+    /// What is typed next takes the place of what stands there.
+    void takeFocus() override {
+        BoundControl::takeFocus();
+        edit()->selectAll();
+    }
+    std::string written() const override { return plain(edit()->text()); }
+    void write(const std::string& text) override {
+        {
+            const RaisedFlag writing = line_.writing();
+            edit()->setText(qt(text));
+        }
+        if (!edit()->hasFocus()) edit()->setCursorPosition(0);
+    }
+
+ private:
+    QString reasonOf() const {
+        const Form* form = binder().form();
+        const auto refused = form == nullptr ? std::nullopt : form->fields().refused();
+        const bool mine = refused && refused->control == control().name();
+        return qt(mine ? form->whyRefused(*refused) : binder().text(Text::refusedValue));
+    }
+    void showRefused() {
+        const QString reason = control().refused() ? reasonOf() : QString();
+        const bool marked = edit()->property("refused").toBool();
+        if (marked == control().refused() && edit()->accessibleDescription() == reason) return;
+        setStyleProperty("refused", control().refused());
+        edit()->setMark(control().refused() ? houseIcon(QStringLiteral("refused")) : QIcon(),
+                        reason);
+        edit()->setAccessibleDescription(reason);
+    }
+
+    FollowedLine line_;
+};
+
+class BoundRichText : public BoundEdit<QPlainTextEdit> {
+ public:
+    BoundRichText(Binder& binder, Control& control)
+        : BoundEdit(binder, control, new QPlainTextEdit) {
+        edit()->setTabChangesFocus(true);
+        edit()->setMinimumHeight(6 * edit()->fontMetrics().lineSpacing());
+        QObject::connect(edit(), &QPlainTextEdit::textChanged, &binder, [this] {
+            if (isShownInPart(this->control())) return;
+            const std::string text = written();
+            if (text == this->control().text()) return;
+            this->binder().act(*this,
+                               [text](Form& f, const std::string& name) { f.type(name, text); });
+        });
+        binder.watchKeys(*this, edit());
+        showAll();
+    }
+
+ protected:
+    std::string written() const override { return textOfDocument(edit()->document()->toRawText()); }
+    void write(const std::string& text) override { edit()->setPlainText(documentText(text)); }
 };
 
 /// A combo that the wheel changes only when one works it, not while the page scrolls by.
@@ -220,7 +240,9 @@ class CalmCombo : public QComboBox {
 class BoundCombo : public BoundControl, private QAccessible::ActivationObserver {
  public:
     BoundCombo(Binder& binder, Control& control)
-        : BoundControl(binder, control, new CalmCombo), combo_(static_cast<QComboBox*>(widget())) {
+        : BoundControl(binder, control, new CalmCombo),
+          combo_(static_cast<QComboBox*>(widget())),
+          line_(binder, *this) {
         combo_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         combo_->setMinimumContentsLength(8);
         combo_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -240,6 +262,7 @@ class BoundCombo : public BoundControl, private QAccessible::ActivationObserver 
     BoundCombo& operator=(const BoundCombo&) = delete;
 
     void show(Property property) override {
+        const RaisedFlag writing = line_.writing();
         switch (property) {
             case Property::items:
                 showItems();
@@ -259,6 +282,11 @@ class BoundCombo : public BoundControl, private QAccessible::ActivationObserver 
             default:
                 BoundControl::show(property);
         }
+    }
+    /// Whoever works a combo by its parts finds its line by the same name.
+    void call(const QString& name) override {
+        BoundControl::call(name);
+        if (combo_->lineEdit() != nullptr) combo_->lineEdit()->setAccessibleName(name);
     }
     Shown shown(Property property) const override {
         switch (property) {
@@ -288,11 +316,7 @@ class BoundCombo : public BoundControl, private QAccessible::ActivationObserver 
         combo_->setInsertPolicy(QComboBox::NoInsert);
         combo_->setCompleter(nullptr);
         combo_->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
-        QObject::connect(
-            combo_->lineEdit(), &QLineEdit::textEdited, &binder(), [this](const QString& text) {
-                binder().act(
-                    *this, [text](Form& f, const std::string& name) { f.type(name, plain(text)); });
-            });
+        line_.follow(combo_->lineEdit());
     }
 
     void accessibilityActiveChanged(bool active) override {
@@ -348,6 +372,7 @@ class BoundCombo : public BoundControl, private QAccessible::ActivationObserver 
     }
 
     QComboBox* combo_;
+    FollowedLine line_;
     bool followsItsList_ = false;
 };
 

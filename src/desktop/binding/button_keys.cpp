@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "desktop/binding/mnemonics.h"
+#include "desktop/widgets/notice_bar.h"
 #include "desktop/widgets/qt_text.h"
 
 namespace varnholt {
@@ -68,7 +69,8 @@ bool keepsItsKey(const QAbstractButton& button) {
     return !button.property(givenKey).toBool() && !markedLetter(button.text()).isNull();
 }
 
-/// The buttons on show that say in words what they do, in reading order.
+/// The buttons on show that say in words what they do: the one that the window is about, whose key
+/// is the same on every page, then the others in reading order.
 std::vector<QAbstractButton*> buttonsWithWords(QWidget& window) {
     std::vector<QAbstractButton*> buttons;
     for (QWidget* widget = window.nextInFocusChain(); widget != &window && widget != nullptr;
@@ -78,15 +80,25 @@ std::vector<QAbstractButton*> buttonsWithWords(QWidget& window) {
             button->isVisibleTo(&window))
             buttons.push_back(button);
     }
+    std::stable_partition(buttons.begin(), buttons.end(), [](const QAbstractButton* button) {
+        return button->property(mainButtonProperty).toBool();
+    });
     return buttons;
 }
 
-/// True for a button that a view repeats for beginners. It does what the form's own one does, by
-/// that one's key: if both had it, it would only take the focus from one to the other.
+/// True for a button that only stands in for another one: a view's own for beginners, and the one
+/// of a notice, which comes and goes.
+bool standsIn(const QAbstractButton& button) {
+    return button.objectName().isEmpty() ||
+           dynamic_cast<const NoticeBar*>(button.parentWidget()) != nullptr;
+}
+
+/// True for a button that does what the form's own one does, by that one's key: if both had it, it
+/// would only take the focus from one to the other.
 bool repeats(const QAbstractButton& button, const std::vector<QAbstractButton*>& buttons) {
-    return button.objectName().isEmpty() &&
+    return standsIn(button) &&
            std::any_of(buttons.begin(), buttons.end(), [&button](const QAbstractButton* other) {
-               return !other->objectName().isEmpty() && other->isEnabled() &&
+               return !standsIn(*other) && other->isEnabled() &&
                       wordsOfButton(*other) == wordsOfButton(button);
            });
 }

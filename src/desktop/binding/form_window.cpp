@@ -21,11 +21,12 @@ namespace {
 
 QIcon iconOf(const std::string& formName) {
     static const std::map<std::string, const char*> icons{
-        {"frmBHDesign", "new-borehole"},      {"frmHZDesign", "new-horizontal"},
-        {"frmSWDesign", "new-surface-water"}, {"frmZoneManage", "zones"},
-        {"frmAvgBlock", "average-block"},     {"frmHPEdit", "heat-pump"},
-        {"frmDiffusivityCalc", "calculator"}, {"frmPumpPowerCalc", "calculator"},
-        {"frmEqvHoursCalc", "calculator"},    {"frmImport1", "import"},
+        {"frmBHDesign", "new-borehole"},        {"frmHZDesign", "new-horizontal"},
+        {"frmSWDesign", "new-surface-water"},   {"frmZoneManage", "zones"},
+        {"frmAvgBlock", "average-block"},       {"frmHPEdit", "heat-pump"},
+        {"frmDiffusivityCalc", "calculator"},   {"frmPumpPowerCalc", "calculator"},
+        {"frmEqvHoursCalc", "calculator"},      {"frmImport1", "import"},
+        {"frmSecondOpinion", "second-opinion"}, {"frmWhatIf", "what-if"},
     };
     const auto found = icons.find(formName);
     return houseIcon(QString::fromLatin1(found == icons.end() ? "window" : found->second));

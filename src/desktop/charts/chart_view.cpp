@@ -3,6 +3,7 @@
 
 #include <QFontMetricsF>
 #include <QGraphicsLayout>
+#include <QLocale>
 #include <QtCharts/QCategoryAxis>
 #include <QtCharts/QLegend>
 #include <QtCharts/QValueAxis>
@@ -13,12 +14,22 @@ namespace varnholt {
 namespace {
 
 /// As many decimals as the steps have.
-QString labelFormat(double step) {
+int decimalsOf(double step) {
     int decimals = 0;
     for (double left = step; decimals < 6; left *= 10, ++decimals)
         if (std::abs(left - std::round(left)) < 1e-6 * left) break;
-    return QStringLiteral("%.%1f").arg(decimals);
+    return decimals;
 }
+
+QString labelFormat(double step) { return QStringLiteral("%.%1f").arg(decimalsOf(step)); }
+
+bool hasWholeFigures(const ChartAxis& axis) {
+    return !axis.parts.empty() || decimalsOf(axis.step) == 0;
+}
+
+/// The engine parts thousands only as a locale does, of a whole chart at once. This one does it by
+/// the thin space that parts them in all figures here; its sign for decimals would be a comma.
+QLocale localeOfWholeFigures() { return {QLocale::French, QLocale::France}; }
 
 QAbstractAxis* newAxis(const ChartAxis& axis) {
     if (axis.parts.empty()) return new QValueAxis;
@@ -84,6 +95,7 @@ QChart* newPlainChart() {
     chart->setMargins({0, 0, 0, 0});
     chart->layout()->setContentsMargins(0, 0, 0, 0);
     chart->legend()->hide();
+    chart->setLocale(localeOfWholeFigures());
     return chart;
 }
 
@@ -130,6 +142,7 @@ void ChartView::build(const ChartPicture& picture) {
 void ChartView::draw(const ChartPicture& picture) {
     const bool built = hasPartsOf(picture);
     if (!built) build(picture);
+    partThousands(hasWholeFigures(picture.across) && hasWholeFigures(picture.up));
     if (!built || picture.across != picture_.across) drawAxis(*across_, picture.across);
     if (!built || picture.up != picture_.up) drawAxis(*up_, picture.up);
     for (std::size_t i = 0; i < series_.size(); ++i)
@@ -138,6 +151,11 @@ void ChartView::draw(const ChartPicture& picture) {
     picture_ = picture;
     if (!built) dressAll();
     fitTitles();
+}
+
+/// The engine lays the chart out anew whenever it is told.
+void ChartView::partThousands(bool part) {
+    if (chart()->localizeNumbers() != part) chart()->setLocalizeNumbers(part);
 }
 
 void ChartView::dress(const Look& look, const QFont& figures) {

@@ -23,6 +23,7 @@ class ChartView : public QChartView, public Chart {
  private:
     bool hasPartsOf(const ChartPicture& picture) const;
     void build(const ChartPicture& picture);
+    void partThousands(bool part);
     void dressAll();
     void fitTitles();
 

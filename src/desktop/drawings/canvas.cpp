@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/widgets/figure_text.h"
+
 namespace varnholt {
 namespace {
 
@@ -52,8 +54,12 @@ double Canvas::crisp(double place) const {
     return (std::floor(place * ratio) + 0.5) / ratio;
 }
 
+QString Canvas::shown(const QString& text) const {
+    return partsThousands ? groupedThousands(text) : text;
+}
+
 double Canvas::textWidth(const QString& text) const {
-    return QFontMetricsF(figures).horizontalAdvance(text);
+    return QFontMetricsF(figures).horizontalAdvance(shown(text));
 }
 
 double Canvas::textHeight() const { return QFontMetricsF(figures).height(); }
@@ -64,7 +70,7 @@ void Canvas::label(const QPointF& centre, const QString& text, const QColor& col
     painter.fillRect(place, look.surface);
     painter.setFont(figures);
     painter.setPen(colour);
-    painter.drawText(place, Qt::AlignCenter, text);
+    painter.drawText(place, Qt::AlignCenter, shown(text));
 }
 
 Canvas canvasFor(QPainter& painter, const QRectF& area, const QPalette& palette,
@@ -72,7 +78,7 @@ Canvas canvasFor(QPainter& painter, const QRectF& area, const QPalette& palette,
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     // Pictures are not mirrored where the language reads from the right: nor are their labels.
     painter.setLayoutDirection(Qt::LeftToRight);
-    return {painter, area, lookOf(palette), font, figureFont(font)};
+    return {painter, area, lookOf(palette), font, figureFont(font), true};
 }
 
 QColor between(const QColor& from, const QColor& to, double share) {

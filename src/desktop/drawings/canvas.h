@@ -18,9 +18,15 @@ struct Canvas {
     const Look& look;
     QFont words;    ///< of captions
     QFont figures;  ///< of numbers, with digits of one width
+    /// Thousands are parted by thin spaces, as everywhere on the screen; not so on the pages of a
+    /// report, whose tables tell the same figures.
+    bool partsThousands = false;
 
     /// The nearest place whose hairline fills whole pixels of the device.
     double crisp(double place) const;
+    /// A text with figures in it as it is drawn here.
+    QString shown(const QString& text) const;
+    /// Width of such a text in the type of figures, as it is drawn here.
     double textWidth(const QString& text) const;
     double textHeight() const;
     /// Draws a text over a patch of the surface, centred about a point.

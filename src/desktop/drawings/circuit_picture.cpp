@@ -150,9 +150,9 @@ void drawCaption(const Canvas& canvas, const QRectF& column, const CircuitCaptio
         if (text.empty()) return;
         painter.setFont(font);
         painter.setPen(colour);
-        painter.drawText(QRectF(column.left(), y, column.width(), line),
-                         Qt::AlignHCenter | Qt::AlignVCenter,
-                         QFontMetricsF(font).elidedText(qt(text), Qt::ElideRight, column.width()));
+        painter.drawText(
+            QRectF(column.left(), y, column.width(), line), Qt::AlignHCenter | Qt::AlignVCenter,
+            QFontMetricsF(font).elidedText(canvas.shown(qt(text)), Qt::ElideRight, column.width()));
         y += line;
     };
     QFont heavy = canvas.words;

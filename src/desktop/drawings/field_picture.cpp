@@ -69,7 +69,7 @@ QRectF drawLegend(const Canvas& canvas, const std::vector<FieldClass>& entries) 
     std::vector<std::pair<QPointF, const FieldClass*>> placed;
     double x = 0, y = 0;
     for (const FieldClass& entry : entries) {
-        const double width = markRoom + metrics.horizontalAdvance(qt(entry.words));
+        const double width = markRoom + metrics.horizontalAdvance(canvas.shown(qt(entry.words)));
         if (x > 0 && x + width > canvas.area.width()) {
             x = 0;
             y += lineHeight;
@@ -87,7 +87,7 @@ QRectF drawLegend(const Canvas& canvas, const std::vector<FieldClass>& entries) 
         canvas.painter.setPen(canvas.look.ink);
         canvas.painter.drawText(
             QRectF(start + QPointF(markRoom, 0), QSizeF(canvas.area.width(), lineHeight)),
-            Qt::AlignLeft | Qt::AlignVCenter, qt(entry->words));
+            Qt::AlignLeft | Qt::AlignVCenter, canvas.shown(qt(entry->words)));
     }
     return canvas.area.adjusted(0, 0, 0, -height - gridStep / 2.0);
 }
@@ -245,7 +245,7 @@ void paintField(const Canvas& canvas, const FieldPlan& field, const Texts& texts
 
 void paintSmallField(const Canvas& canvas, const FieldPlan& field, const Texts& texts) {
     if (isNone(field)) return drawNone(canvas, texts);
-    const QString measures = qt(fieldMeasures(field, texts));
+    const QString measures = canvas.shown(qt(fieldMeasures(field, texts)));
     // As many lines as the words take.
     constexpr int inLines = Qt::AlignHCenter | Qt::AlignBottom | Qt::TextWordWrap;
     const double lines =

@@ -3,12 +3,13 @@
 
 #include <QFontMetricsF>
 #include <algorithm>
+#include <optional>
 #include <vector>
 
+#include "design/picture_sentences.h"
 #include "desktop/drawings/plot.h"
 #include "desktop/widgets/figure_text.h"
 #include "desktop/widgets/qt_text.h"
-#include "forms/text_numbers/lengths.h"
 
 namespace varnholt {
 namespace {
@@ -87,25 +88,45 @@ LengthScale scaleIn(const LengthSummary& lengths, const QRectF& plot) {
     return {plot.left() - lowest * perFoot, perFoot};
 }
 
+/// Where the words stand within their part of the bar: in its middle, or beside the mark of the
+/// whole length where that goes through the part. Nothing where there is no room.
+std::optional<double> leftOfFigure(double width, const QRectF& part, double mark) {
+    constexpr double margin = 4;
+    const auto middleOf = [&](double from, double to) -> std::optional<double> {
+        if (to - from < width + 2 * margin) return std::nullopt;
+        return (from + to - width) / 2;
+    };
+    if (mark <= part.left() || mark >= part.right()) return middleOf(part.left(), part.right());
+    const bool leftIsWider = mark - part.left() > part.right() - mark;
+    return leftIsWider ? middleOf(part.left(), mark) : middleOf(mark, part.right());
+}
+
 /// The part's own length where its bar has room for it.
-void drawFigure(const Canvas& canvas, const QString& text, const QRectF& place,
-                const QColor& fill) {
+void drawFigure(const Canvas& canvas, const QString& text, const QRectF& place, const QColor& fill,
+                double mark) {
     const FigureText figure(text, canvas.words);
-    constexpr double margin = 8;
-    if (figure.size().width() + margin > place.width() || figure.size().height() > place.height())
-        return;
+    const std::optional<double> left = leftOfFigure(figure.size().width(), place, mark);
+    if (!left || figure.size().height() > place.height()) return;
     const Look& look = canvas.look;
     const bool inkReads = contrast(look.ink, fill) >= contrast(look.surface, fill);
-    const QPointF corner =
-        place.center() - QPointF(figure.size().width(), figure.size().height()) / 2;
     canvas.painter.setPen(inkReads ? look.ink : look.surface);
-    figure.draw(canvas.painter, corner);
+    figure.draw(canvas.painter, {*left, place.center().y() - figure.size().height() / 2});
+}
+
+/// A line through the bar where the whole length ends.
+void drawLengthMark(const Canvas& canvas, double mark, const QRectF& row) {
+    constexpr double beyond = 3;
+    canvas.painter.setPen(QPen(canvas.look.ink, 2, Qt::SolidLine, Qt::FlatCap));
+    canvas.painter.drawLine(QPointF(mark, row.top() - beyond),
+                            QPointF(mark, row.bottom() + beyond));
 }
 
 void drawBar(const Canvas& canvas, const LengthSummary& lengths, Mode mode,
              const LengthScale& scale, const QRectF& row) {
     constexpr double dimmed = 0.5;
     const bool stale = lengths.state == LengthSummary::State::stale;
+    const bool hasMark = lengths.feet[mode] > 0;
+    const double mark = canvas.crisp(scale.at(hasMark ? lengths.feet[mode] : 0));
     double shorter = 0;
     double longer = 0;
     for (std::size_t i = 0; i < lengths.parts.size(); ++i) {
@@ -122,14 +143,10 @@ void drawBar(const Canvas& canvas, const LengthSummary& lengths, Mode mode,
         drawPart(canvas, mode, style, place);
         canvas.painter.setOpacity(1);
         if (!style.hatched)
-            drawFigure(canvas, qt(part.length[mode]), place, fillOf(canvas.look, mode, style));
+            drawFigure(canvas, qt(part.length[mode]), place, fillOf(canvas.look, mode, style),
+                       mark);
     }
-    if (!(lengths.feet[mode] > 0)) return;
-    constexpr double beyond = 3;
-    const double mark = canvas.crisp(scale.at(lengths.feet[mode]));
-    canvas.painter.setPen(QPen(canvas.look.ink, 2, Qt::SolidLine, Qt::FlatCap));
-    canvas.painter.drawLine(QPointF(mark, row.top() - beyond),
-                            QPointF(mark, row.bottom() + beyond));
+    if (hasMark) drawLengthMark(canvas, mark, row);
 }
 
 QFont strong(QFont font, bool governs) {
@@ -192,17 +209,17 @@ void drawLegend(const Canvas& canvas, const LengthSummary& lengths,
     }
 }
 
-void drawEmpty(const Canvas& canvas, const Texts& texts) {
+void drawEmpty(const Canvas& canvas, const LengthSummary& lengths, const Texts& texts) {
     canvas.painter.setPen(canvas.look.muted);
     canvas.painter.setFont(canvas.words);
     canvas.painter.drawText(canvas.area, Qt::AlignCenter | Qt::TextWordWrap,
-                            qt(texts.text(Text::lengthPartsEmpty)));
+                            qt(wordsWithoutParts(lengths, texts)));
 }
 
 }  // namespace
 
 void paintLengths(const Canvas& canvas, const LengthSummary& lengths, const Texts& texts) {
-    if (lengths.parts.empty()) return drawEmpty(canvas, texts);
+    if (lengths.parts.empty()) return drawEmpty(canvas, lengths, texts);
     const QFontMetricsF heavy(strong(canvas.words, true));
     double before = 0;
     double behind = 0;

@@ -116,7 +116,7 @@ void drawFigure(const Canvas& canvas, Mode mode, const QRectF& bar, double load)
     canvas.painter.fillRect(place, canvas.look.surface);
     canvas.painter.setFont(canvas.figures);
     canvas.painter.setPen(mode == cooling ? canvas.look.cooling : canvas.look.heating);
-    canvas.painter.drawText(place, Qt::AlignCenter, text);
+    canvas.painter.drawText(place, Qt::AlignCenter, canvas.shown(text));
 }
 
 /// The pump's capacity as a line across: solid for cooling and dashed for heating, in the colour of

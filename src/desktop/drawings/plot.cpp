@@ -68,7 +68,8 @@ double drawSigns(const Canvas& canvas, const std::vector<LegendSign>& signs) {
     double top = canvas.area.top();
     const QFontMetricsF metrics(canvas.words);
     for (const LegendSign& sign : signs) {
-        const double word = metrics.horizontalAdvance(sign.word);
+        const QString shown = canvas.shown(sign.word);
+        const double word = metrics.horizontalAdvance(shown);
         if (x > canvas.area.left() && x + widthOf(sign) + 6 + word > canvas.area.right()) {
             x = canvas.area.left();
             top += height;
@@ -78,7 +79,7 @@ double drawSigns(const Canvas& canvas, const std::vector<LegendSign>& signs) {
         canvas.painter.setFont(canvas.words);
         canvas.painter.setPen(canvas.look.ink);
         canvas.painter.drawText(QRectF(x, top, word + 2, height), Qt::AlignLeft | Qt::AlignVCenter,
-                                sign.word);
+                                shown);
         x += word + 2 * gridStep;
     }
     return top - canvas.area.top() + height + gridStep;
@@ -103,7 +104,7 @@ Plot drawPlot(const Canvas& canvas, const PlotScale& scale, double head, const Q
         canvas.painter.setPen(canvas.look.muted);
         canvas.painter.drawText(
             QRectF(canvas.area.left(), y - canvas.textHeight() / 2, widest, canvas.textHeight()),
-            Qt::AlignRight | Qt::AlignVCenter, told(i));
+            Qt::AlignRight | Qt::AlignVCenter, canvas.shown(told(i)));
     }
     return plot;
 }
@@ -116,7 +117,7 @@ void drawBelow(const Canvas& canvas, const Plot& plot, double x, const QString& 
     canvas.painter.setPen(strong ? canvas.look.ink : canvas.look.muted);
     canvas.painter.drawText(
         QRectF(left, plot.area.bottom() + gridStep / 2.0, width, canvas.textHeight()),
-        Qt::AlignCenter, word);
+        Qt::AlignCenter, canvas.shown(word));
 }
 
 void drawUpright(const Canvas& canvas, const Plot& plot, double x, const QColor& colour,

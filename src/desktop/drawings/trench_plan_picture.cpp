@@ -131,7 +131,7 @@ void paintTrenches(const Canvas& canvas, const TrenchPlan& plan, const Texts& te
     painter.setFont(canvas.words);
     painter.setPen(canvas.look.ink);
     painter.drawText(canvas.area, Qt::AlignHCenter | Qt::AlignBottom,
-                     qt(trenchesCutNote(plan, texts)));
+                     canvas.shown(qt(trenchesCutNote(plan, texts))));
 }
 
 }  // namespace varnholt

@@ -47,7 +47,8 @@ QWidget* headline(Binder& bind) {
     QWidget* first =
         firstSteps(hint(bind, Text::enterLoadsFirst, [] { return true; }),
                    {mainCommand(bind, Text::zoneManager, "mnuZoneManage", "zones"),
-                    mainCommand(bind, Text::averageBlock, "mnuAvgBlock", "average-block")});
+                    mainCommand(bind, Text::averageBlock, "mnuAvgBlock", "average-block"),
+                    mainCommand(bind, Text::linkLoads, "mnuLink", "link")});
     first->setObjectName(QStringLiteral("firstLoads"));
     QWidget* lengths = lengthHeadline(bind);
     QWidget* warnings = warningLines(bind, [&bind] { return warningsOf(bind); });

@@ -39,7 +39,7 @@ QWidget* parts(Binder& bind) {
                         grid(bind.heads("SEPartTopLabel(0)", "SEPartTopLabel(1)"),
                              partRow(bind, neighboursAndEnds), partRow(bind, shortPulseAsLine),
                              partRow(bind, monthsAndYears))),
-                  wrapped(bind.widget("SEMessageLabel")), wrapped(bind.widget("SENoteLabel")));
+                  wrapped(bind.widget("SEMessageLabel")), sentences(bind.widget("SENoteLabel")));
 }
 
 QWidget* inputs(Binder& bind) {

@@ -24,13 +24,13 @@ QWidget* warningLines(Binder& bind, std::function<std::vector<std::string>()> so
 /// What a person must know of the window, and what can be done about it; unseen while there is
 /// nothing. It stands between what else is above the pages, where its place costs none.
 QWidget* noticeBar(Binder& bind);
+/// The same where it takes room only while it has something to tell: nobody types where what is
+/// below moves down.
+QWidget* passingNoticeBar(Binder& bind);
 /// What to do first in an empty window, with the buttons for it behind the words.
 QWidget* firstSteps(QWidget* words, const std::vector<QWidget*>& commands);
 /// The units, the notice and what ends their bar, in the line of the pages' tabs or above them.
 QWidget* headedTabs(Binder& bind, QWidget* pages, const std::vector<QWidget*>& ends);
-/// The same where it takes room only while it has something to tell: nobody types where what is
-/// below moves down.
-QWidget* passingNoticeBar(Binder& bind);
 
 /// The lights of a window's link, side by side; the form shows those that matter.
 QWidget* linkLights(Binder& bind);

@@ -2,6 +2,7 @@
 // The window of What If: what the design needs above, six pages below.
 #include <QLabel>
 #include <QLayout>
+#include <QStyledItemDelegate>
 #include <QTabWidget>
 
 #include "design/frmWhatIf.h"
@@ -10,6 +11,7 @@
 #include "desktop/views/figure_labels.h"
 #include "desktop/views/view_pieces.h"
 #include "desktop/views/views.h"
+#include "desktop/widgets/figure_text.h"
 #include "desktop/widgets/list_view.h"
 #include "desktop/widgets/text_label.h"
 
@@ -42,7 +44,7 @@ std::function<void(std::size_t)> pointing(Binder& bind, const char* image,
 QWidget* mutedText(Binder& bind, const std::string& name) {
     QWidget* label = bind.widget(name);
     mute(label);
-    return wrapped(label);
+    return sentences(label);
 }
 
 FieldRow figureRow(Binder& bind, const std::string& caption, const std::string& array,
@@ -126,7 +128,7 @@ QWidget* largest(QWidget* label) {
     QFont font = label->font();
     font.setPointSizeF(font.pointSizeF() * larger);
     label->setFont(font);
-    return wrapped(label);
+    return sentences(label);
 }
 
 QWidget* surePage(Binder& bind) {
@@ -141,7 +143,7 @@ QWidget* surePage(Binder& bind) {
               mutedText(bind, "WISamplingLabel"));
     QWidget* picture = bind.drawing(
         "imgSure", newSureDrawing(from(bind, &frmWhatIf::surePicture), bind.form()->texts()));
-    QWidget* told = column(asked, depths, wrapped(bind.widget("WITestLabel")),
+    QWidget* told = column(asked, depths, sentences(bind.widget("WITestLabel")),
                            mutedText(bind, "WISafetyLabel"), stretch());
     return column(largest(bind.widget("WIQuestionLabel")), grow(reflow(told, grow(picture))));
 }
@@ -153,6 +155,23 @@ QWidget* lowList(Binder& bind, const std::string& name) {
     constexpr int rows = 5;
     auto* list = static_cast<ListView*>(bind.widget(name));
     list->setUsualRows(rows);
+    return list;
+}
+
+/// Shows the thousands of its lines parted as those of figures are; the list's entries stay as they
+/// are.
+class SentenceLines : public QStyledItemDelegate {
+ public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant& value, const QLocale&) const override {
+        return thinThousands(value.toString());
+    }
+};
+
+QWidget* foundFields(Binder& bind) {
+    auto* list = static_cast<ListView*>(lowList(bind, "WLList"));
+    list->setItemDelegate(new SentenceLines(list));
     return list;
 }
 
@@ -183,9 +202,9 @@ QWidget* layoutPage(Binder& bind) {
         "imgFields", newFieldsDrawing(from(bind, &frmWhatIf::fieldsPicture), texts,
                                       pointing(bind, "imgFields", &frmWhatIf::pointAtField)));
     QWidget* list = group(bind.frame("WLFieldsFrame"), passing(mutedText(bind, "WLStateLabel")),
-                          grow(lowList(bind, "WLList")),
+                          grow(foundFields(bind)),
                           buttons(bind.widget("WLTakeCommand"), bind.widget("WLCopyCommand")));
-    QWidget* found = column(passing(wrapped(bind.widget("WLMessageLabel"))),
+    QWidget* found = column(passing(sentences(bind.widget("WLMessageLabel"))),
                             grow(reflow(grow(picture), grow(points)), 3), grow(list, 2));
     return reflow(land(bind), column(search(bind), stretch()), grow(found));
 }
@@ -232,10 +251,11 @@ QWidget* comparison(Binder& bind) {
         const std::string array = arrays[i];
         rows.push_back(figureRow(bind, elementName("WVRowLabel", i), array + "Label", columns));
         rows.push_back(headRow(bind, array + "ChangeLabel", columns));
+        for (QWidget* change : rows.back().fields) asSentence(change);
     }
     auto* table = new ComparisonTable(rows);
     table->setObjectName(QStringLiteral("alternativesTable"));
-    return group(bind.frame("WVTableFrame"), grow(table), wrapped(bind.widget("WVReasonLabel")));
+    return group(bind.frame("WVTableFrame"), grow(table), sentences(bind.widget("WVReasonLabel")));
 }
 
 QWidget* alternativesPage(Binder& bind) {
@@ -249,7 +269,7 @@ QWidget* alternativesPage(Binder& bind) {
 
 QWidget* towerPage(Binder& bind) {
     QWidget* judge = group(bind.frame("WTJudgeFrame"), bind.widget("WTJudgeOption(0)"),
-                           bind.widget("WTJudgeOption(1)"), wrapped(bind.widget("WTBestLabel")),
+                           bind.widget("WTJudgeOption(1)"), sentences(bind.widget("WTBestLabel")),
                            buttons(bind.widget("WTTakeCommand")));
     QWidget* picture = bind.drawing(
         "imgTower", newTowerDrawing(from(bind, &frmWhatIf::towerPicture), bind.form()->texts()));

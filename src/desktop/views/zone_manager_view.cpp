@@ -56,6 +56,21 @@ void colourModes(Binder& bind, QWidget* list) {
     static_cast<QAbstractItemView*>(list)->setItemDelegate(new ModeLines(bind, list));
 }
 
+/// Scrolls to the zone on display, which stands below the summary.
+void showZone(const Binder& bind) {
+    bringToSight(bind.find("LOZoneReferenceText")->widget());
+    reveal(bind.find("LOZoneFrame")->widget());
+}
+
+/// A zone that is clicked in the list while the summary is open is to be seen.
+void showClickedZones(Binder& bind) {
+    auto* list = static_cast<ListView*>(bind.widget("LOZoneList"));
+    QObject::connect(list, &QAbstractItemView::clicked, list, [&bind] {
+        const Form* form = bind.form();
+        if (form != nullptr && form->control("LOSummaryPicture").visible()) showZone(bind);
+    });
+}
+
 /// A line of the summary opens its zone.
 void openZones(Binder& bind) {
     static_cast<ListView*>(bind.widget("LOZoneSummaryList"))->onOpened = [&bind](int line) {
@@ -63,7 +78,7 @@ void openZones(Binder& bind) {
             static_cast<int>(frmZoneManage::zoneOfSummaryLine(static_cast<std::size_t>(line)));
         bind.act(*bind.find("LOZoneList"),
                  [zone](Form& form, const std::string& name) { form.select(name, {zone}); });
-        bringToSight(bind.widget("LOZoneReferenceText"));
+        showZone(bind);
     };
 }
 
@@ -146,7 +161,9 @@ QWidget* zonesPage(Binder& bind) {
     constexpr double listPart = 0.23;
     auto* zone = new ScrollPage(
         column(firstZone(bind, Text::noZonesYet), grow(summary(bind)), zonePanel(bind)));
-    return column(grow(besidePage(zoneList(bind), zone, listPart)));
+    QWidget* list = zoneList(bind);
+    showClickedZones(bind);
+    return column(grow(besidePage(list, zone, listPart)));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QRawFont>
+#include <QRegularExpression>
 #include <algorithm>
 
 namespace varnholt {
@@ -28,10 +29,29 @@ qsizetype endOfDigits(const QString& text, qsizetype from) {
     return from;
 }
 
+/// A number whose thousands are parted by commas, and no list of numbers.
+const QRegularExpression& numberWithCommas() {
+    static const QRegularExpression number(
+        QStringLiteral("(?<![0-9.,])[0-9]{1,3}(,[0-9]{3})+(?![0-9]|,[0-9])"));
+    return number;
+}
+
 }  // namespace
 
-QString groupedThousands(const QString& text) {
+QString thinThousands(QString text) {
+    if (!text.contains(u',')) return text;
+    QRegularExpressionMatchIterator numbers = numberWithCommas().globalMatch(text);
+    while (numbers.hasNext()) {
+        const QRegularExpressionMatch number = numbers.next();
+        for (qsizetype at = number.capturedStart(); at < number.capturedEnd(); ++at)
+            if (text[at] == u',') text[at] = thinSpace;
+    }
+    return text;
+}
+
+QString groupedThousands(const QString& held) {
     constexpr qsizetype group = 3;
+    const QString text = thinThousands(held);
     QString grouped;
     for (qsizetype at = 0; at < text.size();) {
         const qsizetype end = endOfDigits(text, at);

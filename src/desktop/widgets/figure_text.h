@@ -13,7 +13,11 @@ namespace varnholt {
 
 /// The text with the thousands of each of its numbers parted by thin spaces, as figures are shown.
 /// What holds the text, a script, a file, the clipboard, has none of them.
-QString groupedThousands(const QString& text);
+QString groupedThousands(const QString& held);
+
+/// The text with thin spaces in place of the commas that part thousands in it, as sentences are
+/// shown: a number that has none, the year in a sentence, stays as it is.
+QString thinThousands(QString text);
 
 /// A line of figures in the face of the words around it: every digit stands in the same width,
 /// whatever the face does, so that columns align.

@@ -395,6 +395,11 @@ QWidget* wrapped(QWidget* label) {
     return label;
 }
 
+QWidget* sentences(QWidget* label) {
+    asSentence(label);
+    return wrapped(label);
+}
+
 QWidget* passing(QWidget* label) {
     label->setProperty(passingProperty, qobject_cast<QLabel*>(label) != nullptr);
     return label;

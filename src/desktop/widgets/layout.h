@@ -86,6 +86,8 @@ QWidget* buttons(B... widgets) {
 
 /// A label that may take several lines.
 QWidget* wrapped(QWidget* label);
+/// The same of sentences about results, in which no name stands whose commas are its own.
+QWidget* sentences(QWidget* label);
 
 /// A label that takes no place in its column while it says nothing.
 QWidget* passing(QWidget* label);

@@ -50,8 +50,12 @@ int NoticeBar::leastWithText() const {
 }
 
 void NoticeBar::drawSign() {
-    sign_->setPixmap(
-        houseIcon(QStringLiteral("stale")).pixmap(QSize(signSize, signSize), devicePixelRatioF()));
+    sign_->setPixmap(houseIcon(icon_).pixmap(QSize(signSize, signSize), devicePixelRatioF()));
+}
+
+void NoticeBar::setSign(const QString& icon) {
+    icon_ = icon;
+    if (isVisible()) drawSign();
 }
 
 void NoticeBar::follow() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QString>
 #include <functional>
 
 class QAbstractButton;
@@ -19,6 +20,8 @@ class NoticeBar : public QFrame {
     /// @param action the button behind it, hidden where nothing can be done
     NoticeBar(QLabel* text, QAbstractButton* action);
 
+    /// The sign before the text, by the name of its icon, where it is not that of older results.
+    void setSign(const QString& icon);
     /// Its least width while it tells something, whether it does now or not, in pixels.
     int leastWithText() const;
 
@@ -38,6 +41,7 @@ class NoticeBar : public QFrame {
     void follow();
 
     QLabel* sign_;
+    QString icon_ = QStringLiteral("stale");
     QLabel* text_;
     QString announced_;
 };

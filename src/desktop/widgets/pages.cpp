@@ -76,21 +76,9 @@ class Revealer : public QObject {
             QCoreApplication::postEvent(this, new QEvent(QEvent::User));
         return QObject::eventFilter(watched, event);
     }
-    void customEvent(QEvent*) override { reveal(); }
+    void customEvent(QEvent*) override { reveal(panel_); }
 
  private:
-    void reveal() {
-        QWidget* around = panel_->parentWidget();
-        while (around != nullptr && qobject_cast<QScrollArea*>(around) == nullptr)
-            around = around->parentWidget();
-        if (around == nullptr || panel_->isHidden()) return;
-        auto* area = static_cast<QScrollArea*>(around);
-        const QRect place(panel_->mapTo(area->widget(), QPoint(0, 0)), panel_->size());
-        // The end first and then the beginning, which counts more where not all fits.
-        area->ensureVisible(place.left(), place.bottom(), 0, gridStep);
-        area->ensureVisible(place.left(), place.top(), 0, gridStep);
-    }
-
     QWidget* panel_;
 };
 
@@ -130,6 +118,18 @@ void bringToSight(QWidget* widget) {
     for (QWidget* around = widget->parentWidget(); around != nullptr;
          around = around->parentWidget())
         if (auto* area = qobject_cast<QScrollArea*>(around)) area->ensureWidgetVisible(widget);
+}
+
+void reveal(const QWidget* panel) {
+    QWidget* around = panel->parentWidget();
+    while (around != nullptr && qobject_cast<QScrollArea*>(around) == nullptr)
+        around = around->parentWidget();
+    if (around == nullptr || panel->isHidden()) return;
+    auto* area = static_cast<QScrollArea*>(around);
+    const QRect place(panel->mapTo(area->widget(), QPoint(0, 0)), panel->size());
+    // The end first and then the beginning, which counts more where not all fits.
+    area->ensureVisible(place.left(), place.bottom(), 0, gridStep);
+    area->ensureVisible(place.left(), place.top(), 0, gridStep);
 }
 
 void revealWhenOpened(QWidget* panel) { new Revealer(panel); }

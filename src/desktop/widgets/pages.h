@@ -27,6 +27,9 @@ QWidget* roomy(QWidget* view, const QSize& least);
 /// Brings the pages of tabs around a widget to the front and scrolls it into sight.
 void bringToSight(QWidget* widget);
 
+/// Scrolls a panel into sight, its beginning where not all of it fits.
+void reveal(const QWidget* panel);
+
 /// Scrolls a panel into sight when it opens.
 void revealWhenOpened(QWidget* panel);
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/widgets/refusal_hint.h"
 
+#include <QApplication>
 #include <QLabel>
+#include <QList>
+#include <QRect>
 #include <algorithm>
 
 #include "desktop/widgets/look.h"
@@ -24,28 +27,51 @@ QWidget* pageOf(QWidget* field) {
     return page;
 }
 
-/// Below the field, or above it where there is no room below, within the page.
+QRect placeOnPage(const QWidget* widget, const QWidget* page) {
+    return {widget->mapTo(page, QPoint(0, 0)), widget->size()};
+}
+
+/// Whether the place lies over something else on the page that is worked.
+bool coversOthers(const QRect& place, const QWidget* field, const QWidget* page) {
+    const QList<QWidget*> all = page->findChildren<QWidget*>();
+    return std::any_of(all.begin(), all.end(), [&](const QWidget* other) {
+        const bool mine =
+            other == field || other->isAncestorOf(field) || field->isAncestorOf(other);
+        return !mine && other->isVisible() && other->focusPolicy() != Qt::NoFocus &&
+               placeOnPage(other, page).intersects(place);
+    });
+}
+
+/// Below the field, or above it where that is within the page and below is not or covers others.
 QPoint placeFor(const QWidget* field, const QWidget* page, const QSize& size) {
-    const QPoint corner = field->mapTo(page, QPoint(0, 0));
-    const int below = corner.y() + field->height() + 2;
-    const int y = below + size.height() <= page->height() ? below : corner.y() - size.height() - 2;
-    return {std::clamp(corner.x(), 0, std::max(0, page->width() - size.width())), std::max(0, y)};
+    const QRect own = placeOnPage(field, page);
+    const int x = std::clamp(own.x(), 0, std::max(0, page->width() - size.width()));
+    const QPoint below(x, own.y() + own.height() + 2), above(x, own.y() - size.height() - 2);
+    if (below.y() + size.height() > page->height()) return {x, std::max(0, above.y())};
+    const auto isFree = [&](const QPoint& corner) {
+        return !coversOthers(QRect(corner, size), field, page);
+    };
+    return !isFree(below) && above.y() >= 0 && isFree(above) ? above : below;
 }
 
 }  // namespace
 
 RefusalHint::~RefusalHint() { delete label_; }
 
+void RefusalHint::makeLabel() {
+    label_ = new QLabel;
+    label_->setObjectName(QStringLiteral("refusalHint"));
+    label_->setTextFormat(Qt::PlainText);
+    label_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    label_->setWordWrap(true);
+    label_->setMargin(gridStep / 2);
+    QObject::connect(qApp, &QApplication::focusChanged, label_,
+                     [this](QWidget*, const QWidget* now) { follow(now); });
+}
+
 void RefusalHint::show(QWidget* field, const std::string& why) {
     QWidget* page = pageOf(field);
-    if (label_ == nullptr) {
-        label_ = new QLabel;
-        label_->setObjectName(QStringLiteral("refusalHint"));
-        label_->setTextFormat(Qt::PlainText);
-        label_->setAttribute(Qt::WA_TransparentForMouseEvents);
-        label_->setWordWrap(true);
-        label_->setMargin(gridStep / 2);
-    }
+    if (label_ == nullptr) makeLabel();
     field_ = field;
     label_->setParent(page);
     label_->setText(qt(why));
@@ -61,6 +87,14 @@ void RefusalHint::show(QWidget* field, const std::string& why) {
 void RefusalHint::hide() {
     if (label_ != nullptr) label_->hide();
     field_ = nullptr;
+}
+
+void RefusalHint::follow(const QWidget* focused) {
+    if (label_ == nullptr || field_ == nullptr || focused == nullptr) return;
+    const QWidget* page = label_->parentWidget();
+    if (focused == field_ || field_->isAncestorOf(focused)) return label_->show();
+    if (page->isAncestorOf(focused) && placeOnPage(focused, page).intersects(label_->geometry()))
+        label_->hide();
 }
 
 bool RefusalHint::isShownFor(const QWidget* field, const std::string& why) const {

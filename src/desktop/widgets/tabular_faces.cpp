@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/widgets/tabular_faces.h"
 
-#include <hb-ot.h>
 #include <hb.h>
 
 #include <QByteArray>
 #include <QFontDatabase>
-#include <QFontInfo>
 #include <QRawFont>
 #include <QtEndian>
 #include <array>
@@ -41,17 +39,26 @@ void addTable(hb_face_t* face, const char* tag, const QByteArray& bytes) {
     hb_face_builder_add_table(face, hb_tag_from_string(tag, 4), blobOf(bytes).get());
 }
 
-/// A face with the tables of a font's file; null where its weights stand in one variable file.
-Face copyOf(const QRawFont& font) {
-    if (!font.isValid() || !font.fontTable("fvar").isEmpty()) return {};
+/// A face in the making, with what is kept of a font and this map of characters.
+Face begunFrom(const QRawFont& font, const QByteArray& characters) {
     Face face{hb_face_builder_create()};
     for (const char* tag : keptTables)
         if (const QByteArray bytes = font.fontTable(tag); !bytes.isEmpty())
             addTable(face.get(), tag, bytes);
-    addTable(face.get(), "cmap", font.fontTable("cmap"));
-    // The tables of a face that is being built cannot be looked up in; those of its file can.
-    const Blob file{hb_face_reference_blob(face.get())};
+    addTable(face.get(), "cmap", characters);
+    return face;
+}
+
+/// A font's face, to look things up in.
+Face faceOf(const QRawFont& font) {
+    const Face begun = begunFrom(font, font.fontTable("cmap"));
+    const Blob file{hb_face_reference_blob(begun.get())};
     return Face{hb_face_create(file.get(), 0)};
+}
+
+/// Whether each of the font's weights has a file of its own.
+bool isOfOneWeight(const QRawFont& font) {
+    return font.isValid() && font.fontTable("fvar").isEmpty();
 }
 
 /// The glyphs of the ten digits, of one width where the face has such.
@@ -83,7 +90,8 @@ struct CharacterGlyph {
     quint32 character, glyph;
 };
 
-/// A map of characters, OpenType's "cmap" with one table of format 12.
+/// A map of characters, OpenType's "cmap" with one table of format 12. It stands as that of the
+/// Unicode platform too, beside which FreeType makes no map from the names of the glyphs.
 QByteArray characterMap(const std::vector<CharacterGlyph>& entries) {
     QByteArray groups;
     quint32 count = 0;
@@ -97,9 +105,13 @@ QByteArray characterMap(const std::vector<CharacterGlyph>& entries) {
         append(groups, entries[i].glyph);
         i = end;
     }
+    constexpr quint32 start = 20;
     QByteArray map;
-    append(map, {0, 1, 3, 10});
-    append<quint32>(map, 12);
+    append(map, {0, 2});
+    for (const auto& [platform, encoding] : {std::pair<quint16, quint16>{0, 4}, {3, 10}}) {
+        append(map, {platform, encoding});
+        append<quint32>(map, start);
+    }
     append(map, {12, 0});
     append<quint32>(map, 16 + static_cast<quint32>(groups.size()));
     append<quint32>(map, 0);
@@ -123,7 +135,8 @@ QByteArray tabularCharacterMap(hb_face_t* face, hb_font_t* font, const Glyphs& d
     return characterMap(entries);
 }
 
-/// OpenType's "name" with family, style, full name and PostScript name.
+/// OpenType's "name" with family (1), style (2), full name (4) and PostScript name (6), in English
+/// of the Windows platform.
 QByteArray names(const QString& family, const QString& style) {
     const QString full = family + QLatin1Char(' ') + style;
     QString postScript = full;
@@ -140,19 +153,15 @@ QByteArray names(const QString& family, const QString& style) {
     return head + text;
 }
 
-/// The file of a font's sister; empty where it can have none.
-QByteArray sisterOf(const QRawFont& font) {
-    const Face face = copyOf(font);
-    if (!face) return {};
+/// The file of the sister of a family's font; empty where it can have none.
+QByteArray sisterOf(const QRawFont& font, const QString& family) {
+    if (!isOfOneWeight(font)) return {};
+    const Face face = faceOf(font);
     const ShapingFont shaping{hb_font_create(face.get())};
     const Glyphs digits = digitsOf(shaping.get(), true);
     if (digits == digitsOf(shaping.get(), false)) return {};
-    const Face sister{hb_face_builder_create()};
-    for (const char* tag : keptTables)
-        if (const QByteArray bytes = font.fontTable(tag); !bytes.isEmpty())
-            addTable(sister.get(), tag, bytes);
-    addTable(sister.get(), "cmap", tabularCharacterMap(face.get(), shaping.get(), digits));
-    addTable(sister.get(), "name", names(tabularFamily(font.familyName()), font.styleName()));
+    const Face sister = begunFrom(font, tabularCharacterMap(face.get(), shaping.get(), digits));
+    addTable(sister.get(), "name", names(tabularFamily(family), font.styleName()));
     const Blob file{hb_face_reference_blob(sister.get())};
     unsigned size = 0;
     const char* bytes = hb_blob_get_data(file.get(), &size);
@@ -170,7 +179,7 @@ void registerTabularFaces(const QFont& font) {
         for (const auto weight : {QFont::Normal, QFont::Medium, QFont::DemiBold, QFont::Bold}) {
             QFont face(family);
             face.setWeight(weight);
-            const QByteArray file = sisterOf(QRawFont::fromFont(face));
+            const QByteArray file = sisterOf(QRawFont::fromFont(face), family);
             if (file.isEmpty()) break;
             QFontDatabase::addApplicationFontFromData(file);
         }

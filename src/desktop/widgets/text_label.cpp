@@ -25,9 +25,12 @@ bool TextLabel::isOneLine() const {
 /// A label of a field that it gives the focus to may mark the key for that.
 bool TextLabel::marksKey() const { return buddy() != nullptr && text().contains(u'&'); }
 
+QString TextLabel::shownText() const { return sentence_ ? thinThousands(text()) : text(); }
+
 const QStaticText& TextLabel::shaped() const {
-    if (shaped_.text() == text() && font_ == font()) return shaped_;
-    shaped_.setText(text());
+    const QString shown = shownText();
+    if (shaped_.text() == shown && font_ == font()) return shaped_;
+    shaped_.setText(shown);
     font_ = font();
     shaped_.prepare(QTransform(), font_);
     return shaped_;
@@ -74,6 +77,14 @@ void TextLabel::setFigures() {
     update();
 }
 
+/// A thin space is narrower than the comma in its place, so that a sentence never takes more lines
+/// than the toolkit counts by its text.
+void TextLabel::setSentence() {
+    sentence_ = true;
+    updateGeometry();
+    update();
+}
+
 QColor TextLabel::colour() const {
     const Look& look = lookOf(palette());
     if (dimmed_) return look.muted;
@@ -111,7 +122,7 @@ void TextLabel::drawLine(QPainter& painter) const {
     if (!showsFigures() && shaped().size().width() > room.width() + 1) {
         const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
         painter.drawText(room, static_cast<int>(side),
-                         fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
+                         fontMetrics().elidedText(shownText(), Qt::ElideRight, room.width()));
         return;
     }
     const QPointF corner = placeOfLine().topLeft();
@@ -129,7 +140,7 @@ void TextLabel::paintEvent(QPaintEvent* event) {
     const int wraps = wordWrap() ? Qt::TextWordWrap : 0;
     const int keys = marksKey() ? Qt::TextShowMnemonic : 0;
     const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
-    painter.drawText(contentsRect(), static_cast<int>(side) | wraps | keys, text());
+    painter.drawText(contentsRect(), static_cast<int>(side) | wraps | keys, shownText());
 }
 
 void mute(QWidget* label) {
@@ -138,6 +149,10 @@ void mute(QWidget* label) {
 
 void asFigures(QWidget* label) {
     if (auto* text = dynamic_cast<TextLabel*>(label)) text->setFigures();
+}
+
+void asSentence(QWidget* label) {
+    if (auto* text = dynamic_cast<TextLabel*>(label)) text->setSentence();
 }
 
 }  // namespace varnholt

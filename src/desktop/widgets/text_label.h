@@ -27,6 +27,8 @@ class TextLabel : public QLabel {
     bool isDimmed() const { return dimmed_; }
     /// Shows the figures in it grouped and in columns; its text stays as it is.
     void setFigures();
+    /// Shows the thousands in a sentence parted as those of figures are; its text stays as it is.
+    void setSentence();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -42,6 +44,7 @@ class TextLabel : public QLabel {
     bool isOneLine() const;
     bool marksKey() const;
     bool showsFigures() const;
+    QString shownText() const;
     const QStaticText& shaped() const;
     QSizeF sizeOfLine() const;
     QRectF placeOfLine() const;
@@ -50,6 +53,7 @@ class TextLabel : public QLabel {
     Tone tone_ = Tone::plain;
     bool dimmed_ = false;
     bool figures_ = false;
+    bool sentence_ = false;
     mutable QStaticText shaped_;
     mutable QFont font_;
     mutable FigureText figureText_;
@@ -59,5 +63,7 @@ class TextLabel : public QLabel {
 void mute(QWidget* label);
 /// Makes it one of figures, if it is one of these.
 void asFigures(QWidget* label);
+/// Makes it a sentence, if it is one of these.
+void asSentence(QWidget* label);
 
 }  // namespace varnholt

@@ -5,12 +5,14 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPointer>
+#include <QPushButton>
 #include <QScreen>
 #include <QStackedWidget>
 #include <QStandardPaths>
@@ -25,6 +27,7 @@
 #include "desktop/binding/mnemonics.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/notice_bar.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/theme.h"
 #include "desktop/windows/child_frame.h"
@@ -72,17 +75,11 @@ MainWindow::MainWindow(Varnmain& main, FaultTaker faults, const std::string& rec
         main, [this](const std::string& entry) { menu_->action(entry)->trigger(); }, startFiles());
     pages_->addWidget(start_);
     pages_->addWidget(area_);
-    notice_ = new QLabel;
-    notice_->setObjectName(QStringLiteral("NoticeLabel"));
-    notice_->setTextFormat(Qt::PlainText);
-    notice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    notice_->setWordWrap(true);
-    notice_->setMargin(gridStep);
     auto* middle = new QWidget;
     auto* rows = new QVBoxLayout(middle);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
-    rows->addWidget(notice_);
+    rows->addWidget(newNotice());
     rows->addWidget(pages_, 1);
     setCentralWidget(middle);
 
@@ -176,10 +173,35 @@ void MainWindow::refresh() {
     showNotice();
 }
 
+/// A bar above all windows, which goes with the next command or by its own button.
+QWidget* MainWindow::newNotice() {
+    notice_ = new QLabel;
+    notice_->setObjectName(QStringLiteral("NoticeLabel"));
+    notice_->setTextFormat(Qt::PlainText);
+    notice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* close = new QPushButton(qt(main_.text(Text::closeNotice)));
+    close->setAutoDefault(false);
+    connect(close, &QPushButton::clicked, this, [this] {
+        main_.setNotice({});
+        refresh();
+    });
+    auto* bar = new NoticeBar(notice_, close);
+    bar->setSign(QStringLiteral("refused"));
+    QSizePolicy policy = bar->sizePolicy();
+    policy.setRetainSizeWhenHidden(false);
+    bar->setSizePolicy(policy);
+    noticeStrip_ = new QWidget;
+    auto* around = new QHBoxLayout(noticeStrip_);
+    around->setContentsMargins(gridStep, gridStep / 2, gridStep, gridStep / 2);
+    around->addWidget(bar);
+    return noticeStrip_;
+}
+
 /// What no window is there to tell.
 void MainWindow::showNotice() {
     const QString text = qt(main_.control("NoticeLabel").caption());
     notice_->setVisible(!text.isEmpty());
+    noticeStrip_->setVisible(!text.isEmpty());
     if (text == notice_->text()) return;
     notice_->setText(text);
     if (text.isEmpty()) return;

@@ -80,6 +80,7 @@ class MainWindow : public QMainWindow {
     void addRecentMenu();
     void fillRecentMenu();
     void refresh();
+    QWidget* newNotice();
     void showNotice();
     /// A person has called a command that stands in no menu.
     void commandBegins();
@@ -93,6 +94,7 @@ class MainWindow : public QMainWindow {
     QLabel* units_;
     QLabel* told_;
     QLabel* notice_;
+    QWidget* noticeStrip_;
     std::unique_ptr<MainMenu> menu_;
     QMenu* recentMenu_ = nullptr;
     std::vector<QAction*> windowEntries_;

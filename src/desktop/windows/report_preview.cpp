@@ -23,6 +23,7 @@
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/tool_keys.h"
+#include "forms/text_numbers/feedback.h"
 #include "forms/text_numbers/reports.h"
 #include "forms/text_numbers/screen_reader.h"
 #include "reports/report_shelf.h"
@@ -247,13 +248,16 @@ void ReportPreview::save(const std::string& extension) {
 }
 
 void ReportPreview::saveAs(const std::string& path) {
-    const auto writePdf = [this](const Report&, const std::string& file) {
+    bool brokenOff = false;
+    const auto writePdf = [&](const Report&, const std::string& file) {
         const std::string bytes =
             pdfOf(*view_->pages(), setup_.layoutFor(*report_), texts_, services_.writing);
-        if (!bytes.empty()) replaceWholeFile(file, bytes);
+        brokenOff = bytes.empty();
+        if (!brokenOff) replaceWholeFile(file, bytes);
     };
     try {
         saveReport(*report_, path, writePdf);
+        if (!brokenOff) note(Text::savedAs, path);
     } catch (const RunTimeError& error) {
         services_.tell(filledIn(texts_.text(Text::reportNotSaved), {path, error.what()}));
     }
@@ -261,7 +265,13 @@ void ReportPreview::saveAs(const std::string& path) {
 
 /// The page in front as text, columns apart by tabulators.
 void ReportPreview::copy() {
-    QGuiApplication::clipboard()->setText(wordsOf(*view_->pages(), view_->page()));
+    const QString words = wordsOf(*view_->pages(), view_->page());
+    QGuiApplication::clipboard()->setText(words);
+    note(Text::tableCopied, std::to_string(words.count(u'\n')));
+}
+
+void ReportPreview::note(int text, const std::string& what) {
+    if (services_.note) services_.note(filledIn(texts_.text(text), {what}));
 }
 
 void ReportPreview::previousPage() {

@@ -22,6 +22,8 @@ namespace varnholt {
 /// What the preview asks of the program around it.
 struct PreviewServices {
     std::function<void(const std::string& message)> tell;
+    /// Says in passing what has come of a command.
+    std::function<void(const std::string& message)> note;
     /// Opens the help at what it says of previews.
     std::function<void()> help;
     /// The chosen path, empty when the dialog was cancelled.
@@ -41,7 +43,7 @@ class ReportPreview : public QWidget {
     const PageSetup& setup() const { return setup_; }
     /// Lays the report out for other paper. Where the user breaks that off, it stays as it is.
     void setSetup(const PageSetup& setup);
-    /// Writes the report; what fails is told, and leaves nothing behind.
+    /// Writes the report and notes where; what fails is told, and leaves nothing behind.
     void saveAs(const std::string& path);
     QSize sizeHint() const override { return {900, 900}; }
 
@@ -54,6 +56,7 @@ class ReportPreview : public QWidget {
     QAction* tool(QToolBar* bar, const char* name, int text, const char* keys,
                   void (ReportPreview::*run)());
     void addPageTools();
+    void note(int text, const std::string& what);
     void addPaperTools();
     void addSearch();
     void showState();

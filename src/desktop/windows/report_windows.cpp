@@ -113,6 +113,7 @@ ReportWindows::~ReportWindows() {
 ReportPreview* ReportWindows::show(std::shared_ptr<const Report> report) {
     PreviewServices services;
     services.tell = [this](const std::string& message) { tell(message); };
+    services.note = [this](const std::string& message) { window_.tell(message); };
     services.help = [this] { window_.explain("mnuFilePrintSetup"); };
     services.chooseFile = [this](const std::string& name, int filterText) {
         return platform_

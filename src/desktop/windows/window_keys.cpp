@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -159,6 +160,19 @@ void leavePanel(MainWindow& window) {
     if (standsBesideAnother(form)) frame->close();
 }
 
+/// An open list takes Escape for itself: else the key would leave the panel around it as well.
+class ListsKeepEscape : public QObject {
+ public:
+    using QObject::QObject;
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::ShortcutOverride &&
+            static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
+            QApplication::activePopupWidget() != nullptr)
+            event->accept();
+        return false;
+    }
+};
+
 template <class Run>
 void addKey(MainWindow& window, const QKeySequence& keys, Run run) {
     auto* shortcut = new QShortcut(keys, &window);
@@ -174,6 +188,7 @@ void addWindowKeys(MainWindow& window) {
     addKey(window, Qt::Key_F6, [&window] { nextPane(window, false); });
     addKey(window, Qt::SHIFT | Qt::Key_F6, [&window] { nextPane(window, true); });
     addKey(window, Qt::Key_Escape, [&window] { leavePanel(window); });
+    qApp->installEventFilter(new ListsKeepEscape(&window));
 }
 
 void leaveKeysToTheMenu(const QMdiSubWindow& frame) {

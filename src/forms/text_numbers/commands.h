@@ -34,6 +34,7 @@ constexpr int noticeEndsAtLine = 1242;
 constexpr int noticeNumberTooLarge = 1243;
 constexpr int noticeLeftoverLines = 1244;
 constexpr int noticeReadingFailed = 1245;
+constexpr int noticeEndsAtOnce = 1261;
 constexpr int noticeUnreadPart = 1260;
 constexpr int noticeZonesRead = 1246;
 constexpr int noticePumpsRead = 1258;

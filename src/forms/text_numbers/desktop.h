@@ -27,6 +27,7 @@ constexpr int nextWindowHint = 1366;
 constexpr int loadsBesideDesign = 1372;
 constexpr int loadsBesideDesignHint = 1373;
 constexpr int noLinkedPair = 1374;
+constexpr int closeNotice = 1375;
 constexpr int programFault = 1367;
 constexpr int toolbarName = 1368;
 constexpr int chartPartMissing = 1369;

@@ -26,6 +26,7 @@ constexpr int noticeSetAside = 8557;
 constexpr int noticeFileNotFound = 8560;
 constexpr int zoneFileNotOpened = 8561;
 constexpr int noticeOpenLine = 8562;
+constexpr int noticeShortenedLine = 8564;
 constexpr int noticeLeftUnread = 8563;
 constexpr int textShownInPart = 8565;
 constexpr int readingFile = 8558;

@@ -28,6 +28,7 @@ constexpr int oneLoop = 2570;
 constexpr int aBore = 2571;
 constexpr int aTrench = 2572;
 constexpr int ofPipe = 2573;
+constexpr int lengthsKept = 2574;
 constexpr int lengthParts = 2575;
 constexpr int longTermPart = 2576;
 constexpr int monthlyPart = 2577;
@@ -43,5 +44,6 @@ constexpr int lengthPartsOfMode = 2586;
 constexpr int lengthPart = 2587;
 constexpr int smallField = 2588;
 constexpr int smallFieldWords = 2589;
+constexpr int lengthPartsNotKept = 2590;
 
 }  // namespace varnholt::Text
