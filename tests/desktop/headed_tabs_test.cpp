@@ -123,6 +123,19 @@ TEST(HeadedWindows, HaveTheirUnitsBesideTheTabsWhereThereIsRoom) {
     EXPECT_GT(wide.left(), tabs->tabBar()->tabRect(tabs->count() - 1).right());
 }
 
+TEST(HeadedWindows, BeginWithTheirUnitsWhereverTheyStand) {
+    Desk desk;
+    ViewRegistry views;
+    desk.main().click("NewBorehole");
+    FormWindow window(*desk.main().activeWindow(), views.maker(), {});
+    for (const int width : {683, 1300}) {
+        unitsIn(window, width);
+        const QWidget* first = window.nextInFocusChain();
+        while ((first->focusPolicy() & Qt::TabFocus) == 0) first = first->nextInFocusChain();
+        EXPECT_EQ(first, window.binder().widget("MetricCheck")) << width;
+    }
+}
+
 TEST(PassingLabels, TakeNoPlaceWhileTheySayNothing) {
     auto* note = new TextLabel;
     auto* upper = new TextLabel(QStringLiteral("Above"));

@@ -20,6 +20,8 @@ class FitCurves : public ChartDrawing {
 
     QString description() const override;
     QSize sizeHint() const override { return {400, 370}; }
+    /// Narrow enough to stand beside tables whose heads are long.
+    QSize minimumSizeHint() const override { return {208, 160}; }
 
  protected:
     bool take() override;

@@ -93,10 +93,10 @@ QWidget* headedTabs(Binder& bind, QWidget* pages, const std::vector<QWidget*>& e
     layout->onTurned = [line, metric](bool beside) {
         auto* row = static_cast<QHBoxLayout*>(line->layout());
         row->setContentsMargins(2 * gridStep, beside ? 0 : gridStep / 2, 2 * gridStep, 0);
-        // Beside the tabs nothing stands in the midst of the line while there is no notice.
+        // Beside the tabs nothing stands in the midst of the line while there is no notice. Tab
+        // keeps its order: a window begins with its units.
         row->removeWidget(metric);
         row->insertWidget(beside ? 1 : 0, metric, 0, Qt::AlignVCenter);
-        setReadingOrder(line);
     };
     return around;
 }

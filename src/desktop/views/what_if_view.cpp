@@ -110,10 +110,13 @@ QWidget* decidesPage(Binder& bind) {
                      buttons(bind.widget("WIGroundOption(0)"), bind.widget("WIGroundOption(1)"),
                              bind.widget("WIGroundOption(2)"))),
                spreads(bind), stretch());
+    QWidget* tied = mutedText(bind, "WITiedLabel");
+    constexpr int leastTied = 24 * gridStep;
+    tied->setMinimumWidth(leastTied);
     QWidget* ties = group(
         bind.frame("WITieFrame"),
         reflow(grid(bind.row("WITieText(0)"), bind.row("WITieText(1)"), bind.row("WITieText(2)")),
-               grow(mutedText(bind, "WITiedLabel"))));
+               grow(tied)));
     QWidget* picture =
         bind.drawing("imgTornado",
                      newTornadoDrawing(from(bind, &frmWhatIf::tornadoPicture), bind.form()->texts(),

@@ -153,7 +153,7 @@ void addColumns(Binder& bind, ListView& list) {
         {headsOf(bind),
          [columns](int row, int column, int role) { return columns->data(row, column, role); },
          [columns](int row) { return columns->shown(row); },
-         {{0, 0}, {12, 5}, {6, 1}, {8, 1}}});
+         {{0, 0}, {11, 5}, {6, 1}, {8, 1}}});
     list.setItemDelegateForColumn(loadColumn, new LoadBars(&list));
     list.setCells({[&list](int row) {
                        QStringList cells;

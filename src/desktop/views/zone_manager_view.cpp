@@ -158,7 +158,7 @@ QWidget* summary(Binder& bind) {
 /// The summary above the zone, where it is seen as soon as it opens. In a narrow window its table
 /// needs the place of the list, which then stands above it.
 QWidget* zonesPage(Binder& bind) {
-    constexpr double listPart = 0.23;
+    constexpr double listPart = 0.22;
     auto* zone = new ScrollPage(
         column(firstZone(bind, Text::noZonesYet), grow(summary(bind)), zonePanel(bind)));
     QWidget* list = zoneList(bind);

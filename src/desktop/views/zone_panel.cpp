@@ -65,8 +65,16 @@ QWidget* loads(Binder& bind) {
             grow(bind.drawing("LOLoadsChart", bars))));
 }
 
+/// A number of pumps, which leaves the line to their name.
+void narrow(QWidget* field) {
+    constexpr int figures = 6;
+    field->setFont(figureFont(field->font()));
+    static_cast<FieldEdit*>(field)->setFigures(figures);
+}
+
 FieldRow pumpName(Binder& bind) {
     const FieldRow units = bind.row("LONumberOfUnitsText(1)");
+    narrow(units.fields.front());
     FieldRow row = bind.row("LOPumpNameText");
     row.more = {units.caption, units.fields.front()};
     return row;
@@ -87,13 +95,6 @@ QWidget* pumpCommands(Binder& bind) {
     return buttons(bind.widget("LOSelectCommand"), ifAny(bind, "LOAutoSelectCommand"),
                    bind.widget("LODetailsCommand"), bind.widget("LOClearPumpsCommand"),
                    bind.widget("LOCustomPumpCheck"));
-}
-
-/// A number that the form keeps as text.
-void narrow(QWidget* field) {
-    constexpr int figures = 6;
-    field->setFont(figureFont(field->font()));
-    static_cast<FieldEdit*>(field)->setFigures(figures);
 }
 
 QWidget* selectionFields(Binder& bind) {
