@@ -34,9 +34,9 @@ HeadedTabsLayout::HeadedTabsLayout(QWidget* parent, QWidget* bar, QTabWidget* ta
       pages_(std::make_unique<QWidgetItem>(tabs)),
       tabs_(tabs) {
     setContentsMargins(0, 0, 0, 0);
-    addChildWidget(tabs);
+    // The keyboard comes to the bar first; the line of the tabs is as wide as the pages.
     addChildWidget(bar);
-    // The line of the tabs is as wide as the pages.
+    addChildWidget(tabs);
     bar->raise();
 }
 
