@@ -138,18 +138,23 @@ void LinkedDesign::flashLights() {
     flash(*LoadsHome());
 }
 
+bool LinkedDesign::loadsDiffer() const {
+    const ProjectLoads& own = common_.loads;
+    return own.zoneNumber != LoadsHome()->zoneNumber() ||
+           !sameLoads(own.zones, LoadsHome()->document().data.zones);
+}
+
 /// Takes the loads window's zones when they differ. True when they did.
 bool LinkedDesign::transferZones() {
+    if (!loadsDiffer()) return false;
     const LoadsDocument& from = LoadsHome()->document();
     ProjectLoads& own = common_.loads;
-    const std::int16_t count = LoadsHome()->zoneNumber();
-    if (own.zoneNumber == count && sameLoads(own.zones, from.data.zones)) return false;
     own.zones = from.data.zones;
     for (std::size_t i = 0; i < own.zones.size(); ++i) {
         const std::string name = text(Text::zone) + " " + std::to_string(i + 1);
         if (own.zones[i].name != name) own.zones.edit(i).name = name;
     }
-    own.zoneNumber = count;
+    own.zoneNumber = LoadsHome()->zoneNumber();
     own.activeSeries = from.data.activeSeries;
     own.file = from.file;
     common_.conditions.flowRate = from.data.conditions.flowRate;
@@ -255,7 +260,9 @@ void LinkedDesign::restoreLink(int windowNumber) {
 
 void LinkedDesign::activated() {
     DesignDocument::activated();
-    if (!link_ || !LoadsHome()->hasUnsavedChanges() || !link_->isNamed()) return;
+    if (!link_ || !link_->isNamed()) return;
+    // Loads may also have been saved, opened or cleared since the design last read them.
+    if (!LoadsHome()->hasUnsavedChanges() && !loadsDiffer()) return;
     TransferLoadsVariablesIn();
     refreshNotice();
 }

@@ -109,6 +109,7 @@ class LinkedDesign : public DesignDocument {
     void registerLoadsValues();
     void registerConditions();
 
+    bool loadsDiffer() const;
     bool transferZones();
     void flashLights();
     void passProjectData();

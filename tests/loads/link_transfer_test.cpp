@@ -95,11 +95,32 @@ TEST_F(LoadsTransfer, RunsWhenTheDesignComesToTheFrontAndTheLoadsHaveChanges) {
     EXPECT_EQ(design->ZoneList()[0].days, 1);
 }
 
-TEST_F(LoadsTransfer, StaysAwayFromTheFrontWithoutUnsavedChanges) {
+TEST_F(LoadsTransfer, RunsWhenTheDesignComesToTheFrontAfterTheLoadsWereSaved) {
     main.activate(loads);
     loads.data().zones.edit(0).days = 1;
+    loads.unsaved = true;
+    loads.LOSaveCommand_Click();
+    main.activate(*design);
+    EXPECT_EQ(design->changes, 1);
+    EXPECT_EQ(design->ZoneList()[0].days, 1);
+    EXPECT_TRUE(design->isStale());
+}
+
+TEST_F(LoadsTransfer, TakesLoadsThatWereClearedWhenTheDesignComesToTheFront) {
+    main.activate(loads);
+    loads.setZones({});
+    main.activate(*design);
+    EXPECT_EQ(design->changes, 1);
+    EXPECT_EQ(design->loads().zoneNumber, 0);
+}
+
+TEST_F(LoadsTransfer, StaysAwayFromTheFrontWhileTheLoadsAreTheSame) {
+    main.activate(loads);
+    loads.data().conditions.flowRate = 99;
     main.activate(*design);
     EXPECT_EQ(design->changes, 0);
+    EXPECT_FALSE(design->isStale());
+    EXPECT_EQ(design->held.conditions.flowRate, 3);
 }
 
 TEST_F(LoadsTransfer, StaysAwayFromADesignThatTheLoadsTitleDoesNotName) {
