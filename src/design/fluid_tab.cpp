@@ -70,7 +70,7 @@ void FluidTab::addSolution() {
     addCombo("FLFluidTypeCombo", "FLSolutionFrame", "FLFluidTypeLabel", Text::fluidType,
              Text::water, Text::calciumChloride)
         .editableText();
-    onClick("FLFluidTypeCombo", [this] { FLFluidTypeCombo_Change(); });
+    onClick("FLFluidTypeCombo", [this] { FLFluidTypeCombo_Click(); });
     onChange("FLFluidTypeCombo", [this] { FLFluidTypeCombo_Change(); });
     onLeave("FLFluidTypeCombo", [this] { FLFluidTypeCombo_Leave(); });
     addField({.control = "FLPercentAntifreezeText",
@@ -136,6 +136,12 @@ void FluidTab::FLFluidTypeCombo_Change() {
     if (fluid_.fluidTypeIndex == waterEntry) takeWater();
     setUnitLabels();
     design().calculationNeeded();
+}
+
+/// A listed fluid needs no name, while one that is being typed may yet become another.
+void FluidTab::FLFluidTypeCombo_Click() {
+    FLFluidTypeCombo_Change();
+    if (fluid_.fluidTypeIndex != FluidValues::typedFluid) fluid_.fluidName.clear();
 }
 
 void FluidTab::takeWater() {

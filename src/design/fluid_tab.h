@@ -19,6 +19,7 @@ class FluidTab : public DesignTab {
     void addFlow();
     void addSolution();
     void addProperties();
+    void FLFluidTypeCombo_Click();
     void FLFluidTypeCombo_Change();
     void FLFluidTypeCombo_Leave();
     void FLPercentAntifreezeUpDown_Change();

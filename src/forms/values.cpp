@@ -75,6 +75,11 @@ ValuePath parseValuePath(std::string_view text) {
             text.remove_prefix(1);
             continue;
         }
+        // A function without arguments may be written as it is called.
+        if (text.starts_with("()")) {
+            text.remove_prefix(2);
+            continue;
+        }
         do {
             text.remove_prefix(1);
             path.indices.push_back(readIndex(text));

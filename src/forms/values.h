@@ -54,7 +54,7 @@ class Values {
     std::map<std::string, Entry, std::less<>> entries_;
 };
 
-/// A name such as "ZoneList(2).pump.plf(0)" as name and indices.
+/// A name such as "ZoneList(2).pump.plf(0)" as name and indices; "GetGroundTemp()" has none.
 struct ValuePath {
     std::string name;
     Values::Indices indices;

@@ -61,6 +61,14 @@ TEST_F(FluidOfADesign, TypedInFullIsTheListedOne) {
     EXPECT_EQ(design->project().fluid.fluidName, "");
 }
 
+TEST_F(FluidOfADesign, ChosenFromTheListDropsTheTypedName) {
+    design->type("FLFluidTypeCombo", "Betaine");
+    design->leave("FLFluidTypeCombo");
+    design->choose("FLFluidTypeCombo", 3);
+    EXPECT_EQ(value("fluidTypeIndex"), 3);
+    EXPECT_EQ(design->project().fluid.fluidName, "");
+}
+
 TEST_F(FluidOfADesign, ComesBackWithItsTypedName) {
     main.openCall = true;
     frmBHDesign* opened = newBorehole(main, [](frmBHDesign& window) {

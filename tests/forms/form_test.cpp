@@ -316,7 +316,10 @@ TEST(ValuePaths, AreTakenApartIntoNameAndIndices) {
     EXPECT_EQ(path.name, "ZoneList.pump.plf");
     EXPECT_EQ(path.indices, (std::vector<int>{2, 0}));
     EXPECT_EQ(parseValuePath("gains(2,0)").indices, (std::vector<int>{2, 0}));
+    EXPECT_EQ(parseValuePath("GetGroundTemp()").name, "GetGroundTemp");
+    EXPECT_TRUE(parseValuePath("GetGroundTemp()").indices.empty());
     EXPECT_THROW(parseValuePath("gains(2"), std::invalid_argument);
+    EXPECT_THROW(parseValuePath("gains("), std::invalid_argument);
     EXPECT_THROW(parseValuePath("gains(x)"), std::invalid_argument);
 }
 
