@@ -12,6 +12,17 @@
 #include "forms/form.h"
 
 namespace varnholt {
+namespace {
+
+/// The upper limit of a field that has none, and the largest number that one keeps.
+constexpr double unlimited = 1e308;
+
+/// Whether it is more than a field without an upper limit keeps.
+bool overflows(const NumericFieldRow& row, double value) {
+    return row.highest >= unlimited && value > unlimited;
+}
+
+}  // namespace
 
 StoredNumber::StoredNumber(double* value)
     : get_([value] { return *value; }), set_([value](double x) { *value = x; }) {}
@@ -41,9 +52,10 @@ void NumericFields::textChanged(const std::string& control) {
     const std::string typed = form_.control(control).text();
     try {
         store(row);
+        const bool tooLarge = overflows(row, row.stored.get());
         const bool refused = applyRange(row);
         if (refused)
-            refuse(row, typed, false);
+            refuse(row, typed, tooLarge);
         else
             form_.control(control).setRefused(false);
         if (row.changed) row.changed();
@@ -86,7 +98,6 @@ void NumericFields::checkLeft(const NumericFieldRow& row) {
 }
 
 void NumericFields::refuse(const NumericFieldRow& row, const std::string& typed, bool tooLarge) {
-    constexpr double unlimited = 1e308;
     const double highest = std::min(row.highest, row.stored.largest());
     std::erase_if(refused_, [&](const RefusedValue& old) { return old.control == row.control; });
     refused_.push_back({row.control, typed, shownAs(row, row.lowest),
@@ -120,7 +131,10 @@ void NumericFields::store(const NumericFieldRow& row) {
         row.stored.set(*row.unparsable);
         return;
     }
-    row.stored.set(row.quantity->stored(typed.value_or(0), units()));
+    const double value = row.quantity->stored(typed.value_or(0), units());
+    // No limit tells what would stand instead: the value before stays, as with any overflow.
+    if (!manner_.anyErrorStoresZero && overflows(row, value)) throw RunTimeError(6);
+    row.stored.set(value);
 }
 
 /// A value out of range is replaced once something is typed; an empty field waits until it is left.
@@ -155,6 +169,7 @@ std::optional<NumericFields::WouldStore> NumericFields::wouldStore(const std::st
     const std::optional<double> typed = readPlainNumber(text);
     if (!typed) return std::nullopt;
     const double value = row.quantity->stored(*typed, units());
+    if (!manner_.anyErrorStoresZero && overflows(row, value)) return std::nullopt;
     if (!isBelow(row, value) && value <= row.highest) {
         if (std::abs(value) > row.stored.largest()) return std::nullopt;
         return WouldStore{value, false};

@@ -47,6 +47,22 @@ TEST_F(LoadsFieldsTest, LoadsAreTypedInKilowattsInMetric) {
     EXPECT_EQ(shown(window, "LOGainsText(4)"), "10.0");
 }
 
+TEST_F(LoadsFieldsTest, ALoadThatOverflowsLeavesTheOneBefore) {
+    window.type("LOGainsText(0)", "5");
+    window.type("LOGainsText(0)", "1e400");
+    EXPECT_EQ(zone().gains[0][cooling], 5);
+    inMetric();
+    window.type("LOGainsText(0)", "1e308");  // 1e308 / 0.2931 MBtu/hr is more than a double holds
+    EXPECT_EQ(zone().gains[0][cooling], 5);
+    window.leave("LOGainsText(0)");
+    EXPECT_EQ(shown(window, "LOGainsText(0)"), "1.5");  // 5 x 0.2931 = 1.4655 kW
+    window.type("LOGainsText(0)", "-1e400");
+    EXPECT_EQ(zone().gains[0][cooling], 0);  // below 0 whatever its size
+    window.type("HPLoadInletText(0)", "1e400");
+    EXPECT_EQ(window.conditions().inletLoadAirTemp[cooling], 67);  // out of its range
+    EXPECT_TRUE(platform.messages.empty());
+}
+
 TEST_F(LoadsFieldsTest, HoursAreWholeNumbersOfSixteenBits) {
     window.type("LOHoursText(0)", "1200.5");
     EXPECT_EQ(zone().hours[cooling], 1200);  // half to even

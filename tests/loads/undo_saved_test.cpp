@@ -207,6 +207,15 @@ TEST_F(SavedZones, ANumberThatOverflowsItsFieldIsExplained) {
     EXPECT_FALSE(window.control("LOHoursText(1)").refused());
 }
 
+TEST_F(SavedZones, ANumberThatNoFieldCanHoldIsExplainedAsTooLarge) {
+    texts.known[1240] = "%1: %2 is too large, now %5.";
+    typeAndLeave("LOGainsText(0)", "5");
+    window.type("LOGainsText(0)", "1e400");
+    EXPECT_EQ(notice(), "[2820], [2824]: 1e400 is too large, now 5.0.");
+    window.leave("LOGainsText(0)");
+    EXPECT_EQ(shown(window, "LOGainsText(0)"), "5.0");
+}
+
 TEST_F(SavedZones, WhatAFileLostIsToldBeforeARefusedValue) {
     writeHalfFile();
     open("half.zon");
