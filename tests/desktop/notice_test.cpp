@@ -78,6 +78,7 @@ TEST_F(NoticeLine, ComesAtTheKeystrokeThatMakesTheResultsOldAndGoesWithItsAction
     EXPECT_FALSE(bar().isVisible());
     type("58");
     ASSERT_TRUE(bar().isVisible());
+    EXPECT_EQ(bar().sign(), QStringLiteral("stale"));
     EXPECT_TRUE(design->control("NoticeLabel").caption().starts_with(stale));
     QTest::mouseClick(&action(), Qt::LeftButton);
     Desk::settle();
@@ -108,6 +109,13 @@ TEST_F(NoticeLine, LeavesTheKeyToTheButtonThatItsOwnOneStandsInFor) {
     EXPECT_EQ(plain(calculation.text()), "&Calculate") << "beside the Pump Power Calculator";
     EXPECT_NE(static_cast<QAbstractButton&>(widget("EKWPumpPowerCommand")).shortcut(),
               calculation.shortcut());
+}
+
+TEST_F(NoticeLine, ShowsTheSignOfOlderResultsForThoseAlone) {
+    calculate();
+    type("500");
+    ASSERT_TRUE(bar().isVisible());
+    EXPECT_EQ(bar().sign(), QStringLiteral("refused"));
 }
 
 TEST_F(NoticeLine, MovesNoFieldWhenItComesAndGoes) {

@@ -22,6 +22,7 @@ class NoticeBar : public QFrame {
 
     /// The sign before the text, by the name of its icon, where it is not that of older results.
     void setSign(const QString& icon);
+    const QString& sign() const { return icon_; }
     /// Tells screen readers of a text that has changed since the last time.
     void announce();
     /// How they are told: by an alert, to whichever of them listen.
