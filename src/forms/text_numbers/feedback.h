@@ -40,6 +40,7 @@ constexpr int linkedAlready = 2355;
 constexpr int noLinkToEnd = 2356;
 constexpr int linkMade = 2339;
 constexpr int linkEnded = 2359;
+constexpr int noDesignToCalculate = 2398;
 constexpr int pumpsSelected = 2397;
 constexpr int numberWanted = 2357;
 constexpr int noticeValueNoNumber = 2358;
