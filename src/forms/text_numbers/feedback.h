@@ -51,6 +51,7 @@ constexpr int warningInlet = 2363;
 constexpr int warningGround = 2364;
 constexpr int warningTouch = 2365;
 constexpr int warningDeep = 2366;
+constexpr int warningRows = 2399;
 constexpr int warningInletOfSeveral = 2349;
 constexpr int warningWater = 2347;
 constexpr int warningPipesTouch = 2348;
