@@ -21,7 +21,10 @@ char decimalOf(const std::vector<TableText::Row>& rows, char usual) {
     return commas > points ? ',' : '.';
 }
 
-std::string asTyped(std::string_view cell, char decimal) {
+/// A cell that is a number by the other mark alone is read by that one.
+std::string asTyped(std::string_view cell, char usual) {
+    const char other = usual == '.' ? ',' : '.';
+    const char decimal = !numberIn(cell, usual) && numberIn(cell, other) ? other : usual;
     if (!numberIn(cell, decimal)) return std::string(cell);
     std::string typed;
     for (const char c : cell) {

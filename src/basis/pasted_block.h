@@ -16,7 +16,7 @@ using PastedBlock = std::vector<std::vector<std::string>>;
 bool isBlock(std::string_view text);
 
 /// Reads a block. Cells that are numbers with one decimal mark only tell which mark it is; where
-/// they do not, it is the usual one.
+/// they do not, it is the usual one. A cell that is a number by the other mark alone is taken so.
 /// @param usualDecimal  the decimal mark of the user's locale, point or comma
 PastedBlock readBlock(std::string_view text, char usualDecimal);
 

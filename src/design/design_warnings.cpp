@@ -38,6 +38,13 @@ void addTouchingBores(const BoreholeProject& project, DesignWarnings& warnings) 
             {Concern::boresTouch, cooling, project.bore.boreDiameter, field.boreSeparation});
 }
 
+void addRowsInParts(const ArrangementValues& field, DesignWarnings& warnings) {
+    const double across = field.patternRows[0], down = field.patternRows[1];
+    const double whole = std::floor(across) * std::floor(down);
+    if (across * down != whole)
+        warnings.push_back({Concern::rowsInParts, cooling, across * down, whole});
+}
+
 void addDepth(const BoreholeResults& results, DesignWarnings& warnings) {
     const ByMode<double>& length = results.lengths.boreLength;
     const Mode governing = length[cooling] >= length[heating] ? cooling : heating;
@@ -87,6 +94,7 @@ std::vector<DesignWarning> warningsOf(const BoreholeProject& project) {
                      warnings);
     }
     addTouchingBores(project, warnings);
+    addRowsInParts(project.arrangement, warnings);
     if (results.inputs) addDepth(results, warnings);
     return warnings;
 }

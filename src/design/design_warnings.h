@@ -23,12 +23,14 @@ struct DesignWarning {
         boresTouch,      ///< bores are no further apart than they are wide
         pipesTouch,      ///< pipes in a trench are no further apart than they are thick
         boreTooDeep,     ///< deeper than what is usual for pipe and rig
+        rowsInParts,     ///< a row is counted with a part of a bore, which no field can have
     };
 
     Concern concern;
     Mode mode = cooling;
-    double figure = 0;  ///< ground or water, degF; diameter, in; depth of a bore, ft
-    /// Difference, degF; separation of bores, ft, of pipes, in; depth, ft.
+    /// Ground or water, degF; diameter, in; depth of a bore, ft; bores that are calculated with.
+    double figure = 0;
+    /// Difference, degF; separation of bores, ft, of pipes, in; depth, ft; bores in whole rows.
     double limit = 0;
     double meanFluid = 0;  ///< degF, where the fluid is concerned
 

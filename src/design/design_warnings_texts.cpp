@@ -63,6 +63,10 @@ std::string sentenceOf(const DesignWarning& warning, const GroundDesign& design)
                 design.text(Text::warningPipesTouch),
                 {words.number(quantities::diameter, warning.figure, "###0.00"),
                  words.number(quantities::diameter, warning.limit, "###0.00"), words.inches()});
+        case Concern::rowsInParts:
+            return filledIn(
+                design.text(Text::warningRows),
+                {formatNumber(warning.figure, "###0.0#"), formatNumber(warning.limit, "###0")});
         case Concern::boreTooDeep:
             return filledIn(
                 design.text(Text::warningDeep),

@@ -102,6 +102,7 @@ void frmSecondOpinion::addInputs() {
                          .caption = {Text::opinionPulse, Text::opinionPulse},
                          .help = "second_opinion#inputs"},
               .leastBesideZero = 1});
+    control("SEPulseText").setTooltip(text(Text::opinionPulseTip));
     addField({.control = "SEYearsText",
               .stored = &held.yearsShown,
               .lowest = 1,

@@ -25,6 +25,7 @@ void frmWhatIf::addSure() {
                &quantities::length,
                lengthUnit},
               sureHelp);
+    control("WIDepthText").setTooltip(text(Text::whatIfDrawnTip));
     addNumber({"WIConfidenceText",
                "confidence",
                drawnFrame,

@@ -67,6 +67,16 @@ TEST(DesignWarnings, TellOfBoresThatTouch) {
     EXPECT_TRUE(warningsOf(project).empty());
 }
 
+TEST(DesignWarnings, TellOfRowsThatHoldPartsOfBores) {
+    BoreholeProject project;
+    project.arrangement.patternRows = {4, 2.5};  // 10 bores, of which 4 by 2 are whole
+    const auto warnings = warningsOf(project);
+    ASSERT_EQ(warnings.size(), 1U);
+    EXPECT_EQ(warnings[0], (DesignWarning{Concern::rowsInParts, cooling, 10, 8}));
+    project.arrangement.patternRows = {4, 3};
+    EXPECT_TRUE(warningsOf(project).empty());
+}
+
 TEST(DesignWarnings, TellOfBoresDeeperThanSixHundredFeetInTheModeThatGoverns) {
     BoreholeProject project = afterRun(62);
     project.results.edit().lengths.boreLength = {24 * 600.0, 24 * 601.0};

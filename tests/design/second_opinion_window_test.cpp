@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "basis/number_text.h"
+#include "forms/text_numbers/second_opinion.h"
 #include "loads/import/frmImport1.h"
 #include "second_opinion_window.h"
 
@@ -23,6 +24,11 @@ TEST_F(SecondOpinionWindow, IsNumberedAsItIsOpened) {
     second->click("CASecondOpinionCommand");
     EXPECT_EQ(main.numberOf(*opinion), 1);
     EXPECT_EQ(main.numberOf(*main.activeWindow()), 2);
+}
+
+TEST_F(SecondOpinionWindow, SaysWhatAPeakOfNoHoursMeans) {
+    EXPECT_EQ(opinion->control("SEPulseText").tooltip(),
+              "[" + std::to_string(Text::opinionPulseTip) + "]");
 }
 
 TEST_F(SecondOpinionWindow, ClosesWithItsDesignAndAsksNothing) {

@@ -120,6 +120,12 @@ TEST_F(WhatIfWindow, ShowsEveryInputByItsName) {
     EXPECT_EQ(heldText("pricesOf"), "");
 }
 
+TEST_F(WhatIfWindow, SaysWhatADepthOfNothingMeans) {
+    EXPECT_EQ(shown("WIDepthText"), "0.0");
+    EXPECT_EQ(what->control("WIDepthText").tooltip(),
+              "[" + std::to_string(Text::whatIfDrawnTip) + "]");
+}
+
 TEST_F(WhatIfWindow, TakesTheSpreadsOfTheGroundsKnowledge) {
     what->click("WIGroundOption(0)");
     EXPECT_EQ(held("knowledge"), 0);

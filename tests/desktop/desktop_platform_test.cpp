@@ -25,6 +25,7 @@
 #include "desktop/widgets/theme.h"
 #include "desktop/windows/main_window.h"
 #include "frame/frmAbout.h"
+#include "reports/frmPROptions.h"
 #include "tools/program_folder.h"
 
 namespace varnholt {
@@ -145,6 +146,16 @@ TEST_F(DesktopPlatformTest, RunsADialogUntilItsFormEndsItself) {
     platform.runModal(about);
     EXPECT_TRUE(about.modalEnded());
     EXPECT_EQ(shelf.windowOf(about), nullptr);
+}
+
+TEST_F(DesktopPlatformTest, HasRoomForTheTitleOfANarrowDialog) {
+    frmPROptions options(program.main());
+    whenShown<FormDialog>([](FormDialog& dialog) {
+        EXPECT_GT(dialog.width(),
+                  dialog.fontMetrics().horizontalAdvance(dialog.windowTitle()) + 100);
+        dialog.reject();
+    });
+    platform.runModal(options);
 }
 
 TEST_F(DesktopPlatformTest, EndsADialogByEscapeAfterItsOwnQuestion) {

@@ -235,6 +235,22 @@ TEST_F(Keys, F9Calculates) {
     EXPECT_FALSE(desk.platform.messages.empty());
 }
 
+TEST_F(Keys, F9CalculatesTheOnlyDesignOfTheLoadsInFront) {
+    openProjectFile(desk.main(), VARNHOLT_SOURCE_DIR "/examples/office.vht");
+    design = desk.main().activeWindow();
+    ChildWindow& loads = *desk.main().find("frmZoneManage");
+    desk.main().activate(loads);
+    loads.type("LOGainsText(0)", "77");
+    Desk::settle();
+    ASSERT_TRUE(design->control("NoticeLabel").visible()) << "the results are out of date";
+    press(Qt::Key_F9);
+    EXPECT_FALSE(design->control("NoticeLabel").visible());
+    EXPECT_EQ(desk.main().activeWindow(), &loads);
+    desk.main().click("mnuUnlink");
+    press(Qt::Key_F9);
+    EXPECT_TRUE(told().starts_with("Nothing is calculated: ")) << told();
+}
+
 TEST_F(Keys, ControlAndPageKeysTurnThePages) {
     const int pages = tabs().count();
     const int first = tabs().currentIndex();

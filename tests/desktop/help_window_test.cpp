@@ -11,6 +11,7 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QToolBar>
+#include <QTreeView>
 #include <QWhatsThis>
 #include <fstream>
 
@@ -132,6 +133,28 @@ TEST_F(HelpWindowTest, ItsHistoryHasTwoEnds) {
     EXPECT_EQ(desk.help.window()->page(), "borehole.html#soil");
     tool(2)->trigger();
     EXPECT_EQ(desk.help.window()->page(), "index.html");
+}
+
+TEST_F(HelpWindowTest, MarksThePageOnShowInTheContents) {
+    open("NewBorehole").help("SOGroundTempText");
+    const auto* contents = window()->findChild<QTreeView*>();
+    ASSERT_NE(contents, nullptr);
+    const auto marked = [contents] { return plain(contents->currentIndex().data().toString()); };
+    // The contents are read beside the page.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return marked() == "Borehole design"; })) << marked();
+    window()->findChild<QToolBar*>()->actions().at(2)->trigger();
+    EXPECT_EQ(marked(), "Varnholt help");
+}
+
+TEST_F(HelpWindowTest, IsLeftByEscape) {
+    desk.main().click("mnuHelp");
+    window()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
+    QTest::keyClick(window(), Qt::Key_Escape);
+    Desk::settle();
+    EXPECT_FALSE(window()->isVisible());
+    open("NewBorehole").help("SOGroundTempText");
+    EXPECT_TRUE(window()->isVisible());
 }
 
 TEST_F(HelpWindowTest, CanBeReadBesideADialogThatAsks) {

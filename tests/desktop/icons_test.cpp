@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QStyle>
 
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/theme.h"
 
 namespace varnholt {
 namespace {
@@ -23,6 +25,20 @@ TEST(Icons, AreDrawnOnceASizeHoweverOftenTheyAreShown) {
     EXPECT_NE(drawingOf("window", 16), first);
     EXPECT_NE(drawingOf("refused", 24), first);
     EXPECT_NE(drawingOf("window", 24, QIcon::Disabled), first);
+}
+
+TEST(Icons, OfMessagesTellNewsQuestionsAndWarningsApart) {
+    applyTheme(*qApp, Scheme::light);
+    const auto drawn = [](QStyle::StandardPixmap icon) {
+        return QApplication::style()->standardIcon(icon).pixmap(QSize(32, 32)).toImage();
+    };
+    const QImage news = drawn(QStyle::SP_MessageBoxInformation);
+    const QImage question = drawn(QStyle::SP_MessageBoxQuestion);
+    const QImage warning = drawn(QStyle::SP_MessageBoxWarning);
+    EXPECT_FALSE(news.isNull());
+    EXPECT_NE(news, question);
+    EXPECT_NE(news, warning);
+    EXPECT_NE(question, warning);
 }
 
 TEST(Icons, AreDrawnInTheColourOfTheWordsOnAChosenRow) {

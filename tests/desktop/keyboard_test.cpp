@@ -218,6 +218,15 @@ TEST_F(ByKeyboard, BeginsAtTheChosenOptionOfAWindow) {
     EXPECT_EQ(QApplication::focusWidget(), &widget(what, "WIMeasureOption(1)"));
 }
 
+TEST_F(ByKeyboard, TypesOverTheFieldThatANewWindowBeginsAt) {
+    opened("NewBorehole").click("CASecondOpinionCommand");
+    Desk::settle();
+    const auto* edit = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_NE(edit, nullptr);
+    EXPECT_FALSE(edit->text().isEmpty());
+    EXPECT_EQ(edit->selectedText(), edit->text());
+}
+
 TEST_F(ByKeyboard, PressesAButtonOfTheToolbarByEnter) {
     auto* bar = desk.window->findChild<QToolBar*>(QString(), Qt::FindDirectChildrenOnly);
     auto* first = bar->findChild<QToolButton*>(QStringLiteral("tbrMain(0)"));

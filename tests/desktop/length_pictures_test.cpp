@@ -45,8 +45,7 @@ TEST(LengthPicture, OfAFileSaysThatItsPartsAreNotKept) {
     lengths.parts.clear();
     lengths.state = LengthSummary::State::kept;
     EXPECT_EQ(describe(lengths, pictureTexts()),
-              "The file keeps the lengths, but not what they are made of. Press Calculate to see "
-              "it.");
+              "Saved lengths come without what they are made of. Press Calculate to see it.");
 }
 
 /// One long-term part for each mode in a picture without words.
@@ -131,7 +130,7 @@ TEST(LengthStrips, TellTheLengthsAndWhetherTheyAreThoseOfTheInputs) {
     lengths.state = LengthSummary::State::kept;
     strip.refresh();
     EXPECT_EQ(plain(strip.accessibleName()),
-              "Required length: cooling 2029.1 ft, heating 1420.1 ft. As in the file.");
+              "Required length: cooling 2029.1 ft, heating 1420.1 ft. As saved.");
     lengths = {};
     strip.refresh();
     EXPECT_EQ(plain(strip.accessibleName()), "Not calculated yet");

@@ -78,6 +78,7 @@ TEST_F(NoticeLine, ComesAtTheKeystrokeThatMakesTheResultsOldAndGoesWithItsAction
     EXPECT_FALSE(bar().isVisible());
     type("58");
     ASSERT_TRUE(bar().isVisible());
+    EXPECT_EQ(bar().sign(), QStringLiteral("stale"));
     EXPECT_TRUE(design->control("NoticeLabel").caption().starts_with(stale));
     QTest::mouseClick(&action(), Qt::LeftButton);
     Desk::settle();
@@ -108,6 +109,13 @@ TEST_F(NoticeLine, LeavesTheKeyToTheButtonThatItsOwnOneStandsInFor) {
     EXPECT_EQ(plain(calculation.text()), "&Calculate") << "beside the Pump Power Calculator";
     EXPECT_NE(static_cast<QAbstractButton&>(widget("EKWPumpPowerCommand")).shortcut(),
               calculation.shortcut());
+}
+
+TEST_F(NoticeLine, ShowsTheSignOfOlderResultsForThoseAlone) {
+    calculate();
+    type("500");
+    ASSERT_TRUE(bar().isVisible());
+    EXPECT_EQ(bar().sign(), QStringLiteral("refused"));
 }
 
 TEST_F(NoticeLine, MovesNoFieldWhenItComesAndGoes) {
@@ -153,6 +161,8 @@ TEST_F(NoticeLine, WrapsALongTextAndShowsItWhole) {
 TEST_F(NoticeLine, AboveAllWindowsGoesByItsButton) {
     const std::string letter = desk.folder() + "/letter.vht";
     replaceWholeFile(letter, "Dear aunt");
+    QWidget* frame = desk.shelf.frameOf(*design);
+    frame->setGeometry(0, 0, 700, desk.window->area().height());
     desk.platform.picks = {letter};
     desk.window->menu().action("mnuFileOpen")->trigger();
     Desk::settle();
@@ -166,11 +176,13 @@ TEST_F(NoticeLine, AboveAllWindowsGoesByItsButton) {
     ASSERT_NE(close, nullptr);
     const int above = label->parentWidget()->parentWidget()->height();
     const int area = desk.window->area().height();
+    EXPECT_EQ(frame->height(), area) << "it is not cut off";
     QTest::mouseClick(close, Qt::LeftButton);
     Desk::settle();
     EXPECT_FALSE(label->isVisible());
     EXPECT_EQ(desk.main().control("NoticeLabel").caption(), "");
     EXPECT_EQ(desk.window->area().height(), area + above);
+    EXPECT_EQ(frame->height(), desk.window->area().height());
 }
 
 /// The ground of a picture, and the colour on it that stands out most.

@@ -340,6 +340,17 @@ TEST_F(ZoneColumnsTest, AreDrawnAnewWhenWhatTheyShowInSightChangesAndOnlyThen) {
     EXPECT_EQ(list().model()->index(0, 0).data().toString(), QStringLiteral("Zone 1"));
 }
 
+TEST_F(ZoneColumnsTest, StandAsHighWithASignAsWithout) {
+    const auto height = [this] { return list().visualRect(list().model()->index(0, 0)).height(); };
+    const int without = height();
+    ASSERT_TRUE(list().model()->index(0, 0).data(Qt::DecorationRole).isNull());
+    loads->select("LOZoneList", {0});
+    loads->type("LOGainsText(0)", "50");
+    Desk::settle();
+    ASSERT_FALSE(list().model()->index(0, 0).data(Qt::DecorationRole).isNull());
+    EXPECT_EQ(height(), without);
+}
+
 TEST_F(ZoneColumnsTest, AreOpenedFromTheSummary) {
     loads->click("LOSummaryCommand");
     Desk::settle();

@@ -202,6 +202,21 @@ TEST_F(WhatIfView, LetsAlternativesShareTheWidthAndScrollWithinTheirTable) {
     EXPECT_TRUE(desk.faults.empty());
 }
 
+TEST_F(WhatIfView, KeepsAFewAlternativesBesideTheWordsOfTheirRows) {
+    what().choose("WITabs", 4);
+    idle();
+    // The school keeps three.
+    for (int kept = 0; kept < 3; ++kept) {
+        what().choose("WVList", 1);
+        what().click("WVRemoveCommand");
+        idle();
+    }
+    Desk::settle();
+    const QWidget* table = widget("WVLengthLabel(0)")->parentWidget();
+    EXPECT_TRUE(widget("WVLengthLabel(1)")->isHidden());
+    EXPECT_LT(widget("WVLengthLabel(0)")->geometry().right(), table->width() / 2);
+}
+
 struct Page {
     int page;
     const char* image;

@@ -30,6 +30,11 @@ TEST(PastedBlock, TakesTheUsualMarkWhereTheCellsDoNotTell) {
     EXPECT_EQ(readBlock("1,234\t5", ','), (PastedBlock{{"1.234", "5"}}));
 }
 
+TEST(PastedBlock, ReadsACellByTheOtherMarkWhereItIsANumberByThatOneAlone) {
+    EXPECT_EQ(readBlock("12.5\t18,5\t1,250", '.'), (PastedBlock{{"12.5", "18.5", "1250"}}));
+    EXPECT_EQ(readBlock("12,5\t18.25\t1.250", ','), (PastedBlock{{"12.5", "18.25", "1250"}}));
+}
+
 TEST(PastedBlock, LeavesWhatIsNoNumberAsItIs) {
     EXPECT_EQ(readBlock("Room 1.2, east\t3,5\tn/a", '.'),
               (PastedBlock{{"Room 1.2, east", "3.5", "n/a"}}));

@@ -10,6 +10,7 @@
 #include <QListWidget>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QShortcut>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTextBrowser>
@@ -35,6 +36,19 @@ QString topicOf(const HelpRequest& request) {
     return mark < 0 ? QStringLiteral("index.html") : address.mid(mark + 3);
 }
 
+/// The row of the address: of a section that is named after its first page, the page's own.
+QModelIndex contentsRowOf(const QHelpContentModel& contents, const QUrl& address,
+                          const QModelIndex& parent = {}) {
+    QModelIndex found;
+    for (int i = 0; i < contents.rowCount(parent); ++i) {
+        const QModelIndex row = contents.index(i, 0, parent);
+        if (contents.contentItemAt(row)->url() == address) found = row;
+        const QModelIndex below = contentsRowOf(contents, address, row);
+        if (below.isValid()) found = below;
+    }
+    return found;
+}
+
 }  // namespace
 
 HelpViewer::HelpViewer(HelpPlaces places)
@@ -44,6 +58,7 @@ HelpViewer::HelpViewer(HelpPlaces places)
       panes_(new QTabWidget) {
     setObjectName(QStringLiteral("HelpWindow"));
     setWindowTitle(text(Text::helpTitle));
+    setWindowIcon(places_.icon(QStringLiteral("help")));
     auto* tools = addToolBar(text(Text::helpTitle));
     tools->setMovable(false);
     tools->setContextMenuPolicy(Qt::PreventContextMenu);
@@ -57,10 +72,13 @@ HelpViewer::HelpViewer(HelpPlaces places)
     split->addWidget(panes_);
     split->addWidget(display_->widget());
     split->setStretchFactor(1, 1);
-    split->setSizes({260, 680});
+    split->setSizes({290, 680});
     split->setChildrenCollapsible(false);
     setCentralWidget(split);
-    resize(940, 680);
+    resize(970, 680);
+    for (const char* keys : {"Esc", "Ctrl+W", "Ctrl+F4"})
+        connect(new QShortcut(QKeySequence(QString::fromLatin1(keys)), this), &QShortcut::activated,
+                this, [this] { close(); });
     display_->onLink = [this](const QUrl& link) { follow(link); };
     display_->picture = [this](const QUrl& address) -> QVariant {
         return collection_.engine() != nullptr ? collection_.engine()->fileData(address)
@@ -94,6 +112,7 @@ bool HelpViewer::openFile(const QString& file) {
 void HelpViewer::addPanes() {
     panes_->clear();
     auto* contents = collection_.engine()->contentWidget();
+    contents_ = contents;
     contents->setHeaderHidden(true);
     connect(contents, &QHelpContentWidget::linkActivated, this, &HelpViewer::follow);
     connect(contents, &QHelpContentWidget::clicked, this, [this, contents](const QModelIndex& row) {
@@ -101,7 +120,10 @@ void HelpViewer::addPanes() {
         follow(model->contentItemAt(row)->url());
     });
     connect(collection_.engine()->contentModel(), &QHelpContentModel::contentsCreated, contents,
-            [contents] { contents->expandAll(); });
+            [this, contents] {
+                contents->expandAll();
+                showInContents();
+            });
     contents->setAccessibleName(text(Text::helpContentsPane));
     panes_->addTab(contents, text(Text::helpContentsPane));
     panes_->addTab(indexPane(), text(Text::helpIndexPane));
@@ -191,13 +213,13 @@ bool HelpViewer::display(const HelpRequest& request) {
     if (!openFile(QString::fromStdString(request.file))) return false;
     switch (request.kind) {
         case HelpRequest::Kind::contents:
-            panes_->setCurrentIndex(contentsPane);
+            choose(contentsPane, contents_);
             break;
         case HelpRequest::Kind::index:
-            panes_->setCurrentIndex(indexPaneNumber);
+            choose(indexPaneNumber, lookFor_);
             break;
         case HelpRequest::Kind::search:
-            panes_->setCurrentIndex(searchPaneNumber);
+            choose(searchPaneNumber, words_);
             break;
         case HelpRequest::Kind::keyword:
         case HelpRequest::Kind::aLink:
@@ -207,16 +229,25 @@ bool HelpViewer::display(const HelpRequest& request) {
             lookUp(QString::number(request.topicId));
             return true;
         case HelpRequest::Kind::topic:
+            display_->widget()->setFocus();
             break;
     }
     visit(topicOf(request));
     return true;
 }
 
+void HelpViewer::choose(int pane, QWidget* first) {
+    panes_->setCurrentIndex(pane);
+    first->setFocus();
+}
+
 /// Shows the page of a keyword; where there are several the index shows them all.
 void HelpViewer::lookUp(const QString& keyword) {
     const QList<QHelpLink> links = collection_.engine()->documentsForKeyword(keyword);
-    if (links.size() != 1) panes_->setCurrentIndex(indexPaneNumber);
+    if (links.size() != 1)
+        choose(indexPaneNumber, lookFor_);
+    else
+        display_->widget()->setFocus();
     lookFor_->setText(keyword);
     if (!links.isEmpty()) follow(links.first().url);
 }
@@ -263,6 +294,18 @@ void HelpViewer::step(int by) {
 void HelpViewer::refreshTools() {
     back_->setEnabled(place_ > 0);
     forward_->setEnabled(place_ + 1 < history_.size());
+    showInContents();
+}
+
+/// Marks the page on show in the contents, once those have been read.
+void HelpViewer::showInContents() {
+    if (contents_ == nullptr || place_ < 0) return;
+    const auto& contents = *static_cast<const QHelpContentModel*>(contents_->model());
+    QUrl address = collection_.urlOf(history_[place_]);
+    QModelIndex row = contentsRowOf(contents, address);
+    address.setFragment({});
+    if (!row.isValid()) row = contentsRowOf(contents, address);
+    if (row.isValid()) contents_->setCurrentIndex(row);
 }
 
 void HelpViewer::print() {

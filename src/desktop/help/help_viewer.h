@@ -2,12 +2,14 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QStringList>
 
 #include "desktop/help/help_collection.h"
 #include "desktop/reading/help_module.h"
 
 class QAction;
+class QHelpContentWidget;
 class QHelpIndexWidget;
 class QLineEdit;
 class QListWidget;
@@ -36,6 +38,8 @@ class HelpViewer : public QMainWindow, public HelpWindow {
     void makeSearch(QLineEdit& line, const QString& prompt) const;
     QWidget* indexPane();
     QWidget* searchPane();
+    /// Brings a pane to the front, where one begins at the widget.
+    void choose(int pane, QWidget* first);
     void lookUp(const QString& keyword);
     void search();
     void showResults(const QString& words);
@@ -44,6 +48,7 @@ class HelpViewer : public QMainWindow, public HelpWindow {
     bool showTopic(const QString& topic);
     void follow(const QUrl& link);
     void refreshTools();
+    void showInContents();
     void back() { step(-1); }
     void forward() { step(1); }
     void home() { visit(QStringLiteral("index.html")); }
@@ -54,6 +59,7 @@ class HelpViewer : public QMainWindow, public HelpWindow {
     HelpCollection collection_;
     PageDisplay* display_;
     QTabWidget* panes_;
+    QPointer<QHelpContentWidget> contents_;
     QLineEdit* lookFor_ = nullptr;
     QLineEdit* words_ = nullptr;
     QHelpIndexWidget* index_ = nullptr;

@@ -14,6 +14,8 @@ namespace {
 
 /// Least width of a column: a price of seven figures, strong.
 constexpr int leastColumn = 11 * gridStep;
+/// So many columns and more share the whole width.
+constexpr int columnsThatFill = 4;
 
 }  // namespace
 
@@ -71,6 +73,8 @@ void ComparisonTable::shareWidth() {
         grid_->setColumnMinimumWidth(column, there ? leastColumn : 0);
         ++column;
     }
+    // A few alternatives stay beside the words of their rows.
+    grid_->setColumnStretch(column, std::max(0, columnsThatFill - columnCount()));
 }
 
 /// All rows are on show, with the bar below them where there is one.

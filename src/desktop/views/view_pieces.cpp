@@ -12,6 +12,7 @@
 #include "desktop/widgets/notice_bar.h"
 #include "desktop/widgets/qt_text.h"
 #include "desktop/widgets/text_label.h"
+#include "forms/text_numbers/commands.h"
 #include "forms/text_numbers/feedback.h"
 
 namespace varnholt {
@@ -69,7 +70,13 @@ QWidget* warningLines(Binder& bind, std::function<std::vector<std::string>()> so
 QWidget* noticeBar(Binder& bind) {
     auto* bar = new NoticeBar(static_cast<QLabel*>(bind.widget("NoticeLabel")),
                               static_cast<QAbstractButton*>(bind.widget("NoticeCommand")));
-    bind.onSettled([bar] { bar->announce(); });
+    const QString stale = qt(bind.text(Text::noticeOutOfDate));
+    const auto refresh = [bar, stale, text = static_cast<QLabel*>(bind.widget("NoticeLabel"))] {
+        // Of older results alone the sign tells; whatever else is told is to be looked at.
+        bar->setSign(text->text() == stale ? QStringLiteral("stale") : QStringLiteral("refused"));
+        bar->announce();
+    };
+    bind.onSettled(refresh);
     return bar;
 }
 

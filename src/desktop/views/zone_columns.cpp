@@ -148,6 +148,9 @@ QStringList headsOf(const Binder& bind) {
 
 void addColumns(Binder& bind, ListView& list) {
     const auto columns = std::make_shared<ZoneColumns>(bind);
+    // No higher than the words, so that the rows stay where they are when a sign comes or goes.
+    const int sign = list.fontMetrics().ascent();
+    list.setIconSize({sign, sign});
     // Numbers are seen whole; loads are bars, which need little.
     list.setColumns(
         {headsOf(bind),

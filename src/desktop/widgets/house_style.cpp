@@ -78,8 +78,9 @@ QIcon HouseStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
     if (qobject_cast<const QMdiSubWindow*>(widget) != nullptr) return {};
     switch (icon) {
         case SP_MessageBoxQuestion:
-        case SP_MessageBoxInformation:
             return houseIcon(QStringLiteral("help"));
+        case SP_MessageBoxInformation:
+            return houseIcon(QStringLiteral("info"));
         case SP_MessageBoxWarning:
         case SP_MessageBoxCritical:
             return houseIcon(QStringLiteral("refused"));

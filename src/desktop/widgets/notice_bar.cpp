@@ -54,6 +54,7 @@ void NoticeBar::drawSign() {
 }
 
 void NoticeBar::setSign(const QString& icon) {
+    if (icon == icon_) return;
     icon_ = icon;
     if (isVisible()) drawSign();
 }

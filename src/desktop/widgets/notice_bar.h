@@ -22,6 +22,7 @@ class NoticeBar : public QFrame {
 
     /// The sign before the text, by the name of its icon, where it is not that of older results.
     void setSign(const QString& icon);
+    const QString& sign() const { return icon_; }
     /// Its least width while it tells something, whether it does now or not, in pixels.
     int leastWithText() const;
 

@@ -14,6 +14,7 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QProgressDialog>
+#include <QSplitter>
 #include <QTimer>
 #include <QTreeView>
 #include <QUrl>
@@ -93,6 +94,12 @@ void widenColumns(const QFileDialog& picker) {
         files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
 }
 
+/// The names of the folders at the side are seen whole.
+void widenSide(const QFileDialog& picker) {
+    constexpr int side = 150, files = 490;
+    if (auto* split = picker.findChild<QSplitter*>()) split->setSizes({side, files});
+}
+
 /// The folders at the side where the desktop has no file dialog of its own, after the toolkit's.
 void offerFolders(QFileDialog& picker, const std::vector<std::string>& folders) {
     QList<QUrl> places{QUrl(QStringLiteral("file:")), QUrl::fromLocalFile(QDir::homePath())};
@@ -152,6 +159,7 @@ Answer DesktopPlatform::ask(MessageIcon icon, Buttons buttons, const std::string
 std::optional<std::string> DesktopPlatform::chooseFile(const FileDialog& dialog) {
     QFileDialog picker(shelf_.mainWindow().dialogParent(), qt(dialog.title), qt(dialog.folder));
     widenColumns(picker);
+    widenSide(picker);
     nameCombos(picker);
     offerFolders(picker, shelf_.mainWindow().usualFolders());
     picker.setAcceptMode(dialog.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

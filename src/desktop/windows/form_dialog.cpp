@@ -11,10 +11,18 @@
 namespace varnholt {
 namespace {
 
+/// The room that its title takes, in the heavier letters of a title bar and beside its buttons.
+int widthOfTitle(const QDialog& dialog) {
+    constexpr int icons = 120;
+    constexpr double heavier = 1.2;
+    const int words = dialog.fontMetrics().horizontalAdvance(dialog.windowTitle());
+    return icons + static_cast<int>(heavier * words);
+}
+
 /// What a dialog would like, as far as the screen has room.
 QSize firstSizeOf(const QDialog& dialog) {
     const QSize room = dialog.screen()->availableSize() * 0.9;
-    QSize size = dialog.sizeHint().boundedTo(room);
+    QSize size = dialog.sizeHint().expandedTo({widthOfTitle(dialog), 0}).boundedTo(room);
     // A view that is narrower than it would like stacks its columns, and needs more height.
     if (dialog.hasHeightForWidth())
         size.setHeight(

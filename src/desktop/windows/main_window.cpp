@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
@@ -52,6 +53,18 @@ bool isOurs(const QUrl& url) {
     const QString name = url.fileName().toLower();
     return url.isLocalFile() &&
            (name.endsWith(QLatin1String(".vht")) || name.endsWith(QLatin1String(".zon")));
+}
+
+/// Windows that reached down to the foot of their area do so in its new height.
+void followFoot(const QMdiArea& area, int heightBefore) {
+    const int more = area.height() - heightBefore;
+    if (more == 0) return;
+    for (QMdiSubWindow* frame : area.subWindowList()) {
+        const QRect place = frame->geometry();
+        if (frame->isMaximized() || frame->isMinimized() || place.bottom() + 1 != heightBefore)
+            continue;
+        frame->resize(place.width(), place.height() + more);
+    }
 }
 
 }  // namespace
@@ -200,8 +213,11 @@ QWidget* MainWindow::newNotice() {
 /// What no window is there to tell.
 void MainWindow::showNotice() {
     const QString text = qt(main_.control("NoticeLabel").caption());
+    const int before = area_->height();
     notice_->setVisible(!text.isEmpty());
     noticeStrip_->setVisible(!text.isEmpty());
+    centralWidget()->layout()->activate();
+    followFoot(*area_, before);
     if (text == notice_->text()) return;
     notice_->setText(text);
     if (text.isEmpty()) return;

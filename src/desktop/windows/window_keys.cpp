@@ -18,7 +18,11 @@
 #include <vector>
 
 #include "desktop/binding/form_window.h"
+#include "desktop/windows/child_frame.h"
 #include "desktop/windows/main_window.h"
+#include "forms/text_numbers/feedback.h"
+#include "loads/linked_design.h"
+#include "loads/loads_window.h"
 
 namespace varnholt {
 namespace {
@@ -29,11 +33,39 @@ QAbstractButton* buttonOf(FormWindow& content, const std::string& name) {
     return bound == nullptr ? nullptr : qobject_cast<QAbstractButton*>(bound->widget());
 }
 
+FormWindow* contentOf(QMdiSubWindow* frame) {
+    auto* child = dynamic_cast<ChildFrame*>(frame);
+    return child == nullptr || child->content().binder().form() == nullptr ? nullptr
+                                                                           : &child->content();
+}
+
+/// The window to calculate from another one: a design itself, or the only one that is linked with
+/// the loads in front.
+FormWindow* windowToCalculate(MainWindow& window) {
+    FormWindow* front = window.activeContent();
+    if (front == nullptr) return nullptr;
+    const auto* loads = dynamic_cast<const LoadsWindow*>(front->binder().form());
+    if (loads == nullptr) return front;
+    std::vector<FormWindow*> linked;
+    for (QMdiSubWindow* frame : window.area().subWindowList()) {
+        FormWindow* content = contentOf(frame);
+        const auto* design = content == nullptr
+                                 ? nullptr
+                                 : dynamic_cast<const LinkedDesign*>(content->binder().form());
+        if (design != nullptr && design->LoadsHome() == loads) linked.push_back(content);
+    }
+    return linked.size() == 1 ? linked.front() : front;
+}
+
 void calculate(MainWindow& window) {
-    FormWindow* content = window.activeContent();
-    QAbstractButton* button =
-        content == nullptr ? nullptr : buttonOf(*content, "CACalculateCommand");
-    if (button != nullptr) button->click();
+    FormWindow* content = windowToCalculate(window);
+    if (content == nullptr) return;
+    const Form& form = *content->binder().form();
+    QAbstractButton* button = buttonOf(*content, "CACalculateCommand");
+    if (button != nullptr)
+        button->click();
+    else
+        window.tell(form.text(Text::noDesignToCalculate));
 }
 
 void turnPage(MainWindow& window, int pages) {

@@ -2,6 +2,7 @@
 #include "desktop/windows/window_shelf.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
@@ -34,6 +35,12 @@ bool isModified(const Form& form) {
     const auto* design = dynamic_cast<const DesignDocument*>(&form);
     return (loads != nullptr && loads->hasUnsavedChanges()) ||
            (design != nullptr && design->isChanged());
+}
+
+/// The field that a new window begins at is typed over, as one that is reached by Tab.
+void selectFirstField(const ChildFrame& frame) {
+    auto* edit = qobject_cast<QLineEdit*>(frame.focusWidget());
+    if (edit != nullptr && edit->hasFocus()) edit->selectAll();
 }
 
 }  // namespace
@@ -122,6 +129,9 @@ void WindowShelf::openChild(ChildWindow& form) {
     // The frame measures its title with every change of its shape.
     refreshTitle(form);
     if (remembered) showPages(form, remembered->pages);
+    if (!scripted_)
+        QMetaObject::invokeMethod(
+            frame, [frame] { selectFirstField(*frame); }, Qt::QueuedConnection);
 }
 
 /// Turns to the pages that were in front, as a person does: once the window is the active one.

@@ -27,6 +27,7 @@ constexpr int opinionPercent = 2648;
 constexpr int opinionInputs = 2649;
 constexpr int opinionBuriedDepth = 2650;
 constexpr int opinionPulse = 2651;
+constexpr int opinionPulseTip = 2754;
 constexpr int opinionYears = 2652;
 constexpr int opinionCylinder = 2653;
 constexpr int opinionYear = 2654;

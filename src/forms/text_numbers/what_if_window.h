@@ -76,6 +76,7 @@ constexpr int whatIfFewerThanOne = 3667;
 constexpr int whatIfMoreThan99 = 3668;
 constexpr int whatIfAsked = 3669;
 constexpr int whatIfDrawn = 3670;
+constexpr int whatIfDrawnTip = 3797;
 constexpr int whatIfConfidence = 3671;
 constexpr int whatIfDepths = 3672;
 constexpr int whatIfOneInTen = 3673;
