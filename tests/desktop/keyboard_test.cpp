@@ -219,7 +219,7 @@ TEST_F(ByKeyboard, BeginsAtTheChosenOptionOfAWindow) {
 }
 
 TEST_F(ByKeyboard, TypesOverTheFieldThatANewWindowBeginsAt) {
-    opened("NewBorehole").click("CASecondOpinionCommand");
+    desk.opened("NewBorehole").click("CASecondOpinionCommand");
     Desk::settle();
     const auto* edit = qobject_cast<QLineEdit*>(QApplication::focusWidget());
     ASSERT_NE(edit, nullptr);

@@ -123,6 +123,7 @@ TEST_F(PumpSelectionTest, AutoSelectAllServesEveryZoneAndKeepsTheSelection) {
     window.choose("LOZoneList", 1);
     window.click("LOCustomPumpCheck");
     setSaved(window, "a.zon");
+    platform.told.clear();
     texts.known[Text::pumpsSelected] = "Pumps for %1 zones.";
     window.click("LOAutoSelectAllCommand");
     EXPECT_EQ(pumpOf(0).name, "Air-10");
