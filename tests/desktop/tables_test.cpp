@@ -371,6 +371,9 @@ TEST_F(ZoneColumnsTest, BringAClickedZoneIntoSightBelowTheSummary) {
     EXPECT_FALSE(widget("LOZoneReferenceText").visibleRegion().isEmpty());
     EXPECT_FALSE(widget("LOGainsText(0)").visibleRegion().isEmpty());
     EXPECT_TRUE(loads->control("LOSummaryPicture").visible()) << "it stays as it was left";
+    loads->click("LOSummaryCommand");
+    Desk::settle();
+    EXPECT_FALSE(widget("LOZoneReferenceText").visibleRegion().isEmpty());
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // The controls around the pages, in their reading order.
 #include "catalogue/editor/editor_names.h"
 #include "catalogue/editor/frmHPEdit.h"
+#include "forms/text_numbers/editor_messages.h"
 #include "forms/text_numbers/heat_pump_editor.h"
 #include "forms/text_numbers/loads.h"
 #include "frame/varnmain.h"
@@ -137,6 +138,7 @@ void frmHPEdit::hookCommands() {
     onClick("RemoveCommand", [this] { RemoveCommand_Click(); });
     onClick("ReorderCommand", [this] { ReorderCommand_Click(); });
     onClick("ClearCommand", [this] { ClearCommand_Click(); });
+    onClick("SummaryCommand", [this] { platform().tell(text(Text::noPumpSummary)); });
     onClick("SaveCommand", [this] { SaveCommand_Click(); });
     onClick("EditSeriesCommand", [this] { EditSeriesCommand_Click(); });
     onClick("DeleteSeriesCommand", [this] { DeleteSeriesCommand_Click(); });

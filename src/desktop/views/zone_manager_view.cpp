@@ -163,6 +163,7 @@ QWidget* zonesPage(Binder& bind) {
         column(firstZone(bind, Text::noZonesYet), grow(summary(bind)), zonePanel(bind)));
     QWidget* list = zoneList(bind);
     showClickedZones(bind);
+    revealWhenClosed(bind.frame("LOSummaryPicture"), bind.frame("LOZoneFrame"));
     return column(grow(besidePage(list, zone, listPart)));
 }
 

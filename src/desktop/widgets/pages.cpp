@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -65,21 +66,25 @@ class Roomy : public QWidget {
     QSize least_;
 };
 
+/// Scrolls to one part of a page when a panel of it opens or closes.
 class Revealer : public QObject {
  public:
-    explicit Revealer(QWidget* panel) : QObject(panel), panel_(panel) {
+    Revealer(QWidget* panel, QEvent::Type when, QWidget* part)
+        : QObject(panel), when_(when), part_(part) {
         panel->installEventFilter(this);
     }
     bool eventFilter(QObject* watched, QEvent* event) override {
         // The page takes its new size first.
-        if (event->type() == QEvent::ShowToParent)
-            QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+        if (event->type() == when_) QCoreApplication::postEvent(this, new QEvent(QEvent::User));
         return QObject::eventFilter(watched, event);
     }
-    void customEvent(QEvent*) override { reveal(panel_); }
+    void customEvent(QEvent*) override {
+        if (part_ != nullptr) reveal(part_);
+    }
 
  private:
-    QWidget* panel_;
+    QEvent::Type when_;
+    QPointer<QWidget> part_;
 };
 
 }  // namespace
@@ -132,6 +137,10 @@ void reveal(const QWidget* panel) {
     area->ensureVisible(place.left(), place.top(), 0, gridStep);
 }
 
-void revealWhenOpened(QWidget* panel) { new Revealer(panel); }
+void revealWhenOpened(QWidget* panel) { new Revealer(panel, QEvent::ShowToParent, panel); }
+
+void revealWhenClosed(QWidget* panel, QWidget* instead) {
+    new Revealer(panel, QEvent::HideToParent, instead);
+}
 
 }  // namespace varnholt

@@ -33,4 +33,7 @@ void reveal(const QWidget* panel);
 /// Scrolls a panel into sight when it opens.
 void revealWhenOpened(QWidget* panel);
 
+/// Scrolls to another part of the page when a panel closes, which leaves the page anywhere.
+void revealWhenClosed(QWidget* panel, QWidget* instead);
+
 }  // namespace varnholt

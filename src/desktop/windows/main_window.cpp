@@ -194,6 +194,8 @@ QWidget* MainWindow::newNotice() {
     notice_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* close = new QPushButton(qt(main_.text(Text::closeNotice)));
     close->setAutoDefault(false);
+    // Pressed by the mouse it leaves the keyboard where one works.
+    close->setFocusPolicy(Qt::TabFocus);
     connect(close, &QPushButton::clicked, this, [this] {
         main_.setNotice({});
         refresh();

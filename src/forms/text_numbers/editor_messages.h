@@ -37,6 +37,7 @@ constexpr int pumpsNotWritten = 4526;
 
 // Its notices.
 constexpr int noticeStaleCurves = 4530;
+constexpr int noPumpSummary = 4535;
 constexpr int noticeFitAction = 4531;
 constexpr int noticeSavedStale = 4532;
 constexpr int noticeManyPumps = 4533;

@@ -141,12 +141,13 @@ TEST_F(EditorPumps, AreClearedAfterAQuestion) {
     EXPECT_EQ(shown(window, "HeatingEWTText(0)"), "35.0");
 }
 
-TEST_F(EditorPumps, HaveASummaryThatDoesNothing) {
+TEST_F(EditorPumps, HaveASummaryThatOnlySaysThatThereIsNone) {
     frmHPEdit& window = opened();
     EXPECT_EQ(control(window, "SummaryCommand").caption(), "[4206]");
     EXPECT_EQ(control(window, "SummaryCommand").tooltip(), "[4206]");
     window.click("SummaryCommand");
     EXPECT_TRUE(platform.messages.empty());
+    EXPECT_EQ(platform.told, std::vector<std::string>{"[4535]"});
     EXPECT_FALSE(enabled(window, "SaveCommand"));
 }
 
