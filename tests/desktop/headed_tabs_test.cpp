@@ -116,7 +116,8 @@ TEST(HeadedWindows, HaveTheirUnitsBesideTheTabsWhereThereIsRoom) {
     FormWindow window(*desk.main().activeWindow(), views.maker(), {});
     const auto* tabs = static_cast<QTabWidget*>(window.binder().widget("BHTabs"));
     const auto tabsTop = [&] { return tabs->tabBar()->mapTo(&window, QPoint(0, 0)).y(); };
-    EXPECT_LE(unitsIn(window, 683).bottom(), tabsTop());
+    const QRect narrow = unitsIn(window, 683);
+    EXPECT_LE(narrow.bottom(), tabsTop());
     const QRect wide = unitsIn(window, 1300);
     EXPECT_GT(wide.bottom(), tabsTop());
     EXPECT_LE(wide.bottom(), tabsTop() + tabs->tabBar()->height());

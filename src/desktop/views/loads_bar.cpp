@@ -70,7 +70,7 @@ QWidget* loadsWindow(Binder& bind, QWidget* pages) {
         bar(commands),
         grow(headedTabs(bind, pages, {bind.widget("LOWorkingZoneLabel"), linkLights(bind)})));
     window->layout()->setSpacing(gridStep / 2);
-    return roomy(window, {1216, 700});
+    return roomy(window, {152 * gridStep, 700});
 }
 
 QWidget* zoneList(Binder& bind) {

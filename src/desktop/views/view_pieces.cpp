@@ -27,6 +27,21 @@ QWidget* light(Binder& bind, const std::string& image, LinkPartner partner) {
     return lamp;
 }
 
+/// Of a line with a notice in it, whether that tells something now or not, in pixels. Counted from
+/// the pieces, since a line does not yet know of a piece that comes or goes.
+int leastWithNotice(QLayout& line, const NoticeBar& notice) {
+    const QMargins around = line.contentsMargins();
+    int least = around.left() + around.right() - line.spacing();
+    for (int i = 0; i < line.count(); ++i) {
+        QLayoutItem& piece = *line.itemAt(i);
+        if (piece.widget() == &notice)
+            least += notice.leastWithText() + line.spacing();
+        else if (!piece.isEmpty())
+            least += piece.minimumSize().width() + line.spacing();
+    }
+    return least;
+}
+
 }  // namespace
 
 QWidget* ifAny(Binder& bind, const std::string& name) {
@@ -93,10 +108,7 @@ QWidget* headedTabs(Binder& bind, QWidget* pages, const std::vector<QWidget*>& e
     auto* around = new QWidget;
     auto* layout = new HeadedTabsLayout(around, line, static_cast<QTabWidget*>(pages));
     // The bar keeps its place when the notice comes.
-    layout->barNeeds = [line, notice] {
-        return line->minimumSizeHint().width() - notice->minimumSizeHint().width() +
-               notice->leastWithText();
-    };
+    layout->barNeeds = [line, notice] { return leastWithNotice(*line->layout(), *notice); };
     layout->onTurned = [line, metric](bool beside) {
         auto* row = static_cast<QHBoxLayout*>(line->layout());
         row->setContentsMargins(2 * gridStep, beside ? 0 : gridStep / 2, 2 * gridStep, 0);

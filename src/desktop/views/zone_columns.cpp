@@ -73,6 +73,24 @@ class LoadBars : public QStyledItemDelegate {
     }
 };
 
+/// Zones with a sign where something is to be checked. Their rows are no higher for it, so that
+/// they stay where they are when it comes or goes.
+class SignedZones : public QStyledItemDelegate {
+ public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QStyleOptionViewItem plain = option;
+        initStyleOption(&plain, index);
+        plain.features &= ~QStyleOptionViewItem::HasDecoration;
+        const int height =
+            plain.widget->style()
+                ->sizeFromContents(QStyle::CT_ItemViewItem, &plain, QSize(), plain.widget)
+                .height();
+        return {QStyledItemDelegate::sizeHint(option, index).width(), height};
+    }
+};
+
 /// What the columns say of the zones.
 class ZoneColumns {
  public:
@@ -148,7 +166,6 @@ QStringList headsOf(const Binder& bind) {
 
 void addColumns(Binder& bind, ListView& list) {
     const auto columns = std::make_shared<ZoneColumns>(bind);
-    // No higher than the words, so that the rows stay where they are when a sign comes or goes.
     const int sign = list.fontMetrics().ascent();
     list.setIconSize({sign, sign});
     // Numbers are seen whole; loads are bars, which need little.
@@ -157,6 +174,7 @@ void addColumns(Binder& bind, ListView& list) {
          [columns](int row, int column, int role) { return columns->data(row, column, role); },
          [columns](int row) { return columns->shown(row); },
          {{0, 0}, {11, 5}, {6, 1}, {8, 1}}});
+    list.setItemDelegateForColumn(numberColumn, new SignedZones(&list));
     list.setItemDelegateForColumn(loadColumn, new LoadBars(&list));
     list.setCells({[&list](int row) {
                        QStringList cells;

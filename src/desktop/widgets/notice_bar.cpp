@@ -44,9 +44,12 @@ NoticeBar::NoticeBar(QLabel* text, QAbstractButton* action)
     follow();
 }
 
+/// Counted from the pieces: while a text goes, the row still holds the room that it had.
 int NoticeBar::leastWithText() const {
-    const int least = minimumSizeHint().width();
-    return text_->isHidden() ? least + text_->minimumWidth() + layout()->spacing() : least;
+    const QMargins around = contentsMargins() + layout()->contentsMargins();
+    const int pieces =
+        signSize + text_->minimumWidth() + layout()->itemAt(2)->minimumSize().width();
+    return around.left() + around.right() + pieces + 2 * layout()->spacing();
 }
 
 void NoticeBar::drawSign() {
