@@ -131,6 +131,18 @@ TEST_F(NoticeLine, MovesNoFieldWhenItComesAndGoes) {
     EXPECT_EQ(place(), before);
 }
 
+/// Its reason takes a second line beside what is told of older results.
+TEST_F(NoticeLine, MovesNoFieldWhenAValueIsRefused) {
+    calculate();
+    const auto place = [this] { return temperature().mapTo(desk.window.get(), QPoint()); };
+    const QPoint before = place();
+    type("500");
+    ASSERT_TRUE(bar().isVisible());
+    const auto* told = static_cast<QLabel*>(&widget("NoticeLabel"));
+    EXPECT_GE(told->heightForWidth(told->width()), 2 * told->fontMetrics().height());
+    EXPECT_EQ(place(), before);
+}
+
 TEST_F(NoticeLine, IsToldToAScreenReaderOnceForEachNewText) {
     std::vector<std::string> heard;
     bar().tell = [&heard](QAccessibleEvent& event) {

@@ -31,12 +31,16 @@ NoticeBar::NoticeBar(QLabel* text, QAbstractButton* action)
     setObjectName(QStringLiteral("noticeBar"));
     wrapped(text);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(gridStep, 2, 2, 2);
+    row->setContentsMargins(gridStep, 1, 1, 1);
     row->addWidget(sign_);
     row->addWidget(text, 1);
     row->addWidget(action);
     keepPlace(*this);
     keepPlace(*action);
+    // A reason in two lines comes and goes with every refused value, and nothing is to jump for it.
+    constexpr int edge = 1;
+    const QMargins around = row->contentsMargins();
+    setMinimumHeight(2 * (text->fontMetrics().height() + edge) + around.top() + around.bottom());
     // As high as a field: the pages are to have the height.
     action->setProperty("inTable", true);
     sign_->setFixedSize(signSize, signSize);
