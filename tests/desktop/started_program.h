@@ -35,10 +35,9 @@ class StartedProgram {
         environment.insert(QStringLiteral("XDG_CACHE_HOME"),
                            QString::fromStdString(temporary_.path()));
         // What the address sanitizer keeps apart after its release would count as in use.
-        environment.insert(
-            QStringLiteral("ASAN_OPTIONS"),
-            environment.value(QStringLiteral("ASAN_OPTIONS")) +
-                QStringLiteral(":quarantine_size_mb=1:thread_local_quarantine_size_kb=64"));
+        add(environment, "ASAN_OPTIONS",
+            ":quarantine_size_mb=1:thread_local_quarantine_size_kb=64");
+        if (options.contains(QStringLiteral("web"))) leaveTheWebEngineAlone(environment);
         process_.setProcessEnvironment(environment);
         // Whoever runs the tests in the background ignores this signal, and what they start too.
         process_.setChildProcessModifier([] { ::signal(SIGINT, SIG_DFL); });
@@ -117,6 +116,19 @@ class StartedProgram {
     }
 
  private:
+    /// More options of a sanitizer, which reads them behind a colon.
+    static void add(QProcessEnvironment& environment, const char* name, const char* options) {
+        const QString key = QString::fromLatin1(name);
+        environment.insert(key, environment.value(key) + QString::fromLatin1(options));
+    }
+    /// Faults of the web engine's own library are none of the program's.
+    static void leaveTheWebEngineAlone(QProcessEnvironment& environment) {
+        add(environment, "ASAN_OPTIONS", ":new_delete_type_mismatch=0");
+        add(environment, "LSAN_OPTIONS",
+            ":print_suppressions=0:suppressions=" VARNHOLT_SOURCE_DIR
+            "/tests/leaks_of_libraries.txt");
+    }
+
     std::string ofSystem(const std::string& file) const {
         return wholeFile("/proc/" + std::to_string(process_.processId()) + "/" + file);
     }
