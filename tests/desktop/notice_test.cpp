@@ -52,6 +52,8 @@ class NoticeLine : public testing::Test {
         QTest::keyClicks(&edit, QString::fromLatin1(text));
         Desk::settle();
     }
+    /// Of the field that is typed into, in the window.
+    QPoint place() { return temperature().mapTo(desk.window.get(), QPoint()); }
     void calculate() {
         design->click("CACalculateCommand");
         Desk::settle();
@@ -120,7 +122,6 @@ TEST_F(NoticeLine, ShowsTheSignOfOlderResultsForThoseAlone) {
 
 TEST_F(NoticeLine, MovesNoFieldWhenItComesAndGoes) {
     calculate();
-    const auto place = [this] { return temperature().mapTo(desk.window.get(), QPoint()); };
     const QPoint before = place();
     type("58");
     ASSERT_TRUE(bar().isVisible());
@@ -134,7 +135,6 @@ TEST_F(NoticeLine, MovesNoFieldWhenItComesAndGoes) {
 /// Its reason takes a second line beside what is told of older results.
 TEST_F(NoticeLine, MovesNoFieldWhenAValueIsRefused) {
     calculate();
-    const auto place = [this] { return temperature().mapTo(desk.window.get(), QPoint()); };
     const QPoint before = place();
     type("500");
     ASSERT_TRUE(bar().isVisible());
